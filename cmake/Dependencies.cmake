@@ -1,0 +1,12 @@
+# The libraries we stand on, all from Debian's packages.
+find_package(SQLite3 REQUIRED)
+find_package(SQLiteCpp REQUIRED)
+find_package(fmt REQUIRED)
+find_package(nlohmann_json REQUIRED)
+find_package(CLI11 REQUIRED)
+if(VESTREL_TESTS)
+  find_package(GTest REQUIRED)
+endif()
+if(VESTREL_BENCH)
+  find_package(benchmark REQUIRED)
+endif()

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/values/Currency.h"
+#include "platform/values/Date.h"
+
+namespace core {
+
+/// One row that the bring-up-to-date run posted.
+struct PostedRow {
+    platform::Date date;
+    std::string_view category;
+    platform::Currency amount;
+};
+
+/// Who hears what the bring-up-to-date run did, as it happens. What is told was kept: rows are
+/// told after the unit of work that wrote them is committed.
+class RunListener {
+  public:
+    virtual ~RunListener() = default;
+
+    /// Rows posted for one record: its kind, id and description, and the rows in their order.
+    virtual void Posted(int recordKind, std::int32_t id, std::string_view description,
+                        const std::vector<PostedRow>& rows) = 0;
+    /// A record that the run passed over, by its description, and why. Its books are as before.
+    virtual void Failed(int recordKind, std::int32_t id, std::string_view description,
+                        std::string_view reason) = 0;
+};
+
+/// The steps of the run, in the only order they run in.
+enum class RunStep { ScheduledEvents, Mortgages, Leases };
+
+using RunStepFunction = std::function<void(RunListener&)>;
+
+/// Gives a step its work; without one the step is empty.
+void RegisterRunStep(RunStep step, RunStepFunction work);
+
+/// Makes the books current: scheduled events, then mortgages, then leases. A step that fails as a
+/// whole is told to the listener (kind 0) and the next one runs.
+void UpdateRecords(RunListener& listener);
+/// The same with nobody listening.
+void UpdateRecords();
+
+}  // namespace core

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+#include "platform/database/Connection.h"
+
+namespace core {
+
+/// What the whole process shares, set once by InitGlobals unless told otherwise.
+struct Globals {
+    /// Directory of the program's files, with a trailing separator.
+    std::string AppPath;
+    std::string ReportPath;
+    std::string SysReportName = "SysReport";
+    std::string HelpFile;
+    /// Whether the read-only reference tables stand beside the program.
+    bool HasReferences = false;
+    std::int32_t SecurityLevel = 1;
+    std::string UserName = "Administrator";
+    std::int16_t DbVersionRequired = 9;
+
+    /// Name of the registry value that holds the database directory.
+    std::string DbName = "Default";
+    /// Database directory and file; empty until FindDatabase.
+    std::string DbPath;
+    std::string DbFile;
+    /// The session: opened at start, closed at shut-down, and no other.
+    platform::Connection Connection;
+
+    /// Where diagnostic lines go; null while the log is off.
+    std::ostream* DiagFile = nullptr;
+
+    bool Expert = false;
+    bool SwitchDiag = false;
+    bool SwitchNoDb = false;
+    bool SwitchUpgradeDb = false;
+    std::string LoadFile;
+    std::string AppStart;
+};
+
+/// The one instance of this process.
+Globals& App();
+
+inline constexpr std::array<std::string_view, 3> TaxClasses = {"Income", "Expenses",
+                                                               "Unclassified"};
+
+/// Sets the paths from where the program stands, then reads the switches of `commandLine` (the text
+/// behind the program's name) and makes the directories.
+void InitGlobals(std::string_view commandLine);
+
+/// Reads "/name=value" switches; unknown ones are skipped.
+void ParseCommandLine(std::string_view commandLine);
+
+/// Makes the program's directories; one that exists or can't be made is passed over.
+void MakeDirectories();
+
+}  // namespace core

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/database/Connection.h"
+#include "platform/database/Recordset.h"
+
+namespace core {
+
+// The database session. Every operation here keeps its failures to itself and answers with False,
+// -1, 0 or an unchanged output, unless it says otherwise; whoever must know the reason talks to the
+// connection itself.
+
+/// Opens `path`, or the process's database when it is empty (then `path` is set to its file).
+bool OpenDatabase(platform::Connection& connection, std::string& path);
+bool CloseDatabase(platform::Connection& connection);
+
+/// Runs one statement on the process's connection.
+bool ExecuteSql(std::string_view sql);
+
+enum class Access { ReadOnly, ReadWrite };
+
+/// Opens `rows` on a select (or on a table's bare name) and answers the number of rows; -1 on any
+/// failure. The count has 16 bits: past 32767 rows it answers -1 too, yet the row set stands open
+/// and knows its true count.
+std::int16_t OpenRecordset(platform::Recordset& rows, std::string_view sql, Access access,
+                           std::initializer_list<platform::Value> parameters = {});
+/// Opens a table to add rows to it, without fetching any.
+bool OpenTableToAppend(platform::Recordset& rows, std::string_view table);
+void CloseRecordset(platform::Recordset& rows);
+
+/// Rows of a table; 0 on failure.
+std::int32_t CountTable(std::string_view table);
+/// Rows that meet `where` (without the word WHERE, may be empty); 0 on failure.
+std::int32_t CountRecords(std::string_view table, std::string_view where);
+
+/// Reads the column `Result` of the first row into `value`, which stays as it was without a row or
+/// on failure.
+void GetScalar(std::string_view sql, platform::Value& value);
+
+bool TableExists(std::string_view table);
+/// Whether the table has every one of these fields.
+bool FieldsExist(std::string_view table, std::span<const std::string> names);
+
+struct TableTotals {
+    std::int32_t tables = 0;
+    std::int32_t fields = 0;
+    std::int32_t records = 0;
+    std::vector<std::string> names;
+};
+/// The tables of an open database, and the sums of their fields and rows.
+TableTotals ListTables(platform::Connection& connection);
+
+/// A new record identifier, unique in the whole database. A failure is thrown on.
+std::int32_t NextId();
+/// The first of `count` consecutive new identifiers, for a routine that writes many rows at once.
+std::int32_t NextIds(std::int32_t count);
+
+/// Appends a condition to `sql`: with WHERE, or with AND where the word occurs already.
+void AddWhere(std::string& sql, std::string_view condition);
+
+/// Gives every null of the current row the empty value of its type (0, False or an empty text;
+/// 16-bit integers and dates stay null); true if there was one. Each is told to `diagFile` unless
+/// that is null. The caller writes the row.
+bool RepairNulls(platform::Recordset& rows, std::ostream* diagFile);
+
+}  // namespace core

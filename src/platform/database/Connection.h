@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/database/dialect/Catalog.h"
+#include "platform/values/Errors.h"
+#include "platform/values/Value.h"
+
+namespace platform {
+
+enum class OpenMode { ReadWrite, ReadOnly, Create };
+
+class PreparedStatement;
+
+/// One open database file, spoken to in the program's SQL dialect. Every failure is a DatabaseError
+/// (a DialectError where the statement has a fault), and leaves the data as before the call.
+///
+/// Statements are kept compiled, so saying the same text again with other parameters is cheap.
+class Connection {
+  public:
+    Connection();
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    /// Opens an existing database; Create makes the file (private to the user), and fails if it is
+    /// there. An open connection is closed first.
+    void Open(const std::filesystem::path& file, OpenMode mode = OpenMode::ReadWrite);
+    /// Nothing when it isn't open.
+    void Close();
+    bool IsOpen() const;
+    const std::filesystem::path& File() const;
+
+    /// Runs one statement, with a value for each `?` in it. The number of rows affected (0 for a
+    /// select, whose rows are dropped).
+    std::int64_t Execute(std::string_view sql, std::span<const Value> parameters = {});
+    std::int64_t Execute(std::string_view sql, std::initializer_list<Value> parameters);
+
+    /// The first column of the first row; nothing without a row.
+    std::optional<Value> Scalar(std::string_view sql, std::span<const Value> parameters = {});
+    std::optional<Value> Scalar(std::string_view sql, std::initializer_list<Value> parameters);
+
+    /// The tables and their fields as the file declares them.
+    const dialect::Catalog& Tables();
+
+    /// Runs statements of the engine's own SQL: for the schema alone.
+    void RunScript(std::string_view script);
+
+    /// True between the begin and the end of a unit of work.
+    bool InUnitOfWork() const;
+
+  private:
+    friend class Recordset;
+    friend class UnitOfWork;
+    struct Engine;
+    std::unique_ptr<Engine> engine_;
+};
+
+/// What happens between construction and Commit is kept whole or not at all, also when the machine
+/// stops: without Commit, destruction takes everything back. One inside another is a part of it
+/// that can be taken back by itself.
+class UnitOfWork {
+  public:
+    explicit UnitOfWork(Connection& connection);
+    ~UnitOfWork();
+    UnitOfWork(const UnitOfWork&) = delete;
+    UnitOfWork& operator=(const UnitOfWork&) = delete;
+
+    void Commit();
+
+  private:
+    Connection& connection_;
+    bool open_ = true;
+    int level_ = 0;
+};
+
+}  // namespace platform

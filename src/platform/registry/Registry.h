@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// The machine's settings: values of text or 32-bit number under keys such as
+/// "SOFTWARE\Vestrel\Global\Preferences". Keys and names compare without regard to case.
+class Registry {
+  public:
+    virtual ~Registry() = default;
+
+    /// Nothing when the value is missing, of the other type, or the store can't be read.
+    virtual std::optional<std::string> ReadText(std::string_view key, std::string_view name) = 0;
+    virtual std::optional<std::int32_t> ReadNumber(std::string_view key, std::string_view name) = 0;
+
+    /// False when the store can't be written; it is then as before.
+    virtual bool WriteText(std::string_view key, std::string_view name, std::string_view value) = 0;
+    virtual bool WriteNumber(std::string_view key, std::string_view name, std::int32_t value) = 0;
+};
+
+/// The registry kept as JSON in `file`: read afresh before each write, replaced in one step, private
+/// to the user. A damaged file reads as empty and is put aside ("registry.json.damaged") before the
+/// first write replaces it.
+std::unique_ptr<Registry> OpenJsonRegistry(std::filesystem::path file);
+
+/// The registry in memory alone, for tests.
+std::unique_ptr<Registry> MakeMemoryRegistry();
+
+/// The registry of this process: `registry.json` below the configuration home until SetRegistry
+/// puts another in its place (null puts the file back).
+Registry& TheRegistry();
+void SetRegistry(std::unique_ptr<Registry> registry);
+
+}  // namespace platform

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// A path as the settings hold it ends in a separator where it names a directory. Both "/" and "\"
+// are taken for separators when one is looked for; the machine's own is the one appended.
+
+/// `path` with the separator appended if its last character isn't one.
+std::string AddBackslash(std::string_view path);
+
+/// The text up to and including the last separator; as it stands if it ends in one, empty if it
+/// holds none.
+std::string PathOf(std::string_view file);
+
+/// True when a file or directory of this trimmed name exists; false on any failure or for an empty
+/// name.
+bool FileExists(std::string_view path);
+
+/// The full path of the running executable.
+std::filesystem::path ExecutablePath();
+
+/// `$XDG_CONFIG_HOME` or its default, and `$XDG_DATA_HOME` or its default.
+std::filesystem::path ConfigHome();
+std::filesystem::path DataHome();
+
+/// Deletes the files of `directory` whose names match `pattern` (`*` and `?`, without regard to
+/// case). Directories stay; failures are ignored.
+void DeleteMatching(const std::filesystem::path& directory, std::string_view pattern);
+
+/// Replaces `file` by `contents` in one step, so that a reader sees the old or the new text whole;
+/// `mode` is its permission bits. An Error with the reason on failure, the old file untouched.
+void WriteFileAtomically(const std::filesystem::path& file, std::string_view contents,
+                         std::filesystem::perms mode = std::filesystem::perms::owner_read |
+                                                       std::filesystem::perms::owner_write);
+
+/// The whole file. An Error with the reason on failure.
+std::string ReadWholeFile(const std::filesystem::path& file);
+
+}  // namespace platform

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/values/Currency.h"
+
+namespace platform {
+
+// Conversions that tolerate empty input: a blank text is 0. Any other text converts as numbers are
+// written by people: blanks around it, a sign, thousands commas, a leading "$", parentheses for
+// negative, an exponent. Junk is a ConversionError, a number too large an OverflowError.
+// Fractions round half to even where a whole number is asked for.
+double StrToDouble(std::string_view text);
+float StrToSingle(std::string_view text);
+std::int16_t StrToInt16(std::string_view text);
+std::int32_t StrToInt32(std::string_view text);
+/// Exact to four decimals, further ones rounded half to even. Alone of them, it gives 0 for junk.
+Currency StrToMoney(std::string_view text);
+/// True for "TRUE" in any case, otherwise false.
+bool StrToBool(std::string_view text);
+
+// The strict forms that those rest on: nothing for a blank text or junk.
+std::optional<double> TryParseNumber(std::string_view text);
+std::optional<Currency> TryParseMoney(std::string_view text);
+
+/// The shortest decimal form that reads back as the same number; no exponent below 1e15.
+std::string NumberToText(double number);
+/// At least no, at most four decimals: "1234.5".
+std::string MoneyToText(Currency amount);
+/// Always four decimals, no thousands: "1234.5000".
+std::string MoneyToFixedText(Currency amount);
+
+}  // namespace platform

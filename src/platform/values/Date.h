@@ -1,0 +1,59 @@
+#pragma once
+
+#include <chrono>
+#include <compare>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// A calendar day of the years 100 to 9999, or unset. An unset date sorts before every day.
+class Date {
+  public:
+    /// Unset.
+    constexpr Date() = default;
+    /// The day itself; a day that no calendar holds (2/30) is a ConversionError.
+    Date(int year, unsigned month, unsigned day);
+
+    /// Reads "mm/dd/yyyy" (leading zeros may be missing). Nothing for a text that is no day;
+    /// a blank text is no day either.
+    static std::optional<Date> TryParse(std::string_view text);
+    /// As TryParse; a blank text is the unset date, any other text that is no day a ConversionError.
+    static Date Parse(std::string_view text);
+    /// The day whose serial number this is; see Serial.
+    static Date FromSerial(int serial);
+
+    constexpr bool IsSet() const { return serial_ != kUnset; }
+    int Year() const;
+    unsigned Month() const;
+    unsigned Day() const;
+    /// 1 Sunday to 7 Saturday.
+    unsigned Weekday() const;
+
+    /// Days since 12/30/1899, the number that the SQL dialect reckons dates by.
+    /// A ConversionError for the unset date, like every reading but IsSet and ToText.
+    int Serial() const;
+
+    /// "mm/dd/yyyy", empty when unset.
+    std::string ToText() const;
+
+    friend constexpr auto operator<=>(Date, Date) = default;
+
+  private:
+    static constexpr int kUnset = -2'147'483'647;
+    int serial_ = kUnset;
+};
+
+enum class Interval { Day, Week, Month, Year };
+
+/// The day `count` intervals later (earlier when negative). Month and year steps keep the day of
+/// the month and clamp it to the last day of a shorter month. Leaving the calendar is an
+/// OverflowError, an unset date a ConversionError.
+Date DateAdd(Interval interval, int count, Date date);
+
+/// How many interval boundaries lie between two days, negative when `to` is earlier: days, whole
+/// weeks of seven days, changes of the calendar month, changes of the calendar year.
+int DateDiff(Interval interval, Date from, Date to);
+
+}  // namespace platform

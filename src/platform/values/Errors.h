@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+
+namespace platform {
+
+/// What every failure that the program foresees is thrown as; `what()` is one line for a person.
+class Error : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A text that is no number, amount or day, or a value read as what it is not.
+class ConversionError : public Error {
+  public:
+    using Error::Error;
+};
+
+/// A number that does not fit where it is to go.
+class OverflowError : public Error {
+  public:
+    using Error::Error;
+};
+
+/// A field that is missing from a row set, or holds what was not asked for; the text names it.
+class FieldError : public Error {
+  public:
+    using Error::Error;
+};
+
+/// A database that can't be opened, or a statement that failed while it ran.
+class DatabaseError : public Error {
+  public:
+    explicit DatabaseError(const std::string& text, int code = 0) : Error(text), code_(code) {}
+    /// The engine's number of the failure, 0 where it has none.
+    int Code() const { return code_; }
+
+  private:
+    int code_;
+};
+
+/// A row that has gone or was changed by somebody else since it was read.
+class ConflictError : public DatabaseError {
+  public:
+    using DatabaseError::DatabaseError;
+};
+
+/// A statement that does not compile.
+class DialectError : public DatabaseError {
+  public:
+    /// `position` is the 0-based offset of the fault in the statement's text; the text of the error
+    /// already tells the place.
+    DialectError(const std::string& text, std::size_t position)
+        : DatabaseError(text), position_(position) {}
+    std::size_t Position() const { return position_; }
+
+  private:
+    std::size_t position_;
+};
+
+}  // namespace platform

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/values/Currency.h"
+#include "platform/values/Date.h"
+#include "platform/values/Value.h"
+
+namespace platform {
+
+/// How money is shown everywhere.
+inline constexpr std::string_view kMoneyFormat = "#,###.00;(#,###.00);0.00;0.00";
+inline constexpr std::string_view kDateFormat = "mm/dd/yyyy";
+
+/// A number by a number format: `0` a digit always shown, `#` one shown where it matters, `,`
+/// between digits groups by thousands, `.` the decimal point, `%` times 100, anything in quotes or
+/// not of the format as it stands; sections for positive, negative, zero and null parted by `;`.
+/// Halves round away from zero on the exact decimal value.
+std::string FormatNumber(double number, std::string_view format);
+std::string FormatNumber(Currency amount, std::string_view format);
+
+/// A day by a date format of m, mm, mmm, mmmm, d, dd, ddd, dddd, yy, yyyy. Empty for the unset date.
+std::string FormatDate(Date date, std::string_view format);
+
+/// Any value by a format: numbers and money by a number format, dates by a date format, a text that
+/// reads as a number or a day likewise, other text as it stands; null by the fourth section, else
+/// empty. An empty format gives the value's text.
+std::string Format(const Value& value, std::string_view format);
+
+/// Money as it is shown everywhere: "1,234.50", "(5.00)", "0.00".
+std::string FormatMoney(Currency amount);
+
+}  // namespace platform
