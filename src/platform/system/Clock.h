@@ -15,4 +15,4 @@ double SecondOfDay();
 /// Sets the day that Today answers from now on; nothing sets it back to the system's.
 void SetToday(std::optional<Date> day);
 
-}  // namespace platform
+} // namespace platform

@@ -40,4 +40,4 @@ void WriteFileAtomically(const std::filesystem::path& file, std::string_view con
 /// The whole file. An Error with the reason on failure.
 std::string ReadWholeFile(const std::filesystem::path& file);
 
-}  // namespace platform
+} // namespace platform

@@ -5,6 +5,10 @@
 
 namespace platform {
 
+namespace detail {
+[[noreturn]] void ThrowMoneyOverflow();
+}
+
 /// An amount of money: a 64-bit integer scaled by 10,000. Exact; what does not fit is an
 /// OverflowError, never a wrong amount. It never turns into a double by itself.
 class Currency {
@@ -16,21 +20,40 @@ class Currency {
     /// An amount from its scaled form: 12345 is 1.2345.
     static constexpr Currency FromScaled(std::int64_t scaled) { return Currency(scaled); }
     /// A whole number of units.
-    static Currency FromUnits(std::int64_t units);
-    /// The nearest amount, halves to the even last digit. NaN and infinities are an OverflowError.
+    static constexpr Currency FromUnits(std::int64_t units) { return Currency(kScale) * units; }
+    /// The nearest amount, halves to the even last digit; what counts as a half is seen on the
+    /// double times 10,000, so that 0.00005 is one though no double is exactly that. NaN and
+    /// infinities are an OverflowError.
     static Currency FromDouble(double units);
 
     constexpr std::int64_t Scaled() const { return scaled_; }
     constexpr bool IsZero() const { return scaled_ == 0; }
+    /// The nearest double.
     double ToDouble() const;
 
-    Currency operator-() const;
-    Currency& operator+=(Currency other);
-    Currency& operator-=(Currency other);
-    friend Currency operator+(Currency a, Currency b) { return a += b; }
-    friend Currency operator-(Currency a, Currency b) { return a -= b; }
-    friend Currency operator*(Currency amount, std::int64_t factor);
-    friend Currency operator*(std::int64_t factor, Currency amount) { return amount * factor; }
+    constexpr Currency operator-() const { return Currency() - *this; }
+    constexpr Currency& operator+=(Currency other) {
+        std::int64_t result = 0;
+        if (__builtin_add_overflow(scaled_, other.scaled_, &result)) detail::ThrowMoneyOverflow();
+        scaled_ = result;
+        return *this;
+    }
+    constexpr Currency& operator-=(Currency other) {
+        std::int64_t result = 0;
+        if (__builtin_sub_overflow(scaled_, other.scaled_, &result)) detail::ThrowMoneyOverflow();
+        scaled_ = result;
+        return *this;
+    }
+    friend constexpr Currency operator+(Currency a, Currency b) { return a += b; }
+    friend constexpr Currency operator-(Currency a, Currency b) { return a -= b; }
+    friend constexpr Currency operator*(Currency amount, std::int64_t factor) {
+        std::int64_t product = 0;
+        if (__builtin_mul_overflow(amount.scaled_, factor, &product)) detail::ThrowMoneyOverflow();
+        return Currency(product);
+    }
+    friend constexpr Currency operator*(std::int64_t factor, Currency amount) {
+        return amount * factor;
+    }
 
     friend constexpr auto operator<=>(Currency, Currency) = default;
 
@@ -40,4 +63,4 @@ class Currency {
     std::int64_t scaled_ = 0;
 };
 
-}  // namespace platform
+} // namespace platform

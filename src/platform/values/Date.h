@@ -16,24 +16,33 @@ class Date {
     /// The day itself; a day that no calendar holds (2/30) is a ConversionError.
     Date(int year, unsigned month, unsigned day);
 
-    /// Reads "mm/dd/yyyy" (leading zeros may be missing). Nothing for a text that is no day;
-    /// a blank text is no day either.
+    /// Reads "mm/dd/yyyy" (leading zeros may be missing, "-" may stand for "/") and "yyyy-mm-dd".
+    /// Years of one or two digits are those of 1930 to 2029. Nothing for a text that is no day; a
+    /// blank text is no day either.
     static std::optional<Date> TryParse(std::string_view text);
-    /// As TryParse; a blank text is the unset date, any other text that is no day a ConversionError.
+    /// As TryParse; a blank text is the unset date, any other text that is no day a
+    /// ConversionError.
     static Date Parse(std::string_view text);
-    /// The day whose serial number this is; see Serial.
+    /// The day whose serial number this is; see Serial. Outside the calendar an OverflowError.
     static Date FromSerial(int serial);
 
     constexpr bool IsSet() const { return serial_ != kUnset; }
-    int Year() const;
-    unsigned Month() const;
-    unsigned Day() const;
+    int Year() const { return static_cast<int>(Calendar().year()); }
+    unsigned Month() const { return static_cast<unsigned>(Calendar().month()); }
+    unsigned Day() const { return static_cast<unsigned>(Calendar().day()); }
+    /// Year, month and day at once.
+    std::chrono::year_month_day Calendar() const {
+        return std::chrono::sys_days(std::chrono::days(Serial() - kUnixSerial));
+    }
     /// 1 Sunday to 7 Saturday.
     unsigned Weekday() const;
 
     /// Days since 12/30/1899, the number that the SQL dialect reckons dates by.
     /// A ConversionError for the unset date, like every reading but IsSet and ToText.
-    int Serial() const;
+    int Serial() const {
+        if (!IsSet()) ThrowUnset();
+        return serial_;
+    }
 
     /// "mm/dd/yyyy", empty when unset.
     std::string ToText() const;
@@ -42,6 +51,12 @@ class Date {
 
   private:
     static constexpr int kUnset = -2'147'483'647;
+    static constexpr int kUnixSerial = 25'569; // of 1/1/1970
+
+    constexpr explicit Date(int serial) : serial_(serial) {}
+    [[noreturn]] static void ThrowUnset();
+    static std::optional<Date> FromParts(unsigned year, unsigned month, unsigned day);
+
     int serial_ = kUnset;
 };
 
@@ -56,4 +71,4 @@ Date DateAdd(Interval interval, int count, Date date);
 /// weeks of seven days, changes of the calendar month, changes of the calendar year.
 int DateDiff(Interval interval, Date from, Date to);
 
-}  // namespace platform
+} // namespace platform

@@ -60,4 +60,4 @@ class DialectError : public DatabaseError {
     std::size_t position_;
 };
 
-}  // namespace platform
+} // namespace platform

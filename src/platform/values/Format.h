@@ -20,7 +20,8 @@ inline constexpr std::string_view kDateFormat = "mm/dd/yyyy";
 std::string FormatNumber(double number, std::string_view format);
 std::string FormatNumber(Currency amount, std::string_view format);
 
-/// A day by a date format of m, mm, mmm, mmmm, d, dd, ddd, dddd, yy, yyyy. Empty for the unset date.
+/// A day by a date format of m, mm, mmm, mmmm, d, dd, ddd, dddd, yy, yyyy. Empty for the unset
+/// date.
 std::string FormatDate(Date date, std::string_view format);
 
 /// Any value by a format: numbers and money by a number format, dates by a date format, a text that
@@ -31,4 +32,4 @@ std::string Format(const Value& value, std::string_view format);
 /// Money as it is shown everywhere: "1,234.50", "(5.00)", "0.00".
 std::string FormatMoney(Currency amount);
 
-}  // namespace platform
+} // namespace platform

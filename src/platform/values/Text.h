@@ -20,4 +20,4 @@ bool ContainsIgnoringCase(std::string_view text, std::string_view part);
 /// The first `count` characters (not bytes) of UTF-8 text.
 std::string LeftCharacters(std::string_view text, std::size_t count);
 
-}  // namespace platform
+} // namespace platform

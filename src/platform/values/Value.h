@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 
 #include "platform/values/Currency.h"
@@ -12,11 +13,11 @@ namespace platform {
 
 /// The kind of a database field, by the numbers that screens and the repair of nulls know it by.
 enum class FieldType : std::int16_t {
-    Integer = 2,  ///< 16 bits
-    Long = 3,     ///< 32 bits
+    Integer = 2, ///< 16 bits
+    Long = 3,    ///< 32 bits
     Double = 5,
     Currency = 6,
-    Date = 7,  ///< only ever computed: stored dates are text
+    Date = 7, ///< only ever computed: stored dates are text
     Boolean = 11,
     Text = 202,
     Memo = 203,
@@ -45,14 +46,16 @@ class Value {
     bool IsBlank() const;
 
     // Readings convert as the field types convert: a number from a text that is one, a text from
-    // anything. A null, or a text that does not convert, is a ConversionError; a number out of
-    // range an OverflowError; halves round to even.
+    // anything; True counts as 1, a date as its serial number. A null, or a text that does not
+    // convert, is a ConversionError; a number out of range an OverflowError; halves round to even.
+    /// Any number but 0 is true; of texts only "True", "False" and numbers convert.
     bool AsBoolean() const;
     std::int16_t AsInteger() const;
     std::int32_t AsLong() const;
     double AsDouble() const;
     Currency AsCurrency() const;
-    /// A text that is a day, or a date; a blank text is the unset date.
+    /// A text that is a day, a date, or the serial number of one (its whole part); a blank text is
+    /// the unset date.
     Date AsDate() const;
     /// Numbers in their shortest form, booleans "True" and "False", dates "mm/dd/yyyy".
     std::string AsText() const;
@@ -61,9 +64,8 @@ class Value {
     Value ConvertTo(FieldType type) const;
 
     /// The stored form as it is, for code that acts by kind.
-    using Data =
-        std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, Currency, Date,
-                     std::string>;
+    using Data = std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, Currency,
+                              Date, std::string>;
     const Data& Held() const { return data_; }
 
     /// Same kind and same value; texts by their letters exactly.
@@ -73,4 +75,4 @@ class Value {
     Data data_;
 };
 
-}  // namespace platform
+} // namespace platform
