@@ -1,0 +1,116 @@
+// The bring-up-to-date run of leases against plain C calls of the engine that do the same writing.
+#include <algorithm>
+#include <filesystem>
+
+#include <fmt/core.h>
+
+#include "BenchBooks.h"
+#include "Measure.h"
+#include "PlainEngine.h"
+#include "support/TemporaryFolder.h"
+
+namespace {
+
+using bench::Cost;
+using platform::Date;
+
+const Date kFirstDue(2024, 1, 1);
+const Date kYearLater(2024, 12, 31);
+
+/// Each work three times, on new books each time; the quickest counts.
+template <class Once>
+Cost BestOfThree(Once once) {
+    Cost best = once();
+    for (int i = 0; i < 2; ++i) {
+        const Cost cost = once();
+        best.peakMegabytes = std::max(best.peakMegabytes, cost.peakMegabytes);
+        best.seconds = std::min(best.seconds, cost.seconds);
+    }
+    return best;
+}
+
+Cost CatchUp(int leases) {
+    return BestOfThree([&] {
+        const tests::TemporaryFolder folder;
+        const auto books = folder.Path() / "books";
+        bench::InOwnProcess([&] { bench::MakeBooks(books, leases, kFirstDue); },
+                            [] { return 0.0; });
+        return bench::InOwnProcess([&] { bench::OpenBooks(books); },
+                                   [] { return bench::RunLeases(kYearLater); });
+    });
+}
+
+Cost PlainCatchUp(int leases, int rowsPerLease) {
+    return BestOfThree([&] {
+        const tests::TemporaryFolder folder;
+        const auto books = folder.Path() / "books";
+        bench::InOwnProcess([&] { bench::MakeBooks(books, leases, kFirstDue); },
+                            [] { return 0.0; });
+        return bench::InOwnProcess(
+            [] {}, [&] { return bench::RunPlainEngine(books, leases, rowsPerLease); });
+    });
+}
+
+/// Books that have been kept for two months, one day on: the 2nd of a month, on which every lease
+/// accrues its daily fee.
+template <class Work>
+Cost OneDayOn(int leases, Work work) {
+    return BestOfThree([&] {
+        const tests::TemporaryFolder folder;
+        const auto books = folder.Path() / "books";
+        bench::InOwnProcess(
+            [&] {
+                bench::MakeBooks(books, leases, kFirstDue);
+                bench::OpenBooks(books);
+            },
+            [] { return bench::RunLeases(Date(2024, 3, 1)); });
+        return work(books);
+    });
+}
+
+void PrintCost(const char* what, const Cost& cost) {
+    fmt::print("{:<52} {:>8.3f} s {:>12.0f} rows/s {:>8.1f} MB\n", what, cost.seconds,
+               cost.rows / cost.seconds, cost.peakMegabytes);
+}
+
+void BenchCatchUp() {
+    constexpr int kLeases = 2'000;
+    const Cost ours = CatchUp(kLeases);
+    const Cost plain = PlainCatchUp(kLeases, static_cast<int>(ours.rows) / kLeases);
+    PrintCost("catch-up of 12 months, 2,000 leases", ours);
+    PrintCost("  the same rows by the engine alone", plain);
+    bench::Report("  ratio of time", ours.seconds / plain.seconds, 2.0);
+    bench::Report("  peak resident size", ours.peakMegabytes, 48.0, "MB");
+}
+
+void BenchOneDay() {
+    constexpr int kLeases = 5'000;
+    const Cost ours = OneDayOn(kLeases, [](const std::filesystem::path& books) {
+        return bench::InOwnProcess([&] { bench::OpenBooks(books); },
+                                   [] { return bench::RunLeases(Date(2024, 3, 2)); });
+    });
+    const Cost plain = OneDayOn(kLeases, [](const std::filesystem::path& books) {
+        return bench::InOwnProcess([] {}, [&] { return bench::RunPlainEngine(books, kLeases, 1); });
+    });
+    PrintCost("one day on, 5,000 leases", ours);
+    PrintCost("  the same sums and updates by the engine alone", plain);
+    bench::Report("  ratio of time", ours.seconds / plain.seconds, 2.0);
+}
+
+void BenchGrowth() {
+    const Cost small = CatchUp(1'000);
+    const Cost large = CatchUp(5'000);
+    PrintCost("catch-up of 12 months, 1,000 leases", small);
+    PrintCost("catch-up of 12 months, 5,000 leases", large);
+    bench::Report("  growth of time for five times the leases", large.seconds / small.seconds, 5.5);
+    bench::Report("  peak resident size of the larger", large.peakMegabytes, 48.0, "MB");
+}
+
+} // namespace
+
+int main() {
+    BenchCatchUp();
+    BenchOneDay();
+    BenchGrowth();
+    return bench::ExitStatus();
+}

@@ -1,0 +1,52 @@
+#include "books/PostTransaction.h"
+
+#include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "core/Session.h"
+#include "platform/database/Recordset.h"
+
+namespace books {
+
+using platform::Currency;
+
+std::int32_t PostTransaction(const Transaction& transaction) {
+    platform::Recordset rows;
+    rows.Open(core::App().Connection, "Transactions", platform::CursorMode::AppendOnly);
+    rows.AddNew();
+    const std::int32_t id = core::NextId();
+    rows["IdTransaction"].Set(id);
+    rows["CreditExported"].Set(false);
+    rows["DebitExported"].Set(false);
+    rows["DateEffective"].Set(transaction.dateEffective.ToText());
+    rows["DebitType"].Set(transaction.debit.type);
+    rows["DebitId"].Set(transaction.debit.id);
+    rows["DebitDesc"].Set(transaction.debit.description);
+    rows["CreditType"].Set(transaction.credit.type);
+    rows["CreditId"].Set(transaction.credit.id);
+    rows["CreditDesc"].Set(transaction.credit.description);
+    for (const auto* balance : {"DebitPrevBal", "DebitNewBal", "CreditPrevBal", "CreditNewBal"}) {
+        rows[balance].Set(Currency());
+    }
+    rows["CheckNum"].Set(transaction.checkNumber);
+    rows["Amount"].Set(transaction.amount);
+    rows["TaxCategory"].Set(transaction.taxCategory);
+    rows["IEN"].Set(static_cast<std::int16_t>(transaction.ien));
+    rows["Description"].Set(transaction.description);
+    rows["Class"].Set(transaction.transactionClass);
+    rows["Flags"].Set(transaction.flags);
+    rows["Reconciled"].Set(false);
+    rows["IdTenant"].Set(transaction.idTenant);
+    rows["IdBuilding"].Set(transaction.idBuilding);
+    rows["IdUnit"].Set(transaction.idUnit);
+    rows["IdLease"].Set(transaction.idLease);
+    rows["IdMortgage"].Set(transaction.idMortgage);
+    rows["IdWorkOrder"].Set(transaction.idWorkOrder);
+    rows["IdLedger"].Set(std::int32_t{0});
+    rows["IdMileage"].Set(std::int32_t{0});
+    rows.Update();
+    core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
+    return id;
+}
+
+} // namespace books

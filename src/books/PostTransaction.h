@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/values/Currency.h"
+#include "platform/values/Date.h"
+
+namespace books {
+
+/// The class of a category, by which the sums of income and expenses go.
+enum class Ien : std::int16_t { Income = 0, Expense = 1, Unclassified = 2 };
+
+/// One side of a transaction: record kind (account or tenant), id (0 where it is only a name), and
+/// the name as it is at the time of posting.
+struct Party {
+    std::int16_t type = 0;
+    std::int32_t id = 0;
+    std::string description;
+};
+
+/// A movement of money from the debit side to the credit side.
+struct Transaction {
+    platform::Date dateEffective;
+    Party debit;
+    Party credit;
+    platform::Currency amount;
+    std::string taxCategory;
+    Ien ien = Ien::Income;
+    std::string checkNumber;
+    std::string description;
+    /// What produced it (0 ordinary, 1 to 3 as the rent log's classes, 5 a mortgage payment), and
+    /// for deposits the flag of the rent log.
+    std::int16_t transactionClass = 0;
+    std::int16_t flags = 0;
+    // Related records, 0 for none.
+    std::int32_t idTenant = 0;
+    std::int32_t idBuilding = 0;
+    std::int32_t idUnit = 0;
+    std::int32_t idLease = 0;
+    std::int32_t idMortgage = 0;
+    std::int32_t idWorkOrder = 0;
+};
+
+/// Adds a row to the transactions and tells the open lists: the one way that rows reach the table.
+/// The balance columns are always 0: what a party has is always added up from the rows. Answers the
+/// new row's id; failures are thrown.
+std::int32_t PostTransaction(const Transaction& transaction);
+
+} // namespace books

@@ -1,0 +1,35 @@
+#include "leases/ChargeDeposits.h"
+
+#include "core/Globals.h"
+#include "core/Lookups.h"
+#include "leases/RentLog.h"
+#include "platform/database/Recordset.h"
+#include "platform/system/Clock.h"
+
+namespace leases {
+
+using platform::Currency;
+using platform::CursorMode;
+using platform::Recordset;
+
+void ChargeDeposits(std::int32_t idLease, std::int32_t idUnit) {
+    Recordset templates;
+    templates.Open(
+        core::App().Connection,
+        "SELECT * FROM Deposit WHERE (IsGlobal = True) OR (IdBuilding = ?) OR (IdUnit = ?)",
+        CursorMode::ReadOnly, {core::GetUnitBuilding(idUnit), idUnit});
+    platform::UnitOfWork unit(core::App().Connection);
+    for (; !templates.Eof(); templates.MoveNext()) {
+        const auto description = templates["Description"];
+        const auto amount = templates["Amount"];
+        WriteRentLog({.idLease = idLease,
+                      .datePosted = platform::Today(),
+                      .rentClass = RentClass::Deposit,
+                      .category = std::string(kCategoryDeposit),
+                      .amount = amount.IsNull() ? Currency() : amount.AsCurrency(),
+                      .description = description.IsNull() ? "" : description.AsText()});
+    }
+    unit.Commit();
+}
+
+} // namespace leases

@@ -1,0 +1,85 @@
+#include "leases/LeaseTerms.h"
+
+#include "leases/RentCodes.h"
+
+namespace leases {
+
+using platform::Currency;
+using platform::Date;
+using platform::Field;
+using platform::Interval;
+
+namespace {
+
+template <class Read>
+auto TryRead(Read read) -> Reading<decltype(read())> {
+    try {
+        return read();
+    } catch (const platform::Error& error) {
+        return Reading<decltype(read())>::Fault(error.what());
+    }
+}
+
+Reading<Date> OptionalDate(Field field) {
+    return TryRead([&] { return field.IsBlank() ? Date() : field.AsDate(); });
+}
+
+Reading<Date> RequiredDate(Field field) {
+    if (field.IsBlank()) return Reading<Date>::Fault(field.Name() + " is empty");
+    return OptionalDate(field);
+}
+
+Reading<Currency> Money(Field field) {
+    return TryRead([&] { return field.AsCurrency(); });
+}
+
+Reading<std::int16_t> Count(Field field) {
+    return TryRead([&] { return field.AsInteger(); });
+}
+
+std::string Word(const Field& field) {
+    return field.IsNull() ? std::string() : field.AsText();
+}
+
+bool IsWeekly(std::string_view termType) {
+    return termType == "Weekly" || termType == "Week(s)" || termType == status::kWeekToWeek;
+}
+
+} // namespace
+
+LeaseTerms LeaseTerms::Read(platform::Recordset& row) {
+    LeaseTerms terms;
+    terms.status = Word(row["Status"]);
+    terms.termType = Word(row["TermType"]);
+    terms.expireOption = Word(row["ExpireOption"]);
+    terms.dateActive = RequiredDate(row["DateActive"]);
+    terms.dateRenewed = RequiredDate(row["DateRenewed"]);
+    terms.dateVacating = RequiredDate(row["DateVacating"]);
+    terms.dateNextDue = RequiredDate(row["DateNextDue"]);
+    terms.dateUpdated = OptionalDate(row["DateUpdated"]);
+    terms.term = Count(row["Term"]);
+    terms.discountDays = Count(row["DiscountDays"]);
+    terms.oneTimeDays = Count(row["OneTimeDays"]);
+    terms.dailyDays = Count(row["DailyDays"]);
+    terms.rent = Money(row["Rent"]);
+    terms.discount = Money(row["Discount"]);
+    terms.oneTimeFee = Money(row["OneTimeFee"]);
+    terms.dailyFee = Money(row["DailyFee"]);
+    terms.subsidy = Money(row["SubsAmt"]);
+    terms.subsidised = TryRead([&] { return !row["Subs"].IsNull() && row["Subs"].AsBoolean(); });
+    return terms;
+}
+
+Interval TermInterval(std::string_view termType) {
+    if (IsWeekly(termType)) return Interval::Week;
+    if (termType == "Yearly" || termType == "Year(s)") return Interval::Year;
+    return Interval::Month;
+}
+
+Interval BillingInterval(std::string_view termType) {
+    if (IsWeekly(termType)) return Interval::Week;
+    if (termType == "Yearly" || termType == "Years(s)") return Interval::Year;
+    return Interval::Month;
+}
+
+} // namespace leases

@@ -1,0 +1,139 @@
+#include "leases/LeaseWalk.h"
+
+#include "leases/LeaseStatus.h"
+
+namespace leases {
+
+using platform::Currency;
+using platform::Date;
+using platform::DateAdd;
+using platform::Interval;
+
+namespace {
+
+/// The due date that the walk stands at, and the days reckoned from it. `DateNextDue` itself moves
+/// only with a payment, so the fee days start from the oldest unpaid due date.
+class DueDates {
+  public:
+    explicit DueDates(const LeaseTerms& terms)
+        : interval_(BillingInterval(terms.termType)),
+          oneTimeDays_(terms.oneTimeDays.Get()),
+          nextDue_(terms.dateNextDue.Get()),
+          discountDate_(DateAdd(Interval::Day, -terms.discountDays.Get(), nextDue_)),
+          oneTimeDate_(DateAdd(Interval::Day, oneTimeDays_, nextDue_)),
+          dailyDate_(DateAdd(Interval::Day, terms.dailyDays.Get(), nextDue_)) {}
+
+    void AdvanceTo(Date day) {
+        while (day.Serial() - nextDue_.Serial() > 1)
+            nextDue_ = DateAdd(interval_, 1, nextDue_);
+    }
+
+    Date NextDue() const { return nextDue_; }
+    bool IsDiscountDay(Date day) const { return day == discountDate_; }
+    bool IsOneTimeDay(Date day) const { return day == oneTimeDate_; }
+    bool IsDailyFeeDay(Date day) const { return day > dailyDate_; }
+    /// The next one-time fee belongs to the due date reached by now.
+    void MoveOneTimeDay() { oneTimeDate_ = DateAdd(Interval::Day, oneTimeDays_, nextDue_); }
+
+  private:
+    Interval interval_;
+    int oneTimeDays_;
+    Date nextDue_;
+    Date discountDate_;
+    Date oneTimeDate_;
+    Date dailyDate_;
+};
+
+void AddCharge(std::vector<Charge>& charges, ChargeKind kind, Date day, Currency amount, Date due) {
+    if (!amount.IsZero()) charges.push_back({kind, day, amount, due});
+}
+
+void ChargeDay(LeaseWalk& walk, DueDates& dates, Date day, WalkMode mode) {
+    const LeaseTerms& terms = walk.terms;
+    dates.AdvanceTo(day);
+    const Date due = dates.NextDue();
+    if (day == due) {
+        AddCharge(walk.charges, ChargeKind::Rent, day, terms.rent.Get(), due);
+        if (terms.subsidised.Get()) {
+            AddCharge(walk.charges, ChargeKind::Subsidy, day, terms.subsidy.Get(), due);
+        }
+    }
+    if (mode == WalkMode::RollForward && dates.IsDiscountDay(day)) {
+        AddCharge(walk.charges, ChargeKind::Discount, day, -terms.discount.Get(), due);
+    }
+    if (dates.IsOneTimeDay(day)) {
+        AddCharge(walk.charges, ChargeKind::OneTimeFee, day, terms.oneTimeFee.Get(), due);
+        dates.MoveOneTimeDay();
+    }
+    if (dates.IsDailyFeeDay(day)) {
+        AddCharge(walk.charges, ChargeKind::DailyFee, day, terms.dailyFee.Get(), due);
+    }
+}
+
+Date StartOfWalk(const LeaseTerms& terms, WalkMode mode) {
+    const Date updated = terms.dateUpdated.Get();
+    if (!updated.IsSet()) return DateAdd(Interval::Month, -1, terms.dateActive.Get());
+    if (mode == WalkMode::Reprocess) return DateAdd(Interval::Month, -1, terms.dateNextDue.Get());
+    return updated;
+}
+
+} // namespace
+
+LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, Date today) {
+    LeaseWalk walk;
+    walk.terms = std::move(terms);
+    const Date end = mode == WalkMode::RollForward ? walk.terms.dateNextDue.Get() : today;
+    const Date start = StartOfWalk(walk.terms, mode);
+    walk.terms.dateUpdated = start;
+    DueDates dates(walk.terms);
+
+    for (int serial = start.Serial() + 1; serial <= end.Serial(); ++serial) {
+        const Date day = Date::FromSerial(serial);
+        const StatusStep step = StepLeaseStatus(walk.terms, day, false);
+        if (step.statusSet) walk.statuses.push_back(walk.terms.status);
+        walk.renewed = walk.renewed || step.renewed;
+        if (IsCharged(walk.terms.status)) ChargeDay(walk, dates, day, mode);
+    }
+    if (end > start) walk.terms.dateUpdated = end;
+    return walk;
+}
+
+RentClass ClassOf(ChargeKind kind) {
+    return kind == ChargeKind::Subsidy ? RentClass::Subsidy : RentClass::Rent;
+}
+
+RentFlags FlagsOf(ChargeKind kind) {
+    return kind == ChargeKind::Rent ? RentFlags::PeriodRent : RentFlags::Ordinary;
+}
+
+std::string_view CategoryOf(ChargeKind kind) {
+    switch (kind) {
+        case ChargeKind::Rent:
+            return kCategoryRent;
+        case ChargeKind::Subsidy:
+            return kCategorySubsidy;
+        case ChargeKind::Discount:
+            return kCategoryDiscount;
+        case ChargeKind::OneTimeFee:
+        case ChargeKind::DailyFee:
+            break;
+    }
+    return kCategoryLateFee;
+}
+
+std::string DescriptionOf(const Charge& charge) {
+    switch (charge.kind) {
+        case ChargeKind::Rent:
+            return "Rent due " + charge.date.ToText();
+        case ChargeKind::Subsidy:
+            return "Subsidy due " + charge.date.ToText();
+        case ChargeKind::Discount:
+            return "Discount for rent due " + charge.due.ToText();
+        case ChargeKind::OneTimeFee:
+        case ChargeKind::DailyFee:
+            break;
+    }
+    return std::string(kCategoryLateFee);
+}
+
+} // namespace leases

@@ -1,0 +1,96 @@
+#include "leases/RentLog.h"
+
+#include "core/Globals.h"
+#include "core/Session.h"
+
+namespace leases {
+
+using platform::CursorMode;
+using platform::Recordset;
+using platform::Value;
+
+namespace {
+
+constexpr std::string_view kInsertEntry =
+    "INSERT INTO RentLog (IdRentLog, IdLease, IdTransaction, DatePosted, Class, Category, Amount, "
+    "Description, Flags) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)";
+
+constexpr std::string_view kUpdateEntry =
+    "UPDATE RentLog SET IdLease = ?, IdTransaction = ?, DatePosted = ?, Class = ?, Category = ?, "
+    "Amount = ?, Description = ?, Flags = ? WHERE IdRentLog = ?";
+
+Value Code(RentClass code) {
+    return static_cast<std::int16_t>(code);
+}
+Value Code(RentFlags code) {
+    return static_cast<std::int16_t>(code);
+}
+
+void Insert(std::int32_t idRentLog, const RentLogEntry& entry) {
+    core::App().Connection.Execute(
+        kInsertEntry, {idRentLog, entry.idLease, entry.idTransaction, entry.datePosted.ToText(),
+                       Code(entry.rentClass), entry.category, entry.amount, entry.description,
+                       Code(entry.flags)});
+}
+
+bool Rewrite(std::int32_t idRentLog, const RentLogEntry& entry) {
+    return core::App().Connection.Execute(
+               kUpdateEntry, {entry.idLease, entry.idTransaction, entry.datePosted.ToText(),
+                              Code(entry.rentClass), entry.category, entry.amount,
+                              entry.description, Code(entry.flags), idRentLog}) > 0;
+}
+
+void CopyFields(Recordset& from, Recordset& to) {
+    for (std::size_t i = 0; i < from.FieldCount(); ++i) {
+        const Value value = from[i].Value();
+        to[from[i].Name()].Set(value.IsNull() ? Value(platform::Currency()) : value);
+    }
+}
+
+} // namespace
+
+std::int32_t WriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
+    if (entry.amount.IsZero()) return idRentLog;
+    if (idRentLog != 0 && Rewrite(idRentLog, entry)) return idRentLog;
+    const std::int32_t id = core::NextId();
+    Insert(id, entry);
+    return id;
+}
+
+void WriteCharges(std::int32_t idLease, std::span<const Charge> charges) {
+    if (charges.empty()) return;
+    std::int32_t id = core::NextIds(static_cast<std::int32_t>(charges.size()));
+    for (const Charge& charge : charges) {
+        core::App().Connection.Execute(
+            kInsertEntry, {id++, idLease, std::int32_t{0}, charge.date.ToText(),
+                           Code(ClassOf(charge.kind)), CategoryOf(charge.kind), charge.amount,
+                           DescriptionOf(charge), Code(FlagsOf(charge.kind))});
+    }
+}
+
+void SetLeaseBalances(Recordset& row) {
+    const Value idLease = row["IdLease"].Value();
+    Recordset sums;
+    sums.Open(core::App().Connection,
+              "SELECT Sum(IIf(Class = 1 AND IdTransaction = 0, Amount, 0)) AS RentDue, "
+              "Sum(IIf(Class = 2 AND IdTransaction = 0, Amount, 0)) AS SubsDue, "
+              "Sum(IIf(Class = 4, Amount, 0)) AS OptionBalance, "
+              "Sum(IIf(Class = 3 AND Flags = 0, Amount, 0)) AS DepositTotal, "
+              "-1 * Sum(IIf(Class = 3 AND Flags = 2, Amount, 0)) AS DepositPaid "
+              "FROM RentLog WHERE IdLease = ?",
+              CursorMode::ReadOnly, {idLease});
+    CopyFields(sums, row);
+    sums.Open(core::App().Connection,
+              "SELECT Sum(IIf(Flags = 3, Amount, 0)) AS DepositRefunded, "
+              "Sum(IIf(Flags = 4, Amount, 0)) AS DepositCharged "
+              "FROM Transactions WHERE IdLease = ? AND Class = 3",
+              CursorMode::ReadOnly, {idLease});
+    CopyFields(sums, row);
+
+    const auto money = [&](std::string_view field) { return row[field].AsCurrency(); };
+    row["DepositDue"].Set(money("DepositTotal") - money("DepositPaid"));
+    row["DepositBalance"].Set(money("DepositPaid") -
+                              (money("DepositRefunded") + money("DepositCharged")));
+}
+
+} // namespace leases

@@ -1,0 +1,121 @@
+#include "leases/mLease.h"
+
+#include "core/Globals.h"
+#include "core/Lookups.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "core/Session.h"
+#include "leases/LeaseStatus.h"
+#include "leases/RentLog.h"
+#include "platform/system/Clock.h"
+
+namespace leases {
+
+using platform::CursorMode;
+using platform::Date;
+using platform::Recordset;
+using platform::UnitOfWork;
+
+namespace {
+
+constexpr std::string_view kUnitAvailable = "Avaliable";
+constexpr std::string_view kUnitLeased = "Leased";
+constexpr std::string_view kTenantArchived = "Archived";
+constexpr std::string_view kTenantCurrent = "Current";
+
+void SetUnitAndTenant(Recordset& row, std::string_view leaseStatus) {
+    const bool over = IsOver(leaseStatus);
+    core::SetUnitStatus(row["IdUnit"].AsLong(), over ? kUnitAvailable : kUnitLeased);
+    core::SetTenantStatus(row["IdTenant"].AsLong(), over ? kTenantArchived : kTenantCurrent);
+}
+
+std::string_view RentStatusOf(Recordset& row) {
+    const int daysLate = platform::Today().Serial() - row["DateNextDue"].AsDate().Serial();
+    const std::int16_t late = platform::Value(daysLate).AsInteger();
+    if (!row["Status"].IsNull() && IsOver(row["Status"].AsText())) return "n/a";
+    if (late > row["EvictDays"].AsInteger()) return "Eviction";
+    if (late > row["NoticeDays"].AsInteger()) return "Warning";
+    if (late > row["OneTimeDays"].AsInteger()) return "Late";
+    return late < 0 ? "OK" : "Due";
+}
+
+} // namespace
+
+std::vector<Charge> UpdateLease(Recordset& row, WalkMode mode) {
+    LeaseWalk walk = WalkLease(LeaseTerms::Read(row), mode, platform::Today());
+
+    UnitOfWork unit(core::App().Connection);
+    for (const std::string& word : walk.statuses)
+        SetUnitAndTenant(row, word);
+    if (!walk.statuses.empty()) row["Status"].Set(walk.terms.status);
+    WriteCharges(row["IdLease"].AsLong(), walk.charges);
+    row["DateUpdated"].Set(walk.terms.dateUpdated.Get().ToText());
+    if (walk.renewed) row["DateRenewed"].Set(walk.terms.dateRenewed.Get().ToText());
+    SetLeaseBalances(row);
+    SetRentStatus(row);
+    row.Update();
+    unit.Commit();
+    return std::move(walk.charges);
+}
+
+void UpdateLeaseById(std::int32_t idLease, WalkMode mode) {
+    if (idLease == 0) return;
+    Recordset row;
+    row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?", CursorMode::Updatable,
+             {idLease});
+    if (!row.Eof()) UpdateLease(row, mode);
+}
+
+bool SetLeaseStatus(Recordset& row, Date onDate, StatusChange change) {
+    LeaseTerms terms = LeaseTerms::Read(row);
+    const StatusStep step = StepLeaseStatus(terms, onDate, change == StatusChange::Force);
+    if (step.renewed) row["DateRenewed"].Set(terms.dateRenewed.Get().ToText());
+    if (step.statusSet) {
+        SetUnitAndTenant(row, terms.status);
+        row["Status"].Set(terms.status);
+    }
+    return step.Changed();
+}
+
+void SetRentStatus(Recordset& row) {
+    try {
+        row["RentStatus"].Set(RentStatusOf(row));
+    } catch (const platform::Error&) {
+        // A lease whose dates can't be read keeps the word it had.
+    }
+}
+
+void AdvanceNextDue(std::int32_t idLease, OptionCredit credit, Broadcast broadcast) {
+    Recordset row;
+    row.Open(core::App().Connection,
+             "SELECT IdLease, TermType, DateNextDue, Option, OptionCredit FROM Lease "
+             "WHERE IdLease = ?",
+             CursorMode::Updatable, {idLease});
+    if (row.Eof()) return;
+
+    UnitOfWork unit(core::App().Connection);
+    const std::string termType = row["TermType"].IsNull() ? "" : row["TermType"].AsText();
+    const Date nextDue = DateAdd(TermInterval(termType), 1, row["DateNextDue"].AsDate());
+    row["DateNextDue"].Set(nextDue.ToText());
+    row.Update();
+    if (credit == OptionCredit::Add && row["Option"].AsBoolean()) {
+        WriteRentLog({.idLease = idLease,
+                      .datePosted = platform::Today(),
+                      .rentClass = RentClass::OptionCredit,
+                      .category = std::string(kCategoryOptionCredit),
+                      .amount = row["OptionCredit"].AsCurrency(),
+                      .description = std::string(kCategoryOptionCredit)});
+    }
+    unit.Commit();
+    if (broadcast == Broadcast::Yes) core::NotifyAll(core::kLease, core::kRecordsChanged, idLease);
+}
+
+LeaseLinks GetLeaseLinks(std::int32_t idLease) {
+    LeaseLinks links;
+    if (idLease == 0) return links;
+    core::GetLeaseParties(idLease, links.idUnit, links.idTenant);
+    links.idBuilding = core::GetUnitBuilding(links.idUnit);
+    return links;
+}
+
+} // namespace leases

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "core/DailyRun.h"
+#include "leases/LeaseWalk.h"
+#include "platform/database/Recordset.h"
+#include "platform/values/Date.h"
+
+namespace leases {
+
+// The calendar-driven life of a lease. The operations on a row work on an open, updatable row of
+// `Lease`. Failures are thrown; what one of them wrote until then is taken back.
+
+/// Brings a lease up to date: walks it by the calendar, posts its charges, sets unit and tenant,
+/// computes balances and rent status and writes the row. One unit of work. Answers the charges
+/// posted.
+std::vector<Charge> UpdateLease(platform::Recordset& row, WalkMode mode);
+
+/// The same for the lease of this id; nothing for id 0 or a lease that isn't there.
+void UpdateLeaseById(std::int32_t idLease, WalkMode mode);
+
+enum class StatusChange { IfDifferent, Force };
+
+/// Sets the status that the lease has on `onDate`, and unit and tenant with it; true if anything
+/// changed. The caller writes the row.
+bool SetLeaseStatus(platform::Recordset& row, platform::Date onDate, StatusChange change);
+
+/// Sets the rent status that the lease has today. A field that can't be read leaves the old word.
+void SetRentStatus(platform::Recordset& row);
+
+enum class OptionCredit { None, Add };
+enum class Broadcast { No, Yes };
+
+/// Moves the next due date one period on, since a period's rent was paid; a lease with a purchase
+/// option earns its credit. Nothing for a lease that isn't there.
+void AdvanceNextDue(std::int32_t idLease, OptionCredit credit, Broadcast broadcast);
+
+struct LeaseLinks {
+    std::int32_t idTenant = 0;
+    std::int32_t idUnit = 0;
+    std::int32_t idBuilding = 0;
+};
+/// Tenant, unit and building of a lease; 0 for what isn't there.
+LeaseLinks GetLeaseLinks(std::int32_t idLease);
+
+} // namespace leases

@@ -1,0 +1,176 @@
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <fmt/core.h>
+#include <gtest/gtest.h>
+
+#include "core/DailyRun.h"
+#include "core/Globals.h"
+#include "leases/LeaseRun.h"
+#include "platform/database/Recordset.h"
+#include "platform/system/Clock.h"
+#include "store/CreateDatabase.h"
+#include "support/TemporaryFolder.h"
+
+namespace tests {
+
+namespace {
+
+using platform::Currency;
+using platform::CursorMode;
+using platform::Date;
+using platform::DateAdd;
+using platform::Interval;
+using platform::Recordset;
+
+constexpr int kLeases = 40;
+const Date kFirstDay(2023, 11, 15);
+const Date kLastDay(2025, 3, 3);
+
+class NobodyListens : public core::RunListener {
+  public:
+    void Posted(int, std::int32_t, std::string_view, const std::vector<core::PostedRow>&) override {
+    }
+    void Failed(int, std::int32_t, std::string_view description, std::string_view reason) override {
+        ADD_FAILURE() << description << ": " << reason;
+    }
+};
+
+/// The same numbers on every machine.
+class Random {
+  public:
+    explicit Random(std::uint64_t seed) : state_(seed) {}
+
+    int Below(int limit) {
+        state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
+        return static_cast<int>((state_ >> 33) % static_cast<std::uint64_t>(limit));
+    }
+
+    template <std::size_t N>
+    const char* OneOf(const char* const (&words)[N]) {
+        return words[Below(static_cast<int>(N))];
+    }
+
+  private:
+    std::uint64_t state_;
+};
+
+void AddRandomLease(Recordset& leases, Random& random, std::int32_t id) {
+    const Date active = DateAdd(Interval::Day, random.Below(500) - 250, kFirstDay);
+    const bool started = random.Below(3) > 0;
+    leases.AddNew();
+    leases["IdLease"].Set(id);
+    leases["IdUnit"].Set(id + 1000);
+    leases["IdTenant"].Set(id + 2000);
+    leases["Status"].Set(started ? random.OneOf({"Contracted", "MTM", "WTW", "Notice"})
+                                 : random.OneOf({"Pending", "Pending", "Expired"}));
+    leases["TermType"].Set(
+        random.OneOf({"Week(s)", "Month(s)", "Year(s)", "WTW", "MTM", "Weekly", "Yearly"}));
+    leases["ExpireOption"].Set(random.OneOf({"Renew", "Expire", "MTM", "WTW", ""}));
+    leases["Term"].Set(random.Below(14));
+    leases["DateActive"].Set(active.ToText());
+    leases["DateRenewed"].Set(active.ToText());
+    leases["DateVacating"].Set(DateAdd(Interval::Day, random.Below(400), kFirstDay).ToText());
+    leases["DateNextDue"].Set(DateAdd(Interval::Day, random.Below(70), active).ToText());
+    leases["DateUpdated"].Set(started ? kFirstDay.ToText() : "");
+    leases["Rent"].Set(Currency::FromUnits(500 + random.Below(1000)));
+    leases["Subs"].Set(random.Below(2) == 0);
+    leases["SubsAmt"].Set(Currency::FromScaled(1234567));
+    leases["Discount"].Set(Currency::FromUnits(20));
+    leases["DiscountDays"].Set(random.Below(10));
+    leases["OneTimeFee"].Set(Currency::FromUnits(77));
+    leases["OneTimeDays"].Set(random.Below(20));
+    leases["DailyFee"].Set(Currency::FromUnits(random.Below(3)));
+    leases["DailyDays"].Set(random.Below(60));
+    leases["EvictDays"].Set(random.Below(90));
+    leases["NoticeDays"].Set(random.Below(60));
+    leases.Update();
+}
+
+void MakePortfolio(const std::filesystem::path& folder, std::uint64_t seed) {
+    store::CreateDatabase(folder);
+    core::App().Connection.Open(folder / "Vestrel.mdb");
+    core::App().Connection.Execute("INSERT INTO Configuration (NextId) VALUES (5000)");
+    Random random(seed);
+    Recordset leases;
+    leases.Open(core::App().Connection, "Lease", CursorMode::AppendOnly);
+    for (std::int32_t id = 1; id <= kLeases; ++id) {
+        core::App().Connection.Execute("INSERT INTO Unit (IdUnit, Status) VALUES (?, 'Hold')",
+                                       {id + 1000});
+        core::App().Connection.Execute("INSERT INTO Tenant (IdTenant, Status) VALUES (?, '')",
+                                       {id + 2000});
+        AddRandomLease(leases, random, id);
+    }
+}
+
+std::vector<std::string> Dump(std::string_view statement) {
+    std::vector<std::string> lines;
+    Recordset rows;
+    rows.Open(core::App().Connection, statement);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        std::string line;
+        for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
+            line += rows[i].IsNull() ? "null|" : rows[i].AsText() + "|";
+        }
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+struct Books {
+    std::vector<std::string> leases;
+    std::vector<std::string> units;
+    std::vector<std::string> tenants;
+    std::vector<std::string> ledger;
+};
+
+/// The books without the one-time fees: those of later unpaid periods are charged in a long run
+/// only, as the run that goes day by day starts from the oldest unpaid due date each time.
+Books ReadBooks() {
+    return {
+        Dump("SELECT L.IdLease, L.Status, L.RentStatus, L.DateRenewed, L.DateUpdated, "
+             "L.DateNextDue, L.SubsDue, L.DepositBalance, L.OptionBalance, L.RentDue - "
+             "Nz((SELECT Sum(Amount) FROM RentLog WHERE IdLease = L.IdLease AND Amount = 77), 0) "
+             "FROM Lease AS L ORDER BY L.IdLease"),
+        Dump("SELECT IdUnit, Status FROM Unit ORDER BY IdUnit"),
+        Dump("SELECT IdTenant, Status FROM Tenant ORDER BY IdTenant"),
+        Dump("SELECT IdLease, DatePosted, Class, Flags, Category, Amount, Description FROM RentLog "
+             "WHERE Amount <> 77 ORDER BY IdLease, DateValue(DatePosted), IdRentLog"),
+    };
+}
+
+Books LiveFrom(std::uint64_t seed, int daysAStep) {
+    const TemporaryFolder folder;
+    MakePortfolio(folder.Path() / "db", seed);
+    NobodyListens listener;
+    for (Date day = kFirstDay; day < kLastDay;) {
+        day = std::min(kLastDay, DateAdd(Interval::Day, daysAStep, day));
+        platform::SetToday(day);
+        leases::UpdateLeases(listener);
+    }
+    Books books = ReadBooks();
+    core::App().Connection.Close();
+    return books;
+}
+
+class CatchUp : public testing::TestWithParam<std::uint64_t> {};
+
+TEST_P(CatchUp, PostsWhatDailyRunsWouldHavePosted) {
+    const Books daily = LiveFrom(GetParam(), 1);
+    ASSERT_GT(daily.ledger.size(), 1000U);
+    for (const int daysAStep : {1000, 97}) {
+        SCOPED_TRACE(daysAStep);
+        const Books late = LiveFrom(GetParam(), daysAStep);
+        EXPECT_EQ(late.leases, daily.leases);
+        EXPECT_EQ(late.units, daily.units);
+        EXPECT_EQ(late.tenants, daily.tenants);
+        EXPECT_EQ(late.ledger, daily.ledger);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Portfolios, CatchUp, testing::Values(1U, 20241U, 977U));
+
+} // namespace
+
+} // namespace tests
