@@ -21,8 +21,8 @@ class Dialogs {
 };
 
 /// The dialogs of this process. Without SetDialogs messages go to standard error and every
-/// question is answered No.
+/// question is answered No; null brings that back.
 Dialogs& TheDialogs();
 void SetDialogs(std::unique_ptr<Dialogs> dialogs);
 
-}  // namespace platform
+} // namespace platform

@@ -24,9 +24,9 @@ class Registry {
     virtual bool WriteNumber(std::string_view key, std::string_view name, std::int32_t value) = 0;
 };
 
-/// The registry kept as JSON in `file`: read afresh before each write, replaced in one step, private
-/// to the user. A damaged file reads as empty and is put aside ("registry.json.damaged") before the
-/// first write replaces it.
+/// The registry kept as JSON in `file`: read afresh before each write, replaced in one step,
+/// private to the user. A damaged file reads as empty and is put aside ("registry.json.damaged")
+/// before the first write replaces it.
 std::unique_ptr<Registry> OpenJsonRegistry(std::filesystem::path file);
 
 /// The registry in memory alone, for tests.
@@ -37,4 +37,4 @@ std::unique_ptr<Registry> MakeMemoryRegistry();
 Registry& TheRegistry();
 void SetRegistry(std::unique_ptr<Registry> registry);
 
-}  // namespace platform
+} // namespace platform

@@ -5,8 +5,8 @@
 #include <concepts>
 #include <limits>
 
+#include "platform/values/Digits.h"
 #include "platform/values/Errors.h"
-#include "platform/values/NumberScan.h"
 #include "platform/values/Text.h"
 
 namespace platform {
@@ -75,7 +75,7 @@ std::int32_t RoundToInt32(double number) {
 }
 
 std::optional<double> TryParseNumber(std::string_view text) {
-    const auto scan = ScanNumber(text);
+    const auto scan = ScanDigits(text);
     if (!scan) return std::nullopt;
     if (scan->digits.empty()) return 0.0;
     const std::string plain = "0." + scan->digits + "e" + std::to_string(scan->pointAt);
@@ -90,7 +90,7 @@ std::optional<double> TryParseNumber(std::string_view text) {
 }
 
 std::optional<Currency> TryParseMoney(std::string_view text) {
-    const auto scan = ScanNumber(text);
+    const auto scan = ScanDigits(text);
     if (!scan) return std::nullopt;
     constexpr std::int64_t kDecimals = 4;
     constexpr std::int64_t kMostDigits = 19;

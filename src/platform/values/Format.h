@@ -14,9 +14,12 @@ inline constexpr std::string_view kMoneyFormat = "#,###.00;(#,###.00);0.00;0.00"
 inline constexpr std::string_view kDateFormat = "mm/dd/yyyy";
 
 /// A number by a number format: `0` a digit always shown, `#` one shown where it matters, `,`
-/// between digits groups by thousands, `.` the decimal point, `%` times 100, anything in quotes or
-/// not of the format as it stands; sections for positive, negative, zero and null parted by `;`.
-/// Halves round away from zero on the exact decimal value.
+/// between digits groups by thousands, `.` the decimal point (shown even if no decimal follows),
+/// `%` times 100, anything in quotes, after a backslash or not of the format as it stands; sections
+/// for positive, negative, zero and null parted by `;`, an empty one standing for the first. What
+/// rounds to zero is shown as zero is. Halves round away from zero on the exact decimal value, for
+/// a double that of its shortest form. Of the named formats "Currency", "Fixed", "Standard",
+/// "Percent", "Yes/No" and "True/False" are known.
 std::string FormatNumber(double number, std::string_view format);
 std::string FormatNumber(Currency amount, std::string_view format);
 
@@ -24,9 +27,10 @@ std::string FormatNumber(Currency amount, std::string_view format);
 /// date.
 std::string FormatDate(Date date, std::string_view format);
 
-/// Any value by a format: numbers and money by a number format, dates by a date format, a text that
-/// reads as a number or a day likewise, other text as it stands; null by the fourth section, else
-/// empty. An empty format gives the value's text.
+/// Any value by a format: numbers and money by a number format, dates by a date format (each by the
+/// other through the serial number), a text that reads as a number or a day likewise, other text as
+/// it stands; null by the fourth section, else empty. An empty format gives the value's text. A
+/// format without a digit is a date format if it has a letter of one.
 std::string Format(const Value& value, std::string_view format);
 
 /// Money as it is shown everywhere: "1,234.50", "(5.00)", "0.00".

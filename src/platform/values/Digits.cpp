@@ -1,6 +1,9 @@
-#include "platform/values/NumberScan.h"
+#include "platform/values/Digits.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <iterator>
 
 #include "platform/values/Text.h"
 
@@ -38,7 +41,7 @@ bool TakeSigns(std::string_view& text, bool& negative) {
 }
 
 // The digits with their commas and point; true when there was one digit at least.
-bool TakeDigits(std::string_view& text, NumberScan& scan) {
+bool TakeDigits(std::string_view& text, Digits& scan) {
     bool any = false;
     bool point = false;
     std::size_t used = 0;
@@ -77,10 +80,63 @@ bool TakeExponent(std::string_view& text, std::int64_t& exponent) {
     return used > 0;
 }
 
+void DropTrailingZeros(Digits& number) {
+    number.digits.erase(number.digits.find_last_not_of('0') + 1);
+    if (number.digits.empty()) number.pointAt = 0;
+}
+
 } // namespace
 
-std::optional<NumberScan> ScanNumber(std::string_view text) {
-    NumberScan scan;
+Digits DigitsOf(double number) {
+    Digits result{.negative = number < 0, .digits = {}, .pointAt = 0};
+    if (number == 0) return result;
+    // "d.ddde+xx", the shortest that reads back the same.
+    char text[32];
+    const char* const end =
+        std::to_chars(text, text + sizeof text, std::fabs(number), std::chars_format::scientific)
+            .ptr;
+    const char* const mark = std::find(static_cast<const char*>(text), end, 'e');
+    const char* const exponent = mark + (mark[1] == '+' ? 2 : 1);
+    std::from_chars(exponent, end, result.pointAt);
+    ++result.pointAt;
+    std::copy_if(static_cast<const char*>(text), mark, std::back_inserter(result.digits), IsDigit);
+    DropTrailingZeros(result);
+    return result;
+}
+
+Digits DigitsOf(Currency amount) {
+    const std::int64_t scaled = amount.Scaled();
+    if (scaled == 0) return {};
+    const auto bits = static_cast<std::uint64_t>(scaled);
+    Digits result{.negative = scaled < 0,
+                  .digits = std::to_string(scaled < 0 ? 0 - bits : bits),
+                  .pointAt = 0};
+    result.pointAt = static_cast<std::int64_t>(result.digits.size()) - 4;
+    DropTrailingZeros(result);
+    return result;
+}
+
+void RoundDigits(Digits& number, std::int64_t places) {
+    std::string& digits = number.digits;
+    const std::int64_t kept = number.pointAt + places;
+    if (kept >= static_cast<std::int64_t>(digits.size())) return;
+    const bool up = kept >= 0 && digits[static_cast<std::size_t>(kept)] >= '5';
+    digits.erase(static_cast<std::size_t>(std::max<std::int64_t>(kept, 0)));
+    if (up) {
+        while (!digits.empty() && digits.back() == '9')
+            digits.pop_back();
+        if (digits.empty()) {
+            digits = "1";
+            ++number.pointAt;
+        } else {
+            ++digits.back();
+        }
+    }
+    DropTrailingZeros(number);
+}
+
+std::optional<Digits> ScanDigits(std::string_view text) {
+    Digits scan;
     text = Trim(text);
     std::int64_t exponent = 0;
     if (!TakeSigns(text, scan.negative) || !TakeDigits(text, scan) ||
@@ -88,8 +144,7 @@ std::optional<NumberScan> ScanNumber(std::string_view text) {
         return std::nullopt;
     }
     scan.pointAt += exponent;
-    scan.digits.erase(scan.digits.find_last_not_of('0') + 1);
-    if (scan.digits.empty()) scan.pointAt = 0;
+    DropTrailingZeros(scan);
     return scan;
 }
 

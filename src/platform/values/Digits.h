@@ -5,17 +5,26 @@
 #include <string>
 #include <string_view>
 
+#include "platform/values/Currency.h"
+
 namespace platform {
 
 /// A number as people write it, in exact decimal digits: 0.DIGITS times ten to the `pointAt`.
-struct NumberScan {
+struct Digits {
     bool negative = false;
     std::string digits;       ///< without zeros at either end; empty for 0
     std::int64_t pointAt = 0; ///< where the point stands, counted from the first digit
 };
 
+/// The digits of a number in its shortest form, and of an amount of money. The number is finite.
+Digits DigitsOf(double number);
+Digits DigitsOf(Currency amount);
+
+/// Rounds to `places` decimals, halves away from zero.
+void RoundDigits(Digits& number, std::int64_t places);
+
 /// Blanks around it, a sign, "$", thousands commas, parentheses for negative, an exponent. Nothing
 /// for a blank text or junk.
-std::optional<NumberScan> ScanNumber(std::string_view text);
+std::optional<Digits> ScanDigits(std::string_view text);
 
 } // namespace platform
