@@ -34,4 +34,4 @@ class TemporaryFolder {
     std::filesystem::path path_;
 };
 
-}  // namespace support
+} // namespace support
