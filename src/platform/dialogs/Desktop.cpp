@@ -1,0 +1,33 @@
+#include "platform/dialogs/Desktop.h"
+
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+/// For programs without a screen.
+class NoDesktop : public Desktop {
+  public:
+    bool OpenWebPage(std::string_view /*address*/) override { return false; }
+    bool WriteMail(std::string_view /*address*/) override { return false; }
+    bool OpenDocument(std::string_view /*file*/) override { return false; }
+};
+
+std::unique_ptr<Desktop>& Current() {
+    static std::unique_ptr<Desktop> current = std::make_unique<NoDesktop>();
+    return current;
+}
+
+} // namespace
+
+Desktop& TheDesktop() {
+    return *Current();
+}
+
+void SetDesktop(std::unique_ptr<Desktop> desktop) {
+    if (!desktop) desktop = std::make_unique<NoDesktop>();
+    Current() = std::move(desktop);
+}
+
+} // namespace platform

@@ -1,0 +1,59 @@
+#include "platform/qt/QtDialogs.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include "platform/qt/Text.h"
+
+namespace platform::qt {
+
+namespace {
+
+QMessageBox::Icon Picture(Icon icon) {
+    switch (icon) {
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Exclamation:
+            return QMessageBox::Warning;
+        case Icon::Critical:
+            return QMessageBox::Critical;
+        case Icon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+class MessageBoxes : public Dialogs {
+  public:
+    void ShowMessage(std::string_view title, std::string_view text, Icon icon) override {
+        Ask(title, text, icon, QMessageBox::Ok);
+    }
+    bool AskYesNo(std::string_view title, std::string_view text, Icon icon) override {
+        return Ask(title, text, icon, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    }
+
+  private:
+    static int Ask(std::string_view title, std::string_view text, Icon icon,
+                   QMessageBox::StandardButtons buttons) {
+        // A wait cursor of the work that asks must not stay over its question.
+        const QCursor* const busy = QApplication::overrideCursor();
+        if (busy) QApplication::setOverrideCursor(Qt::ArrowCursor);
+        QMessageBox box(Picture(icon), ToScreen(title),
+                        ToScreen(text).remove(QChar::CarriageReturn), buttons,
+                        QApplication::activeWindow());
+        box.setTextFormat(Qt::PlainText);
+        const int answer = box.exec();
+        if (busy) QApplication::restoreOverrideCursor();
+        return answer;
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Dialogs> MakeDialogs() {
+    return std::make_unique<MessageBoxes>();
+}
+
+} // namespace platform::qt
