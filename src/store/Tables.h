@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace store {
+
+/// What a field of the schema holds.
+enum class FieldKind {
+    Long,    ///< 32 bits; 0, never null, where nothing is linked
+    Counter, ///< a Long that may be null: nothing was counted yet
+    Integer, ///< 16 bits
+    Double,
+    Currency,
+    Boolean,
+    Text,
+    Memo,
+    DateText, ///< "mm/dd/yyyy"; empty or null where no day is set
+};
+
+struct FieldDefinition {
+    std::string name;
+    FieldKind kind;
+};
+
+/// A table with its fields in order. Each index names its columns, parted by blanks; none is
+/// unique.
+struct TableDefinition {
+    std::string name;
+    std::vector<FieldDefinition> fields;
+    std::vector<std::string> indexes;
+};
+
+/// Every table of the books.
+const std::vector<TableDefinition>& BooksTables();
+
+/// The tables of the reference database: zip codes and the pages of the tax offices.
+const std::vector<TableDefinition>& ReferenceTables();
+
+/// The type that the schema declares a field of this kind with.
+std::string_view DeclaredType(FieldKind kind);
+
+/// The statements that make these tables and their indexes, in the engine's own SQL.
+std::string SchemaScript(const std::vector<TableDefinition>& tables);
+
+} // namespace store
