@@ -49,11 +49,11 @@ Currency Currency::FromDouble(double units) {
 }
 
 double Currency::ToDouble() const {
-    const auto whole = static_cast<double>(scaled_ / kScale);
-    if (std::fabs(whole) < kExactDoubles / static_cast<double>(kScale)) {
-        return static_cast<double>(scaled_) / static_cast<double>(kScale);
-    }
-    return whole + static_cast<double>(scaled_ % kScale) / static_cast<double>(kScale);
+    constexpr auto scale = static_cast<double>(kScale);
+    const auto scaled = static_cast<double>(scaled_);
+    if (std::fabs(scaled) < kExactDoubles) return scaled / scale;
+    const std::int64_t units = scaled_ / kScale;
+    return static_cast<double>(units) + static_cast<double>(scaled_ % kScale) / scale;
 }
 
 } // namespace platform

@@ -55,7 +55,8 @@ class Currency {
         return amount * factor;
     }
 
-    friend constexpr auto operator<=>(Currency, Currency) = default;
+    friend constexpr bool operator==(Currency, Currency) = default;
+    friend constexpr auto operator<=>(Currency a, Currency b) { return a.scaled_ <=> b.scaled_; }
 
   private:
     constexpr explicit Currency(std::int64_t scaled) : scaled_(scaled) {}

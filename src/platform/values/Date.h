@@ -47,7 +47,8 @@ class Date {
     /// "mm/dd/yyyy", empty when unset.
     std::string ToText() const;
 
-    friend constexpr auto operator<=>(Date, Date) = default;
+    friend constexpr bool operator==(Date, Date) = default;
+    friend constexpr auto operator<=>(Date a, Date b) { return a.serial_ <=> b.serial_; }
 
   private:
     static constexpr int kUnset = -2'147'483'647;

@@ -1,9 +1,8 @@
 #include "platform/values/Text.h"
 
-#include <locale.h>
-#include <wctype.h>
-
 #include <algorithm>
+#include <clocale>
+#include <cwctype>
 
 namespace platform {
 
@@ -145,7 +144,8 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
 bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
     if (!IsAscii(part)) return ToLower(text).find(ToLower(part)) != std::string::npos;
     const auto same = [](char a, char b) { return LowerAscii(a) == LowerAscii(b); };
-    return part.empty() || !std::ranges::search(text, part, same).empty();
+    return part.empty() ||
+           std::search(text.begin(), text.end(), part.begin(), part.end(), same) != text.end();
 }
 
 std::string LeftCharacters(std::string_view text, std::size_t count) {
