@@ -46,4 +46,4 @@ void UpdateRecords(RunListener& listener);
 /// The same with nobody listening.
 void UpdateRecords();
 
-}  // namespace core
+} // namespace core

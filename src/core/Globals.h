@@ -48,6 +48,9 @@ Globals& App();
 inline constexpr std::array<std::string_view, 3> TaxClasses = {"Income", "Expenses",
                                                                "Unclassified"};
 
+/// Sets the paths of the program's files, those below `directory`.
+void SetAppPath(std::string_view directory);
+
 /// Sets the paths from where the program stands, then reads the switches of `commandLine` (the text
 /// behind the program's name) and makes the directories.
 void InitGlobals(std::string_view commandLine);
@@ -58,4 +61,4 @@ void ParseCommandLine(std::string_view commandLine);
 /// Makes the program's directories; one that exists or can't be made is passed over.
 void MakeDirectories();
 
-}  // namespace core
+} // namespace core

@@ -26,4 +26,4 @@ class NotifyToken {
 /// settings in memory are read again first when they are the kind. A listener's failure is ignored.
 void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id);
 
-}  // namespace core
+} // namespace core

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <iosfwd>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,8 +22,8 @@ namespace core {
 bool OpenDatabase(platform::Connection& connection, std::string& path);
 bool CloseDatabase(platform::Connection& connection);
 
-/// Runs one statement on the process's connection.
-bool ExecuteSql(std::string_view sql);
+/// Runs one statement on the process's connection, with a value for each `?` in it.
+bool ExecuteSql(std::string_view sql, std::initializer_list<platform::Value> parameters = {});
 
 enum class Access { ReadOnly, ReadWrite };
 
@@ -39,9 +41,12 @@ std::int32_t CountTable(std::string_view table);
 /// Rows that meet `where` (without the word WHERE, may be empty); 0 on failure.
 std::int32_t CountRecords(std::string_view table, std::string_view where);
 
-/// Reads the column `Result` of the first row into `value`, which stays as it was without a row or
-/// on failure.
+/// Reads the column `Result` of the first row into `value`, which stays as it was without a row,
+/// for a null and on failure.
 void GetScalar(std::string_view sql, platform::Value& value);
+/// The first column of the first row; nothing without a row, for a null and on failure.
+std::optional<platform::Value> LookUp(std::string_view sql,
+                                      std::initializer_list<platform::Value> parameters);
 
 bool TableExists(std::string_view table);
 /// Whether the table has every one of these fields.
@@ -69,4 +74,4 @@ void AddWhere(std::string& sql, std::string_view condition);
 /// that is null. The caller writes the row.
 bool RepairNulls(platform::Recordset& rows, std::ostream* diagFile);
 
-}  // namespace core
+} // namespace core

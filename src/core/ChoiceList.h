@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace core {
+
+struct Choice {
+    std::string text;
+    std::int32_t id = 0;
+
+    friend bool operator==(const Choice&, const Choice&) = default;
+};
+
+/// What a drop-down list offers and shows: rows of a text and an identifier, the selected row, and
+/// the text in its box, which a person may have typed.
+class ChoiceList {
+  public:
+    const std::vector<Choice>& Rows() const { return rows_; }
+    /// The index of the selected row.
+    std::optional<std::size_t> Selected() const { return selected_; }
+    const std::string& Text() const { return text_; }
+
+    void Add(std::string_view text, std::int32_t id);
+    /// No rows, no selection, no text.
+    void Clear();
+    /// Selects a row, whose text goes into the box. A row that isn't there is not selected.
+    void Select(std::size_t row);
+    /// Puts a text in the box; the selection goes unless it is the selected row's own.
+    void SetText(std::string_view text);
+
+  private:
+    std::vector<Choice> rows_;
+    std::optional<std::size_t> selected_;
+    std::string text_;
+};
+
+} // namespace core

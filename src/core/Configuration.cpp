@@ -1,0 +1,84 @@
+#include "core/Configuration.h"
+
+#include <exception>
+
+#include "core/ConfigFields.h"
+#include "core/Session.h"
+
+namespace core {
+
+namespace {
+
+// What a field that can't be read counts as is what its member starts with.
+template <typename Read>
+auto OrEmpty(Read read) -> decltype(read()) {
+    try {
+        return read();
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+struct Reader {
+    platform::Recordset& rows;
+    std::string_view name;
+    ConfigValues& values;
+
+    platform::Value Read() const { return rows[name].Value(); }
+
+    void operator()(std::monostate) const {}
+    void operator()(std::string ConfigValues::*member) const {
+        values.*member = OrEmpty([&] { return Read().AsText(); });
+    }
+    void operator()(std::int16_t ConfigValues::*member) const {
+        values.*member = OrEmpty([&] { return Read().AsInteger(); });
+    }
+    void operator()(std::int32_t ConfigValues::*member) const {
+        values.*member = OrEmpty([&] { return Read().AsLong(); });
+    }
+    void operator()(platform::Currency ConfigValues::*member) const {
+        values.*member = OrEmpty([&] { return Read().AsCurrency(); });
+    }
+    void operator()(double ConfigValues::*member) const {
+        values.*member = OrEmpty([&] { return Read().AsDouble(); });
+    }
+    void operator()(bool ConfigValues::*member) const {
+        values.*member = OrEmpty([&] { return Read().AsBoolean(); });
+    }
+};
+
+} // namespace
+
+ConfigValues& Config() {
+    static ConfigValues values;
+    return values;
+}
+
+void LoadConfiguration() {
+    platform::Recordset rows;
+    if (OpenRecordset(rows, "SELECT * FROM Configuration", Access::ReadOnly) < 1) return;
+    for (const ConfigField& field : ConfigFields()) {
+        std::visit(Reader{rows, field.name, Config()}, field.member);
+    }
+}
+
+bool CreateDefaultConfiguration(platform::Connection& connection) {
+    std::string path;
+    if (!connection.IsOpen() && !OpenDatabase(connection, path)) return false;
+    try {
+        platform::Recordset rows;
+        rows.Open(connection, "SELECT * FROM Configuration", platform::CursorMode::Updatable);
+        // A count that failed may have made the table look empty.
+        if (!rows.Eof()) return false;
+        rows.AddNew();
+        for (const ConfigField& field : ConfigFields()) {
+            if (!field.newValue.IsNull()) rows[field.name].Set(field.newValue);
+        }
+        rows.Update();
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+} // namespace core

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+
+namespace core {
+
+/// Notices that the day has changed while the program stays open. The first tick only remembers its
+/// day, since the start has just brought the books up to date.
+class DayChange {
+  public:
+    /// Called every now and then; does `work` when the day of the month is another than at the tick
+    /// before. What the work throws is thrown on, and the next tick tries again.
+    void Tick(const std::function<void()>& work);
+
+  private:
+    unsigned rememberedDay_ = 0;
+};
+
+} // namespace core

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <iosfwd>
+#include <string_view>
+
+namespace core {
+
+/// Adds a line to the diagnostic log, unless it is off (null). Lines of the normal course begin
+/// with "{ } ", those of a fault with "{*} ". A failure to write is passed over.
+void WriteDiag(std::ostream* diagFile, std::string_view line);
+
+} // namespace core

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace core {
+
+/// A record to open: 0 for a new one. What the parents are depends on the kind; for a transaction
+/// and a unit, `parent2` is the record that a new one is copied from.
+struct EditRequest {
+    std::int16_t kind = 0;
+    std::int32_t id = 0;
+    std::int32_t parent1 = 0;
+    std::int32_t parent2 = 0;
+    std::int32_t parent3 = 0;
+
+    friend bool operator==(const EditRequest&, const EditRequest&) = default;
+};
+
+using RecordOpener = std::function<void(const EditRequest& request)>;
+
+/// Gives a kind the editor that opens its records, all but transactions'.
+void RegisterOpener(std::int16_t kind, RecordOpener opener);
+
+/// The screen that a transaction is edited on: that of the payment which made it, if one did.
+enum class TransactionEditor { Transaction, RentPayment, MortgagePayment };
+
+/// A transaction's editor, with the lease and the mortgage that it is about (0 for none).
+struct TransactionPlace {
+    TransactionEditor editor = TransactionEditor::Transaction;
+    std::int32_t idLease = 0;
+    std::int32_t idMortgage = 0;
+
+    friend bool operator==(const TransactionPlace&, const TransactionPlace&) = default;
+};
+
+/// Where a stored transaction is edited; the transaction's own editor for id 0 and for one that
+/// can't be read.
+TransactionPlace FindTransactionPlace(std::int32_t id);
+
+using TransactionOpener =
+    std::function<void(const EditRequest& request, const TransactionPlace& place)>;
+void RegisterTransactionOpener(TransactionEditor editor, TransactionOpener opener);
+
+/// Gives the process its way of finding the open editor of an identifier and bringing it to the
+/// front: true when there is one, in whatever state.
+void RegisterOpenRecords(std::function<bool(std::int32_t id)> bringToFront);
+
+/// Brings the open editor of the record to the front, or opens one; a new record (id 0) always gets
+/// an editor of its own. Nothing opens for a kind without an editor.
+void EditRecord(std::int16_t kind, std::int32_t id, std::int32_t parent1 = 0,
+                std::int32_t parent2 = 0, std::int32_t parent3 = 0);
+
+} // namespace core

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "platform/system/Process.h"
+
+namespace core {
+
+enum class DatabaseState { Ready = 0, Missing = 1, TooOld = 2 };
+
+/// Looks in the registry for the database directory of the process's name and sets the process's
+/// database path and file; a newer database than required is ready too. The "Default" one may also
+/// be found where the old settings have it, which are then moved over. Each finding goes to
+/// `diagFile` unless that is null.
+DatabaseState FindDatabase(std::ostream* diagFile);
+
+/// The version in the database directory's file "Version"; 0 when it is missing or holds no number
+/// of 16 bits.
+std::int16_t ReadDbVersion();
+
+/// How StartDatabaseMender leaves this process.
+struct MenderHandover {
+    std::function<bool(const std::filesystem::path& program,
+                       const std::vector<std::string>& arguments)>
+        start = platform::StartDetached;
+    /// Must not return, except under test.
+    std::function<void()> endProcess;
+};
+
+/// For a database that is missing or too old: tells the person, starts the sibling program that
+/// mends databases (it starts this one again afterwards) and ends this process; says so when there
+/// is no such program.
+void StartDatabaseMender(const MenderHandover& handover);
+
+} // namespace core

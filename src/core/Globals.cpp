@@ -1,0 +1,78 @@
+#include "core/Globals.h"
+
+#include <utility>
+
+#include "core/AppPath.h"
+#include "core/RegistryKeys.h"
+#include "platform/system/Paths.h"
+#include "platform/values/Text.h"
+
+namespace core {
+
+namespace {
+
+struct Switch {
+    std::string_view name;
+    void (*apply)(Globals& app, std::string value);
+};
+
+// Those that nothing reads are accepted for the sibling programs, which share the command line.
+constexpr std::array<Switch, 8> kSwitches = {{
+    {"nodb", [](Globals& app, std::string) { app.SwitchNoDb = true; }},
+    {"diag", [](Globals& app, std::string) { app.SwitchDiag = true; }},
+    {"upgradedb", [](Globals& app, std::string) { app.SwitchUpgradeDb = true; }},
+    {"expert", [](Globals& app, std::string) { app.Expert = true; }},
+    {"loadfile", [](Globals& app, std::string value) { app.LoadFile = std::move(value); }},
+    {"altdb", [](Globals& app, std::string value) { app.DbName = std::move(value); }},
+    {"appstart", [](Globals& app, std::string value) { app.AppStart = std::move(value); }},
+    {"nowarning", [](Globals&, std::string) {}},
+}};
+
+void ApplySwitch(std::string_view text) {
+    const auto equals = text.find('=');
+    const auto name = platform::Trim(text.substr(0, equals));
+    std::string_view value;
+    if (equals != std::string_view::npos) value = platform::Trim(text.substr(equals + 1));
+    for (const Switch& known : kSwitches) {
+        if (known.name == name) known.apply(App(), std::string(value));
+    }
+}
+
+} // namespace
+
+Globals& App() {
+    static Globals app;
+    return app;
+}
+
+void SetAppPath(std::string_view directory) {
+    Globals& app = App();
+    app.AppPath = platform::AddBackslash(directory);
+    app.ReportPath = platform::AddBackslash(app.AppPath + "Reports");
+    app.HelpFile = app.AppPath + "Vestrel.chm";
+    app.HasReferences = platform::FileExists(app.AppPath + "References.mdb");
+}
+
+void InitGlobals(std::string_view commandLine) {
+    SetAppPath(ChooseAppPath(platform::ExecutablePath().parent_path(), platform::DataHome()));
+    ParseCommandLine(commandLine);
+    MakeDirectories();
+}
+
+void ParseCommandLine(std::string_view commandLine) {
+    const std::string line = platform::ToLower(platform::Trim(commandLine));
+    std::string_view rest = line;
+    for (auto slash = rest.find('/'); slash != std::string_view::npos; slash = rest.find('/')) {
+        rest.remove_prefix(slash + 1);
+        ApplySwitch(rest.substr(0, rest.find('/')));
+    }
+}
+
+void MakeDirectories() {
+    for (const std::string_view name : {"db", "Backup", "Docs", "Files"}) {
+        std::error_code ignored;
+        std::filesystem::create_directory(std::filesystem::path(App().AppPath) / name, ignored);
+    }
+}
+
+} // namespace core

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "core/ChoiceList.h"
+
+namespace core {
+
+struct FillOptions {
+    /// The identifier to select (of several rows that have it the last); 0 keeps the list's
+    /// selection, by its identifier.
+    std::int32_t selectedId = 0;
+    /// A first row "[ No ... Selected ]" of identifier 0, where the kind has one.
+    bool addNone = false;
+    /// The text in the box stays as it was.
+    bool keepText = false;
+    /// The unit or building whose rows are offered, for the kinds that depend on one.
+    std::int32_t parentId = 0;
+};
+
+/// Fills a list with the records of a kind in the order of their text, and selects the first row
+/// when nothing else is. A kind that has no list leaves it empty. Failures are thrown: a record
+/// whose text is null ends the filling at its row.
+void FillList(int kind, ChoiceList& list, const FillOptions& options = {});
+
+/// Adds the pieces between commas, as they stand, that aren't blank.
+void FillFromCommaList(ChoiceList& list, std::string_view text);
+
+/// The identifier of the selected row, 0 without one.
+std::int32_t GetSelectedId(const ChoiceList& list);
+
+struct NoMatch {
+    /// Selects the first row.
+    bool selectFirst = false;
+    /// Puts the text that was looked for in the box, which keeps a value no longer offered.
+    bool setText = false;
+};
+
+/// Selects the first row with this identifier; without one, the first row if told so.
+void SelectById(ChoiceList& list, std::int32_t id, NoMatch otherwise = {});
+
+/// Selects the first row of this text, without regard to case; without one, does what it is told.
+void SelectByText(ChoiceList& list, std::string_view text, NoMatch otherwise = {});
+
+} // namespace core

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+
+namespace core {
+
+/// How this person wants the program on this machine; each stands under its name in the registry,
+/// and starts with its default.
+struct PreferenceValues {
+    bool EnableExpert = false;
+    /// Column sizing of grids: 0 by hand, 1 to the grid, 2 to the text.
+    std::int32_t AutoSize = 1;
+    std::int32_t DisplayDays = 180;
+    bool ShowSplash = true;
+    std::int32_t ReportOutput = 0;
+    bool ConfirmDelete = true;
+    bool ConfirmCancel = true;
+    bool ConfirmMoves = true;
+
+    // What the home page shows, and how many days before.
+    bool LateRent = true;
+    bool LateMortgage = true;
+    bool LeaseExpiring = true;
+    std::int32_t LeaseExpiringDays = 45;
+    bool MtgEscrow = true;
+    std::int32_t MtgEscrowDays = 30;
+    bool InsRenew = true;
+    std::int32_t InsRenewDays = 30;
+    bool HOAPmt = true;
+    std::int32_t HOAPmtDays = 15;
+    bool WOStatus = true;
+    /// Days that messages stay.
+    std::int32_t KeepDays = 7;
+
+    // The report viewer; their names in the registry begin with "Reports\".
+    bool ColWrap = true;
+    bool ViewNavbar = true;
+    bool ViewToolbar = true;
+};
+
+/// The preferences as last loaded or changed.
+PreferenceValues& Preferences();
+
+/// Reads all of them, defaults for those that are missing. EnableExpert makes the process an
+/// expert's; without it the command line's word stands.
+void LoadPreferences();
+
+/// Writes all of them; false if one couldn't be written.
+bool SavePreferences();
+
+} // namespace core

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace core {
+
+// Questions to the reference tables beside the program. Without those tables, and on any failure,
+// nothing is found.
+
+/// The assessor's page for a tax account of a county, empty when the county isn't known. A state of
+/// two letters is taken for its abbreviation.
+std::string FindTaxUrl(std::string_view account, std::string_view county, std::string_view state);
+/// Opens that page in the browser; nothing happens without one.
+void GetTaxUrl(std::string_view account, std::string_view county, std::string_view state);
+
+struct ZipPlace {
+    std::string city;
+    std::string state;
+    std::string county;
+};
+
+/// The place of a zip code, which must be digits alone.
+std::optional<ZipPlace> ZipLookup(std::string_view zip);
+
+} // namespace core

@@ -1,0 +1,19 @@
+#pragma once
+
+namespace core {
+
+// The steps of the start that need no window, in the order of their call: InitGlobals,
+// LoadPreferences, FindDatabase, OpenBooks, UpdateRecords, CleanTmpFiles.
+
+/// Opens the session on the database that was found, and LoadBooks. False when it can't be opened;
+/// the program goes on all the same, with empty views.
+bool OpenBooks();
+
+/// Gives books that have no settings the default ones, and reads the settings into memory. Failures
+/// are passed over.
+void LoadBooks();
+
+/// Deletes the temporary files in the program's directory; failures are passed over.
+void CleanTmpFiles();
+
+} // namespace core
