@@ -18,8 +18,7 @@ std::optional<std::size_t> PointAt(std::u32string_view text) {
     return at;
 }
 
-/// Digits and one point; `decimals` limits the digits behind the point, unless the caret stands
-/// where the digit would push others out: that is left to the reading of the number.
+/// Digits and one point; `decimals` is how far behind the point the caret may stand for a digit.
 bool NumberTakes(const KeyedBox& box, char32_t key, std::optional<std::size_t> decimals) {
     const auto point = PointAt(box.text);
     if (key == U'.') return !point;

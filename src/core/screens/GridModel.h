@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QColor>
+#include <functional>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+#include "core/screens/GridFormat.h"
+#include "platform/database/Recordset.h"
+
+namespace core::screens {
+
+/// The colour of a cell by its value; nothing for a plain cell.
+using ColorRule = std::function<std::optional<QColor>(const platform::Value&)>;
+
+/// The rows of a row set as text. A cell is formatted when it is shown, so a view of a million rows
+/// costs what it shows.
+class GridModel : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// Takes over an open row set; every column gets the format of its field's type.
+    void SetRows(platform::Recordset rows);
+    /// Whether SetRows was called.
+    bool IsLoaded() const { return !columns_.empty(); }
+
+    /// Shows only the rows that have `text` in any column but the hidden first ones, without regard
+    /// to case; all rows for an empty text.
+    void Narrow(const QString& text, int firstColumn);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    platform::Value CellValue(int row, int column) const;
+    QString CellText(int row, int column) const;
+    QString Caption(int column) const;
+    platform::FieldType TypeOf(int column) const;
+
+    void SetFormat(int column, ColumnFormat format);
+    /// Outside the grid nothing happens.
+    void SetColor(int column, int row, QColor color);
+    void SetColorRule(int column, ColorRule rule);
+    void SetBoldHeader(bool bold);
+
+  private:
+    struct Column {
+        QString caption;
+        platform::FieldType type = platform::FieldType::Text;
+        ColumnFormat format;
+        ColorRule color;
+    };
+
+    std::int64_t Source(int row) const;
+    bool RowHas(std::int64_t source, const QString& text, std::size_t firstColumn) const;
+    QString SourceText(std::int64_t source, std::size_t column) const;
+    std::optional<QColor> ColorOf(const QModelIndex& index) const;
+
+    // Reading a row makes it current, which is all that reading changes.
+    mutable platform::Recordset rows_;
+    std::int64_t rowCount_ = 0;
+    std::vector<Column> columns_;
+    std::unordered_map<std::int64_t, QColor> colors_;
+    QString narrowed_;
+    std::vector<std::int32_t> shown_; ///< while narrowed, the rows that are left
+    bool boldHeader_ = true;
+};
+
+} // namespace core::screens

@@ -1,0 +1,53 @@
+#include "core/screens/OpenForms.h"
+
+#include <QPointer>
+#include <vector>
+
+#include "core/EditRecord.h"
+#include "core/MessagePump.h"
+#include "core/screens/Form.h"
+
+namespace core::screens {
+
+namespace {
+
+std::vector<QPointer<Form>>& Forms() {
+    static std::vector<QPointer<Form>> forms;
+    return forms;
+}
+
+} // namespace
+
+void AddOpenForm(Form& form) {
+    std::erase_if(Forms(), [](const QPointer<Form>& gone) { return gone.isNull(); });
+    Forms().emplace_back(&form);
+}
+
+bool BringToFront(std::int32_t id) {
+    for (const QPointer<Form>& form : Forms()) {
+        if (!form || id == 0 || form->OpenRecordId() != id) continue;
+        if (form->isEnabled()) {
+            if (form->isMinimized()) form->showNormal();
+            form->raise();
+            form->activateWindow();
+        }
+        return true;
+    }
+    return false;
+}
+
+void CloseAllForms() {
+    // What closes may close others, so each is looked at again when its turn comes.
+    const std::vector<QPointer<Form>> forms = Forms();
+    for (auto form = forms.rbegin(); form != forms.rend(); ++form) {
+        if (!*form) continue;
+        (*form)->CloseUnasked();
+        LetMessagesRun();
+    }
+}
+
+void RegisterOpenForms() {
+    RegisterOpenRecords([](std::int32_t id) { return BringToFront(id); });
+}
+
+} // namespace core::screens
