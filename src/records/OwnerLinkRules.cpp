@@ -1,0 +1,89 @@
+#include "records/OwnerLinkRules.h"
+
+#include "core/Globals.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/values/Conversions.h"
+#include "platform/values/Errors.h"
+
+namespace records {
+
+namespace {
+
+platform::Connection& Books() {
+    return core::App().Connection;
+}
+
+/// A text that is no number counts as 0, one past all numbers as too many.
+double PercentOf(const std::string& text) {
+    try {
+        return platform::TryParseNumber(text).value_or(0);
+    } catch (const platform::OverflowError&) {
+        return 101;
+    }
+}
+
+bool HasOtherLink(const OwnerEntry& entry) {
+    return Books()
+        .Scalar(
+            "SELECT IdOwnerLink FROM OwnerLink WHERE IdOwnerLink <> ? "
+            "AND (IdBuilding = ?) AND (IdAccount = ?)",
+            {entry.idOwnerLink, entry.idBuilding, entry.idAccount})
+        .has_value();
+}
+
+void TellTotal(std::int32_t idBuilding) {
+    const platform::Value sum =
+        Books()
+            .Scalar("SELECT SUM(Percent) AS TotalPercent FROM OwnerLink WHERE IdBuilding = ?",
+                    {idBuilding})
+            .value_or(platform::Value());
+    const double total = sum.IsNull() ? 0 : sum.AsDouble();
+    if (total == 100) return;
+    platform::TheDialogs().ShowMessage("Notice",
+                                       "Note: the total ownership for this building is currently " +
+                                           platform::NumberToText(total) + "%",
+                                       platform::Icon::Information);
+}
+
+bool HasPrimary(std::int32_t idBuilding) {
+    const auto count = Books().Scalar(
+        "SELECT Count(*) AS Result FROM OwnerLink WHERE IdBuilding = ? AND IsPrimary = True",
+        {idBuilding});
+    return count && !count->IsNull() && count->AsLong() > 0;
+}
+
+} // namespace
+
+std::vector<std::string> OwnerErrors(const OwnerEntry& entry) {
+    std::vector<std::string> lines;
+    if (entry.idBuilding == 0) lines.emplace_back("A building must be selected.");
+    if (entry.idAccount == 0) lines.emplace_back("An owner must be selected.");
+    const double percent = PercentOf(entry.percent);
+    if (!(percent >= 1 && percent <= 100)) {
+        lines.emplace_back("Percentage owned must be between 1 and 100 percent.");
+    }
+    if (HasOtherLink(entry)) {
+        lines.emplace_back("A duplicate record for this building and owner already exist.");
+    }
+    return lines;
+}
+
+void CheckOwnership(std::int32_t idBuilding, std::int32_t idOwnerLink, PrimaryMark mark) {
+    TellTotal(idBuilding);
+    if (mark == PrimaryMark::Yes) {
+        Books().Execute(
+            "UPDATE OwnerLink SET IsPrimary = False WHERE IdBuilding = ? AND IdOwnerLink <> ?",
+            {idBuilding, idOwnerLink});
+        return;
+    }
+    if (HasPrimary(idBuilding)) return;
+    platform::TheDialogs().ShowMessage(
+        "Note:",
+        "There are no other owners for this building specified as primary, so this\n"
+        "one will automatically be set as primary. If you add another owner and set\n"
+        "it as primary this will be overridden.",
+        platform::Icon::Information);
+    Books().Execute("UPDATE OwnerLink SET IsPrimary = True WHERE IdOwnerLink = ?", {idOwnerLink});
+}
+
+} // namespace records

@@ -1,0 +1,50 @@
+#include "records/screens/frmOwnerLink.h"
+
+#include "core/RecordKinds.h"
+#include "core/screens/ComboList.h"
+#include "platform/qt/Text.h"
+#include "records/OwnerLinkRules.h"
+#include "ui_frmOwnerLink.h"
+
+namespace records::screens {
+
+using core::screens::FillList;
+using core::screens::GetSelectedId;
+
+frmOwnerLink::frmOwnerLink(QWidget* parent)
+    : RecordForm({core::kOwner, "OwnerLink", "IdOwnerLink"}, parent, core::FormSizing::Fixed),
+      ui_(std::make_unique<Ui::frmOwnerLink>()) {
+    ui_->setupUi(this);
+    Wire();
+}
+
+frmOwnerLink::~frmOwnerLink() = default;
+
+void frmOwnerLink::Setup(std::int32_t id, std::int32_t parentBuilding) {
+    OpenRecord(id, [this, parentBuilding] {
+        FillList(core::kBuilding, *ui_->cboBuilding, {.selectedId = parentBuilding});
+        FillList(core::kBuildingOwnerAccount, *ui_->cboOwner);
+    });
+}
+
+void frmOwnerLink::ShowCaption() {
+    setWindowTitle(Id() == 0 ? tr("Adding New Owner")
+                             : tr("Owner: %1").arg(ui_->cboOwner->currentText()));
+}
+
+std::vector<std::string> frmOwnerLink::Errors() {
+    return OwnerErrors({Id(), GetSelectedId(*ui_->cboBuilding), GetSelectedId(*ui_->cboOwner),
+                        platform::qt::FromScreen(ui_->txtPctOwned->text())});
+}
+
+void frmOwnerLink::AfterSave() {
+    CheckOwnership(GetSelectedId(*ui_->cboBuilding), Id(),
+                   ui_->chkIsPrimary->isChecked() ? PrimaryMark::Yes : PrimaryMark::No);
+}
+
+void frmOwnerLink::Refresh(std::int16_t kind) {
+    if (kind == core::kBuilding) FillList(core::kBuilding, *ui_->cboBuilding);
+    if (kind == core::kAccount) FillList(core::kBuildingOwnerAccount, *ui_->cboOwner);
+}
+
+} // namespace records::screens

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/RecordForm.h"
+
+namespace Ui {
+class frmOwnerLink;
+}
+
+namespace records::screens {
+
+/// One owner of a building.
+class frmOwnerLink : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmOwnerLink(QWidget* parent = nullptr);
+    ~frmOwnerLink() override;
+
+    /// Opens an owner, or a new one of `parentBuilding`.
+    void Setup(std::int32_t id, std::int32_t parentBuilding);
+
+  protected:
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void AfterSave() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    std::unique_ptr<Ui::frmOwnerLink> ui_;
+};
+
+} // namespace records::screens
