@@ -3,6 +3,8 @@
 #include <QComboBox>
 #include <QSignalBlocker>
 
+#include "core/PickLists.h"
+#include "core/screens/Tags.h"
 #include "platform/qt/Text.h"
 
 namespace core::screens {
@@ -77,6 +79,16 @@ void SelectByText(QComboBox& combo, std::string_view text, NoMatch otherwise) {
     ChoiceList list = ReadCombo(combo);
     core::SelectByText(list, text, otherwise);
     ShowSelection(list, combo);
+}
+
+void LoadPickList(QComboBox& combo) {
+    ChoiceList list = ReadCombo(combo);
+    core::LoadPickList(list, TagOf(combo));
+    ShowInCombo(list, combo);
+}
+
+void SavePickList(const QComboBox& combo) {
+    core::SavePickList(ReadCombo(combo), TagOf(combo));
 }
 
 } // namespace core::screens

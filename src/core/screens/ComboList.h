@@ -26,4 +26,9 @@ std::int32_t GetSelectedId(const QComboBox& combo);
 void SelectById(QComboBox& combo, std::int32_t id, NoMatch otherwise = {});
 void SelectByText(QComboBox& combo, std::string_view text, NoMatch otherwise = {});
 
+/// The remembered items of the field in the combo box's tag join the list; its text stays.
+void LoadPickList(QComboBox& combo);
+/// Remembers a typed text that isn't offered yet.
+void SavePickList(const QComboBox& combo);
+
 } // namespace core::screens
