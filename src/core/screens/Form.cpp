@@ -1,34 +1,16 @@
 #include "core/screens/Form.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QLayout>
-#include <QScreen>
 #include <QShortcut>
 
-#include "core/screens/FormPlace.h"
 #include "core/screens/Help.h"
 #include "core/screens/OpenForms.h"
 #include "core/screens/Tags.h"
+#include "core/screens/WindowPlace.h"
 #include "platform/qt/Text.h"
 
 namespace core::screens {
-
-namespace {
-
-FormRectangle ToPlace(const QRect& rect) {
-    return {rect.left(), rect.top(), rect.width(), rect.height()};
-}
-
-std::vector<FormRectangle> Screens() {
-    std::vector<FormRectangle> screens;
-    for (const QScreen* const screen : QGuiApplication::screens()) {
-        screens.push_back(ToPlace(screen->availableGeometry()));
-    }
-    return screens;
-}
-
-} // namespace
 
 Form::Form(QWidget* parent, FormSizing sizing)
     : QDialog(parent, Qt::Window),
@@ -51,6 +33,10 @@ void Form::CloseUnasked() {
     close();
 }
 
+bool Form::AsksNothingMore() {
+    return !asks_ || MayClose();
+}
+
 void Form::reject() {
     close();
 }
@@ -63,11 +49,11 @@ void Form::Open() {
 void Form::NotifyUpdate(std::int16_t /*kind*/, std::int16_t /*action*/, std::int32_t /*id*/) {}
 
 void Form::closeEvent(QCloseEvent* event) {
-    if (asks_ && !MayClose()) {
+    if (!AsksNothingMore()) {
         event->ignore();
         return;
     }
-    Save();
+    SaveWindow(*this);
     event->accept();
 }
 
@@ -76,26 +62,7 @@ void Form::Restore() {
     isPlaced_ = true;
     if (sizing_ == FormSizing::Fixed && layout())
         layout()->setSizeConstraint(QLayout::SetFixedSize);
-    const FormPlacement stored = RestoreForm(platform::qt::FromScreen(objectName()), sizing_);
-    if (stored.place) {
-        FormRectangle wanted = *stored.place;
-        if (!stored.appliesSize) {
-            wanted.width = width();
-            wanted.height = height();
-        }
-        const FormRectangle place = RescuedPlace(wanted, Screens());
-        move(place.left, place.top);
-        if (stored.appliesSize) resize(place.width, place.height);
-    }
-    if (stored.state == WindowState::Maximized) setWindowState(Qt::WindowMaximized);
-    if (stored.state == WindowState::Minimized) setWindowState(Qt::WindowMinimized);
-}
-
-void Form::Save() const {
-    WindowState state = WindowState::Normal;
-    if (isMaximized()) state = WindowState::Maximized;
-    if (isMinimized()) state = WindowState::Minimized;
-    SaveForm(platform::qt::FromScreen(objectName()), state, ToPlace(QRect(pos(), size())));
+    RestoreWindow(*this, sizing_);
 }
 
 } // namespace core::screens

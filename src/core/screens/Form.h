@@ -20,6 +20,8 @@ class Form : public QDialog {
     /// "tag" as text.
     std::int32_t OpenRecordId() const;
 
+    /// Asks what there is to ask before the form may close; true when it may.
+    bool AsksNothingMore();
     /// Closes whatever there is to be asked, for the end of the process.
     void CloseUnasked();
 
@@ -38,7 +40,6 @@ class Form : public QDialog {
 
   private:
     void Restore();
-    void Save() const;
 
     FormSizing sizing_;
     bool isPlaced_ = false;

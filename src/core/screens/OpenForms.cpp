@@ -1,6 +1,7 @@
 #include "core/screens/OpenForms.h"
 
 #include <QPointer>
+#include <algorithm>
 #include <vector>
 
 #include "core/EditRecord.h"
@@ -34,6 +35,12 @@ bool BringToFront(std::int32_t id) {
         return true;
     }
     return false;
+}
+
+bool MayCloseAllForms() {
+    const std::vector<QPointer<Form>> forms = Forms();
+    return std::all_of(forms.rbegin(), forms.rend(),
+                       [](const QPointer<Form>& form) { return !form || form->AsksNothingMore(); });
 }
 
 void CloseAllForms() {
