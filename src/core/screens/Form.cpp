@@ -33,7 +33,7 @@ void Form::CloseUnasked() {
     close();
 }
 
-bool Form::AsksNothingMore() {
+bool Form::AskToClose() {
     return !asks_ || MayClose();
 }
 
@@ -49,7 +49,7 @@ void Form::Open() {
 void Form::NotifyUpdate(std::int16_t /*kind*/, std::int16_t /*action*/, std::int32_t /*id*/) {}
 
 void Form::closeEvent(QCloseEvent* event) {
-    if (!AsksNothingMore()) {
+    if (!AskToClose()) {
         event->ignore();
         return;
     }

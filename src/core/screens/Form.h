@@ -21,7 +21,7 @@ class Form : public QDialog {
     std::int32_t OpenRecordId() const;
 
     /// Asks what there is to ask before the form may close; true when it may.
-    bool AsksNothingMore();
+    bool AskToClose();
     /// Closes whatever there is to be asked, for the end of the process.
     void CloseUnasked();
 

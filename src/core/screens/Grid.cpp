@@ -154,7 +154,7 @@ platform::FieldType LoadGrid(Grid& grid, platform::Recordset rows, HeaderFont he
     grid.Model().SetRows(std::move(rows));
     grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
     grid.setUpdatesEnabled(true);
-    return grid.Model().TypeOf(0);
+    return grid.Model().IsLoaded() ? grid.Model().TypeOf(0) : platform::FieldType::Text;
 }
 
 void SetCellColor(Grid& grid, int column, int row, QColor color) {

@@ -19,12 +19,13 @@ std::int64_t CellKey(std::int64_t row, int column) {
 void GridModel::SetRows(platform::Recordset rows) {
     beginResetModel();
     rows_ = std::move(rows);
-    rowCount_ = rows_.RecordCount();
+    rowCount_ = rows_.IsOpen() ? rows_.RecordCount() : 0;
     columns_.clear();
     colors_.clear();
     narrowed_.clear();
     shown_.clear();
-    for (std::size_t i = 0; i < rows_.FieldCount(); ++i) {
+    const std::size_t fields = rows_.IsOpen() ? rows_.FieldCount() : 0;
+    for (std::size_t i = 0; i < fields; ++i) {
         const platform::Field field = rows_[i];
         columns_.push_back({platform::qt::ToScreen(field.Name()),
                             field.Type(),

@@ -23,7 +23,8 @@ class GridModel : public QAbstractTableModel {
   public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Takes over an open row set; every column gets the format of its field's type.
+    /// Takes over a row set; every column gets the format of its field's type. One that isn't open
+    /// leaves nothing to show.
     void SetRows(platform::Recordset rows);
     /// Whether SetRows was called.
     bool IsLoaded() const { return !columns_.empty(); }

@@ -40,7 +40,7 @@ bool BringToFront(std::int32_t id) {
 bool MayCloseAllForms() {
     const std::vector<QPointer<Form>> forms = Forms();
     return std::all_of(forms.rbegin(), forms.rend(),
-                       [](const QPointer<Form>& form) { return !form || form->AsksNothingMore(); });
+                       [](const QPointer<Form>& form) { return !form || form->AskToClose(); });
 }
 
 void CloseAllForms() {
