@@ -40,4 +40,4 @@ class Catalog {
 FieldType TypeOfDeclaration(std::string_view declared);
 std::string_view DeclarationOf(FieldType type);
 
-}  // namespace platform::dialect
+} // namespace platform::dialect

@@ -22,7 +22,8 @@ struct CompiledStatement {
     std::string sql;
     /// A select's result columns, in order.
     std::vector<ResultColumn> columns;
-    /// For each `?` in order: the type that its place asks for, which a bound value is converted to.
+    /// For each `?` in order: the type that its place asks for, which a bound value is converted
+    /// to.
     std::vector<FieldType> parameters;
     /// The one table that the rows of a select stand for, empty when they can't be written back (a
     /// join, a grouping, DISTINCT, UNION). Then the engine's statement yields the row's number as a
@@ -48,4 +49,4 @@ std::string QuoteName(std::string_view name);
 /// A day as a #mm/dd/yyyy# literal.
 std::string QuoteDate(Date date);
 
-}  // namespace platform::dialect
+} // namespace platform::dialect

@@ -1,0 +1,72 @@
+#include <algorithm>
+
+#include "platform/database/dialect/LikePattern.h"
+#include "platform/database/dialect/RuntimeCall.h"
+#include "platform/values/Text.h"
+
+namespace platform::dialect {
+
+namespace {
+
+bool StartsCharacter(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+}
+
+std::size_t Wanted(const RuntimeCall& call, int argument) {
+    return static_cast<std::size_t>(std::max<std::int64_t>(0, call.Whole(argument)));
+}
+
+void Left(const RuntimeCall& call) {
+    call.Answer(LeftCharacters(call.Text(0), Wanted(call, 1)));
+}
+
+void Right(const RuntimeCall& call) {
+    const std::string_view text = call.Text(0);
+    std::size_t wanted = Wanted(call, 1);
+    std::size_t at = text.size();
+    while (at > 0 && wanted > 0) {
+        --at;
+        if (StartsCharacter(text[at])) --wanted;
+    }
+    call.Answer(text.substr(at));
+}
+
+void Upper(const RuntimeCall& call) {
+    call.Answer(ToUpper(call.Text(0)));
+}
+void Lower(const RuntimeCall& call) {
+    call.Answer(ToLower(call.Text(0)));
+}
+
+/// The place of one text in another, counted in characters from 1; 0 where it isn't.
+void Find(const RuntimeCall& call) {
+    const std::string text = ToLower(call.Text(1));
+    const std::string part = ToLower(call.Text(2));
+    const auto start = std::max<std::int64_t>(1, call.Whole(0));
+    std::int64_t character = 0;
+    for (std::size_t at = 0; at <= text.size(); ++at) {
+        if (at < text.size() && !StartsCharacter(text[at])) continue;
+        ++character;
+        if (character >= start && text.compare(at, part.size(), part) == 0) {
+            return call.Answer(character);
+        }
+    }
+    call.Answer(std::int64_t{0});
+}
+
+void Like(const RuntimeCall& call) {
+    call.Answer(std::int64_t{MatchesPattern(call.Text(0), call.Text(1))});
+}
+
+} // namespace
+
+void AddTextFunctions(sqlite3* connection) {
+    AddFunction<RunUnlessNull<Left>>(connection, "vestrel_left", 2);
+    AddFunction<RunUnlessNull<Right>>(connection, "vestrel_right", 2);
+    AddFunction<RunUnlessNull<Upper>>(connection, "vestrel_upper", 1);
+    AddFunction<RunUnlessNull<Lower>>(connection, "vestrel_lower", 1);
+    AddFunction<RunUnlessNull<Find>>(connection, "vestrel_instr", 3);
+    AddFunction<RunUnlessNull<Like>>(connection, "vestrel_like", 2);
+}
+
+} // namespace platform::dialect

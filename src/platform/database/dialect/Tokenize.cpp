@@ -1,0 +1,155 @@
+#include <algorithm>
+
+#include <fmt/core.h>
+
+#include "platform/database/dialect/Token.h"
+#include "platform/values/Errors.h"
+
+namespace platform::dialect {
+
+namespace {
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// Letters beyond ASCII are letters of names too.
+bool IsNameStart(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+
+bool IsNamePart(char c) {
+    return IsNameStart(c) || IsDigit(c) || c == '$';
+}
+
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+class Tokenizer {
+  public:
+    explicit Tokenizer(std::string_view statement) : text_(statement) {}
+
+    std::vector<Token> Run() {
+        tokens_.reserve(text_.size() / 4 + 2);
+        while (true) {
+            while (at_ < text_.size() && IsBlank(text_[at_]))
+                ++at_;
+            if (at_ == text_.size()) break;
+            Next();
+        }
+        tokens_.push_back({TokenKind::End, {}, text_.size()});
+        return std::move(tokens_);
+    }
+
+  private:
+    void Next() {
+        const char c = text_[at_];
+        if (IsNameStart(c)) return Add(TokenKind::Name, LengthOfName());
+        if (IsDigit(c) || (c == '.' && at_ + 1 < text_.size() && IsDigit(text_[at_ + 1]))) {
+            return Add(TokenKind::Number, LengthOfNumber());
+        }
+        switch (c) {
+            case '[':
+                return AddEnclosed(TokenKind::QuotedName, ']', "A name's '[' has no ']'");
+            case '\'':
+            case '"':
+                return AddText(c);
+            case '#':
+                return AddEnclosed(TokenKind::Date, '#', "A date's '#' has no second one");
+            case '?':
+                return Add(TokenKind::Parameter, 1);
+            default:
+                return AddSymbol();
+        }
+    }
+
+    void Add(TokenKind kind, std::size_t length) {
+        tokens_.push_back({kind, text_.substr(at_, length), at_});
+        at_ += length;
+    }
+
+    std::size_t LengthOfName() const {
+        std::size_t end = at_;
+        while (end < text_.size() && IsNamePart(text_[end]))
+            ++end;
+        return end - at_;
+    }
+
+    std::size_t LengthOfNumber() const {
+        std::size_t end = at_;
+        const auto skipDigits = [&] {
+            while (end < text_.size() && IsDigit(text_[end]))
+                ++end;
+        };
+        skipDigits();
+        if (end < text_.size() && text_[end] == '.') {
+            ++end;
+            skipDigits();
+        }
+        if (end < text_.size() && (text_[end] == 'e' || text_[end] == 'E')) {
+            std::size_t exponent = end + 1;
+            if (exponent < text_.size() && (text_[exponent] == '+' || text_[exponent] == '-')) {
+                ++exponent;
+            }
+            if (exponent < text_.size() && IsDigit(text_[exponent])) {
+                end = exponent;
+                skipDigits();
+            }
+        }
+        return end - at_;
+    }
+
+    void AddEnclosed(TokenKind kind, char close, std::string_view unclosed) {
+        const std::size_t end = text_.find(close, at_ + 1);
+        if (end == std::string_view::npos) ThrowFault(text_, at_, unclosed);
+        tokens_.push_back({kind, text_.substr(at_ + 1, end - at_ - 1), at_});
+        at_ = end + 1;
+    }
+
+    void AddText(char quote) {
+        std::size_t end = at_ + 1;
+        for (;; ++end) {
+            end = text_.find(quote, end);
+            if (end == std::string_view::npos) ThrowFault(text_, at_, "A text is not closed");
+            if (end + 1 == text_.size() || text_[end + 1] != quote) break;
+            ++end;
+        }
+        tokens_.push_back({TokenKind::Text, text_.substr(at_ + 1, end - at_ - 1), at_});
+        at_ = end + 1;
+    }
+
+    void AddSymbol() {
+        constexpr std::string_view kPairs[] = {"<=", ">=", "<>", "!="};
+        const std::string_view pair = text_.substr(at_, 2);
+        if (std::find(std::begin(kPairs), std::end(kPairs), pair) != std::end(kPairs)) {
+            return Add(TokenKind::Symbol, 2);
+        }
+        if (std::string_view("=<>+-*/\\^&(),.;").find(text_[at_]) == std::string_view::npos) {
+            ThrowFault(text_, at_, fmt::format("Unexpected '{}'", text_[at_]));
+        }
+        Add(TokenKind::Symbol, 1);
+    }
+
+    std::string_view text_;
+    std::size_t at_ = 0;
+    std::vector<Token> tokens_;
+};
+
+} // namespace
+
+std::vector<Token> Tokenize(std::string_view statement) {
+    return Tokenizer(statement).Run();
+}
+
+void ThrowFault(std::string_view statement, std::size_t position, std::string_view message) {
+    const std::string_view before = statement.substr(0, position);
+    const auto line = std::count(before.begin(), before.end(), '\n') + 1;
+    const std::size_t lineStart = before.rfind('\n');
+    const std::size_t column =
+        lineStart == std::string_view::npos ? position + 1 : position - lineStart;
+    throw DialectError(fmt::format("{} (line {}, column {})", message, line, column), position);
+}
+
+} // namespace platform::dialect
