@@ -58,7 +58,7 @@ const std::vector<TableDefinition>& ReferenceTables() {
     static const std::vector<TableDefinition> tables = {
         MakeTable("ZipCodes", {{FieldKind::Long, "Zip"}, {FieldKind::Text, "City State County"}},
                   {"Zip"}),
-        MakeTable("TaxURL", {{FieldKind::Text, "County State StateAbbr URL"}}, {"County"}),
+        MakeTable("TaxURL", {{FieldKind::Text, "County State StateAbbr URL"}}),
     };
     return tables;
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "store/SampleProperty.h"
+
+namespace store {
+
+/// Writes a tenant with the status "Approved" or another word, and now and then somebody to call.
+std::int32_t AddSampleTenant(SampleBooks& books, int areaCode, std::string_view status);
+
+/// Writes what a late payer has on record.
+void AddSampleIncidents(SampleBooks& books, std::int32_t idTenant);
+
+/// Writes people who applied and hold no lease: waiting, approved, refused.
+void AddSampleApplicants(SampleBooks& books);
+
+} // namespace store

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "store/SamplePortfolio.h"
+
+namespace store {
+
+/// How a lease of the sample comes to its end, if it doesn't go by its term.
+enum class SampleTurn {
+    None,
+    NoticeNow,    ///< the tenant gave notice days ago and still lives there
+    NoticeGiven,  ///< gave notice `turnMonthsAgo` and left
+    Broken,       ///< broken `turnMonthsAgo`
+    StopsPaying,  ///< from `turnMonthsAgo` on
+    ExpiringSoon, ///< began so that its term is over in a few weeks
+};
+
+/// What else a lease agrees on.
+enum class SampleClause {
+    None,
+    Discount,
+    DailyFee,
+    AccountSubsidy, ///< an office pays a part
+    TenantSubsidy,  ///< a person pays a part
+    Option,         ///< to buy, with a credit for each rent paid
+    Pets,
+    SubLet,
+    ShortPatience, ///< warned after ten days
+};
+
+/// The plan of one lease. It begins on `day` of the month that lies `monthsAgo` back, the next one
+/// for -1.
+struct LeasePlan {
+    int monthsAgo = 24;
+    int day = 1;
+    std::string_view termType;
+    int term = 12;
+    std::string_view expireOption;
+    PayHabit habit = PayHabit::OnTime;
+    SampleClause clause = SampleClause::None;
+    SampleTurn turn = SampleTurn::None;
+    int turnMonthsAgo = 0;
+};
+
+/// What one unit saw: its leases, one after the other; none for a unit that was never let.
+struct UnitStory {
+    std::span<const LeasePlan> leases;
+    /// What the unit reads before its first lease is saved.
+    std::string_view status = "Avaliable";
+};
+
+/// The stories that the units of the sample go through, over and over.
+std::span<const UnitStory> UnitStories();
+
+} // namespace store
