@@ -158,7 +158,7 @@ planted src/leases/screens/frmLease.h '#include "mortgages/screens/frmMortgage.h
     'floor 4 may not use floor 4' includes
 planted $lease '#include "vestrelctl/Command.h"' 'nothing uses a program' includes
 planted $lease '#include <SQLiteCpp/Statement.h>' 'only platform/database sees the engine' includes
-planted src/platform/database/dialect/Emit.cpp '#include <sqlite3.h>' \
+planted $values '#include <sqlite3.h>' \
     'only platform/database sees the engine' includes
 planted $lease '#include "Lease.h"' "doesn't say its room" includes
 planted $lease '#include "garden/Shed.h"' 'there is no room garden' includes
