@@ -50,11 +50,12 @@ void Open(const EditRequest& request) {
     if (request.kind == kTransaction) {
         const TransactionPlace place = FindTransactionPlace(request.id);
         const auto found = Registered().ofTransactions.find(place.editor);
-        if (found != Registered().ofTransactions.end()) found->second(request, place);
+        if (found != Registered().ofTransactions.end() && found->second)
+            found->second(request, place);
         return;
     }
     const auto found = Registered().byKind.find(request.kind);
-    if (found != Registered().byKind.end()) found->second(request);
+    if (found != Registered().byKind.end() && found->second) found->second(request);
 }
 
 } // namespace

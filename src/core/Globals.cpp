@@ -1,7 +1,5 @@
 #include "core/Globals.h"
 
-#include <utility>
-
 #include "core/AppPath.h"
 #include "core/RegistryKeys.h"
 #include "platform/system/Paths.h"
@@ -13,19 +11,19 @@ namespace {
 
 struct Switch {
     std::string_view name;
-    void (*apply)(Globals& app, std::string value);
+    void (*apply)(Globals& app, std::string_view value);
 };
 
 // Those that nothing reads are accepted for the sibling programs, which share the command line.
 constexpr std::array<Switch, 8> kSwitches = {{
-    {"nodb", [](Globals& app, std::string) { app.SwitchNoDb = true; }},
-    {"diag", [](Globals& app, std::string) { app.SwitchDiag = true; }},
-    {"upgradedb", [](Globals& app, std::string) { app.SwitchUpgradeDb = true; }},
-    {"expert", [](Globals& app, std::string) { app.Expert = true; }},
-    {"loadfile", [](Globals& app, std::string value) { app.LoadFile = std::move(value); }},
-    {"altdb", [](Globals& app, std::string value) { app.DbName = std::move(value); }},
-    {"appstart", [](Globals& app, std::string value) { app.AppStart = std::move(value); }},
-    {"nowarning", [](Globals&, std::string) {}},
+    {"nodb", [](Globals& app, std::string_view) { app.SwitchNoDb = true; }},
+    {"diag", [](Globals& app, std::string_view) { app.SwitchDiag = true; }},
+    {"upgradedb", [](Globals& app, std::string_view) { app.SwitchUpgradeDb = true; }},
+    {"expert", [](Globals& app, std::string_view) { app.Expert = true; }},
+    {"loadfile", [](Globals& app, std::string_view value) { app.LoadFile = value; }},
+    {"altdb", [](Globals& app, std::string_view value) { app.DbName = value; }},
+    {"appstart", [](Globals& app, std::string_view value) { app.AppStart = value; }},
+    {"nowarning", [](Globals&, std::string_view) {}},
 }};
 
 void ApplySwitch(std::string_view text) {
@@ -34,7 +32,7 @@ void ApplySwitch(std::string_view text) {
     std::string_view value;
     if (equals != std::string_view::npos) value = platform::Trim(text.substr(equals + 1));
     for (const Switch& known : kSwitches) {
-        if (known.name == name) known.apply(App(), std::string(value));
+        if (known.name == name) known.apply(App(), value);
     }
 }
 

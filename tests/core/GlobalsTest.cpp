@@ -1,0 +1,83 @@
+#include "core/Globals.h"
+
+#include <gmock/gmock.h>
+
+#include "core/AppPath.h"
+#include "core/CoreFixture.h"
+#include "core/Startup.h"
+#include "platform/system/Paths.h"
+
+namespace {
+
+using CommandLine = tests::CoreProcess;
+using ProgramDirectory = tests::CoreProcess;
+
+std::string SwitchesAsText() {
+    const core::Globals& app = core::App();
+    std::string text;
+    if (app.SwitchNoDb) text += "nodb ";
+    if (app.SwitchDiag) text += "diag ";
+    if (app.SwitchUpgradeDb) text += "upgradedb ";
+    if (app.Expert) text += "expert ";
+    return text + "[" + app.LoadFile + "][" + app.DbName + "][" + app.AppStart + "]";
+}
+
+TEST_F(CommandLine, SwitchesAreReadAsTheyAreWritten) {
+    struct Case {
+        std::string_view line;
+        std::string_view switches;
+    };
+    const Case cases[] = {
+        {"", "[][Default][]"},
+        {"expert", "[][Default][]"},
+        {" /Expert /DIAG ", "diag expert [][Default][]"},
+        {"/nodb/upgradedb/nowarning", "nodb upgradedb [][Default][]"},
+        {"junk /experts /expert2 /=", "[][Default][]"},
+        {"/altdb = Second House ", "[][second house][]"},
+        {"/altdb=a=b", "[][a=b][]"},
+        {"/altdb", "[][][]"},
+        {"/appstart=c:\\k.exe /loadfile=x /altdb=2", "[x][2][c:\\k.exe]"},
+        {"/loadfile=a/b", "[a][Default][]"},
+    };
+    for (const Case& c : cases) {
+        core::Globals& app = core::App();
+        app.DbName = "Default";
+        app.Expert = app.SwitchDiag = app.SwitchNoDb = app.SwitchUpgradeDb = false;
+        app.LoadFile = app.AppStart = "";
+        core::ParseCommandLine(c.line);
+        EXPECT_EQ(SwitchesAsText(), c.switches) << c.line;
+    }
+}
+
+TEST_F(ProgramDirectory, IsWhereTheProgramStandsOrTheHomeOfItsData) {
+    EXPECT_EQ(core::ChooseAppPath(Folder(), Folder() / "home"), Folder().string());
+    EXPECT_FALSE(platform::FileExists(PathTo("home")));
+    // A directory that isn't there can't be written, whoever runs this.
+    EXPECT_EQ(core::ChooseAppPath(Folder() / "none", Folder() / "home"), PathTo("home/Vestrel"));
+    EXPECT_TRUE(platform::FileExists(PathTo("home/Vestrel")));
+}
+
+TEST_F(ProgramDirectory, MissingDirectoriesAreMadeAroundWhatStandsThere) {
+    MakeFile("Backup", "a file in the way");
+    core::MakeDirectories();
+    core::MakeDirectories();
+    for (const auto* name : {"db", "Docs", "Files"}) {
+        EXPECT_TRUE(std::filesystem::is_directory(Folder() / name)) << name;
+    }
+    EXPECT_TRUE(std::filesystem::is_regular_file(Folder() / "Backup"));
+}
+
+TEST_F(ProgramDirectory, TemporaryFilesAreCleanedAndNothingElse) {
+    for (const auto* name : {"tmp_1.doc", "TMP2.rtf", "x.tmp", "atmp.doc", "x.tmp2"}) {
+        MakeFile(name);
+    }
+    std::filesystem::create_directory(Folder() / "tmp.d");
+    core::CleanTmpFiles();
+    std::vector<std::string> left;
+    for (const auto& entry : std::filesystem::directory_iterator(Folder())) {
+        left.push_back(entry.path().filename().string());
+    }
+    EXPECT_THAT(left, testing::UnorderedElementsAre("atmp.doc", "x.tmp2", "tmp.d"));
+}
+
+} // namespace
