@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <span>
@@ -16,7 +17,7 @@ namespace platform {
 
 enum class OpenMode { ReadWrite, ReadOnly, Create };
 
-class PreparedStatement;
+class DatabaseEngine;
 
 /// One open database file, spoken to in the program's SQL dialect. Every failure is a DatabaseError
 /// (a DialectError where the statement has a fault), and leaves the data as before the call.
@@ -38,7 +39,8 @@ class Connection {
     const std::filesystem::path& File() const;
 
     /// Runs one statement, with a value for each `?` in it. The number of rows affected (0 for a
-    /// select, whose rows are dropped).
+    /// select, whose rows are dropped). A value that doesn't convert to what its place asks for is
+    /// a DatabaseError too.
     std::int64_t Execute(std::string_view sql, std::span<const Value> parameters = {});
     std::int64_t Execute(std::string_view sql, std::initializer_list<Value> parameters);
 
@@ -49,7 +51,7 @@ class Connection {
     /// The tables and their fields as the file declares them.
     const dialect::Catalog& Tables();
 
-    /// Runs statements of the engine's own SQL: for the schema alone.
+    /// Runs statements of the engine's own SQL, all or none of them: for the schema alone.
     void RunScript(std::string_view script);
 
     /// True between the begin and the end of a unit of work.
@@ -58,13 +60,19 @@ class Connection {
   private:
     friend class Recordset;
     friend class UnitOfWork;
-    struct Engine;
-    std::unique_ptr<Engine> engine_;
+
+    /// A DatabaseError when it isn't open.
+    DatabaseEngine& Engine() const;
+
+    std::filesystem::path file_;
+    std::unique_ptr<DatabaseEngine> engine_;
 };
 
 /// What happens between construction and Commit is kept whole or not at all, also when the machine
 /// stops: without Commit, destruction takes everything back. One inside another is a part of it
-/// that can be taken back by itself.
+/// that can be taken back by itself. A statement that fails in between is taken back alone and ends
+/// nothing; only where the engine had to give up the whole unit (a full disk) does every further
+/// statement fail, and Commit too.
 class UnitOfWork {
   public:
     explicit UnitOfWork(Connection& connection);
@@ -72,12 +80,12 @@ class UnitOfWork {
     UnitOfWork(const UnitOfWork&) = delete;
     UnitOfWork& operator=(const UnitOfWork&) = delete;
 
+    /// A DatabaseError if it can't be kept; destruction then takes it back.
     void Commit();
 
   private:
     Connection& connection_;
-    bool open_ = true;
-    int level_ = 0;
+    int level_ = 0; // 0 when it has ended
 };
 
-}  // namespace platform
+} // namespace platform

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,7 +16,7 @@ namespace platform {
 enum class CursorMode {
     ReadOnly,
     Updatable,
-    AppendOnly,  ///< opened to add rows: the statement names a table, whose rows aren't fetched
+    AppendOnly, ///< opened to add rows: the statement names a table, whose rows aren't fetched
 };
 
 class Recordset;
@@ -32,7 +33,7 @@ class Field {
     bool IsBlank() const;
     platform::Value Value() const;
     /// The value as the field's type holds it is kept for Update; one that doesn't convert or fit
-    /// is a FieldError.
+    /// is a FieldError, as is writing a field that the statement computes.
     void Set(const platform::Value& value);
 
     // Readings as of Value; what fails is a FieldError that names the field.
@@ -53,7 +54,8 @@ class Field {
 };
 
 /// The rows of one select, held by the client: as they were when it was opened. With one current
-/// row; `Eof` when there is none. Failures are thrown as DatabaseError and FieldError.
+/// row; `Eof` when there is none. Failures are thrown as DatabaseError and FieldError. What was set
+/// and not written by Update is dropped when another row becomes current.
 class Recordset {
   public:
     Recordset();
@@ -74,13 +76,16 @@ class Recordset {
     bool Eof() const;
     void MoveFirst();
     void MoveNext();
-    /// 1 for the first row in the present order, 0 when there is no current row.
+    /// 1 for the first row in the present order, 0 when there is no current row. A new row stands
+    /// behind all others.
     std::int64_t AbsolutePosition() const;
+    /// Where no row stands there is no current row afterwards.
     void SetAbsolutePosition(std::int64_t position);
 
     /// Orders the rows by "Field [ASC|DESC], ..." (names may stand in square brackets) and moves to
     /// the first; nulls first, texts without regard to case, equal rows in the order they had. An
-    /// empty text restores the order of the statement.
+    /// empty text restores the order of the statement. A FieldError for a field that isn't there,
+    /// the order stays.
     void Sort(std::string_view order);
 
     std::size_t FieldCount() const;
@@ -89,11 +94,15 @@ class Recordset {
     Field operator[](std::string_view name);
     bool HasField(std::string_view name) const;
 
-    /// Starts a new row, which becomes current; its fields are null until set.
+    /// Starts a new row, which becomes current; its fields are null until set. A DatabaseError, as
+    /// of Update and Delete, when the rows can't be written: opened to be read, or of a statement
+    /// whose rows aren't those of one table.
     void AddNew();
-    /// Writes the new row, or the changes of the current one. A ConflictError when the row has gone
-    /// or any of the fields read was changed since: the changes stay, unwritten.
+    /// Writes the new row, or the changed fields of the current one; nothing when there are none.
+    /// The row then shows what is stored, the table's defaults included. A ConflictError when the
+    /// row has gone or any of the fields read was changed since: the changes stay, unwritten.
     void Update();
+    /// Drops what was set; after AddNew the row that was current before is so again.
     void CancelUpdate();
     /// Deletes the current row in the database and here; the next row becomes current.
     void Delete();
@@ -101,7 +110,11 @@ class Recordset {
   private:
     friend class Field;
     struct State;
+
+    /// A DatabaseError when it isn't open.
+    State& Opened() const;
+
     std::unique_ptr<State> state_;
 };
 
-}  // namespace platform
+} // namespace platform

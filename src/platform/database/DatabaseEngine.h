@@ -1,0 +1,65 @@
+#pragma once
+
+#include <SQLiteCpp/Database.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "platform/database/Connection.h"
+#include "platform/database/StatementCache.h"
+
+namespace platform {
+
+/// What an open connection is made of.
+class DatabaseEngine {
+  public:
+    DatabaseEngine(const std::filesystem::path& file, OpenMode mode);
+
+    sqlite3* Handle() const { return database_->getHandle(); }
+    const dialect::Catalog& Tables() const { return catalog_; }
+
+    /// The prepared form of a statement of the dialect; a table's bare name stands for its rows.
+    CachedStatement& Prepare(std::string_view sql);
+    /// The prepared form of a statement of the engine's SQL that is known by a key of its own.
+    template <typename MakeSql>
+    CachedStatement& PrepareOwn(std::string_view key, MakeSql makeSql);
+
+    /// Binds a value for each `?` of the plan; the values must stay until the statement is reset.
+    static void Bind(CachedStatement& statement, std::span<const Value> parameters);
+    /// Runs a statement to its end. The number of rows affected, 0 for a select.
+    std::int64_t Run(CachedStatement& statement);
+    /// Fails inside a unit of work that the engine has given up: what follows would be written by
+    /// itself.
+    void CheckUnit() const;
+
+    void RunScript(std::string_view script);
+
+    // Units of work, one inside another; each has a level counted from 1.
+    int Begin();
+    void Commit(int level);
+    /// Takes back the unit of this level with all inside it; nothing when it has ended.
+    void RollBack(int level) noexcept;
+    int UnitLevel() const { return level_; }
+
+  private:
+    void ReadCatalog();
+    void Command(const std::string& sql);
+
+    std::unique_ptr<SQLite::Database> database_;
+    dialect::Catalog catalog_;
+    StatementCache statements_;
+    std::uint64_t lastPlan_ = 0;
+    int level_ = 0;
+    bool schemaChangedInUnit_ = false;
+};
+
+template <typename MakeSql>
+CachedStatement& DatabaseEngine::PrepareOwn(std::string_view key, MakeSql makeSql) {
+    if (CachedStatement* found = statements_.Find(key)) return *found;
+    return statements_.Add(key, {nullptr, PreparedStatement(Handle(), makeSql())});
+}
+
+} // namespace platform

@@ -1,0 +1,217 @@
+#include <algorithm>
+
+#include "platform/database/DatabaseEngine.h"
+#include "platform/database/RecordsetState.h"
+#include "platform/values/Errors.h"
+
+namespace platform {
+
+namespace {
+
+using TextLife = PreparedStatement::TextLife;
+using Edits = std::vector<std::optional<Value>>;
+
+std::string Quoted(std::string_view name) {
+    std::string quoted = "\"";
+    for (const char c : name) {
+        if (c == '"') quoted += c;
+        quoted += c;
+    }
+    return quoted + '"';
+}
+
+// What tells a statement that writes rows from all others: its kind, the select that the rows were
+// read by, the fields that it sets. No statement's text starts with a zero byte.
+std::string KeyOf(char kind, const StatementPlan& plan, const Edits& edits) {
+    std::string key{'\0', kind};
+    for (unsigned shift = 0; shift < 64; shift += 8)
+        key += static_cast<char>((plan.number >> shift) & 0xFF);
+    for (const auto& edit : edits)
+        key += edit ? '1' : '0';
+    return key;
+}
+
+template <typename Write>
+void WriteList(std::string& sql, const Edits& edits, Write write) {
+    const char* separator = "";
+    for (std::size_t i = 0; i < edits.size(); ++i) {
+        if (!edits[i]) continue;
+        sql += separator;
+        write(i);
+        separator = ", ";
+    }
+}
+
+// The row as it was read: its number, and every field that it was read with.
+void WriteWhere(std::string& sql, const dialect::CompiledStatement& select) {
+    sql += " WHERE rowid = ?";
+    for (const std::string& source : select.sources) {
+        if (!source.empty()) sql += " AND " + Quoted(source) + " COLLATE BINARY IS ?";
+    }
+}
+
+std::string InsertSql(const dialect::CompiledStatement& select, const Edits& edits) {
+    std::string names;
+    std::string marks;
+    WriteList(names, edits, [&](std::size_t i) { names += Quoted(select.sources[i]); });
+    WriteList(marks, edits, [&](std::size_t) { marks += '?'; });
+    std::string sql = "INSERT INTO " + Quoted(select.table);
+    sql += names.empty() ? " DEFAULT VALUES" : " (" + names + ") VALUES (" + marks + ")";
+    sql += " RETURNING ";
+    for (const std::string& source : select.sources)
+        sql += (source.empty() ? "NULL" : Quoted(source)) + ", ";
+    return sql + "rowid";
+}
+
+std::string UpdateSql(const dialect::CompiledStatement& select, const Edits& edits) {
+    std::string sql = "UPDATE " + Quoted(select.table) + " SET ";
+    WriteList(sql, edits, [&](std::size_t i) { sql += Quoted(select.sources[i]) + " = ?"; });
+    WriteWhere(sql, select);
+    return sql;
+}
+
+std::string DeleteSql(const dialect::CompiledStatement& select) {
+    std::string sql = "DELETE FROM " + Quoted(select.table);
+    WriteWhere(sql, select);
+    return sql;
+}
+
+// Edits hold their values in the form of their field, so that no text has to be made of another
+// kind of value.
+Cell StoredForm(const Value& edit, FieldType type) {
+    std::string unused;
+    return StoreCell(edit, type, unused);
+}
+
+int BindEdits(PreparedStatement& statement, const dialect::CompiledStatement& select,
+              const Edits& edits) {
+    int index = 0;
+    for (std::size_t i = 0; i < edits.size(); ++i) {
+        if (!edits[i]) continue;
+        statement.Bind(++index, StoredForm(*edits[i], select.columns[i].type),
+                       TextLife::UntilReset);
+    }
+    return index;
+}
+
+[[noreturn]] void ThrowConflict(const std::string& table) {
+    throw ConflictError("The row of " + table + " was changed or deleted since it was read.");
+}
+
+} // namespace
+
+void Recordset::State::CheckWritable() const {
+    if (mode == CursorMode::ReadOnly) {
+        throw DatabaseError("The row set was opened to be read only.");
+    }
+    if (Compiled().table.empty()) {
+        throw DatabaseError(
+            "The rows of this statement can't be written: they are not those of "
+            "one table.");
+    }
+}
+
+void Recordset::State::Edit(std::size_t field, Value value) {
+    edits.resize(FieldCount());
+    edited = true;
+    const bool changes =
+        adding || StoredForm(value, Compiled().columns[field].type) != Stored(field);
+    if (changes) {
+        edits[field] = std::move(value);
+    } else {
+        edits[field].reset();
+    }
+}
+
+void Recordset::State::DropEdits() {
+    adding = false;
+    if (!edited) return;
+    edited = false;
+    edits.clear();
+}
+
+void Recordset::State::WriteNewRow() {
+    DatabaseEngine& engine = connection->Engine();
+    edits.resize(FieldCount());
+    PreparedStatement& statement =
+        engine.PrepareOwn(KeyOf('I', *plan, edits), [&] { return InsertSql(Compiled(), edits); })
+            .statement;
+    engine.CheckUnit();
+    BindEdits(statement, Compiled(), edits);
+    {
+        const StatementRun run(statement);
+        rows.Start();
+        statement.Step();
+        for (int i = 0; i < statement.ColumnCount(); ++i)
+            rows.Put(statement.Column(i));
+        statement.Step(); // only the end of the statement makes the row lasting
+    }
+    rows.Append();
+    if (ordered) order.push_back(static_cast<std::uint32_t>(rows.Size() - 1));
+    MoveTo(Count() - 1);
+}
+
+void Recordset::State::BindOriginal(PreparedStatement& statement, int index) {
+    statement.Bind(++index, Stored(FieldCount()), TextLife::UntilReset);
+    for (std::size_t i = 0; i < FieldCount(); ++i) {
+        if (!IsComputed(i)) statement.Bind(++index, Stored(i), TextLife::UntilReset);
+    }
+}
+
+void Recordset::State::WriteChanges() {
+    DatabaseEngine& engine = connection->Engine();
+    CachedStatement& prepared =
+        engine.PrepareOwn(KeyOf('U', *plan, edits), [&] { return UpdateSql(Compiled(), edits); });
+    BindOriginal(prepared.statement, BindEdits(prepared.statement, Compiled(), edits));
+    if (engine.Run(prepared) == 0) ThrowConflict(Compiled().table);
+    rows.Start();
+    for (std::size_t i = 0; i <= FieldCount(); ++i) {
+        const bool changed = i < FieldCount() && edits[i];
+        rows.Put(changed ? StoredForm(*edits[i], Compiled().columns[i].type) : Stored(i));
+    }
+    rows.Replace(CurrentRow());
+    MoveTo(current);
+}
+
+void Recordset::State::DeleteRow() {
+    DatabaseEngine& engine = connection->Engine();
+    CachedStatement& prepared =
+        engine.PrepareOwn(KeyOf('D', *plan, {}), [&] { return DeleteSql(Compiled()); });
+    BindOriginal(prepared.statement, 0);
+    if (engine.Run(prepared) == 0) ThrowConflict(Compiled().table);
+    WriteOutOrder();
+    order.erase(order.begin() + static_cast<std::ptrdiff_t>(current));
+    MoveTo(current);
+}
+
+void Recordset::AddNew() {
+    State& state = Opened();
+    state.CheckWritable();
+    state.DropEdits();
+    state.adding = true;
+}
+
+void Recordset::Update() {
+    State& state = Opened();
+    if (!state.adding && !state.edited) return;
+    state.CheckWritable();
+    if (state.adding) {
+        state.WriteNewRow();
+    } else if (std::ranges::any_of(state.edits,
+                                   [](const auto& edit) { return edit.has_value(); })) {
+        state.WriteChanges();
+    }
+}
+
+void Recordset::CancelUpdate() {
+    Opened().DropEdits();
+}
+
+void Recordset::Delete() {
+    State& state = Opened();
+    state.CheckWritable();
+    if (state.adding || !state.HasRow()) throw DatabaseError("There is no row to delete.");
+    state.DeleteRow();
+}
+
+} // namespace platform

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "platform/database/Recordset.h"
+#include "platform/database/RowBuffer.h"
+#include "platform/database/StatementCache.h"
+
+namespace platform {
+
+/// What a row set holds: its rows as they are stored, their present order, and what was set on the
+/// current one.
+struct Recordset::State {
+    Connection* connection = nullptr;
+    CursorMode mode = CursorMode::ReadOnly;
+    std::shared_ptr<const StatementPlan> plan; // null when it is closed
+
+    RowBuffer rows;
+    bool ordered = false; // otherwise the rows stand as they were read
+    std::vector<std::uint32_t> order;
+    std::size_t current = 0; // a place in the order
+
+    std::vector<std::uint32_t> places; // of the current row's values, once they were asked for
+    bool located = false;
+
+    bool adding = false;
+    bool edited = false;
+    std::vector<std::optional<Value>> edits;
+
+    const dialect::CompiledStatement& Compiled() const { return plan->compiled; }
+    std::size_t FieldCount() const { return plan->compiled.columns.size(); }
+    /// The field's index; nothing when there is none of this name.
+    std::optional<std::size_t> Find(std::string_view name) const;
+
+    std::size_t Count() const { return ordered ? order.size() : rows.Size(); }
+    bool HasRow() const { return adding || current < Count(); }
+    std::size_t CurrentRow() const { return ordered ? order[current] : current; }
+    void MoveTo(std::size_t place);
+    /// Gives the order a list of its own, to be changed.
+    void WriteOutOrder();
+
+    /// The current row's stored value at `index`: of a field, or of the row's number behind them.
+    Cell Stored(std::size_t index);
+
+    bool IsWritable() const { return mode != CursorMode::ReadOnly && !Compiled().table.empty(); }
+    void CheckWritable() const;
+    bool IsComputed(std::size_t field) const { return Compiled().sources[field].empty(); }
+    void Edit(std::size_t field, Value value);
+    void DropEdits();
+    void WriteNewRow();
+    void WriteChanges();
+    void DeleteRow();
+    /// Binds what the row was read with, behind the parameter at `index`.
+    void BindOriginal(PreparedStatement& statement, int index);
+};
+
+} // namespace platform

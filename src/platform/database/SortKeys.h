@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "platform/database/Cell.h"
+
+namespace platform {
+
+/// One field of an order.
+struct SortKey {
+    std::size_t field = 0;
+    bool descending = false;
+};
+
+/// An item of an order's text, as it is written there.
+struct SortItem {
+    std::string_view name;
+    bool descending = false;
+};
+
+/// Takes "Field [ASC|DESC], ..." apart; names may stand in square brackets, and may then hold
+/// commas. A FieldError where there is no name.
+std::vector<SortItem> ParseSortText(std::string_view text);
+
+/// A number that orders values of a field of `type`, nulls first. Of a text it tells the first
+/// letters, without regard to case, that stand behind `passed` others.
+std::uint64_t SortNumber(const Cell& cell, FieldType type, std::size_t passed);
+
+/// The letters that a number tells.
+inline constexpr std::size_t kSortLetters = 7;
+
+/// Whether this number may stand for several texts, which differ in later letters.
+bool IsUndecided(std::uint64_t sortNumber, FieldType type);
+
+} // namespace platform

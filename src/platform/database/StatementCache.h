@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <list>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "platform/database/PreparedStatement.h"
+#include "platform/database/dialect/Compiler.h"
+
+namespace platform {
+
+/// What a statement of the dialect compiled to. Row sets keep it for as long as they are open.
+struct StatementPlan {
+    dialect::CompiledStatement compiled;
+    /// Tells this plan from every other of the connection.
+    std::uint64_t number = 0;
+};
+
+struct CachedStatement {
+    /// Null for a statement that a row set wrote by itself.
+    std::shared_ptr<const StatementPlan> plan;
+    PreparedStatement statement;
+};
+
+/// The statements prepared last, by their text; the one that was not wanted for the longest time
+/// makes room for a new one.
+class StatementCache {
+  public:
+    explicit StatementCache(std::size_t capacity) : capacity_(capacity) {}
+
+    /// Null when there is none. What it points to stays until `capacity` others were added.
+    CachedStatement* Find(std::string_view key);
+    CachedStatement& Add(std::string_view key, CachedStatement statement);
+    void Clear();
+
+  private:
+    struct Entry {
+        std::string key;
+        CachedStatement statement;
+    };
+
+    std::size_t capacity_;
+    std::list<Entry> entries_; // the last used in front
+    std::unordered_map<std::string_view, std::list<Entry>::iterator> index_;
+};
+
+} // namespace platform
