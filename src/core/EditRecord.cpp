@@ -68,6 +68,15 @@ void RegisterTransactionOpener(TransactionEditor editor, TransactionOpener opene
     Registered().ofTransactions[editor] = std::move(opener);
 }
 
+bool HasEditor(std::int16_t kind) {
+    const auto isSet = [](const auto& openers, auto key) {
+        const auto found = openers.find(key);
+        return found != openers.end() && found->second;
+    };
+    if (kind != kTransaction) return isSet(Registered().byKind, kind);
+    return isSet(Registered().ofTransactions, TransactionEditor::Transaction);
+}
+
 void RegisterOpenRecords(std::function<bool(std::int32_t id)> bringToFront) {
     Registered().bringToFront = std::move(bringToFront);
 }

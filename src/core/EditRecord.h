@@ -42,6 +42,9 @@ using TransactionOpener =
     std::function<void(const EditRequest& request, const TransactionPlace& place)>;
 void RegisterTransactionOpener(TransactionEditor editor, TransactionOpener opener);
 
+/// Whether records of the kind can be opened.
+bool HasEditor(std::int16_t kind);
+
 /// Gives the process its way of finding the open editor of an identifier and bringing it to the
 /// front: true when there is one, in whatever state.
 void RegisterOpenRecords(std::function<bool(std::int32_t id)> bringToFront);
