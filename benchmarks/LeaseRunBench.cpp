@@ -31,7 +31,7 @@ Cost BestOfThree(Once once) {
 
 Cost CatchUp(int leases) {
     return BestOfThree([&] {
-        const tests::TemporaryFolder folder;
+        const support::TemporaryFolder folder;
         const auto books = folder.Path() / "books";
         bench::InOwnProcess([&] { bench::MakeBooks(books, leases, kFirstDue); },
                             [] { return 0.0; });
@@ -42,7 +42,7 @@ Cost CatchUp(int leases) {
 
 Cost PlainCatchUp(int leases, int rowsPerLease) {
     return BestOfThree([&] {
-        const tests::TemporaryFolder folder;
+        const support::TemporaryFolder folder;
         const auto books = folder.Path() / "books";
         bench::InOwnProcess([&] { bench::MakeBooks(books, leases, kFirstDue); },
                             [] { return 0.0; });
@@ -56,7 +56,7 @@ Cost PlainCatchUp(int leases, int rowsPerLease) {
 template <class Work>
 Cost OneDayOn(int leases, Work work) {
     return BestOfThree([&] {
-        const tests::TemporaryFolder folder;
+        const support::TemporaryFolder folder;
         const auto books = folder.Path() / "books";
         bench::InOwnProcess(
             [&] {

@@ -46,7 +46,7 @@ class LeaseRun : public testing::Test {
         return core::App().Connection.Scalar(sql)->AsLong();
     }
 
-    TemporaryFolder folder_;
+    support::TemporaryFolder folder_;
     BooksWithOneLease books_;
 };
 
@@ -157,7 +157,9 @@ TEST_F(LeaseRun, SumsTheLedgerIntoTheBalances) {
 }
 
 TEST_F(LeaseRun, WritesNoRowOfZeroAndRewritesTheRowItIsGiven) {
-    leases::RentLogEntry entry{.idLease = kLeaseId, .datePosted = Date(2024, 1, 1)};
+    leases::RentLogEntry entry;
+    entry.idLease = kLeaseId;
+    entry.datePosted = Date(2024, 1, 1);
     EXPECT_EQ(leases::WriteRentLog(entry), 0);
     EXPECT_EQ(leases::WriteRentLog(entry, 55), 55);
     EXPECT_EQ(Count("SELECT Count(*) FROM RentLog"), 0);

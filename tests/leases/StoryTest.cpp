@@ -32,7 +32,7 @@ class LeaseStory : public testing::TestWithParam<std::filesystem::path> {};
 TEST_P(LeaseStory, EndsAsTold) {
     const Story story = ReadStory(GetParam());
     ASSERT_FALSE(story.then.empty()) << "a story without an end tells nothing";
-    const TemporaryFolder folder;
+    const support::TemporaryFolder folder;
     EXPECT_EQ(LiveThrough(story, folder.Path() / "db"), story.then);
 }
 

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "alerts/Alerts.h"
+
+namespace alerts {
+
+// One function a cause: each adds its lines to the list. A query that fails adds none.
+void AddLateRent(std::vector<AlertItem>& items);
+void AddLateMortgages(std::vector<AlertItem>& items);
+void AddOpenWorkOrders(std::vector<AlertItem>& items);
+void AddEscrowReviews(std::vector<AlertItem>& items);
+void AddExpiringLeases(std::vector<AlertItem>& items);
+void AddInsuranceRenewals(std::vector<AlertItem>& items);
+void AddAssociationPayments(std::vector<AlertItem>& items);
+void AddStoredMessages(std::vector<AlertItem>& items);
+
+} // namespace alerts

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/DailyRun.h"
+
+namespace shell {
+
+/// One row that a run posted, with the record that it was posted for.
+struct DigestRow {
+    std::int16_t recordKind = 0;
+    std::int32_t recordId = 0;
+    platform::Date date;
+    std::string category;
+    platform::Currency amount;
+    /// Index into the digest's descriptions.
+    std::size_t description = 0;
+};
+
+/// Remembers what a bring-up-to-date run posted and what it had to pass over, for whoever comes
+/// back to the program.
+class RunDigest : public core::RunListener {
+  public:
+    void Posted(int recordKind, std::int32_t id, std::string_view description,
+                const std::vector<core::PostedRow>& rows) override;
+    void Failed(int recordKind, std::int32_t id, std::string_view description,
+                std::string_view reason) override;
+
+    const std::vector<DigestRow>& Rows() const { return rows_; }
+    const std::string& DescriptionOf(const DigestRow& row) const {
+        return descriptions_[row.description];
+    }
+    /// A line a record that was passed over, with the reason.
+    const std::vector<std::string>& Faults() const { return faults_; }
+
+    /// "Since 10/03/2026: 12 rent charges, 3 late fees"; empty when nothing was posted. The day is
+    /// the earliest that a row was posted on.
+    std::string Line() const;
+    /// "2 records could not be brought up to date"; empty when there were none.
+    std::string FaultLine() const;
+
+  private:
+    std::vector<DigestRow> rows_;
+    std::vector<std::string> descriptions_;
+    std::vector<std::string> faults_;
+};
+
+} // namespace shell

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include <CLI/CLI.hpp>
+
+namespace vestrelctl {
+
+/// What stands before the command's name.
+struct Options {
+    /// The database directory; the registered default without it.
+    std::optional<std::filesystem::path> data;
+};
+
+// Each command adds itself to the command line. Its work runs while the line is parsed and throws a
+// platform::Error where it fails.
+void AddInit(CLI::App& line);
+void AddRegister(CLI::App& line);
+void AddUpdate(CLI::App& line, const Options& options);
+void AddAlerts(CLI::App& line, const Options& options);
+void AddSql(CLI::App& line, const Options& options);
+
+} // namespace vestrelctl

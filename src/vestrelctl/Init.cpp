@@ -1,0 +1,41 @@
+#include <memory>
+
+#include "platform/system/Clock.h"
+#include "platform/values/Errors.h"
+#include "shell/SampleLife.h"
+#include "store/CreateDatabase.h"
+#include "vestrelctl/Command.h"
+
+namespace vestrelctl {
+
+namespace {
+
+struct InitOptions {
+    bool sample = false;
+    int units = shell::kSampleUnits;
+    std::filesystem::path folder;
+};
+
+} // namespace
+
+void AddInit(CLI::App& line) {
+    CLI::App* command =
+        line.add_subcommand("init", "Make an empty database, or a sample portfolio");
+    auto init = std::make_shared<InitOptions>();
+    CLI::Option* sample = command->add_flag("--sample", init->sample,
+                                            "Make a sample portfolio that has lived for two years");
+    command->add_option("--units", init->units, "Units of the sample portfolio")
+        ->check(CLI::Range(1, 100'000))
+        ->needs(sample)
+        ->capture_default_str();
+    command->add_option("directory", init->folder, "Where to make it")->required();
+    command->callback([init] {
+        if (init->sample) {
+            shell::MakeSamplePortfolio(init->folder, init->units, platform::Today());
+        } else {
+            store::CreateDatabase(init->folder);
+        }
+    });
+}
+
+} // namespace vestrelctl

@@ -1,0 +1,89 @@
+#include <iostream>
+#include <string>
+
+#include <fmt/core.h>
+
+#include "core/Globals.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/dialect/Compiler.h"
+#include "platform/values/Csv.h"
+#include "platform/values/Text.h"
+#include "vestrelctl/Command.h"
+#include "vestrelctl/OpenBooks.h"
+
+namespace vestrelctl {
+
+namespace {
+
+void PrintRows(std::string_view statement) {
+    platform::Recordset rows;
+    rows.Open(core::App().Connection, statement);
+    std::string line;
+    for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
+        if (i > 0) line += ',';
+        line += platform::CsvText(rows[i].Name());
+    }
+    std::cout << line << '\n';
+    for (; !rows.Eof(); rows.MoveNext()) {
+        line.clear();
+        for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
+            if (i > 0) line += ',';
+            line += platform::CsvCell(rows[i].Value());
+        }
+        std::cout << line << '\n';
+    }
+}
+
+void RunStatement(std::string_view statement) {
+    platform::Connection& connection = core::App().Connection;
+    const auto kind = platform::dialect::Compile(statement, connection.Tables()).kind;
+    if (kind == platform::dialect::StatementKind::Select) {
+        PrintRows(statement);
+    } else {
+        std::cout << connection.Execute(statement) << '\n';
+    }
+}
+
+/// The next statement of the input, which ends with a line that ends in ';' (or with the input);
+/// false when there is none.
+bool ReadStatement(std::istream& input, std::string& statement) {
+    statement.clear();
+    std::string line;
+    while (std::getline(input, line)) {
+        statement += line;
+        statement += '\n';
+        if (platform::Trim(line).ends_with(';')) return true;
+    }
+    return !platform::Trim(statement).empty();
+}
+
+void RunStatements(std::istream& input) {
+    std::string statement;
+    for (int number = 1; ReadStatement(input, statement); ++number) {
+        if (number > 1) std::cout << '\n';
+        try {
+            RunStatement(statement);
+        } catch (const platform::Error& error) {
+            std::cout.flush();
+            throw platform::Error(fmt::format("statement {}: {}", number, error.what()));
+        }
+    }
+}
+
+} // namespace
+
+void AddSql(CLI::App& line, const Options& options) {
+    CLI::App* command = line.add_subcommand("sql", "Run one statement, or those of standard input");
+    auto text = std::make_shared<std::string>();
+    command->add_option("statement", *text, "The statement, or - for standard input")->required();
+    command->callback([text, &options] {
+        OpenDatabase(options);
+        if (*text == "-") {
+            RunStatements(std::cin);
+        } else {
+            RunStatement(*text);
+        }
+    });
+}
+
+} // namespace vestrelctl

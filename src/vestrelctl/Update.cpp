@@ -1,0 +1,61 @@
+#include <iostream>
+
+#include <fmt/core.h>
+
+#include "core/DailyRun.h"
+#include "core/RecordKinds.h"
+#include "platform/values/Conversions.h"
+#include "platform/values/Errors.h"
+#include "platform/values/Text.h"
+#include "vestrelctl/Command.h"
+#include "vestrelctl/OpenBooks.h"
+
+namespace vestrelctl {
+
+namespace {
+
+/// One line a posted row, and in the end a count.
+class Printer : public core::RunListener {
+  public:
+    void Posted(int, std::int32_t, std::string_view description,
+                const std::vector<core::PostedRow>& rows) override {
+        for (const core::PostedRow& row : rows) {
+            std::cout << fmt::format("{}, {}, {}, {}\n", platform::Trim(row.category), description,
+                                     row.date.ToText(), platform::MoneyToFixedText(row.amount));
+        }
+        posted_ += rows.size();
+    }
+
+    void Failed(int recordKind, std::int32_t, std::string_view description,
+                std::string_view reason) override {
+        std::cout << fmt::format("Not updated: {} {}: {}\n", core::RecordKindName(recordKind),
+                                 description, reason);
+        ++failed_;
+    }
+
+    void Finish() const {
+        std::cout << fmt::format("{} {} posted.\n", posted_, posted_ == 1 ? "row" : "rows");
+        if (failed_ == 0) return;
+        std::cout.flush();
+        throw platform::Error(fmt::format("{} {} not be brought up to date", failed_,
+                                          failed_ == 1 ? "record could" : "records could"));
+    }
+
+  private:
+    std::size_t posted_ = 0;
+    std::size_t failed_ = 0;
+};
+
+} // namespace
+
+void AddUpdate(CLI::App& line, const Options& options) {
+    CLI::App* command = line.add_subcommand("update", "Bring the books up to date");
+    command->callback([&options] {
+        OpenBooks(options);
+        Printer printer;
+        core::UpdateRecords(printer);
+        printer.Finish();
+    });
+}
+
+} // namespace vestrelctl
