@@ -36,6 +36,7 @@ struct SampleBooks {
     SampleDice& dice;
     platform::Date today;
     SampleAccounts accounts;
+    std::size_t tenants = 0; ///< written so far
 };
 
 } // namespace store

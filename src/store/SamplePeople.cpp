@@ -35,7 +35,7 @@ platform::Value Initial(SampleDice& dice) {
 std::int32_t AddSampleTenant(SampleBooks& books, int areaCode, std::string_view status) {
     SampleDice& dice = books.dice;
     const std::string_view given = SampleGivenName(dice);
-    const std::string_view last = SampleSurname(dice);
+    const std::string_view last = SampleSurname(books.tenants++);
     const bool married = dice.OneIn(3);
     const auto born = DateAdd(Interval::Day, -dice.Between(8'000, 26'000), books.today);
     const std::int32_t id = books.rows.Add(

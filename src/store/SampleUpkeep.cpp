@@ -135,6 +135,7 @@ void AddContracts(SampleBooks& books, const SampleBuilding& building, std::size_
 
 /// Trips to the buildings over the past months, each beginning where the last one ended.
 void AddTrips(SampleBooks& books, const std::vector<SampleBuilding>& buildings) {
+    if (buildings.empty()) return;
     constexpr std::string_view kPurposes[] = {"Inspection", "Collect rent", "Meet the plumber",
                                               "Show the unit"};
     const std::int32_t user = books.rows.Add("Users", {{"UserName", "Owner"}});

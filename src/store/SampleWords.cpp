@@ -34,6 +34,7 @@ constexpr std::string_view kSurnames[] = {
     "Nakamura",
     "Castañeda",
     "Fitzgerald",
+    "Van der Meulen-Featherstonehaugh",
     "Kowalczyk",
     "Abernathy",
     "Nguyễn",
@@ -65,14 +66,13 @@ constexpr std::string_view kSurnames[] = {
     "Mbeki",
     "Sorensen",
     "Holloway",
+    "Montgomery-Castellanos",
     "Zielinski",
     "Ortega",
     "Tanaka",
-    "Van der Meulen-Featherstonehaugh",
     "Ellis",
     "Rahman",
     "Cho",
-    "Montgomery-Castellanos",
     "Baptiste",
     "Novak",
     "Reyes",
@@ -119,6 +119,10 @@ std::span<const SampleTown> SampleTowns() {
 
 std::string_view SampleSurname(SampleDice& dice) {
     return dice.Pick(kSurnames);
+}
+
+std::string_view SampleSurname(std::size_t index) {
+    return kSurnames[index % std::size(kSurnames)];
 }
 
 std::string_view SampleGivenName(SampleDice& dice) {

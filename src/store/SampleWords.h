@@ -20,6 +20,8 @@ struct SampleTown {
 std::span<const SampleTown> SampleTowns();
 
 std::string_view SampleSurname(SampleDice& dice);
+/// The surnames one after the other, over and over: so that a few people have varied ones.
+std::string_view SampleSurname(std::size_t index);
 std::string_view SampleGivenName(SampleDice& dice);
 /// "1248 Alder Street".
 std::string SampleAddress(SampleDice& dice);

@@ -1,0 +1,193 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <set>
+
+#include "store/SampleFixture.h"
+#include "store/Tables.h"
+
+namespace {
+
+using platform::Date;
+using tests::SampleDatabase;
+
+struct Relation {
+    const char* child;
+    const char* column;
+    const char* parent;
+    const char* key;
+    /// What the parent's row must be, "" for anything.
+    const char* condition = "";
+};
+
+const Relation kRelations[] = {
+    {"Unit", "IdBuilding", "Building", "IdBuilding"},
+    {"OwnerLink", "IdBuilding", "Building", "IdBuilding"},
+    {"ManagerLink", "IdBuilding", "Building", "IdBuilding"},
+    {"SvcContract", "IdBuilding", "Building", "IdBuilding"},
+    {"Deposit", "IdBuilding", "Building", "IdBuilding"},
+    {"Mortgage", "IdBuilding", "Building", "IdBuilding"},
+    {"AutoEvent", "IdBuilding", "Building", "IdBuilding"},
+    {"Mileage", "IdBuilding", "Building", "IdBuilding"},
+    {"Room", "IdUnit", "Unit", "IdUnit"},
+    {"Content", "IdUnit", "Unit", "IdUnit"},
+    {"Appliance", "IdUnit", "Unit", "IdUnit"},
+    {"Lease", "IdUnit", "Unit", "IdUnit"},
+    {"WorkOrder", "IdUnit", "Unit", "IdUnit"},
+    {"Deposit", "IdUnit", "Unit", "IdUnit"},
+    {"AutoEvent", "IdUnit", "Unit", "IdUnit"},
+    {"Lease", "IdTenant", "Tenant", "IdTenant"},
+    {"Incident", "IdTenant", "Tenant", "IdTenant"},
+    {"AutoEvent", "IdTenant", "Tenant", "IdTenant"},
+    {"OwnerLink", "IdAccount", "Account", "IdAccount", "AccountType = 'Building Owner'"},
+    {"ManagerLink", "IdAccount", "Account", "IdAccount", "AccountType = 'Building Manager'"},
+    {"Building", "HOAAccount", "Account", "IdAccount"},
+    {"Building", "InsAccount", "Account", "IdAccount", "AccountType = 'Insurance'"},
+    {"Building", "SecAccount", "Account", "IdAccount", "AccountType = 'Vendor'"},
+    {"Building", "ElectricAccount", "Account", "IdAccount", "AccountType = 'Utility'"},
+    {"Building", "WaterAccount", "Account", "IdAccount", "AccountType = 'Utility'"},
+    {"Building", "GasAccount", "Account", "IdAccount", "AccountType = 'Utility'"},
+    {"Building", "SewageAccount", "Account", "IdAccount", "AccountType = 'Utility'"},
+    {"Building", "CableAccount", "Account", "IdAccount", "AccountType = 'Utility'"},
+    {"Building", "TrashAccount", "Account", "IdAccount", "AccountType = 'Utility'"},
+    {"Appliance", "IdVendor", "Account", "IdAccount"},
+    {"WorkOrder", "IdVendor", "Account", "IdAccount", "AccountType = 'Vendor'"},
+    {"WorkOrder", "IdOwner", "Account", "IdAccount", "AccountType = 'Building Owner'"},
+    {"SvcContract", "IdVendor", "Account", "IdAccount"},
+    {"Lease", "RentAccount", "Account", "IdAccount", "AccountType = 'Bank'"},
+    {"Lease", "DepositAccount", "Account", "IdAccount", "AccountType = 'Bank'"},
+    {"Mortgage", "IdMortgagor", "Account", "IdAccount", "AccountType = 'Building Owner'"},
+    {"Mortgage", "IdMortgagee", "Account", "IdAccount", "AccountType = 'Mortgagee'"},
+    {"Mortgage", "IdEscrow", "Account", "IdAccount"},
+    {"Mortgage", "IdLastPmt", "Account", "IdAccount"},
+    {"AutoEvent", "DebitId", "Account", "IdAccount"},
+    {"AutoEvent", "CreditId", "Account", "IdAccount"},
+    {"AutoEvent", "TriggerID", "Account", "IdAccount"},
+    {"WorkOrder", "IdRoom", "Room", "IdRoom"},
+    {"WorkOrder", "IdAppliance", "Appliance", "IdAppliance"},
+    {"SvcContract", "IdAppliance", "Appliance", "IdAppliance"},
+    {"WOItem", "IdWorkOrder", "WorkOrder", "IdWorkOrder"},
+    {"Mileage", "IdWorkOrder", "WorkOrder", "IdWorkOrder"},
+    {"Mileage", "idUser", "Users", "IdUser"},
+};
+
+std::string WithCondition(std::string statement, std::string_view condition) {
+    if (!condition.empty()) statement += " WHERE " + std::string(condition);
+    return statement;
+}
+
+TEST(SampleLinks, LeadToRecordsOfTheRightKind) {
+    SampleDatabase sample(48, Date(2024, 5, 17));
+    for (const Relation& each : kRelations) {
+        const auto keys = sample.Texts(WithCondition(
+            "SELECT " + std::string(each.key) + " FROM " + each.parent, each.condition));
+        const std::set<std::string> parents(keys.begin(), keys.end());
+        for (const std::string& link :
+             sample.Texts("SELECT " + std::string(each.column) + " FROM " + each.child)) {
+            if (link == "0") continue;
+            EXPECT_TRUE(parents.contains(link))
+                << each.child << '.' << each.column << " = " << link;
+        }
+    }
+}
+
+TEST(SampleLinks, OfAKindLeadToThatTable) {
+    SampleDatabase sample(48, Date(2024, 5, 17));
+    const std::map<std::string, std::string> tables = {{"1", "Account WHERE IdAccount"},
+                                                       {"5", "Tenant WHERE IdTenant"},
+                                                       {"28", "Building WHERE IdBuilding"}};
+    const char* const statements[] = {
+        "SELECT dbType, IdRelated FROM Contact",
+        "SELECT SubsidyType, SubsidyId FROM Lease WHERE Subs = True",
+    };
+    for (const char* statement : statements) {
+        platform::Recordset rows;
+        rows.Open(sample.books, statement);
+        EXPECT_GT(rows.RecordCount(), 0);
+        for (; !rows.Eof(); rows.MoveNext()) {
+            const std::string& table = tables.at(rows[0].AsText());
+            EXPECT_EQ(sample.Count(table + " = " + rows[1].AsText()), 1) << statement;
+        }
+    }
+}
+
+TEST(SampleLinks, IdentifiersAreUniqueAcrossTheBooks) {
+    SampleDatabase sample(48, Date(2024, 5, 17));
+    std::set<std::string> seen;
+    for (const store::TableDefinition& table : store::BooksTables()) {
+        if (table.fields.front().kind != store::FieldKind::Long) continue;
+        for (const std::string& id :
+             sample.Texts("SELECT " + table.fields.front().name + " FROM " + table.name)) {
+            EXPECT_TRUE(seen.insert(id).second) << table.name << ' ' << id;
+        }
+    }
+    EXPECT_EQ(static_cast<std::int32_t>(seen.size()), sample.lastId - 999);
+}
+
+TEST(SampleLinks, WorkConcernsTheUnitsOwnRoomsAndAppliances) {
+    SampleDatabase sample(48, Date(2024, 5, 17));
+    EXPECT_GT(sample.Count("WorkOrder WHERE IdRoom <> 0"), 0);
+    EXPECT_EQ(sample.Count("WorkOrder, Room WHERE WorkOrder.IdRoom = Room.IdRoom "
+                           "AND WorkOrder.IdUnit <> Room.IdUnit"),
+              0);
+    EXPECT_EQ(sample.Count("WorkOrder, Appliance WHERE WorkOrder.IdAppliance = "
+                           "Appliance.IdAppliance AND WorkOrder.IdUnit <> Appliance.IdUnit"),
+              0);
+    EXPECT_EQ(sample.Count("SvcContract, Appliance, Unit "
+                           "WHERE SvcContract.IdAppliance = Appliance.IdAppliance "
+                           "AND Appliance.IdUnit = Unit.IdUnit "
+                           "AND SvcContract.IdBuilding <> Unit.IdBuilding"),
+              0);
+}
+
+TEST(SampleLinks, EachBuildingIsWhollyOwnedWithOnePrimaryOwner) {
+    SampleDatabase sample(100, Date(2024, 5, 17));
+    int shared = 0;
+    for (const std::string& building : sample.Texts("SELECT IdBuilding FROM Building")) {
+        platform::Recordset owners;
+        owners.Open(sample.books, "SELECT * FROM OwnerLink WHERE IdBuilding = " + building);
+        double percent = 0;
+        int primary = 0;
+        std::set<std::int32_t> accounts;
+        for (; !owners.Eof(); owners.MoveNext()) {
+            percent += owners["Percent"].AsDouble();
+            primary += owners["IsPrimary"].AsBoolean() ? 1 : 0;
+            EXPECT_TRUE(accounts.insert(owners["IdAccount"].AsLong()).second);
+        }
+        EXPECT_DOUBLE_EQ(percent, 100) << building;
+        EXPECT_EQ(primary, 1) << building;
+        shared += accounts.size() > 1 ? 1 : 0;
+    }
+    EXPECT_GT(shared, 0);
+}
+
+TEST(SampleLinks, LoansAreWhereTheirTermsPutThem) {
+    SampleDatabase sample(48, Date(2024, 5, 31));
+    platform::Recordset loan;
+    loan.Open(sample.books, "SELECT * FROM Mortgage");
+    EXPECT_GT(loan.RecordCount(), 5);
+    for (; !loan.Eof(); loan.MoveNext()) {
+        const double rate = loan["OrigRate"].AsDouble();
+        EXPECT_GT(rate, 0.01);
+        EXPECT_LE(rate, 0.3);
+        EXPECT_EQ(loan["NextDue"].AsText(), "06/01/2024");
+        EXPECT_EQ(loan["DateUpdated"].AsText(), "05/31/2024");
+        const int period = loan["CurrentPeriod"].AsInteger();
+        EXPECT_EQ(DateDiff(platform::Interval::Month, loan["FirstDue"].AsDate(),
+                           loan["NextDue"].AsDate()),
+                  period - 1);
+        // Paying on to the last period leaves nothing, or all of an interest-only loan.
+        double balance = loan["CurrentPV"].AsDouble();
+        for (int i = 0; i < loan["RemainingT"].AsInteger(); ++i) {
+            balance += balance * rate / 12 - loan["OrigPmt"].AsDouble();
+        }
+        const double left = loan["IntOnly"].AsBoolean() ? loan["OrigPV"].AsDouble() : 0;
+        EXPECT_NEAR(balance, left, 0.01);
+    }
+    EXPECT_EQ(sample.Count("Building, Mortgage WHERE Building.IdBuilding = Mortgage.IdBuilding "
+                           "AND Building.Equity >= Building.MktValue"),
+              0);
+}
+
+} // namespace
