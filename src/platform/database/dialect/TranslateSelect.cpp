@@ -11,6 +11,24 @@ namespace platform::dialect {
 
 namespace {
 
+/// What the rows of a union are called where they are ordered.
+constexpr std::string_view kUnion = "Union";
+
+/// All fields of two tables may hold the same name, where one would hide the other: both then carry
+/// their table's.
+void TellSharedNamesApart(std::vector<TranslatedItem>& items) {
+    std::vector<std::size_t> shared;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const bool isShared = std::ranges::any_of(items, [&](const TranslatedItem& other) {
+            return !items[i].starOf.empty() && !other.starOf.empty() &&
+                   other.starOf != items[i].starOf && EqualIgnoringCase(other.name, items[i].name);
+        });
+        if (isShared) shared.push_back(i);
+    }
+    for (const std::size_t i : shared)
+        items[i].name = fmt::format("{}.{}", items[i].starOf, items[i].name);
+}
+
 bool IsText(FieldType type) {
     return type == FieldType::Text || type == FieldType::Memo;
 }
@@ -37,6 +55,7 @@ TranslatedSelect Translator::TranslateSelect(const Select& select) {
     }
     for (const SelectItem& item : select.items)
         TranslateItem(item, translated);
+    if (scope_->sources.size() > 1) TellSharedNamesApart(translated.items);
 
     translated.tail = std::move(from);
     if (select.where) translated.tail += " WHERE " + Condition(*select.where);
@@ -63,7 +82,7 @@ TranslatedSelect Translator::TranslateSelect(const Select& select) {
 void Translator::TranslateItem(const SelectItem& item, TranslatedSelect& translated) {
     const Expression& expression = *item.expression;
     if (expression.kind == ExpressionKind::Star) return ExpandStar(expression, translated);
-    TranslatedItem entry{Expr(expression), std::string(item.alias), {}};
+    TranslatedItem entry{Expr(expression), std::string(item.alias), {}, {}};
     if (expression.kind == ExpressionKind::Column) {
         entry.source = expression.text;
         if (entry.name.empty()) entry.name = expression.text;
@@ -73,24 +92,14 @@ void Translator::TranslateItem(const SelectItem& item, TranslatedSelect& transla
 }
 
 void Translator::ExpandStar(const Expression& star, TranslatedSelect& translated) {
-    // The same name from two tables would hide one of the fields: both then carry their table's.
-    const auto isShared = [&](std::string_view name, const ScopeSource& own) {
-        return std::any_of(scope_->sources.begin(), scope_->sources.end(),
-                           [&](const ScopeSource& other) {
-                               return &other != &own && other.table != nullptr &&
-                                      other.table->Find(name) != nullptr;
-                           });
-    };
     bool any = false;
     for (const ScopeSource& source : scope_->sources) {
         if (!star.table.empty() && !EqualIgnoringCase(star.table, source.alias)) continue;
         any = true;
         const auto add = [&](const std::string& name, FieldType type) {
-            std::string shown =
-                isShared(name, source) ? fmt::format("{}.{}", source.alias, name) : name;
             translated.items.push_back(
-                {MakeTyped(EngineName(source.alias) + "." + EngineName(name), type),
-                 std::move(shown), name});
+                {MakeTyped(EngineName(source.alias) + "." + EngineName(name), type), name, name,
+                 source.alias});
         };
         if (source.table != nullptr) {
             for (const Column& column : source.table->columns)
@@ -129,9 +138,21 @@ TranslatedQuery Translator::TranslateQuery(const Query& query, RowNumber rowNumb
     }
 
     if (!targets.empty()) FitTargets(result, targets, query.selects[0].position);
+    const bool isUnion = selects.size() > 1;
     for (std::size_t i = 0; i < selects.size(); ++i) {
         if (i > 0) result.sql += query.keepsEqualRows[i - 1] ? " UNION ALL " : " UNION ";
-        AppendSelect(query, i, selects[i], rowNumber, result);
+        AppendSelect(query, i, selects[i], isUnion ? RowNumber::Omit : rowNumber, result);
+    }
+    Scope unionRows{{{kUnion, nullptr, result.columns}}, outer};
+    if (isUnion) {
+        scope_ = &unionRows;
+        // The engine orders a union by its columns alone.
+        const bool byColumns = std::ranges::all_of(query.orderBy, [&](const OrderItem& item) {
+            return OrderPosition(*item.expression, result.columns) > 0;
+        });
+        if (!byColumns) {
+            result.sql = fmt::format("SELECT * FROM ({}) AS {}", result.sql, EngineName(kUnion));
+        }
     }
     result.sql += Order(query, result.columns);
     if (selects.size() == 1 && !query.selects[0].top.empty()) {
@@ -196,21 +217,27 @@ std::string Translator::Order(const Query& query, const std::vector<ResultColumn
     return sql;
 }
 
-std::string Translator::OrderTerm(const Expression& expression,
-                                  const std::vector<ResultColumn>& columns) {
-    std::size_t position = 0;
+std::size_t Translator::OrderPosition(const Expression& expression,
+                                      const std::vector<ResultColumn>& columns) const {
     if (expression.kind == ExpressionKind::Number) {
+        std::size_t position = 0;
         const char* const end = expression.text.data() + expression.text.size();
         const auto read = std::from_chars(expression.text.data(), end, position);
         if (read.ptr != end || position < 1 || position > columns.size()) {
             Fault(expression.position, fmt::format("There is no column {}", expression.text));
         }
-    } else if (expression.kind == ExpressionKind::Column && expression.table.empty()) {
-        for (std::size_t i = 0; i < columns.size() && position == 0; ++i) {
-            if (EqualIgnoringCase(columns[i].name, expression.text)) position = i + 1;
-        }
+        return position;
     }
-    if (position > 0) {
+    if (expression.kind != ExpressionKind::Column || !expression.table.empty()) return 0;
+    const auto found = std::ranges::find_if(columns, [&](const ResultColumn& column) {
+        return EqualIgnoringCase(column.name, expression.text);
+    });
+    return found == columns.end() ? 0 : static_cast<std::size_t>(found - columns.begin()) + 1;
+}
+
+std::string Translator::OrderTerm(const Expression& expression,
+                                  const std::vector<ResultColumn>& columns) {
+    if (const std::size_t position = OrderPosition(expression, columns); position > 0) {
         const bool text = IsText(columns[position - 1].type);
         return fmt::format("{}{}", position, text ? kTextCollation : "");
     }

@@ -33,6 +33,8 @@ struct TranslatedItem {
     std::string name;
     /// The table's column, for one that stands by itself.
     std::string source;
+    /// The name of the table that a `*` took it from.
+    std::string_view starOf;
 };
 
 struct TranslatedSelect {
@@ -101,6 +103,9 @@ class Translator {
     void AppendSelect(const Query& query, std::size_t part, const TranslatedSelect& select,
                       RowNumber rowNumber, TranslatedQuery& result);
     std::string Order(const Query& query, const std::vector<ResultColumn>& columns);
+    /// The column that an ORDER BY term names, by its number or its name; 0 for none.
+    std::size_t OrderPosition(const Expression& expression,
+                              const std::vector<ResultColumn>& columns) const;
     std::string OrderTerm(const Expression& expression, const std::vector<ResultColumn>& columns);
 
     // Expressions.
