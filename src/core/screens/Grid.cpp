@@ -149,11 +149,12 @@ void SetupGrid(Grid& grid) {
 }
 
 platform::FieldType LoadGrid(Grid& grid, platform::Recordset rows, HeaderFont header) {
+    const bool updated = grid.updatesEnabled();
     grid.setUpdatesEnabled(false);
     grid.Model().SetBoldHeader(header == HeaderFont::Bold);
     grid.Model().SetRows(std::move(rows));
     grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-    grid.setUpdatesEnabled(true);
+    grid.setUpdatesEnabled(updated);
     return grid.Model().IsLoaded() ? grid.Model().TypeOf(0) : platform::FieldType::Text;
 }
 

@@ -104,9 +104,10 @@ void Grid::ShareWidth() {
 }
 
 void AutoSizeGrid(Grid& grid, int firstColumn, Sizing sizing) {
+    const bool updated = grid.updatesEnabled();
     grid.setUpdatesEnabled(false);
     grid.Fit(firstColumn, sizing);
-    grid.setUpdatesEnabled(true);
+    grid.setUpdatesEnabled(updated);
 }
 
 void AutoSizeByLength(Grid& grid, int firstColumn) {

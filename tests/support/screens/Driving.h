@@ -1,0 +1,39 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QWidget>
+#include <string>
+#include <string_view>
+
+#include "core/screens/Grid.h"
+
+namespace support {
+
+/// The child of this object name; a failed test and an exception when there is none.
+template <class T>
+T& Find(const QWidget& form, const char* name) {
+    T* const found = form.findChild<T*>(QLatin1String(name));
+    if (!found) throw std::runtime_error(std::string("no control named ") + name);
+    return *found;
+}
+
+/// Puts the caret at the end of a box and types into it, key by key; what is there is replaced
+/// first.
+void Type(QWidget& box, std::string_view text);
+/// Types on, with what is there left as it is.
+void TypeOn(QWidget& box, std::string_view text);
+
+/// Clicks the button whose word ("APPLY", "CLOSE", ...) its tag holds.
+void ClickAction(const QWidget& form, std::string_view word);
+void ClickOn(QWidget& control);
+/// Chooses an item of a combo box as a person does.
+void Choose(const QWidget& form, const char* combo, std::string_view text);
+
+/// Lets events run until none is left, deletions among them.
+void SettleEvents();
+
+/// Captions and cells of the columns that show, cells parted by "|", a line each.
+std::string GridText(const core::screens::Grid& grid);
+
+} // namespace support

@@ -1,0 +1,106 @@
+#include "support/screens/ScreenChecks.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <map>
+
+#include "core/screens/Binding.h"
+#include "platform/qt/Text.h"
+
+namespace support {
+
+using platform::qt::FromScreen;
+
+namespace {
+
+std::string NameOf(const QWidget& control) {
+    return FromScreen(control.objectName());
+}
+
+QString TextOf(const QWidget& control) {
+    if (const auto* const label = qobject_cast<const QLabel*>(&control)) {
+        return label->buddy() ? label->text() : QString();
+    }
+    if (const auto* const button = qobject_cast<const QAbstractButton*>(&control)) {
+        return button->text();
+    }
+    return {};
+}
+
+bool IsEntry(const QWidget& control) {
+    return qobject_cast<const QLineEdit*>(&control) || qobject_cast<const QComboBox*>(&control) ||
+           qobject_cast<const QPlainTextEdit*>(&control);
+}
+
+/// Whether `b` stands before `a` for a reader: higher by more than half a line, or left of it.
+bool IsBefore(const QWidget& b, const QWidget& a, const QWidget& screen) {
+    const QPoint first = b.mapTo(&screen, QPoint(0, b.height() / 2));
+    const QPoint second = a.mapTo(&screen, QPoint(0, a.height() / 2));
+    constexpr int kHalfLine = 10;
+    if (std::abs(first.y() - second.y()) > kHalfLine) return first.y() < second.y();
+    return first.x() < second.x();
+}
+
+/// Next to each other rather than in different columns: their widths overlap, or they share a line.
+bool AreComparable(const QWidget& a, const QWidget& b, const QWidget& screen) {
+    const QRect first(a.mapTo(&screen, QPoint(0, 0)), a.size());
+    const QRect second(b.mapTo(&screen, QPoint(0, 0)), b.size());
+    return a.parentWidget() == b.parentWidget() ||
+           (first.right() >= second.left() && second.right() >= first.left());
+}
+
+} // namespace
+
+std::vector<std::string> MnemonicFaults(const QWidget& screen) {
+    std::vector<std::string> faults;
+    std::map<QString, std::string> taken;
+    for (const QWidget* const control : core::screens::ControlsOf(screen)) {
+        const auto* const label = qobject_cast<const QLabel*>(control);
+        if (label && !label->buddy() && !QKeySequence::mnemonic(label->text()).isEmpty()) {
+            faults.push_back(NameOf(*label) + " jumps nowhere");
+        }
+        if (!control->isVisible()) continue;
+        const QString key = QKeySequence::mnemonic(TextOf(*control)).toString();
+        if (key.isEmpty()) continue;
+        const auto [other, isNew] = taken.emplace(key, NameOf(*control));
+        if (!isNew) {
+            faults.push_back(NameOf(*control) + " and " + other->second + " share " +
+                             FromScreen(key));
+        }
+    }
+    return faults;
+}
+
+std::vector<std::string> TabOrderFaults(QWidget& screen) {
+    std::vector<std::string> faults;
+    const QWidget* before = nullptr;
+    for (const QWidget* widget = screen.nextInFocusChain(); widget && widget != &screen;
+         widget = widget->nextInFocusChain()) {
+        const bool isStop = widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 &&
+                            widget->window() == &screen &&
+                            !widget->objectName().startsWith(QLatin1String("qt_"));
+        if (!isStop) continue;
+        if (before && AreComparable(*before, *widget, screen) &&
+            IsBefore(*widget, *before, screen)) {
+            faults.push_back(NameOf(*widget) + " comes after " + NameOf(*before));
+        }
+        before = widget;
+    }
+    return faults;
+}
+
+std::vector<std::string> NameFaults(const QWidget& screen) {
+    std::vector<std::string> faults;
+    for (const QWidget* const control : core::screens::ControlsOf(screen)) {
+        if (IsEntry(*control) && control->accessibleName().isEmpty()) {
+            faults.push_back(NameOf(*control) + " has no name");
+        }
+    }
+    return faults;
+}
+
+} // namespace support

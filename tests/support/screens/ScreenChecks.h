@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QWidget>
+#include <string>
+#include <vector>
+
+namespace support {
+
+// What holds for every screen; each answers the faults it finds.
+
+/// Two controls that show at once with the same letter to jump to, and letters that jump nowhere.
+std::vector<std::string> MnemonicFaults(const QWidget& screen);
+
+/// Controls that the Tab key reaches out of reading order: from top to bottom, then left to right.
+std::vector<std::string> TabOrderFaults(QWidget& screen);
+
+/// Controls for entries that have no name for those who can't see them.
+std::vector<std::string> NameFaults(const QWidget& screen);
+
+} // namespace support
