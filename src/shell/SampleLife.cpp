@@ -1,0 +1,86 @@
+#include "shell/SampleLife.h"
+
+#include "core/Configuration.h"
+#include "core/DailyRun.h"
+#include "core/Globals.h"
+#include "core/Session.h"
+#include "platform/system/Clock.h"
+#include "platform/system/Paths.h"
+#include "shell/SampleExpenses.h"
+#include "shell/SampleTenant.h"
+#include "store/CreateDatabase.h"
+
+namespace shell {
+
+using platform::Connection;
+using platform::Date;
+using platform::DateAdd;
+using platform::Interval;
+
+namespace {
+
+/// Takes back a database that was begun, unless the work is kept.
+class Attempt {
+  public:
+    explicit Attempt(std::filesystem::path folder) : folder_(std::move(folder)) {}
+    ~Attempt() {
+        core::CloseDatabase(core::App().Connection);
+        if (kept_) return;
+        std::error_code ignored;
+        for (const char* ending : {"", "-wal", "-shm"}) {
+            std::filesystem::remove(folder_ / (std::string(store::kDatabaseFile) + ending),
+                                    ignored);
+        }
+        std::filesystem::remove(folder_ / store::kVersionFile, ignored);
+    }
+    Attempt(const Attempt&) = delete;
+    Attempt& operator=(const Attempt&) = delete;
+
+    void Keep() { kept_ = true; }
+
+  private:
+    std::filesystem::path folder_;
+    bool kept_ = false;
+};
+
+/// Identifiers begin at the minute of midnight, so that the same day gives the same ones.
+void MakeSettings(Connection& connection, Date today) {
+    core::CreateDefaultConfiguration(connection);
+    constexpr int kMinutesPerDay = 1440;
+    const int days = today.Serial() - Date(2000, 1, 1).Serial();
+    connection.Execute("UPDATE Configuration SET NextId = ?", {days * kMinutesPerDay});
+}
+
+void LiveThrough(const store::SampleCast& cast, Date today) {
+    std::vector<SampleTenant> tenants(cast.leases.begin(), cast.leases.end());
+    const SampleExpenses expenses;
+    for (Date day = cast.begins; day <= today; day = DateAdd(Interval::Day, 1, day)) {
+        platform::SetToday(day);
+        platform::UnitOfWork unit(core::App().Connection);
+        for (SampleTenant& tenant : tenants)
+            tenant.LiveThrough(day);
+        expenses.Pay(day);
+        unit.Commit();
+    }
+    core::UpdateRecords();
+}
+
+} // namespace
+
+void MakeSamplePortfolio(const std::filesystem::path& folder, int units, Date today) {
+    store::CreateDatabase(folder);
+    Attempt attempt(folder);
+    core::App().DbPath = platform::AddBackslash(folder.string());
+    core::App().DbFile = core::App().DbPath + std::string(store::kDatabaseFile);
+    Connection& connection = core::App().Connection;
+    connection.Open(core::App().DbFile);
+    platform::SetToday(today);
+    MakeSettings(connection, today);
+    const store::SampleCast cast =
+        store::WriteSampleRecords(connection, {units, today, core::NextId});
+    core::LoadConfiguration();
+    LiveThrough(cast, today);
+    attempt.Keep();
+}
+
+} // namespace shell

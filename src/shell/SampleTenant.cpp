@@ -1,0 +1,115 @@
+#include "shell/SampleTenant.h"
+
+#include <algorithm>
+
+#include "core/Globals.h"
+#include "core/Lookups.h"
+#include "leases/ChargeDeposits.h"
+#include "leases/LeaseCommands.h"
+#include "leases/LeaseStatus.h"
+#include "leases/RentPayment.h"
+#include "leases/mLease.h"
+#include "platform/database/Recordset.h"
+
+namespace shell {
+
+using leases::RentClass;
+using leases::WalkMode;
+using platform::Date;
+using platform::DateAdd;
+using platform::Interval;
+using platform::Recordset;
+using store::PayHabit;
+
+namespace {
+
+struct LeaseDates {
+    bool over = false;
+    Date nextDue;
+    int oneTimeDays = 0;
+    int discountDays = 0;
+    int noticeDays = 0;
+};
+
+LeaseDates ReadLease(std::int32_t idLease) {
+    Recordset row;
+    row.Open(core::App().Connection,
+             "SELECT Status, DateNextDue, OneTimeDays, DiscountDays, NoticeDays FROM Lease "
+             "WHERE IdLease = ?",
+             platform::CursorMode::ReadOnly, {idLease});
+    return {leases::IsOver(row["Status"].AsText()), row["DateNextDue"].AsDate(),
+            row["OneTimeDays"].AsInteger(), row["DiscountDays"].AsInteger(),
+            row["NoticeDays"].AsInteger()};
+}
+
+/// Days from the due day to the day on which this tenant pays.
+int DaysAfterDue(const store::SampleHabit& habit, const LeaseDates& lease) {
+    const int own = static_cast<int>(habit.idLease % 3);
+    switch (habit.habit) {
+        case PayHabit::OnTime:
+        case PayHabit::StoppedPaying:
+            break;
+        case PayHabit::FewDaysLate:
+            return std::clamp(own + 2, 0, std::max(0, lease.oneTimeDays - 1));
+        case PayHabit::Chronic:
+            return lease.oneTimeDays + 4 + own;
+        case PayHabit::PaidAhead:
+            return -lease.discountDays - 1 - own;
+    }
+    return 0;
+}
+
+void Pay(std::int32_t idLease, RentClass rentClass) {
+    const leases::RentPayment payment = leases::ProposePayment(idLease, rentClass);
+    if (payment.Total() > platform::Currency()) leases::SubmitPayment(payment);
+}
+
+} // namespace
+
+SampleTenant::SampleTenant(const store::SampleHabit& habit) : habit_(habit) {}
+
+void SampleTenant::LiveThrough(Date day) {
+    if (day == habit_.created) {
+        Begin();
+        PlanNextPayment(day);
+    }
+    if (day == habit_.givesNotice) {
+        const int noticeDays = ReadLease(habit_.idLease).noticeDays;
+        leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
+        leases::ChangeStatus(habit_.idLease, leases::status::kNotice,
+                             DateAdd(Interval::Day, noticeDays, day));
+    }
+    if (day == habit_.breaks) {
+        leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
+        leases::ChangeStatus(habit_.idLease, leases::status::kBroken, day);
+    }
+    if (day == nextPayment_) {
+        PayOpenCharges();
+        PlanNextPayment(day);
+    }
+}
+
+void SampleTenant::Begin() {
+    leases::ChargeDeposits(habit_.idLease, core::GetLeaseUnit(habit_.idLease));
+}
+
+void SampleTenant::PayOpenCharges() {
+    leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
+    if (!depositPaid_) Pay(habit_.idLease, RentClass::Deposit);
+    depositPaid_ = true;
+    if (habit_.habit == PayHabit::PaidAhead && !ReadLease(habit_.idLease).over) {
+        leases::UpdateLeaseById(habit_.idLease, WalkMode::RollForward);
+    }
+    Pay(habit_.idLease, RentClass::Rent);
+    Pay(habit_.idLease, RentClass::Subsidy);
+}
+
+void SampleTenant::PlanNextPayment(Date day) {
+    const LeaseDates lease = ReadLease(habit_.idLease);
+    const Date wanted = DateAdd(Interval::Day, DaysAfterDue(habit_, lease), lease.nextDue);
+    nextPayment_ = std::max(wanted, DateAdd(Interval::Day, 1, day));
+    const bool stops = habit_.stopsPaying.IsSet() && nextPayment_ >= habit_.stopsPaying;
+    if (lease.over || stops) nextPayment_ = Date();
+}
+
+} // namespace shell
