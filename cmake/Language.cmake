@@ -12,7 +12,7 @@ endif()
 add_library(vestrel_warnings INTERFACE)
 target_compile_options(vestrel_warnings INTERFACE
   -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
-  -Woverloaded-virtual -Wnull-dereference -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough
+  -Woverloaded-virtual -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough
   -Wextra-semi -Werror)
 
 add_library(vestrel_sanitizers INTERFACE)
