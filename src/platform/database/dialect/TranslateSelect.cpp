@@ -125,7 +125,7 @@ TranslatedQuery Translator::TranslateQuery(const Query& query, RowNumber rowNumb
             Fault(query.selects[i].position, "The parts of a union need as many columns each");
         }
     }
-    scope_ = &scopes[0];
+    scope_ = scopes.data();
 
     TranslatedQuery result;
     const std::size_t count = selects[0].items.size();
