@@ -2,6 +2,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 
 #include "core/screens/frmAbout.h"
 #include "core/screens/frmSplash.h"

@@ -1,6 +1,7 @@
 #include "core/screens/Form.h"
 
 #include <QLineEdit>
+#include <QScreen>
 #include <QTest>
 #include <QVBoxLayout>
 
