@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <span>
+#include <stack>
 
 #include "platform/database/RecordsetState.h"
 #include "platform/database/SortKeys.h"
@@ -24,13 +25,13 @@ class Sorter {
         : rows_(rows), columns_(columns), keys_(std::move(keys)), order_(order) {}
 
     std::vector<std::uint32_t> Sorted() {
-        places_.resize(order_.size());
+        places_.reserve(order_.size());
         for (std::uint32_t place = 0; place < order_.size(); ++place)
-            places_[place].was = place;
-        runs_.push_back({0, places_.size(), 0, 0});
+            places_.push_back({0, place});
+        runs_.push({0, places_.size(), 0, 0});
         while (!runs_.empty()) {
-            const Run run = runs_.back();
-            runs_.pop_back();
+            const Run run = runs_.top();
+            runs_.pop();
             SortRun(run);
         }
         std::vector<std::uint32_t> sorted(order_.size());
@@ -75,9 +76,9 @@ class Sorter {
         const std::uint64_t number = places_[run.begin].number ^ turned;
         if (IsUndecided(number, TypeOf(run.key)) && !HoldsOneText(run)) {
             run.passed += kSortLetters;
-            runs_.push_back(run);
+            runs_.push(run);
         } else if (run.key + 1 < keys_.size()) {
-            runs_.push_back({run.begin, run.end, run.key + 1, 0});
+            runs_.push({run.begin, run.end, run.key + 1, 0});
         }
     }
 
@@ -95,7 +96,7 @@ class Sorter {
     std::vector<SortKey> keys_;
     const std::vector<std::uint32_t>& order_;
     std::vector<Place> places_;
-    std::vector<Run> runs_; // still to be sorted
+    std::stack<Run> runs_; // still to be sorted
 };
 
 } // namespace
