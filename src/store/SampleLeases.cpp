@@ -40,14 +40,22 @@ LeaseDates PlanDates(SampleBooks& books, const LeasePlan& plan) {
             dates.habit.givesNotice = DateAdd(Interval::Day, -12, today);
             break;
         case SampleTurn::NoticeGiven:
-            dates.habit.givesNotice = MonthsAgo(today, plan.turnMonthsAgo, 4);
+            dates.habit.givesNotice = MonthsAgo(today, plan.turnAgo, 4);
             break;
         case SampleTurn::Broken:
-            dates.habit.breaks = MonthsAgo(today, plan.turnMonthsAgo, 12);
+            dates.habit.breaks = MonthsAgo(today, plan.turnAgo, 12);
             break;
         case SampleTurn::StopsPaying:
-            dates.habit.stopsPaying = MonthsAgo(today, plan.turnMonthsAgo);
+            dates.habit.stopsPaying = MonthsAgo(today, plan.turnAgo);
             break;
+        case SampleTurn::Behind: {
+            const Date due = DateAdd(Interval::Day, -plan.turnAgo, today);
+            dates.begins = DateAdd(Interval::Month, -plan.monthsAgo, due);
+            // The due day can lie days earlier by now: months without a 31st pull it forward for
+            // good.
+            dates.habit.stopsPaying = DateAdd(Interval::Day, -5, due);
+            break;
+        }
         case SampleTurn::ExpiringSoon:
             dates.begins = DateAdd(Interval::Month, -plan.term, DateAdd(Interval::Day, 25, today));
             break;

@@ -206,7 +206,7 @@ std::vector<SampleBuilding> WriteSampleProperty(SampleBooks& books, int units) {
         building.marketValue =
             Currency::FromUnits(rent * 12 * books.dice.Between(12, 15) / 1000 * 1000);
         building.distance = books.dice.Between(6, 240) / 10.0;
-        building.address = SampleAddress(books.dice);
+        building.address = SampleAddress(books.dice, 5 * index);
         building.id = AddBuilding(books, town, index, count, building);
         AddOwners(books, building, index);
         for (const UnitPlan& plan : plans) {

@@ -34,8 +34,9 @@ constexpr LeasePlan kLeftAndLetAgain[] = {
     {6, 10, "Month(s)", 12, "Renew", FewDaysLate, Clause::SubLet}};
 constexpr LeasePlan kExpired[] = {{23, 1, "Month(s)", 18, "Expire", OnTime}};
 constexpr LeasePlan kHelpedByPerson[] = {
-    {16, 5, "Month(s)", 12, "MTM", Chronic, Clause::TenantSubsidy}};
-constexpr LeasePlan kMonthlyWithoutOption[] = {{14, 20, "MTM", 0, "", FewDaysLate}};
+    {16, 1, "Month(s)", 12, "MTM", StoppedPaying, Clause::TenantSubsidy, Turn::Behind, 12}};
+constexpr LeasePlan kMonthlyWithoutOption[] = {
+    {14, 1, "MTM", 0, "", StoppedPaying, Clause::None, Turn::Behind, 2}};
 constexpr LeasePlan kWarned[] = {
     {15, 1, "Month(s)", 12, "Renew", StoppedPaying, Clause::ShortPatience, Turn::StopsPaying, 1}};
 constexpr LeasePlan kYearByWeeks[] = {{24, 2, "Week(s)", 52, "Renew", OnTime, Clause::Pets}};

@@ -11,9 +11,10 @@ namespace store {
 enum class SampleTurn {
     None,
     NoticeNow,    ///< the tenant gave notice days ago and still lives there
-    NoticeGiven,  ///< gave notice `turnMonthsAgo` and left
-    Broken,       ///< broken `turnMonthsAgo`
-    StopsPaying,  ///< from `turnMonthsAgo` on
+    NoticeGiven,  ///< gave notice `turnAgo` months ago and left
+    Broken,       ///< broken `turnAgo` months ago
+    StopsPaying,  ///< from the beginning of the month `turnAgo` months ago on
+    Behind,       ///< its last rent fell due `turnAgo` days ago and isn't paid
     ExpiringSoon, ///< began so that its term is over in a few weeks
 };
 
@@ -41,7 +42,7 @@ struct LeasePlan {
     PayHabit habit = PayHabit::OnTime;
     SampleClause clause = SampleClause::None;
     SampleTurn turn = SampleTurn::None;
-    int turnMonthsAgo = 0;
+    int turnAgo = 0;
 };
 
 /// What one unit saw: its leases, one after the other; none for a unit that was never let.

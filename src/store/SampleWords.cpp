@@ -130,8 +130,11 @@ std::string_view SampleGivenName(SampleDice& dice) {
 }
 
 std::string SampleAddress(SampleDice& dice) {
-    const int number = dice.Between(12, 4890);
-    return fmt::format("{} {}", number, dice.Pick(kStreets));
+    return SampleAddress(dice, dice.Below(std::size(kStreets)));
+}
+
+std::string SampleAddress(SampleDice& dice, std::size_t street) {
+    return fmt::format("{} {}", dice.Between(12, 4890), kStreets[street % std::size(kStreets)]);
 }
 
 std::string SamplePhone(SampleDice& dice, int areaCode) {

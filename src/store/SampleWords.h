@@ -25,6 +25,8 @@ std::string_view SampleSurname(std::size_t index);
 std::string_view SampleGivenName(SampleDice& dice);
 /// "1248 Alder Street".
 std::string SampleAddress(SampleDice& dice);
+/// One in the street of this number.
+std::string SampleAddress(SampleDice& dice, std::size_t street);
 /// A number of those that are set aside for stories: "(541) 555-0142".
 std::string SamplePhone(SampleDice& dice, int areaCode);
 /// "ann.obrien@mail.example": the names in lower case, without what isn't a plain letter.
