@@ -14,10 +14,6 @@ target_compile_options(vestrel_warnings INTERFACE
   -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
   -Woverloaded-virtual -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough
   -Wextra-semi -Wno-restrict -Werror)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # GCC 12 takes an optimised assignment to a std::string for one that overlaps itself.
-  target_compile_options(vestrel_warnings INTERFACE -Wno-restrict)
-endif()
 
 add_library(vestrel_sanitizers INTERFACE)
 if(VESTREL_SANITIZE)
