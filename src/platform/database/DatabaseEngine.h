@@ -31,6 +31,8 @@ class DatabaseEngine {
     static void Bind(CachedStatement& statement, std::span<const Value> parameters);
     /// Runs a statement to its end. The number of rows affected, 0 for a select.
     std::int64_t Run(CachedStatement& statement);
+    /// The number of the row that was inserted last.
+    std::int64_t LastRowNumber() const { return database_->getLastInsertRowid(); }
     /// Fails inside a unit of work that the engine has given up: what follows would be written by
     /// itself.
     void CheckUnit() const;

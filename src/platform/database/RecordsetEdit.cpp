@@ -55,12 +55,17 @@ std::string InsertSql(const dialect::CompiledStatement& select, const Edits& edi
     std::string marks;
     WriteList(names, edits, [&](std::size_t i) { names += Quoted(select.sources[i]); });
     WriteList(marks, edits, [&](std::size_t) { marks += '?'; });
-    std::string sql = "INSERT INTO " + Quoted(select.table);
-    sql += names.empty() ? " DEFAULT VALUES" : " (" + names + ") VALUES (" + marks + ")";
-    sql += " RETURNING ";
+    return "INSERT INTO " + Quoted(select.table) +
+           (names.empty() ? " DEFAULT VALUES" : " (" + names + ") VALUES (" + marks + ")");
+}
+
+// Reading the row again costs less than having the insert return it: for that the engine makes a
+// table in passing.
+std::string ReadBackSql(const dialect::CompiledStatement& select) {
+    std::string sql = "SELECT ";
     for (const std::string& source : select.sources)
         sql += (source.empty() ? "NULL" : Quoted(source)) + ", ";
-    return sql + "rowid";
+    return sql + "rowid FROM " + Quoted(select.table) + " WHERE rowid = ?";
 }
 
 std::string UpdateSql(const dialect::CompiledStatement& select, const Edits& edits) {
@@ -133,19 +138,19 @@ void Recordset::State::DropEdits() {
 void Recordset::State::WriteNewRow() {
     DatabaseEngine& engine = connection->Engine();
     edits.resize(FieldCount());
-    PreparedStatement& statement =
-        engine.PrepareOwn(KeyOf('I', *plan, edits), [&] { return InsertSql(Compiled(), edits); })
-            .statement;
-    engine.CheckUnit();
-    BindEdits(statement, Compiled(), edits);
-    {
-        const StatementRun run(statement);
-        rows.Start();
-        statement.Step();
-        for (int i = 0; i < statement.ColumnCount(); ++i)
-            rows.Put(statement.Column(i));
-        statement.Step(); // only the end of the statement makes the row lasting
-    }
+    CachedStatement& insert =
+        engine.PrepareOwn(KeyOf('I', *plan, edits), [&] { return InsertSql(Compiled(), edits); });
+    BindEdits(insert.statement, Compiled(), edits);
+    if (engine.Run(insert) == 0) throw DatabaseError("The row was not added.");
+    const Cell number = Cell::OfInteger(engine.LastRowNumber());
+    PreparedStatement& row =
+        engine.PrepareOwn(KeyOf('R', *plan, {}), [&] { return ReadBackSql(Compiled()); }).statement;
+    const StatementRun run(row);
+    row.Bind(1, number, TextLife::UntilReset);
+    if (!row.Step()) ThrowConflict(Compiled().table);
+    rows.Start();
+    for (int i = 0; i < row.ColumnCount(); ++i)
+        rows.Put(row.Column(i));
     rows.Append();
     if (ordered) order.push_back(static_cast<std::uint32_t>(rows.Size() - 1));
     MoveTo(Count() - 1);
