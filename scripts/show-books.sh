@@ -5,33 +5,33 @@ set -euo pipefail
 
 vestrelctl=("$@")
 
-# Rows of CSV, quoted texts included, as aligned columns; what isn't text stands to the right.
+# asColumns [FIRST]: rows of CSV, quoted texts included, as aligned columns from the FIRST on, figures
+# to the right.
 asColumns() {
-    awk '
+    awk -v first="${1:-1}" '
         function cellsOf(line, row,    n, text) {
-            n = 0
             line = line ","
-            while (line != "") {
+            for (n = 1; line != ""; n++) {
                 if (match(line, /^"([^"]|"")*",/)) {
                     text = substr(line, 2, RLENGTH - 3)
                     gsub(/""/, "\"", text)
                 } else {
                     match(line, /^[^,]*,/)
                     text = substr(line, 1, RLENGTH - 1)
-                    if (row > 1 && text != "") isNumber[n + 1] = 1
                 }
                 line = substr(line, RLENGTH + 1)
-                cell[row, ++n] = text
+                cell[row, n] = text
+                if (text ~ /^[-(]?[0-9.,]+[%)]?$/) isFigure[n] = 1
                 if (length(text) > width[n]) width[n] = length(text)
+                if (n > columns) columns = n
             }
-            if (n > columns) columns = n
         }
         { cellsOf($0, NR) }
         END {
             for (row = 1; row <= NR; row++) {
                 line = ""
-                for (c = 1; c <= columns; c++)
-                    line = line sprintf(isNumber[c] ? "  %*s" : "  %-*s", width[c], cell[row, c])
+                for (c = first; c <= columns; c++)
+                    line = line sprintf(isFigure[c] ? "  %*s" : "  %-*s", width[c], cell[row, c])
                 sub(/ +$/, "", line)
                 print line
             }
@@ -42,11 +42,15 @@ echo
 echo "Bringing the books up to date"
 "${vestrelctl[@]}" update </dev/null | sed 's/^/  /'
 
-if "${vestrelctl[0]}" alerts --help >/dev/null 2>&1; then
-    echo
-    echo "What needs attention"
-    "${vestrelctl[@]}" alerts </dev/null | asColumns
-fi
+# Two tables, parted by an empty line; their headings and the records' numbers are for programs.
+alerts=$("${vestrelctl[@]}" alerts </dev/null)
+echo
+echo "What needs attention"
+attention=$(sed '1d; /^$/,$d' <<<"$alerts" | asColumns 3)
+echo "${attention:-  Nothing.}"
+echo
+echo "The portfolio"
+sed '1,/^$/d' <<<"$alerts" | sed 1d | asColumns
 
 echo
 echo "Rent, by how it stands"
