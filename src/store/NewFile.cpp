@@ -59,16 +59,16 @@ NewFolder::NewFolder(const fs::path& folder) {
     fs::path path = fs::absolute(folder, error).lexically_normal();
     if (!path.has_filename()) path = path.parent_path();
     for (; !fs::exists(path, error) && path.has_relative_path(); path = path.parent_path()) {
-        missing.push_back(path);
+        missing.insert(missing.begin(), path); // the outermost first
     }
-    for (auto next = missing.rbegin(); next != missing.rend(); ++next) {
-        if (!fs::create_directory(*next, error) && error) {
+    for (const fs::path& next : missing) {
+        if (!fs::create_directory(next, error) && error) {
             RemoveMade();
             throw platform::Error(
-                fmt::format("{} can't be made: {}", next->string(), error.message()));
+                fmt::format("{} can't be made: {}", next.string(), error.message()));
         }
-        made_.push_back(*next);
-        fs::permissions(*next, fs::perms::owner_all, error);
+        made_.push_back(next);
+        fs::permissions(next, fs::perms::owner_all, error);
     }
     if (!fs::is_directory(folder, error)) {
         throw platform::Error(fmt::format("{} is no directory", folder.string()));

@@ -20,7 +20,7 @@ class SampleDice {
         return static_cast<std::size_t>((bits >> 32U) * count >> 32U);
     }
     int Between(int low, int high) {
-        return low + static_cast<int>(Below(static_cast<std::size_t>(high - low + 1)));
+        return low + static_cast<int>(Below(static_cast<std::size_t>(high - low) + 1));
     }
     bool OneIn(std::size_t count) { return Below(count) == 0; }
 

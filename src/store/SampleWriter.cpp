@@ -69,8 +69,9 @@ std::int32_t SampleWriter::Add(std::string_view table, Fields fields) {
         values.front() = id;
     }
     for (const auto& [name, value] : fields) {
-        const auto field = std::find_if(known.begin(), known.end(),
-                                        [&](const auto& each) { return each.name == name; });
+        const auto field =
+            std::find_if(known.begin(), known.end(),
+                         [&, wanted = name](const auto& each) { return each.name == wanted; });
         if (field == known.end()) {
             throw platform::FieldError(fmt::format("{} has no field {}", table, name));
         }

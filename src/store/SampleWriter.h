@@ -36,7 +36,7 @@ class SampleWriter {
         std::string sql;
         std::vector<platform::Value> blank;
     };
-    const Insert& InsertInto(std::string_view table);
+    const Insert& InsertInto(std::string_view name);
 
     platform::Connection& connection_;
     std::function<std::int32_t()> nextId_;
