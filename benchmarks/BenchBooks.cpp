@@ -72,6 +72,11 @@ void OpenBooks(const std::filesystem::path& folder) {
     core::App().Connection.Open(folder / "Vestrel.mdb");
 }
 
+void PayEverything(Date nextDue) {
+    core::App().Connection.Execute("UPDATE RentLog SET IdTransaction = 1 WHERE IdTransaction = 0");
+    core::App().Connection.Execute("UPDATE Lease SET DateNextDue = ?", {nextDue.ToText()});
+}
+
 double RunLeases(Date today) {
     platform::SetToday(today);
     Counter counter;

@@ -14,6 +14,9 @@ void MakeBooks(const std::filesystem::path& folder, int leases, platform::Date f
 /// Opens the process's session on the database in `folder`.
 void OpenBooks(const std::filesystem::path& folder);
 
+/// Settles every open charge of the process's books, and moves the due dates on to `nextDue`.
+void PayEverything(platform::Date nextDue);
+
 /// Runs the leases up to `today`; answers the number of rows posted.
 double RunLeases(platform::Date today);
 

@@ -51,8 +51,8 @@ Cost PlainCatchUp(int leases, int rowsPerLease) {
     });
 }
 
-/// Books that have been kept for two months, one day on: the 2nd of a month, on which every lease
-/// accrues its daily fee.
+/// Books that have been kept for two months and whose tenants have paid, one day on: nothing falls
+/// due, every lease is tested, summed up and written.
 template <class Work>
 Cost OneDayOn(int leases, Work work) {
     return BestOfThree([&] {
@@ -63,7 +63,11 @@ Cost OneDayOn(int leases, Work work) {
                 bench::MakeBooks(books, leases, kFirstDue);
                 bench::OpenBooks(books);
             },
-            [] { return bench::RunLeases(Date(2024, 3, 1)); });
+            [] {
+                const double rows = bench::RunLeases(Date(2024, 3, 1));
+                bench::PayEverything(Date(2024, 4, 1));
+                return rows;
+            });
         return work(books);
     });
 }
@@ -90,10 +94,12 @@ void BenchOneDay() {
                                    [] { return bench::RunLeases(Date(2024, 3, 2)); });
     });
     const Cost plain = OneDayOn(kLeases, [](const std::filesystem::path& books) {
-        return bench::InOwnProcess([] {}, [&] { return bench::RunPlainEngine(books, kLeases, 1); });
+        return bench::InOwnProcess([] {}, [&] { return bench::RunPlainEngine(books, kLeases, 0); });
     });
-    PrintCost("one day on, 5,000 leases", ours);
-    PrintCost("  the same sums and updates by the engine alone", plain);
+    fmt::print("{:<52} {:>8.3f} s {:>8.1f} MB\n", "one day on, 5,000 leases", ours.seconds,
+               ours.peakMegabytes);
+    fmt::print("{:<52} {:>8.3f} s {:>8.1f} MB\n", "  the same sums and updates by the engine alone",
+               plain.seconds, plain.peakMegabytes);
     bench::Report("  ratio of time", ours.seconds / plain.seconds, 2.0);
 }
 
@@ -106,11 +112,16 @@ void BenchGrowth() {
     bench::Report("  peak resident size of the larger", large.peakMegabytes, 48.0, "MB");
 }
 
+bool IsWanted(std::string_view part, int argc, char** argv) {
+    return argc == 1 || std::find(argv + 1, argv + argc, part) != argv + argc;
+}
+
 } // namespace
 
-int main() {
-    BenchCatchUp();
-    BenchOneDay();
-    BenchGrowth();
+/// Without arguments all parts; otherwise those that are named: catch-up, one-day, growth.
+int main(int argc, char** argv) {
+    if (IsWanted("catch-up", argc, argv)) BenchCatchUp();
+    if (IsWanted("one-day", argc, argv)) BenchOneDay();
+    if (IsWanted("growth", argc, argv)) BenchGrowth();
     return bench::ExitStatus();
 }

@@ -25,4 +25,4 @@ void ChangeStatus(std::int32_t idLease, std::string_view newStatus, platform::Da
     core::NotifyAll(core::kLease, core::kRecordsChanged, 0);
 }
 
-}  // namespace leases
+} // namespace leases

@@ -1,5 +1,7 @@
 #include "leases/mLease.h"
 
+#include <optional>
+
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
@@ -44,7 +46,9 @@ std::string_view RentStatusOf(Recordset& row) {
 std::vector<Charge> UpdateLease(Recordset& row, WalkMode mode) {
     LeaseWalk walk = WalkLease(LeaseTerms::Read(row), mode, platform::Today());
 
-    UnitOfWork unit(core::App().Connection);
+    // On most days the lease's own row is all that is written, which one statement does whole.
+    std::optional<UnitOfWork> unit;
+    if (!walk.charges.empty() || !walk.statuses.empty()) unit.emplace(core::App().Connection);
     for (const std::string& word : walk.statuses)
         SetUnitAndTenant(row, word);
     if (!walk.statuses.empty()) row["Status"].Set(walk.terms.status);
@@ -54,7 +58,7 @@ std::vector<Charge> UpdateLease(Recordset& row, WalkMode mode) {
     SetLeaseBalances(row);
     SetRentStatus(row);
     row.Update();
-    unit.Commit();
+    if (unit) unit->Commit();
     return std::move(walk.charges);
 }
 
