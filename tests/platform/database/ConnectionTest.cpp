@@ -11,7 +11,6 @@ namespace platform {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::Test;
 
 /// Takes the superuser's rights away for a while, before whom no file is read-only.
 class AsOrdinaryUser {
@@ -44,7 +43,7 @@ class ConnectionTest : public DatabaseFixture {
 
     std::string OpenError(const fs::path& file, OpenMode mode = OpenMode::ReadWrite) {
         Connection other;
-        const std::string error = ErrorOf([&] { other.Open(file, mode); });
+        std::string error = ErrorOf([&] { other.Open(file, mode); });
         EXPECT_FALSE(other.IsOpen());
         return error;
     }

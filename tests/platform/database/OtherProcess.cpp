@@ -1,10 +1,10 @@
 #include "OtherProcess.h"
 
-#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 #include <exception>
 
 namespace platform {

@@ -74,7 +74,8 @@ TEST_F(RecordsetEditTest, RefusesWhatTheFieldCannotHoldAndKeepsItsValue) {
     rows_["Age"].Set(5);
     for (const auto& [field, set] : cases) {
         const Value before = rows_[field].Value();
-        const std::string error = ErrorOf([&] { rows_[field].Set(set); });
+        const std::string error =
+            ErrorOf([this, name = field, value = set] { rows_[name].Set(value); });
         EXPECT_TRUE(error.starts_with(std::string("Field ") + field + ": ")) << error;
         EXPECT_EQ(rows_[field].Value(), before) << field;
     }
@@ -256,7 +257,7 @@ TEST_F(RecordsetEditTest, SaysSoWhereRowsCannotBeWritten) {
         EXPECT_THROW(rows_.AddNew(), DatabaseError) << sql;
         EXPECT_THROW(rows_.Delete(), DatabaseError) << sql;
         rows_[0].Set(5);
-        EXPECT_TRUE(ErrorOf([&] { rows_.Update(); }).starts_with("The row")) << sql;
+        EXPECT_TRUE(ErrorOf([this] { rows_.Update(); }).starts_with("The row")) << sql;
     }
     EXPECT_THROW(
         rows_.Open(connection_, "SELECT DISTINCT Name FROM Person", CursorMode::AppendOnly),
