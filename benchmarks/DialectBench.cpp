@@ -27,9 +27,7 @@ double CompileTime(std::string_view statement, const platform::dialect::Catalog&
     return took.count() / kRepeats;
 }
 
-} // namespace
-
-int main() {
+int Run() {
     const support::TemporaryFolder folder;
     store::CreateDatabase(folder / "books");
     platform::Connection connection;
@@ -46,4 +44,10 @@ int main() {
                times.size(), times.front(), times.back());
     bench::Report("median compilation of a statement", times[times.size() / 2], 20, "us");
     return bench::ExitStatus();
+}
+
+} // namespace
+
+int main() {
+    return bench::Guarded(Run);
 }

@@ -116,12 +116,16 @@ bool IsWanted(std::string_view part, int argc, char** argv) {
     return argc == 1 || std::find(argv + 1, argv + argc, part) != argv + argc;
 }
 
-} // namespace
-
 /// Without arguments all parts; otherwise those that are named: catch-up, one-day, growth.
-int main(int argc, char** argv) {
+int Run(int argc, char** argv) {
     if (IsWanted("catch-up", argc, argv)) BenchCatchUp();
     if (IsWanted("one-day", argc, argv)) BenchOneDay();
     if (IsWanted("growth", argc, argv)) BenchGrowth();
     return bench::ExitStatus();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    return bench::Guarded([&] { return Run(argc, argv); });
 }

@@ -70,6 +70,15 @@ void Report(std::string_view what, double measured, double limit, std::string_vi
     std::fflush(stdout);
 }
 
+int Guarded(const std::function<int()>& run) noexcept {
+    try {
+        return run();
+    } catch (const std::exception& error) {
+        std::fputs(error.what(), stderr);
+        return 1;
+    }
+}
+
 int ExitStatus() {
     return allKept ? 0 : 1;
 }

@@ -21,6 +21,9 @@ Cost InOwnProcess(const std::function<void()>& setUp, const std::function<double
 /// Prints a measured ratio beside the limit it is held against; remembers whether all were kept.
 void Report(std::string_view what, double measured, double limit, std::string_view unit = "times");
 
+/// What `run` answers; 1 with the reason on standard error if it throws.
+int Guarded(const std::function<int()>& run) noexcept;
+
 /// 0 when every reported limit was kept, otherwise 1.
 int ExitStatus();
 

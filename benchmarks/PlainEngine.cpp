@@ -35,6 +35,7 @@ void BindText(sqlite3_stmt* statement, int index, const std::string& text) {
 
 std::vector<std::string> DatesFrom(platform::Date first, int count) {
     std::vector<std::string> dates;
+    dates.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         dates.push_back(DateAdd(platform::Interval::Day, i, first).ToText());
     }

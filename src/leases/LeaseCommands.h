@@ -13,4 +13,4 @@ namespace leases {
 /// work; failures are thrown. Nothing for a lease that isn't there.
 void ChangeStatus(std::int32_t idLease, std::string_view newStatus, platform::Date vacating);
 
-}  // namespace leases
+} // namespace leases

@@ -23,10 +23,10 @@ struct StatusStep {
 /// status needs and that can't be read; the terms are then as before.
 StatusStep StepLeaseStatus(LeaseTerms& terms, platform::Date onDate, bool force);
 
-/// Whether a lease of this status is charged.
-bool IsCharged(std::string_view status);
+/// Whether a lease of this status word is charged.
+bool IsCharged(std::string_view word);
 
-/// Whether a lease of this status is over: its unit free, its tenant archived.
-bool IsOver(std::string_view status);
+/// Whether a lease of this status word is over: its unit free, its tenant archived.
+bool IsOver(std::string_view word);
 
 } // namespace leases

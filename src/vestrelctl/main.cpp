@@ -18,7 +18,7 @@ constexpr int kWrongUsage = 2;
 std::string SetToday(const std::string& text) {
     const auto day = platform::Date::TryParse(text);
     if (!day) return "'" + text + "' is no day of the form mm/dd/yyyy";
-    platform::SetToday(*day);
+    platform::SetToday(day);
     return {};
 }
 

@@ -10,10 +10,13 @@ namespace platform::dialect {
 namespace {
 
 constexpr int kDeepest = 200;
+constexpr std::size_t kMostTokens = 40'000;
 
 } // namespace
 
-Parser::Parser(std::string_view text) : text_(text), tokens_(Tokenize(text)) {}
+Parser::Parser(std::string_view text) : text_(text), tokens_(Tokenize(text)) {
+    if (tokens_.size() > kMostTokens) ThrowFault(text_, 0, "The statement is too long");
+}
 
 Parser::Depth::Depth(Parser& parser) : parser_(parser) {
     if (++parser_.depth_ > kDeepest) {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <charconv>
 
 #include <fmt/core.h>
@@ -12,6 +13,16 @@
 namespace platform::dialect {
 
 Typed Translator::Expr(const Expression& expression) {
+    // The engine takes no more; a chain of additions is as deep as it is long.
+    constexpr int kDeepest = 900;
+    if (depth_ == kDeepest) Fault(expression.position, "The expression is too long");
+    ++depth_;
+    Typed typed = TranslateExpression(expression);
+    --depth_;
+    return typed;
+}
+
+Typed Translator::TranslateExpression(const Expression& expression) {
     switch (expression.kind) {
         case ExpressionKind::Number:
             return NumberLiteral(expression);
@@ -141,12 +152,29 @@ Typed Translator::Between(const Expression& expression) {
 
 Typed Translator::In(const Expression& expression) {
     const Typed value = Expr(*expression.operands[0]);
-    std::string sql = expression.negated ? "(NOT (" : "((";
+    std::vector<Typed> items;
     for (std::size_t i = 1; i < expression.operands.size(); ++i) {
-        if (i > 1) sql += " OR ";
-        sql += Compare("=", value, Expr(*expression.operands[i])).sql;
+        items.push_back(Expr(*expression.operands[i]));
     }
-    return MakeTyped(sql + "))", FieldType::Boolean);
+    const auto isAlike = [&](const Typed& item) {
+        return (value.IsWhole() && item.IsWhole()) || (value.IsText() && item.IsText());
+    };
+    const std::string_view negation = expression.negated ? "NOT " : "";
+    if (std::all_of(items.begin(), items.end(), isAlike)) {
+        std::string list;
+        for (const Typed& item : items)
+            list += (list.empty() ? "" : ", ") + item.sql;
+        return MakeTyped(
+            fmt::format("({}{} {}IN ({}))", value.sql,
+                        value.IsText() ? kTextCollation : std::string_view(), negation, list),
+            FieldType::Boolean);
+    }
+    // Where types meet, each item is compared as it would be by itself.
+    std::string sql;
+    for (const Typed& item : items) {
+        sql += (sql.empty() ? "" : " OR ") + Compare("=", value, item).sql;
+    }
+    return MakeTyped(fmt::format("({}({}))", negation, sql), FieldType::Boolean);
 }
 
 Typed Translator::InQuery(const Expression& expression) {

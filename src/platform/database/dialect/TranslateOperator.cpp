@@ -28,11 +28,7 @@ std::string ScaledLiteral(std::string_view digits) {
 
 Typed Translator::Binary(const Expression& expression) {
     const std::string_view symbol = expression.text;
-    if (symbol == "AND" || symbol == "OR") {
-        return MakeTyped(fmt::format("({} {} {})", Condition(*expression.operands[0]), symbol,
-                                     Condition(*expression.operands[1])),
-                         FieldType::Boolean);
-    }
+    if (symbol == "AND" || symbol == "OR") return Chain(expression);
     if (symbol == "XOR" || symbol == "EQV") {
         return MakeTyped(
             fmt::format("(({}) {} ({}))", Condition(*expression.operands[0]),
@@ -52,6 +48,21 @@ Typed Translator::Binary(const Expression& expression) {
         return Arithmetic(expression, left, right);
     }
     return Compare(symbol, left, right);
+}
+
+/// `a AND b AND c` in one pair of parentheses: the engine's parser bears few inside each other.
+Typed Translator::Chain(const Expression& expression) {
+    std::vector<const Expression*> conditions;
+    const Expression* link = &expression;
+    for (; link->kind == ExpressionKind::Binary && link->text == expression.text;
+         link = link->operands[0].get()) {
+        conditions.push_back(link->operands[1].get());
+    }
+    std::string sql = "(" + Condition(*link);
+    for (auto condition = conditions.rbegin(); condition != conditions.rend(); ++condition) {
+        sql += fmt::format(" {} {}", expression.text, Condition(**condition));
+    }
+    return MakeTyped(sql + ")", FieldType::Boolean);
 }
 
 Typed Translator::Add(const Expression& expression, const Typed& left, const Typed& right) {

@@ -109,11 +109,13 @@ class Translator {
     std::string OrderTerm(const Expression& expression, const std::vector<ResultColumn>& columns);
 
     // Expressions.
+    Typed TranslateExpression(const Expression& expression);
     Typed NumberLiteral(const Expression& expression);
     Typed DateLiteral(const Expression& expression);
     Typed ColumnReference(const Expression& expression);
     Typed Negate(const Expression& expression);
     Typed Binary(const Expression& expression);
+    Typed Chain(const Expression& expression);
     Typed Arithmetic(const Expression& expression, const Typed& left, const Typed& right);
     Typed Add(const Expression& expression, const Typed& left, const Typed& right);
     Typed MoneyArithmetic(const Expression& expression, const Typed& left, const Typed& right);
@@ -131,6 +133,7 @@ class Translator {
     std::vector<std::optional<FieldType>> parameters_;
     Scope* scope_ = nullptr;
     int unnamed_ = 1000;
+    int depth_ = 0;
 };
 
 /// Translates a call of one of the dialect's functions.
