@@ -2,6 +2,7 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <numeric>
+#include <ranges>
 
 #include "core/Settings.h"
 #include "core/screens/Grid.h"
@@ -30,6 +31,28 @@ std::vector<int> SampleRows(int rowCount) {
         rows[static_cast<std::size_t>(i)] = static_cast<int>(at);
     }
     return rows;
+}
+
+/// Where there is less room than the columns want, the widest give way, so that dates and amounts
+/// stay whole: no column stands above the one width that all can have.
+std::vector<int> Capped(std::vector<int> wanted, int first, int total) {
+    const auto columns = std::ranges::subrange(wanted.begin() + first, wanted.end());
+    const auto sumUnder = [&](int cap) {
+        std::int64_t sum = 0;
+        for (const int width : columns)
+            sum += std::min(width, cap);
+        return sum;
+    };
+    int fits = 0;
+    int tooWide = columns.empty() ? 0 : std::ranges::max(columns);
+    if (sumUnder(tooWide) <= total) return wanted;
+    while (tooWide - fits > 1) {
+        const int middle = fits + (tooWide - fits) / 2;
+        (sumUnder(middle) <= total ? fits : tooWide) = middle;
+    }
+    for (int& width : columns)
+        width = std::min(width, std::max(1, fits));
+    return wanted;
 }
 
 /// `total` parted by weight, to the last pixel; nothing goes to columns before `first`.
@@ -100,7 +123,9 @@ void Grid::ShareWidth() {
     const int rowsHeight = model_.rowCount() * verticalHeader()->defaultSectionSize();
     const int room = height() - 2 * frameWidth() - horizontalHeader()->sizeHint().height();
     const int bar = rowsHeight > room ? verticalScrollBar()->sizeHint().width() : 0;
-    Apply(*this, Share(wanted_, firstColumn_, width() - 2 * frameWidth() - bar), firstColumn_);
+    const int width = QTableView::width() - 2 * frameWidth() - bar;
+    Apply(*this, Share(Capped(wanted_, firstColumn_, width), firstColumn_, width), firstColumn_);
+    updateGeometries(); // the scroll bars go by the new widths at once
 }
 
 void AutoSizeGrid(Grid& grid, int firstColumn, Sizing sizing) {

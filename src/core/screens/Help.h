@@ -10,6 +10,9 @@ namespace core::screens {
 /// Shows a page of the help ("frmOwnerLink", "contents") over the window that asks.
 using HelpOpener = std::function<void(QWidget* owner, const QString& topic)>;
 
+/// The topic that stands for looking for words rather than for a page.
+inline constexpr const char* kHelpSearch = "search";
+
 /// Gives the process its help window; without one nothing is shown.
 void SetHelpOpener(HelpOpener opener);
 

@@ -138,6 +138,17 @@ TEST_F(GridTest, FitGridFillsTheWidthToThePixelAlsoAfterAResize) {
     }
 }
 
+TEST_F(GridTest, FitGridLetsTheWidestColumnsGiveWay) {
+    Run("UPDATE Unit SET Status = '" + std::string(200, 'x') + "' WHERE IdUnit = 20");
+    LoadUnits();
+    const std::vector<int> wanted = grid_.WantedWidths();
+    AutoSizeGrid(grid_, 1, Sizing::FitGrid);
+    EXPECT_GE(grid_.columnWidth(1), wanted[1]);
+    EXPECT_GE(grid_.columnWidth(3), wanted[3]);
+    EXPECT_LT(grid_.columnWidth(2), wanted[2]);
+    EXPECT_EQ(TotalWidth(), grid_.viewport()->width());
+}
+
 TEST_F(GridTest, FitTextGivesEachColumnItsWidestText) {
     LoadUnits();
     AutoSizeGrid(grid_, 1, Sizing::FitText);
