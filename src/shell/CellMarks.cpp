@@ -1,0 +1,44 @@
+#include "shell/CellMarks.h"
+
+#include <array>
+
+#include "core/RecordKinds.h"
+
+namespace shell {
+
+namespace {
+
+constexpr int kRentStatusColumn = 7;
+constexpr int kPaymentStatusColumn = 6;
+
+struct MarkedWord {
+    std::int16_t kind;
+    std::string_view word;
+    Mark mark;
+};
+
+constexpr std::array<MarkedWord, 6> kMarkedWords = {{
+    {core::kMortgage, "Due", Mark::Yellow},
+    {core::kMortgage, "Late", Mark::Red},
+    {core::kLease, "Due", Mark::Yellow},
+    {core::kLease, "Late", Mark::Yellow},
+    {core::kLease, "Warning", Mark::Red},
+    {core::kLease, "Eviction", Mark::Red},
+}};
+
+} // namespace
+
+int MarkedColumn(std::int16_t kind) {
+    if (kind == core::kLease) return kRentStatusColumn;
+    if (kind == core::kMortgage) return kPaymentStatusColumn;
+    return -1;
+}
+
+Mark MarkOf(std::int16_t kind, std::string_view word) {
+    for (const MarkedWord& marked : kMarkedWords) {
+        if (marked.kind == kind && marked.word == word) return marked.mark;
+    }
+    return Mark::None;
+}
+
+} // namespace shell

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace shell {
+
+/// How a status cell stands out: what is due, and what is worse.
+enum class Mark { None, Yellow, Red };
+
+/// The column of a view whose cells are marked, counted from the id column; -1 for none.
+int MarkedColumn(std::int16_t kind);
+
+/// The mark of a status word in that column. A mortgage turns red when it is late, a lease only
+/// with a warning or an eviction.
+Mark MarkOf(std::int16_t kind, std::string_view word);
+
+} // namespace shell

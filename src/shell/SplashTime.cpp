@@ -1,0 +1,14 @@
+#include "shell/SplashTime.h"
+
+#include <cmath>
+
+namespace shell {
+
+SplashTime::SplashTime(double secondOfDay) : start_(std::round(secondOfDay)) {}
+
+bool SplashTime::IsOver(double secondOfDay) const {
+    // Before the start (by more than its rounding) it is another day.
+    return secondOfDay > start_ + 1 || secondOfDay < start_ - 1;
+}
+
+} // namespace shell

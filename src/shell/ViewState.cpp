@@ -1,0 +1,98 @@
+#include "shell/ViewState.h"
+
+#include <array>
+
+#include "core/RecordKinds.h"
+#include "core/Settings.h"
+
+namespace shell {
+
+namespace {
+
+struct Tag {
+    std::int16_t kind;
+    std::string_view tag;
+};
+
+constexpr std::array<Tag, 7> kTags = {{
+    {core::kAccount, "frmKestrom.Account"},
+    {core::kLease, "frmKestrom.Lease"},
+    {core::kMortgage, "frmKestrom.Mortgage"},
+    {core::kTenant, "frmKestrom.Tenant"},
+    {core::kWorkOrder, "frmKestrom.WorkOrder"},
+    {core::kTransaction, "frmKestrom.Transaction"},
+    {core::kUnit, "frmKestrom.Building"},
+}};
+
+constexpr std::string_view kAscending = "ASC";
+constexpr std::string_view kDescending = "DESC";
+
+/// Where each part of a view's state is kept: a key, below which each view has a value of its tag.
+struct Place {
+    std::string_view key;
+    std::string ViewState::*part;
+};
+
+constexpr std::array<Place, 5> kPlaces = {{
+    {R"(SOFTWARE\Vestrel\Kestrom\ViewInfo)", &ViewState::view},
+    {R"(SOFTWARE\Vestrel\Kestrom\SortOrder)", &ViewState::sortOrder},
+    {R"(SOFTWARE\Vestrel\Kestrom\PrevOrder)", &ViewState::prevOrder},
+    {R"(SOFTWARE\Vestrel\Kestrom\SortField)", &ViewState::sortField},
+    {R"(SOFTWARE\Vestrel\Kestrom\PrevField)", &ViewState::prevField},
+}};
+
+void MendOrder(std::string& order) {
+    if (order != kDescending) order = kAscending;
+}
+
+void AppendSort(std::string& text, const std::string& field, const std::string& order) {
+    if (!text.empty()) text += ", ";
+    text.append("[").append(field).append("] ").append(order);
+}
+
+} // namespace
+
+std::string_view ViewTag(std::int16_t kind) {
+    for (const Tag& tag : kTags) {
+        if (tag.kind == kind) return tag.tag;
+    }
+    return {};
+}
+
+ViewState LoadViewState(std::string_view tag) {
+    ViewState state;
+    for (const Place& place : kPlaces) {
+        state.*place.part = core::GetRegString(place.key, tag, state.*place.part);
+    }
+    MendOrder(state.sortOrder);
+    MendOrder(state.prevOrder);
+    return state;
+}
+
+void SaveViewState(std::string_view tag, const ViewState& state) {
+    for (const Place& place : kPlaces)
+        core::SetRegString(place.key, tag, state.*place.part);
+}
+
+void ClickHeader(ViewState& state, std::string_view caption) {
+    if (state.sortField == caption) {
+        state.sortOrder = state.sortOrder == kAscending ? kDescending : kAscending;
+        return;
+    }
+    state.prevField = state.sortField;
+    state.prevOrder = state.sortOrder;
+    state.sortField = caption;
+}
+
+std::string SortText(const ViewState& state,
+                     const std::function<bool(std::string_view caption)>& hasColumn) {
+    std::string text;
+    if (state.sortField.empty()) return text;
+    if (hasColumn(state.sortField)) AppendSort(text, state.sortField, state.sortOrder);
+    if (!state.prevField.empty() && hasColumn(state.prevField)) {
+        AppendSort(text, state.prevField, state.prevOrder);
+    }
+    return text;
+}
+
+} // namespace shell

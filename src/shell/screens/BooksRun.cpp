@@ -1,0 +1,30 @@
+#include "shell/screens/BooksRun.h"
+
+#include <QApplication>
+
+#include "core/MessagePump.h"
+
+namespace shell::screens {
+
+namespace {
+
+class Hourglass {
+  public:
+    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Hourglass() { QApplication::restoreOverrideCursor(); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+};
+
+} // namespace
+
+void RunBooks(RunDigest& digest) {
+    {
+        const Hourglass hourglass;
+        core::LetMessagesRun();
+        core::UpdateRecords(digest);
+    }
+    core::LetMessagesRun();
+}
+
+} // namespace shell::screens

@@ -1,0 +1,182 @@
+// What the buttons and menu items of the main window do.
+
+#include <QActionGroup>
+#include <QMenu>
+#include <array>
+
+#include "core/EditRecord.h"
+#include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "core/Settings.h"
+#include "core/screens/ErrorRoll.h"
+#include "core/screens/Help.h"
+#include "platform/dialogs/Desktop.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/qt/Icons.h"
+#include "platform/qt/Text.h"
+#include "platform/system/Paths.h"
+#include "platform/system/Process.h"
+#include "shell/GridReport.h"
+#include "shell/screens/HomePage.h"
+#include "shell/screens/ViewPanel.h"
+#include "shell/screens/frmKestrom.h"
+#include "store/TransCategories.h"
+#include "ui_frmKestrom.h"
+
+namespace shell::screens {
+
+namespace {
+
+struct Category {
+    const char* tag;
+    std::int16_t kind;
+};
+
+// MILEAGE has no button: trips are kept on a screen of their own.
+constexpr std::array<Category, 9> kCategories = {{{"ALERTS", core::kAlert},
+                                                  {"ACCOUNTS", core::kAccount},
+                                                  {"FINANCIAL", core::kTransaction},
+                                                  {"LEASES", core::kLease},
+                                                  {"UNITS", core::kUnit},
+                                                  {"TENANTS", core::kTenant},
+                                                  {"MORTGAGES", core::kMortgage},
+                                                  {"WORKORDERS", core::kWorkOrder},
+                                                  {"MILEAGE", core::kMileage}}};
+
+constexpr std::string_view kDownloads = "https://www.vestrel.example/downloads";
+constexpr std::string_view kForum = "https://forum.vestrel.example/";
+
+} // namespace
+
+void frmKestrom::SetUpActions() {
+    ui_->mnuDatabaseSep->setSeparator(true);
+    for (QAction* const action : findChildren<QAction*>()) {
+        const QString picture = action->property("picture").toString();
+        if (!picture.isEmpty()) action->setIcon(platform::qt::LoadIcon(picture));
+        action->setIconVisibleInMenu(false);
+        // The bar shows the plain word; what it does and its key stand in the tip.
+        const QString key = action->shortcut().toString(QKeySequence::NativeText);
+        if (!picture.isEmpty() && !key.isEmpty()) {
+            action->setToolTip(QStringLiteral("%1 (%2)").arg(action->toolTip(), key));
+        }
+    }
+    for (QMenu* const menu : menuBar()->findChildren<QMenu*>())
+        menu->setToolTipsVisible(false);
+}
+
+void frmKestrom::ConnectCategories() {
+    for (QAction* const action : findChildren<QAction*>()) {
+        const QString tag = action->property("tag").toString();
+        for (const Category& category : kCategories) {
+            if (tag != QLatin1String(category.tag)) continue;
+            action->setData(category.kind);
+            categories_->addAction(action);
+            connect(action, &QAction::triggered, this, [this, kind = category.kind] {
+                core::screens::Guarded([&] { SetSelectedDb(kind); });
+            });
+        }
+    }
+}
+
+void frmKestrom::On(const QString& item, const std::function<void()>& work) {
+    auto* const action = findChild<QAction*>(item);
+    Q_ASSERT(action != nullptr);
+    action->setEnabled(true);
+    connect(action, &QAction::triggered, this, [work] { core::screens::Guarded(work); });
+}
+
+void frmKestrom::ConnectCommands() {
+    // What other rooms do; an item that nobody does yet can't be chosen.
+    for (QAction* const action : findChildren<QAction*>()) {
+        const QString item = action->objectName();
+        if (!item.startsWith(QLatin1String("mnu")) || action->menu() != nullptr) continue;
+        if (services_.commands.Has(item)) {
+            On(item, [this, item] { services_.commands.Run(item, Selected()); });
+        } else if (!action->isSeparator()) {
+            action->setEnabled(false);
+        }
+    }
+    ConnectOwnCommands();
+}
+
+void frmKestrom::ConnectOwnCommands() {
+    const auto name = [](const char* item) { return QString::fromLatin1(item); };
+    On(name("mnuAdd"), [this] { core::EditRecord(selectedDb_, 0); });
+    On(name("mnuEdit"), [this] { core::EditRecord(selectedDb_, SelectedId()); });
+    On(name("mnuCopy"), [this] { core::EditRecord(selectedDb_, 0, 0, SelectedId()); });
+    On(name("mnuRefreshSummary"), [this] { home_->Refresh(); });
+    On(name("mnuRefresh"), [this] {
+        if (selectedDb_ == core::kAlert) {
+            home_->Refresh();
+        } else {
+            view_->Reload(ViewPanel::Cause::Choice);
+        }
+    });
+    On(name("mnuFind"), [this] { view_->FindText(); });
+    On(name("mnuCopyRows"), [this] { view_->CopyRows(); });
+    On(name("mnuPrintGrid"), [this] { PrintGrid(); });
+    On(name("mnuExit"), [this] { close(); });
+    On(name("mnuCalculator"), StartCalculator);
+    On(name("mnuRestoreTransCategories"), RestoreTransCategories);
+    On(name("mnuSysInfo"), StartSystemInformation);
+    On(name("mnuHelpGettingStarted"), [this] { OpenHelp(QStringLiteral("gettingstarted")); });
+    On(name("mnuHelpContents"), [this] { OpenHelp(QStringLiteral("contents")); });
+    On(name("mnuHelpSearch"),
+       [this] { OpenHelp(QString::fromLatin1(core::screens::kHelpSearch)); });
+    On(name("mnuHelpDownloads"), [] { platform::TheDesktop().OpenWebPage(kDownloads); });
+    On(name("mnuHelpUserForum"), [] { platform::TheDesktop().OpenWebPage(kForum); });
+    ui_->mnuBackup->setEnabled(static_cast<bool>(services_.end.startBackup));
+}
+
+void frmKestrom::EditSelected() {
+    if (ui_->mnuEdit->isEnabled()) ui_->mnuEdit->trigger();
+}
+
+void frmKestrom::PrintGrid() {
+    if (services_.viewReport) services_.viewReport(WriteGridReport(view_->PrintSql()));
+}
+
+// The restoration only adds what is missing, though the question says more.
+void frmKestrom::RestoreTransCategories() {
+    const bool agreed = platform::TheDialogs().AskYesNo(
+        "Confirm Action",
+        "Restoring default transaction categories will erase the currently defined categories \n"
+        "and replace them with the default ones. Are you sure you want to do this?",
+        platform::Icon::Question);
+    if (!agreed) return;
+    store::SeedTransCategories(core::App().Connection);
+    core::NotifyAll(core::kTransCategory, core::kRecordsChanged, 0);
+    platform::TheDialogs().ShowMessage("Success",
+                                       "Default Transaction Categories have been restored.",
+                                       platform::Icon::Information);
+}
+
+void frmKestrom::StartCalculator() {
+    const std::string calculator = core::App().AppPath + "SumDesk.exe";
+    if (platform::FileExists(calculator)) platform::StartDetached(calculator);
+}
+
+// The settings may name a tool; else one of those that desktops bring along.
+void frmKestrom::StartSystemInformation() {
+    const std::string_view tools = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
+    const std::string_view location = R"(SOFTWARE\Microsoft\Shared Tools Location)";
+    std::string tool = core::GetRegString(tools, "PATH", "");
+    if (tool.empty()) {
+        tool = core::GetRegString(location, "MSINFO", "");
+        if (!tool.empty()) tool = platform::AddBackslash(tool) + "MSINFO32.EXE";
+    }
+    if (!tool.empty() && platform::FileExists(tool)) {
+        platform::StartDetached(tool);
+        return;
+    }
+    for (const char* const known : {"kinfocenter", "hardinfo"}) {
+        if (platform::StartDetached(known)) return;
+    }
+}
+
+void frmKestrom::OpenHelp(const QString& topic) {
+    core::screens::ShowHelpTopic(*this, topic);
+}
+
+} // namespace shell::screens

@@ -1,0 +1,72 @@
+// How the main window, and with it the program, ends.
+
+#include <QCloseEvent>
+#include <QTimer>
+
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "core/Session.h"
+#include "core/screens/OpenForms.h"
+#include "core/screens/WindowPlace.h"
+#include "shell/screens/HomePage.h"
+#include "shell/screens/ViewPanel.h"
+#include "shell/screens/frmKestrom.h"
+
+namespace shell::screens {
+
+namespace {
+
+constexpr int kTryAgainMs = 50;
+
+} // namespace
+
+/// The books are in the middle of something that lets window messages run.
+bool frmKestrom::IsBusy() const {
+    return loading_ || updating_ || core::App().Connection.InUnitOfWork();
+}
+
+void frmKestrom::closeEvent(QCloseEvent* event) {
+    if (hasEnded_) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (IsBusy()) {
+        QTimer::singleShot(kTryAgainMs, this, &frmKestrom::close);
+        return;
+    }
+    if (!core::screens::MayCloseAllForms() || !home_->AskToClose()) return;
+    End();
+    event->accept();
+}
+
+void frmKestrom::EndUnasked() {
+    if (hasEnded_) return;
+    if (IsBusy()) {
+        QTimer::singleShot(kTryAgainMs, this, &frmKestrom::EndUnasked);
+        return;
+    }
+    End();
+    close();
+}
+
+void frmKestrom::End() {
+    hasEnded_ = true;
+    tmr_->stop();
+    homeRefresh_->stop();
+    if (selectedDb_ != core::kAlert) view_->Remember();
+    ShutDownSteps steps = services_.end;
+    steps.saveWindow = [this] { core::screens::SaveWindow(*this); };
+    steps.saveHomePage = [this] { home_->SaveNotesOrRescue(); };
+    steps.closeSession = [this] {
+        view_->Release();
+        core::CloseDatabase(core::App().Connection);
+    };
+    steps.unloadForms = [] { core::screens::CloseAllForms(); };
+    steps.isBackupWanted = [this, isDue = services_.end.isBackupWanted] {
+        return IsBackupOnExit() || (isDue && isDue());
+    };
+    ShutDown(steps);
+}
+
+} // namespace shell::screens

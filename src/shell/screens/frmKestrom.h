@@ -1,0 +1,111 @@
+#pragma once
+
+#include <QMainWindow>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "core/DayChange.h"
+#include "core/NotifyAll.h"
+#include "shell/RunDigest.h"
+#include "shell/ShutDown.h"
+#include "shell/screens/Commands.h"
+
+class QActionGroup;
+class QLabel;
+class QTimer;
+
+namespace Ui {
+class frmKestrom;
+}
+
+namespace shell::screens {
+
+class HomePage;
+class ViewPanel;
+
+/// What stands around the main window.
+struct WindowServices {
+    Commands commands;
+    /// Whether the records of a kind have an editor.
+    std::function<bool(std::int16_t kind)> hasEditor;
+    /// Opens a report definition in the viewer; without it nothing can be printed.
+    std::function<void(const std::filesystem::path& definition)> viewReport;
+    /// The steps of the end that aren't the window's own. Without startBackup there is no backup.
+    ShutDownSteps end;
+};
+
+/// The one window that stays open: the home page or the records of one kind, and the menus that
+/// reach every other screen. Closing it ends the program.
+class frmKestrom : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit frmKestrom(WindowServices services);
+    ~frmKestrom() override;
+
+    /// Opens on the home page. `digest` is what the run before it posted.
+    void Setup(RunDigest digest);
+    /// Changes the view: to a kind of records, or to the home page (the kind of alerts).
+    void SetSelectedDb(std::int16_t kind);
+    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id);
+    void Enable_EditButtons();
+    /// The day-change timer's work.
+    void Tick();
+
+    std::int16_t SelectedDb() const { return selectedDb_; }
+    std::int32_t SelectedId() const;
+    bool IsBackupOnExit() const;
+    bool HasEnded() const { return hasEnded_; }
+
+    /// Ends the program in order and without a question.
+    void EndUnasked();
+    /// Brings the window before all others.
+    void ComeToFront();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void SetUpActions();
+    void SetUpPages();
+    void ConnectCategories();
+    void ConnectCommands();
+    void ConnectOwnCommands();
+    /// Gives an item work, whose failures are shown.
+    void On(const QString& item, const std::function<void()>& work);
+    Selection Selected() const;
+
+    void Initialise();
+    void ShowExtraItems();
+    void ShowStatus();
+    void RefreshHome();
+    bool IsBusy() const;
+    void End();
+
+    void EditSelected();
+    void PrintGrid();
+    static void RestoreTransCategories();
+    static void StartCalculator();
+    static void StartSystemInformation();
+    void OpenHelp(const QString& topic);
+
+    WindowServices services_;
+    std::unique_ptr<Ui::frmKestrom> ui_;
+    QActionGroup* categories_;
+    HomePage* home_;
+    ViewPanel* view_;
+    QLabel* narrowed_;
+    QTimer* tmr_;
+    QTimer* homeRefresh_;
+    RunDigest digest_;
+    core::DayChange dayChange_;
+    std::int16_t selectedDb_;
+    bool loading_ = false;
+    bool updating_ = false;
+    bool hasEnded_ = false;
+    core::NotifyToken token_;
+};
+
+} // namespace shell::screens

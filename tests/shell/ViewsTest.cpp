@@ -1,0 +1,156 @@
+#include "shell/Views.h"
+
+#include <gmock/gmock.h>
+
+#include <vector>
+
+#include "core/RecordKinds.h"
+#include "core/RecordsFixture.h"
+#include "platform/database/Recordset.h"
+
+namespace {
+
+using shell::BuildViewSql;
+using shell::IdColumn;
+using shell::ViewFilter;
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+class Views : public tests::CoreRecords {
+  protected:
+    Views() {
+        Run("UPDATE Lease SET Status = 'MTM', Hide = False WHERE IdLease = 40");
+        Run("INSERT INTO Lease (IdLease, IdUnit, IdTenant, Status, Hide) "
+            "VALUES (41, 21, 31, 'Notice', False)");
+        Run("INSERT INTO Lease (IdLease, IdUnit, IdTenant, Status, Hide) "
+            "VALUES (42, 22, 32, 'MTM', True)");
+        Run("INSERT INTO Account (IdAccount, ShowAs, AccountType, Hide) "
+            "VALUES (63, 'Odd', 'Owner''s friend', False)");
+        // Today is 05/17/2024; ninety days back is 02/17/2024.
+        AddTransaction(90, "02/16/2024", "Ann", "Bank", 10);
+        AddTransaction(91, "02/17/2024", "Ann", "O'Brien", 10);
+        AddTransaction(92, "05/17/2024", "Bob", "Bank", 11);
+    }
+
+    static void AddTransaction(int id, const std::string& day, const std::string& from,
+                               std::string to, int idBuilding) {
+        if (const auto quote = to.find('\''); quote != std::string::npos) to.insert(quote, "'");
+        Run("INSERT INTO Transactions (IdTransaction, DateEffective, DebitDesc, CreditDesc, "
+            "Amount, IdBuilding) VALUES (" +
+            std::to_string(id) + ", '" + day + "', '" + from + "', '" + to + "', 12.5, " +
+            std::to_string(idBuilding) + ")");
+    }
+
+    static std::vector<std::int32_t> Ids(std::int16_t kind, const ViewFilter& filter) {
+        platform::Recordset rows;
+        rows.Open(core::App().Connection, BuildViewSql(kind, filter, IdColumn::First));
+        std::vector<std::int32_t> ids;
+        for (; !rows.Eof(); rows.MoveNext())
+            ids.push_back(rows[std::size_t{0}].AsLong());
+        return ids;
+    }
+};
+
+TEST_F(Views, HaveTheirColumnsWithAndWithoutTheId) {
+    struct Case {
+        std::int16_t kind;
+        const char* idColumn;
+        std::vector<std::string> columns;
+    };
+    for (const Case& c : std::vector<Case>{
+             {core::kAccount,
+              "IdAccount",
+              {"Description", "City", "State", "Phone", "FAX", "Account Type", "Account Number"}},
+             {core::kLease,
+              "IdLease",
+              {"Status", "Tenant", "Address", "Unit", "Date Active", "Rent", "Rent Status",
+               "Option"}},
+             {core::kMortgage,
+              "IdMortgage",
+              {"Status", "Lender", "Account Number", "Borrower", "Address", "Payment Status",
+               "Balance", "I Rate", "Payment"}},
+             {core::kTenant,
+              "IdTenant",
+              {"Status", "Name", "Phone", "Alternate Phone", "Marital Status", "Spouse Name",
+               "Email"}},
+             {core::kWorkOrder,
+              "IdWorkOrder",
+              {"Status", "Description", "Priority", "Date Opened", "Initiator", "Address", "Unit"}},
+             {core::kTransaction,
+              "IdTransaction",
+              {"Effective Date", "From", "To", "Amount", "Category", "Check #", "Description"}},
+             {core::kUnit,
+              "IdUnit",
+              {"Status", "Address", "Unit", "City", "State", "Bedrooms", "Bathrooms", "Size",
+               "Rent"}},
+         }) {
+        for (const IdColumn idColumn : {IdColumn::First, IdColumn::Omitted}) {
+            platform::Recordset rows;
+            rows.Open(core::App().Connection, BuildViewSql(c.kind, {}, idColumn));
+            std::vector<std::string> names;
+            for (std::size_t i = 0; i < rows.FieldCount(); ++i)
+                names.push_back(rows[i].Name());
+            std::vector<std::string> expected = c.columns;
+            if (idColumn == IdColumn::First) expected.insert(expected.begin(), c.idColumn);
+            EXPECT_EQ(names, expected);
+        }
+    }
+    EXPECT_EQ(BuildViewSql(core::kAlert, {}, IdColumn::First), "");
+    EXPECT_EQ(BuildViewSql(core::kMileage, {}, IdColumn::First), "");
+}
+
+TEST_F(Views, KeepToTheChosenWordAndTheRecordsNotHidden) {
+    EXPECT_THAT(Ids(core::kLease, {}), UnorderedElementsAre(40, 41));
+    EXPECT_THAT(Ids(core::kLease, {.showHidden = true}), UnorderedElementsAre(40, 41, 42));
+    EXPECT_THAT(Ids(core::kLease, {.status = "MTM"}), ElementsAre(40));
+    EXPECT_THAT(Ids(core::kLease, {.status = "MTM", .showHidden = true}),
+                UnorderedElementsAre(40, 42));
+    EXPECT_THAT(Ids(core::kLease, {.status = "Broken"}), ElementsAre());
+    EXPECT_THAT(Ids(core::kAccount, {.status = "Owner's friend"}), ElementsAre(63));
+}
+
+TEST_F(Views, NarrowTransactionsByPeriodAndOneField) {
+    struct Case {
+        ViewFilter filter;
+        std::vector<std::int32_t> ids;
+    };
+    for (const Case& c : std::vector<Case>{
+             {{}, {91, 92}},
+             {{.days = 91}, {90, 91, 92}},
+             {{.days = 30}, {92}},
+             {{.days = 0}, {90, 91, 92}},
+             {{.showHidden = true, .days = 30}, {92}},
+             {{.days = 0, .field = "To", .item = {"O'Brien", 0}}, {91}},
+             {{.days = 0, .field = "From", .item = {"Ann", 0}}, {90, 91}},
+             {{.days = 0, .field = "Building", .item = {"Oak Rd", 11}}, {92}},
+             {{.days = 0, .field = "Building", .item = {"All", 0}}, {90, 91, 92}},
+             {{.days = 0, .field = "None", .item = {"Oak Rd", 11}}, {90, 91, 92}},
+         }) {
+        EXPECT_EQ(Ids(core::kTransaction, c.filter), c.ids)
+            << BuildViewSql(core::kTransaction, c.filter, IdColumn::First);
+    }
+}
+
+TEST_F(Views, OfferWordsOfTheKindOrOfItsRecords) {
+    EXPECT_THAT(shell::ViewWords(core::kUnit), ElementsAre("All", "Hold", "Avaliable", "Leased"));
+    EXPECT_THAT(shell::ViewWords(core::kTransaction), ElementsAre("All"));
+    EXPECT_THAT(shell::ViewWords(core::kAccount),
+                UnorderedElementsAre("All", "Bank", "Building Owner", "Owner's friend"));
+}
+
+TEST_F(Views, OfferItemsForEveryFilterField) {
+    std::vector<std::string> fields;
+    for (const std::string_view field : shell::FilterFields()) {
+        const auto items = shell::FilterItems(field);
+        ASSERT_FALSE(items.empty());
+        EXPECT_EQ(items.front(), (shell::Choice{"All", 0})) << field;
+        if (items.size() > 1) fields.emplace_back(field);
+    }
+    EXPECT_THAT(fields, ElementsAre("To", "From", "Category", "Building", "Unit", "Tenant", "Lease",
+                                    "Mortgage"));
+    EXPECT_THAT(shell::FilterItems("Building"),
+                ElementsAre(shell::Choice{"All", 0}, shell::Choice{"12 Elm St", 10},
+                            shell::Choice{"Oak Rd", 11}));
+}
+
+} // namespace

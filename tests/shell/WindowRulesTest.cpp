@@ -1,0 +1,114 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <vector>
+
+#include "core/RecordKinds.h"
+#include "shell/Availability.h"
+#include "shell/CellMarks.h"
+#include "shell/ViewTexts.h"
+
+namespace {
+
+using shell::Mark;
+
+TEST(Availability, NeedsAListARecordAndAnEditor) {
+    struct Case {
+        shell::WindowState state;
+        std::array<bool, 4> can; // add, print the list, edit, record
+    };
+    for (const Case& c : std::vector<Case>{
+             {{core::kAlert, 0, false}, {false, false, false, false}},
+             {{core::kAlert, 7, true}, {false, false, false, false}},
+             {{core::kLease, 0, true}, {true, true, false, false}},
+             {{core::kLease, 7, true}, {true, true, true, true}},
+             {{core::kLease, 7, false}, {false, true, false, true}},
+             {{core::kTransaction, -7, true}, {true, true, true, true}},
+         }) {
+        const shell::Availability can = shell::EnableEditButtons(c.state);
+        EXPECT_EQ((std::array{can.add, can.printGrid, can.edit, can.record}), c.can)
+            << c.state.kind << " " << c.state.selectedId;
+    }
+}
+
+TEST(ExtraItems, BelongToTheirViews) {
+    struct Case {
+        std::int16_t kind;
+        std::array<bool, 5> shown; // refresh summary, pay rent, pay mortgage, copy, separator
+    };
+    for (const Case& c : std::vector<Case>{
+             {core::kAlert, {true, false, false, false, false}},
+             {core::kLease, {false, true, false, false, true}},
+             {core::kMortgage, {false, false, true, false, true}},
+             {core::kTransaction, {false, false, false, true, false}},
+             {core::kUnit, {false, false, false, true, false}},
+             {core::kTenant, {false, false, false, false, false}},
+         }) {
+        const shell::ExtraItems extra = shell::ExtraItemsOf(c.kind);
+        EXPECT_EQ((std::array{extra.refreshSummary, extra.payRent, extra.payMortgage, extra.copy,
+                              extra.Separator()}),
+                  c.shown)
+            << c.kind;
+    }
+}
+
+TEST(CellMarks, TurnRedLaterForALeaseThanForAMortgage) {
+    struct Case {
+        std::int16_t kind;
+        const char* word;
+        Mark mark;
+    };
+    for (const Case& c : std::vector<Case>{
+             {core::kMortgage, "Due", Mark::Yellow},
+             {core::kMortgage, "Late", Mark::Red},
+             {core::kMortgage, "Warning", Mark::None},
+             {core::kMortgage, "Paid", Mark::None},
+             {core::kLease, "Due", Mark::Yellow},
+             {core::kLease, "Late", Mark::Yellow},
+             {core::kLease, "Warning", Mark::Red},
+             {core::kLease, "Eviction", Mark::Red},
+             {core::kLease, "Paid", Mark::None},
+             {core::kLease, "late", Mark::None},
+             {core::kLease, "", Mark::None},
+             {core::kTenant, "Due", Mark::None},
+         }) {
+        EXPECT_EQ(shell::MarkOf(c.kind, c.word), c.mark) << c.kind << " " << c.word;
+    }
+}
+
+TEST(StatusText, TellsTheCountTheKindAndTheSort) {
+    using shell::StatusText;
+    EXPECT_EQ(StatusText(core::kLease, 0, {}), "Selected 0 Lease records");
+    EXPECT_EQ(StatusText(core::kWorkOrder, -1, {}), "Selected -1 Work Order records");
+    EXPECT_EQ(StatusText(core::kUnit, 1000000, {"All", "Rent", "DESC", "Unit", "ASC"}),
+              "Selected 1000000 Unit records sorted by Rent [DESC]");
+    EXPECT_EQ(shell::NarrowedText(3, 12), "3 of 12 shown");
+    EXPECT_EQ(shell::NarrowedText(12, 12), "");
+    EXPECT_EQ(shell::NarrowedText(0, -1), "");
+}
+
+TEST(EmptyText, SaysWhyNothingIsThereAndWhatToDo) {
+    struct Case {
+        shell::EmptyView view;
+        const char* says;
+    };
+    const shell::ViewFilter pending{.status = "Pending"};
+    const shell::ViewFilter always{.days = 0};
+    const shell::ViewFilter ofItem{.days = 0, .field = "Building", .item = {"Elm", 3}};
+    const shell::ViewFilter ofAllItems{.days = 0, .field = "Building"};
+    for (const Case& c : std::vector<Case>{
+             {{core::kLease, -1, "", {}}, "The leases can't be read"},
+             {{core::kLease, 4, "smith", {}}, "None of the 4 leases has \"smith\""},
+             {{core::kLease, 0, "smith", pending}, "No leases meet the choice"},
+             {{core::kTenant, 0, "", {}}, "There are no tenants yet. Press Ctrl+N"},
+             {{core::kTransaction, 0, "", {}}, "No transactions meet the choice"},
+             {{core::kTransaction, 0, "", ofItem}, "No transactions meet the choice"},
+             {{core::kTransaction, 0, "", always}, "There are no transactions yet."},
+             {{core::kTransaction, 0, "", ofAllItems}, "There are no transactions yet."},
+         }) {
+        const std::string text = shell::EmptyText(c.view);
+        EXPECT_TRUE(text.starts_with(c.says)) << text;
+    }
+}
+
+} // namespace

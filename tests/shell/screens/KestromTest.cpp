@@ -1,0 +1,249 @@
+#include <gmock/gmock.h>
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QToolButton>
+#include <set>
+
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "core/screens/Form.h"
+#include "platform/qt/Text.h"
+#include "platform/system/Clock.h"
+#include "platform/system/Paths.h"
+#include "shell/screens/KestromFixture.h"
+#include "support/screens/ScreenChecks.h"
+
+namespace {
+
+using platform::qt::FromScreen;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Kestrom : public tests::KestromTest {
+  protected:
+    /// Of these items, those that can be chosen.
+    std::vector<std::string> Enabled(std::initializer_list<const char*> items) {
+        std::vector<std::string> enabled;
+        for (const char* const item : items) {
+            if (Item(item).isEnabled()) enabled.emplace_back(item);
+        }
+        return enabled;
+    }
+};
+
+TEST_F(Kestrom, OpensOnTheHomePageWithoutRecordCommands) {
+    EXPECT_EQ(FromScreen(Window().windowTitle()), "Vestrel - Elm & Sons");
+    EXPECT_EQ(Window().SelectedDb(), core::kAlert);
+    EXPECT_TRUE(support::Find<QWidget>(Window(), "ucAlerts").isVisible());
+    EXPECT_FALSE(Grid().isVisible());
+    EXPECT_EQ(Status(), "");
+    EXPECT_THAT(Enabled({"mnuAdd", "mnuEdit", "mnuDelete", "mnuPrint", "mnuPrintGrid", "mnuCopy",
+                         "mnuFind"}),
+                IsEmpty());
+    EXPECT_TRUE(Item("mnuRefreshSummary").isVisible());
+    EXPECT_FALSE(Item("mnuPayRent").isVisible());
+    EXPECT_FALSE(Item("mnuRestoreTransCategories").isVisible());
+}
+
+TEST_F(Kestrom, OffersWhatThereIsWorkFor) {
+    const auto note = [this](const char* item) {
+        return [this, item](const shell::screens::Selection& selection) {
+            log_.push_back(std::string(item) + " " + std::to_string(selection.kind) + " " +
+                           std::to_string(selection.id));
+        };
+    };
+    services_.commands.Add(QStringLiteral("mnuPayRent"), note("mnuPayRent"));
+    services_.commands.Add(QStringLiteral("mnuConfig"), note("mnuConfig"));
+    EXPECT_THAT(Enabled({"mnuConfig", "mnuPayRent", "mnuFinExport", "mnuMileage", "mnuBackup",
+                         "mnuExit", "mnuHelpContents"}),
+                ElementsAre("mnuConfig", "mnuExit", "mnuHelpContents"));
+    Go("LEASES");
+    EXPECT_THAT(Enabled({"mnuAdd", "mnuEdit", "mnuPayRent", "mnuDelete", "mnuPrintGrid"}),
+                ElementsAre("mnuAdd", "mnuEdit", "mnuPayRent"));
+    EXPECT_TRUE(Item("mnuPayRent").isVisible());
+    EXPECT_TRUE(Item("mnuDatabaseSep").isVisible());
+    EXPECT_FALSE(Item("mnuCopy").isVisible());
+    Grid().SelectId(41);
+    Item("mnuPayRent").trigger();
+    Go("FINANCIAL");
+    // Transactions have no editor yet.
+    EXPECT_THAT(Enabled({"mnuAdd", "mnuEdit", "mnuCopy"}), IsEmpty());
+    EXPECT_TRUE(Item("mnuCopy").isVisible());
+    Item("mnuConfig").trigger();
+    EXPECT_THAT(log_, ElementsAre("mnuPayRent 2 41", "mnuConfig 10 90"));
+}
+
+TEST_F(Kestrom, OpensRecordsByMenuMouseAndKeyboard) {
+    Go("LEASES");
+    EXPECT_EQ(Window().SelectedId(), 40);
+    QTest::keyClick(&Grid(), Qt::Key_Down);
+    QTest::keyClick(&Grid(), Qt::Key_Return);
+    QTest::keyClick(&Window(), Qt::Key_E, Qt::ControlModifier);
+    QTest::keyClick(&Window(), Qt::Key_N, Qt::ControlModifier);
+    const QRect cell = Grid().visualRect(Grid().Model().index(2, 3));
+    QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, cell.center());
+    QTest::mouseDClick(Grid().viewport(), Qt::LeftButton, {}, cell.center());
+    EXPECT_THAT(log_, ElementsAre("2 41", "2 41", "2 0", "2 42"));
+    log_.clear();
+    Go("UNITS");
+    Item("mnuCopy").trigger();
+    EXPECT_THAT(log_, ElementsAre("29 0"));
+    QTest::keyClick(&Window(), Qt::Key_6, Qt::ControlModifier);
+    EXPECT_EQ(Window().SelectedDb(), core::kTenant);
+}
+
+TEST_F(Kestrom, PrintsTheViewThroughTheScratchReport) {
+    std::filesystem::path printed;
+    services_.viewReport = [&](const std::filesystem::path& file) { printed = file; };
+    Go("UNITS");
+    support::Choose(Window(), "cboView", "Hold");
+    Item("mnuPrintGrid").trigger();
+    EXPECT_THAT(platform::ReadWholeFile(printed),
+                testing::HasSubstr("SQLQuery=SELECT Unit.Status, Address, Unit, City, State, "
+                                   "Bedrooms, Bathrooms, SqFt AS [Size], Rent FROM Building "));
+}
+
+TEST_F(Kestrom, RestoresCategoriesForExpertsWhoAgree) {
+    core::App().Expert = true;
+    Answer({false, true});
+    Window();
+    Run("DELETE FROM TransCategory");
+    EXPECT_TRUE(Item("mnuRestoreTransCategories").isVisible());
+    Item("mnuRestoreTransCategories").trigger();
+    EXPECT_EQ(Ask("SELECT Count(*) FROM TransCategory"), "0");
+    Item("mnuRestoreTransCategories").trigger();
+    EXPECT_NE(Ask("SELECT Count(*) FROM TransCategory"), "0");
+    const std::string question =
+        "Confirm Action: Restoring default transaction categories will erase the currently "
+        "defined categories \nand replace them with the default ones. Are you sure you want to "
+        "do this?";
+    EXPECT_THAT(Heard(),
+                ElementsAre(question, question,
+                            "Success: Default Transaction Categories have been restored."));
+}
+
+TEST_F(Kestrom, FollowsTheCompanysName) {
+    Window();
+    Run("UPDATE Configuration SET CompanyName = 'Oak Homes'");
+    core::NotifyAll(core::kConfiguration, core::kRecordsChanged, 0);
+    EXPECT_EQ(FromScreen(Window().windowTitle()), "Vestrel - Oak Homes");
+}
+
+TEST_F(Kestrom, RunsTheBooksWhenTheDayChanges) {
+    int runs = 0;
+    core::RegisterRunStep(core::RunStep::ScheduledEvents, [&](core::RunListener& listener) {
+        ++runs;
+        Window().Tick(); // a tick in the middle of a run starts no other
+        listener.Posted(2, 40, "Smith",
+                        {{platform::Today(), "Rent", platform::Currency::FromUnits(9)}});
+    });
+    Window().Tick();
+    EXPECT_EQ(runs, 0);
+    auto& posted = support::Find<QToolButton>(Window(), "btnPosted");
+    EXPECT_FALSE(posted.isVisible());
+    platform::SetToday(platform::Date(2024, 5, 18));
+    Window().Tick();
+    Window().Tick();
+    core::RegisterRunStep(core::RunStep::ScheduledEvents, nullptr);
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(FromScreen(posted.text()), "Since 05/18/2024: 1 rent charge");
+
+    posted.click();
+    const QWidget* list = nullptr;
+    for (const QWidget* const window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == QLatin1String("frmPosted")) list = window;
+    }
+    ASSERT_NE(list, nullptr);
+    QTest::keyClick(&support::Find<QWidget>(*list, "lvwPosted"), Qt::Key_Return);
+    EXPECT_THAT(log_, ElementsAre("2 40"));
+}
+
+/// A record screen with unsaved changes.
+class DirtyForm : public core::screens::Form {
+  public:
+    explicit DirtyForm(bool& mayClose) : mayClose_(mayClose) { Open(); }
+
+  protected:
+    bool MayClose() override { return mayClose_; }
+
+  private:
+    bool& mayClose_;
+};
+
+TEST_F(Kestrom, EndsInOrderOnceNoFormObjects) {
+    bool mayClose = false;
+    const QPointer<DirtyForm> form = new DirtyForm(mayClose);
+    Go("LEASES");
+    Window().close();
+    EXPECT_TRUE(Window().isVisible());
+    EXPECT_TRUE(core::App().Connection.IsOpen());
+    EXPECT_THAT(log_, IsEmpty());
+    mayClose = true;
+    Window().close();
+    support::SettleEvents();
+    EXPECT_FALSE(Window().isVisible());
+    EXPECT_FALSE(core::App().Connection.IsOpen());
+    EXPECT_TRUE(form.isNull());
+    EXPECT_THAT(log_, ElementsAre("end"));
+}
+
+TEST_F(Kestrom, EndsUnaskedWhateverIsOpen) {
+    bool mayClose = false;
+    const QPointer<DirtyForm> form = new DirtyForm(mayClose);
+    Window().EndUnasked();
+    Window().EndUnasked();
+    support::SettleEvents();
+    EXPECT_TRUE(form.isNull());
+    EXPECT_FALSE(core::App().Connection.IsOpen());
+    EXPECT_THAT(log_, ElementsAre("end"));
+}
+
+TEST_F(Kestrom, WaitsWithTheEndForAUnitOfWork) {
+    Window();
+    {
+        const platform::UnitOfWork work(core::App().Connection);
+        Window().close();
+        EXPECT_TRUE(core::App().Connection.IsOpen());
+        EXPECT_THAT(log_, IsEmpty());
+    }
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !log_.empty(); }));
+    EXPECT_THAT(log_, ElementsAre("end"));
+}
+
+TEST_F(Kestrom, BacksUpOnExitWhenAsked) {
+    services_.end.startBackup = [this] { log_.emplace_back("backup"); };
+    services_.end.isBackupWanted = [] { return false; };
+    EXPECT_TRUE(Item("mnuBackup").isEnabled());
+    Item("mnuBackup").trigger();
+    Window().close();
+    EXPECT_THAT(log_, ElementsAre("backup"));
+}
+
+TEST_F(Kestrom, ComesBackWhereItStood) {
+    Window().setGeometry(40, 60, 700, 500);
+    Reopen();
+    EXPECT_EQ(Window().size(), QSize(700, 500));
+}
+
+TEST_F(Kestrom, NamesItsControlsAndLetters) {
+    for (const char* const tag : {"LEASES", "FINANCIAL"}) {
+        Go(tag);
+        EXPECT_THAT(support::MnemonicFaults(Window()), IsEmpty());
+        EXPECT_THAT(support::TabOrderFaults(Window()), IsEmpty());
+        EXPECT_THAT(support::NameFaults(Window()), IsEmpty());
+    }
+    for (QMenu* const menu : Window().menuBar()->findChildren<QMenu*>()) {
+        std::set<QString> letters;
+        for (const QAction* const item : menu->actions()) {
+            if (item->isSeparator()) continue;
+            const QString letter = QKeySequence::mnemonic(item->text()).toString();
+            EXPECT_FALSE(letter.isEmpty()) << FromScreen(item->text());
+            EXPECT_TRUE(letters.insert(letter).second) << FromScreen(item->text());
+        }
+    }
+}
+
+} // namespace

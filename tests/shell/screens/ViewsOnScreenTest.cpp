@@ -1,0 +1,177 @@
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include "core/NotifyAll.h"
+#include "core/Preferences.h"
+#include "core/RecordKinds.h"
+#include "core/Settings.h"
+#include "shell/screens/KestromFixture.h"
+
+namespace {
+
+using support::Choose;
+using support::Find;
+using support::GridText;
+using tests::KestromTest;
+
+class ViewsOnScreen : public KestromTest {};
+
+TEST_F(ViewsOnScreen, ShowTheRecordsOfTheirCategory) {
+    Go("LEASES");
+    EXPECT_EQ(GridText(Grid()),
+              "Status|Tenant|Address|Unit|Date Active|Rent|Rent Status|Option\n"
+              "MTM|Smith, John Q|12 Elm St|B| |950.50|Warning|No\n"
+              "Notice|Smith, John Q|12 Elm St|A| |1,200.00|Late|No\n"
+              "MTM|Smith, John Q|Oak Rd|1| |800.00|Paid|No\n");
+    EXPECT_EQ(Status(), "Selected 3 Lease records");
+    Go("ACCOUNTS");
+    EXPECT_EQ(Column("Description"), "River Bank\nAl Owner\nJo Owner\n");
+    Go("FINANCIAL");
+    EXPECT_EQ(GridText(Grid()),
+              "Effective Date|From|To|Amount|Category|Check #|Description\n"
+              "05/01/2024|Ann|River Bank|12.50| | | \n");
+    Go("WORKORDERS");
+    EXPECT_EQ(Status(), "Selected 0 Work Order records");
+}
+
+TEST_F(ViewsOnScreen, FollowTheChoicesAboveThem) {
+    Go("LEASES");
+    Choose(Window(), "cboView", "MTM");
+    EXPECT_EQ(Column("Rent"), "950.50\n800.00\n");
+    Find<QWidget>(Window(), "chkShowHidden").setFocus();
+    QTest::keyClick(&Find<QWidget>(Window(), "chkShowHidden"), Qt::Key_Space);
+    EXPECT_EQ(Column("Rent"), "950.50\n800.00\n700.00\n");
+    Choose(Window(), "cboView", "Broken");
+    EXPECT_EQ(Status(), "Selected 0 Lease records");
+
+    Go("FINANCIAL");
+    EXPECT_FALSE(Find<QWidget>(Window(), "fraGeneral").isVisible());
+    Choose(Window(), "cboDays", "All");
+    EXPECT_EQ(Column("From"), "Ann\nBob\n");
+    Choose(Window(), "cboFilter", "Building");
+    EXPECT_EQ(Column("From"), "Ann\nBob\n");
+    Choose(Window(), "cboFilterItem", "Oak Rd");
+    EXPECT_EQ(Column("From"), "Bob\n");
+    Choose(Window(), "cboFilter", "None");
+    EXPECT_EQ(Find<QComboBox>(Window(), "cboFilterItem").count(), 1);
+    EXPECT_EQ(Column("From"), "Ann\nBob\n");
+}
+
+TEST_F(ViewsOnScreen, SortByAClickOnACaption) {
+    Go("LEASES");
+    ClickCaption("Rent");
+    EXPECT_EQ(Column("Rent"), "800.00\n950.50\n1,200.00\n");
+    EXPECT_EQ(Status(), "Selected 3 Lease records sorted by Rent [ASC]");
+    ClickCaption("Rent");
+    EXPECT_EQ(Column("Rent"), "1,200.00\n950.50\n800.00\n");
+    ClickCaption("Address");
+    EXPECT_EQ(Column("Address") + Column("Rent"),
+              "Oak Rd\n12 Elm St\n12 Elm St\n800.00\n1,200.00\n950.50\n");
+    EXPECT_EQ(Status(), "Selected 3 Lease records sorted by Address [DESC]");
+}
+
+TEST_F(ViewsOnScreen, AreFoundAsTheyWereLeft) {
+    Go("LEASES");
+    Choose(Window(), "cboView", "MTM");
+    ClickCaption("Rent");
+    Go("TENANTS");
+    EXPECT_EQ(Status(), "Selected 3 Tenant records");
+    Go("LEASES");
+    EXPECT_EQ(Status(), "Selected 2 Lease records sorted by Rent [ASC]");
+    Reopen();
+    EXPECT_EQ(Window().SelectedDb(), core::kAlert);
+    Go("LEASES");
+    EXPECT_EQ(Status(), "Selected 2 Lease records sorted by Rent [ASC]");
+}
+
+TEST_F(ViewsOnScreen, DoWithoutAWordOrAColumnThatIsGone) {
+    const std::string root = R"(SOFTWARE\Vestrel\Kestrom\)";
+    core::SetRegString(root + "ViewInfo", "frmKestrom.Lease", "Forgotten");
+    core::SetRegString(root + "SortField", "frmKestrom.Lease", "Moon Phase");
+    core::SetRegString(root + "PrevField", "frmKestrom.Lease", "Rent");
+    Go("LEASES");
+    EXPECT_EQ(Find<QComboBox>(Window(), "cboView").currentText(), "All");
+    EXPECT_EQ(Column("Rent"), "800.00\n950.50\n1,200.00\n");
+}
+
+TEST_F(ViewsOnScreen, KeepColumnWidthsSetByHand) {
+    core::Preferences().AutoSize = 0;
+    Go("LEASES");
+    EXPECT_TRUE(Grid().isColumnHidden(0));
+    Grid().setColumnWidth(2, 211);
+    Go("UNITS");
+    Grid().setColumnWidth(2, 97);
+    Go("LEASES");
+    EXPECT_EQ(Grid().columnWidth(2), 211);
+    EXPECT_TRUE(Grid().isColumnHidden(0));
+}
+
+TEST_F(ViewsOnScreen, ColourWhatIsDue) {
+    const auto color = [this](int row, int column) {
+        const QVariant brush =
+            Grid().Model().data(Grid().Model().index(row, column), Qt::BackgroundRole);
+        return brush.isValid() ? brush.value<QColor>().name().toStdString() : "plain";
+    };
+    Go("LEASES");
+    EXPECT_EQ(color(0, 7), "#ff8080");
+    EXPECT_EQ(color(1, 7), "#ffff80");
+    EXPECT_EQ(color(2, 7), "plain");
+    EXPECT_EQ(color(0, 1), "plain");
+    Go("MORTGAGES");
+    EXPECT_EQ(color(0, 6), "#ff8080");
+    EXPECT_EQ(color(1, 6), "plain");
+}
+
+TEST_F(ViewsOnScreen, NarrowWhileOneTypes) {
+    Go("LEASES");
+    auto& search = Find<QLineEdit>(Window(), "txtSearch");
+    QTest::keyClick(&Window(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(search.hasFocus());
+    support::Type(search, "oak");
+    support::SettleEvents();
+    EXPECT_EQ(Column("Rent"), "800.00\n");
+    EXPECT_EQ(Window().SelectedId(), 42);
+    EXPECT_EQ(Status(), "Selected 3 Lease records");
+    ClickCaption("Rent");
+    EXPECT_EQ(Column("Rent"), "800.00\n");
+    support::Type(search, "no such thing");
+    support::SettleEvents();
+    EXPECT_EQ(Window().SelectedId(), 0);
+    EXPECT_FALSE(Item("mnuEdit").isEnabled());
+    QTest::keyClick(&search, Qt::Key_Escape);
+    support::SettleEvents();
+    EXPECT_EQ(Column("Rent"), "800.00\n950.50\n1,200.00\n");
+    EXPECT_TRUE(Grid().hasFocus());
+}
+
+TEST_F(ViewsOnScreen, ReloadWhenTheirOwnKindChanges) {
+    Go("LEASES");
+    Grid().SelectId(41);
+    Run("UPDATE Lease SET Rent = 1 WHERE IdLease = 41");
+    core::NotifyAll(core::kTenant, core::kRecordsChanged, 0);
+    EXPECT_EQ(Column("Rent"), "950.50\n1,200.00\n800.00\n");
+    core::NotifyAll(core::kLease, core::kRecordsChanged, 0);
+    EXPECT_EQ(Column("Rent"), "950.50\n1.00\n800.00\n");
+    EXPECT_EQ(Window().SelectedId(), 41);
+    EXPECT_EQ(Grid().SelectedId(), 41);
+
+    Run("DELETE FROM Lease WHERE IdLease = 41");
+    core::NotifyAll(core::kLease, core::kRecordsChanged, 0);
+    EXPECT_EQ(Window().SelectedId(), 41);
+    Grid().SelectId(40);
+    EXPECT_EQ(Window().SelectedId(), 40);
+}
+
+TEST_F(ViewsOnScreen, CountMinusOneWhenTheyCannotBeRead) {
+    Go("LEASES");
+    core::App().Connection.Close();
+    Go("TENANTS");
+    EXPECT_EQ(Status(), "Selected -1 Tenant records");
+    EXPECT_EQ(Grid().Model().rowCount(), 0);
+    EXPECT_FALSE(Item("mnuEdit").isEnabled());
+}
+
+} // namespace
