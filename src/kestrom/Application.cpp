@@ -1,0 +1,32 @@
+#include "kestrom/Application.h"
+
+#include <QScopedValueRollback>
+#include <cstdio>
+#include <exception>
+#include <stdexcept>
+
+#include "core/screens/ErrorRoll.h"
+
+namespace kestrom {
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& failure) {
+        Show(failure);
+    } catch (...) {
+        Show(std::runtime_error("An unknown error occurred."));
+    }
+    return false;
+}
+
+/// What fails while its window is painted would fail again behind the box, without end; so only
+/// one box stands at a time.
+void Application::Show(const std::exception& failure) {
+    std::fprintf(stderr, "kestrom: %s\n", failure.what());
+    if (showing_) return;
+    const QScopedValueRollback showing(showing_, true);
+    core::screens::ShowFailure(failure);
+}
+
+} // namespace kestrom

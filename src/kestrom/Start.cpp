@@ -1,0 +1,57 @@
+#include "kestrom/Start.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <fmt/core.h>
+
+#include "core/FindDatabase.h"
+#include "core/Globals.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/system/Clock.h"
+#include "platform/system/Paths.h"
+#include "shell/SplashTime.h"
+
+namespace kestrom {
+
+namespace {
+
+/// The mender knows databases by their registered names, so it can't help with a folder that
+/// somebody named.
+void FindBooksIn(const std::string& folder) {
+    core::Globals& app = core::App();
+    app.DbPath = platform::AddBackslash(folder);
+    app.DbFile = app.DbPath + "Vestrel.mdb";
+    std::string fault;
+    if (!platform::FileExists(app.DbFile)) {
+        fault = fmt::format("There is no database {}.", app.DbFile);
+    } else if (const int version = core::ReadDbVersion(); version < app.DbVersionRequired) {
+        fault = fmt::format("{} has version {}; version {} is needed.", app.DbFile, version,
+                            app.DbVersionRequired);
+    }
+    if (fault.empty()) return;
+    platform::TheDialogs().ShowMessage("Database Notice", fault, platform::Icon::Critical);
+    throw ProcessEnd{1};
+}
+
+} // namespace
+
+void FindBooks(const shell::CommandLine& line) {
+    if (line.data) {
+        FindBooksIn(*line.data);
+        return;
+    }
+    if (core::FindDatabase(nullptr) == core::DatabaseState::Ready) return;
+    core::StartDatabaseMender({.endProcess = [] { throw ProcessEnd{0}; }});
+}
+
+void LetSplashBeSeen() {
+    constexpr unsigned long kRestMs = 10;
+    const shell::SplashTime time(platform::SecondOfDay());
+    while (!time.IsOver(platform::SecondOfDay())) {
+        QCoreApplication::processEvents();
+        QThread::msleep(kRestMs);
+    }
+}
+
+} // namespace kestrom

@@ -1,0 +1,109 @@
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <span>
+
+#include "core/EditRecord.h"
+#include "core/Globals.h"
+#include "core/Preferences.h"
+#include "core/Startup.h"
+#include "core/screens/frmSplash.h"
+#include "kestrom/Application.h"
+#include "kestrom/Start.h"
+#include "kestrom/Wiring.h"
+#include "platform/qt/Appearance.h"
+#include "platform/qt/Icons.h"
+#include "platform/qt/QuitRequests.h"
+#include "platform/qt/SingleInstance.h"
+#include "platform/system/Clock.h"
+#include "shell/CommandLine.h"
+#include "shell/Registrations.h"
+#include "shell/screens/BooksRun.h"
+#include "shell/screens/frmKestrom.h"
+
+namespace {
+
+constexpr int kWrongUsage = 2;
+
+shell::screens::WindowServices Services() {
+    shell::screens::WindowServices services;
+    services.commands = kestrom::MenuCommands();
+    services.hasEditor = core::HasEditor;
+    services.end.endProcess = [] { QCoreApplication::quit(); };
+    return services;
+}
+
+/// From the instance that is already there to the end of the event loop.
+int Run(kestrom::Application& application, const shell::CommandLine& line) {
+    platform::qt::SingleInstance instance(platform::qt::InstanceName());
+    if (!instance.IsFirst()) {
+        instance.AskFirstToShow();
+        return 0;
+    }
+    core::InitGlobals(line.rest);
+    const platform::qt::DesktopAppearance appearance;
+    kestrom::RegisterPlatform();
+    shell::RegisterLogic();
+    kestrom::RegisterEditors();
+
+    std::unique_ptr<shell::screens::frmKestrom> window;
+    bool endAsked = false;
+    const platform::qt::QuitRequests requests;
+    QObject::connect(&requests, &platform::qt::QuitRequests::QuitAsked, &application, [&] {
+        endAsked = true;
+        if (window) window->EndUnasked();
+    });
+
+    core::LoadPreferences();
+    kestrom::FindBooks(line);
+    core::OpenBooks();
+
+    std::optional<core::screens::frmSplash> splash;
+    if (core::Preferences().ShowSplash) {
+        splash.emplace();
+        splash->Setup();
+        kestrom::LetSplashBeSeen();
+    }
+    shell::RunDigest digest;
+    shell::screens::RunBooks(digest);
+    core::CleanTmpFiles();
+
+    window = std::make_unique<shell::screens::frmKestrom>(Services());
+    QObject::connect(&instance, &platform::qt::SingleInstance::ShowAsked, window.get(),
+                     &shell::screens::frmKestrom::ComeToFront);
+    window->Setup(std::move(digest));
+    if (splash) {
+        kestrom::LetSplashBeSeen();
+        splash.reset();
+    }
+    if (endAsked) window->EndUnasked();
+    // The window may have been closed while the splash stood before it.
+    return window->HasEnded() ? 0 : kestrom::Application::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    kestrom::Application application(argc, argv);
+    kestrom::Application::setApplicationName(QStringLiteral("kestrom"));
+    kestrom::Application::setApplicationDisplayName({});
+    kestrom::Application::setDesktopFileName(QStringLiteral("vestrel"));
+    kestrom::Application::setQuitOnLastWindowClosed(false);
+    kestrom::Application::setWindowIcon(platform::qt::LoadIcon(QStringLiteral("vestrel")));
+
+    const std::span words(argv, static_cast<std::size_t>(argc));
+    const shell::CommandLine line = shell::ReadCommandLine(words.subspan(1));
+    if (!line.fault.empty()) {
+        std::fprintf(stderr, "kestrom: %s\n", line.fault.c_str());
+        return kWrongUsage;
+    }
+    if (line.today) platform::SetToday(line.today);
+    try {
+        return Run(application, line);
+    } catch (const kestrom::ProcessEnd& end) {
+        return end.code;
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "kestrom: %s\n", failure.what());
+        return 1;
+    }
+}
