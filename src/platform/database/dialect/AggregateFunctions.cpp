@@ -1,50 +1,67 @@
-#include <fmt/core.h>
-
-#include "platform/database/dialect/EngineSql.h"
-#include "platform/database/dialect/FunctionCall.h"
+#include "platform/database/dialect/Functions.h"
 
 namespace platform::dialect {
 
 namespace {
 
-Typed SumUp(const FunctionCall& call) {
-    call.NoteAggregate();
-    // The engine adds whole numbers exactly, and fails rather than overflow.
+BoundPtr Sum(FunctionCall& call) {
     if (call[0].Is(FieldType::Currency)) {
-        return MakeTyped(fmt::format("SUM({})", call[0].sql), FieldType::Currency);
+        // The engine adds whole numbers exactly, and fails rather than overflow.
+        const bool reckoned = IsExact(call[0]);
+        BoundPtr sum = MakeCall("SUM", FieldType::Currency, WithoutCheck(call.Take(0)));
+        return reckoned ? Exact(std::move(sum)) : std::move(sum);
     }
-    return MakeTyped(fmt::format("SUM({})", call.Number(0)), FieldType::Double);
+    BoundPtr number = call.Number(0);
+    const bool whole = number->IsWhole();
+    BoundPtr sum = MakeCall("SUM", FieldType::Double, std::move(number));
+    if (!whole) return sum;
+    BoundPtr real = MakeBound(BoundKind::Cast, FieldType::Double, "REAL", 0);
+    real->operands.push_back(std::move(sum));
+    return real;
 }
 
-Typed Average(const FunctionCall& call) {
-    call.NoteAggregate();
+BoundPtr Avg(FunctionCall& call) {
     if (call[0].Is(FieldType::Currency)) {
-        return MakeTyped(fmt::format("vestrel_quotient(SUM({0}), COUNT({0}))", call[0].sql),
-                         FieldType::Currency);
+        return MakeCall("vestrel_money_avg", FieldType::Currency, call.Take(0));
     }
-    return MakeTyped(fmt::format("AVG({})", call.Number(0)), FieldType::Double);
+    return MakeCall("AVG", FieldType::Double, call.Number(0));
 }
 
-Typed OneOfGroup(const FunctionCall& call, std::string_view function) {
-    call.NoteAggregate();
-    const FieldType type = call[0].type.value_or(FieldType::Text);
-    return MakeTyped(fmt::format("{}({}{})", function, call[0].sql,
-                                 call[0].IsText() ? kTextCollation : std::string_view()),
-                     type);
+BoundPtr OneOfGroup(std::string_view function, FunctionCall& call) {
+    BoundPtr value = call.As(0, call[0].type.value_or(FieldType::Text));
+    const auto type = value->type;
+    BoundPtr one = MakeCall(function, type, std::move(value));
+    one->ignoresCase = one->IsText();
+    return one;
 }
+
+BoundPtr ByRow(std::string_view function, FunctionCall& call) {
+    BoundPtr value = call.As(0, call[0].type.value_or(FieldType::Text));
+    const auto type = value->type;
+    return MakeCall(function, type, std::move(value), call.RowNumber());
+}
+
+BoundPtr Spread(std::string_view function, FunctionCall& call) {
+    return MakeCall(function, FieldType::Double, call.Number(0));
+}
+
+constexpr auto kKind = FunctionKind::Aggregate;
 
 constexpr FunctionDefinition kFunctions[] = {
-    {"Sum", 1, 1, SumUp},
-    {"Avg", 1, 1, Average},
-    {"Min", 1, 1, [](const FunctionCall& call) { return OneOfGroup(call, "MIN"); }},
-    {"Max", 1, 1, [](const FunctionCall& call) { return OneOfGroup(call, "MAX"); }},
-    {"First", 1, 1, [](const FunctionCall& call) { return OneOfGroup(call, "vestrel_first"); }},
-    {"Last", 1, 1, [](const FunctionCall& call) { return OneOfGroup(call, "vestrel_last"); }},
+    {"Sum", 1, 1, Sum, kKind},
+    {"Avg", 1, 1, Avg, kKind},
+    {"Min", 1, 1, [](FunctionCall& call) { return OneOfGroup("MIN", call); }, kKind},
+    {"Max", 1, 1, [](FunctionCall& call) { return OneOfGroup("MAX", call); }, kKind},
+    {"First", 1, 1, [](FunctionCall& call) { return ByRow("vestrel_first", call); }, kKind},
+    {"Last", 1, 1, [](FunctionCall& call) { return ByRow("vestrel_last", call); }, kKind},
     {"Count", 1, 1,
-     [](const FunctionCall& call) {
-         call.NoteAggregate();
-         return MakeTyped(fmt::format("COUNT({})", call[0].sql), FieldType::Long);
-     }},
+     [](FunctionCall& call) {
+         if (call.HasStar()) return MakeCall("COUNT", FieldType::Long);
+         return MakeCall("COUNT", FieldType::Long, call.Take(0));
+     },
+     kKind},
+    {"StDev", 1, 1, [](FunctionCall& call) { return Spread("vestrel_stdev", call); }, kKind},
+    {"Var", 1, 1, [](FunctionCall& call) { return Spread("vestrel_var", call); }, kKind},
 };
 
 } // namespace

@@ -1,7 +1,9 @@
+#include <cmath>
+#include <limits>
+
 #include <fmt/core.h>
 
-#include "platform/database/dialect/EngineSql.h"
-#include "platform/database/dialect/Translator.h"
+#include "platform/database/dialect/Binder.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Text.h"
@@ -10,147 +12,213 @@ namespace platform::dialect {
 
 namespace {
 
-bool IsNumber(FieldType type) {
-    return type == FieldType::Integer || type == FieldType::Long || type == FieldType::Double ||
-           type == FieldType::Currency || type == FieldType::Boolean;
+/// `function` of a value, which names the field that is to hold it where there is one.
+BoundPtr CallFor(std::string_view field, std::string_view function, FieldType type,
+                 BoundPtr value) {
+    if (field.empty()) return MakeCall(function, type, std::move(value));
+    return MakeCall(function, type, std::move(value), MakeText(std::string(field), 0));
 }
 
-std::string Call(std::string_view function, std::string_view argument) {
-    return fmt::format("{}({})", function, argument);
+/// Nothing for a number too large either.
+std::optional<double> ParseNumber(std::string_view text) {
+    try {
+        return TryParseNumber(text);
+    } catch (const OverflowError&) {
+        return std::nullopt;
+    }
 }
 
-std::string Call(std::string_view function, std::string_view argument, std::string_view field) {
-    return fmt::format("{}({}, {})", function, argument, EngineText(field));
+BoundPtr Retyped(BoundPtr value, FieldType type) {
+    value->type = type;
+    return value;
 }
 
 } // namespace
 
-std::optional<FieldType> CommonType(std::optional<FieldType> a, std::optional<FieldType> b) {
-    if (!a || a == b) return b;
-    if (!b) return a;
-    if (IsNumber(*a) && IsNumber(*b)) {
-        for (const FieldType type : {FieldType::Currency, FieldType::Double, FieldType::Long}) {
-            if (a == type || b == type) return type;
-        }
-        return FieldType::Integer;
-    }
-    if (a == FieldType::Memo || b == FieldType::Memo) return FieldType::Memo;
-    return FieldType::Text;
+void Binder::TellType(BoundExpression& value, FieldType type) {
+    if (value.type) return;
+    value.type = type;
+    if (value.kind == BoundKind::Parameter) parameters_[value.parameter] = type;
 }
 
-std::string Translator::ToType(const Typed& value, FieldType type, std::string_view field) {
-    if (value.parameter) parameters_[*value.parameter] = type;
-    if (!value.type || value.type == type) return value.sql;
+void Binder::CannotHold(const BoundExpression& value, std::string_view field,
+                        std::string_view wanted) const {
+    const bool quoted = value.IsTextLiteral();
+    const std::string shown = quoted ? fmt::format("'{}'", value.text) : value.text;
+    if (field.empty()) Fault(value.position, fmt::format("{} is no {}", shown, wanted));
+    Fault(value.position, fmt::format("{} can't hold {}", field, shown));
+}
+
+BoundPtr Binder::ToType(BoundPtr value, FieldType type, std::string_view field) {
+    TellType(*value, type);
     switch (type) {
-        case FieldType::Currency:
-            return ToMoney(value, field);
         case FieldType::Integer:
-            return Call("vestrel_integer", ToNumber(value), field);
         case FieldType::Long:
-            if (value.Is(FieldType::Integer)) return value.sql;
-            return Call("vestrel_long", ToNumber(value), field);
+            return ToWhole(std::move(value), type, field);
         case FieldType::Double:
-            return ToNumber(value);
+            return ToReal(std::move(value), field);
+        case FieldType::Currency:
+            return ToMoney(std::move(value), field);
         case FieldType::Boolean:
-            return ToCondition(value);
+            return ToCondition(std::move(value), field);
         case FieldType::Date:
-            return ToDate(value);
+            return ToDate(std::move(value));
         case FieldType::Text:
         case FieldType::Memo:
             break;
     }
-    return ToText(value);
+    return ToText(std::move(value));
 }
 
-std::string Translator::ToNumber(const Typed& value) {
-    if (value.parameter) parameters_[*value.parameter] = FieldType::Double;
-    if (!value.type) return value.sql;
-    switch (*value.type) {
-        case FieldType::Currency:
-            return fmt::format("({} / 10000.0)", value.sql);
-        case FieldType::Boolean:
-            return fmt::format("(-{})", value.sql);
-        case FieldType::Text:
-        case FieldType::Memo:
-            break;
-        case FieldType::Integer:
-        case FieldType::Long:
-        case FieldType::Double:
-        case FieldType::Date:
-            return value.sql;
-    }
-    if (value.literal == nullptr) return Call("vestrel_number", value.sql);
-    const std::string text = LiteralText(*value.literal);
-    const auto number = TryParseNumber(text);
-    if (!number) Fault(value.literal->position, fmt::format("'{}' is no number", text));
-    return NumberToText(*number);
+BoundPtr Binder::NumberOfLiteral(const BoundExpression& literal, std::string_view field) const {
+    const auto number = ParseNumber(literal.text);
+    if (!number) CannotHold(literal, field, "number");
+    const bool whole = *number == std::trunc(*number) &&
+                       std::fabs(*number) <= std::numeric_limits<std::int32_t>::max();
+    std::string text = NumberToText(*number);
+    const bool plain = whole || text.find_first_of(".E") != std::string::npos;
+    if (!plain) text += ".0";
+    return MakeNumber(std::move(text), whole ? FieldType::Long : FieldType::Double,
+                      literal.position);
 }
 
-std::string Translator::ToMoney(const Typed& value, std::string_view field) {
-    if (value.parameter) parameters_[*value.parameter] = FieldType::Currency;
-    if (!value.type || value.Is(FieldType::Currency)) return value.sql;
-    if (value.literal != nullptr && value.literal->kind != ExpressionKind::Boolean) {
-        const std::string text = LiteralText(*value.literal);
-        try {
-            if (const auto amount = TryParseMoney(text)) return std::to_string(amount->Scaled());
-        } catch (const OverflowError& error) {
-            Fault(value.literal->position, error.what());
+BoundPtr Binder::ToNumber(BoundPtr value, std::string_view field) {
+    TellType(*value, FieldType::Double);
+    switch (*value->type) {
+        case FieldType::Currency: {
+            const std::size_t position = value->position;
+            return MakeInfix("/", FieldType::Double, std::move(value),
+                             MakeNumber("10000.0", FieldType::Double, position));
         }
-        Fault(value.literal->position, fmt::format("'{}' is no amount of money", text));
+        case FieldType::Boolean:
+            if (value->kind == BoundKind::Number) {
+                return MakeNumber(value->text == "0" ? "0" : "-1", FieldType::Long,
+                                  value->position);
+            }
+            return MakePrefix("-", FieldType::Long, std::move(value));
+        case FieldType::Text:
+        case FieldType::Memo:
+            if (value->IsTextLiteral()) return NumberOfLiteral(*value, field);
+            return CallFor(field, "vestrel_number", FieldType::Double, std::move(value));
+        case FieldType::Integer:
+        case FieldType::Long:
+        case FieldType::Double:
+        case FieldType::Date:
+            break;
     }
-    if (value.IsWhole()) return fmt::format("({} * 10000)", value.sql);
-    if (value.Is(FieldType::Boolean)) return fmt::format("({} * -10000)", value.sql);
-    return Call("vestrel_money", value.sql, field);
+    return value;
 }
 
-std::string Translator::ToText(const Typed& value) {
-    if (value.parameter) parameters_[*value.parameter] = FieldType::Text;
-    if (!value.type || value.IsText()) return value.sql;
-    switch (*value.type) {
+BoundPtr Binder::ToReal(BoundPtr value, std::string_view field) {
+    value = ToNumber(std::move(value), field);
+    if (!value->IsWhole()) return value;
+    if (value->IsConstant()) return Retyped(std::move(value), FieldType::Double);
+    BoundPtr real = MakeBound(BoundKind::Cast, FieldType::Double, "REAL", value->position);
+    real->operands.push_back(std::move(value));
+    return real;
+}
+
+BoundPtr Binder::ToWhole(BoundPtr value, FieldType type, std::string_view field) {
+    TellType(*value, type);
+    const bool fits = value->IsWhole() && (type == FieldType::Long || value->Is(type)) &&
+                      (field.empty() || !value->isReckoned);
+    if (fits) return value;
+    const std::string shown = value->text;
+    value = ToNumber(std::move(value), field);
+    if (!value->IsNumberLiteral()) {
+        return CallFor(field, type == FieldType::Integer ? "vestrel_integer" : "vestrel_long", type,
+                       std::move(value));
+    }
+    try {
+        const double number = StrToDouble(value->text);
+        const std::int32_t whole =
+            type == FieldType::Integer ? RoundToInt16(number) : RoundToInt32(number);
+        return MakeNumber(std::to_string(whole), type, value->position);
+    } catch (const OverflowError&) {
+        if (!field.empty()) CannotHold(*value, field, {});
+        Fault(value->position, fmt::format("{} is too large", shown));
+    }
+}
+
+BoundPtr Binder::ToMoney(BoundPtr value, std::string_view field) {
+    TellType(*value, FieldType::Currency);
+    if (value->Is(FieldType::Currency)) return value;
+    if (value->IsNumberLiteral() || value->IsTextLiteral()) {
+        try {
+            const auto amount = TryParseMoney(value->text);
+            if (!amount) CannotHold(*value, field, "amount of money");
+            return MakeNumber(std::to_string(amount->Scaled()), FieldType::Currency,
+                              value->position);
+        } catch (const OverflowError& error) {
+            if (!field.empty()) CannotHold(*value, field, {});
+            Fault(value->position, error.what());
+        }
+    }
+    if (value->Is(FieldType::Boolean)) value = ToNumber(std::move(value));
+    if (value->IsWhole()) {
+        const bool reckoned = value->isReckoned;
+        const std::size_t position = value->position;
+        value = MakeInfix("*", FieldType::Currency, std::move(value),
+                          MakeNumber("10000", FieldType::Long, position));
+        return reckoned ? Exact(std::move(value)) : std::move(value);
+    }
+    return CallFor(field, "vestrel_money", FieldType::Currency, std::move(value));
+}
+
+BoundPtr Binder::ToText(BoundPtr value) {
+    TellType(*value, FieldType::Text);
+    if (value->IsText()) return value;
+    switch (*value->type) {
         case FieldType::Currency:
-            return Call("vestrel_money_text", value.sql);
+            return MakeCall("vestrel_money_text", FieldType::Text, std::move(value));
         case FieldType::Boolean:
-            return fmt::format("(CASE {} WHEN 1 THEN 'True' WHEN 0 THEN 'False' END)", value.sql);
+            return MakeCall("vestrel_boolean_text", FieldType::Text, std::move(value));
         case FieldType::Date:
-            return Call("vestrel_date_text", value.sql);
+            return MakeCall("vestrel_date_text", FieldType::Text, std::move(value));
         case FieldType::Double:
-            return Call("vestrel_number_text", value.sql);
+            return MakeCall("vestrel_number_text", FieldType::Text, std::move(value));
         case FieldType::Integer:
         case FieldType::Long:
         case FieldType::Text:
         case FieldType::Memo:
             break;
     }
-    return fmt::format("CAST({} AS TEXT)", value.sql);
-}
-
-std::string Translator::ToDate(const Typed& value) {
-    if (value.parameter) parameters_[*value.parameter] = FieldType::Date;
-    if (!value.type || value.Is(FieldType::Date)) return value.sql;
-    return value.IsText() ? Call("vestrel_date", value.sql) : ToNumber(value);
-}
-
-std::string Translator::ToCondition(const Typed& value) {
-    if (value.parameter) parameters_[*value.parameter] = FieldType::Boolean;
-    if (!value.type || value.Is(FieldType::Boolean)) return value.sql;
-    if (!value.IsText()) return fmt::format("({} <> 0)", value.sql);
-    if (value.literal == nullptr) return Call("vestrel_boolean", value.sql);
-    const std::string text = LiteralText(*value.literal);
-    if (EqualIgnoringCase(text, "True")) return "1";
-    if (EqualIgnoringCase(text, "False")) return "0";
-    return fmt::format("({} <> 0)", ToNumber(value));
-}
-
-std::string LiteralText(const Expression& literal) {
-    std::string text;
-    text.reserve(literal.text.size());
-    for (std::size_t i = 0; i < literal.text.size(); ++i) {
-        text += literal.text[i];
-        const bool doubled = literal.kind == ExpressionKind::Text && literal.text[i] == '\'' &&
-                             i + 1 < literal.text.size() && literal.text[i + 1] == '\'';
-        if (doubled) ++i;
-    }
+    BoundPtr text = MakeBound(BoundKind::Cast, FieldType::Text, "TEXT", value->position);
+    text->operands.push_back(std::move(value));
     return text;
+}
+
+BoundPtr Binder::ToDate(BoundPtr value) {
+    TellType(*value, FieldType::Date);
+    if (value->Is(FieldType::Date)) return value;
+    if (value->IsTextLiteral()) {
+        if (Trim(value->text).empty()) {
+            return MakeBound(BoundKind::Null, FieldType::Date, {}, value->position);
+        }
+        const auto date = Date::TryParse(value->text);
+        if (!date) CannotHold(*value, {}, "date");
+        return MakeNumber(std::to_string(date->Serial()), FieldType::Date, value->position);
+    }
+    if (value->IsText()) return MakeCall("vestrel_date", FieldType::Date, std::move(value));
+    return Retyped(ToNumber(std::move(value)), FieldType::Date);
+}
+
+BoundPtr Binder::ToCondition(BoundPtr value, std::string_view field) {
+    TellType(*value, FieldType::Boolean);
+    if (value->Is(FieldType::Boolean)) return value;
+    if (value->IsTextLiteral()) {
+        const bool isTrue = EqualIgnoringCase(value->text, "True");
+        if (isTrue || EqualIgnoringCase(value->text, "False")) {
+            return MakeNumber(isTrue ? "1" : "0", FieldType::Boolean, value->position);
+        }
+        if (!ParseNumber(value->text)) CannotHold(*value, field, "True or False");
+        value = NumberOfLiteral(*value, field);
+    } else if (value->IsText()) {
+        return CallFor(field, "vestrel_boolean", FieldType::Boolean, std::move(value));
+    }
+    const std::size_t position = value->position;
+    return MakeInfix("<>", FieldType::Boolean, std::move(value),
+                     MakeNumber("0", FieldType::Long, position));
 }
 
 } // namespace platform::dialect

@@ -1,54 +1,44 @@
-#include <fmt/core.h>
-
-#include "platform/database/dialect/FunctionCall.h"
+#include "platform/database/dialect/Functions.h"
 
 namespace platform::dialect {
 
 namespace {
 
-Typed AsDate(std::string sql) {
-    return MakeTyped(std::move(sql), FieldType::Date);
+BoundPtr DateValue(FunctionCall& call) {
+    return call.Date(0);
 }
 
-template <char Part>
-Typed DatePart(const FunctionCall& call) {
-    return MakeTyped(fmt::format("vestrel_date_part('{}', {})", Part, call.Date(0)),
-                     FieldType::Long);
-}
-
-Typed DateValue(const FunctionCall& call) {
-    return AsDate(call.Date(0));
+BoundPtr Part(std::string_view function, FunctionCall& call) {
+    return MakeCall(function, FieldType::Long, call.Date(0));
 }
 
 constexpr FunctionDefinition kFunctions[] = {
     {"DateValue", 1, 1, DateValue},
     {"CDate", 1, 1, DateValue},
-    {"Date", 0, 0, [](const FunctionCall&) { return AsDate("vestrel_today()"); }},
-    {"Now", 0, 0, [](const FunctionCall&) { return AsDate("vestrel_now()"); }},
-    {"Year", 1, 1, DatePart<'y'>},
-    {"Month", 1, 1, DatePart<'m'>},
-    {"Day", 1, 1, DatePart<'d'>},
-    {"Weekday", 1, 1, DatePart<'w'>},
+    {"Date", 0, 0, [](FunctionCall&) { return MakeCall("vestrel_today", FieldType::Date); }},
+    {"Now", 0, 0, [](FunctionCall&) { return MakeCall("vestrel_now", FieldType::Date); }},
+    {"Year", 1, 1, [](FunctionCall& call) { return Part("vestrel_year", call); }},
+    {"Month", 1, 1, [](FunctionCall& call) { return Part("vestrel_month", call); }},
+    {"Day", 1, 1, [](FunctionCall& call) { return Part("vestrel_day", call); }},
+    {"Weekday", 1, 1, [](FunctionCall& call) { return Part("vestrel_weekday", call); }},
     {"DatePart", 2, 2,
-     [](const FunctionCall& call) {
-         return MakeTyped(fmt::format("vestrel_interval_part({}, {})", call.Text(0), call.Date(1)),
-                          FieldType::Long);
+     [](FunctionCall& call) {
+         return MakeCall("vestrel_date_part", FieldType::Long, call.Text(0), call.Date(1));
      }},
     {"DateSerial", 3, 3,
-     [](const FunctionCall& call) {
-         return AsDate(fmt::format("vestrel_date_serial({}, {}, {})", call.Number(0),
-                                   call.Number(1), call.Number(2)));
+     [](FunctionCall& call) {
+         return MakeCall("vestrel_date_serial", FieldType::Date, call.Number(0), call.Number(1),
+                         call.Number(2));
      }},
     {"DateAdd", 3, 3,
-     [](const FunctionCall& call) {
-         return AsDate(fmt::format("vestrel_date_add({}, {}, {})", call.Text(0), call.Number(1),
-                                   call.Date(2)));
+     [](FunctionCall& call) {
+         return MakeCall("vestrel_date_add", FieldType::Date, call.Text(0), call.Number(1),
+                         call.Date(2));
      }},
     {"DateDiff", 3, 3,
-     [](const FunctionCall& call) {
-         return MakeTyped(
-             fmt::format("vestrel_date_diff({}, {}, {})", call.Text(0), call.Date(1), call.Date(2)),
-             FieldType::Long);
+     [](FunctionCall& call) {
+         return MakeCall("vestrel_date_diff", FieldType::Long, call.Text(0), call.Date(1),
+                         call.Date(2));
      }},
 };
 

@@ -1,70 +1,64 @@
-#include <fmt/core.h>
-
-#include "platform/database/dialect/FunctionCall.h"
+#include "platform/database/dialect/Functions.h"
 
 namespace platform::dialect {
 
 namespace {
 
-FieldType NumberType(const Typed& value) {
-    if (value.Is(FieldType::Currency)) return FieldType::Currency;
-    return value.IsWhole() ? FieldType::Long : FieldType::Double;
+/// `function` of a number, or its twin for money, which reckons with the scaled form. A whole
+/// number is its own whole.
+BoundPtr OfAnyNumber(std::string_view function, std::string_view ofMoney, FunctionCall& call) {
+    if (call[0].Is(FieldType::Currency)) {
+        return MakeCall(ofMoney, FieldType::Currency, call.Take(0));
+    }
+    BoundPtr number = call.Number(0);
+    const FieldType type = number->IsWhole() ? FieldType::Long : FieldType::Double;
+    return MakeCall(function, type, std::move(number));
 }
 
-/// `function` of a number, or its twin for money, which reckons with the scaled form.
-Typed SameType(const FunctionCall& call, std::string_view function, std::string_view ofMoney) {
-    const FieldType type = NumberType(call[0]);
-    const bool money = type == FieldType::Currency;
-    return MakeTyped(
-        fmt::format("{}({})", money ? ofMoney : function, money ? call[0].sql : call.Number(0)),
-        type);
+BoundPtr Round(FunctionCall& call) {
+    const bool money = call[0].Is(FieldType::Currency);
+    BoundPtr number = money ? call.Take(0) : call.Number(0);
+    FieldType type = number->IsWhole() ? FieldType::Long : FieldType::Double;
+    if (money) type = FieldType::Currency;
+    BoundPtr places = call.Count() == 2 ? call.Whole(1) : MakeNumber("0", FieldType::Long, 0);
+    return MakeCall(money ? "vestrel_money_round" : "vestrel_round", type, std::move(number),
+                    std::move(places));
 }
 
 template <FieldType Type>
-Typed Convert(const FunctionCall& call) {
-    return MakeTyped(call.As(0, Type), Type);
+BoundPtr To(FunctionCall& call) {
+    return call.As(0, Type);
+}
+
+template <FieldType Type>
+BoundPtr ToWhole(FunctionCall& call) {
+    return call.Whole(0, Type);
 }
 
 constexpr FunctionDefinition kFunctions[] = {
-    {"Abs", 1, 1, [](const FunctionCall& call) { return SameType(call, "abs", "abs"); }},
+    {"Abs", 1, 1, [](FunctionCall& call) { return OfAnyNumber("abs", "abs", call); }},
     {"Int", 1, 1,
-     [](const FunctionCall& call) {
-         return SameType(call, "vestrel_floor", "vestrel_money_floor");
-     }},
+     [](FunctionCall& call) { return OfAnyNumber("floor", "vestrel_money_floor", call); }},
     {"Fix", 1, 1,
-     [](const FunctionCall& call) { return SameType(call, "vestrel_fix", "vestrel_money_fix"); }},
-    {"Round", 1, 2,
-     [](const FunctionCall& call) {
-         const bool money = call[0].Is(FieldType::Currency);
-         return MakeTyped(fmt::format("{}({}, {})", money ? "vestrel_money_round" : "vestrel_round",
-                                      money ? call[0].sql : call.Number(0),
-                                      call.Count() == 2 ? call.Number(1) : std::string("0")),
-                          NumberType(call[0]));
-     }},
+     [](FunctionCall& call) { return OfAnyNumber("trunc", "vestrel_money_fix", call); }},
+    {"Round", 1, 2, Round},
     {"Sgn", 1, 1,
-     [](const FunctionCall& call) {
-         return MakeTyped(fmt::format("sign({})", call.Number(0)), FieldType::Long);
-     }},
+     [](FunctionCall& call) { return MakeCall("sign", FieldType::Long, call.Number(0)); }},
     {"Sqr", 1, 1,
-     [](const FunctionCall& call) {
-         return MakeTyped(fmt::format("vestrel_power({}, 0.5)", call.Number(0)), FieldType::Double);
+     [](FunctionCall& call) {
+         return MakeCall("vestrel_power", FieldType::Double, call.Number(0),
+                         MakeNumber("0.5", FieldType::Double, 0));
      }},
-    {"CCur", 1, 1, Convert<FieldType::Currency>},
-    {"CInt", 1, 1,
-     [](const FunctionCall& call) {
-         return MakeTyped(call.As(0, FieldType::Integer, "CInt"), FieldType::Integer);
-     }},
-    {"CLng", 1, 1,
-     [](const FunctionCall& call) {
-         return MakeTyped(call.As(0, FieldType::Long, "CLng"), FieldType::Long);
-     }},
-    {"CDbl", 1, 1, Convert<FieldType::Double>},
+    {"CCur", 1, 1, To<FieldType::Currency>},
+    {"CInt", 1, 1, ToWhole<FieldType::Integer>},
+    {"CLng", 1, 1, ToWhole<FieldType::Long>},
+    {"CDbl", 1, 1, To<FieldType::Double>},
     {"CSng", 1, 1,
-     [](const FunctionCall& call) {
-         return MakeTyped(fmt::format("vestrel_single({})", call.Number(0)), FieldType::Double);
+     [](FunctionCall& call) {
+         return MakeCall("vestrel_single", FieldType::Double, call.Number(0));
      }},
-    {"CStr", 1, 1, Convert<FieldType::Text>},
-    {"CBool", 1, 1, Convert<FieldType::Boolean>},
+    {"CStr", 1, 1, To<FieldType::Text>},
+    {"CBool", 1, 1, To<FieldType::Boolean>},
 };
 
 } // namespace

@@ -5,10 +5,11 @@ namespace platform::dialect {
 Statement Parser::ParseDelete() {
     Statement statement;
     statement.kind = Statement::Kind::Delete;
-    if (!TakeSymbol("*") && !IsWord("FROM")) {
+    // A star in front, or a table's, says no more than its absence: whole rows go.
+    if (!TakeSymbol('*') && !IsWord("FROM")) {
         ExpectName("* or FROM");
-        ExpectSymbol(".");
-        ExpectSymbol("*");
+        ExpectSymbol('.');
+        ExpectSymbol('*');
     }
     ExpectWord("FROM");
     ParseTarget(statement);

@@ -9,7 +9,7 @@ Statement Parser::ParseInsert() {
     statement.kind = Statement::Kind::Insert;
     ExpectWord("INTO");
     ParseTarget(statement);
-    if (IsSymbol("(")) ParseInsertColumns(statement);
+    if (IsSymbol('(')) ParseInsertColumns(statement);
     if (TakeWord("VALUES")) {
         ParseInsertValues(statement);
     } else if (IsWord("SELECT")) {
@@ -21,19 +21,18 @@ Statement Parser::ParseInsert() {
 }
 
 void Parser::ParseInsertColumns(Statement& statement) {
-    ExpectSymbol("(");
+    ExpectSymbol('(');
     do {
-        const Token column = ExpectName("a field");
-        statement.assignments.push_back({column.text, column.position, nullptr});
-    } while (TakeSymbol(","));
-    ExpectSymbol(")");
+        statement.assignments.push_back(ParseField());
+    } while (TakeSymbol(','));
+    ExpectSymbol(')');
 }
 
 void Parser::ParseInsertValues(Statement& statement) {
     const std::size_t position = Peek().position;
-    ExpectSymbol("(");
+    ExpectSymbol('(');
     std::vector<ExpressionPtr> values = ParseList();
-    ExpectSymbol(")");
+    ExpectSymbol(')');
     if (statement.assignments.empty()) statement.assignments.resize(values.size());
     if (values.size() != statement.assignments.size()) {
         ThrowFault(

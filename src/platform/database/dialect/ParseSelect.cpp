@@ -1,17 +1,8 @@
 #include <algorithm>
 
 #include "platform/database/dialect/Parser.h"
-#include "platform/values/Text.h"
 
 namespace platform::dialect {
-
-namespace {
-
-// Words that can't be an alias without AS, since they go on with the statement.
-constexpr std::string_view kContinuing[] = {"FROM",  "WHERE", "GROUP", "HAVING", "ORDER", "UNION",
-                                            "INNER", "LEFT",  "RIGHT", "JOIN",   "ON",    "AS"};
-
-} // namespace
 
 std::unique_ptr<Query> Parser::ParseQuery() {
     const Depth depth(*this);
@@ -28,8 +19,15 @@ std::unique_ptr<Query> Parser::ParseQuery() {
             item.descending = TakeWord("DESC");
             if (!item.descending) TakeWord("ASC");
             query->orderBy.push_back(std::move(item));
-        } while (TakeSymbol(","));
+        } while (TakeSymbol(','));
     }
+    return query;
+}
+
+std::unique_ptr<Query> Parser::ParseParenthesisedQuery() {
+    ExpectSymbol('(');
+    std::unique_ptr<Query> query = ParseQuery();
+    ExpectSymbol(')');
     return query;
 }
 
@@ -37,23 +35,16 @@ Select Parser::ParseSelect() {
     Select select;
     select.position = Peek().position;
     ExpectWord("SELECT");
-    select.distinct = TakeWord("DISTINCT") || TakeWord("DISTINCTROW");
-    if (!select.distinct) TakeWord("ALL");
-    if (IsWord("TOP") && Peek(1).kind == TokenKind::Number) {
-        Take();
-        select.top = Take().text;
-        if (!std::all_of(select.top.begin(), select.top.end(),
-                         [](char c) { return c >= '0' && c <= '9'; })) {
-            ThrowFault(text_, select.position, "TOP needs a whole number");
-        }
-    }
+    select.distinct = TakeWord("DISTINCT");
+    if (!select.distinct && IsWord("ALL") && !IsSymbol(',', 1) && !IsWord("FROM", 1)) Take();
+    ParseTop(select);
     do {
         select.items.push_back(ParseSelectItem());
-    } while (TakeSymbol(","));
+    } while (TakeSymbol(','));
     if (TakeWord("FROM")) {
         do {
-            select.from.push_back(ParseJoins());
-        } while (TakeSymbol(","));
+            select.from.push_back(ParseSource());
+        } while (TakeSymbol(','));
     }
     if (TakeWord("WHERE")) select.where = ParseExpression();
     if (TakeWord("GROUP")) {
@@ -64,83 +55,48 @@ Select Parser::ParseSelect() {
     return select;
 }
 
+void Parser::ParseTop(Select& select) {
+    // A field may be called Top.
+    if (!IsWord("TOP") || Peek(1).kind != TokenKind::Number) return;
+    Take();
+    const Token number = Take();
+    constexpr std::size_t kMostDigits = 9;
+    const bool isWhole =
+        std::ranges::all_of(number.text, [](char c) { return c >= '0' && c <= '9'; });
+    if (!isWhole || number.text.size() > kMostDigits) {
+        ThrowFault(text_, number.position, "TOP needs a whole number");
+    }
+    select.top = number.text;
+    select.topIsPercent = TakeWord("PERCENT");
+}
+
 SelectItem Parser::ParseSelectItem() {
     SelectItem item;
-    if (IsSymbol("*")) {
-        item.expression = std::make_unique<Expression>();
-        item.expression->kind = ExpressionKind::Star;
-        item.expression->position = Take().position;
+    if (IsSymbol('*')) {
+        item.expression = MakeExpression(ExpressionKind::Star, Take());
         return item;
     }
     item.expression = ParseExpression();
-    item.alias = ParseAlias();
+    if (item.expression->kind != ExpressionKind::Star) item.alias = ParseAlias();
     return item;
 }
 
 std::string_view Parser::ParseAlias() {
     if (TakeWord("AS")) {
-        if (Peek().kind == TokenKind::Text) return Take().text;
+        if (Peek().kind == TokenKind::Text && !Peek().text.empty()) return Take().text;
         return ExpectName("a name").text;
     }
-    const Token& token = Peek();
-    if (token.kind == TokenKind::QuotedName) return Take().text;
-    const bool isName = token.kind == TokenKind::Name &&
-                        std::none_of(std::begin(kContinuing), std::end(kContinuing),
-                                     [&](std::string_view word) { return IsWord(word); });
-    return isName ? Take().text : std::string_view();
-}
-
-std::unique_ptr<Source> Parser::ParseJoins() {
-    std::unique_ptr<Source> left = ParseSource();
-    while (true) {
-        auto join = std::make_unique<Source>();
-        join->position = Peek().position;
-        if (IsWord("LEFT") || IsWord("RIGHT")) {
-            join->kind = TakeWord("LEFT") ? Source::Kind::Left : Source::Kind::Right;
-            if (join->kind == Source::Kind::Right) TakeWord("RIGHT");
-            TakeWord("OUTER");
-            ExpectWord("JOIN");
-        } else if (IsWord("INNER") || IsWord("JOIN")) {
-            join->kind = Source::Kind::Inner;
-            TakeWord("INNER");
-            ExpectWord("JOIN");
-        } else {
-            return left;
-        }
-        join->left = std::move(left);
-        join->right = ParseSource();
-        ExpectWord("ON");
-        join->on = ParseExpression();
-        left = std::move(join);
-    }
-}
-
-std::unique_ptr<Source> Parser::ParseSource() {
-    const Depth depth(*this);
-    auto source = std::make_unique<Source>();
-    source->position = Peek().position;
-    if (TakeSymbol("(")) {
-        if (!IsWord("SELECT")) {
-            source = ParseJoins();
-            ExpectSymbol(")");
-            return source;
-        }
-        source->kind = Source::Kind::Derived;
-        source->query = ParseQuery();
-        ExpectSymbol(")");
-    } else {
-        source->table = ExpectName("a table").text;
-    }
-    source->alias = ParseAlias();
-    if (source->alias.empty()) source->alias = source->table;
-    return source;
+    if (Peek().kind == TokenKind::QuotedName) return Take().text;
+    const bool isAlias =
+        Peek().kind == TokenKind::Name && !IsReserved() && !IsWord("LEFT") && !IsWord("RIGHT");
+    return isAlias ? Take().text : std::string_view();
 }
 
 std::vector<ExpressionPtr> Parser::ParseList() {
     std::vector<ExpressionPtr> list;
     do {
         list.push_back(ParseExpression());
-    } while (TakeSymbol(","));
+    } while (TakeSymbol(','));
     return list;
 }
 

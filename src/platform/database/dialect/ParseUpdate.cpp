@@ -8,11 +8,11 @@ Statement Parser::ParseUpdate() {
     ParseTarget(statement);
     ExpectWord("SET");
     do {
-        Token column = ExpectName("a field");
-        if (TakeSymbol(".")) column = ExpectName("a field");
-        ExpectSymbol("=");
-        statement.assignments.push_back({column.text, column.position, ParseExpression()});
-    } while (TakeSymbol(","));
+        Assignment assignment = ParseField();
+        ExpectSymbol('=');
+        assignment.value = ParseExpression();
+        statement.assignments.push_back(std::move(assignment));
+    } while (TakeSymbol(','));
     if (TakeWord("WHERE")) statement.where = ParseExpression();
     return statement;
 }

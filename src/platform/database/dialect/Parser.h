@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -8,8 +9,11 @@
 
 namespace platform::dialect {
 
-/// Reads a statement word by word. Words of the grammar are no reserved names: they have their
-/// meaning only where the grammar asks for them.
+/// How tightly an operator holds its operands, loosest first.
+enum class Precedence { Eqv, Xor, Or, And, Comparison, Join, Sum, Modulo, Whole, Product, Power };
+
+/// Reads a statement word by word. Words of the grammar have their meaning where the grammar asks
+/// for them; only the few that a value could not be told from are reserved.
 class Parser {
   public:
     explicit Parser(std::string_view text);
@@ -21,12 +25,13 @@ class Parser {
     const Token& Peek(std::size_t ahead = 0) const;
     Token Take();
     bool IsWord(std::string_view word, std::size_t ahead = 0) const;
-    bool IsSymbol(std::string_view symbol, std::size_t ahead = 0) const;
+    bool IsSymbol(char symbol, std::size_t ahead = 0) const;
     bool TakeWord(std::string_view word);
-    bool TakeSymbol(std::string_view symbol);
+    bool TakeSymbol(char symbol);
     void ExpectWord(std::string_view word);
-    void ExpectSymbol(std::string_view symbol);
+    void ExpectSymbol(char symbol);
     Token ExpectName(std::string_view what);
+    bool IsReserved() const;
     [[noreturn]] void Expected(std::string_view what) const;
 
     // Statements.
@@ -36,30 +41,34 @@ class Parser {
     void ParseTarget(Statement& statement);
     void ParseInsertColumns(Statement& statement);
     void ParseInsertValues(Statement& statement);
+    /// A field, perhaps with the table in front.
+    Assignment ParseField();
 
     // Queries.
     std::unique_ptr<Query> ParseQuery();
+    std::unique_ptr<Query> ParseParenthesisedQuery();
     Select ParseSelect();
+    void ParseTop(Select& select);
     SelectItem ParseSelectItem();
-    std::unique_ptr<Source> ParseJoins();
-    std::unique_ptr<Source> ParseSource();
     std::string_view ParseAlias();
+    std::unique_ptr<Source> ParseSource();
+    std::unique_ptr<Source> ParseJoin(std::unique_ptr<Source> left);
+    std::unique_ptr<Source> ParseSingleSource();
     std::vector<ExpressionPtr> ParseList();
 
-    // Expressions, from the weakest binding to the strongest.
+    // Expressions.
+    struct Operator {
+        std::string_view text; ///< empty for none; in capitals
+        Precedence precedence = Precedence::Eqv;
+    };
+
     ExpressionPtr ParseExpression();
-    ExpressionPtr ParseAnd();
-    ExpressionPtr ParseNot();
-    ExpressionPtr ParseComparison();
-    ExpressionPtr ParsePredicate(ExpressionPtr left, bool negated);
-    ExpressionPtr ParseIn(ExpressionPtr left, bool negated);
-    ExpressionPtr ParseConcatenation();
-    ExpressionPtr ParseSum();
-    ExpressionPtr ParseModulo();
-    ExpressionPtr ParseIntegerDivision();
-    ExpressionPtr ParseProduct();
-    ExpressionPtr ParseSign();
-    ExpressionPtr ParsePower();
+    /// An expression of operators that hold at least as tightly as `least`.
+    ExpressionPtr ParseOperators(Precedence least);
+    ExpressionPtr ParsePrefix();
+    Operator PeekOperator() const;
+    ExpressionPtr ParsePredicate(ExpressionPtr left, const Operator& word);
+    void ParseIn(Expression& expression);
     ExpressionPtr ParsePrimary();
     ExpressionPtr ParseParenthesised();
     ExpressionPtr ParseNamed();
@@ -74,7 +83,7 @@ class Parser {
     int depth_ = 0;
 };
 
-/// Counts nested queries, parentheses and signs, so that nonsense can't exhaust the stack.
+/// Counts what stands nested, so that nonsense can't exhaust the stack.
 class Parser::Depth {
   public:
     explicit Depth(Parser& parser);
@@ -85,5 +94,8 @@ class Parser::Depth {
   private:
     Parser& parser_;
 };
+
+/// A node of what a token says.
+ExpressionPtr MakeExpression(ExpressionKind kind, const Token& token);
 
 } // namespace platform::dialect

@@ -5,22 +5,21 @@ namespace platform::dialect {
 
 namespace {
 
-std::string Enclose(std::string_view text, char mark) {
-    std::string quoted;
-    quoted.reserve(text.size() + 2);
-    quoted += mark;
+void AppendEnclosed(std::string& out, std::string_view text, char mark) {
+    out += mark;
     for (const char c : text) {
-        if (c == mark) quoted += mark;
-        quoted += c;
+        if (c == mark) out += mark;
+        out += c;
     }
-    quoted += mark;
-    return quoted;
+    out += mark;
 }
 
 } // namespace
 
 std::string QuoteText(std::string_view text) {
-    return Enclose(text, '\'');
+    std::string quoted;
+    AppendEnclosed(quoted, text, '\'');
+    return quoted;
 }
 
 std::string QuoteName(std::string_view name) {
@@ -31,12 +30,12 @@ std::string QuoteDate(Date date) {
     return "#" + date.ToText() + "#";
 }
 
-std::string EngineText(std::string_view text) {
-    return Enclose(text, '\'');
+void AppendEngineText(std::string& sql, std::string_view text) {
+    AppendEnclosed(sql, text, '\'');
 }
 
-std::string EngineName(std::string_view name) {
-    return Enclose(name, '"');
+void AppendEngineName(std::string& sql, std::string_view name) {
+    AppendEnclosed(sql, name, '"');
 }
 
 } // namespace platform::dialect

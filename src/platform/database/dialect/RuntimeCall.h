@@ -19,6 +19,7 @@ class RuntimeCall {
     RuntimeCall(sqlite3_context* context, int count, sqlite3_value** arguments)
         : context_(context), count_(count), arguments_(arguments) {}
 
+    int Count() const { return count_; }
     bool AnyNull() const {
         for (int i = 0; i < count_; ++i) {
             if (IsNull(i)) return true;
@@ -66,22 +67,23 @@ void RunGuarded(sqlite3_context* context, int count, sqlite3_value** arguments) 
     }
 }
 
-enum class Repeats { Same, Changes };
-
 /// Adds a function of `count` arguments; one that answers null as soon as an argument is null can
-/// leave that to RunUnlessNull.
+/// leave that to RunUnlessNull. All of them answer the same to the same throughout one statement,
+/// the clock's included.
 template <RuntimeFunction Function>
-void AddFunction(sqlite3* connection, const char* name, int count,
-                 Repeats repeats = Repeats::Same) {
-    const int flags = SQLITE_UTF8 | (repeats == Repeats::Same ? SQLITE_DETERMINISTIC : 0);
-    sqlite3_create_function_v2(connection, name, count, flags, nullptr, RunGuarded<Function>,
-                               nullptr, nullptr, nullptr);
+void AddFunction(sqlite3* connection, const char* name, int count) {
+    sqlite3_create_function_v2(connection, name, count, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
+                               RunGuarded<Function>, nullptr, nullptr, nullptr);
 }
 
 template <RuntimeFunction Function>
 void RunUnlessNull(const RuntimeCall& call) {
     if (!call.AnyNull()) Function(call);
 }
+
+/// A conversion that failed: "FIELD can't hold ...", where argument 1 names the field that the
+/// value was for, else "... is no WANTED".
+[[noreturn]] void ThrowUnfit(const RuntimeCall& call, std::string_view wanted);
 
 // The functions by what they are about.
 void AddTextFunctions(sqlite3* connection);

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <optional>
 
 #include <fmt/core.h>
 
@@ -24,9 +25,36 @@ int ToCount(double number) {
     return static_cast<int>(std::nearbyint(number));
 }
 
-/// The day that a text is; null for one without a letter.
+/// The day of a text that is "mm/dd/yyyy" to the letter, as it is stored; null for any other, also
+/// one that names no day. This is asked of every row of a ledger.
+std::optional<std::int64_t> StoredDay(std::string_view text) {
+    if (text.size() != 10 || text[2] != '/' || text[5] != '/') return std::nullopt;
+    unsigned strange = 0;
+    const auto digit = [&](std::size_t i) {
+        const unsigned value = static_cast<unsigned char>(text[i]) - unsigned{'0'};
+        strange |= static_cast<unsigned>(value > 9);
+        return value;
+    };
+    const unsigned month = digit(0) * 10 + digit(1);
+    const unsigned day = digit(3) * 10 + digit(4);
+    const unsigned year = digit(6) * 1000 + digit(7) * 100 + digit(8) * 10 + digit(9);
+    // The last days of months are left to the calendar.
+    if (strange != 0 || month < 1 || month > 12 || day < 1 || day > 28 || year < 100) {
+        return std::nullopt;
+    }
+    // Counted in years that begin in March, whose leap day comes last.
+    const unsigned marchYear = month > 2 ? year : year - 1;
+    const unsigned marchMonth = month > 2 ? month - 3 : month + 9;
+    const unsigned days = marchYear * 365 + marchYear / 4 - marchYear / 100 + marchYear / 400 +
+                          (marchMonth * 153 + 2) / 5 + day;
+    constexpr std::int64_t kZeroDay = 693'900; // 12/30/1899 counted so
+    return std::int64_t{days} - kZeroDay;
+}
+
+/// The day that a text is; null for a blank one.
 void ReadDate(const RuntimeCall& call) {
     const std::string_view text = call.Text(0);
+    if (const auto day = StoredDay(text)) return call.Answer(*day);
     if (const auto date = Date::TryParse(text)) return call.Answer(*date);
     if (!Trim(text).empty()) throw ConversionError(fmt::format("'{}' is no date", text));
 }
@@ -44,18 +72,17 @@ void ReadNow(const RuntimeCall& call) {
     call.Answer(Today().Serial() + SecondOfDay() / kSecondsPerDay);
 }
 
-void DatePart(const RuntimeCall& call) {
-    const Date day = call.Day(1);
-    switch (call.Text(0).front()) {
-        case 'y':
-            return call.Answer(std::int64_t{day.Year()});
-        case 'm':
-            return call.Answer(std::int64_t{day.Month()});
-        case 'd':
-            return call.Answer(std::int64_t{day.Day()});
-        default:
-            return call.Answer(std::int64_t{day.Weekday()});
-    }
+void Year(const RuntimeCall& call) {
+    call.Answer(std::int64_t{call.Day(0).Year()});
+}
+void Month(const RuntimeCall& call) {
+    call.Answer(std::int64_t{call.Day(0).Month()});
+}
+void DayOfMonth(const RuntimeCall& call) {
+    call.Answer(std::int64_t{call.Day(0).Day()});
+}
+void Weekday(const RuntimeCall& call) {
+    call.Answer(std::int64_t{call.Day(0).Weekday()});
 }
 
 /// The words that DateAdd and its kin name an interval by.
@@ -72,7 +99,7 @@ IntervalWord ReadInterval(std::string_view word) {
     throw ConversionError(fmt::format("'{}' is no interval", word));
 }
 
-void IntervalPart(const RuntimeCall& call) {
+void DatePart(const RuntimeCall& call) {
     const Date day = call.Day(1);
     const int dayOfYear = day.Serial() - Date(day.Year(), 1, 1).Serial() + 1;
     int part = 0;
@@ -172,10 +199,13 @@ void DateDifference(const RuntimeCall& call) {
 void AddDateFunctions(sqlite3* connection) {
     AddFunction<RunUnlessNull<ReadDate>>(connection, "vestrel_date", 1);
     AddFunction<RunUnlessNull<DateText>>(connection, "vestrel_date_text", 1);
-    AddFunction<ReadToday>(connection, "vestrel_today", 0, Repeats::Changes);
-    AddFunction<ReadNow>(connection, "vestrel_now", 0, Repeats::Changes);
+    AddFunction<ReadToday>(connection, "vestrel_today", 0);
+    AddFunction<ReadNow>(connection, "vestrel_now", 0);
+    AddFunction<RunUnlessNull<Year>>(connection, "vestrel_year", 1);
+    AddFunction<RunUnlessNull<Month>>(connection, "vestrel_month", 1);
+    AddFunction<RunUnlessNull<DayOfMonth>>(connection, "vestrel_day", 1);
+    AddFunction<RunUnlessNull<Weekday>>(connection, "vestrel_weekday", 1);
     AddFunction<RunUnlessNull<DatePart>>(connection, "vestrel_date_part", 2);
-    AddFunction<RunUnlessNull<IntervalPart>>(connection, "vestrel_interval_part", 2);
     AddFunction<RunUnlessNull<MakeDate>>(connection, "vestrel_date_serial", 3);
     AddFunction<RunUnlessNull<AddToDate>>(connection, "vestrel_date_add", 3);
     AddFunction<RunUnlessNull<DateDifference>>(connection, "vestrel_date_diff", 3);

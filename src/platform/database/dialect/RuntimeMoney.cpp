@@ -1,7 +1,5 @@
 #include <cmath>
 
-#include <fmt/core.h>
-
 #include "platform/database/dialect/RuntimeCall.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
@@ -12,21 +10,25 @@ namespace {
 
 using platform::Currency;
 
-[[noreturn]] void ThrowTooLarge() {
-    throw OverflowError("The amount of money is too large.");
-}
+constexpr const char* kTooLarge = "The amount of money is too large.";
 
-/// A text or number as money; the second argument names the field that is to hold it.
+/// A text or number as money.
 void ReadMoney(const RuntimeCall& call) {
-    if (!call.IsText(0)) return call.Answer(Currency::FromDouble(call.Real(0)));
+    if (!call.IsText(0)) {
+        try {
+            return call.Answer(Currency::FromDouble(call.Real(0)));
+        } catch (const OverflowError&) {
+            if (call.Count() < 2) throw;
+            ThrowUnfit(call, {});
+        }
+    }
     if (const auto amount = TryParseMoney(call.Text(0))) return call.Answer(*amount);
-    const std::string field = call.Text(1).empty() ? "" : fmt::format("{}: ", call.Text(1));
-    throw ConversionError(fmt::format("{}'{}' is no amount of money", field, call.Text(0)));
+    ThrowUnfit(call, "amount of money");
 }
 
 /// Where whole numbers overflow, the engine goes on in doubles: not with money.
 void CheckExact(const RuntimeCall& call) {
-    if (!call.IsWhole(0)) ThrowTooLarge();
+    if (!call.IsWhole(0)) throw OverflowError(kTooLarge);
     call.AnswerArgument(0);
 }
 
@@ -34,7 +36,7 @@ void MoneyText(const RuntimeCall& call) {
     call.Answer(std::string_view(MoneyToText(call.Money(0))));
 }
 
-/// a / b of whole numbers, halves to even.
+/// a / b of whole numbers, b positive, halves to even.
 std::int64_t Quotient(std::int64_t a, std::int64_t b) {
     std::int64_t quotient = a / b;
     const std::int64_t rest = std::abs(a % b);
@@ -43,8 +45,27 @@ std::int64_t Quotient(std::int64_t a, std::int64_t b) {
     return quotient;
 }
 
-void Average(const RuntimeCall& call) {
-    if (call.Whole(1) != 0) call.Answer(Quotient(call.Whole(0), call.Whole(1)));
+/// What the average of a group is made of.
+struct Total {
+    std::int64_t sum;
+    std::int64_t count;
+    bool failed;
+};
+
+void AddAmount(sqlite3_context* context, int, sqlite3_value** arguments) {
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) return;
+    auto* total = static_cast<Total*>(sqlite3_aggregate_context(context, sizeof(Total)));
+    if (total == nullptr) return sqlite3_result_error_nomem(context);
+    const std::int64_t amount = sqlite3_value_int64(arguments[0]);
+    total->failed = __builtin_add_overflow(total->sum, amount, &total->sum) || total->failed;
+    ++total->count;
+}
+
+void AnswerAverage(sqlite3_context* context) {
+    const auto* total = static_cast<const Total*>(sqlite3_aggregate_context(context, 0));
+    if (total == nullptr) return sqlite3_result_null(context);
+    if (total->failed) return sqlite3_result_error(context, kTooLarge, -1);
+    sqlite3_result_int64(context, Quotient(total->sum, total->count));
 }
 
 void Floor(const RuntimeCall& call) {
@@ -58,6 +79,7 @@ void Fix(const RuntimeCall& call) {
 }
 
 void Round(const RuntimeCall& call) {
+    if (call.Whole(1) < 0) throw ConversionError("Round needs a number of decimals");
     std::int64_t step = Currency::kScale;
     for (std::int64_t digits = call.Whole(1); digits > 0 && step > 1; --digits)
         step /= 10;
@@ -68,10 +90,12 @@ void Round(const RuntimeCall& call) {
 } // namespace
 
 void AddMoneyFunctions(sqlite3* connection) {
+    AddFunction<RunUnlessNull<ReadMoney>>(connection, "vestrel_money", 1);
     AddFunction<RunUnlessNull<ReadMoney>>(connection, "vestrel_money", 2);
     AddFunction<RunUnlessNull<CheckExact>>(connection, "vestrel_exact", 1);
     AddFunction<RunUnlessNull<MoneyText>>(connection, "vestrel_money_text", 1);
-    AddFunction<RunUnlessNull<Average>>(connection, "vestrel_quotient", 2);
+    sqlite3_create_function_v2(connection, "vestrel_money_avg", 1, SQLITE_UTF8, nullptr, nullptr,
+                               AddAmount, AnswerAverage, nullptr);
     AddFunction<RunUnlessNull<Floor>>(connection, "vestrel_money_floor", 1);
     AddFunction<RunUnlessNull<Fix>>(connection, "vestrel_money_fix", 1);
     AddFunction<RunUnlessNull<Round>>(connection, "vestrel_money_round", 2);

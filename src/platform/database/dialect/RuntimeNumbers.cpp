@@ -1,7 +1,6 @@
+#include <algorithm>
 #include <cmath>
 #include <limits>
-
-#include <fmt/core.h>
 
 #include "platform/database/dialect/RuntimeCall.h"
 #include "platform/values/Conversions.h"
@@ -13,13 +12,16 @@ namespace platform::dialect {
 
 namespace {
 
-double NumberOf(const RuntimeCall& call, int i) {
-    return call.IsText(i) ? StrToDouble(call.Text(i)) : call.Real(i);
-}
-
 void ReadNumber(const RuntimeCall& call) {
     if (!call.IsText(0)) return call.AnswerArgument(0);
-    call.Answer(StrToDouble(call.Text(0)));
+    if (const auto number = TryParseNumber(call.Text(0))) return call.Answer(*number);
+    ThrowUnfit(call, "number");
+}
+
+/// Null for a text that is no number, so that it equals none.
+void ReadNumberIf(const RuntimeCall& call) {
+    if (!call.IsText(0)) return call.AnswerArgument(0);
+    if (const auto number = TryParseNumber(call.Text(0))) call.Answer(*number);
 }
 
 void NumberText(const RuntimeCall& call) {
@@ -31,12 +33,12 @@ void CheckWhole(const RuntimeCall& call) {
     const double whole = std::nearbyint(call.Real(0));
     if (!(whole >= std::numeric_limits<Stored>::min() &&
           whole <= std::numeric_limits<Stored>::max())) {
-        throw OverflowError(fmt::format("{} can't hold {}", call.Text(1), call.Text(0)));
+        ThrowUnfit(call, {});
     }
     call.Answer(static_cast<std::int64_t>(whole));
 }
 
-/// For a division of whole numbers: rounds half to even, and nothing by zero.
+/// For a division of whole numbers: rounds half to even.
 void Whole(const RuntimeCall& call) {
     const double whole = std::nearbyint(call.Real(0));
     if (!(std::fabs(whole) < 1e18)) throw OverflowError("The number is too large.");
@@ -44,19 +46,18 @@ void Whole(const RuntimeCall& call) {
 }
 
 void ReadBoolean(const RuntimeCall& call) {
-    const std::string_view text = call.Text(0);
-    if (EqualIgnoringCase(text, "True") || EqualIgnoringCase(text, "False")) {
-        return call.Answer(std::int64_t{EqualIgnoringCase(text, "True")});
-    }
-    call.Answer(std::int64_t{NumberOf(call, 0) != 0});
+    const std::string_view text = Trim(call.Text(0));
+    if (EqualIgnoringCase(text, "True")) return call.Answer(std::int64_t{1});
+    if (EqualIgnoringCase(text, "False")) return call.Answer(std::int64_t{0});
+    const auto number = TryParseNumber(text);
+    if (!number) ThrowUnfit(call, "True or False");
+    call.Answer(std::int64_t{*number != 0});
 }
 
-void Floor(const RuntimeCall& call) {
-    call.Answer(std::floor(call.Real(0)));
+void BooleanText(const RuntimeCall& call) {
+    call.Answer(std::string_view(call.Whole(0) != 0 ? "True" : "False"));
 }
-void Fix(const RuntimeCall& call) {
-    call.Answer(std::trunc(call.Real(0)));
-}
+
 void Power(const RuntimeCall& call) {
     const double power = std::pow(call.Real(0), call.Real(1));
     if (!std::isfinite(power)) throw OverflowError("The power has no value.");
@@ -67,8 +68,15 @@ void Single(const RuntimeCall& call) {
 }
 
 void Round(const RuntimeCall& call) {
-    const double scale = std::pow(10.0, static_cast<double>(call.Whole(1)));
-    call.Answer(std::nearbyint(call.Real(0) * scale) / scale);
+    constexpr std::int64_t kMostPlaces = 22; // ten to more is no exact double
+    const std::int64_t places = call.Whole(1);
+    if (places < 0) throw ConversionError("Round needs a number of decimals");
+    if (call.IsWhole(0)) return call.AnswerArgument(0);
+    const double number = call.Real(0);
+    const double scale = std::pow(10.0, static_cast<double>(std::min(places, kMostPlaces)));
+    const double scaled = number * scale;
+    const double rounded = std::nearbyint(scaled) / scale;
+    call.Answer(std::isfinite(rounded) ? rounded : number);
 }
 
 /// The number that a text begins with, 0 for none.
@@ -82,36 +90,48 @@ void ReadLeadingNumber(const RuntimeCall& call) {
     call.Answer(0.0);
 }
 
-Value ValueOf(const RuntimeCall& call) {
-    if (call.IsNull(1)) return {};
-    const std::string_view kind = call.Text(0);
-    if (kind == "money") return call.Money(1);
-    if (kind == "date") return call.Day(1);
-    if (kind == "boolean") return call.Whole(1) != 0;
-    if (call.IsText(1)) return call.Text(1);
-    return call.Real(1);
+std::string FormatOf(const RuntimeCall& call, const Value& value) {
+    return Format(call.IsNull(0) ? Value() : value, call.Text(1));
 }
 
 void FormatValue(const RuntimeCall& call) {
-    call.Answer(std::string_view(Format(ValueOf(call), call.Text(2))));
+    const Value value = call.IsText(0) ? Value(call.Text(0)) : Value(call.Real(0));
+    call.Answer(std::string_view(FormatOf(call, value)));
+}
+
+void FormatAmount(const RuntimeCall& call) {
+    call.Answer(std::string_view(FormatOf(call, call.Money(0))));
+}
+
+void FormatDay(const RuntimeCall& call) {
+    call.Answer(std::string_view(FormatOf(call, call.IsNull(0) ? Value() : Value(call.Day(0)))));
+}
+
+void FormatBoolean(const RuntimeCall& call) {
+    call.Answer(std::string_view(FormatOf(call, call.Whole(0) != 0)));
 }
 
 } // namespace
 
 void AddNumberFunctions(sqlite3* connection) {
     AddFunction<RunUnlessNull<ReadNumber>>(connection, "vestrel_number", 1);
+    AddFunction<RunUnlessNull<ReadNumber>>(connection, "vestrel_number", 2);
+    AddFunction<RunUnlessNull<ReadNumberIf>>(connection, "vestrel_number_if", 1);
     AddFunction<RunUnlessNull<NumberText>>(connection, "vestrel_number_text", 1);
     AddFunction<RunUnlessNull<CheckWhole<std::int16_t>>>(connection, "vestrel_integer", 2);
     AddFunction<RunUnlessNull<CheckWhole<std::int32_t>>>(connection, "vestrel_long", 2);
     AddFunction<RunUnlessNull<Whole>>(connection, "vestrel_whole", 1);
     AddFunction<RunUnlessNull<ReadBoolean>>(connection, "vestrel_boolean", 1);
-    AddFunction<RunUnlessNull<Floor>>(connection, "vestrel_floor", 1);
-    AddFunction<RunUnlessNull<Fix>>(connection, "vestrel_fix", 1);
+    AddFunction<RunUnlessNull<ReadBoolean>>(connection, "vestrel_boolean", 2);
+    AddFunction<RunUnlessNull<BooleanText>>(connection, "vestrel_boolean_text", 1);
     AddFunction<RunUnlessNull<Power>>(connection, "vestrel_power", 2);
     AddFunction<RunUnlessNull<Single>>(connection, "vestrel_single", 1);
     AddFunction<RunUnlessNull<Round>>(connection, "vestrel_round", 2);
     AddFunction<RunUnlessNull<ReadLeadingNumber>>(connection, "vestrel_val", 1);
-    AddFunction<FormatValue>(connection, "vestrel_format", 3);
+    AddFunction<FormatValue>(connection, "vestrel_format", 2);
+    AddFunction<FormatAmount>(connection, "vestrel_format_money", 2);
+    AddFunction<FormatDay>(connection, "vestrel_format_date", 2);
+    AddFunction<FormatBoolean>(connection, "vestrel_format_boolean", 2);
 }
 
 } // namespace platform::dialect

@@ -2,6 +2,7 @@
 
 #include "platform/database/dialect/LikePattern.h"
 #include "platform/database/dialect/RuntimeCall.h"
+#include "platform/values/Errors.h"
 #include "platform/values/Text.h"
 
 namespace platform::dialect {
@@ -29,6 +30,31 @@ void Right(const RuntimeCall& call) {
         if (StartsCharacter(text[at])) --wanted;
     }
     call.Answer(text.substr(at));
+}
+
+/// From a place counted in characters from 1, so many of them or all.
+void Middle(const RuntimeCall& call) {
+    if (call.Whole(1) < 1) throw ConversionError("Mid counts from 1");
+    const std::string_view text = call.Text(0);
+    std::size_t before = Wanted(call, 1) - 1;
+    std::size_t wanted = call.Count() == 3 ? Wanted(call, 2) : text.size();
+    std::size_t start = 0;
+    while (start < text.size() && before > 0) {
+        ++start;
+        if (start == text.size() || StartsCharacter(text[start])) --before;
+    }
+    std::size_t end = start;
+    while (end < text.size() && wanted > 0) {
+        ++end;
+        if (end == text.size() || StartsCharacter(text[end])) --wanted;
+    }
+    call.Answer(text.substr(start, end - start));
+}
+
+void Space(const RuntimeCall& call) {
+    constexpr std::size_t kMost = 1'000'000;
+    if (Wanted(call, 0) > kMost) throw OverflowError("The text is too long.");
+    call.Answer(std::string(Wanted(call, 0), ' '));
 }
 
 void Upper(const RuntimeCall& call) {
@@ -63,6 +89,9 @@ void Like(const RuntimeCall& call) {
 void AddTextFunctions(sqlite3* connection) {
     AddFunction<RunUnlessNull<Left>>(connection, "vestrel_left", 2);
     AddFunction<RunUnlessNull<Right>>(connection, "vestrel_right", 2);
+    AddFunction<RunUnlessNull<Middle>>(connection, "vestrel_mid", 2);
+    AddFunction<RunUnlessNull<Middle>>(connection, "vestrel_mid", 3);
+    AddFunction<RunUnlessNull<Space>>(connection, "vestrel_space", 1);
     AddFunction<RunUnlessNull<Upper>>(connection, "vestrel_upper", 1);
     AddFunction<RunUnlessNull<Lower>>(connection, "vestrel_lower", 1);
     AddFunction<RunUnlessNull<Find>>(connection, "vestrel_instr", 3);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -12,7 +14,7 @@ namespace platform::dialect {
 
 struct Query;
 
-enum class ExpressionKind {
+enum class ExpressionKind : std::uint8_t {
     Number,
     Text,
     Date,
@@ -35,16 +37,19 @@ enum class ExpressionKind {
 
 struct Expression {
     ExpressionKind kind = ExpressionKind::Null;
+    /// IS NOT NULL, NOT IN, NOT BETWEEN, NOT LIKE.
+    bool negated = false;
+    /// The quote of a text.
+    char quote = '\0';
+    /// 0-based number of a parameter.
+    std::size_t parameter = 0;
     /// Offset in the statement, for messages.
     std::size_t position = 0;
     /// The literal, the name or the operator.
     std::string_view text;
     /// The table in front of a column or star, empty without one.
     std::string_view table;
-    /// IS NOT NULL, NOT IN, NOT BETWEEN, NOT LIKE.
-    bool negated = false;
-    /// 0-based number of a parameter.
-    std::size_t parameter = 0;
+    /// Two of a binary operator; of AND, OR and & all that stand in one row.
     std::vector<std::unique_ptr<Expression>> operands;
     std::unique_ptr<Query> query;
 };
@@ -58,11 +63,12 @@ struct SelectItem {
 
 /// What rows come from: a table, a derived table, or a join of two of them.
 struct Source {
-    enum class Kind { Table, Derived, Inner, Left, Right };
+    enum class Kind : std::uint8_t { Table, Derived, Inner, Left, Right };
 
     Kind kind = Kind::Table;
     std::size_t position = 0;
     std::string_view table;
+    /// Empty without one.
     std::string_view alias;
     std::unique_ptr<Query> query;
     std::unique_ptr<Source> left;
@@ -76,6 +82,7 @@ struct Select {
     bool distinct = false;
     /// TOP; empty without one.
     std::string_view top;
+    bool topIsPercent = false;
     std::vector<SelectItem> items;
     std::vector<std::unique_ptr<Source>> from;
     ExpressionPtr where;
@@ -97,12 +104,14 @@ struct Query {
 
 struct Assignment {
     std::string_view column;
+    /// The table in front of it, empty without one.
+    std::string_view table;
     std::size_t position = 0;
     ExpressionPtr value;
 };
 
 struct Statement {
-    enum class Kind { Select, Insert, Update, Delete };
+    enum class Kind : std::uint8_t { Select, Insert, Update, Delete };
 
     Kind kind = Kind::Select;
     /// A select's, and the rows of an INSERT that takes them from one.
@@ -118,5 +127,15 @@ struct Statement {
 
 /// Reads one statement; a final ';' may follow. A DialectError that says what was expected where.
 Statement Parse(std::string_view text);
+
+/// The text of a text literal, its doubled quotes made single.
+std::string LiteralText(const Expression& literal);
+
+// Each node as text of the dialect that reads back as the same tree: words in capitals, every
+// operator inside another in parentheses.
+std::string Print(const Statement& statement);
+void Print(std::string& out, const Query& query);
+void Print(std::string& out, const Source& source);
+void Print(std::string& out, const Expression& expression);
 
 } // namespace platform::dialect

@@ -1,61 +1,64 @@
-#include <fmt/core.h>
-
-#include "platform/database/dialect/FunctionCall.h"
+#include "platform/database/dialect/Functions.h"
 
 namespace platform::dialect {
 
 namespace {
 
-Typed AsText(std::string sql) {
-    return MakeTyped(std::move(sql), FieldType::Text);
+/// `function` of one text.
+BoundPtr OfText(std::string_view function, FunctionCall& call, FieldType type = FieldType::Text) {
+    return MakeCall(function, type, call.Text(0));
 }
-Typed AsLong(std::string sql) {
-    return MakeTyped(std::move(sql), FieldType::Long);
+
+/// `function` of a text and how much of it.
+BoundPtr PartOf(std::string_view function, FunctionCall& call) {
+    BoundPtr text = call.Text(0);
+    return MakeCall(function, FieldType::Text, std::move(text), call.Whole(1));
+}
+
+BoundPtr Mid(FunctionCall& call) {
+    BoundPtr text = call.Text(0);
+    BoundPtr start = call.Whole(1);
+    if (call.Count() == 2) {
+        return MakeCall("vestrel_mid", FieldType::Text, std::move(text), std::move(start));
+    }
+    return MakeCall("vestrel_mid", FieldType::Text, std::move(text), std::move(start),
+                    call.Whole(2));
+}
+
+BoundPtr InStr(FunctionCall& call) {
+    // The place to start from stands first where it is given.
+    const std::size_t text = call.Count() - 2;
+    BoundPtr start = text == 1 ? call.Whole(0) : MakeNumber("1", FieldType::Long, 0);
+    BoundPtr whole = call.Text(text);
+    return MakeCall("vestrel_instr", FieldType::Long, std::move(start), std::move(whole),
+                    call.Text(text + 1));
+}
+
+BoundPtr Replace(FunctionCall& call) {
+    BoundPtr text = call.Text(0);
+    BoundPtr part = call.Text(1);
+    return MakeCall("replace", FieldType::Text, std::move(text), std::move(part), call.Text(2));
 }
 
 constexpr FunctionDefinition kFunctions[] = {
-    {"Left", 2, 2,
-     [](const FunctionCall& call) {
-         return AsText(fmt::format("vestrel_left({}, {})", call.Text(0), call.Number(1)));
-     }},
-    {"Right", 2, 2,
-     [](const FunctionCall& call) {
-         return AsText(fmt::format("vestrel_right({}, {})", call.Text(0), call.Number(1)));
-     }},
-    {"Mid", 2, 3,
-     [](const FunctionCall& call) {
-         const std::string length = call.Count() == 3 ? ", " + call.Number(2) : "";
-         return AsText(fmt::format("substr({}, {}{})", call.Text(0), call.Number(1), length));
-     }},
-    {"Len", 1, 1,
-     [](const FunctionCall& call) { return AsLong(fmt::format("length({})", call.Text(0))); }},
-    {"Trim", 1, 1, [](const FunctionCall& call) { return AsText(call.Texts("trim")); }},
-    {"LTrim", 1, 1, [](const FunctionCall& call) { return AsText(call.Texts("ltrim")); }},
-    {"RTrim", 1, 1, [](const FunctionCall& call) { return AsText(call.Texts("rtrim")); }},
-    {"UCase", 1, 1, [](const FunctionCall& call) { return AsText(call.Texts("vestrel_upper")); }},
-    {"LCase", 1, 1, [](const FunctionCall& call) { return AsText(call.Texts("vestrel_lower")); }},
-    {"Replace", 3, 3, [](const FunctionCall& call) { return AsText(call.Texts("replace")); }},
-    {"InStr", 2, 3,
-     [](const FunctionCall& call) {
-         // The place to start from stands first where it is given.
-         const bool hasStart = call.Count() == 3;
-         const std::size_t text = hasStart ? 1 : 0;
-         return AsLong(fmt::format("vestrel_instr({}, {}, {})",
-                                   hasStart ? call.Number(0) : std::string("1"), call.Text(text),
-                                   call.Text(text + 1)));
-     }},
+    {"Left", 2, 2, [](FunctionCall& call) { return PartOf("vestrel_left", call); }},
+    {"Right", 2, 2, [](FunctionCall& call) { return PartOf("vestrel_right", call); }},
+    {"Mid", 2, 3, Mid},
+    {"Len", 1, 1, [](FunctionCall& call) { return OfText("length", call, FieldType::Long); }},
+    {"Trim", 1, 1, [](FunctionCall& call) { return OfText("trim", call); }},
+    {"LTrim", 1, 1, [](FunctionCall& call) { return OfText("ltrim", call); }},
+    {"RTrim", 1, 1, [](FunctionCall& call) { return OfText("rtrim", call); }},
+    {"UCase", 1, 1, [](FunctionCall& call) { return OfText("vestrel_upper", call); }},
+    {"LCase", 1, 1, [](FunctionCall& call) { return OfText("vestrel_lower", call); }},
+    {"Replace", 3, 3, Replace},
+    {"InStr", 2, 3, InStr},
     {"Space", 1, 1,
-     [](const FunctionCall& call) {
-         return AsText(fmt::format("printf('%*s', {}, '')", call.Number(0)));
-     }},
+     [](FunctionCall& call) { return MakeCall("vestrel_space", FieldType::Text, call.Whole(0)); }},
     {"Chr", 1, 1,
-     [](const FunctionCall& call) { return AsText(fmt::format("char({})", call.Number(0))); }},
-    {"Asc", 1, 1,
-     [](const FunctionCall& call) { return AsLong(fmt::format("unicode({})", call.Text(0))); }},
+     [](FunctionCall& call) { return MakeCall("char", FieldType::Text, call.Whole(0)); }},
+    {"Asc", 1, 1, [](FunctionCall& call) { return OfText("unicode", call, FieldType::Long); }},
     {"Val", 1, 1,
-     [](const FunctionCall& call) {
-         return MakeTyped(fmt::format("vestrel_val({})", call.Text(0)), FieldType::Double);
-     }},
+     [](FunctionCall& call) { return OfText("vestrel_val", call, FieldType::Double); }},
 };
 
 } // namespace

@@ -15,13 +15,16 @@ struct Token {
     std::string_view text;
     /// 0-based offset in the statement.
     std::size_t position = 0;
+    /// The quote of a text.
+    char quote = '\0';
 };
 
 /// Parts a statement into its words; the last is an End. A DialectError for a text, name or date
 /// that isn't closed and for a letter that no statement has.
 std::vector<Token> Tokenize(std::string_view statement);
 
-/// A fault in `statement` at `position`, its message ended by "(line L, column C)".
+/// A fault in `statement` at `position`, its message ended by "(line L, column C)"; columns count
+/// characters.
 [[noreturn]] void ThrowFault(std::string_view statement, std::size_t position,
                              std::string_view message);
 

@@ -3,7 +3,6 @@
 #include <fmt/core.h>
 
 #include "platform/database/dialect/Token.h"
-#include "platform/values/Errors.h"
 
 namespace platform::dialect {
 
@@ -32,6 +31,9 @@ class Tokenizer {
     explicit Tokenizer(std::string_view statement) : text_(statement) {}
 
     std::vector<Token> Run() {
+        // The engine takes a zero byte for the statement's end.
+        const std::size_t zero = text_.find('\0');
+        if (zero != std::string_view::npos) ThrowFault(text_, zero, "Unexpected zero byte");
         tokens_.reserve(text_.size() / 4 + 2);
         while (true) {
             while (at_ < text_.size() && IsBlank(text_[at_]))
@@ -39,7 +41,7 @@ class Tokenizer {
             if (at_ == text_.size()) break;
             Next();
         }
-        tokens_.push_back({TokenKind::End, {}, text_.size()});
+        tokens_.push_back({TokenKind::End, {}, text_.size(), '\0'});
         return std::move(tokens_);
     }
 
@@ -48,7 +50,7 @@ class Tokenizer {
         const char c = text_[at_];
         if (IsNameStart(c)) return Add(TokenKind::Name, LengthOfName());
         if (IsDigit(c) || (c == '.' && at_ + 1 < text_.size() && IsDigit(text_[at_ + 1]))) {
-            return Add(TokenKind::Number, LengthOfNumber());
+            return AddNumber();
         }
         switch (c) {
             case '[':
@@ -66,8 +68,17 @@ class Tokenizer {
     }
 
     void Add(TokenKind kind, std::size_t length) {
-        tokens_.push_back({kind, text_.substr(at_, length), at_});
+        tokens_.push_back({kind, text_.substr(at_, length), at_, '\0'});
         at_ += length;
+    }
+
+    void AddNumber() {
+        const std::size_t length = LengthOfNumber();
+        const std::size_t end = at_ + length;
+        if (end < text_.size() && IsNameStart(text_[end])) {
+            ThrowFault(text_, at_, "A number ends in letters");
+        }
+        Add(TokenKind::Number, length);
     }
 
     std::size_t LengthOfName() const {
@@ -104,7 +115,8 @@ class Tokenizer {
     void AddEnclosed(TokenKind kind, char close, std::string_view unclosed) {
         const std::size_t end = text_.find(close, at_ + 1);
         if (end == std::string_view::npos) ThrowFault(text_, at_, unclosed);
-        tokens_.push_back({kind, text_.substr(at_ + 1, end - at_ - 1), at_});
+        if (end == at_ + 1) ThrowFault(text_, at_, "There is nothing between the marks");
+        tokens_.push_back({kind, text_.substr(at_ + 1, end - at_ - 1), at_, '\0'});
         at_ = end + 1;
     }
 
@@ -116,17 +128,16 @@ class Tokenizer {
             if (end + 1 == text_.size() || text_[end + 1] != quote) break;
             ++end;
         }
-        tokens_.push_back({TokenKind::Text, text_.substr(at_ + 1, end - at_ - 1), at_});
+        tokens_.push_back({TokenKind::Text, text_.substr(at_ + 1, end - at_ - 1), at_, quote});
         at_ = end + 1;
     }
 
     void AddSymbol() {
         constexpr std::string_view kPairs[] = {"<=", ">=", "<>", "!="};
         const std::string_view pair = text_.substr(at_, 2);
-        if (std::find(std::begin(kPairs), std::end(kPairs), pair) != std::end(kPairs)) {
-            return Add(TokenKind::Symbol, 2);
-        }
-        if (std::string_view("=<>+-*/\\^&(),.;").find(text_[at_]) == std::string_view::npos) {
+        if (std::ranges::find(kPairs, pair) != std::end(kPairs)) return Add(TokenKind::Symbol, 2);
+        constexpr std::string_view kSymbols = "=<>+-*/\\^&(),.;";
+        if (kSymbols.find(text_[at_]) == std::string_view::npos) {
             ThrowFault(text_, at_, fmt::format("Unexpected '{}'", text_[at_]));
         }
         Add(TokenKind::Symbol, 1);
@@ -141,15 +152,6 @@ class Tokenizer {
 
 std::vector<Token> Tokenize(std::string_view statement) {
     return Tokenizer(statement).Run();
-}
-
-void ThrowFault(std::string_view statement, std::size_t position, std::string_view message) {
-    const std::string_view before = statement.substr(0, position);
-    const auto line = std::count(before.begin(), before.end(), '\n') + 1;
-    const std::size_t lineStart = before.rfind('\n');
-    const std::size_t column =
-        lineStart == std::string_view::npos ? position + 1 : position - lineStart;
-    throw DialectError(fmt::format("{} (line {}, column {})", message, line, column), position);
 }
 
 } // namespace platform::dialect

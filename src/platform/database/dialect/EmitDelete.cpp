@@ -1,0 +1,12 @@
+#include "platform/database/dialect/Emitter.h"
+#include "platform/database/dialect/EngineSql.h"
+
+namespace platform::dialect {
+
+void Emitter::EmitDelete(const BoundStatement& statement) {
+    sql_ += "DELETE FROM ";
+    AppendEngineName(sql_, statement.table);
+    EmitClause(" WHERE ", statement.where);
+}
+
+} // namespace platform::dialect

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "platform/database/dialect/Binder.h"
+
+namespace platform::dialect {
+
+/// A call of a function of the dialect, with its arguments bound.
+class FunctionCall {
+  public:
+    FunctionCall(Binder& binder, const Expression& call, std::vector<BoundPtr> arguments)
+        : binder_(binder), call_(call), arguments_(std::move(arguments)) {}
+
+    std::size_t Count() const { return arguments_.size(); }
+    const BoundExpression& operator[](std::size_t i) const { return *arguments_[i]; }
+    /// Count's star.
+    bool HasStar() const;
+
+    // An argument, which each function takes once: as it is, or as a value of a type.
+    BoundPtr Take(std::size_t i) { return std::move(arguments_[i]); }
+    BoundPtr Text(std::size_t i) { return binder_.ToText(Take(i)); }
+    BoundPtr Number(std::size_t i) { return binder_.ToNumber(Take(i)); }
+    BoundPtr Date(std::size_t i) { return binder_.ToDate(Take(i)); }
+    BoundPtr Condition(std::size_t i) { return binder_.ToCondition(Take(i)); }
+    BoundPtr As(std::size_t i, FieldType type) { return binder_.ToType(Take(i), type); }
+    /// A whole number, where another fails under the function's name.
+    BoundPtr Whole(std::size_t i, FieldType type = FieldType::Long) {
+        return binder_.ToWhole(Take(i), type, call_.text);
+    }
+    BoundPtr RowNumber() const { return binder_.RowNumber(); }
+
+  private:
+    Binder& binder_;
+    const Expression& call_;
+    std::vector<BoundPtr> arguments_;
+};
+
+enum class FunctionKind : std::uint8_t { Scalar, Aggregate };
+
+struct FunctionDefinition {
+    std::string_view name;
+    std::size_t fewest;
+    std::size_t most;
+    BoundPtr (*bind)(FunctionCall& call);
+    FunctionKind kind = FunctionKind::Scalar;
+};
+
+/// The function of this name, without regard to case; null when there is none.
+const FunctionDefinition* FindFunction(std::string_view name);
+
+// The functions of the dialect, by what they are about.
+std::span<const FunctionDefinition> TextFunctions();
+std::span<const FunctionDefinition> DateFunctions();
+std::span<const FunctionDefinition> NumberFunctions();
+std::span<const FunctionDefinition> GeneralFunctions();
+std::span<const FunctionDefinition> AggregateFunctions();
+
+} // namespace platform::dialect
