@@ -12,6 +12,7 @@
 
 #include "core/screens/ComboList.h"
 #include "core/screens/DateEdit.h"
+#include "core/screens/ShownNumber.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
@@ -135,11 +136,13 @@ void ShowValue(QWidget& control, char sigil, const Value& value) {
         case '#':
             return ShowText(control, value.AsText());
         case '&':
-            return ShowText(control, platform::FormatNumber(value.AsDouble(), "#,###.0"));
+            return ShowText(control,
+                            platform::FormatNumber(ShownNumber(value.AsDouble()), "#,###.0"));
         case '$':
             return ShowText(control, platform::FormatMoney(value.AsCurrency()));
         case '%':
-            return ShowText(control, platform::FormatNumber(value.AsDouble() * 100, "#,###.0#"));
+            return ShowText(
+                control, platform::FormatNumber(ShownNumber(value.AsDouble() * 100), "#,###.0#"));
         case '@':
             return ShowDay(control, value);
         case '!':

@@ -1,5 +1,6 @@
 #include "core/screens/GridFormat.h"
 
+#include "core/screens/ShownNumber.h"
 #include "platform/values/Format.h"
 #include "platform/values/Text.h"
 
@@ -42,6 +43,9 @@ std::string CellText(const platform::Value& value, const ColumnFormat& format) {
             return text == "0" || platform::EqualIgnoringCase(text, "False") ? "No" : "Yes";
         }
         case ColumnFormat::Kind::Pattern:
+            if (const auto* const number = std::get_if<double>(&value.Held())) {
+                return platform::FormatNumber(ShownNumber(*number), format.pattern);
+            }
             return platform::Format(value, format.pattern);
         case ColumnFormat::Kind::Plain:
             break;

@@ -1,6 +1,7 @@
 #include "core/screens/frmConfig.h"
 
 #include <QMouseEvent>
+#include <QPushButton>
 
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
@@ -32,6 +33,12 @@ frmConfig::frmConfig(QWidget* parent)
     leases_->setupUi(ui_->tabLeases);
     other_->setupUi(ui_->tabOther);
     Wire();
+    // The buttons were made before what stands on the tabs.
+    QWidget* last = other_->txtSecAccess;
+    for (auto* const button : ui_->cmdAction->findChildren<QPushButton*>()) {
+        setTabOrder(last, button);
+        last = button;
+    }
     connect(general_->txtZip, &QLineEdit::editingFinished, this, &frmConfig::LookUpZip);
     connect(leases_->cboTermType, &QComboBox::currentTextChanged, this, &frmConfig::OfferExpiry);
     general_->txtEmail->installEventFilter(this);

@@ -1,5 +1,6 @@
 #include "core/screens/frmHelp.h"
 
+#include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHelpContentWidget>
@@ -15,6 +16,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "core/screens/Help.h"
 #include "platform/dialogs/Desktop.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
@@ -49,6 +51,12 @@ void HelpPage::doSetSource(const QUrl& url, QTextDocument::ResourceType type) {
         return;
     }
     QTextBrowser::doSetSource(url, type);
+}
+
+/// The colour of a link is settled when a page is read.
+void HelpPage::changeEvent(QEvent* event) {
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && source().isValid()) reload();
 }
 
 frmHelp::frmHelp(const QString& file, const QString& cacheFolder, QWidget* parent)
@@ -87,10 +95,14 @@ void frmHelp::Setup(const QString& topic) {
     if (isMinimized()) showNormal();
     raise();
     activateWindow();
+    if (topic == QLatin1String(kHelpSearch)) {
+        ways_->setCurrentIndex(ways_->count() - 1);
+        engine_.searchEngine()->queryWidget()->setFocus();
+    }
 }
 
 bool frmHelp::HasTopic(const QString& topic) const {
-    return engine_.findFile(PageUrl(topic)).isValid();
+    return !engine_.fileData(PageUrl(topic)).isEmpty();
 }
 
 QString frmHelp::Topic() const {

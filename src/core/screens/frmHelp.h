@@ -20,6 +20,7 @@ class HelpPage : public QTextBrowser {
 
   protected:
     void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     QHelpEngine& engine_;

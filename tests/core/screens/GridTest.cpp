@@ -49,21 +49,24 @@ class GridTest : public support::ScreenTest {
 };
 
 TEST_F(GridTest, FormatsCellsByTheTypeOfTheirColumn) {
-    Run("UPDATE Mortgage SET CurrentI = 0.0725, CurrentPmt = -12.5 WHERE IdMortgage = 50");
+    Run("UPDATE Mortgage SET CurrentI = 0.0725 WHERE IdMortgage = 50");
     Run("UPDATE Unit SET Bedrooms = 3 WHERE IdUnit = 20");
     Load(
-        "SELECT IdMortgage, CurrentPV AS [Balance], CurrentPmt, CurrentI * 100 AS [I Rate], "
-        "CurrentI * 100 AS [Rate], Hide FROM Mortgage ORDER BY IdMortgage");
-    grid_.setColumnHidden(0, true);
+        "SELECT IdMortgage, CurrentI * 100 AS [I Rate], CurrentI * 100 AS [Rate], Hide "
+        "FROM Mortgage WHERE IdMortgage = 50");
+    EXPECT_EQ(support::GridText(grid_), "IdMortgage|I Rate|Rate|Hide\n50|7.250|7.3|No\n");
+    Run("UPDATE Unit SET Rent = NULL, SqFt = NULL WHERE IdUnit = 21");
+    Load(
+        "SELECT IdUnit, Rent, -Rent AS [Back], SqFt, Status FROM Unit WHERE IdUnit < 22 "
+        "ORDER BY IdUnit");
     EXPECT_EQ(support::GridText(grid_),
-              "Balance|CurrentPmt|I Rate|Rate|Hide\n"
-              "120,000.25|(12.50)|7.250|7.3|No\n"
-              " | | | | \n")
+              "IdUnit|Rent|Back|SqFt|Status\n"
+              "20|950.50|(950.50)| |Hold\n"
+              "21| | | | \n")
         << "a null is one blank";
     Load(
         "SELECT DateValue('3/7/2024') AS [Day], True AS [Yes], '00' AS [Text], Unit.Bedrooms "
         "FROM Unit WHERE IdUnit = 20");
-    grid_.setColumnHidden(0, false);
     EXPECT_EQ(support::GridText(grid_), "Day|Yes|Text|Bedrooms\n03/07/2024|Yes|00|3\n");
 }
 

@@ -3,7 +3,7 @@
 #include <QHelpLink>
 #include <QPointer>
 #include <QRegularExpression>
-#include <QSignalSpy>
+#include <QTest>
 
 #include "core/screens/frmHelp.h"
 #include "support/screens/Driving.h"
@@ -74,10 +74,8 @@ TEST_F(HelpTest, TheIndexLeadsToThePagesOfItsWords) {
 TEST_F(HelpTest, TheContentsNameEveryPage) {
     const auto form = Open(QStringLiteral("contents"));
     QHelpContentModel* const contents = form->Engine().contentModel();
-    QSignalSpy created(contents, &QHelpContentModel::contentsCreated);
-    contents->createContentsForCurrentFilter();
-    while (contents->isCreatingContents())
-        created.wait(20);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [contents] { return !contents->isCreatingContents() && contents->rowCount() > 0; }));
     const std::function<int(const QModelIndex&)> count = [&](const QModelIndex& parent) {
         int pages = 0;
         for (int row = 0; row < contents->rowCount(parent); ++row) {

@@ -66,7 +66,7 @@ constexpr Case kCases[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Keys, KeyFilterTable, testing::ValuesIn(kCases),
-                         [](const auto& info) { return "Case" + std::to_string(info.index); });
+                         [](const auto& test) { return "Case" + std::to_string(test.index); });
 
 TEST(KeyFilter, StopsAtTheGreatestLengthUnlessSomethingIsSelected) {
     KeyedBox box;

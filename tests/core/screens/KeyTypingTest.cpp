@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFocusEvent>
 #include <QLineEdit>
 
 #include "core/screens/DateEdit.h"

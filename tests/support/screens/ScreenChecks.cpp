@@ -84,7 +84,8 @@ std::vector<std::string> TabOrderFaults(QWidget& screen) {
                             widget->window() == &screen &&
                             !widget->objectName().startsWith(QLatin1String("qt_"));
         if (!isStop) continue;
-        if (before && AreComparable(*before, *widget, screen) &&
+        const bool isInside = before && before->isAncestorOf(widget);
+        if (before && !isInside && AreComparable(*before, *widget, screen) &&
             IsBefore(*widget, *before, screen)) {
             faults.push_back(NameOf(*widget) + " comes after " + NameOf(*before));
         }
