@@ -1,9 +1,12 @@
+#include <iostream>
 #include <memory>
 
+#include "core/Globals.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
 #include "shell/SampleLife.h"
 #include "store/CreateDatabase.h"
+#include "store/References.h"
 #include "vestrelctl/Command.h"
 
 namespace vestrelctl {
@@ -15,6 +18,17 @@ struct InitOptions {
     int units = shell::kSampleUnits;
     std::filesystem::path folder;
 };
+
+/// The look-ups of zip codes and tax offices stand beside the program, once for all databases. A
+/// database is made without them all the same.
+void MakeReferences() {
+    if (core::App().HasReferences) return;
+    try {
+        store::CreateReferences(core::App().AppPath);
+    } catch (const platform::Error& error) {
+        std::cerr << "vestrelctl: no look-ups: " << error.what() << '\n';
+    }
+}
 
 } // namespace
 
@@ -35,6 +49,7 @@ void AddInit(CLI::App& line) {
         } else {
             store::CreateDatabase(init->folder);
         }
+        MakeReferences();
     });
 }
 
