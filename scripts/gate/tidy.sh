@@ -1,14 +1,13 @@
 #!/usr/bin/env bash
 # What changed passes clang-tidy: tidy.sh [--all] [TREE [BUILD_DIR]]
-# Changed is what differs from origin/main, or, where that is the same as HEAD, from how things stood
-# half a day before the last commit; with --all, everything. A changed header is looked at through
+# Changed is what differs from origin/main, or, where that is the same as HEAD, from the commit before
+# it; with --all, everything. A changed header is looked at through
 # one file that includes it. A file that passed is not looked at again until it or a header of it
 # changes. Without --all, no file is begun after five minutes; how many were left is told.
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 tidy=clang-tidy-19
 kSeconds=300
-kHalfDay=$((12 * 3600))
 
 all=no
 if [ "${1:-}" = --all ]; then
@@ -28,17 +27,16 @@ if [ ! -f "$build/compile_commands.json" ]; then
 fi
 
 changedFiles() {
-    local base now
+    local base
     if [ "$all" = yes ] || ! git rev-parse -q --verify HEAD >/dev/null 2>&1; then
         sourcesOf src tests benchmarks
         return
     fi
     base=$(git merge-base HEAD origin/main 2>/dev/null || true)
     if [ -z "$base" ] || [ "$base" = "$(git rev-parse HEAD)" ]; then
-        now=$(git log -1 --format=%ct)
-        base=$(git rev-list -1 --before=$((now - kHalfDay)) HEAD)
+        base=$(git rev-parse -q --verify HEAD~1 || true)
     fi
-    # A history younger than that: everything differs from the empty tree.
+    # A history of one commit: everything differs from the empty tree.
     [ -n "$base" ] || base=$(git hash-object -t tree /dev/null)
     git diff --name-only --diff-filter=d "$base"
     git ls-files --others --exclude-standard
