@@ -24,6 +24,8 @@ void GridModel::SetRows(platform::Recordset rows) {
     colors_.clear();
     narrowed_.clear();
     shown_.clear();
+    search_.reset();
+    nextSlice_.stop();
     const std::size_t fields = rows_.IsOpen() ? rows_.FieldCount() : 0;
     for (std::size_t i = 0; i < fields; ++i) {
         const platform::Field field = rows_[i];
@@ -31,31 +33,6 @@ void GridModel::SetRows(platform::Recordset rows) {
                             field.Type(),
                             FormatOf(field.Type(), field.Name()),
                             {}});
-    }
-    endResetModel();
-}
-
-void GridModel::Narrow(const QString& text, int firstColumn) {
-    if (text == narrowed_) return;
-    // A longer text can only lose rows of those that the shorter one left.
-    const bool continues = !narrowed_.isEmpty() && text.startsWith(narrowed_);
-    const std::vector<std::int32_t> before =
-        continues ? std::move(shown_) : std::vector<std::int32_t>();
-    beginResetModel();
-    narrowed_ = text;
-    shown_.clear();
-    if (!text.isEmpty()) {
-        const auto first = static_cast<std::size_t>(firstColumn);
-        const auto keep = [&](std::int32_t row) {
-            if (RowHas(row, text, first)) shown_.push_back(row);
-        };
-        if (continues) {
-            for (const std::int32_t row : before)
-                keep(row);
-        } else {
-            for (std::int32_t row = 0; row < rowCount_; ++row)
-                keep(row);
-        }
     }
     endResetModel();
 }
@@ -151,13 +128,6 @@ void GridModel::SetBoldHeader(bool bold) {
 
 std::int64_t GridModel::Source(int row) const {
     return narrowed_.isEmpty() ? row : shown_[static_cast<std::size_t>(row)];
-}
-
-bool GridModel::RowHas(std::int64_t source, const QString& text, std::size_t firstColumn) const {
-    for (std::size_t column = firstColumn; column < columns_.size(); ++column) {
-        if (SourceText(source, column).contains(text, Qt::CaseInsensitive)) return true;
-    }
-    return false;
 }
 
 QString GridModel::SourceText(std::int64_t source, std::size_t column) const {

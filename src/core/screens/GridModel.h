@@ -2,12 +2,14 @@
 
 #include <QAbstractTableModel>
 #include <QColor>
+#include <QTimer>
 #include <functional>
 #include <optional>
 #include <unordered_map>
 #include <vector>
 
 #include "core/screens/GridFormat.h"
+#include "core/screens/RowSearch.h"
 #include "platform/database/Recordset.h"
 
 namespace core::screens {
@@ -21,7 +23,7 @@ class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit GridModel(QObject* parent = nullptr);
 
     /// Takes over a row set; every column gets the format of its field's type. One that isn't open
     /// leaves nothing to show.
@@ -30,8 +32,10 @@ class GridModel : public QAbstractTableModel {
     bool IsLoaded() const { return !columns_.empty(); }
 
     /// Shows only the rows that have `text` in any column but the hidden first ones, without regard
-    /// to case; all rows for an empty text.
+    /// to case; all rows for an empty text. In a long list the first rows found show at once and
+    /// the others join them as they are found, until NarrowingEnded.
     void Narrow(const QString& text, int firstColumn);
+    bool IsNarrowing() const { return search_.has_value(); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -49,6 +53,10 @@ class GridModel : public QAbstractTableModel {
     void SetColorRule(int column, ColorRule rule);
     void SetBoldHeader(bool bold);
 
+  Q_SIGNALS:
+    /// All rows that have the text are there.
+    void NarrowingEnded();
+
   private:
     struct Column {
         QString caption;
@@ -58,7 +66,9 @@ class GridModel : public QAbstractTableModel {
     };
 
     std::int64_t Source(int row) const;
-    bool RowHas(std::int64_t source, const QString& text, std::size_t firstColumn) const;
+    RowSearch MakeSearch(const QString& text, int firstColumn) const;
+    std::vector<std::int32_t> SearchOn();
+    void SearchSlice();
     QString SourceText(std::int64_t source, std::size_t column) const;
     std::optional<QColor> ColorOf(const QModelIndex& index) const;
 
@@ -69,6 +79,9 @@ class GridModel : public QAbstractTableModel {
     std::unordered_map<std::int64_t, QColor> colors_;
     QString narrowed_;
     std::vector<std::int32_t> shown_; ///< while narrowed, the rows that are left
+    std::optional<RowSearch> search_; ///< while rows are still looked through
+    std::int32_t nextSearched_ = 0;
+    QTimer nextSlice_;
     bool boldHeader_ = true;
 };
 

@@ -254,4 +254,31 @@ TEST_F(GridTest, NarrowsToRowsWithTheTextInAnyShownColumn) {
     EXPECT_EQ(model.rowCount(), 3);
 }
 
+TEST_F(GridTest, ALongListNarrowsInSlicesToTheSameRows) {
+    constexpr int kRows = 50'000;
+    core::App().Connection.RunScript(
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 50000) "
+        "INSERT INTO Room (IdRoom, RoomType) SELECT i + 100000, 'Room ' || i FROM n");
+    Load("SELECT IdRoom, RoomType FROM Room WHERE IdRoom > 100000 ORDER BY IdRoom");
+    auto& model = grid_.Model();
+    ASSERT_EQ(model.rowCount(), kRows);
+    QSignalSpy ended(&model, &core::screens::GridModel::NarrowingEnded);
+    model.Narrow(QStringLiteral("room 4"), 1);
+    EXPECT_GT(model.rowCount(), 0) << "the first rows are there at once";
+    EXPECT_TRUE(model.IsNarrowing());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !model.IsNarrowing(); }));
+    EXPECT_EQ(model.rowCount(), 11'111);
+    EXPECT_EQ(model.CellText(11'110, 1), QStringLiteral("Room 49999"));
+    model.Narrow(QStringLiteral("room 49"), 1);
+    EXPECT_EQ(model.rowCount(), 1'111) << "on from what is left";
+    EXPECT_EQ(ended.count(), 2);
+    model.Narrow(QStringLiteral("ROOM"), 1);
+    model.Narrow({}, 1);
+    EXPECT_FALSE(model.IsNarrowing()) << "clearing the text ends the search";
+    EXPECT_EQ(model.rowCount(), kRows);
+    model.Narrow(QStringLiteral("x"), 1);
+    LoadUnits();
+    EXPECT_EQ(model.rowCount(), 3);
+}
+
 } // namespace
