@@ -6,6 +6,7 @@
 #include "core/EditRecord.h"
 #include "core/Globals.h"
 #include "core/Preferences.h"
+#include "core/Session.h"
 #include "core/Startup.h"
 #include "core/screens/frmSplash.h"
 #include "kestrom/Application.h"
@@ -67,16 +68,20 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
     shell::RunDigest digest;
     shell::screens::RunBooks(digest);
     core::CleanTmpFiles();
+    if (endAsked) {
+        core::CloseDatabase(core::App().Connection);
+        return 0;
+    }
 
     window = std::make_unique<shell::screens::frmKestrom>(Services());
     QObject::connect(&instance, &platform::qt::SingleInstance::ShowAsked, window.get(),
                      &shell::screens::frmKestrom::ComeToFront);
     window->Setup(std::move(digest));
     if (splash) {
+        splash->raise();
         kestrom::LetSplashBeSeen();
         splash.reset();
     }
-    if (endAsked) window->EndUnasked();
     // The window may have been closed while the splash stood before it.
     return window->HasEnded() ? 0 : kestrom::Application::exec();
 }

@@ -64,7 +64,7 @@ void frmKestrom::SetUpPages() {
     view_ = new ViewPanel(this);
     ui_->pages->addWidget(home_);
     ui_->pages->addWidget(view_);
-    connect(view_, &ViewPanel::SelectionMoved, this, &frmKestrom::Enable_EditButtons);
+    connect(view_, &ViewPanel::SelectionMoved, this, &frmKestrom::EnableEditButtons);
     connect(view_, &ViewPanel::StatusChanged, this, &frmKestrom::ShowStatus);
     connect(view_, &ViewPanel::RecordChosen, this, &frmKestrom::EditSelected);
     connect(view_, &ViewPanel::MenuAsked, this,
@@ -108,7 +108,7 @@ void frmKestrom::SetSelectedDb(std::int16_t kind) {
         view_->List().setFocus(Qt::OtherFocusReason);
     }
     ShowStatus();
-    Enable_EditButtons();
+    EnableEditButtons();
 }
 
 void frmKestrom::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
@@ -132,9 +132,9 @@ Selection frmKestrom::Selected() const {
     return {selectedDb_, SelectedId()};
 }
 
-void frmKestrom::Enable_EditButtons() {
+void frmKestrom::EnableEditButtons() {
     const bool hasEditor = services_.hasEditor && services_.hasEditor(selectedDb_);
-    const Availability can = EnableEditButtons({selectedDb_, SelectedId(), hasEditor});
+    const Availability can = shell::EnableEditButtons({selectedDb_, SelectedId(), hasEditor});
     ui_->mnuAdd->setEnabled(can.add);
     ui_->mnuEdit->setEnabled(can.edit);
     ui_->mnuCopy->setEnabled(can.edit);

@@ -50,7 +50,7 @@ class frmKestrom : public QMainWindow {
     /// Changes the view: to a kind of records, or to the home page (the kind of alerts).
     void SetSelectedDb(std::int16_t kind);
     void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id);
-    void Enable_EditButtons();
+    void EnableEditButtons();
     /// The day-change timer's work.
     void Tick();
 
