@@ -20,8 +20,8 @@ struct EmptyView {
     std::int16_t kind = 0;
     /// As for StatusText, of the rows before the search narrowed them.
     std::int64_t count = 0;
-    std::string_view search = {};
-    ViewFilter filter = {};
+    std::string_view search;
+    ViewFilter filter;
 };
 std::string EmptyText(const EmptyView& view);
 

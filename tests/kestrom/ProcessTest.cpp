@@ -19,13 +19,7 @@ namespace {
 using testing::HasSubstr;
 
 class Process : public testing::Test {
-  protected:
-    Process() {
-        for (const char* const name : {"config", "data", "run"})
-            std::filesystem::create_directory(folder_ / name);
-        std::filesystem::permissions(folder_ / "run", std::filesystem::perms::owner_all);
-        store::CreateDatabase(folder_ / "books");
-    }
+  public:
     ~Process() override {
         for (const pid_t pid : started_) {
             ::kill(pid, SIGKILL);
@@ -33,6 +27,13 @@ class Process : public testing::Test {
         }
     }
 
+  protected:
+    Process() {
+        for (const char* const name : {"config", "data", "run"})
+            std::filesystem::create_directory(folder_ / name);
+        std::filesystem::permissions(folder_ / "run", std::filesystem::perms::owner_all);
+        store::CreateDatabase(folder_ / "books");
+    }
     void Register(const std::string& name, const std::filesystem::path& books) {
         std::filesystem::create_directory(folder_ / "config/Vestrel");
         std::ofstream(folder_ / "config/Vestrel/registry.json")
@@ -81,6 +82,7 @@ class Process : public testing::Test {
         ::unsetenv("DBUS_SESSION_BUS_ADDRESS");
         arguments.insert(arguments.begin(), VESTREL_KESTROM);
         std::vector<char*> words;
+        words.reserve(arguments.size() + 1);
         for (std::string& argument : arguments)
             words.push_back(argument.data());
         words.push_back(nullptr);

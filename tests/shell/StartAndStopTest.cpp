@@ -18,8 +18,8 @@ using testing::ElementsAre;
 
 /// Steps that write down that they ran; the one named by `failing` fails.
 struct ShutDownLog {
-    std::vector<std::string> ran = {};
-    std::string failing = {};
+    std::vector<std::string> ran;
+    std::string failing;
     bool isBackupDue = false;
 
     std::function<void()> Step(const std::string& name) {
@@ -47,21 +47,28 @@ TEST(ShutDown, RunsItsStepsInOrder) {
 }
 
 TEST(ShutDown, LeavesTheEndToABackupThatIsWanted) {
-    EXPECT_THAT(ShutDownLog{.isBackupDue = true}.Run(),
-                ElementsAre("window", "home", "session", "dialogs", "forms", "backup"));
+    ShutDownLog log;
+    log.isBackupDue = true;
+    EXPECT_THAT(log.Run(), ElementsAre("window", "home", "session", "dialogs", "forms", "backup"));
 }
 
 TEST(ShutDown, GoesOnAfterAStepThatFails) {
     for (const char* const step : {"window", "home", "session", "dialogs", "forms"}) {
-        EXPECT_THAT(ShutDownLog{.failing = step}.Run(),
-                    ElementsAre("window", "home", "session", "dialogs", "forms", "end"));
+        ShutDownLog log;
+        log.failing = step;
+        EXPECT_THAT(log.Run(), ElementsAre("window", "home", "session", "dialogs", "forms", "end"));
     }
-    EXPECT_EQ((ShutDownLog{.failing = "backup", .isBackupDue = true}.Run().back()), "end");
+    ShutDownLog log;
+    log.failing = "backup";
+    log.isBackupDue = true;
+    EXPECT_EQ(log.Run().back(), "end");
 }
 
 TEST(ShutDown, EndsWithoutTheStepsThatAreMissing) {
     ShutDownLog log;
-    shell::ShutDown({.endProcess = log.Step("end")});
+    shell::ShutDownSteps steps;
+    steps.endProcess = log.Step("end");
+    shell::ShutDown(steps);
     EXPECT_THAT(log.ran, ElementsAre("end"));
 }
 

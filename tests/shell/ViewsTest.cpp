@@ -88,6 +88,7 @@ TEST_F(Views, HaveTheirColumnsWithAndWithoutTheId) {
             platform::Recordset rows;
             rows.Open(core::App().Connection, BuildViewSql(c.kind, {}, idColumn));
             std::vector<std::string> names;
+            names.reserve(rows.FieldCount());
             for (std::size_t i = 0; i < rows.FieldCount(); ++i)
                 names.push_back(rows[i].Name());
             std::vector<std::string> expected = c.columns;

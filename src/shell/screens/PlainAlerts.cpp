@@ -105,9 +105,9 @@ void PlainAlerts::ShowAlerts() {
 void PlainAlerts::OpenAlert(int row) const {
     const auto index = static_cast<std::size_t>(row);
     if (row < 0 || index >= records_.size()) return;
-    const auto [kind, id] = records_[index];
-    if (kind == 0 || id == 0) return;
-    core::screens::Guarded([kind = kind, id = id] { core::EditRecord(kind, id); });
+    const auto& record = records_[index];
+    if (record.first == 0 || record.second == 0) return;
+    core::screens::Guarded([&] { core::EditRecord(record.first, record.second); });
 }
 
 } // namespace shell::screens
