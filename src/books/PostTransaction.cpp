@@ -9,15 +9,19 @@
 namespace books {
 
 using platform::Currency;
+using platform::CursorMode;
+using platform::Recordset;
 
-std::int32_t PostTransaction(const Transaction& transaction) {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, "Transactions", platform::CursorMode::AppendOnly);
+namespace {
+
+void AddRow(Recordset& rows, std::int32_t id) {
     rows.AddNew();
-    const std::int32_t id = core::NextId();
     rows["IdTransaction"].Set(id);
     rows["CreditExported"].Set(false);
     rows["DebitExported"].Set(false);
+}
+
+void WriteFields(Recordset& rows, const Transaction& transaction) {
     rows["DateEffective"].Set(transaction.dateEffective.ToText());
     rows["DebitType"].Set(transaction.debit.type);
     rows["DebitId"].Set(transaction.debit.id);
@@ -44,9 +48,28 @@ std::int32_t PostTransaction(const Transaction& transaction) {
     rows["IdWorkOrder"].Set(transaction.idWorkOrder);
     rows["IdLedger"].Set(std::int32_t{0});
     rows["IdMileage"].Set(std::int32_t{0});
+}
+
+} // namespace
+
+std::int32_t PostTransaction(const Transaction& transaction) {
+    Recordset rows;
+    rows.Open(core::App().Connection, "Transactions", CursorMode::AppendOnly);
+    const std::int32_t id = core::NextId();
+    AddRow(rows, id);
+    WriteFields(rows, transaction);
     rows.Update();
     core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
     return id;
+}
+
+void RewriteTransaction(std::int32_t id, const Transaction& transaction) {
+    Recordset rows;
+    rows.Open(core::App().Connection, "SELECT * FROM Transactions WHERE IdTransaction = ?",
+              CursorMode::Updatable, {id});
+    if (rows.Eof()) AddRow(rows, id);
+    WriteFields(rows, transaction);
+    rows.Update();
 }
 
 } // namespace books

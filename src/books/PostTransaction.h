@@ -47,4 +47,8 @@ struct Transaction {
 /// new row's id; failures are thrown.
 std::int32_t PostTransaction(const Transaction& transaction);
 
+/// Writes a posted row anew, or again under its id if it has gone; whether its sides were exported
+/// stays as it is. Nothing is triggered or told by it. Failures are thrown.
+void RewriteTransaction(std::int32_t id, const Transaction& transaction);
+
 } // namespace books
