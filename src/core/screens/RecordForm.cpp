@@ -70,6 +70,13 @@ void RecordForm::WriteRow(platform::Recordset& row) {
     BindToRecord(*this, row);
 }
 
+void RecordForm::Store() {
+    platform::Recordset row;
+    FindRowToWrite(row);
+    WriteRow(row);
+    row.Update();
+}
+
 void RecordForm::Load() {
     platform::Recordset row;
     FindRow(row);
@@ -86,13 +93,9 @@ void RecordForm::Load() {
 
 bool RecordForm::Save() {
     if (!ShowErrorRoll(AllErrors())) return false;
-    platform::Recordset row;
-    FindRowToWrite(row);
-    WriteRow(row);
-    row.Update();
+    Store();
     NotifyAll(place_.kind, kRecordsChanged, 0);
     dirty_ = false;
-    row.Close();
     AfterSave();
     return true;
 }

@@ -59,6 +59,9 @@ class RecordForm : public Form {
     virtual void ShowCaption() = 0;
     /// What is wrong with what was entered, a line each.
     virtual std::vector<std::string> Errors() { return {}; }
+    /// Writes what was entered. A screen whose save is more than its row gives the whole of it to
+    /// the logic, and sets the id that a new record got.
+    virtual void Store();
     /// What a save brings about beyond its row.
     virtual void AfterSave() {}
     /// Refills what depends on records of `kind`; nothing that changes here makes the form dirty.
