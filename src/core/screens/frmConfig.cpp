@@ -1,13 +1,11 @@
 #include "core/screens/frmConfig.h"
 
-#include <QMouseEvent>
 #include <QPushButton>
 
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "core/References.h"
+#include "core/screens/AddressBox.h"
 #include "core/screens/ComboList.h"
-#include "platform/dialogs/Desktop.h"
 #include "platform/qt/Text.h"
 #include "ui_frmConfig.h"
 #include "ui_frmConfigAnalysis.h"
@@ -17,7 +15,6 @@
 
 namespace core::screens {
 
-using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
 frmConfig::frmConfig(QWidget* parent)
@@ -39,10 +36,10 @@ frmConfig::frmConfig(QWidget* parent)
         setTabOrder(last, button);
         last = button;
     }
-    connect(general_->txtZip, &QLineEdit::editingFinished, this, &frmConfig::LookUpZip);
+    FillPlaceByZip(*general_->txtZip, {general_->txtCity, general_->txtState});
     connect(leases_->cboTermType, &QComboBox::currentTextChanged, this, &frmConfig::OfferExpiry);
-    general_->txtEmail->installEventFilter(this);
-    general_->txtWeb->installEventFilter(this);
+    OpenOnClick(*general_->txtEmail, AddressKind::Mail);
+    OpenOnClick(*general_->txtWeb, AddressKind::Web);
 }
 
 frmConfig::~frmConfig() = default;
@@ -108,37 +105,10 @@ void frmConfig::OfferExpiry() {
     leases_->cboExpireOption->setEnabled(ends);
 }
 
-void frmConfig::LookUpZip() {
-    const auto place = ZipLookup(FromScreen(general_->txtZip->text()));
-    if (!place) return;
-    if (general_->txtCity->text().isEmpty()) general_->txtCity->setText(ToScreen(place->city));
-    if (general_->txtState->text().isEmpty()) general_->txtState->setText(ToScreen(place->state));
-}
-
 void frmConfig::ShowProgram() {
     other_->txtDbVersion->setText(QString::number(App().DbVersionRequired));
     other_->txtUserName->setText(ToScreen(App().UserName));
     other_->txtSecAccess->setText(QString::number(App().SecurityLevel));
-}
-
-/// A click on an address goes there; one into a box that is being typed in only sets its caret.
-bool frmConfig::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) {
-        const auto* const box = qobject_cast<QLineEdit*>(watched);
-        const bool isLeft = static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
-        if (box && isLeft && !box->isModified()) OpenAddress(*box);
-    }
-    return RecordForm::eventFilter(watched, event);
-}
-
-void frmConfig::OpenAddress(const QLineEdit& box) {
-    const std::string address = FromScreen(box.text().trimmed());
-    if (address.empty()) return;
-    if (&box == general_->txtEmail) {
-        platform::TheDesktop().WriteMail(address);
-    } else {
-        platform::TheDesktop().OpenWebPage(address);
-    }
 }
 
 } // namespace core::screens

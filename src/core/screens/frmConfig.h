@@ -4,8 +4,6 @@
 
 #include "core/screens/RecordForm.h"
 
-class QLineEdit;
-
 namespace Ui {
 class frmConfig;
 class frmConfigGeneral;
@@ -34,15 +32,11 @@ class frmConfig : public RecordForm {
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
     void FillLists();
     void FillAccounts();
     void OfferExpiry();
-    void LookUpZip();
     void ShowProgram();
-    void OpenAddress(const QLineEdit& box);
 
     std::unique_ptr<Ui::frmConfig> ui_;
     std::unique_ptr<Ui::frmConfigGeneral> general_;
