@@ -1,74 +1,48 @@
 #include "books/PostTransaction.h"
 
+#include "books/RunTriggeredEvents.h"
+#include "books/TellLists.h"
+#include "books/TransactionListeners.h"
+#include "books/TransactionRow.h"
 #include "core/Globals.h"
-#include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "platform/database/Recordset.h"
 
 namespace books {
 
-using platform::Currency;
-using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
 
-void AddRow(Recordset& rows, std::int32_t id) {
-    rows.AddNew();
-    rows["IdTransaction"].Set(id);
-    rows["CreditExported"].Set(false);
-    rows["DebitExported"].Set(false);
-}
-
-void WriteFields(Recordset& rows, const Transaction& transaction) {
-    rows["DateEffective"].Set(transaction.dateEffective.ToText());
-    rows["DebitType"].Set(transaction.debit.type);
-    rows["DebitId"].Set(transaction.debit.id);
-    rows["DebitDesc"].Set(transaction.debit.description);
-    rows["CreditType"].Set(transaction.credit.type);
-    rows["CreditId"].Set(transaction.credit.id);
-    rows["CreditDesc"].Set(transaction.credit.description);
-    for (const auto* balance : {"DebitPrevBal", "DebitNewBal", "CreditPrevBal", "CreditNewBal"}) {
-        rows[balance].Set(Currency());
-    }
-    rows["CheckNum"].Set(transaction.checkNumber);
-    rows["Amount"].Set(transaction.amount);
-    rows["TaxCategory"].Set(transaction.taxCategory);
-    rows["IEN"].Set(static_cast<std::int16_t>(transaction.ien));
-    rows["Description"].Set(transaction.description);
-    rows["Class"].Set(transaction.transactionClass);
-    rows["Flags"].Set(transaction.flags);
+void WriteAllFields(Recordset& rows, const Transaction& transaction) {
+    WriteTransactionFields(rows, transaction);
     rows["Reconciled"].Set(false);
-    rows["IdTenant"].Set(transaction.idTenant);
-    rows["IdBuilding"].Set(transaction.idBuilding);
-    rows["IdUnit"].Set(transaction.idUnit);
-    rows["IdLease"].Set(transaction.idLease);
-    rows["IdMortgage"].Set(transaction.idMortgage);
-    rows["IdWorkOrder"].Set(transaction.idWorkOrder);
     rows["IdLedger"].Set(std::int32_t{0});
     rows["IdMileage"].Set(std::int32_t{0});
 }
 
 } // namespace
 
-std::int32_t PostTransaction(const Transaction& transaction) {
+std::int32_t PostTransaction(const Transaction& transaction, Triggers triggers) {
+    platform::UnitOfWork unit(core::App().Connection);
     Recordset rows;
-    rows.Open(core::App().Connection, "Transactions", CursorMode::AppendOnly);
+    rows.Open(core::App().Connection, "Transactions", platform::CursorMode::AppendOnly);
     const std::int32_t id = core::NextId();
-    AddRow(rows, id);
-    WriteFields(rows, transaction);
+    AddTransactionRow(rows, id);
+    WriteAllFields(rows, transaction);
+    if (triggers == Triggers::Fire) RunTriggeredEvents(transaction);
     rows.Update();
-    core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
+    TellTransactionListeners(id, transaction);
+    unit.Commit();
+    TellLists({core::kTransaction});
     return id;
 }
 
 void RewriteTransaction(std::int32_t id, const Transaction& transaction) {
     Recordset rows;
-    rows.Open(core::App().Connection, "SELECT * FROM Transactions WHERE IdTransaction = ?",
-              CursorMode::Updatable, {id});
-    if (rows.Eof()) AddRow(rows, id);
-    WriteFields(rows, transaction);
+    OpenTransactionRow(rows, id);
+    WriteAllFields(rows, transaction);
     rows.Update();
 }
 

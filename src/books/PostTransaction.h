@@ -42,10 +42,14 @@ struct Transaction {
     std::int32_t idWorkOrder = 0;
 };
 
-/// Adds a row to the transactions and tells the open lists: the one way that rows reach the table.
-/// The balance columns are always 0: what a party has is always added up from the rows. Answers the
-/// new row's id; failures are thrown.
-std::int32_t PostTransaction(const Transaction& transaction);
+/// Who starts the events that a new row triggers.
+enum class Triggers { Fire, Skip };
+
+/// Adds a row to the transactions: the one way that rows reach the table. Before the row is kept
+/// the events of its debit side run, then those of its credit side, and whoever asked to know is
+/// told; all of it is one unit of work. Open lists are told when it is kept, or by the routine
+/// whose unit of work it is a part of. Answers the new row's id; failures are thrown.
+std::int32_t PostTransaction(const Transaction& transaction, Triggers triggers = Triggers::Fire);
 
 /// Writes a posted row anew, or again under its id if it has gone; whether its sides were exported
 /// stays as it is. Nothing is triggered or told by it. Failures are thrown.

@@ -1,0 +1,73 @@
+#include <fmt/core.h>
+
+#include "books/AutoEvent.h"
+#include "books/PostTransaction.h"
+#include "books/Reading.h"
+#include "books/TellLists.h"
+#include "core/Descriptions.h"
+#include "core/Globals.h"
+#include "core/RecordHelpers.h"
+#include "core/RecordKinds.h"
+#include "platform/database/Recordset.h"
+#include "platform/system/Clock.h"
+
+namespace books {
+
+using platform::Date;
+using platform::Recordset;
+
+namespace {
+
+constexpr std::size_t kNameCharacters = 30;
+constexpr std::string_view kCheckNumber = "AutoEvent";
+
+Party PartyOf(Recordset& event, std::string_view typeField, std::string_view idField) {
+    const std::int16_t type = ShortOr0(event[typeField]);
+    const std::int32_t id = LongOr0(event[idField]);
+    return {type, id, core::GetDescription(type, id, kNameCharacters)};
+}
+
+Transaction PostingOf(Recordset& event, Date date) {
+    return {.dateEffective = date,
+            .debit = PartyOf(event, "DebitType", "DebitId"),
+            .credit = PartyOf(event, "CreditType", "CreditId"),
+            .amount = MoneyOr0(event["Amount"]),
+            .taxCategory = TextOf(event["TaxCategory"]),
+            .ien = Ien{ShortOr0(event["IEN"])},
+            .checkNumber = std::string(kCheckNumber),
+            .description = TextOf(event["Description"]),
+            .idTenant = LongOr0(event["IdTenant"]),
+            .idBuilding = LongOr0(event["IdBuilding"]),
+            .idUnit = LongOr0(event["IdUnit"]),
+            .idLease = LongOr0(event["IdLease"]),
+            .idMortgage = LongOr0(event["IdMortgage"]),
+            .idWorkOrder = LongOr0(event["IdWorkOrder"])};
+}
+
+} // namespace
+
+void RunAutoEvent(std::int32_t idAutoEvent, Date date) {
+    if (!date.IsSet()) date = platform::Today();
+    Recordset event;
+    event.Open(core::App().Connection, "SELECT * FROM AutoEvent WHERE IdAutoEvent = ?",
+               platform::CursorMode::ReadOnly, {idAutoEvent});
+    if (event.Eof()) return;
+
+    platform::UnitOfWork unit(core::App().Connection);
+    const bool posts =
+        EventAction{ShortOr0(event["EventAction"])} == EventAction::ProcessTransaction;
+    if (posts) PostTransaction(PostingOf(event, date), Triggers::Skip);
+    if (BooleanOf(event["Alert"])) {
+        core::AddAlert(fmt::format("Auto Event Launched: {} [{}]", TextOf(event["Description"]),
+                                   date.ToText()),
+                       date);
+    }
+    // By number, not by row: events of one number (an import can bring them) move on together.
+    core::App().Connection.Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
+                                   {date.ToText(), idAutoEvent});
+    unit.Commit();
+    if (posts) TellLists({core::kTransaction});
+    TellLists({core::kAutoEvent});
+}
+
+} // namespace books

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+
+#include "books/PostTransaction.h"
+
+namespace books {
+
+/// Runs the enabled events that wait for a transaction with this party and category, in the order
+/// of the table, each dated today and each whole or not at all. An event that fails is told on the
+/// home page and taken back; the others run.
+void RunTriggeredEvents(const Party& party, std::string_view taxCategory);
+
+/// Those of a new transaction: of its debit side, then of its credit side.
+void RunTriggeredEvents(const Transaction& transaction);
+
+} // namespace books

@@ -1,0 +1,110 @@
+#include "books/ScheduledEvents.h"
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "books/AutoEvent.h"
+#include "books/EventSchedule.h"
+#include "books/Reading.h"
+#include "books/TellLists.h"
+#include "core/Globals.h"
+#include "core/MessagePump.h"
+#include "core/RecordKinds.h"
+#include "platform/database/Recordset.h"
+#include "platform/system/Clock.h"
+
+namespace books {
+
+using platform::Date;
+using platform::Recordset;
+using platform::UnitOfWork;
+
+namespace {
+
+/// What became of one event in a pass; told once the pass is kept.
+struct EventOutcome {
+    std::int32_t id = 0;
+    std::string description;
+    std::string fault;
+    std::optional<core::PostedRow> posted;
+    std::string category;
+};
+
+EventSchedule ScheduleOf(Recordset& event) {
+    return {IntervalType{ShortOr0(event["IntervalType"])}, ShortOr0(event["IntervalPeriod"]),
+            event["LastRun"].IsBlank() ? Date() : event["LastRun"].AsDate()};
+}
+
+std::string DescriptionOf(Recordset& event) {
+    const std::string description = TextOf(event["Description"]);
+    return description.empty() ? "event " + std::to_string(event["IdAutoEvent"].AsLong())
+                               : description;
+}
+
+/// Nothing when the event isn't due.
+std::optional<EventOutcome> RunIfDue(Recordset& event) {
+    const std::optional<Date> due = DueRun(ScheduleOf(event), platform::Today());
+    if (!due) return std::nullopt;
+    EventOutcome outcome;
+    outcome.id = event["IdAutoEvent"].AsLong();
+    outcome.description = DescriptionOf(event);
+    outcome.category = TextOf(event["TaxCategory"]);
+    RunAutoEvent(outcome.id, *due);
+    if (EventAction{ShortOr0(event["EventAction"])} == EventAction::ProcessTransaction) {
+        outcome.posted = {*due, {}, MoneyOr0(event["Amount"])};
+    }
+    return outcome;
+}
+
+void Tell(core::RunListener& listener, const std::vector<EventOutcome>& outcomes) {
+    for (const EventOutcome& outcome : outcomes) {
+        if (!outcome.fault.empty()) {
+            listener.Failed(core::kAutoEvent, outcome.id, outcome.description, outcome.fault);
+        }
+        if (!outcome.posted) continue;
+        core::PostedRow row = *outcome.posted;
+        row.category = outcome.category;
+        listener.Posted(core::kAutoEvent, outcome.id, outcome.description, {row});
+    }
+}
+
+} // namespace
+
+bool ScheduledEvents::RunScheduledEvents() {
+    Recordset events;
+    events.Open(core::App().Connection,
+                "SELECT * FROM AutoEvent WHERE EventType = 1 AND Enabled = True");
+    std::vector<EventOutcome> outcomes;
+    bool ran = false;
+    UnitOfWork pass(core::App().Connection);
+    for (; !events.Eof(); events.MoveNext()) {
+        const std::int32_t id = LongOr0(events["IdAutoEvent"]);
+        if (passedOver_.contains(id)) continue;
+        try {
+            if (auto outcome = RunIfDue(events)) {
+                ran = true;
+                outcomes.push_back(std::move(*outcome));
+            }
+        } catch (const platform::Error& error) {
+            passedOver_.insert(id);
+            EventOutcome& outcome = outcomes.emplace_back();
+            outcome.id = id;
+            outcome.description = DescriptionOf(events);
+            outcome.fault = error.what();
+        }
+    }
+    pass.Commit();
+    if (ran) TellLists({core::kTransaction, core::kAutoEvent});
+    Tell(listener_, outcomes);
+    return ran;
+}
+
+void RunDueEvents(core::RunListener& listener) {
+    ScheduledEvents events(listener);
+    while (events.RunScheduledEvents())
+        core::LetMessagesRun();
+}
+
+} // namespace books

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "books/PostTransaction.h"
+#include "core/RecordKinds.h"
+#include "core/RecordsFixture.h"
+#include "platform/database/Recordset.h"
+#include "platform/system/Clock.h"
+
+namespace tests {
+
+/// Books with a few records, on 05/17/2024.
+class BooksTest : public CoreRecords {
+  protected:
+    /// A payment of 950.00 from John Smith to the River Bank.
+    static books::Transaction Payment() {
+        return {.dateEffective = platform::Date(2024, 5, 1),
+                .debit = {core::kTenant, 30, "Smith, John Q"},
+                .credit = {core::kAccount, 60, "River Bank"},
+                .amount = platform::Currency::FromUnits(950),
+                .taxCategory = "Rent Payment",
+                .ien = books::Ien::Income,
+                .checkNumber = "17",
+                .description = "May",
+                .transactionClass = 0,
+                .flags = 0,
+                .idTenant = 30,
+                .idBuilding = 10,
+                .idUnit = 20,
+                .idLease = 40,
+                .idMortgage = 0,
+                .idWorkOrder = 0};
+    }
+
+    /// An enabled event that posts 25.00 from the River Bank to Jo Owner; `fields` and `values`
+    /// name what it has besides.
+    static void AddEvent(int id, std::string_view fields, std::string_view values) {
+        Run("INSERT INTO AutoEvent (IdAutoEvent, Description, Enabled, Alert, EventAction, "
+            "DebitType, DebitId, CreditType, CreditId, Amount, TaxCategory, IEN, " +
+            std::string(fields) + ") VALUES (" + std::to_string(id) + ", 'Event " +
+            std::to_string(id) + "', True, False, 1, 1, 60, 1, 62, 25, 'Supplies', 1, " +
+            std::string(values) + ")");
+    }
+
+    static void AddScheduled(int id, int intervalType, int period, std::string_view lastRun) {
+        AddEvent(id, "EventType, IntervalType, IntervalPeriod, LastRun",
+                 "1, " + std::to_string(intervalType) + ", " + std::to_string(period) + ", " +
+                     (lastRun == "NULL" ? "NULL" : "'" + std::string(lastRun) + "'"));
+    }
+
+    static void AddTriggered(int id, int type, int party, std::string_view category) {
+        AddEvent(id, "EventType, TriggerType, TriggerID, TriggerTaxCategory",
+                 "2, " + std::to_string(type) + ", " + std::to_string(party) + ", " +
+                     (category == "NULL" ? "NULL" : "'" + std::string(category) + "'"));
+    }
+
+    /// The rows that a select finds, cells parted by "|", each row ended by ";".
+    static std::string Rows(std::string_view sql) {
+        platform::Recordset rows;
+        rows.Open(core::App().Connection, sql);
+        std::string text;
+        for (; !rows.Eof(); rows.MoveNext()) {
+            for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
+                if (i > 0) text += '|';
+                text += rows[i].IsNull() ? "NULL" : rows[i].AsText();
+            }
+            text += ';';
+        }
+        return text;
+    }
+};
+
+} // namespace tests
