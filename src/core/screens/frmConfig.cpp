@@ -1,11 +1,10 @@
 #include "core/screens/frmConfig.h"
 
-#include <QPushButton>
-
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/screens/AddressBox.h"
 #include "core/screens/ComboList.h"
+#include "core/screens/TabPages.h"
 #include "platform/qt/Text.h"
 #include "ui_frmConfig.h"
 #include "ui_frmConfigAnalysis.h"
@@ -30,12 +29,7 @@ frmConfig::frmConfig(QWidget* parent)
     leases_->setupUi(ui_->tabLeases);
     other_->setupUi(ui_->tabOther);
     Wire();
-    // The buttons were made before what stands on the tabs.
-    QWidget* last = other_->txtSecAccess;
-    for (auto* const button : ui_->cmdAction->findChildren<QPushButton*>()) {
-        setTabOrder(last, button);
-        last = button;
-    }
+    PutLastInTabOrder(*this, *ui_->cmdAction);
     FillPlaceByZip(*general_->txtZip, {general_->txtCity, general_->txtState});
     connect(leases_->cboTermType, &QComboBox::currentTextChanged, this, &frmConfig::OfferExpiry);
     OpenOnClick(*general_->txtEmail, AddressKind::Mail);

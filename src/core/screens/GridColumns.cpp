@@ -1,0 +1,22 @@
+#include "core/screens/GridColumns.h"
+
+#include "core/Preferences.h"
+#include "core/screens/Grid.h"
+
+namespace core::screens {
+
+void SizeColumns(Grid& grid, int firstColumn) {
+    if (grid.Model().columnCount() == 0) return;
+    for (int column = 0; column < firstColumn; ++column)
+        grid.setColumnHidden(column, true);
+    const auto sizing = static_cast<Sizing>(Preferences().AutoSize);
+    if (sizing == Sizing::Manual) {
+        // What was never set by hand starts from the texts.
+        AutoSizeGrid(grid, firstColumn, Sizing::FitText);
+        LoadColumnWidths(grid);
+    } else {
+        AutoSizeGrid(grid, firstColumn, sizing);
+    }
+}
+
+} // namespace core::screens
