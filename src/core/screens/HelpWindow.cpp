@@ -17,7 +17,7 @@ namespace {
 /// Beside the program's files, or beside the program where that can't be written.
 QString FindHelpFile() {
     const QString name = QStringLiteral("Vestrel.qch");
-    const QString besideFiles = platform::qt::ToScreen(App().AppPath) + name;
+    QString besideFiles = platform::qt::ToScreen(App().AppPath) + name;
     if (QFile::exists(besideFiles)) return besideFiles;
     const auto program = platform::ExecutablePath().parent_path();
     return platform::qt::ToScreen(platform::AddBackslash(program.string())) + name;

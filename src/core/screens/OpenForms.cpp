@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <algorithm>
+#include <ranges>
 #include <vector>
 
 #include "core/EditRecord.h"
@@ -46,9 +47,9 @@ bool MayCloseAllForms() {
 void CloseAllForms() {
     // What closes may close others, so each is looked at again when its turn comes.
     const std::vector<QPointer<Form>> forms = Forms();
-    for (auto form = forms.rbegin(); form != forms.rend(); ++form) {
-        if (!*form) continue;
-        (*form)->CloseUnasked();
+    for (const QPointer<Form>& form : forms | std::views::reverse) {
+        if (!form) continue;
+        form->CloseUnasked();
         LetMessagesRun();
     }
 }
