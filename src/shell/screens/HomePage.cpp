@@ -6,11 +6,11 @@
 
 #include <fmt/core.h>
 
+#include "alerts/screens/Alerts.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Paths.h"
-#include "shell/screens/PlainAlerts.h"
 #include "shell/screens/frmPosted.h"
 
 namespace shell::screens {
@@ -25,7 +25,8 @@ std::filesystem::path RescueFile() {
 } // namespace
 
 HomePage::HomePage(QWidget* parent)
-    : QWidget(parent), posted_(new QToolButton(this)), alerts_(new PlainAlerts(this)) {
+    : QWidget(parent), posted_(new QToolButton(this)), alerts_(new alerts::screens::Alerts(this)) {
+    alerts_->setObjectName(QStringLiteral("ucAlerts"));
     posted_->setObjectName(QStringLiteral("btnPosted"));
     posted_->setIcon(platform::qt::LoadIcon(QStringLiteral("calendar")));
     posted_->setToolTip(tr("Shows the rows that were posted while you were away"));
@@ -39,6 +40,11 @@ HomePage::HomePage(QWidget* parent)
     connect(posted_, &QToolButton::clicked, this, [this] {
         if (digest_ != nullptr) (new frmPosted)->Setup(*digest_);
     });
+}
+
+void HomePage::BindWizards(QAction& lease, QAction& mortgage) {
+    alerts_->BindItem(QStringLiteral("WIZ_LEASE"), lease);
+    alerts_->BindItem(QStringLiteral("WIZ_MORTGAGE"), mortgage);
 }
 
 void HomePage::Refresh() {

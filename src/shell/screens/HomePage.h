@@ -4,11 +4,14 @@
 
 #include "shell/RunDigest.h"
 
+class QAction;
 class QToolButton;
 
-namespace shell::screens {
+namespace alerts::screens {
+class Alerts;
+}
 
-class PlainAlerts;
+namespace shell::screens {
 
 /// The page that the program opens on: what needs attention, and above it one line of what the
 /// bring-up-to-date run posted, if it posted anything.
@@ -18,6 +21,8 @@ class HomePage : public QWidget {
   public:
     explicit HomePage(QWidget* parent = nullptr);
 
+    /// The page's side menu offers the two wizards as these actions do.
+    void BindWizards(QAction& lease, QAction& mortgage);
     /// Works out anew what needs attention.
     void Refresh();
     /// Writes the notes; asks whether to go on without them when they can't be written.
@@ -30,7 +35,7 @@ class HomePage : public QWidget {
 
   private:
     QToolButton* posted_;
-    PlainAlerts* alerts_;
+    alerts::screens::Alerts* alerts_;
     const RunDigest* digest_ = nullptr;
 };
 

@@ -60,7 +60,8 @@ frmKestrom::~frmKestrom() = default;
 
 void frmKestrom::SetUpPages() {
     home_ = new HomePage(this);
-    home_->setObjectName(QStringLiteral("ucAlerts"));
+    home_->setObjectName(QStringLiteral("homePage"));
+    home_->BindWizards(*ui_->mnuLeaseWizard, *ui_->mnuMortgageWizard);
     view_ = new ViewPanel(this);
     ui_->pages->addWidget(home_);
     ui_->pages->addWidget(view_);
