@@ -33,13 +33,6 @@ void Insert(std::int32_t idRentLog, const RentLogEntry& entry) {
                        Code(entry.flags)});
 }
 
-bool Rewrite(std::int32_t idRentLog, const RentLogEntry& entry) {
-    return core::App().Connection.Execute(
-               kUpdateEntry, {entry.idLease, entry.idTransaction, entry.datePosted.ToText(),
-                              Code(entry.rentClass), entry.category, entry.amount,
-                              entry.description, Code(entry.flags), idRentLog}) > 0;
-}
-
 void CopyFields(Recordset& from, Recordset& to) {
     for (std::size_t i = 0; i < from.FieldCount(); ++i) {
         const Value value = from[i].Value();
@@ -49,9 +42,16 @@ void CopyFields(Recordset& from, Recordset& to) {
 
 } // namespace
 
+bool RewriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
+    return core::App().Connection.Execute(
+               kUpdateEntry, {entry.idLease, entry.idTransaction, entry.datePosted.ToText(),
+                              Code(entry.rentClass), entry.category, entry.amount,
+                              entry.description, Code(entry.flags), idRentLog}) > 0;
+}
+
 std::int32_t WriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
     if (entry.amount.IsZero()) return idRentLog;
-    if (idRentLog != 0 && Rewrite(idRentLog, entry)) return idRentLog;
+    if (idRentLog != 0 && RewriteRentLog(entry, idRentLog)) return idRentLog;
     const std::int32_t id = core::NextId();
     Insert(id, entry);
     return id;

@@ -30,6 +30,9 @@ struct RentLogEntry {
 /// An amount of zero writes nothing and answers `idRentLog` as it came. Failures are thrown.
 std::int32_t WriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog = 0);
 
+/// Writes all fields of the row `idRentLog`, whatever the amount; false when it has gone.
+bool RewriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog);
+
 /// Adds the charges of a walk to the ledger of a lease, in their order. Failures are thrown.
 void WriteCharges(std::int32_t idLease, std::span<const Charge> charges);
 

@@ -1,12 +1,11 @@
 #include "leases/RentPayment.h"
 
-#include "books/PostTransaction.h"
+#include <algorithm>
+#include <tuple>
+
 #include "core/Descriptions.h"
 #include "core/Globals.h"
-#include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "leases/RentLog.h"
-#include "leases/mLease.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
@@ -18,72 +17,77 @@ using platform::Recordset;
 
 namespace {
 
-struct ClassWords {
-    std::string_view payment;
-    std::string_view descriptionStart;
-};
-
-ClassWords WordsOf(RentClass rentClass) {
+std::string_view DescriptionStart(RentClass rentClass) {
     switch (rentClass) {
         case RentClass::Subsidy:
-            return {"Rent Subsidy Payment", "Rent Subsidy Payment for "};
+            return "Rent Subsidy Payment for ";
         case RentClass::Deposit:
-            return {"Deposit Payment", "Deposit Payment for "};
+            return "Deposit Payment for ";
         case RentClass::Rent:
         case RentClass::OptionCredit:
             break;
     }
-    return {"Rent Payment", "Rent Payment for "};
-}
-
-std::vector<PaymentCharge> OpenCharges(std::int32_t idLease, RentClass rentClass) {
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT IdRentLog, DatePosted, Amount, Flags FROM RentLog "
-              "WHERE (IdLease = ?) AND (Class = ?) AND (IdTransaction = 0) AND (Flags <> 2)",
-              CursorMode::ReadOnly, {idLease, static_cast<std::int16_t>(rentClass)});
-    std::vector<PaymentCharge> charges;
-    for (; !rows.Eof(); rows.MoveNext()) {
-        charges.push_back({.idRentLog = rows["IdRentLog"].AsLong(),
-                           .datePosted = rows["DatePosted"].AsDate(),
-                           .amount = rows["Amount"].AsCurrency(),
-                           .flags = RentFlags{rows["Flags"].AsInteger()}});
-    }
-    return charges;
+    return "Rent Payment for ";
 }
 
 std::string NameOf(std::int16_t kind, std::int32_t id) {
     return core::GetDescription(kind, id, 0, false);
 }
 
-books::Transaction TransactionOf(const RentPayment& payment) {
-    const LeaseLinks links = GetLeaseLinks(payment.idLease);
-    return {.dateEffective = payment.dateEffective,
-            .debit = {payment.fromType, payment.fromId, payment.fromName},
-            .credit = {core::kAccount, payment.toAccount, payment.toName},
-            .amount = payment.Total(),
-            .taxCategory = payment.paymentWord,
-            .ien = payment.rentClass == RentClass::Deposit ? books::Ien::Unclassified
-                                                           : books::Ien::Income,
-            .checkNumber = payment.checkNumber,
-            .description = payment.description,
-            .transactionClass = static_cast<std::int16_t>(payment.rentClass),
-            // The payer's id stands here even where the payer is an account.
-            .idTenant = payment.fromId,
-            .idBuilding = links.idBuilding,
-            .idUnit = links.idUnit,
-            .idLease = payment.idLease};
+std::string TextOf(const platform::Field& field) {
+    return field.IsNull() ? std::string() : field.AsText();
 }
 
-void SettleCharges(const RentPayment& payment, std::int32_t idTransaction) {
-    for (const PaymentCharge& charge : payment.charges) {
-        core::App().Connection.Execute("UPDATE RentLog SET IdTransaction = ? WHERE IdRentLog = ?",
-                                       {charge.selected ? idTransaction : 0, charge.idRentLog});
-        const bool isPeriodRent = (static_cast<int>(charge.flags) & 1) != 0;
-        if (charge.selected && payment.rentClass == RentClass::Rent && isPeriodRent) {
-            AdvanceNextDue(payment.idLease, OptionCredit::Add, Broadcast::No);
+std::int32_t IdOf(const platform::Field& field) {
+    return field.IsNull() ? 0 : field.AsLong();
+}
+
+void AddRows(RentPayment& payment, Recordset& rows, bool selected) {
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const auto flags =
+            RentFlags{rows["Flags"].IsNull() ? std::int16_t{0} : rows["Flags"].AsInteger()};
+        if (flags == RentFlags::Payment) {
+            if (payment.idTransaction != 0 && selected)
+                payment.idPaymentRow = rows["IdRentLog"].AsLong();
+            continue;
         }
+        payment.charges.push_back(
+            {.idRentLog = rows["IdRentLog"].AsLong(),
+             .datePosted =
+                 rows["DatePosted"].IsBlank() ? platform::Date() : rows["DatePosted"].AsDate(),
+             .category = TextOf(rows["Category"]),
+             .amount = rows["Amount"].IsNull() ? Currency() : rows["Amount"].AsCurrency(),
+             .description = TextOf(rows["Description"]),
+             .flags = flags,
+             .selected = selected});
     }
+}
+
+void AddOpenRows(RentPayment& payment, bool selected) {
+    Recordset rows;
+    rows.Open(core::App().Connection,
+              "SELECT * FROM RentLog WHERE (IdLease = ?) AND (Class = ?) AND (IdTransaction = 0)",
+              CursorMode::ReadOnly,
+              {payment.idLease, static_cast<std::int16_t>(payment.rentClass)});
+    AddRows(payment, rows, selected);
+}
+
+void AddOwnRows(RentPayment& payment) {
+    Recordset rows;
+    rows.Open(core::App().Connection, "SELECT * FROM RentLog WHERE IdTransaction = ?",
+              CursorMode::ReadOnly, {payment.idTransaction});
+    AddRows(payment, rows, true);
+}
+
+/// A subsidy's payor is an account or a tenant; a lease that names neither is paid by its tenant.
+void SetPayer(RentPayment& payment, Recordset& lease) {
+    const auto kind = static_cast<std::int16_t>(IdOf(lease["SubsidyType"]));
+    const bool byPayor = payment.rentClass == RentClass::Subsidy &&
+                         (kind == core::kAccount || kind == core::kTenant) &&
+                         !lease["SubsidyId"].IsNull();
+    payment.fromType = byPayor ? kind : core::kTenant;
+    payment.fromId = IdOf(lease[byPayor ? "SubsidyId" : "IdTenant"]);
+    payment.fromName = NameOf(payment.fromType, payment.fromId);
 }
 
 } // namespace
@@ -96,6 +100,30 @@ Currency RentPayment::Total() const {
     return total;
 }
 
+std::vector<std::string> PaymentWords(RentClass rentClass) {
+    switch (rentClass) {
+        case RentClass::Subsidy:
+            return {"Rent Subsidy Payment"};
+        case RentClass::Deposit:
+            return {"Deposit Payment"};
+        case RentClass::Rent:
+        case RentClass::OptionCredit:
+            break;
+    }
+    return {"Rent Payment", "Partial Rent Payment"};
+}
+
+bool IsPeriodRent(RentFlags flags) {
+    return (static_cast<int>(flags) & static_cast<int>(RentFlags::PeriodRent)) != 0;
+}
+
+int PeriodsPaid(const RentPayment& payment) {
+    if (payment.idTransaction != 0 || payment.rentClass != RentClass::Rent) return 0;
+    return static_cast<int>(std::ranges::count_if(payment.charges, [](const PaymentCharge& charge) {
+        return charge.selected && IsPeriodRent(charge.flags);
+    }));
+}
+
 RentPayment ProposePayment(std::int32_t idLease, RentClass rentClass) {
     Recordset lease;
     lease.Open(core::App().Connection,
@@ -104,50 +132,51 @@ RentPayment ProposePayment(std::int32_t idLease, RentClass rentClass) {
     if (lease.Eof()) {
         throw platform::DatabaseError("There is no lease " + std::to_string(idLease));
     }
-    const ClassWords words = WordsOf(rentClass);
     RentPayment payment;
     payment.idLease = idLease;
     payment.rentClass = rentClass;
     payment.dateEffective = platform::Today();
-    payment.fromType = core::kTenant;
-    payment.fromId = lease["IdTenant"].AsLong();
-    const bool bySubsidy = rentClass == RentClass::Subsidy && !lease["SubsidyType"].IsNull() &&
-                           !lease["SubsidyId"].IsNull();
-    if (bySubsidy) {
-        payment.fromType = lease["SubsidyType"].AsInteger();
-        payment.fromId = lease["SubsidyId"].AsLong();
-    }
-    payment.fromName = NameOf(payment.fromType, payment.fromId);
-    if (!lease["RentAccount"].IsNull()) payment.toAccount = lease["RentAccount"].AsLong();
+    SetPayer(payment, lease);
+    payment.toAccount = IdOf(lease["RentAccount"]);
     payment.toName = NameOf(core::kAccount, payment.toAccount);
-    payment.paymentWord = words.payment;
-    payment.description = std::string(words.descriptionStart) + NameOf(core::kLease, idLease);
-    payment.charges = OpenCharges(idLease, rentClass);
+    payment.paymentWord = PaymentWords(rentClass).front();
+    payment.description = std::string(DescriptionStart(rentClass)) + NameOf(core::kLease, idLease);
+    ReadCharges(payment);
     return payment;
 }
 
-std::int32_t SubmitPayment(const RentPayment& payment) {
-    platform::UnitOfWork unit(core::App().Connection);
-    const std::int32_t idTransaction = books::PostTransaction(TransactionOf(payment));
-    if (payment.rentClass == RentClass::Rent || payment.rentClass == RentClass::Subsidy) {
-        core::App().Connection.Execute("UPDATE Lease SET RentAccount = ? WHERE IdLease = ?",
-                                       {payment.toAccount, payment.idLease});
+RentPayment ReadPayment(std::int32_t idTransaction) {
+    Recordset row;
+    row.Open(core::App().Connection, "SELECT * FROM Transactions WHERE (IdTransaction = ?)",
+             CursorMode::ReadOnly, {idTransaction});
+    if (row.Eof()) {
+        throw platform::DatabaseError("There is no transaction " + std::to_string(idTransaction));
     }
-    WriteRentLog({.idLease = payment.idLease,
-                  .idTransaction = idTransaction,
-                  .datePosted = payment.dateEffective,
-                  .rentClass = payment.rentClass,
-                  .category = payment.paymentWord,
-                  .amount = -payment.Total(),
-                  .description = payment.paymentWord,
-                  .flags = RentFlags::Payment});
-    SettleCharges(payment, idTransaction);
-    UpdateLeaseById(payment.idLease, WalkMode::CatchUp);
-    unit.Commit();
-    core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
-    core::NotifyAll(core::kLease, core::kRecordsChanged, payment.idLease);
-    core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);
-    return idTransaction;
+    RentPayment payment;
+    payment.idTransaction = idTransaction;
+    payment.idLease = IdOf(row["IdLease"]);
+    payment.rentClass = RentClass{static_cast<std::int16_t>(IdOf(row["Class"]))};
+    if (!row["DateEffective"].IsBlank()) payment.dateEffective = row["DateEffective"].AsDate();
+    payment.fromType = static_cast<std::int16_t>(IdOf(row["DebitType"]));
+    payment.fromId = IdOf(row["DebitId"]);
+    payment.fromName = TextOf(row["DebitDesc"]);
+    payment.toAccount = IdOf(row["CreditId"]);
+    payment.toName = TextOf(row["CreditDesc"]);
+    payment.checkNumber = TextOf(row["CheckNum"]);
+    payment.paymentWord = TextOf(row["TaxCategory"]);
+    payment.description = TextOf(row["Description"]);
+    ReadCharges(payment);
+    return payment;
+}
+
+void ReadCharges(RentPayment& payment, OpenCharges open) {
+    payment.charges.clear();
+    const bool isNew = payment.idTransaction == 0;
+    if (!isNew) AddOwnRows(payment);
+    if (isNew || open == OpenCharges::Offer) AddOpenRows(payment, isNew);
+    std::ranges::sort(payment.charges, [](const PaymentCharge& a, const PaymentCharge& b) {
+        return std::tie(a.datePosted, a.idRentLog) < std::tie(b.datePosted, b.idRentLog);
+    });
 }
 
 } // namespace leases

@@ -8,6 +8,7 @@
 #include "core/DailyRun.h"
 #include "core/Globals.h"
 #include "leases/LeaseRun.h"
+#include "leases/RentPayment.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 #include "store/CreateDatabase.h"
@@ -118,11 +119,14 @@ std::vector<std::string> Dump(std::string_view statement) {
     return lines;
 }
 
+enum class Payments { No, Yes };
+
 struct Books {
     std::vector<std::string> leases;
     std::vector<std::string> units;
     std::vector<std::string> tenants;
     std::vector<std::string> ledger;
+    std::vector<std::string> transactions;
 };
 
 /// The books without the one-time fees: those of later unpaid periods are charged in a long run
@@ -135,20 +139,64 @@ Books ReadBooks() {
              "FROM Lease AS L ORDER BY L.IdLease"),
         Dump("SELECT IdUnit, Status FROM Unit ORDER BY IdUnit"),
         Dump("SELECT IdTenant, Status FROM Tenant ORDER BY IdTenant"),
-        Dump("SELECT IdLease, DatePosted, Class, Flags, Category, Amount, Description FROM RentLog "
+        Dump("SELECT IdLease, DatePosted, Class, Flags, Category, Amount, Description, "
+             "IIf(IdTransaction = 0, 'open', 'paid') FROM RentLog "
              "WHERE Amount <> 77 ORDER BY IdLease, DateValue(DatePosted), IdRentLog"),
+        Dump("SELECT IdLease, DateEffective, Class, Amount, DebitId, CreditId FROM Transactions "
+             "ORDER BY IdTransaction"),
     };
 }
 
-Books LiveFrom(std::uint64_t seed, int daysAStep) {
+/// Days on which tenants pay, the same for every way to live through them.
+std::vector<Date> PayDays(Random& random) {
+    std::vector<Date> days;
+    for (Date day = kFirstDay;;) {
+        day = DateAdd(Interval::Day, 1 + random.Below(45), day);
+        if (day >= kLastDay) break;
+        days.push_back(day);
+    }
+    days.push_back(kLastDay);
+    return days;
+}
+
+/// Some leases pay some of what is open. One-time fees stay open, since the ways to live through
+/// the days differ in them.
+void PayAtRandom(Random& random) {
+    for (std::int32_t id = 1; id <= kLeases; ++id) {
+        const auto rentClass = leases::RentClass{static_cast<std::int16_t>(1 + random.Below(2))};
+        const int one_in = 1 + random.Below(4);
+        if (random.Below(3) == 0) continue;
+        leases::RentPayment payment = leases::ProposePayment(id, rentClass);
+        int place = 0;
+        for (leases::PaymentCharge& charge : payment.charges) {
+            const bool isOneTime = charge.amount == Currency::FromUnits(77);
+            charge.selected = !isOneTime && place % one_in == 0;
+            if (!isOneTime) ++place;
+        }
+        leases::SubmitPayment(payment);
+    }
+}
+
+Books LiveFrom(std::uint64_t seed, int daysAStep, Payments payments) {
     const support::TemporaryFolder folder;
     MakePortfolio(folder.Path() / "db", seed);
     NobodyListens listener;
-    for (Date day = kFirstDay; day < kLastDay;) {
-        day = std::min(kLastDay, DateAdd(Interval::Day, daysAStep, day));
-        platform::SetToday(day);
-        leases::UpdateLeases(listener);
+    Random random(seed + 1);
+    Date day = kFirstDay;
+    const auto live = [&](Date until) {
+        while (day < until) {
+            day = std::min(until, DateAdd(Interval::Day, daysAStep, day));
+            platform::SetToday(day);
+            leases::UpdateLeases(listener);
+        }
+    };
+    if (payments == Payments::Yes) {
+        for (const Date payDay : PayDays(random)) {
+            live(payDay);
+            PayAtRandom(random);
+        }
     }
+    live(kLastDay);
     Books books = ReadBooks();
     core::App().Connection.Close();
     return books;
@@ -156,17 +204,55 @@ Books LiveFrom(std::uint64_t seed, int daysAStep) {
 
 class CatchUp : public testing::TestWithParam<std::uint64_t> {};
 
+void ExpectSame(const Books& late, const Books& daily) {
+    EXPECT_EQ(late.leases, daily.leases);
+    EXPECT_EQ(late.units, daily.units);
+    EXPECT_EQ(late.tenants, daily.tenants);
+    EXPECT_EQ(late.ledger, daily.ledger);
+    EXPECT_EQ(late.transactions, daily.transactions);
+}
+
 TEST_P(CatchUp, PostsWhatDailyRunsWouldHavePosted) {
-    const Books daily = LiveFrom(GetParam(), 1);
+    const Books daily = LiveFrom(GetParam(), 1, Payments::No);
     ASSERT_GT(daily.ledger.size(), 500U);
     for (const int daysAStep : {1000, 97}) {
         SCOPED_TRACE(daysAStep);
-        const Books late = LiveFrom(GetParam(), daysAStep);
-        EXPECT_EQ(late.leases, daily.leases);
-        EXPECT_EQ(late.units, daily.units);
-        EXPECT_EQ(late.tenants, daily.tenants);
-        EXPECT_EQ(late.ledger, daily.ledger);
+        ExpectSame(LiveFrom(GetParam(), daysAStep, Payments::No), daily);
     }
+}
+
+TEST_P(CatchUp, PostsTheSameBetweenPayments) {
+    const Books daily = LiveFrom(GetParam(), 1, Payments::Yes);
+    ASSERT_GT(daily.transactions.size(), 100U);
+    for (const int daysAStep : {1000, 7}) {
+        SCOPED_TRACE(daysAStep);
+        ExpectSame(LiveFrom(GetParam(), daysAStep, Payments::Yes), daily);
+    }
+}
+
+/// What the ledger says, against what the lease and its transactions say.
+TEST_P(CatchUp, EveryPaymentBalances) {
+    const support::TemporaryFolder folder;
+    MakePortfolio(folder.Path() / "db", GetParam());
+    NobodyListens listener;
+    Random random(GetParam() + 2);
+    for (const Date payDay : PayDays(random)) {
+        platform::SetToday(payDay);
+        leases::UpdateLeases(listener);
+        PayAtRandom(random);
+    }
+    EXPECT_EQ(Dump("SELECT IdTransaction, Sum(Amount) FROM RentLog WHERE IdTransaction <> 0 "
+                   "GROUP BY IdTransaction HAVING Sum(Amount) <> 0"),
+              std::vector<std::string>());
+    EXPECT_EQ(Dump("SELECT T.IdTransaction FROM Transactions AS T WHERE T.Amount <> "
+                   "Nz((SELECT -1 * Sum(Amount) FROM RentLog WHERE Flags = 2 "
+                   "AND IdTransaction = T.IdTransaction), 0)"),
+              std::vector<std::string>());
+    EXPECT_EQ(Dump("SELECT L.IdLease FROM Lease AS L WHERE L.RentDue <> Nz((SELECT Sum(Amount) "
+                   "FROM RentLog WHERE IdLease = L.IdLease AND Class = 1 AND IdTransaction = 0), "
+                   "0)"),
+              std::vector<std::string>());
+    core::App().Connection.Close();
 }
 
 INSTANTIATE_TEST_SUITE_P(Portfolios, CatchUp, testing::Values(1U, 20241U, 977U));

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/database/DatabaseFile.h"
+#include "platform/database/StatementProbe.h"
 #include "platform/database/dialect/RuntimeFunctions.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Text.h"
@@ -21,6 +22,11 @@ constexpr std::size_t kStatementsKept = 200;
 constexpr const char* kReadSchema =
     "SELECT m.name, c.name, c.type FROM sqlite_master m JOIN pragma_table_info(m.name) c "
     "WHERE m.type = 'table' AND m.name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY m.rowid, c.cid";
+
+std::function<void()>& Probe() {
+    static std::function<void()> probe;
+    return probe;
+}
 
 bool IsNameLetter(char c) {
     const bool letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -56,6 +62,10 @@ void BindValue(PreparedStatement& statement, int index, const Value& value, Fiel
 }
 
 } // namespace
+
+void SetStatementProbe(std::function<void()> probe) {
+    Probe() = std::move(probe);
+}
 
 DatabaseEngine::DatabaseEngine(const std::filesystem::path& file, OpenMode mode)
     : database_(OpenDatabaseFile(file, mode)), statements_(kStatementsKept) {
@@ -112,6 +122,7 @@ void DatabaseEngine::Bind(CachedStatement& statement, std::span<const Value> par
 
 std::int64_t DatabaseEngine::Run(CachedStatement& statement) {
     CheckUnit();
+    if (Probe()) Probe()();
     const StatementRun run(statement.statement);
     while (statement.statement.Step()) {
     }
@@ -142,6 +153,7 @@ void DatabaseEngine::RunScript(std::string_view script) {
 }
 
 void DatabaseEngine::Command(const std::string& sql) {
+    if (Probe()) Probe()();
     if (database_->tryExec(sql) != SQLITE_OK) ThrowEngineError(Handle());
 }
 

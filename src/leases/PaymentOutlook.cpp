@@ -1,0 +1,55 @@
+#include "leases/PaymentOutlook.h"
+
+#include <algorithm>
+
+#include <fmt/core.h>
+
+#include "core/Globals.h"
+#include "leases/LeaseTerms.h"
+#include "platform/database/Recordset.h"
+#include "platform/values/Format.h"
+
+namespace leases {
+
+using platform::Currency;
+using platform::Date;
+
+namespace {
+
+std::string DescribeDueDate(platform::Recordset& lease, int periods) {
+    const Date due = lease["DateNextDue"].IsBlank() ? Date() : lease["DateNextDue"].AsDate();
+    if (!due.IsSet()) return "the lease has no next due date";
+    if (periods == 0) return "next due date stays " + due.ToText();
+    const auto interval =
+        TermInterval(lease["TermType"].IsNull() ? "" : lease["TermType"].AsText());
+    // Step by step, as the payment moves it: a month's last day may shorten on the way.
+    Date moved = due;
+    for (int i = 0; i < periods; ++i)
+        moved = DateAdd(interval, 1, moved);
+    return fmt::format("next due date moves from {} to {}", due.ToText(), moved.ToText());
+}
+
+std::string DescribeCredit(platform::Recordset& lease, int periods) {
+    const bool earns = periods > 0 && !lease["Option"].IsNull() && lease["Option"].AsBoolean();
+    if (!earns || lease["OptionCredit"].IsNull()) return {};
+    const Currency credit = lease["OptionCredit"].AsCurrency() * periods;
+    return credit.IsZero() ? "" : ", option credit " + platform::FormatMoney(credit);
+}
+
+} // namespace
+
+std::string DescribeOutlook(const RentPayment& payment) {
+    const auto count = std::ranges::count_if(payment.charges, &PaymentCharge::selected);
+    if (count == 0) return "Nothing is ticked: a payment of 0.00 will be posted";
+    std::string line = fmt::format("{} charge{}", count, count == 1 ? "" : "s");
+
+    platform::Recordset lease;
+    lease.Open(core::App().Connection,
+               "SELECT TermType, DateNextDue, Option, OptionCredit FROM Lease WHERE IdLease = ?",
+               platform::CursorMode::ReadOnly, {payment.idLease});
+    if (lease.Eof()) return line;
+    const int periods = PeriodsPaid(payment);
+    return line + ", " + DescribeDueDate(lease, periods) + DescribeCredit(lease, periods);
+}
+
+} // namespace leases

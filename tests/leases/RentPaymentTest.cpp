@@ -1,0 +1,430 @@
+#include "leases/RentPayment.h"
+
+#include <string>
+#include <vector>
+
+#include <fmt/core.h>
+#include <gtest/gtest.h>
+
+#include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "leases/Crashes.h"
+#include "leases/LeaseFixture.h"
+#include "leases/PaymentOutlook.h"
+#include "leases/RentLog.h"
+#include "leases/mLease.h"
+#include "platform/system/Clock.h"
+#include "platform/values/Format.h"
+#include "support/TemporaryFolder.h"
+
+namespace tests {
+
+namespace {
+
+using leases::PaymentCharge;
+using leases::RentClass;
+using leases::RentFlags;
+using leases::RentPayment;
+using platform::Currency;
+using platform::Date;
+using Lines = std::vector<std::string>;
+
+class Payment : public testing::Test {
+  protected:
+    /// The lease has been charged up to today, so that the rows are the test's own.
+    Payment() : books_(folder_.Path() / "db") {
+        platform::SetToday(Date(2024, 3, 5));
+        SetLeaseField("DateUpdated", "03/05/2024");
+    }
+
+    static std::string Ask(std::string_view sql) {
+        const auto value = core::App().Connection.Scalar(sql);
+        if (!value) return "-";
+        return value->IsNull() ? "null" : value->AsText();
+    }
+    static std::string Next() { return Ask("SELECT DateNextDue FROM Lease"); }
+    static std::int32_t Charge(Date day, int units, RentFlags flags = RentFlags::Ordinary,
+                               RentClass rentClass = RentClass::Rent) {
+        return leases::WriteRentLog({.idLease = kLeaseId,
+                                     .datePosted = day,
+                                     .rentClass = rentClass,
+                                     .category = flags == RentFlags::PeriodRent ? "Rent" : "Fee",
+                                     .amount = Currency::FromUnits(units),
+                                     .description = fmt::format("{} on {}", units, day.ToText()),
+                                     .flags = flags});
+    }
+    static std::int32_t Rent(Date day) { return Charge(day, 1000, RentFlags::PeriodRent); }
+    /// The payment with just these charges ticked, by their place.
+    static RentPayment Ticking(const std::vector<bool>& ticks) {
+        RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
+        EXPECT_EQ(payment.charges.size(), ticks.size());
+        for (std::size_t i = 0; i < ticks.size(); ++i)
+            payment.charges[i].selected = ticks[i];
+        return payment;
+    }
+    /// The ledger: date, flags, amount, and the transaction (+ for one, - for none).
+    static Lines Ledger() {
+        Lines lines;
+        platform::Recordset rows;
+        rows.Open(core::App().Connection, "SELECT * FROM RentLog ORDER BY IdRentLog");
+        for (; !rows.Eof(); rows.MoveNext()) {
+            lines.push_back(fmt::format("{} {} {} {}", rows["DatePosted"].AsText(),
+                                        rows["Flags"].AsText(),
+                                        platform::FormatMoney(rows["Amount"].AsCurrency()),
+                                        rows["IdTransaction"].AsLong() == 0 ? '-' : '+'));
+        }
+        return lines;
+    }
+
+    support::TemporaryFolder folder_;
+    BooksWithOneLease books_;
+};
+
+TEST_F(Payment, WritesTheTransactionFieldByField) {
+    Rent(Date(2024, 1, 1));
+    Charge(Date(2024, 1, 9), 40);
+    RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
+    payment.dateEffective = Date(2024, 2, 29);
+    payment.checkNumber = "1'7";
+    payment.paymentWord = "Partial Rent Payment";
+    const std::int32_t id = leases::SubmitPayment(payment);
+    platform::Recordset row;
+    row.Open(core::App().Connection, "SELECT * FROM Transactions");
+    ASSERT_EQ(row.RecordCount(), 1);
+    for (const auto& [field, value] : std::vector<std::pair<std::string, std::string>>{
+             {"IdTransaction", std::to_string(id)},
+             {"DateEffective", "02/29/2024"},
+             {"DebitType", "5"},
+             {"DebitId", "103"},
+             {"DebitDesc", "O'Brien, Ann"},
+             {"CreditType", "1"},
+             {"CreditId", "105"},
+             {"CreditDesc", "First Bank"},
+             {"DebitPrevBal", "0"},
+             {"DebitNewBal", "0"},
+             {"CreditPrevBal", "0"},
+             {"CreditNewBal", "0"},
+             {"CheckNum", "1'7"},
+             {"Amount", "1040"},
+             {"TaxCategory", "Partial Rent Payment"},
+             {"Class", "1"},
+             {"IEN", "0"},
+             {"Description", "Rent Payment for O'Brien, 12 Elm Street A"},
+             {"Flags", "0"},
+             {"Reconciled", "False"},
+             {"CreditExported", "False"},
+             {"DebitExported", "False"},
+             {"IdTenant", "103"},
+             {"IdBuilding", "104"},
+             {"IdUnit", "102"},
+             {"IdLease", "101"},
+             {"IdMortgage", "0"},
+             {"IdWorkOrder", "0"},
+             {"IdLedger", "0"},
+             {"IdMileage", "0"}}) {
+        EXPECT_EQ(row[field].AsText(), value) << field;
+    }
+    EXPECT_EQ(Ledger(), (Lines{"01/01/2024 1 1,000.00 +", "01/09/2024 0 40.00 +",
+                               "02/29/2024 2 (1,040.00) +"}));
+    EXPECT_EQ(Ask("SELECT Category FROM RentLog WHERE Flags = 2"), "Partial Rent Payment");
+    EXPECT_EQ(Ask("SELECT Description FROM RentLog WHERE Flags = 2"), "Partial Rent Payment");
+}
+
+TEST_F(Payment, MovesTheNextDueDateOncePerPeriodsRentAndSaysSoBefore) {
+    struct Case {
+        const char* termType;
+        const char* due;
+        std::vector<bool> ticks; // rent, rent, fee
+        const char* moved;
+        const char* outlook;
+    };
+    for (const Case& c : {
+             Case{"Month(s)",
+                  "01/01/2024",
+                  {true, true, true},
+                  "03/01/2024",
+                  "3 charges, next due date moves from 01/01/2024 to 03/01/2024"},
+             Case{"Month(s)",
+                  "01/31/2024",
+                  {true, true, false},
+                  "03/29/2024",
+                  "2 charges, next due date moves from 01/31/2024 to 03/29/2024"},
+             Case{"MTM",
+                  "01/31/2023",
+                  {false, true, false},
+                  "02/28/2023",
+                  "1 charge, next due date moves from 01/31/2023 to 02/28/2023"},
+             Case{"WTW",
+                  "02/26/2024",
+                  {true, false, false},
+                  "03/04/2024",
+                  "1 charge, next due date moves from 02/26/2024 to 03/04/2024"},
+             Case{"Year(s)",
+                  "02/29/2024",
+                  {true, false, true},
+                  "02/28/2025",
+                  "2 charges, next due date moves from 02/29/2024 to 02/28/2025"},
+             Case{"Years(s)",
+                  "02/29/2024",
+                  {true, false, true},
+                  "03/29/2024",
+                  "2 charges, next due date moves from 02/29/2024 to 03/29/2024"},
+             Case{"Month(s)",
+                  "01/01/2024",
+                  {false, false, true},
+                  "01/01/2024",
+                  "1 charge, next due date stays 01/01/2024"},
+             Case{"Month(s)",
+                  "01/01/2024",
+                  {false, false, false},
+                  "01/01/2024",
+                  "Nothing is ticked: a payment of 0.00 will be posted"},
+         }) {
+        SCOPED_TRACE(c.outlook);
+        core::App().Connection.Execute("DELETE * FROM RentLog");
+        SetLeaseField("TermType", c.termType);
+        SetLeaseField("DateNextDue", c.due);
+        Rent(Date(2024, 1, 1));
+        Rent(Date(2024, 2, 1));
+        Charge(Date(2024, 2, 9), 5);
+        const RentPayment payment = Ticking(c.ticks);
+        EXPECT_EQ(leases::DescribeOutlook(payment), c.outlook);
+        leases::SubmitPayment(payment);
+        EXPECT_EQ(Next(), c.moved);
+    }
+}
+
+TEST_F(Payment, OfNothingPostsZeroAndNoPaymentRow) {
+    Rent(Date(2024, 1, 1));
+    leases::SubmitPayment(Ticking({false}));
+    EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "0");
+    EXPECT_EQ(Ledger(), Lines{"01/01/2024 1 1,000.00 -"});
+    EXPECT_EQ(Ask("SELECT RentDue FROM Lease"), "1000");
+}
+
+TEST_F(Payment, ACreditLowersTheTotalAndMayTurnIt) {
+    Rent(Date(2024, 1, 1));
+    Charge(Date(2024, 1, 1), -1200);
+    const RentPayment both = Ticking({true, true});
+    EXPECT_EQ(both.Total(), Currency::FromUnits(-200));
+    leases::SubmitPayment(both);
+    EXPECT_EQ(Ledger().back(), "03/05/2024 2 200.00 +");
+}
+
+TEST_F(Payment, EarnsTheOptionCreditOncePerRent) {
+    SetLeaseField("Option", "True");
+    SetLeaseField("OptionCredit", "50.5");
+    Rent(Date(2024, 1, 1));
+    Rent(Date(2024, 2, 1));
+    Charge(Date(2024, 2, 9), 5);
+    const RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
+    EXPECT_EQ(leases::DescribeOutlook(payment),
+              "3 charges, next due date moves from 01/01/2024 to 03/01/2024, option credit 101.00");
+    leases::SubmitPayment(payment);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE Class = 4 AND Amount = 50.5 "
+                  "AND DatePosted = '03/05/2024' AND Category = 'Option Credit'"),
+              "2");
+    EXPECT_EQ(Ask("SELECT OptionBalance FROM Lease"), "101");
+}
+
+TEST_F(Payment, OfOtherClassesLeavesTheNextDueDateAndKnowsItsAccount) {
+    struct Case {
+        RentClass rentClass;
+        const char* ien;
+        const char* word;
+        const char* payer;
+        const char* account; // the lease's afterwards
+    };
+    for (const Case& c :
+         {Case{RentClass::Subsidy, "0", "Rent Subsidy Payment", "Housing Aid", "106"},
+          Case{RentClass::Deposit, "2", "Deposit Payment", "O'Brien, Ann", "105"}}) {
+        SCOPED_TRACE(c.word);
+        core::App().Connection.Execute("DELETE * FROM RentLog");
+        core::App().Connection.Execute("DELETE * FROM Transactions");
+        SetLeaseField("RentAccount", "105");
+        Charge(Date(2024, 1, 1), 300, RentFlags::PeriodRent, c.rentClass);
+        RentPayment payment = leases::ProposePayment(kLeaseId, c.rentClass);
+        EXPECT_EQ(payment.fromName, c.payer);
+        EXPECT_EQ(payment.paymentWord, c.word);
+        payment.toAccount = 106;
+        leases::SubmitPayment(payment);
+        EXPECT_EQ(Next(), "01/01/2024");
+        EXPECT_EQ(Ask("SELECT IEN FROM Transactions"), c.ien);
+        EXPECT_EQ(Ask("SELECT RentAccount FROM Lease"), c.account);
+    }
+}
+
+TEST_F(Payment, OfASubsidyComesFromTheTenantWhereNoPayorIsNamed) {
+    struct Case {
+        const char* type;
+        const char* id;
+        int expectedType;
+        int expectedId;
+    };
+    for (const Case& c :
+         {Case{"1", "106", 1, 106}, Case{"5", "103", 5, 103}, Case{"NULL", "106", 5, 103},
+          Case{"1", "NULL", 5, 103}, Case{"0", "0", 5, 103}, Case{"1", "0", 1, 0}}) {
+        SetLeaseField("SubsidyType", c.type);
+        SetLeaseField("SubsidyId", c.id);
+        const RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Subsidy);
+        EXPECT_EQ(payment.fromType, c.expectedType) << c.type << ' ' << c.id;
+        EXPECT_EQ(payment.fromId, c.expectedId) << c.type << ' ' << c.id;
+    }
+}
+
+TEST_F(Payment, ATypedPayerIsANameWithoutARecord) {
+    Rent(Date(2024, 1, 1));
+    RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
+    payment.fromId = 0;
+    payment.fromName = "Ann's uncle";
+    leases::SubmitPayment(payment);
+    EXPECT_EQ(Ask("SELECT DebitDesc FROM Transactions WHERE DebitId = 0 AND DebitType = 5 "
+                  "AND IdTenant = 0"),
+              "Ann's uncle");
+}
+
+TEST_F(Payment, AChargeRemovedMeanwhileStopsItWhole) {
+    Rent(Date(2024, 1, 1));
+    const std::int32_t gone = Charge(Date(2024, 1, 2), 5);
+    RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
+    core::App().Connection.Execute("DELETE * FROM RentLog WHERE IdRentLog = ?", {gone});
+    const Lines before = DumpBooks();
+    EXPECT_THROW(leases::SubmitPayment(payment), platform::DatabaseError);
+    EXPECT_EQ(DumpBooks(), before);
+    payment.charges[1].selected = false;
+    leases::SubmitPayment(payment);
+    EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "1000");
+}
+
+TEST_F(Payment, TellsTheScreensWhenAllIsKept) {
+    Rent(Date(2024, 1, 1));
+    Lines told;
+    const core::NotifyToken token([&](std::int16_t kind, std::int16_t action, std::int32_t id) {
+        told.push_back(fmt::format("{} {} {}{}", kind, action, id,
+                                   core::App().Connection.InUnitOfWork() ? " inside" : ""));
+    });
+    leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Rent));
+    ASSERT_GE(told.size(), 3U);
+    EXPECT_EQ(Lines(told.end() - 3, told.end()), (Lines{"10 1 0", "2 1 101", "30 1 0"}));
+}
+
+TEST_F(Payment, LeavesTheRunOfTheLeaseToItsCallerWhenTold) {
+    SetLeaseField("DateUpdated", "12/31/2023");
+    Rent(Date(2024, 1, 1));
+    const RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
+    leases::SubmitPayment(payment, leases::LeaseUpdate::No);
+    EXPECT_EQ(Ask("SELECT DateUpdated FROM Lease"), "12/31/2023");
+    EXPECT_EQ(Next(), "02/01/2024");
+}
+
+TEST_F(Payment, OffersChargesByDayThenInTheOrderTheyCame) {
+    const std::int32_t late = Charge(Date(2024, 2, 9), 5);
+    const std::int32_t first = Charge(Date(2023, 12, 31), 7);
+    const std::int32_t second = Charge(Date(2023, 12, 31), 6);
+    Charge(Date(2024, 1, 1), 9, RentFlags::Ordinary, RentClass::Deposit);
+    std::vector<std::int32_t> ids;
+    for (const PaymentCharge& charge : leases::ProposePayment(kLeaseId, RentClass::Rent).charges)
+        ids.push_back(charge.idRentLog);
+    EXPECT_EQ(ids, (std::vector{first, second, late}));
+}
+
+class EditedPayment : public Payment {
+  protected:
+    EditedPayment() {
+        Rent(Date(2024, 1, 1));
+        Charge(Date(2024, 1, 9), 40);
+        id_ = leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Rent),
+                                    leases::LeaseUpdate::No);
+        Charge(Date(2024, 1, 20), 8);
+    }
+    RentPayment Read() const { return leases::ReadPayment(id_); }
+
+    std::int32_t id_ = 0;
+};
+
+TEST_F(EditedPayment, ShowsWhatItSettledAndOnRequestWhatIsOpen) {
+    RentPayment payment = Read();
+    EXPECT_EQ(payment.charges.size(), 2U) << "its own row is no charge";
+    EXPECT_NE(payment.idPaymentRow, 0);
+    EXPECT_EQ(payment.fromName, "O'Brien, Ann");
+    EXPECT_EQ(payment.Total(), Currency::FromUnits(1040));
+    EXPECT_EQ(leases::DescribeOutlook(payment), "2 charges, next due date stays 02/01/2024");
+    leases::ReadCharges(payment, leases::OpenCharges::Offer);
+    ASSERT_EQ(payment.charges.size(), 3U);
+    EXPECT_FALSE(payment.charges[2].selected);
+    EXPECT_THROW(leases::ReadPayment(999'999), platform::DatabaseError);
+}
+
+TEST_F(EditedPayment, GivesBackWhatIsUntickedAndTakesWhatIsTicked) {
+    RentPayment payment = Read();
+    leases::ReadCharges(payment, leases::OpenCharges::Offer);
+    payment.charges[0].selected = false;
+    payment.charges[2].selected = true;
+    EXPECT_EQ(leases::SubmitPayment(payment, leases::LeaseUpdate::No), id_);
+    EXPECT_EQ(Ledger(), (Lines{"01/01/2024 1 1,000.00 -", "01/09/2024 0 40.00 +",
+                               "03/05/2024 2 (48.00) +", "01/20/2024 0 8.00 +"}));
+    EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "48");
+    EXPECT_EQ(Next(), "02/01/2024") << "an edit never moves it back";
+    payment = Read();
+    leases::ReadCharges(payment, leases::OpenCharges::Offer);
+    for (PaymentCharge& charge : payment.charges)
+        charge.selected = true;
+    leases::SubmitPayment(payment, leases::LeaseUpdate::No);
+    EXPECT_EQ(Next(), "02/01/2024") << "nor on";
+}
+
+TEST_F(EditedPayment, OfNothingKeepsItsRowAtZeroAndAnotherIsNeverAdded) {
+    RentPayment payment = Read();
+    for (PaymentCharge& charge : payment.charges)
+        charge.selected = false;
+    leases::SubmitPayment(payment, leases::LeaseUpdate::No);
+    EXPECT_EQ(Ask("SELECT Amount FROM RentLog WHERE Flags = 2"), "0");
+    payment = Read();
+    leases::ReadCharges(payment, leases::OpenCharges::Offer);
+    payment.charges[0].selected = true;
+    leases::SubmitPayment(payment, leases::LeaseUpdate::No);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE Flags = 2 AND Amount = -1000"), "1");
+}
+
+TEST_F(EditedPayment, RewritesWhatIsEnteredAndKeepsWhatWasExported) {
+    core::App().Connection.Execute("UPDATE Transactions SET CreditExported = True");
+    RentPayment payment = Read();
+    payment.dateEffective = Date(2024, 3, 31);
+    payment.paymentWord = "Partial Rent Payment";
+    payment.fromType = core::kAccount;
+    payment.fromId = 106;
+    payment.fromName = "Housing Aid";
+    leases::SubmitPayment(payment, leases::LeaseUpdate::No);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE DateEffective = '03/31/2024' "
+                  "AND TaxCategory = 'Partial Rent Payment' AND DebitType = 1 AND IdTenant = 106 "
+                  "AND CreditExported = True AND DebitExported = False"),
+              "1");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE Flags = 2 AND DatePosted = '03/31/2024' "
+                  "AND Category = 'Partial Rent Payment'"),
+              "1");
+}
+
+TEST_F(EditedPayment, ComesBackUnderItsNumberWhenItHasGone) {
+    const RentPayment payment = Read();
+    core::App().Connection.Execute("DELETE * FROM Transactions");
+    core::App().Connection.Execute("DELETE * FROM RentLog WHERE Flags = 2");
+    leases::SubmitPayment(payment, leases::LeaseUpdate::No);
+    EXPECT_EQ(Ask("SELECT IdTransaction FROM Transactions WHERE Amount = 1040"),
+              std::to_string(id_));
+    EXPECT_EQ(Ask("SELECT Amount FROM RentLog WHERE Flags = 2"), "-1040");
+}
+
+TEST_F(Payment, TooLargeForMoneyIsRefusedWhole) {
+    Charge(Date(2024, 1, 1), 1);
+    core::App().Connection.Execute("UPDATE RentLog SET Amount = 922337203685477.5807");
+    Charge(Date(2024, 1, 2), 1);
+    const RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
+    const Lines before = DumpBooks();
+    EXPECT_THROW(leases::SubmitPayment(payment), platform::OverflowError);
+    EXPECT_EQ(DumpBooks(), before);
+}
+
+} // namespace
+
+} // namespace tests
