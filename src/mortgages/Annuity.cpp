@@ -1,0 +1,48 @@
+#include "mortgages/Annuity.h"
+
+#include <cmath>
+
+#include "platform/values/Errors.h"
+
+namespace mortgages {
+
+namespace {
+
+double Finite(double number) {
+    if (!std::isfinite(number)) throw platform::OverflowError("The loan's figures are too large.");
+    return number;
+}
+
+} // namespace
+
+// log1p and expm1 rather than a power: at small rates, and where little is left of a loan, one plus
+// the rate and one less the discount keep too few digits.
+Annuity::Annuity(double rate) : rate_(rate), logGrowth_(std::log1p(rate)) {
+    if (rate <= -1) throw platform::Error("The rate loses more than there is.");
+}
+
+double Annuity::Pmt(double periods, double presentValue) const {
+    if (periods == 0) throw platform::Error("There is no period to pay the loan in.");
+    if (rate_ == 0) return Finite(-presentValue / periods);
+    return Finite(presentValue * rate_ / std::expm1(-periods * logGrowth_));
+}
+
+double Annuity::NPer(double payment, double presentValue) const {
+    if (payment == 0) throw platform::Error("A loan is not paid off by no payment.");
+    if (rate_ == 0) return Finite(-presentValue / payment);
+    const double interestShare = presentValue * rate_ / payment;
+    if (interestShare <= -1) {
+        throw platform::Error("The payment is too small to pay off the loan.");
+    }
+    return Finite(-std::log1p(interestShare) / logGrowth_);
+}
+
+double Annuity::FirstIPmt(double presentValue) const {
+    return -presentValue * rate_;
+}
+
+double Annuity::FirstPPmt(double periods, double presentValue) const {
+    return Pmt(periods, presentValue) - FirstIPmt(presentValue);
+}
+
+} // namespace mortgages

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace mortgages {
+
+/// Flags of a row of the mortgage log.
+enum class LogFlags : std::int16_t {
+    Ordinary = 0, ///< entered by hand
+    BasePayment =
+        1, ///< a period's principal and interest, or the payoff: paying it moves the period on
+    Payment = 2,
+    Pmi = 5, ///< mortgage insurance
+    LateFee = 7,
+    Escrow = 8,
+};
+
+// Words that the log keeps in `Category`.
+inline constexpr std::string_view kCategoryPayment = "Mortgage Payment";
+inline constexpr std::string_view kCategoryPayoff = "Mortgage Payoff";
+inline constexpr std::string_view kCategoryPmi = "PMI Payment";
+inline constexpr std::string_view kCategoryLate = "Late Payment";
+inline constexpr std::string_view kCategoryEscrow = "Mortgage Escrow";
+
+/// The class of a transaction that pays a mortgage.
+inline constexpr std::int16_t kMortgagePaymentClass = 5;
+
+/// The words of `Mortgage.Status`.
+namespace status {
+inline constexpr std::string_view kPending = "Pending";
+inline constexpr std::string_view kCurrent = "Current";
+inline constexpr std::string_view kClosed = "Closed";
+} // namespace status
+
+/// The words of `Mortgage.PmtStatus`.
+namespace pmtstatus {
+inline constexpr std::string_view kNotApplicable = "n/a";
+inline constexpr std::string_view kOk = "OK";
+inline constexpr std::string_view kDue = "Due";
+inline constexpr std::string_view kLate = "Late";
+} // namespace pmtstatus
+
+} // namespace mortgages

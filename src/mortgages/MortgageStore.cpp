@@ -1,0 +1,170 @@
+#include "core/Globals.h"
+#include "core/Session.h"
+#include "mortgages/DoubleList.h"
+#include "mortgages/clsMortgage.h"
+
+namespace mortgages {
+
+using platform::CursorMode;
+using platform::Field;
+using platform::Recordset;
+
+namespace {
+
+/// What becomes of a field that can't be read.
+enum class Fault { Thrown, PassedOver };
+
+void Read(const Field& field, double& value) {
+    value = field.AsDouble();
+}
+void Read(const Field& field, std::int16_t& value) {
+    value = field.AsInteger();
+}
+void Read(const Field& field, bool& value) {
+    value = field.AsBoolean();
+}
+void Read(const Field& field, std::string& value) {
+    value = field.AsText();
+}
+
+/// Reads fields of the current row into values; a null leaves its value as it was.
+class TermsReader {
+  public:
+    TermsReader(Recordset& row, Fault fault) : row_(row), fault_(fault) {}
+
+    template <class T>
+    void operator()(std::string_view name, T& value) {
+        try {
+            const Field field = row_[name];
+            if (!field.IsNull()) Read(field, value);
+        } catch (const platform::Error&) {
+            if (fault_ == Fault::Thrown) throw;
+        }
+    }
+
+    /// The count of the list's entries; nothing for a null.
+    std::optional<std::size_t> List(std::string_view name, std::vector<double>& numbers) {
+        std::optional<std::string> text;
+        try {
+            const Field field = row_[name];
+            if (!field.IsNull()) text = field.AsText();
+        } catch (const platform::Error&) {
+            if (fault_ == Fault::Thrown) throw;
+        }
+        if (!text) return {};
+        return SplitDoubleList(*text, numbers);
+    }
+
+  private:
+    Recordset& row_;
+    Fault fault_;
+};
+
+/// The fields that both ways of loading read alike.
+void ReadTerms(TermsReader& read, LoanTerms& terms) {
+    read("Description", terms.Description);
+    read("CurrentPeriod", terms.CurrentPeriod);
+    read("OrigPV", terms.OrigPV);
+    read("OrigPer", terms.OrigPer);
+    read("OrigRate", terms.OrigRate);
+    read("OrigPmt", terms.OrigPmt);
+    read("IntOnly", terms.IntOnly);
+    read("FirstDue", terms.FirstDue);
+    read("BalloonPer", terms.BalloonPer);
+    read("BalloonPmt", terms.BalloonPmt);
+    read("PPM", terms.PPM);
+    read("PPMPct", terms.PPMPct);
+    read("PPMTrigger", terms.PPMTrigger);
+    read("PPMPer", terms.PPMPer);
+    read("xPriAll", terms.xPriAll);
+    read("ARM", terms.ARM);
+    read("ARMLockedPer", terms.ARMLockedPer);
+    read("ARMAdjPer", terms.ARMAdjPer);
+    read("ARMLifeCap", terms.ARMLifeCap);
+    read("ARMPerCap", terms.ARMPerCap);
+}
+
+/// The fields that both ways of saving write alike.
+void WriteTerms(Recordset& row, const LoanTerms& terms, const std::vector<double>& xPri,
+                const std::vector<double>& xRate) {
+    row["Description"].Set(terms.Description);
+    row["CurrentPeriod"].Set(terms.CurrentPeriod);
+    row["OrigPV"].Set(terms.OrigPV);
+    row["OrigPer"].Set(terms.OrigPer);
+    row["OrigRate"].Set(terms.OrigRate);
+    row["OrigPmt"].Set(terms.OrigPmt);
+    row["IntOnly"].Set(terms.IntOnly);
+    row["FirstDue"].Set(terms.FirstDue);
+    row["BalloonMtg"].Set(terms.Balloon);
+    row["BalloonPer"].Set(terms.BalloonPer);
+    row["BalloonPmt"].Set(terms.BalloonPmt);
+    row["PPM"].Set(terms.PPM);
+    row["PPMPct"].Set(terms.PPMPct);
+    row["PPMTrigger"].Set(terms.PPMTrigger);
+    row["PPMPer"].Set(terms.PPMPer);
+    row["xPri"].Set(JoinDoubleList(xPri));
+    row["xRate"].Set(JoinDoubleList(xRate));
+    row["xPriAll"].Set(terms.xPriAll);
+    row["ARM"].Set(terms.ARM);
+    row["ARMLockedPer"].Set(terms.ARMLockedPer);
+    row["ARMAdjPer"].Set(terms.ARMAdjPer);
+    row["ARMLifeCap"].Set(terms.ARMLifeCap);
+    row["ARMPerCap"].Set(terms.ARMPerCap);
+}
+
+/// The fields that tell of the current period; `at` is null where it lies outside the schedule.
+void WriteCurrent(Recordset& row, const AmortPeriod* at, double AmortPeriod::*balance,
+                  int remaining) {
+    row["NextDue"].Set(at == nullptr ? std::string_view() : at->Due.View());
+    row["CurrentPV"].Set(at == nullptr ? 0 : at->*balance);
+    row["CurrentI"].Set(at == nullptr ? 0 : at->Rate);
+    row["CurrentPmt"].Set(at == nullptr ? 0 : at->Pmt);
+    row["RemainingT"].Set(at == nullptr ? 0 : remaining);
+}
+
+void OpenRow(Recordset& row, std::int32_t idMortgage, CursorMode mode) {
+    row.Open(core::App().Connection, "SELECT * FROM Mortgage WHERE IdMortgage = ?", mode,
+             {idMortgage});
+}
+
+} // namespace
+
+bool clsMortgage::LoadMtg(std::int32_t idMortgage) {
+    Recordset row;
+    OpenRow(row, idMortgage, CursorMode::ReadOnly);
+    if (row.Eof()) return false;
+    TermsReader read(row, Fault::Thrown);
+    ReadTerms(read, terms_);
+    read("BalloonMtg", terms_.Balloon);
+    read.List("xPri", xPri_);
+    if (const auto count = read.List("xRate", xRate_)) arraySize_ = static_cast<int>(*count);
+    return true;
+}
+
+bool clsMortgage::LoadRS(Recordset& row) {
+    TermsReader read(row, Fault::PassedOver);
+    ReadTerms(read, terms_);
+    // Not the name that the books give the flag. The run and the screens rest on it: a loan whose
+    // balloon isn't paid goes on being charged.
+    read("Balloon", terms_.Balloon);
+    if (const auto count = read.List("xPri", xPri_)) arraySize_ = static_cast<int>(*count);
+    if (const auto count = read.List("xRate", xRate_)) arraySize_ = static_cast<int>(*count);
+    return true;
+}
+
+void clsMortgage::SaveMtg(std::int32_t idMortgage) const {
+    Recordset row;
+    OpenRow(row, idMortgage, CursorMode::Updatable);
+    if (row.Eof()) row.AddNew();
+    row["IdMortgage"].Set(idMortgage);
+    WriteTerms(row, terms_, xPri_, xRate_);
+    WriteCurrent(row, Row(0), &AmortPeriod::EndBal, GetPeriodsRemaining());
+    row.Update();
+}
+
+void clsMortgage::SaveRS(Recordset& row) const {
+    WriteTerms(row, terms_, xPri_, xRate_);
+    WriteCurrent(row, Row(0), &AmortPeriod::BeginBal, GetPeriodsRemaining());
+}
+
+} // namespace mortgages
