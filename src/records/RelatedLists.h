@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "core/EditRecord.h"
+#include "platform/database/Recordset.h"
+
+namespace records {
+
+/// A record that others hang from.
+struct RelatedOwner {
+    std::int16_t kind = 0;
+    std::int32_t id = 0; ///< 0 while it isn't saved
+
+    friend bool operator==(const RelatedOwner&, const RelatedOwner&) = default;
+};
+
+/// One list of the records that hang from another.
+struct RelatedList {
+    std::string_view caption;
+    std::string_view gridKey;            ///< the name that its column widths are kept under
+    std::int16_t kind = 0;               ///< of its records
+    std::span<const std::int16_t> shows; ///< kinds whose changes may be seen in it
+    std::string_view sql;                ///< the id first; each `?` stands for the owner's id
+};
+
+/// What stands where an owner has no lists.
+inline constexpr std::string_view kNoDbType = "No DB type selected";
+
+/// The lists that a building or a unit shows in tabs, in their order; none for another kind.
+std::span<const RelatedList> TabbedLists(std::int16_t ownerKind);
+/// The one list of a tenant, a work order or an appliance; null for another kind.
+const RelatedList* SingleList(std::int16_t ownerKind);
+
+/// Reads a list; the rows aren't open when that fails.
+platform::Recordset OpenRelated(const RelatedList& list, const RelatedOwner& owner);
+
+/// How a record of the list is opened: an existing one, or with id 0 a new one of this owner.
+core::EditRequest RelatedRequest(const RelatedList& list, const RelatedOwner& owner,
+                                 std::int32_t id);
+
+} // namespace records

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "records/screens/RelatedPanel.h"
+
+class QLabel;
+
+namespace records::screens {
+
+/// The one list that hangs from a tenant, a work order or an appliance.
+class RelatedDBs : public RelatedPanel {
+    Q_OBJECT
+
+  public:
+    explicit RelatedDBs(QWidget* parent = nullptr);
+
+    /// Shows the list of a record.
+    void Load(std::int16_t dbType, std::int32_t id);
+
+  private:
+    QLabel* caption_;
+};
+
+} // namespace records::screens

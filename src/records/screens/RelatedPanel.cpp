@@ -1,0 +1,45 @@
+#include "records/screens/RelatedPanel.h"
+
+#include <algorithm>
+
+#include "core/screens/ErrorRoll.h"
+
+namespace records::screens {
+
+RelatedPanel::RelatedPanel(QWidget* parent)
+    : RecordList(parent),
+      token_([this](std::int16_t kind, std::int16_t, std::int32_t) { Heard(kind); }) {
+    connect(this, &RecordList::AddAsked, this, [this] { Open(0); });
+    connect(this, &RecordList::EditAsked, this, &RelatedPanel::Open);
+}
+
+void RelatedPanel::ShowList(const RelatedList* list, const RelatedOwner& owner) {
+    list_ = list;
+    owner_ = owner;
+    Reload();
+}
+
+void RelatedPanel::Reload() {
+    if (!list_ || owner_.id == 0) {
+        Allow(false, false, false);
+        ShowNothing(list_ ? tr("Press Apply to save this record first.") : QString());
+        return;
+    }
+    const bool canOpen = core::HasEditor(list_->kind);
+    Allow(canOpen, canOpen, false);
+    ShowRows(OpenRelated(*list_, owner_), list_->gridKey);
+}
+
+void RelatedPanel::Open(std::int32_t id) {
+    core::screens::Guarded([&] {
+        const core::EditRequest request = RelatedRequest(*list_, owner_, id);
+        core::EditRecord(request.kind, request.id, request.parent1, request.parent2,
+                         request.parent3);
+    });
+}
+
+void RelatedPanel::Heard(std::int16_t kind) {
+    if (list_ && std::ranges::find(list_->shows, kind) != list_->shows.end()) Reload();
+}
+
+} // namespace records::screens

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/NotifyAll.h"
+#include "records/RelatedLists.h"
+#include "core/screens/RecordList.h"
+
+namespace records::screens {
+
+/// What RelatedDBm and RelatedDBs have in common: the present list of an owner, kept current by
+/// itself.
+class RelatedPanel : public core::screens::RecordList {
+    Q_OBJECT
+
+  protected:
+    explicit RelatedPanel(QWidget* parent);
+
+    /// Shows the records of an owner; none while it has no id, or without a list.
+    void ShowList(const RelatedList* list, const RelatedOwner& owner);
+
+  private:
+    void Reload();
+    void Open(std::int32_t id);
+    void Heard(std::int16_t kind);
+
+    const RelatedList* list_ = nullptr;
+    RelatedOwner owner_;
+    core::NotifyToken token_;
+};
+
+} // namespace records::screens
