@@ -1,0 +1,138 @@
+#include "records/screens/Contacts.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+
+#include "core/screens/AddressBox.h"
+#include "core/screens/Binding.h"
+#include "core/screens/ErrorRoll.h"
+#include "core/screens/Wiring.h"
+#include "platform/qt/Text.h"
+#include "ui_Contacts.h"
+
+namespace records::screens {
+
+namespace {
+
+using core::screens::Guarded;
+using platform::qt::ToScreen;
+
+std::int32_t IdOf(const QListWidgetItem* item) {
+    return item ? item->data(Qt::UserRole).toInt() : 0;
+}
+
+/// A null leaves its box as it is, which would show the contact before.
+void ClearBoxes(const QWidget& fields) {
+    for (QWidget* const control : core::screens::ControlsOf(fields)) {
+        if (auto* const line = qobject_cast<QLineEdit*>(control)) line->clear();
+        if (auto* const page = qobject_cast<QPlainTextEdit*>(control)) page->clear();
+    }
+}
+
+} // namespace
+
+Contacts::Contacts(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::Contacts>()) {
+    ui_->setupUi(this);
+    setProperty("panel", true);
+    setEnabled(false);
+    Wire();
+}
+
+Contacts::~Contacts() = default;
+
+void Contacts::Wire() {
+    using core::screens::AddressKind;
+    core::screens::WireControls(*this);
+    core::screens::FillPlaceByZip(*ui_->txtZip, {ui_->txtCity, ui_->txtState});
+    core::screens::OpenOnClick(*ui_->txtEmail, AddressKind::Mail);
+    core::screens::OpenOnClick(*ui_->txtWeb, AddressKind::Web);
+    core::screens::ConnectChanges(*ui_->fields, *this, [this] {
+        if (showing_ || id_ == 0) return;
+        changed_ = true;
+        Q_EMIT Changed();
+    });
+    connect(ui_->cmdAdd, &QPushButton::clicked, this, [this] { Guarded([this] { Add(); }); });
+    connect(ui_->cmdDelete, &QPushButton::clicked, this, [this] { Guarded([this] { Remove(); }); });
+    connect(ui_->lvwContacts, &QListWidget::currentItemChanged, this, &Contacts::MoveTo);
+}
+
+void Contacts::Load(std::int16_t dbType, std::int32_t idRelated) {
+    const RelatedOwner owner{dbType, idRelated};
+    const std::int32_t selected = owner == owner_ ? id_ : 0;
+    owner_ = owner;
+    setEnabled(idRelated != 0);
+    FillContacts(selected);
+}
+
+void Contacts::SaveCurrent() {
+    if (!changed_ || id_ == 0) return;
+    platform::Recordset row;
+    OpenContact(row, id_, owner_);
+    core::screens::BindToRecord(*ui_->fields, row);
+    row.Update();
+    changed_ = false;
+    for (int i = 0; i < ui_->lvwContacts->count(); ++i) {
+        QListWidgetItem* const item = ui_->lvwContacts->item(i);
+        if (IdOf(item) == id_) item->setText(ui_->txtDescription->text());
+    }
+}
+
+void Contacts::Add() {
+    SaveCurrent();
+    FillContacts(AddContact(owner_));
+    ui_->txtDescription->setFocus();
+    ui_->txtDescription->selectAll();
+}
+
+void Contacts::Remove() {
+    if (id_ == 0 || !DeleteContact(id_)) return;
+    changed_ = false;
+    FillContacts(0);
+}
+
+/// Fields that can't be written stay on the screen, and the list goes back to their contact once it
+/// has finished moving.
+void Contacts::MoveTo(QListWidgetItem* to) {
+    if (Guarded([this] { SaveCurrent(); })) {
+        id_ = IdOf(to);
+        Guarded([this] { ShowCurrent(); });
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this, [this] { Guarded([this] { FillContacts(id_); }); }, Qt::QueuedConnection);
+}
+
+void Contacts::FillContacts(std::int32_t idSelected) {
+    const bool stays = changed_ && idSelected == id_;
+    {
+        const QSignalBlocker quiet(ui_->lvwContacts);
+        ui_->lvwContacts->clear();
+        for (const core::Choice& contact : ListContacts(owner_)) {
+            auto* const item = new QListWidgetItem(ToScreen(contact.text), ui_->lvwContacts);
+            item->setData(Qt::UserRole, contact.id);
+            if (contact.id == idSelected) ui_->lvwContacts->setCurrentItem(item);
+        }
+        if (!ui_->lvwContacts->currentItem()) ui_->lvwContacts->setCurrentRow(0);
+    }
+    if (stays) return;
+    id_ = IdOf(ui_->lvwContacts->currentItem());
+    ShowCurrent();
+}
+
+void Contacts::ShowCurrent() {
+    showing_ = true;
+    ClearBoxes(*ui_->fields);
+    ui_->fields->setEnabled(id_ != 0);
+    ui_->cmdDelete->setEnabled(id_ != 0);
+    Guarded([this] {
+        if (id_ == 0) return;
+        platform::Recordset row;
+        OpenContact(row, id_, owner_);
+        core::screens::BindFromRecord(*ui_->fields, row);
+    });
+    changed_ = false;
+    showing_ = false;
+}
+
+} // namespace records::screens

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QVBoxLayout>
+#include <QWidget>
+
+namespace records::screens {
+
+/// Puts a panel on the page of a tab that is made for it, under the name that its settings are kept
+/// by.
+template <class Panel>
+Panel* PlacePanel(Panel* panel, QWidget& page, const char* name) {
+    panel->setObjectName(QLatin1String(name));
+    QLayout* layout = page.layout();
+    if (!layout) layout = new QVBoxLayout(&page);
+    layout->addWidget(panel);
+    return panel;
+}
+
+} // namespace records::screens

@@ -1,0 +1,105 @@
+#include "records/screens/frmAccount.h"
+
+#include "core/Configuration.h"
+#include "core/RecordKinds.h"
+#include "core/screens/AddressBox.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/TabPages.h"
+#include "platform/qt/Text.h"
+#include "records/screens/Contacts.h"
+#include "records/screens/Panels.h"
+#include "ui_frmAccount.h"
+#include "ui_frmAccountDetails.h"
+
+namespace records::screens {
+
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+frmAccount::frmAccount(QWidget* parent)
+    : RecordForm({core::kAccount, "Account", "IdAccount"}, parent),
+      ui_(std::make_unique<Ui::frmAccount>()),
+      details_(std::make_unique<Ui::frmAccountDetails>()) {
+    using core::screens::AddressKind;
+    ui_->setupUi(this);
+    details_->setupUi(ui_->tabAccount);
+    MakePanels();
+    Wire();
+    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::screens::FillPlaceByZip(*details_->txtZip, {details_->txtCity, details_->txtState});
+    core::screens::OpenOnClick(*details_->txtEmail, AddressKind::Mail);
+    core::screens::OpenOnClick(*details_->txtWeb, AddressKind::Web);
+    connect(details_->cboAccountType, &QComboBox::currentTextChanged, this,
+            &frmAccount::ShowSecrets);
+}
+
+frmAccount::~frmAccount() = default;
+
+void frmAccount::MakePanels() {
+    contacts_ = PlacePanel(new Contacts(this), *ui_->tabContacts, "ucContacts");
+    connect(contacts_, &Contacts::Changed, this, [this] { MarkDirty(); });
+}
+
+void frmAccount::Setup(std::int32_t id, std::string_view newType) {
+    OpenRecord(id, [this, id, newType] {
+        FillTypes();
+        if (id != 0) return;
+        core::screens::SelectByText(*details_->cboAccountType, newType, {.setText = true});
+        details_->txtState->setText(ToScreen(core::Config().DefaultState));
+        details_->txtBalance->setText(QStringLiteral("0.00"));
+    });
+    ShowSecrets();
+}
+
+void frmAccount::ShowRow(platform::Recordset& row) {
+    RecordForm::ShowRow(row);
+    ShowSecrets();
+}
+
+void frmAccount::WriteRow(platform::Recordset& row) {
+    RecordForm::WriteRow(row);
+    row["ShowAs"].Set(ShowAs(Name()));
+}
+
+void frmAccount::ShowCaption() {
+    const QString shownAs = details_->lblShowAs->text();
+    const bool isNew = Id() == 0;
+    setWindowTitle(isNew ? tr("Adding New Account") : tr("Account: %1").arg(shownAs));
+    ui_->lblTitle->setText(isNew ? tr("New Account (Press Apply to Save)")
+                                 : tr("Editing Account: %1").arg(shownAs));
+    contacts_->Load(core::kAccount, Id());
+}
+
+std::vector<std::string> frmAccount::Errors() {
+    return AccountErrors(Name());
+}
+
+void frmAccount::AfterSave() {
+    contacts_->SaveCurrent();
+}
+
+void frmAccount::Refresh(std::int16_t kind) {
+    if (kind == core::kAccount) FillTypes();
+}
+
+/// The text in the box stays: it is the account's own, or being typed.
+void frmAccount::FillTypes() {
+    const std::string text = FromScreen(details_->cboAccountType->currentText());
+    const QSignalBlocker quiet(details_->cboAccountType);
+    details_->cboAccountType->clear();
+    core::screens::FillFromCommaList(*details_->cboAccountType, OfferedAccountTypes());
+    core::screens::SelectByText(*details_->cboAccountType, text, {.setText = true});
+}
+
+void frmAccount::ShowSecrets() {
+    details_->txtAccountNumber->SetMasking(
+        HasSecretNumber(FromScreen(details_->cboAccountType->currentText())));
+}
+
+AccountName frmAccount::Name() const {
+    return {FromScreen(details_->txtCompany->text()), FromScreen(details_->txtLastName->text()),
+            FromScreen(details_->txtFirstName->text()), FromScreen(details_->txtInitial->text()),
+            details_->chkShowAsIndividual->isChecked()};
+}
+
+} // namespace records::screens

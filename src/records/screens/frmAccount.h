@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "core/screens/RecordForm.h"
+#include "records/AccountRules.h"
+
+namespace Ui {
+class frmAccount;
+class frmAccountDetails;
+} // namespace Ui
+
+namespace records::screens {
+
+class Contacts;
+
+/// A party that money goes to or comes from, or a bank account of the owner's own.
+class frmAccount : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmAccount(QWidget* parent = nullptr);
+    ~frmAccount() override;
+
+    /// Opens an account, or a new one of the type.
+    void Setup(std::int32_t id, std::string_view newType = {});
+
+  protected:
+    void ShowRow(platform::Recordset& row) override;
+    void WriteRow(platform::Recordset& row) override;
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void AfterSave() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    void MakePanels();
+    void FillTypes();
+    void ShowSecrets();
+    AccountName Name() const;
+
+    std::unique_ptr<Ui::frmAccount> ui_;
+    std::unique_ptr<Ui::frmAccountDetails> details_;
+    Contacts* contacts_ = nullptr;
+};
+
+} // namespace records::screens

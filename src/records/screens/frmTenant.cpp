@@ -1,0 +1,85 @@
+#include "records/screens/frmTenant.h"
+
+#include "core/RecordKinds.h"
+#include "core/screens/AddressBox.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/TabPages.h"
+#include "platform/qt/Text.h"
+#include "records/TenantRules.h"
+#include "records/screens/Contacts.h"
+#include "records/screens/Panels.h"
+#include "records/screens/PickFields.h"
+#include "records/screens/RelatedDBs.h"
+#include "ui_frmTenant.h"
+#include "ui_frmTenantHistory.h"
+#include "ui_frmTenantIdentity.h"
+#include "ui_frmTenantPerson.h"
+
+namespace records::screens {
+
+frmTenant::frmTenant(QWidget* parent)
+    : RecordForm({core::kTenant, "Tenant", "IdTenant"}, parent),
+      ui_(std::make_unique<Ui::frmTenant>()),
+      person_(std::make_unique<Ui::frmTenantPerson>()),
+      identity_(std::make_unique<Ui::frmTenantIdentity>()),
+      history_(std::make_unique<Ui::frmTenantHistory>()) {
+    using core::screens::AddressKind;
+    ui_->setupUi(this);
+    person_->setupUi(ui_->tabTenant);
+    identity_->setupUi(ui_->tabIdentity);
+    history_->setupUi(ui_->tabHistory);
+    MakePanels();
+    Wire();
+    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::screens::OpenOnClick(*person_->txtEmail, AddressKind::Mail);
+    core::screens::OpenOnClick(*person_->txtWeb, AddressKind::Web);
+}
+
+frmTenant::~frmTenant() = default;
+
+void frmTenant::MakePanels() {
+    incidents_ = PlacePanel(new RelatedDBs(this), *history_->incidents, "ucIncidents");
+    contacts_ = PlacePanel(new Contacts(this), *ui_->tabContacts, "ucContacts");
+    connect(contacts_, &Contacts::Changed, this, [this] { MarkDirty(); });
+}
+
+void frmTenant::Setup(std::int32_t id) {
+    OpenRecord(id, [this, id] {
+        core::screens::FillFromCommaList(*person_->cboStatus, kTenantStatuses);
+        person_->cboStatus->setCurrentIndex(id == 0 ? 0 : -1);
+        LoadPickFields(*this);
+    });
+}
+
+/// A status that is none of the words stays the tenant's until another is chosen.
+void frmTenant::ShowRow(platform::Recordset& row) {
+    RecordForm::ShowRow(row);
+    const platform::Field status = row["Status"];
+    if (status.IsBlank()) return;
+    core::screens::SelectByText(*person_->cboStatus, status.AsText(), {.setText = true});
+}
+
+void frmTenant::RowMissing() {
+    person_->cboStatus->setCurrentIndex(0);
+}
+
+void frmTenant::ShowCaption() {
+    const QString name = person_->txtLastName->text();
+    const bool isNew = Id() == 0;
+    setWindowTitle(isNew ? tr("Adding New Tenant") : tr("Tenant: %1").arg(name));
+    ui_->lblTitle->setText(isNew ? tr("New Tenant (Press Apply to Save)")
+                                 : tr("Editing Tenant: %1").arg(name));
+    incidents_->Load(core::kTenant, Id());
+    contacts_->Load(core::kTenant, Id());
+}
+
+std::vector<std::string> frmTenant::Errors() {
+    return TenantErrors(platform::qt::FromScreen(person_->txtLastName->text()));
+}
+
+void frmTenant::AfterSave() {
+    SavePickFields(*this);
+    contacts_->SaveCurrent();
+}
+
+} // namespace records::screens

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/RecordForm.h"
+
+namespace Ui {
+class frmTenant;
+class frmTenantPerson;
+class frmTenantIdentity;
+class frmTenantHistory;
+} // namespace Ui
+
+namespace records::screens {
+
+class Contacts;
+class RelatedDBs;
+
+/// A person who rents, or wants to.
+class frmTenant : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmTenant(QWidget* parent = nullptr);
+    ~frmTenant() override;
+
+    void Setup(std::int32_t id);
+
+  protected:
+    void ShowRow(platform::Recordset& row) override;
+    void RowMissing() override;
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void AfterSave() override;
+
+  private:
+    void MakePanels();
+
+    std::unique_ptr<Ui::frmTenant> ui_;
+    std::unique_ptr<Ui::frmTenantPerson> person_;
+    std::unique_ptr<Ui::frmTenantIdentity> identity_;
+    std::unique_ptr<Ui::frmTenantHistory> history_;
+    RelatedDBs* incidents_ = nullptr;
+    Contacts* contacts_ = nullptr;
+};
+
+} // namespace records::screens

@@ -1,0 +1,196 @@
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTabWidget>
+
+#include "core/Configuration.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "core/screens/MaskedEdit.h"
+#include "platform/qt/Text.h"
+#include "records/screens/frmAccount.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
+#include "support/screens/ScreenChecks.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using core::screens::MaskedEdit;
+using platform::qt::FromScreen;
+using records::screens::frmAccount;
+using support::ClickAction;
+using support::Find;
+using support::Type;
+using Said = std::vector<std::string>;
+
+const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
+
+class AccountTest : public support::ScreenTest {
+  protected:
+    static QPointer<frmAccount> Open(std::int32_t id = 0, std::string_view type = {}) {
+        QPointer<frmAccount> form(new frmAccount);
+        form->Setup(id, type);
+        return form;
+    }
+    static QLineEdit& Box(const frmAccount& form, const char* name) {
+        return Find<QLineEdit>(Page(form), name);
+    }
+    /// A contact has boxes of the same names.
+    static QWidget& Page(const frmAccount& form) { return Find<QWidget>(form, "tabAccount"); }
+    static QComboBox& TypeBox(const frmAccount& form) {
+        return Find<QComboBox>(form, "cboAccountType");
+    }
+    static std::string Title(const frmAccount& form) {
+        return FromScreen(form.windowTitle()) + "|" +
+               FromScreen(Find<QLabel>(form, "lblTitle").text());
+    }
+};
+
+TEST_F(AccountTest, ANewOneStartsWithItsTypeAndTheUsualState) {
+    core::Config().DefaultState = "OR";
+    const auto form = Open(0, "Vendor");
+    EXPECT_EQ(Title(*form), "Adding New Account|New Account (Press Apply to Save)");
+    EXPECT_EQ(TypeBox(*form).currentText(), QStringLiteral("Vendor"));
+    EXPECT_EQ(Box(*form, "txtState").text(), QStringLiteral("OR"));
+    EXPECT_FALSE(form->Dirty());
+    EXPECT_EQ(TypeBox(*Open()).currentText(), QString()) << "of no type in particular";
+}
+
+TEST_F(AccountTest, EveryFieldIsWrittenAndReadBack) {
+    const std::vector<std::pair<const char*, std::string>> entries = {
+        {"txtCompany", "O'Brien & \"Sons\""},
+        {"txtLastName", "O'Brien"},
+        {"txtFirstName", "Zo\xC3\xAB"},
+        {"txtInitial", "Q"},
+        {"txtAddress1", "1 \xF0\x9F\x8F\xA0 St"},
+        {"txtAddress2", "Suite #5"},
+        {"txtCity", "Salem"},
+        {"txtState", "OR"},
+        {"txtZip", "letters"},
+        {"txtPhone", "503-555-1"},
+        {"txtFAX", "503-555-2"},
+        {"txtMobile", "503-555-3"},
+        {"txtEmail", "zoe@elm.example"},
+        {"txtWeb", "www.elm.example"},
+        {"txtAccountNumber", "007"},
+        {"txtTaxIDFed", "12-3456789"},
+        {"txtTaxIDState", std::string(300, 'S')}};
+    auto form = Open();
+    for (const auto& [name, text] : entries)
+        Box(*form, name).setText(platform::qt::ToScreen(text));
+    Type(TypeBox(*form), "Jo's");
+    Type(Box(*form, "txtBalance"), "1234.5");
+    Find<QCheckBox>(*form, "chkHide").click();
+    Find<QCheckBox>(*form, "chkSelected").click();
+    Find<QCheckBox>(*form, "chkShowAsIndividual").click();
+    Find<QPlainTextEdit>(Page(*form), "txtNotes").setPlainText(QStringLiteral("Two\nlines"));
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{});
+    form = Open(1000);
+    EXPECT_EQ(Title(*form),
+              "Account: O'Brien, Zo\xC3\xAB Q|Editing Account: O'Brien, Zo\xC3\xAB Q");
+    for (const auto& [name, text] : entries)
+        EXPECT_EQ(FromScreen(Box(*form, name).text()), text) << name;
+    EXPECT_EQ(TypeBox(*form).currentText(), QStringLiteral("Jo's"));
+    EXPECT_EQ(Box(*form, "txtBalance").text(), QStringLiteral("1,234.50"));
+    EXPECT_EQ(Find<QPlainTextEdit>(Page(*form), "txtNotes").toPlainText(),
+              QStringLiteral("Two\nlines"));
+    EXPECT_EQ(Find<QLabel>(*form, "lblShowAs").text(), QStringLiteral("O'Brien, Zo\u00EB Q"));
+    EXPECT_EQ(Ask("SELECT Hide & Selected & ShowAsIndividual FROM Account WHERE IdAccount = 1000"),
+              "TrueTrueTrue");
+    EXPECT_EQ(Ask("SELECT AccountNumber FROM Account WHERE IdAccount = 1000"), "007");
+    EXPECT_FALSE(form->Dirty());
+}
+
+TEST_F(AccountTest, NeedsACompanyOrALastName) {
+    const auto form = Open();
+    Type(Box(*form, "txtFirstName"), "Ann");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{kRoll + "A company or last name must be entered.\n"});
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Account WHERE IdAccount = 1000"), "0");
+    Type(Box(*form, "txtLastName"), "Lee");
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Title(*form), "Account: Lee, Ann|Editing Account: Lee, Ann");
+    EXPECT_EQ(form->OpenRecordId(), 1000);
+    Type(Box(*form, "txtCompany"), "Lee & Co");
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Ask("SELECT ShowAs FROM Account WHERE IdAccount = 1000"), "Lee & Co")
+        << "made anew at each save";
+}
+
+TEST_F(AccountTest, NumbersThatAreNobodysBusinessShowOnlyWithTheFocus) {
+    Run("UPDATE Account SET AccountNumber = '4711', TaxIDFed = '123-45-6789'");
+    const auto form = Open(60);
+    const auto& number = Find<MaskedEdit>(Page(*form), "txtAccountNumber");
+    const auto& tax = Find<MaskedEdit>(Page(*form), "txtTaxIDFed");
+    const auto isMasked = [](const QLineEdit& box) {
+        return box.displayText() != box.text() && !box.text().isEmpty();
+    };
+    QApplication::setActiveWindow(form);
+    EXPECT_TRUE(isMasked(number)) << "a bank account's";
+    EXPECT_TRUE(isMasked(tax));
+    Box(*form, "txtAccountNumber").setFocus();
+    EXPECT_FALSE(isMasked(number));
+    EXPECT_TRUE(isMasked(tax));
+    Box(*form, "txtTaxIDFed").setFocus();
+    EXPECT_TRUE(isMasked(number));
+    EXPECT_FALSE(isMasked(tax));
+    Type(TypeBox(*form), "Utility");
+    EXPECT_FALSE(isMasked(number)) << "a customer number is no secret";
+}
+
+TEST_F(AccountTest, TheTypesFollowTheAccountsAndWhatIsTypedStays) {
+    Run("UPDATE Account SET Company = 'River Bank' WHERE IdAccount = 60");
+    const auto form = Open(60);
+    EXPECT_EQ(TypeBox(*form).findText(QStringLiteral("Gardener")), -1);
+    Type(TypeBox(*form), "My own");
+    Run("UPDATE Account SET AccountType = 'Gardener' WHERE IdAccount = 61");
+    core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
+    EXPECT_GE(TypeBox(*form).findText(QStringLiteral("Gardener")), 0);
+    EXPECT_EQ(TypeBox(*form).currentText(), QStringLiteral("My own"));
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Ask("SELECT AccountType FROM Account WHERE IdAccount = 60"), "My own");
+}
+
+TEST_F(AccountTest, ContactsOpenWithTheFirstSaveAndAreSavedWithTheAccount) {
+    const auto form = Open();
+    auto& contacts = Find<QWidget>(*form, "ucContacts");
+    EXPECT_FALSE(contacts.isEnabled());
+    Type(Box(*form, "txtCompany"), "Ace");
+    ClickAction(*form, "APPLY");
+    ASSERT_TRUE(contacts.isEnabled());
+    support::ClickOn(Find<QPushButton>(contacts, "cmdAdd"));
+    EXPECT_FALSE(form->Dirty());
+    Type(Find<QLineEdit>(contacts, "txtMobile"), "555");
+    EXPECT_TRUE(form->Dirty());
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Ask("SELECT dbType & ' ' & IdRelated & ' ' & Mobile FROM Contact"), "1 1000 555");
+    EXPECT_FALSE(form->Dirty());
+    EXPECT_EQ(Find<QListWidget>(contacts, "lvwContacts").currentRow(), 0);
+}
+
+TEST_F(AccountTest, LooksAndReadsRight) {
+    Run("UPDATE Account SET Company = 'River Bank', AccountNumber = '4711-0815', Phone = "
+        "'503-555-0100', Email = 'desk@river.example', Address1 = '1 Main St', City = 'Salem', "
+        "State = 'OR', Zip = '97301', TaxIDFed = '12-3456789' WHERE IdAccount = 60");
+    const auto form = Open(60);
+    auto& tabs = Find<QTabWidget>(*form, "tabs");
+    EXPECT_EQ(support::NameFaults(*form), Said{});
+    for (int page = 0; page < tabs.count(); ++page) {
+        tabs.setCurrentIndex(page);
+        const std::string name = FromScreen(tabs.tabText(page));
+        EXPECT_EQ(support::MnemonicFaults(*form), Said{}) << name;
+        EXPECT_EQ(support::TabOrderFaults(*form), Said{}) << name;
+        EXPECT_EQ(support::Portray(*form, "frmAccount" + std::to_string(page)), Said{}) << name;
+    }
+    EXPECT_LE(form->sizeHint().width(), 1280);
+    EXPECT_LE(form->sizeHint().height(), 760);
+}
+
+} // namespace

@@ -1,0 +1,186 @@
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTabWidget>
+
+#include "core/EditRecord.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "core/screens/MaskedEdit.h"
+#include "platform/qt/Text.h"
+#include "records/screens/frmTenant.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
+#include "support/screens/ScreenChecks.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using core::screens::MaskedEdit;
+using platform::qt::FromScreen;
+using records::screens::frmTenant;
+using support::Choose;
+using support::ClickAction;
+using support::Find;
+using support::Type;
+using Said = std::vector<std::string>;
+
+class TenantTest : public support::ScreenTest {
+  protected:
+    static QPointer<frmTenant> Open(std::int32_t id = 0) {
+        QPointer<frmTenant> form(new frmTenant);
+        form->Setup(id);
+        return form;
+    }
+    static QLineEdit& Box(const frmTenant& form, const char* name) {
+        for (const char* const page : {"tabTenant", "tabIdentity"}) {
+            auto* const box = Find<QWidget>(form, page).findChild<QLineEdit*>(QLatin1String(name));
+            if (box) return *box;
+        }
+        throw std::runtime_error(name);
+    }
+    static std::string Title(const frmTenant& form) {
+        return FromScreen(form.windowTitle()) + "|" +
+               FromScreen(Find<QLabel>(form, "lblTitle").text());
+    }
+    static core::screens::Grid& Incidents(const frmTenant& form) {
+        return *Find<QWidget>(form, "ucIncidents").findChild<core::screens::Grid*>();
+    }
+};
+
+TEST_F(TenantTest, ANewOneIsPendingAndNeedsALastName) {
+    const auto form = Open();
+    EXPECT_EQ(Title(*form), "Adding New Tenant|New Tenant (Press Apply to Save)");
+    auto& status = Find<QComboBox>(*form, "cboStatus");
+    EXPECT_EQ(status.count(), 5);
+    EXPECT_FALSE(Find<QWidget>(*form, "ucContacts").isEnabled());
+    Type(Box(*form, "txtLastName"), "  ");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{"Whoa!: The following errors have occured:\n\n"
+                            "A last name must be entered.\n"});
+    Type(Box(*form, "txtLastName"), "O'Neil");
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Title(*form), "Tenant: O'Neil|Editing Tenant: O'Neil");
+    EXPECT_EQ(Ask("SELECT Status & Selected & Kids & DOB FROM Tenant WHERE IdTenant = 1000"),
+              "PendingFalse0");
+    EXPECT_TRUE(Find<QWidget>(*form, "ucContacts").isEnabled());
+}
+
+TEST_F(TenantTest, EveryFieldIsWrittenAndReadBack) {
+    const std::vector<std::pair<const char*, std::string>> entries = {
+        {"txtLastName", "O'Neil \"Shaq\""},
+        {"txtFirstName", "\xF0\x9F\x98\x80"},
+        {"txtInitial", "B"},
+        {"txtSpouseName", std::string(256, 's')},
+        {"txtPhone", "1"},
+        {"txtAltPhone", "2"},
+        {"txtEmail", "a@b.example"},
+        {"txtWeb", "b.example"},
+        {"txtKids", "12"},
+        {"txtFICO", "850"},
+        {"dpDOB", "02/29/1992"},
+        {"txtSSN", "012-34-5678"},
+        {"txtDLN", "D 1"},
+        {"txtDLState", "OR"},
+        {"txtBankName", "River"},
+        {"txtBankRouting", "0111"},
+        {"txtBankAccount", "0222"},
+        {"txtCCType", "Visa"},
+        {"txtCCNum", "4111 1111"},
+        {"txtCCExp", "01/30"},
+        {"txtCCCVN", "007"}};
+    auto form = Open();
+    for (const auto& [name, text] : entries)
+        Box(*form, name).setText(platform::qt::ToScreen(text));
+    Choose(*form, "cboStatus", "Rejected");
+    Type(Find<QComboBox>(*form, "cboMaritalStatus"), "Widowed");
+    for (const char* const flag :
+         {"chkHide", "chkSelected", "chkEviction", "chkLawsuitPending", "chkBankrupcy"}) {
+        Find<QCheckBox>(*form, flag).click();
+    }
+    Find<QPlainTextEdit>(Find<QWidget>(*form, "tabTenant"), "txtNotes")
+        .setPlainText(QStringLiteral("n"));
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{});
+    form = Open(1000);
+    for (const auto& [name, text] : entries)
+        EXPECT_EQ(FromScreen(Box(*form, name).text()), text) << name;
+    EXPECT_EQ(Find<QComboBox>(*form, "cboStatus").currentText(), QStringLiteral("Rejected"));
+    EXPECT_EQ(Find<QComboBox>(*form, "cboMaritalStatus").currentText(), QStringLiteral("Widowed"));
+    EXPECT_EQ(Ask("SELECT Hide & Selected & Eviction & LawsuitPending & Bankrupcy & Notes "
+                  "FROM Tenant WHERE IdTenant = 1000"),
+              "TrueTrueTrueTrueTruen");
+    EXPECT_FALSE(form->Dirty());
+    EXPECT_GE(Find<QComboBox>(*Open(), "cboMaritalStatus").findText(QStringLiteral("Widowed")), 0)
+        << "offered again";
+}
+
+TEST_F(TenantTest, AStatusOfAnotherMakeIsKept) {
+    Run("UPDATE Tenant SET Status = 'On leave' WHERE IdTenant = 30");
+    auto form = Open(30);
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Status FROM Tenant WHERE IdTenant = 30"), "On leave");
+    form = Open(31);
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Status FROM Tenant WHERE IdTenant = 31"), "") << "none is not Pending";
+}
+
+TEST_F(TenantTest, NumbersThatAreNobodysBusinessShowOnlyWithTheFocus) {
+    const auto form = Open(30);
+    Find<QTabWidget>(*form, "tabs").setCurrentIndex(1);
+    QApplication::setActiveWindow(form);
+    for (const char* const name :
+         {"txtSSN", "txtBankRouting", "txtBankAccount", "txtCCNum", "txtCCCVN"}) {
+        auto& box = Find<MaskedEdit>(*form, name);
+        Box(*form, "txtDLN").setFocus();
+        box.setText(QStringLiteral("4711"));
+        EXPECT_EQ(box.displayText().count(QLatin1Char('4')), 0) << name;
+        box.setFocus();
+        EXPECT_EQ(box.displayText(), QStringLiteral("4711")) << name;
+    }
+}
+
+TEST_F(TenantTest, ListsItsIncidentsAndOpensThem) {
+    std::vector<core::EditRequest> opened;
+    core::RegisterOpener(core::kIncident,
+                         [&](const core::EditRequest& request) { opened.push_back(request); });
+    Run("INSERT INTO Incident (IdIncident, IdTenant, EntryDate, Severity, Description) "
+        "VALUES (500, 30, '02/29/2024', '2 - Warning', 'Loud')");
+    const auto form = Open(30);
+    EXPECT_EQ(support::GridText(Incidents(*form)),
+              "Entry Date|Severity|Description\n"
+              "02/29/2024|2 - Warning|Loud\n");
+    Run("UPDATE Incident SET Description = 'Quiet'");
+    core::NotifyAll(core::kIncident, core::kRecordsChanged, 0);
+    EXPECT_EQ(support::GridText(Incidents(*form)),
+              "Entry Date|Severity|Description\n"
+              "02/29/2024|2 - Warning|Quiet\n");
+    Q_EMIT Incidents(*form).RowChosen(500);
+    ASSERT_EQ(opened.size(), 1U);
+    EXPECT_EQ(opened[0], (core::EditRequest{core::kIncident, 500, 30, 0, 0}));
+    core::RegisterOpener(core::kIncident, {});
+}
+
+TEST_F(TenantTest, LooksAndReadsRight) {
+    Run("UPDATE Tenant SET Status = 'Current', Phone = '503-555-0100', Email = "
+        "'john@elm.example', SSN = '012-34-5678', CCNum = '4111 1111', BankName = 'River Bank' "
+        "WHERE IdTenant = 30");
+    const auto form = Open(30);
+    auto& tabs = Find<QTabWidget>(*form, "tabs");
+    EXPECT_EQ(support::NameFaults(*form), Said{});
+    for (int page = 0; page < tabs.count(); ++page) {
+        tabs.setCurrentIndex(page);
+        const std::string name = FromScreen(tabs.tabText(page));
+        EXPECT_EQ(support::MnemonicFaults(*form), Said{}) << name;
+        EXPECT_EQ(support::TabOrderFaults(*form), Said{}) << name;
+        EXPECT_EQ(support::Portray(*form, "frmTenant" + std::to_string(page)), Said{}) << name;
+    }
+    EXPECT_LE(form->sizeHint().width(), 1280);
+    EXPECT_LE(form->sizeHint().height(), 760);
+}
+
+} // namespace
