@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "books/screens/frmTransaction.h"
 #include "core/EditRecord.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
@@ -11,7 +12,10 @@
 #include "core/screens/frmHelp.h"
 #include "core/screens/frmPreferences.h"
 #include "platform/qt/QtDialogs.h"
+#include "records/screens/frmAccount.h"
+#include "records/screens/frmIncident.h"
 #include "records/screens/frmOwnerLink.h"
+#include "records/screens/frmTenant.h"
 
 namespace kestrom {
 
@@ -47,6 +51,28 @@ void RegisterPlatform() {
 }
 
 void RegisterEditors() {
+    for (const std::int16_t kind :
+         {core::kAccount, core::kBuildingOwnerAccount, core::kBuildingManagerAccount,
+          core::kVendorAccount, core::kInsuranceAccount, core::kMortgageeAccount,
+          core::kUtilityAccount}) {
+        core::RegisterOpener(kind, [kind](const core::EditRequest& request) {
+            (new records::screens::frmAccount)->Setup(request.id, core::AccountTypeOfKind(kind));
+        });
+    }
+    core::RegisterOpener(core::kTenant, [](const core::EditRequest& request) {
+        (new records::screens::frmTenant)->Setup(request.id);
+    });
+    core::RegisterOpener(core::kIncident, [](const core::EditRequest& request) {
+        (new records::screens::frmIncident)->Setup(request.id, request.parent1);
+    });
+    core::RegisterTransactionOpener(
+        core::TransactionEditor::Transaction,
+        [](const core::EditRequest& request, const core::TransactionPlace&) {
+            books::screens::TransactionSetup setup;
+            setup.idTransaction = request.id;
+            setup.idTemplate = request.parent2;
+            (new books::screens::frmTransaction)->Setup(setup);
+        });
     core::RegisterOpener(core::kOwner, [](const core::EditRequest& request) {
         (new records::screens::frmOwnerLink)->Setup(request.id, request.parent1);
     });

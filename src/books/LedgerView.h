@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/values/Date.h"
+
+namespace books {
+
+struct LedgerPeriod {
+    std::string_view text;
+    int days; ///< back from today, 0 for all
+};
+
+/// The periods that a ledger offers. Two years are a day more than two of 365.
+inline constexpr std::array<LedgerPeriod, 7> kLedgerPeriods = {{{"Last 30 days", 30},
+                                                                {"Last 60 days", 60},
+                                                                {"Last 90 days", 90},
+                                                                {"Last 180 days", 180},
+                                                                {"Last Year", 365},
+                                                                {"Last 2 Years", 731},
+                                                                {"All", 0}}};
+
+/// Whether a unit's ledger shows what is the unit's own, or its building's as a whole.
+enum class LedgerScope { Unit, Building };
+
+/// Whose transactions a ledger shows, and which of them.
+struct LedgerView {
+    std::int16_t dbType = 0; ///< account, tenant or unit
+    std::int32_t id = 0;
+    std::int32_t idBuilding = 0;
+    LedgerScope scope = LedgerScope::Unit;
+    int days = 0;
+};
+
+/// The select of the rows, newest first, the transaction's id in the first column; empty for a kind
+/// that has no ledger. An account's goes by the id alone, whatever kind stands beside it.
+std::string LedgerSql(const LedgerView& view, platform::Date today);
+
+/// The name that the grid's widths are kept under; empty for a kind without a ledger.
+std::string_view LedgerStoreName(std::int16_t dbType);
+
+} // namespace books

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "books/Categories.h"
+
+class QComboBox;
+
+namespace books::screens {
+
+// The box of categories: "No Category Selected", then those of the books; each item carries its
+// class. None of these makes the box tell of a change.
+
+/// Fills it; nothing is selected but the words.
+void FillCategories(QComboBox& box);
+/// Fills it again with what is selected kept, offered or not.
+void RefreshCategories(QComboBox& box);
+
+/// Puts a category before all others, and selects it.
+void PresetCategory(QComboBox& box, const Category& category);
+/// Selects the category of a row, which joins the list if it isn't offered.
+void ShowCategory(QComboBox& box, const Category& category);
+
+Category ChosenCategory(const QComboBox& box);
+
+} // namespace books::screens

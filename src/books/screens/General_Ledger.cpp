@@ -1,0 +1,111 @@
+#include "books/screens/General_Ledger.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRadioButton>
+
+#include "books/screens/frmTransaction.h"
+#include "core/EditRecord.h"
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "core/screens/ErrorRoll.h"
+#include "exchange/DeleteRecord.h"
+#include "platform/qt/Text.h"
+#include "platform/system/Clock.h"
+
+namespace books::screens {
+
+using core::screens::Guarded;
+
+General_Ledger::General_Ledger(QWidget* parent)
+    : RecordList(parent),
+      token_([this](std::int16_t kind, std::int16_t, std::int32_t) { NotifyUpdate(kind); }) {
+    MakeHead();
+    connect(cboDays_, &QComboBox::currentIndexChanged, this, &General_Ledger::PeriodChosen);
+    connect(optUnit_, &QRadioButton::toggled, this, &General_Ledger::ScopeChosen);
+    connect(this, &RecordList::AddAsked, this, &General_Ledger::Add);
+    connect(this, &RecordList::EditAsked, this,
+            [](std::int32_t id) { core::EditRecord(core::kTransaction, id); });
+    connect(this, &RecordList::DeleteAsked, this, [](std::int32_t id) {
+        Guarded([id] { exchange::DeleteRecord(core::kTransaction, id); });
+    });
+    List().setAccessibleName(tr("Transactions"));
+    List().setEnabled(false);
+}
+
+void General_Ledger::MakeHead() {
+    auto* const head = new QWidget(this);
+    auto* const row = new QHBoxLayout(head);
+    row->setContentsMargins(0, 0, 0, 0);
+    cboDays_ = new QComboBox(head);
+    cboDays_->setObjectName(QStringLiteral("cboDays"));
+    cboDays_->setAccessibleName(tr("Period"));
+    for (const LedgerPeriod& period : kLedgerPeriods)
+        cboDays_->addItem(platform::qt::ToScreen(period.text), period.days);
+    view_.days = kLedgerPeriods.front().days;
+    optBuilding_ = new QRadioButton(tr("Building"), head);
+    optBuilding_->setObjectName(QStringLiteral("optBuilding"));
+    optBuilding_->setToolTip(tr("What concerns the building as a whole, and no unit of it"));
+    optUnit_ = new QRadioButton(tr("Unit"), head);
+    optUnit_->setObjectName(QStringLiteral("optUnit"));
+    optUnit_->setToolTip(tr("What concerns this unit"));
+    optUnit_->setChecked(true);
+    optBuilding_->hide();
+    optUnit_->hide();
+    row->addWidget(cboDays_);
+    row->addWidget(optBuilding_);
+    row->addWidget(optUnit_);
+    SetHead(head);
+}
+
+void General_Ledger::SetParty(std::int16_t dbType, std::int32_t id, std::int32_t idBuilding) {
+    view_.dbType = dbType;
+    view_.id = id;
+    view_.idBuilding = idBuilding;
+    optBuilding_->setVisible(dbType == core::kUnit);
+    optUnit_->setVisible(dbType == core::kUnit);
+    Refresh();
+}
+
+void General_Ledger::Refresh() {
+    constexpr std::int32_t kNobody = -1;
+    const bool isSomebody = view_.id != 0;
+    Allow(isSomebody, isSomebody, isSomebody);
+    List().setEnabled(isSomebody);
+    LedgerView shown = view_;
+    if (!isSomebody) shown.id = shown.idBuilding = kNobody;
+    const std::string sql = LedgerSql(shown, platform::Today());
+    if (sql.empty()) return ShowNothing({});
+    Guarded([&] {
+        platform::Recordset rows;
+        rows.Open(core::App().Connection, sql);
+        ShowRows(std::move(rows), LedgerStoreName(view_.dbType));
+    });
+}
+
+void General_Ledger::PeriodChosen() {
+    view_.days = cboDays_->currentData().toInt();
+    Refresh();
+}
+
+void General_Ledger::ScopeChosen() {
+    view_.scope = optUnit_->isChecked() ? LedgerScope::Unit : LedgerScope::Building;
+    Refresh();
+}
+
+void General_Ledger::Add() {
+    TransactionSetup setup;
+    if (view_.dbType == core::kTenant) setup.references.idTenant = view_.id;
+    if (view_.dbType == core::kUnit) {
+        setup.references.idBuilding = view_.idBuilding;
+        if (view_.scope == LedgerScope::Unit) setup.references.idUnit = view_.id;
+    }
+    (new frmTransaction)->Setup(setup);
+}
+
+void General_Ledger::NotifyUpdate(std::int16_t kind) {
+    if (kind == core::kTransaction) Refresh();
+}
+
+} // namespace books::screens

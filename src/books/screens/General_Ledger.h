@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+
+#include "books/LedgerView.h"
+#include "core/NotifyAll.h"
+#include "core/screens/RecordList.h"
+
+class QComboBox;
+class QRadioButton;
+
+namespace books::screens {
+
+/// The transactions of an account, a tenant or a unit, newest first, with what adds, opens and
+/// deletes them. It keeps itself current.
+class General_Ledger : public core::screens::RecordList {
+    Q_OBJECT
+
+  public:
+    explicit General_Ledger(QWidget* parent = nullptr);
+
+    /// Whose transactions: an account, a tenant or a unit with its building. Nothing can be done
+    /// here while the id is 0.
+    void SetParty(std::int16_t dbType, std::int32_t id, std::int32_t idBuilding = 0);
+    void Refresh();
+
+  private:
+    void MakeHead();
+    void PeriodChosen();
+    void ScopeChosen();
+    void Add();
+    void NotifyUpdate(std::int16_t kind);
+
+    LedgerView view_;
+    QComboBox* cboDays_;
+    QRadioButton* optBuilding_;
+    QRadioButton* optUnit_;
+    core::NotifyToken token_;
+};
+
+} // namespace books::screens

@@ -1,0 +1,68 @@
+#include "books/screens/PartyBoxes.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include "books/PartyChoice.h"
+#include "core/RecordKinds.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/ErrorRoll.h"
+#include "platform/qt/Text.h"
+
+namespace books::screens {
+
+using core::screens::FillList;
+using core::screens::ReadCombo;
+
+PartyBoxes::PartyBoxes(QComboBox& type, QComboBox& party, QObject* parent)
+    : QObject(parent), type_(type), party_(party) {
+    const QSignalBlocker quiet(type_);
+    type_.addItem(tr("Account"), core::kAccount);
+    type_.addItem(tr("Tenant"), core::kTenant);
+    LetNamesStand();
+    connect(&type_, &QComboBox::currentIndexChanged, this,
+            [this] { core::screens::Guarded([this] { FillList(Type(), party_); }); });
+}
+
+/// A typed name that happens to be a later record's is still only a name: neither may the box
+/// complete it, nor look it up when it is left.
+void PartyBoxes::LetNamesStand() {
+    if (!party_.isEditable()) return;
+    party_.setInsertPolicy(QComboBox::NoInsert);
+    party_.setCompleter(nullptr);
+    disconnect(party_.lineEdit(), &QLineEdit::editingFinished, &party_, nullptr);
+}
+
+void PartyBoxes::Show(std::int16_t type, std::int32_t id) {
+    core::screens::SelectById(type_, type, {.selectFirst = true});
+    FillList(Type(), party_, {.selectedId = id});
+}
+
+void PartyBoxes::ShowStored(std::int32_t id, std::string_view name) {
+    FillList(Type(), party_);
+    core::ChoiceList list = ReadCombo(party_);
+    list.SetText(name);
+    if (id != 0) core::SelectById(list, id);
+    core::screens::ShowInCombo(list, party_);
+}
+
+void PartyBoxes::Refresh(std::int16_t kind) {
+    if (kind != Type()) return;
+    const bool isTyped = !ReadCombo(party_).Selected();
+    FillList(kind, party_, {.keepText = isTyped && party_.isEditable()});
+}
+
+std::int16_t PartyBoxes::Type() const {
+    return static_cast<std::int16_t>(core::screens::GetSelectedId(type_));
+}
+
+std::int32_t PartyBoxes::Id() const {
+    return PartyIdOf(ReadCombo(party_));
+}
+
+std::string PartyBoxes::Name() const {
+    return platform::qt::FromScreen(party_.currentText());
+}
+
+} // namespace books::screens

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QObject>
+#include <cstdint>
+
+class QComboBox;
+
+namespace books::screens {
+
+/// The two boxes that name one side of a transaction: what kind of party it is, and who. The second
+/// offers the records of the kind; where it can be typed in, any name will do.
+class PartyBoxes : public QObject {
+    Q_OBJECT
+
+  public:
+    PartyBoxes(QComboBox& type, QComboBox& party, QObject* parent);
+
+    /// Fills both for a kind and a record of it; the first record for id 0.
+    void Show(std::int16_t type, std::int32_t id);
+    /// Fills the second for the kind that the first shows now, as the row has it: a record, or only
+    /// a name.
+    void ShowStored(std::int32_t id, std::string_view name);
+    /// Records of a kind changed: who is named stays named.
+    void Refresh(std::int16_t kind);
+
+    std::int16_t Type() const;
+    std::int32_t Id() const;
+    std::string Name() const;
+
+  private:
+    void LetNamesStand();
+
+    QComboBox& type_;
+    QComboBox& party_;
+};
+
+} // namespace books::screens

@@ -1,0 +1,130 @@
+#include "books/screens/frmTransaction.h"
+
+#include "books/Reading.h"
+#include "books/SaveTransaction.h"
+#include "books/screens/CategoryBox.h"
+#include "core/Globals.h"
+#include "core/screens/Binding.h"
+#include "core/screens/ControlValue.h"
+#include "platform/qt/Text.h"
+#include "platform/system/Clock.h"
+#include "ui_frmTransaction.h"
+
+namespace books::screens {
+
+using core::screens::ReadValue;
+using platform::Recordset;
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+frmTransaction::frmTransaction(QWidget* parent)
+    : RecordForm({core::kTransaction, "Transactions", "IdTransaction"}, parent),
+      ui_(std::make_unique<Ui::frmTransaction>()) {
+    ui_->setupUi(this);
+    from_ = std::make_unique<PartyBoxes>(*ui_->cboFromType, *ui_->cboFrom, this);
+    to_ = std::make_unique<PartyBoxes>(*ui_->cboToType, *ui_->cboTo, this);
+    references_ = std::make_unique<ReferenceBoxes>(
+        ReferenceBoxes::Boxes{ui_->cboLease, ui_->cboTenant, ui_->cboBuilding, ui_->cboUnit,
+                              ui_->cboMortgage, ui_->cboWorkOrder},
+        this);
+    Wire();
+}
+
+frmTransaction::~frmTransaction() = default;
+
+void frmTransaction::Setup(const TransactionSetup& setup) {
+    cancelled_ = true;
+    transactionClass_ = setup.transactionClass;
+    flags_ = setup.flags;
+    OpenRecord(setup.idTransaction, [&] { FillNew(setup); });
+    if (Id() == 0 && setup.idTemplate != 0) MarkDirty();
+}
+
+void frmTransaction::SetupModal(const TransactionSetup& setup) {
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setWindowModality(Qt::ApplicationModal);
+    Setup(setup);
+    exec();
+}
+
+void frmTransaction::FillNew(const TransactionSetup& setup) {
+    ui_->dpEffectiveDate->SetDay(platform::Today());
+    ui_->txtAmount->SetAmount(setup.amount);
+    ui_->txtDescription->setText(ToScreen(setup.description));
+    FillCategories(*ui_->cboCategory);
+    if (!setup.category.empty()) PresetCategory(*ui_->cboCategory, ParseCategory(setup.category));
+    references_->Fill(setup.references);
+    from_->Show(setup.fromType, setup.fromId);
+    to_->Show(setup.toType, setup.toId);
+    if (setup.idTransaction == 0 && setup.idTemplate != 0) ShowTemplate(setup.idTemplate);
+}
+
+/// The copy is of today, and becomes a row of its own.
+void frmTransaction::ShowTemplate(std::int32_t idTemplate) {
+    Recordset row;
+    row.Open(core::App().Connection, "SELECT * FROM Transactions WHERE IdTransaction = ?",
+             platform::CursorMode::ReadOnly, {idTemplate});
+    if (row.Eof()) return;
+    ShowFields(row);
+    ui_->dpEffectiveDate->SetDay(platform::Today());
+}
+
+void frmTransaction::ShowRow(Recordset& row) {
+    ShowFields(row);
+    transactionClass_ = ShortOr0(row["Class"]);
+    flags_ = ShortOr0(row["Flags"]);
+    ui_->chkMileage->setChecked(LongOr0(row["IdMileage"]) != 0);
+}
+
+void frmTransaction::ShowFields(Recordset& row) {
+    RecordForm::ShowRow(row);
+    from_->ShowStored(LongOr0(row["DebitId"]), TextOf(row["DebitDesc"]));
+    to_->ShowStored(LongOr0(row["CreditId"]), TextOf(row["CreditDesc"]));
+    if (!row["TaxCategory"].IsNull()) {
+        ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), Ien{ShortOr0(row["IEN"])}});
+    }
+    references_->ShowAvailable();
+}
+
+void frmTransaction::ShowCaption() {
+    setWindowTitle(Id() == 0 ? tr("Adding New Transaction")
+                             : tr("Transaction: %1").arg(ui_->txtDescription->text()));
+}
+
+Transaction frmTransaction::Entered() const {
+    const References references = references_->Chosen();
+    const Category category = ChosenCategory(*ui_->cboCategory);
+    const platform::Date day = ui_->dpEffectiveDate->Day().value_or(platform::Date());
+    return {.dateEffective = day.IsSet() ? day : platform::Today(),
+            .debit = {from_->Type(), from_->Id(), from_->Name()},
+            .credit = {to_->Type(), to_->Id(), to_->Name()},
+            .amount = ReadValue(*ui_->txtAmount, '$')->AsCurrency(),
+            .taxCategory = category.text,
+            .ien = category.ien,
+            .checkNumber = FromScreen(ui_->txtCheckNumber->text()),
+            .description = FromScreen(ui_->txtDescription->text()),
+            .transactionClass = transactionClass_,
+            .flags = flags_,
+            .idTenant = references.idTenant,
+            .idBuilding = references.idBuilding,
+            .idUnit = references.idUnit,
+            .idLease = references.idLease,
+            .idMortgage = references.idMortgage,
+            .idWorkOrder = references.idWorkOrder};
+}
+
+void frmTransaction::Store() {
+    const Transaction entered = Entered();
+    SetId(SaveTransaction(Id(), entered, ui_->chkMileage->isChecked() ? Trip::Keep : Trip::None));
+    cancelled_ = false;
+    amount_ = entered.amount;
+}
+
+void frmTransaction::Refresh(std::int16_t kind) {
+    if (kind == core::kTransCategory) RefreshCategories(*ui_->cboCategory);
+    from_->Refresh(kind);
+    to_->Refresh(kind);
+    references_->Refresh(kind);
+}
+
+} // namespace books::screens

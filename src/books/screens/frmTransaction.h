@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "books/PostTransaction.h"
+#include "books/screens/PartyBoxes.h"
+#include "books/screens/ReferenceBoxes.h"
+#include "core/RecordKinds.h"
+#include "core/screens/RecordForm.h"
+
+namespace Ui {
+class frmTransaction;
+}
+
+namespace books::screens {
+
+/// What the transaction screen opens with. All but the first and the last two matters only to a new
+/// row.
+struct TransactionSetup {
+    std::int32_t idTransaction = 0;
+    std::int16_t fromType = core::kAccount;
+    std::int32_t fromId = 0;
+    std::int16_t toType = core::kAccount;
+    std::int32_t toId = 0;
+    /// Text, "|", class: "Deposit Refund|2". Empty for none.
+    std::string category;
+    platform::Currency amount;
+    std::string description;
+    References references;
+    /// A transaction to copy, 0 for none.
+    std::int32_t idTemplate = 0;
+    std::int16_t transactionClass = 0;
+    std::int16_t flags = 0;
+};
+
+/// A movement of money.
+class frmTransaction : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmTransaction(QWidget* parent = nullptr);
+    ~frmTransaction() override;
+
+    void Setup(const TransactionSetup& setup);
+    /// The same, and waits until the screen is closed; the caller, who owns the screen, then asks
+    /// what became of it.
+    void SetupModal(const TransactionSetup& setup);
+
+    /// False once a save succeeded.
+    bool Cancelled() const { return cancelled_; }
+    /// The amount at the last save.
+    platform::Currency Amount() const { return amount_; }
+
+  protected:
+    void ShowRow(platform::Recordset& row) override;
+    void ShowCaption() override;
+    void Store() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    void FillNew(const TransactionSetup& setup);
+    void ShowTemplate(std::int32_t idTemplate);
+    void ShowFields(platform::Recordset& row);
+    Transaction Entered() const;
+
+    std::unique_ptr<Ui::frmTransaction> ui_;
+    std::unique_ptr<PartyBoxes> from_;
+    std::unique_ptr<PartyBoxes> to_;
+    std::unique_ptr<ReferenceBoxes> references_;
+    std::int16_t transactionClass_ = 0;
+    std::int16_t flags_ = 0;
+    bool cancelled_ = true;
+    platform::Currency amount_;
+};
+
+} // namespace books::screens
