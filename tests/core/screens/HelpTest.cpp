@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QHelpContentModel>
 #include <QHelpLink>
+#include <QHelpSearchEngine>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QTest>
@@ -69,6 +70,33 @@ TEST_F(HelpTest, TheIndexLeadsToThePagesOfItsWords) {
         form->Engine().documentsForKeyword(QStringLiteral("primary owner"));
     ASSERT_EQ(links.size(), 1);
     EXPECT_TRUE(links.front().url.path().endsWith(QStringLiteral("frmOwnerLink.html")));
+}
+
+TEST_F(HelpTest, TheSearchFindsTheWordsInThePages) {
+    const auto form = Open(QStringLiteral("search"));
+    QHelpSearchEngine& search = *form->Engine().searchEngine();
+    int left = 0;
+    QObject::connect(&search, &QHelpSearchEngine::indexingFinished, form, [&] { ++left; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return left > 0; }, 20000)) << "the pages are read first";
+    for (const auto& [words, page] : {std::pair{"speaks for the building", "frmOwnerLink.html"},
+                                      {"week to week", "frmConfig.html"},
+                                      {"xyzzy", ""}}) {
+        bool done = false;
+        const auto connection = QObject::connect(&search, &QHelpSearchEngine::searchingFinished,
+                                                 form, [&] { done = true; });
+        search.search(QString::fromLatin1(words));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return done; }, 20000)) << words;
+        QObject::disconnect(connection);
+        QStringList found;
+        for (const QHelpSearchResult& result : search.searchResults(0, search.searchResultCount()))
+            found << result.url().fileName();
+        if (*page == 0) {
+            EXPECT_TRUE(found.isEmpty()) << words;
+        } else {
+            EXPECT_TRUE(found.contains(QString::fromLatin1(page)))
+                << words << ": " << found.join(QLatin1Char(' ')).toStdString();
+        }
+    }
 }
 
 TEST_F(HelpTest, TheContentsNameEveryPage) {
