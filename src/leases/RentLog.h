@@ -17,12 +17,12 @@ struct RentLogEntry {
     std::int32_t idLease = 0;
     /// The paying transaction, 0 while the row is open.
     std::int32_t idTransaction = 0;
-    platform::Date datePosted;
+    platform::Date datePosted{};
     RentClass rentClass = RentClass::Rent;
-    std::string category;
+    std::string category{};
     /// Positive is owed by the tenant.
-    platform::Currency amount;
-    std::string description;
+    platform::Currency amount{};
+    std::string description{};
     RentFlags flags = RentFlags::Ordinary;
 };
 

@@ -4,8 +4,12 @@
 
 #include "core/Globals.h"
 #include "leases/Crashes.h"
+#include "leases/LeaseCommands.h"
+#include "leases/LeaseEditor.h"
 #include "leases/LeaseFixture.h"
+#include "leases/LeaseWizard.h"
 #include "leases/RentPayment.h"
+#include "leases/RentSplit.h"
 #include "leases/mLease.h"
 #include "platform/system/Clock.h"
 #include "support/TemporaryFolder.h"
@@ -14,6 +18,7 @@ namespace tests {
 
 namespace {
 
+using leases::LeaseCommand;
 using leases::RentClass;
 using leases::RentPayment;
 using platform::Date;
@@ -28,6 +33,9 @@ class Crash : public testing::Test {
         leases::UpdateLeaseById(kLeaseId, leases::WalkMode::CatchUp);
     }
 
+    static std::string Scalar(std::string_view sql) {
+        return core::App().Connection.Scalar(sql)->AsText();
+    }
     static void ExpectWhole(const Crashes& crashes, int atLeast) {
         EXPECT_EQ(crashes.faults, std::vector<std::string>());
         EXPECT_GE(crashes.statements, atLeast);
@@ -63,6 +71,54 @@ TEST_F(Crash, ACatchUpRunIsNeverHalf) {
                     leases::UpdateLeaseById(kLeaseId, leases::WalkMode::CatchUp);
                 }),
                 10);
+}
+
+TEST_F(Crash, ASplitIsNeverHalf) {
+    const std::string id = Scalar("SELECT IdRentLog FROM RentLog WHERE Flags = 1");
+    ExpectWhole(CrashAtEveryStatement([&] {
+                    auto split = leases::ReadSplit(std::stoi(id));
+                    split->parts[0].amount = platform::Currency::FromUnits(400);
+                    split->parts[1].amount = platform::Currency::FromUnits(600);
+                    leases::SaveSplit(*split);
+                }),
+                8);
+}
+
+TEST_F(Crash, ACommandIsNeverHalf) {
+    for (const LeaseCommand command : {LeaseCommand::Reprocess, LeaseCommand::RollForward,
+                                       LeaseCommand::GiveNotice, LeaseCommand::BreakLease}) {
+        if (command == LeaseCommand::RollForward) SetLeaseField("DateNextDue", "06/01/2024");
+        ExpectWhole(CrashAtEveryStatement(
+                        [&] { leases::RunCommand(command, kLeaseId, /*noticeDays=*/30); }),
+                    5);
+    }
+}
+
+TEST_F(Crash, AWizardsLeaseIsNeverHalf) {
+    core::App().Connection.Execute(
+        "INSERT INTO Deposit (IdDeposit, IdBuilding, IdUnit, IsGlobal, Description, Amount) "
+        "VALUES (300, 0, 0, True, 'Damage', 200)");
+    ExpectWhole(CrashAtEveryStatement([] {
+                    leases::FinishLeaseWizard({.newProperty = true,
+                                               .address = "1 Oak",
+                                               .newTenant = true,
+                                               .lastName = "New",
+                                               .startDate = Date(2024, 2, 1),
+                                               .rent = platform::Currency::FromUnits(700)});
+                }),
+                15);
+}
+
+TEST_F(Crash, ASaveOfANewLeaseIsNeverHalf) {
+    ExpectWhole(CrashAtEveryStatement([] {
+                    platform::Recordset row;
+                    leases::ProposeLease(row);
+                    row["IdLease"].Set(std::int32_t{900});
+                    row["IdUnit"].Set(kUnitId);
+                    row["IdTenant"].Set(kTenantId);
+                    leases::SaveLease(row, leases::LeaseAge::New);
+                }),
+                5);
 }
 
 TEST_F(Crash, WorkWithoutAUnitIsFoundHalfDone) {

@@ -9,14 +9,12 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "leases/BooksTest.h"
 #include "leases/Crashes.h"
-#include "leases/LeaseFixture.h"
 #include "leases/PaymentOutlook.h"
 #include "leases/RentLog.h"
 #include "leases/mLease.h"
 #include "platform/system/Clock.h"
-#include "platform/values/Format.h"
-#include "support/TemporaryFolder.h"
 
 namespace tests {
 
@@ -28,32 +26,10 @@ using leases::RentFlags;
 using leases::RentPayment;
 using platform::Currency;
 using platform::Date;
-using Lines = std::vector<std::string>;
 
-class Payment : public testing::Test {
+class Payment : public BooksTest {
   protected:
-    /// The lease has been charged up to today, so that the rows are the test's own.
-    Payment() : books_(folder_.Path() / "db") {
-        platform::SetToday(Date(2024, 3, 5));
-        SetLeaseField("DateUpdated", "03/05/2024");
-    }
-
-    static std::string Ask(std::string_view sql) {
-        const auto value = core::App().Connection.Scalar(sql);
-        if (!value) return "-";
-        return value->IsNull() ? "null" : value->AsText();
-    }
     static std::string Next() { return Ask("SELECT DateNextDue FROM Lease"); }
-    static std::int32_t Charge(Date day, int units, RentFlags flags = RentFlags::Ordinary,
-                               RentClass rentClass = RentClass::Rent) {
-        return leases::WriteRentLog({.idLease = kLeaseId,
-                                     .datePosted = day,
-                                     .rentClass = rentClass,
-                                     .category = flags == RentFlags::PeriodRent ? "Rent" : "Fee",
-                                     .amount = Currency::FromUnits(units),
-                                     .description = fmt::format("{} on {}", units, day.ToText()),
-                                     .flags = flags});
-    }
     static std::int32_t Rent(Date day) { return Charge(day, 1000, RentFlags::PeriodRent); }
     /// The payment with just these charges ticked, by their place.
     static RentPayment Ticking(const std::vector<bool>& ticks) {
@@ -63,22 +39,6 @@ class Payment : public testing::Test {
             payment.charges[i].selected = ticks[i];
         return payment;
     }
-    /// The ledger: date, flags, amount, and the transaction (+ for one, - for none).
-    static Lines Ledger() {
-        Lines lines;
-        platform::Recordset rows;
-        rows.Open(core::App().Connection, "SELECT * FROM RentLog ORDER BY IdRentLog");
-        for (; !rows.Eof(); rows.MoveNext()) {
-            lines.push_back(fmt::format("{} {} {} {}", rows["DatePosted"].AsText(),
-                                        rows["Flags"].AsText(),
-                                        platform::FormatMoney(rows["Amount"].AsCurrency()),
-                                        rows["IdTransaction"].AsLong() == 0 ? '-' : '+'));
-        }
-        return lines;
-    }
-
-    support::TemporaryFolder folder_;
-    BooksWithOneLease books_;
 };
 
 TEST_F(Payment, WritesTheTransactionFieldByField) {
@@ -182,7 +142,7 @@ TEST_F(Payment, MovesTheNextDueDateOncePerPeriodsRentAndSaysSoBefore) {
                   "Nothing is ticked: a payment of 0.00 will be posted"},
          }) {
         SCOPED_TRACE(c.outlook);
-        core::App().Connection.Execute("DELETE * FROM RentLog");
+        Run("DELETE * FROM RentLog");
         SetLeaseField("TermType", c.termType);
         SetLeaseField("DateNextDue", c.due);
         Rent(Date(2024, 1, 1));
@@ -240,8 +200,8 @@ TEST_F(Payment, OfOtherClassesLeavesTheNextDueDateAndKnowsItsAccount) {
          {Case{RentClass::Subsidy, "0", "Rent Subsidy Payment", "Housing Aid", "106"},
           Case{RentClass::Deposit, "2", "Deposit Payment", "O'Brien, Ann", "105"}}) {
         SCOPED_TRACE(c.word);
-        core::App().Connection.Execute("DELETE * FROM RentLog");
-        core::App().Connection.Execute("DELETE * FROM Transactions");
+        Run("DELETE * FROM RentLog");
+        Run("DELETE * FROM Transactions");
         SetLeaseField("RentAccount", "105");
         Charge(Date(2024, 1, 1), 300, RentFlags::PeriodRent, c.rentClass);
         RentPayment payment = leases::ProposePayment(kLeaseId, c.rentClass);
@@ -407,7 +367,7 @@ TEST_F(EditedPayment, RewritesWhatIsEnteredAndKeepsWhatWasExported) {
 
 TEST_F(EditedPayment, ComesBackUnderItsNumberWhenItHasGone) {
     const RentPayment payment = Read();
-    core::App().Connection.Execute("DELETE * FROM Transactions");
+    Run("DELETE * FROM Transactions");
     core::App().Connection.Execute("DELETE * FROM RentLog WHERE Flags = 2");
     leases::SubmitPayment(payment, leases::LeaseUpdate::No);
     EXPECT_EQ(Ask("SELECT IdTransaction FROM Transactions WHERE Amount = 1040"),

@@ -1,0 +1,126 @@
+#include "leases/LeaseEditor.h"
+
+#include "core/Configuration.h"
+#include "core/Globals.h"
+#include "leases/ChargeDeposits.h"
+#include "leases/LeaseStatus.h"
+#include "leases/RentCodes.h"
+#include "leases/RentLog.h"
+#include "leases/mLease.h"
+#include "platform/system/Clock.h"
+
+namespace leases {
+
+using platform::CursorMode;
+using platform::Date;
+using platform::Interval;
+using platform::Recordset;
+
+namespace {
+
+void OpenLease(Recordset& row, std::int32_t idLease) {
+    row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?", CursorMode::Updatable,
+             {idLease});
+}
+
+void BeginLease(Recordset& row) {
+    row["DateCreated"].Set(platform::Today().ToText());
+    row["DateRenewed"].Set(row["DateActive"].Value());
+    row["DateVacating"].Set("");
+    row["Status"].Set(status::kPending);
+    row["RentAccount"].Set(core::Config().DefaultRentAccount);
+    row["DepositAccount"].Set(core::Config().DefaultDepositAccount);
+    ChargeDeposits(row["IdLease"].AsLong(), row["IdUnit"].AsLong());
+}
+
+} // namespace
+
+Date FirstOfNextMonth() {
+    const Date today = platform::Today();
+    return DateAdd(Interval::Month, 1, Date(today.Year(), today.Month(), 1));
+}
+
+void ProposeLease(Recordset& row) {
+    row.Open(core::App().Connection, "Lease", CursorMode::AppendOnly);
+    row.AddNew();
+    for (const auto* date : {"DateActive", "DateRenewed", "DateNextDue"})
+        row[date].Set(FirstOfNextMonth().ToText());
+    row["DateVacating"].Set("");
+    const core::ConfigValues& config = core::Config();
+    row["TermType"].Set(config.TermType);
+    row["Term"].Set(config.Term);
+    row["ExpireOption"].Set(config.ExpireOption);
+    row["Discount"].Set(config.Discount);
+    row["DiscountDays"].Set(config.DiscountDays);
+    row["OneTimeFee"].Set(config.OneTimeFee);
+    row["OneTimeDays"].Set(config.OneTimeDays);
+    row["DailyFee"].Set(config.DailyFee);
+    row["DailyDays"].Set(config.DailyDays);
+    row["EvictDays"].Set(config.EvictDays);
+    row["BreakFee"].Set(config.BreakFee);
+    row["NoticeDays"].Set(config.NoticeDays);
+}
+
+std::vector<std::string> LeaseErrors(const LeaseEntry& entry) {
+    std::vector<std::string> lines;
+    if (entry.idUnit == 0) lines.emplace_back("A unit must be specified.");
+    if (entry.idTenant == 0) lines.emplace_back("A tenant must be specified.");
+    if (entry.rent.IsZero()) lines.emplace_back("Rent rate should not be zero.");
+    return lines;
+}
+
+void SaveLease(Recordset& row, LeaseAge age) {
+    platform::UnitOfWork unit(core::App().Connection);
+    const bool isNew = age == LeaseAge::New;
+    if (isNew) BeginLease(row);
+    SetLeaseStatus(row, platform::Today(), isNew ? StatusChange::Force : StatusChange::IfDifferent);
+    // The screen showed the balances rounded, and may have shown them for long.
+    SetLeaseBalances(row);
+    SetRentStatus(row);
+    row.Update();
+    unit.Commit();
+}
+
+LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view word) {
+    LeaseAvailability can;
+    if (age == LeaseAge::New) {
+        can.runs = false;
+        can.dateRenewed = false;
+        can.dateVacating = false;
+        can.parties = true;
+    } else if (word == status::kPending) {
+        can.breakLease = true;
+        can.dateVacating = false;
+        can.blankVacating = true;
+    } else if (word == status::kNotice) {
+        can.cancelNotice = true;
+        can.dateActive = false;
+    } else if (IsOver(word)) {
+        can.renewLease = true;
+        can.dateActive = false;
+    } else if (IsCharged(word)) {
+        can.breakLease = true;
+        can.giveNotice = true;
+        can.dateActive = false;
+        can.dateVacating = false;
+        can.blankVacating = true;
+    }
+    return can;
+}
+
+bool HasEnd(std::string_view termType) {
+    return termType != status::kMonthToMonth && termType != status::kWeekToWeek;
+}
+
+void ReadBalances(Recordset& row, std::int32_t idLease) {
+    OpenLease(row, idLease);
+    if (!row.Eof()) SetLeaseBalances(row);
+}
+
+void StoreBalances(std::int32_t idLease) {
+    Recordset row;
+    ReadBalances(row, idLease);
+    if (!row.Eof()) row.Update();
+}
+
+} // namespace leases

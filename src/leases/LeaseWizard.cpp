@@ -1,0 +1,162 @@
+#include "leases/LeaseWizard.h"
+
+#include "core/Configuration.h"
+#include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "core/Session.h"
+#include "leases/ChargeDeposits.h"
+#include "leases/LeaseEditor.h"
+#include "leases/RentCodes.h"
+#include "leases/mLease.h"
+#include "platform/database/Recordset.h"
+#include "platform/system/Clock.h"
+#include "platform/values/Text.h"
+
+namespace leases {
+
+using platform::CursorMode;
+using platform::Recordset;
+
+namespace {
+
+constexpr std::string_view kNotes = "Added by Lease Wizard";
+
+/// Starts a row of a table under a new id, which is answered.
+std::int32_t AddRow(Recordset& row, std::string_view table, std::string_view idField) {
+    row.Open(core::App().Connection, table, CursorMode::AppendOnly);
+    row.AddNew();
+    const std::int32_t id = core::NextId();
+    row[idField].Set(id);
+    row["Hide"].Set(false);
+    row["Selected"].Set(false);
+    return id;
+}
+
+void Keep(Recordset& row) {
+    core::RepairNulls(row, nullptr);
+    row.Update();
+}
+
+std::int32_t AddUnit(const LeaseWizardEntry& entry) {
+    Recordset row;
+    const std::int32_t idBuilding = AddRow(row, "Building", "IdBuilding");
+    row["Multi"].Set(false);
+    row["Address"].Set(entry.address);
+    row["City"].Set(entry.city);
+    row["County"].Set(entry.county);
+    row["State"].Set(entry.state);
+    row["Zip"].Set(entry.zip);
+    row["Notes"].Set(kNotes);
+    Keep(row);
+
+    const std::int32_t idUnit = AddRow(row, "Unit", "IdUnit");
+    row["IdBuilding"].Set(idBuilding);
+    row["Status"].Set("Leased");
+    row["Rent"].Set(entry.rent);
+    Keep(row);
+    return idUnit;
+}
+
+std::int32_t AddTenant(const LeaseWizardEntry& entry) {
+    Recordset row;
+    const std::int32_t id = AddRow(row, "Tenant", "IdTenant");
+    row["Status"].Set("Current");
+    row["LastName"].Set(entry.lastName);
+    row["FirstName"].Set(entry.firstName);
+    row["Notes"].Set(kNotes);
+    Keep(row);
+    return id;
+}
+
+/// What every lease of the wizard starts with, whatever was asked.
+void SetSettings(Recordset& row) {
+    const core::ConfigValues& config = core::Config();
+    row["ExpireOption"].Set(config.ExpireOption);
+    row["DepositAccount"].Set(config.DefaultDepositAccount);
+    row["RentAccount"].Set(config.DefaultRentAccount);
+    row["Subs"].Set(false);
+    row["Discount"].Set(config.Discount);
+    row["DiscountDays"].Set(config.DiscountDays);
+    row["DailyFee"].Set(config.DailyFee);
+    row["DailyDays"].Set(config.DailyDays);
+    row["EvictDays"].Set(config.EvictDays);
+    row["BreakFee"].Set(config.BreakFee);
+    row["NoticeDays"].Set(config.NoticeDays);
+    row["LastPaid"].Set(platform::Currency());
+    row["Option"].Set(false);
+    row["Notes"].Set(kNotes);
+}
+
+std::int32_t AddLease(const LeaseWizardEntry& entry, std::int32_t idUnit, std::int32_t idTenant) {
+    Recordset row;
+    const std::int32_t id = AddRow(row, "Lease", "IdLease");
+    row["IdUnit"].Set(idUnit);
+    row["IdTenant"].Set(idTenant);
+    row["DateCreated"].Set(platform::Today().ToText());
+    for (const auto* date : {"DateActive", "DateRenewed", "DateNextDue"})
+        row[date].Set(entry.startDate.ToText());
+    row["Status"].Set(status::kPending);
+    row["TermType"].Set(entry.termType);
+    row["Term"].Set(entry.term);
+    row["Rent"].Set(entry.rent);
+    row["OneTimeFee"].Set(entry.lateFee);
+    row["OneTimeDays"].Set(entry.lateDays);
+    SetSettings(row);
+    core::RepairNulls(row, nullptr);
+    UpdateLease(row, WalkMode::Reprocess);
+    return id;
+}
+
+void TellScreens(const LeaseWizardEntry& entry) {
+    const auto tell = [](std::int16_t kind) { core::NotifyAll(kind, core::kRecordsChanged, 0); };
+    if (entry.newProperty) tell(core::kBuilding);
+    tell(core::kUnit);
+    tell(core::kTenant);
+    tell(core::kLease);
+}
+
+} // namespace
+
+std::vector<std::string> LeaseWizardErrors(LeaseWizardStep step, const LeaseWizardEntry& entry) {
+    const auto isBlank = [](const std::string& text) { return platform::Trim(text).empty(); };
+    switch (step) {
+        case LeaseWizardStep::Property:
+            if (entry.newProperty && isBlank(entry.address)) {
+                return {"A valid address has not been entered."};
+            }
+            if (!entry.newProperty && entry.idUnit == 0) {
+                return {"A valid property has not been selected."};
+            }
+            return {};
+        case LeaseWizardStep::Tenant:
+            if (entry.newTenant && isBlank(entry.lastName)) {
+                return {"A valid last name has not been entered."};
+            }
+            if (!entry.newTenant && entry.idTenant == 0) {
+                return {"A valid tenant has not been selected."};
+            }
+            return {};
+        case LeaseWizardStep::Summary:
+            if (!entry.startDate.IsSet()) return {"A valid start date has not been selected."};
+            return {};
+        case LeaseWizardStep::Introduction:
+        case LeaseWizardStep::Terms:
+            break;
+    }
+    return {};
+}
+
+std::int32_t FinishLeaseWizard(const LeaseWizardEntry& entry) {
+    platform::UnitOfWork unit(core::App().Connection);
+    const std::int32_t idUnit = entry.newProperty ? AddUnit(entry) : entry.idUnit;
+    const std::int32_t idTenant = entry.newTenant ? AddTenant(entry) : entry.idTenant;
+    const std::int32_t idLease = AddLease(entry, idUnit, idTenant);
+    ChargeDeposits(idLease, idUnit);
+    StoreBalances(idLease);
+    unit.Commit();
+    TellScreens(entry);
+    return idLease;
+}
+
+} // namespace leases

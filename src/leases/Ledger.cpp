@@ -1,0 +1,130 @@
+#include "leases/Ledger.h"
+
+#include <algorithm>
+#include <ranges>
+
+#include "core/Descriptions.h"
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "leases/RentLog.h"
+#include "leases/mLease.h"
+#include "platform/database/Recordset.h"
+#include "platform/system/Clock.h"
+
+namespace leases {
+
+using platform::Currency;
+using platform::CursorMode;
+using platform::Recordset;
+
+namespace {
+
+std::string_view Filter(LedgerRows rows) {
+    switch (rows) {
+        case LedgerRows::Open:
+            return "AND (IdTransaction = 0) ";
+        case LedgerRows::Settled:
+            return "AND (IdTransaction <> 0) ";
+        case LedgerRows::All:
+            break;
+    }
+    return "";
+}
+
+LedgerRow ReadRow(Recordset& rows) {
+    const auto text = [&](std::string_view field) {
+        return rows[field].IsNull() ? std::string() : rows[field].AsText();
+    };
+    LedgerRow row;
+    row.idRentLog = rows["IdRentLog"].AsLong();
+    if (!rows["Flags"].IsNull()) row.flags = RentFlags{rows["Flags"].AsInteger()};
+    if (!rows["DatePosted"].IsBlank()) row.datePosted = rows["DatePosted"].AsDate();
+    row.category = text("Category");
+    row.description = text("Description");
+    if (!rows["Amount"].IsNull()) row.amount = rows["Amount"].AsCurrency();
+    return row;
+}
+
+books::Transaction DepositTransaction(std::int32_t idLease, RentFlags flags) {
+    Recordset lease;
+    lease.Open(core::App().Connection,
+               "SELECT IdTenant, DepositAccount, DepositBalance FROM Lease WHERE IdLease = ?",
+               CursorMode::ReadOnly, {idLease});
+    if (lease.Eof()) {
+        throw platform::DatabaseError("There is no lease " + std::to_string(idLease));
+    }
+    const LeaseLinks links = GetLeaseLinks(idLease);
+    const std::int32_t idAccount =
+        lease["DepositAccount"].IsNull() ? 0 : lease["DepositAccount"].AsLong();
+    books::Transaction transaction;
+    transaction.dateEffective = platform::Today();
+    transaction.debit = {core::kAccount, idAccount,
+                         core::GetDescription(core::kAccount, idAccount)};
+    transaction.transactionClass = static_cast<std::int16_t>(RentClass::Deposit);
+    transaction.flags = static_cast<std::int16_t>(flags);
+    transaction.idLease = idLease;
+    transaction.idTenant = links.idTenant;
+    transaction.idUnit = links.idUnit;
+    transaction.idBuilding = links.idBuilding;
+    if (!lease["DepositBalance"].IsNull()) {
+        transaction.amount = lease["DepositBalance"].AsCurrency();
+    }
+    return transaction;
+}
+
+} // namespace
+
+std::vector<LedgerRow> ReadLedger(std::int32_t idLease, const LedgerTab& tab) {
+    Recordset rows;
+    rows.Open(core::App().Connection,
+              "SELECT IdRentLog, Flags, DatePosted, Category, Description, Amount FROM RentLog "
+              "WHERE (IdLease = ?) AND (Class = ?) " +
+                  std::string(Filter(tab.rows)) +
+                  "ORDER BY DateValue(DatePosted) DESC, IdRentLog DESC",
+              CursorMode::ReadOnly, {idLease, static_cast<std::int16_t>(tab.rentClass)});
+    std::vector<LedgerRow> ledger;
+    for (; !rows.Eof(); rows.MoveNext())
+        ledger.push_back(ReadRow(rows));
+    if (tab.rows != LedgerRows::Open) return ledger;
+    Currency total;
+    for (LedgerRow& row : std::views::reverse(ledger)) {
+        total += row.amount;
+        row.openTotal = total;
+    }
+    return ledger;
+}
+
+books::Transaction ProposeDepositRefund(std::int32_t idLease) {
+    books::Transaction refund = DepositTransaction(idLease, RentFlags::DepositRefund);
+    refund.credit = {core::kTenant, refund.idTenant,
+                     core::GetDescription(core::kTenant, refund.idTenant)};
+    refund.taxCategory = refund.description = "Deposit Refund";
+    refund.ien = books::Ien::Unclassified;
+    return refund;
+}
+
+books::Transaction ProposeDepositCharge(std::int32_t idLease) {
+    books::Transaction charge = DepositTransaction(idLease, RentFlags::DepositCharge);
+    charge.credit = {core::kAccount, 0, ""};
+    charge.taxCategory = charge.description = "Deposit Charge";
+    charge.ien = books::Ien::Income;
+    return charge;
+}
+
+void WriteDepositRow(std::int32_t idTransaction, const books::Transaction& transaction) {
+    const RentFlags flags{transaction.flags};
+    if (flags != RentFlags::DepositRefund && flags != RentFlags::DepositCharge) return;
+    const auto row = core::App().Connection.Scalar(
+        "SELECT IdRentLog FROM RentLog WHERE IdTransaction = ?", {idTransaction});
+    WriteRentLog({.idLease = transaction.idLease,
+                  .idTransaction = idTransaction,
+                  .datePosted = transaction.dateEffective,
+                  .rentClass = RentClass{transaction.transactionClass},
+                  .category = transaction.taxCategory,
+                  .amount = transaction.amount,
+                  .description = transaction.description,
+                  .flags = flags},
+                 row && !row->IsNull() ? row->AsLong() : 0);
+}
+
+} // namespace leases

@@ -1,0 +1,115 @@
+#include "leases/RentSplit.h"
+
+#include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "exchange/DeleteRecord.h"
+#include "leases/ChargeEditor.h"
+#include "leases/LeaseEditor.h"
+#include "platform/database/Recordset.h"
+
+namespace leases {
+
+using platform::Currency;
+using platform::CursorMode;
+using platform::Recordset;
+
+namespace {
+
+RentLogEntry ReadEntry(Recordset& row) {
+    const auto text = [&](std::string_view field) {
+        return row[field].IsNull() ? std::string() : row[field].AsText();
+    };
+    RentLogEntry entry;
+    entry.idLease = row["IdLease"].AsLong();
+    entry.idTransaction = row["IdTransaction"].AsLong();
+    if (!row["DatePosted"].IsBlank()) entry.datePosted = row["DatePosted"].AsDate();
+    entry.rentClass = RentClass{row["Class"].AsInteger()};
+    entry.category = text("Category");
+    if (!row["Amount"].IsNull()) entry.amount = row["Amount"].AsCurrency();
+    entry.description = text("Description");
+    if (!row["Flags"].IsNull()) entry.flags = RentFlags{row["Flags"].AsInteger()};
+    return entry;
+}
+
+void OpenCharge(Recordset& row, std::int32_t idRentLog) {
+    row.Open(core::App().Connection, "SELECT * FROM RentLog WHERE IdRentLog = ?",
+             CursorMode::ReadOnly, {idRentLog});
+}
+
+/// Two parts in the place of a charge that was paid meanwhile would be owed once more.
+void CheckUnchanged(const RentSplit& split) {
+    Recordset row;
+    OpenCharge(row, split.idRentLog);
+    if (!row.Eof()) {
+        const RentLogEntry now = ReadEntry(row);
+        const RentLogEntry& then = split.charge;
+        if (now.idTransaction == then.idTransaction && now.amount == then.amount &&
+            now.flags == then.flags) {
+            return;
+        }
+    }
+    throw platform::ConflictError(
+        "The charge was changed or removed since it was read, so it can't be split.");
+}
+
+} // namespace
+
+Currency RentSplit::Missing() const {
+    return charge.amount - (parts[0].amount + parts[1].amount);
+}
+
+std::string_view SplitCaption(RentClass rentClass) {
+    switch (rentClass) {
+        case RentClass::Subsidy:
+            return " Splitting Subsidy Charge";
+        case RentClass::Deposit:
+            return " Splitting Deposit Charge";
+        case RentClass::Rent:
+        case RentClass::OptionCredit:
+            break;
+    }
+    return " Splitting Rent Charge";
+}
+
+std::vector<std::string> SplitCategories(RentClass rentClass) {
+    std::vector<std::string> words = ChargeCategories(rentClass);
+    if (rentClass == RentClass::Rent) words.insert(words.begin() + 1, "Deferred Rent");
+    return words;
+}
+
+std::optional<RentSplit> ReadSplit(std::int32_t idRentLog) {
+    Recordset row;
+    OpenCharge(row, idRentLog);
+    if (row.Eof()) return std::nullopt;
+    RentSplit split;
+    split.idRentLog = idRentLog;
+    split.charge = ReadEntry(row);
+    const RentLogEntry& charge = split.charge;
+    split.parts[0] = {charge.datePosted, charge.category, charge.amount, charge.description};
+    split.parts[1] = {charge.datePosted, charge.category, {}, "Deferred " + charge.description};
+    return split;
+}
+
+void SaveSplit(const RentSplit& split) {
+    platform::UnitOfWork unit(core::App().Connection);
+    CheckUnchanged(split);
+    for (std::size_t i = 0; i < split.parts.size(); ++i) {
+        const SplitPart& part = split.parts[i];
+        const bool isRent = split.IsPeriodRent() && split.rentPart == i;
+        WriteRentLog({.idLease = split.charge.idLease,
+                      .idTransaction = split.charge.idTransaction,
+                      .datePosted = part.date,
+                      .rentClass = split.charge.rentClass,
+                      .category = part.category,
+                      .amount = part.amount,
+                      .description = part.description,
+                      .flags = isRent ? RentFlags::PeriodRent : RentFlags::Ordinary});
+    }
+    exchange::RemoveRecord(core::kRentLog, split.idRentLog, exchange::Tell::Nobody);
+    StoreBalances(split.charge.idLease);
+    unit.Commit();
+    core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);
+}
+
+} // namespace leases
