@@ -1,0 +1,59 @@
+#include "documents/FilePanelSettings.h"
+
+#include <string>
+
+#include <fmt/core.h>
+
+#include "core/Settings.h"
+#include "platform/values/Conversions.h"
+#include "platform/values/Errors.h"
+
+namespace documents {
+
+namespace {
+
+constexpr std::string_view kFileObjectsKey = R"(SOFTWARE\Vestrel\Kestrom\FileObjects)";
+
+std::string KeyOf(std::string_view panel) {
+    return fmt::format(R"({}\{})", kFileObjectsKey, panel);
+}
+
+/// What isn't a share of the panel, is the usual one.
+double ReadShare(const std::string& key, std::string_view name, double usual) {
+    try {
+        const double share = platform::StrToDouble(core::GetRegString(key, name, ""));
+        return share > 0 && share < 1 ? share : usual;
+    } catch (const platform::Error&) {
+        return usual;
+    }
+}
+
+} // namespace
+
+FilePanelSettings LoadFilePanelSettings(std::string_view panel) {
+    const std::string key = KeyOf(panel);
+    FilePanelSettings settings;
+    settings.SaveSettings = core::GetRegFlag(key, "SaveSettings", settings.SaveSettings);
+    if (!settings.SaveSettings) return settings;
+    settings.ShowPath = core::GetRegFlag(key, "ShowPath", settings.ShowPath);
+    settings.ShowIcons = core::GetRegFlag(key, "ShowIcons", settings.ShowIcons);
+    settings.AllowDandD = core::GetRegFlag(key, "AllowDandD", settings.AllowDandD);
+    settings.AllowDelete = core::GetRegFlag(key, "AllowDelete", settings.AllowDelete);
+    settings.vSplit = ReadShare(key, "vSplit", settings.vSplit);
+    settings.hSplit = ReadShare(key, "hSplit", settings.hSplit);
+    return settings;
+}
+
+void SaveFilePanelSettings(std::string_view panel, const FilePanelSettings& settings) {
+    const std::string key = KeyOf(panel);
+    core::SetRegFlag(key, "SaveSettings", settings.SaveSettings);
+    if (!settings.SaveSettings) return;
+    core::SetRegFlag(key, "ShowPath", settings.ShowPath);
+    core::SetRegFlag(key, "ShowIcons", settings.ShowIcons);
+    core::SetRegFlag(key, "AllowDandD", settings.AllowDandD);
+    core::SetRegFlag(key, "AllowDelete", settings.AllowDelete);
+    core::SetRegString(key, "vSplit", fmt::format("{:.4g}", settings.vSplit));
+    core::SetRegString(key, "hSplit", fmt::format("{:.4g}", settings.hSplit));
+}
+
+} // namespace documents

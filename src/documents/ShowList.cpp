@@ -1,0 +1,54 @@
+#include "documents/ShowList.h"
+
+#include <algorithm>
+
+#include "platform/values/Text.h"
+
+namespace documents {
+
+namespace {
+
+/// A line of the file can't hold a line end.
+std::string OnOneLine(std::string text) {
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return text;
+}
+
+/// Where the path's part of a line begins. A description may hold a bar too, so one in front of a
+/// full path counts before the first.
+std::size_t BarOf(std::string_view line) {
+    const std::size_t before = line.find("|/");
+    return before != std::string_view::npos ? before : line.find('|');
+}
+
+} // namespace
+
+std::string ShowListText(const ShowList& list) {
+    std::string text = OnOneLine(list.title) + "\n";
+    for (const ShowPicture& picture : list.pictures) {
+        text += OnOneLine(picture.description) + "|" + OnOneLine(picture.path) + "\n";
+    }
+    return text;
+}
+
+ShowList ParseShowList(std::string_view text) {
+    ShowList list;
+    for (bool isTitle = true; !text.empty(); isTitle = false) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        if (isTitle) {
+            list.title = line;
+            continue;
+        }
+        const std::size_t bar = BarOf(line);
+        if (bar == std::string_view::npos || platform::Trim(line.substr(bar + 1)).empty()) continue;
+        list.pictures.push_back(
+            {std::string(line.substr(0, bar)), std::string(line.substr(bar + 1))});
+    }
+    return list;
+}
+
+} // namespace documents

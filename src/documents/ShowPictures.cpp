@@ -1,0 +1,84 @@
+#include "documents/ShowPictures.h"
+
+#include <utility>
+
+#include "core/Descriptions.h"
+#include "core/Globals.h"
+#include "core/Lookups.h"
+#include "core/RecordKinds.h"
+#include "documents/ShowList.h"
+#include "platform/database/Recordset.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/system/Paths.h"
+
+namespace documents {
+
+namespace {
+
+constexpr std::string_view kShowProgram = "PhotoReel.exe";
+
+std::string TitleOf(std::int16_t kind, std::int32_t id) {
+    const std::string title = "Vestrel Slide Show";
+    const std::string description = core::GetDescription(kind, id, 0, false);
+    return description.empty() ? title : title + " - " + description;
+}
+
+void OpenPictures(platform::Recordset& rows, std::int16_t kind, std::int32_t id) {
+    platform::Connection& books = core::App().Connection;
+    if (kind == core::kUnitWithBuilding) {
+        rows.Open(books,
+                  "SELECT * FROM FileObject "
+                  "WHERE ((DBType = ?) AND (IdOwner = ?) AND (IsPic = True)) "
+                  "OR ((DBType = ?) AND (IdOwner = ?) AND (IsPic = True))",
+                  platform::CursorMode::ReadOnly,
+                  {core::kUnit, id, core::kBuilding, core::GetUnitBuilding(id)});
+        return;
+    }
+    rows.Open(books,
+              "SELECT * FROM FileObject WHERE (DBType = ?) AND (IdOwner = ?) AND (IsPic = True)",
+              platform::CursorMode::ReadOnly, {kind, id});
+}
+
+std::vector<ShowPicture> PicturesOf(std::int16_t kind, std::int32_t id) {
+    platform::Recordset rows;
+    OpenPictures(rows, kind, id);
+    const auto orEmpty = [&](std::string_view field) {
+        return rows[field].IsNull() ? std::string() : rows[field].AsText();
+    };
+    std::vector<ShowPicture> pictures;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        pictures.push_back({orEmpty("Description"), orEmpty("FilePath")});
+    }
+    return pictures;
+}
+
+/// In the program's directory; beside the program itself where that directory is another.
+std::filesystem::path FindShowProgram() {
+    const std::filesystem::path own = core::App().AppPath + std::string(kShowProgram);
+    if (platform::FileExists(own.string())) return own;
+    return platform::ExecutablePath().parent_path() / kShowProgram;
+}
+
+void Sorry(std::string_view text) {
+    platform::TheDialogs().ShowMessage("Sorry", text, platform::Icon::Information);
+}
+
+} // namespace
+
+void ShowPictures(std::int16_t kind, std::int32_t id, std::string title,
+                  const ProgramStarter& start) {
+    ShowList list{std::move(title), PicturesOf(kind, id)};
+    if (list.title.empty()) list.title = TitleOf(kind, id);
+    if (list.pictures.empty()) {
+        Sorry("No pictures avaliable for this item for slide show.");
+        return;
+    }
+    const std::string listFile = core::App().AppPath + std::string(kShowListFile);
+    platform::WriteFileAtomically(listFile, ShowListText(list));
+    const std::filesystem::path program = FindShowProgram();
+    const bool started = platform::FileExists(program.string()) &&
+                         start(program, {std::string(kLoadFileSwitch), listFile});
+    if (!started) Sorry("PhotoReel application not found.");
+}
+
+} // namespace documents

@@ -1,0 +1,54 @@
+#include "documents/screens/FileIcons.h"
+
+#include <QFileInfo>
+#include <QMimeDatabase>
+
+#include "platform/qt/Icons.h"
+
+namespace documents::screens {
+
+namespace {
+
+QIcon IconOfKind(const QFileInfo& file) {
+    // By its name alone: reading into a file could take long on a slow disk.
+    const QMimeType kind = QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension);
+    for (const QString& name : {kind.iconName(), kind.genericIconName()}) {
+        if (QIcon::hasThemeIcon(name)) return QIcon::fromTheme(name);
+    }
+    return platform::qt::LoadIcon(QStringLiteral("file"));
+}
+
+} // namespace
+
+FileIcons::FileIcons(QObject* parent) : QObject(parent) {
+    connect(&loader_, &PictureLoader::Loaded, this,
+            [this](const QString& path, const PictureRead& picture) {
+                if (picture.image.isNull()) return;
+                icons_[path] = QIcon(QPixmap::fromImage(picture.image));
+                Q_EMIT Changed(path);
+            });
+}
+
+QIcon FileIcons::GetFileIcon(const QString& path, bool isPicture) {
+    const auto found = icons_.constFind(path);
+    if (found != icons_.constEnd()) return *found;
+    const QFileInfo file(path);
+    QIcon icon;
+    if (!file.exists()) {
+        icon = platform::qt::LoadIcon(QStringLiteral("missing"));
+    } else if (isPicture) {
+        icon = platform::qt::LoadIcon(QStringLiteral("picture"));
+        loader_.Load(path, kPictureSize);
+    } else {
+        icon = IconOfKind(file);
+    }
+    icons_.insert(path, icon);
+    return icon;
+}
+
+void FileIcons::Clear() {
+    loader_.Forget();
+    icons_.clear();
+}
+
+} // namespace documents::screens

@@ -1,0 +1,58 @@
+#include "documents/screens/FileListView.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace documents::screens {
+
+namespace {
+
+constexpr QSize kIconSize{40, 40};
+constexpr int kTextMargin = 12;
+
+} // namespace
+
+FileListView::FileListView(QWidget* parent) : QListView(parent) {
+    setIconSize(kIconSize);
+    setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideMiddle);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(QAbstractItemView::EditKeyPressed);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setTabKeyNavigation(false);
+    // The panel takes what is dropped.
+    setDragDropMode(QAbstractItemView::NoDragDrop);
+    connect(this, &QListView::doubleClicked, this, &FileListView::FileChosen);
+}
+
+void FileListView::SetEmptyText(const QString& text) {
+    emptyText_ = text;
+    viewport()->update();
+}
+
+void FileListView::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && currentIndex().isValid() && state() != QAbstractItemView::EditingState) {
+        Q_EMIT FileChosen();
+        return;
+    }
+    QListView::keyPressEvent(event);
+}
+
+void FileListView::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (!model() || model()->rowCount() != 0) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const QRect room =
+        viewport()->rect().adjusted(kTextMargin, kTextMargin, -kTextMargin, -kTextMargin);
+    painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, emptyText_);
+}
+
+void FileListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QListView::currentChanged(current, previous);
+    Q_EMIT SelectionMoved();
+}
+
+} // namespace documents::screens

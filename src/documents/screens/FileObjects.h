@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QWidget>
+#include <cstdint>
+#include <memory>
+
+#include "core/NotifyAll.h"
+#include "documents/FilePanelSettings.h"
+
+class QMenu;
+
+namespace Ui {
+class FileObjects;
+}
+
+namespace documents::screens {
+
+class FileListModel;
+
+/// The panel of the files that are attached to a record: their list, the picture and the properties
+/// of the selected one. Files are added from a dialog or by dropping them here. The panel keeps
+/// itself current; its settings are kept under the names of its form and its own.
+class FileObjects : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit FileObjects(QWidget* parent = nullptr);
+    ~FileObjects() override;
+
+    /// Shows the files of a record. Without an id (a record that isn't saved) there is nothing to
+    /// do here.
+    void SetRecord(std::int16_t dbType, std::int32_t id);
+    /// Shows the files of all records instead; files are still added to the record.
+    void SetShowAll(bool all);
+
+    /// Reads the list again; the selected file stays so.
+    void Refresh();
+    /// Shows the picture and the properties of the selected file again.
+    void UpdateFileList();
+    /// Selects a file; nothing when it isn't in the list.
+    void ShowFileObject(std::int32_t id);
+    /// The selected file's id, 0 without one.
+    std::int32_t SelectedId() const;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void Connect();
+    void MakeOptions();
+    void AddFile();
+    void AttachFiles(const QStringList& paths);
+    void OpenFile();
+    void DeleteFile();
+    void ShowAvailable();
+    void ShowSettings();
+    void SaveSettings();
+    void SplitMoved();
+    std::string StoreName() const;
+
+    std::unique_ptr<Ui::FileObjects> ui_;
+    FileListModel* files_;
+    QMenu* options_;
+    std::int16_t dbType_ = 0;
+    std::int32_t id_ = 0;
+    bool all_ = false;
+    bool isSetUp_ = false;
+    FilePanelSettings settings_;
+    core::NotifyToken token_;
+};
+
+} // namespace documents::screens
