@@ -2,8 +2,8 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QToolButton>
 
 #include "core/screens/GridColumns.h"
@@ -105,13 +105,21 @@ void RecordList::Connect() {
     connect(delete_, &QToolButton::clicked, this, &RecordList::AskToDelete);
     connect(grid_, &Grid::RowChosen, this, &RecordList::AskToEdit);
     connect(grid_, &Grid::SelectionMoved, this, &RecordList::ShowAvailable);
-    const auto onKey = [this](Qt::Key key, QToolButton* button) {
-        auto* const shortcut = new QShortcut(key, grid_);
-        shortcut->setContext(Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
-    };
-    onKey(Qt::Key_Insert, add_);
-    onKey(Qt::Key_Delete, delete_);
+    grid_->installEventFilter(this);
+}
+
+bool RecordList::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == grid_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        QToolButton* const button = key == Qt::Key_Insert   ? add_
+                                    : key == Qt::Key_Delete ? delete_
+                                                            : nullptr;
+        if (button) {
+            button->click();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void RecordList::AskToEdit() {

@@ -40,6 +40,9 @@ class RecordList : public QWidget {
     void EditAsked(std::int32_t id);
     void DeleteAsked(std::int32_t id);
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     QToolButton* MakeButton(const char* icon, const QString& text, const QString& name);
     void Connect();

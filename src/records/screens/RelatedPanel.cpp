@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/screens/ErrorRoll.h"
+#include "exchange/DeleteRecord.h"
 
 namespace records::screens {
 
@@ -11,6 +12,7 @@ RelatedPanel::RelatedPanel(QWidget* parent)
       token_([this](std::int16_t kind, std::int16_t, std::int32_t) { Heard(kind); }) {
     connect(this, &RecordList::AddAsked, this, [this] { Open(0); });
     connect(this, &RecordList::EditAsked, this, &RelatedPanel::Open);
+    connect(this, &RecordList::DeleteAsked, this, &RelatedPanel::Remove);
 }
 
 void RelatedPanel::ShowList(const RelatedList* list, const RelatedOwner& owner) {
@@ -26,7 +28,7 @@ void RelatedPanel::Reload() {
         return;
     }
     const bool canOpen = core::HasEditor(list_->kind);
-    Allow(canOpen, canOpen, false);
+    Allow(canOpen, canOpen, true);
     ShowRows(OpenRelated(*list_, owner_), list_->gridKey);
 }
 
@@ -36,6 +38,10 @@ void RelatedPanel::Open(std::int32_t id) {
         core::EditRecord(request.kind, request.id, request.parent1, request.parent2,
                          request.parent3);
     });
+}
+
+void RelatedPanel::Remove(std::int32_t id) {
+    core::screens::Guarded([&] { exchange::DeleteRecord(list_->kind, id); });
 }
 
 void RelatedPanel::Heard(std::int16_t kind) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/NotifyAll.h"
-#include "records/RelatedLists.h"
 #include "core/screens/RecordList.h"
+#include "records/RelatedLists.h"
 
 namespace records::screens {
 
@@ -20,6 +20,7 @@ class RelatedPanel : public core::screens::RecordList {
   private:
     void Reload();
     void Open(std::int32_t id);
+    void Remove(std::int32_t id);
     void Heard(std::int16_t kind);
 
     const RelatedList* list_ = nullptr;

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/NotifyAll.h"
+#include "core/screens/RecordList.h"
+#include "records/DepositTemplates.h"
+
+class QTabBar;
+
+namespace records::screens {
+
+/// The deposit templates that a lease of a building's unit is charged by.
+class Deposits : public core::screens::RecordList {
+    Q_OBJECT
+
+  public:
+    explicit Deposits(QWidget* parent = nullptr);
+
+    /// Shows the templates for a building and one of its units.
+    void Load(const DepositPlace& place);
+
+  private:
+    void Reload();
+    DepositScope Scope() const;
+
+    QTabBar* tabs_;
+    DepositPlace place_;
+    core::NotifyToken token_;
+};
+
+} // namespace records::screens

@@ -1,0 +1,47 @@
+#include "records/screens/frmContent.h"
+
+#include "core/RecordKinds.h"
+#include "core/screens/ComboList.h"
+#include "platform/qt/Text.h"
+#include "records/FurnishingRules.h"
+#include "records/screens/PickFields.h"
+#include "ui_frmContent.h"
+
+namespace records::screens {
+
+using core::screens::FillList;
+
+frmContent::frmContent(QWidget* parent)
+    : RecordForm({core::kContent, "Content", "IdContent"}, parent),
+      ui_(std::make_unique<Ui::frmContent>()) {
+    ui_->setupUi(this);
+    Wire();
+}
+
+frmContent::~frmContent() = default;
+
+void frmContent::Setup(std::int32_t id, std::int32_t parentUnit) {
+    OpenRecord(id, [this, parentUnit] {
+        LoadPickFields(*this);
+        FillList(core::kUnit, *ui_->cboUnit, {.selectedId = parentUnit});
+    });
+}
+
+void frmContent::ShowCaption() {
+    setWindowTitle(Id() == 0 ? tr("Adding New Content")
+                             : tr("Content: %1").arg(ui_->txtDescription->text()));
+}
+
+std::vector<std::string> frmContent::Errors() {
+    return ContentErrors(platform::qt::FromScreen(ui_->txtDescription->text()));
+}
+
+void frmContent::AfterSave() {
+    SavePickFields(*this);
+}
+
+void frmContent::Refresh(std::int16_t kind) {
+    if (kind == core::kUnit || kind == core::kBuilding) FillList(core::kUnit, *ui_->cboUnit);
+}
+
+} // namespace records::screens

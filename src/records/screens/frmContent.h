@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/RecordForm.h"
+
+namespace Ui {
+class frmContent;
+}
+
+namespace records::screens {
+
+/// A furnishing or movable item of a unit.
+class frmContent : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmContent(QWidget* parent = nullptr);
+    ~frmContent() override;
+
+    /// Opens an item, or a new one of `parentUnit`.
+    void Setup(std::int32_t id, std::int32_t parentUnit);
+
+  protected:
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void AfterSave() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    std::unique_ptr<Ui::frmContent> ui_;
+};
+
+} // namespace records::screens

@@ -1,0 +1,48 @@
+#include "records/screens/frmManagerLink.h"
+
+#include "core/RecordKinds.h"
+#include "core/screens/ComboList.h"
+#include "records/ManagerLinkRules.h"
+#include "ui_frmManagerLink.h"
+
+namespace records::screens {
+
+using core::screens::FillFromCommaList;
+using core::screens::FillList;
+using core::screens::GetSelectedId;
+
+frmManagerLink::frmManagerLink(QWidget* parent)
+    : RecordForm({core::kManager, "ManagerLink", "IdManagerLink"}, parent, core::FormSizing::Fixed),
+      ui_(std::make_unique<Ui::frmManagerLink>()) {
+    ui_->setupUi(this);
+    Wire();
+}
+
+frmManagerLink::~frmManagerLink() = default;
+
+void frmManagerLink::Setup(std::int32_t id, std::int32_t parentBuilding) {
+    OpenRecord(id, [this, parentBuilding] {
+        FillFromCommaList(*ui_->cboFeeType, kFeeTypes);
+        FillFromCommaList(*ui_->cboTermType, kTermTypes);
+        ui_->cboFeeType->setCurrentIndex(0);
+        ui_->cboTermType->setCurrentIndex(0);
+        FillList(core::kBuilding, *ui_->cboBuilding, {.selectedId = parentBuilding});
+        FillList(core::kBuildingManagerAccount, *ui_->cboManager);
+    });
+}
+
+void frmManagerLink::ShowCaption() {
+    setWindowTitle(Id() == 0 ? tr("Adding New Manager")
+                             : tr("Manager: %1").arg(ui_->cboManager->currentText()));
+}
+
+std::vector<std::string> frmManagerLink::Errors() {
+    return ManagerErrors({Id(), GetSelectedId(*ui_->cboBuilding), GetSelectedId(*ui_->cboManager)});
+}
+
+void frmManagerLink::Refresh(std::int16_t kind) {
+    if (kind == core::kBuilding) FillList(core::kBuilding, *ui_->cboBuilding);
+    if (kind == core::kAccount) FillList(core::kBuildingManagerAccount, *ui_->cboManager);
+}
+
+} // namespace records::screens

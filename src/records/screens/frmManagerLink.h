@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/RecordForm.h"
+
+namespace Ui {
+class frmManagerLink;
+}
+
+namespace records::screens {
+
+/// One manager of a building, and the terms.
+class frmManagerLink : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmManagerLink(QWidget* parent = nullptr);
+    ~frmManagerLink() override;
+
+    /// Opens a manager, or a new one of `parentBuilding`.
+    void Setup(std::int32_t id, std::int32_t parentBuilding);
+
+  protected:
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    std::unique_ptr<Ui::frmManagerLink> ui_;
+};
+
+} // namespace records::screens

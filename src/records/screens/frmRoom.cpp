@@ -1,0 +1,46 @@
+#include "records/screens/frmRoom.h"
+
+#include "core/RecordKinds.h"
+#include "core/screens/ComboList.h"
+#include "platform/qt/Text.h"
+#include "records/FurnishingRules.h"
+#include "records/screens/PickFields.h"
+#include "ui_frmRoom.h"
+
+namespace records::screens {
+
+using core::screens::FillList;
+
+frmRoom::frmRoom(QWidget* parent)
+    : RecordForm({core::kRoom, "Room", "IdRoom"}, parent), ui_(std::make_unique<Ui::frmRoom>()) {
+    ui_->setupUi(this);
+    Wire();
+}
+
+frmRoom::~frmRoom() = default;
+
+void frmRoom::Setup(std::int32_t id, std::int32_t parentUnit) {
+    OpenRecord(id, [this, parentUnit] {
+        LoadPickFields(*this);
+        FillList(core::kUnit, *ui_->cboUnit, {.selectedId = parentUnit});
+    });
+}
+
+void frmRoom::ShowCaption() {
+    setWindowTitle(Id() == 0 ? tr("Adding New Room")
+                             : tr("Room: %1").arg(ui_->cboRoomType->currentText()));
+}
+
+std::vector<std::string> frmRoom::Errors() {
+    return RoomErrors(platform::qt::FromScreen(ui_->cboRoomType->currentText()));
+}
+
+void frmRoom::AfterSave() {
+    SavePickFields(*this);
+}
+
+void frmRoom::Refresh(std::int16_t kind) {
+    if (kind == core::kUnit || kind == core::kBuilding) FillList(core::kUnit, *ui_->cboUnit);
+}
+
+} // namespace records::screens

@@ -1,0 +1,106 @@
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPointer>
+
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "records/screens/Fields.h"
+#include "records/screens/frmManagerLink.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
+#include "support/screens/ScreenChecks.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using records::screens::frmManagerLink;
+using support::ClickAction;
+using support::Find;
+using Said = std::vector<std::string>;
+
+const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
+
+class ManagerLinkTest : public support::ScreenTest {
+  protected:
+    ManagerLinkTest() {
+        Run("INSERT INTO Account (IdAccount, ShowAs, AccountType) "
+            "VALUES (64, 'Mo''s Management', 'Building Manager')");
+    }
+    static QPointer<frmManagerLink> Open(std::int32_t id = 0, std::int32_t building = 11) {
+        QPointer<frmManagerLink> form(new frmManagerLink);
+        form->Setup(id, building);
+        return form;
+    }
+};
+
+const std::vector<support::FieldEntry> kFields = {
+    {"cboBuilding", "12 Elm St", "IdBuilding", "10"},
+    {"cboManager", "Mo's Management", "IdAccount", "64"},
+    {"dpDateStart", "02/29/2024", "DateStart", ""},
+    {"txtTerm", "2", "Term", ""},
+    {"cboTermType", "Year(s)", "TermType", ""},
+    {"chkOnSite", "x", "OnSite", "True"},
+    {"cboFeeType", "Percentage", "FeeType", ""},
+    {"txtFirstFee", "50", "FirstFee", ""},
+    {"txtMonthlyFee", "7.5", "MonthlyFee", ""},
+    {"txtRepairLimit", "500.00", "RepairLimit", "500"}};
+
+TEST_F(ManagerLinkTest, IsEnteredAndReopened) {
+    auto form = Open();
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Manager"));
+    EXPECT_EQ(Find<QComboBox>(*form, "cboBuilding").currentText(), QStringLiteral("Oak Rd"));
+    EXPECT_EQ(Find<QComboBox>(*form, "cboManager").count(), 1) << "only managers are offered";
+    EXPECT_EQ(Find<QComboBox>(*form, "cboFeeType").currentText(), QStringLiteral("Fixed"));
+    EXPECT_EQ(Find<QComboBox>(*form, "cboTermType").currentText(), QStringLiteral("Month(s)"));
+    support::Enter(*form, kFields);
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Manager: Mo's Management"));
+    EXPECT_EQ(support::StoredFaults("ManagerLink", "IdManagerLink = 1000", kFields), Said{});
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{}) << "it is no duplicate of itself";
+    form = Open(1000);
+    EXPECT_EQ(support::ShownFaults(*form, kFields), Said{});
+}
+
+TEST_F(ManagerLinkTest, TheSamePairIsRefused) {
+    Run("INSERT INTO ManagerLink (IdManagerLink, IdBuilding, IdAccount) VALUES (500, 11, 64)");
+    const auto form = Open();
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(),
+              Said{kRoll + "A duplicate record for this building and manager already exist.\n"});
+    support::Choose(*form, "cboBuilding", "12 Elm St");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(Ask("SELECT Count(*) FROM ManagerLink"), "2");
+}
+
+TEST_F(ManagerLinkTest, AllThatIsWrongIsToldAtOnce) {
+    Run("DELETE * FROM Building");
+    Run("DELETE * FROM Account");
+    const auto form = Open();
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{kRoll + "A Building must be selected.\n"
+                                    "A Manager must be selected.\n"});
+    EXPECT_EQ(Ask("SELECT Count(*) FROM ManagerLink"), "0");
+}
+
+TEST_F(ManagerLinkTest, HearsOfNewManagers) {
+    const auto form = Open();
+    Run("UPDATE Account SET AccountType = 'Building Manager' WHERE IdAccount = 61");
+    core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
+    EXPECT_EQ(Find<QComboBox>(*form, "cboManager").count(), 2);
+    EXPECT_EQ(Find<QComboBox>(*form, "cboManager").currentText(),
+              QStringLiteral("Mo's Management"));
+    EXPECT_FALSE(form->Dirty());
+}
+
+TEST_F(ManagerLinkTest, LooksAndReadsRight) {
+    const auto form = Open();
+    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
+    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
+    EXPECT_EQ(support::NameFaults(*form), Said{});
+    EXPECT_EQ(support::Portray(*form, "frmManagerLink"), Said{});
+}
+
+} // namespace
