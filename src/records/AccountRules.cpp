@@ -66,7 +66,8 @@ std::string OfferedAccountTypes(std::string_view inUse) {
 }
 
 bool HasSecretNumber(std::string_view accountType) {
-    return accountType == "Bank" || accountType == "Credit";
+    return platform::EqualIgnoringCase(accountType, "Bank") ||
+           platform::EqualIgnoringCase(accountType, "Credit");
 }
 
 } // namespace records

@@ -55,7 +55,12 @@ RecordList::~RecordList() {
 
 void RecordList::SetHead(QWidget* head) {
     head_->insertWidget(0, head);
-    setTabOrder(head, add_);
+    // It was made after the rest of the panel, and stands before it.
+    const auto inside = head->findChildren<QWidget*>();
+    setTabOrder(inside.isEmpty() ? head : inside.last(), add_);
+    setTabOrder(add_, edit_);
+    setTabOrder(edit_, delete_);
+    setTabOrder(delete_, grid_);
 }
 
 void RecordList::ShowRows(platform::Recordset rows, std::string_view gridKey) {

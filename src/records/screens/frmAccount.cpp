@@ -1,5 +1,6 @@
 #include "records/screens/frmAccount.h"
 
+#include "books/screens/General_Ledger.h"
 #include "core/Configuration.h"
 #include "core/RecordKinds.h"
 #include "core/screens/AddressBox.h"
@@ -26,6 +27,7 @@ frmAccount::frmAccount(QWidget* parent)
     MakePanels();
     Wire();
     core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    details_->cboAccountType->setFocus();
     core::screens::FillPlaceByZip(*details_->txtZip, {details_->txtCity, details_->txtState});
     core::screens::OpenOnClick(*details_->txtEmail, AddressKind::Mail);
     core::screens::OpenOnClick(*details_->txtWeb, AddressKind::Web);
@@ -37,6 +39,7 @@ frmAccount::~frmAccount() = default;
 
 void frmAccount::MakePanels() {
     contacts_ = PlacePanel(new Contacts(this), *ui_->tabContacts, "ucContacts");
+    ledger_ = PlacePanel(new books::screens::General_Ledger(this), *ui_->tabLedger, "ucLedger");
     connect(contacts_, &Contacts::Changed, this, [this] { MarkDirty(); });
 }
 
@@ -68,6 +71,7 @@ void frmAccount::ShowCaption() {
     ui_->lblTitle->setText(isNew ? tr("New Account (Press Apply to Save)")
                                  : tr("Editing Account: %1").arg(shownAs));
     contacts_->Load(core::kAccount, Id());
+    ledger_->SetParty(core::kAccount, Id());
 }
 
 std::vector<std::string> frmAccount::Errors() {

@@ -12,6 +12,10 @@ class frmAccount;
 class frmAccountDetails;
 } // namespace Ui
 
+namespace books::screens {
+class General_Ledger;
+}
+
 namespace records::screens {
 
 class Contacts;
@@ -44,6 +48,7 @@ class frmAccount : public core::screens::RecordForm {
     std::unique_ptr<Ui::frmAccount> ui_;
     std::unique_ptr<Ui::frmAccountDetails> details_;
     Contacts* contacts_ = nullptr;
+    books::screens::General_Ledger* ledger_ = nullptr;
 };
 
 } // namespace records::screens

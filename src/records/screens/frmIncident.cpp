@@ -16,6 +16,7 @@ frmIncident::frmIncident(QWidget* parent)
       ui_(std::make_unique<Ui::frmIncident>()) {
     ui_->setupUi(this);
     Wire();
+    ui_->txtDescription->setFocus();
 }
 
 frmIncident::~frmIncident() = default;

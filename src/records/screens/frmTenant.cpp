@@ -1,5 +1,6 @@
 #include "records/screens/frmTenant.h"
 
+#include "books/screens/General_Ledger.h"
 #include "core/RecordKinds.h"
 #include "core/screens/AddressBox.h"
 #include "core/screens/ComboList.h"
@@ -31,6 +32,7 @@ frmTenant::frmTenant(QWidget* parent)
     MakePanels();
     Wire();
     core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    person_->txtLastName->setFocus();
     core::screens::OpenOnClick(*person_->txtEmail, AddressKind::Mail);
     core::screens::OpenOnClick(*person_->txtWeb, AddressKind::Web);
 }
@@ -40,6 +42,7 @@ frmTenant::~frmTenant() = default;
 void frmTenant::MakePanels() {
     incidents_ = PlacePanel(new RelatedDBs(this), *history_->incidents, "ucIncidents");
     contacts_ = PlacePanel(new Contacts(this), *ui_->tabContacts, "ucContacts");
+    ledger_ = PlacePanel(new books::screens::General_Ledger(this), *ui_->tabLedger, "ucLedger");
     connect(contacts_, &Contacts::Changed, this, [this] { MarkDirty(); });
 }
 
@@ -71,6 +74,7 @@ void frmTenant::ShowCaption() {
                                  : tr("Editing Tenant: %1").arg(name));
     incidents_->Load(core::kTenant, Id());
     contacts_->Load(core::kTenant, Id());
+    ledger_->SetParty(core::kTenant, Id());
 }
 
 std::vector<std::string> frmTenant::Errors() {

@@ -12,6 +12,10 @@ class frmTenantIdentity;
 class frmTenantHistory;
 } // namespace Ui
 
+namespace books::screens {
+class General_Ledger;
+}
+
 namespace records::screens {
 
 class Contacts;
@@ -43,6 +47,7 @@ class frmTenant : public core::screens::RecordForm {
     std::unique_ptr<Ui::frmTenantHistory> history_;
     RelatedDBs* incidents_ = nullptr;
     Contacts* contacts_ = nullptr;
+    books::screens::General_Ledger* ledger_ = nullptr;
 };
 
 } // namespace records::screens

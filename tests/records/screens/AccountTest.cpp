@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTest>
 
 #include "core/Configuration.h"
 #include "core/NotifyAll.h"
@@ -106,6 +107,19 @@ TEST_F(AccountTest, EveryFieldIsWrittenAndReadBack) {
               "TrueTrueTrue");
     EXPECT_EQ(Ask("SELECT AccountNumber FROM Account WHERE IdAccount = 1000"), "007");
     EXPECT_FALSE(form->Dirty());
+}
+
+TEST_F(AccountTest, IsEnteredByKeyboardAlone) {
+    const auto form = Open();
+    QApplication::setActiveWindow(form);
+    for (const char* const text : {"Building Owner", "", "Lee", "Ann", "B", " ", "1 Elm St", "",
+                                   "97301", "Salem", "OR", "555"}) {
+        support::TypeAndTab(*form, text);
+    }
+    QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Ask("SELECT AccountType & '|' & ShowAs & '|' & ShowAsIndividual & '|' & Address1 & "
+                  "'|' & Zip & City & State & '|' & Phone FROM Account WHERE IdAccount = 1000"),
+              "Building Owner|Lee, Ann B|True|1 Elm St|97301SalemOR|555");
 }
 
 TEST_F(AccountTest, NeedsACompanyOrALastName) {

@@ -6,11 +6,13 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTest>
 
 #include "core/EditRecord.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/screens/MaskedEdit.h"
+#include "exchange/DeleteRecord.h"
 #include "platform/qt/Text.h"
 #include "records/screens/frmTenant.h"
 #include "support/screens/Driving.h"
@@ -119,6 +121,21 @@ TEST_F(TenantTest, EveryFieldIsWrittenAndReadBack) {
         << "offered again";
 }
 
+TEST_F(TenantTest, IsEnteredByKeyboardAlone) {
+    const auto form = Open();
+    QApplication::setActiveWindow(form);
+    for (const char* const text : {"Lee", "Ann", "B", "Appr", "Bo", "Married", "2", "02/29/1992",
+                                   "555", "556", "ann@b.example", "b.example", "Pays early."}) {
+        support::TypeAndTab(*form, text);
+    }
+    QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Ask("SELECT LastName & FirstName & Initial & Status & SpouseName & MaritalStatus & "
+                  "Kids & DOB & Phone & AltPhone & Email & Web & Notes FROM Tenant "
+                  "WHERE IdTenant = 1000"),
+              "LeeAnnBApprovedBoMarried202/29/1992555556ann@b.exampleb.examplePays early.");
+    EXPECT_FALSE(form->isVisible());
+}
+
 TEST_F(TenantTest, AStatusOfAnotherMakeIsKept) {
     Run("UPDATE Tenant SET Status = 'On leave' WHERE IdTenant = 30");
     auto form = Open(30);
@@ -163,6 +180,23 @@ TEST_F(TenantTest, ListsItsIncidentsAndOpensThem) {
     ASSERT_EQ(opened.size(), 1U);
     EXPECT_EQ(opened[0], (core::EditRequest{core::kIncident, 500, 30, 0, 0}));
     core::RegisterOpener(core::kIncident, {});
+}
+
+TEST_F(TenantTest, ShowsWhatItPaidAndComesBackUnderItsNumberWhenRemovedMeanwhile) {
+    Run("INSERT INTO Transactions (IdTransaction, IdTenant, DateEffective, Amount, Description) "
+        "VALUES (600, 30, '05/01/2024', 950, 'May')");
+    const auto form = Open(30);
+    auto* const ledger = Find<QWidget>(*form, "ucLedger").findChild<core::screens::Grid*>();
+    EXPECT_EQ(ledger->Model().rowCount(), 1);
+    Run("UPDATE Transactions SET IdTenant = 31");
+    core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
+    EXPECT_EQ(ledger->Model().rowCount(), 0);
+
+    Answer({true});
+    exchange::DeleteRecord(core::kTenant, 30);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Tenant WHERE IdTenant = 30"), "0");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT LastName FROM Tenant WHERE IdTenant = 30"), "Smith");
 }
 
 TEST_F(TenantTest, LooksAndReadsRight) {

@@ -26,6 +26,13 @@ void TypeOn(QWidget& box, std::string_view text) {
     QTest::keyClicks(&box, ToScreen(text));
 }
 
+void TypeAndTab(QWidget& form, std::string_view text) {
+    QWidget* const box = form.focusWidget();
+    if (!box) throw std::runtime_error("nothing has the focus");
+    TypeOn(*box, text);
+    QTest::keyClick(box, Qt::Key_Tab);
+}
+
 void ClickAction(const QWidget& form, std::string_view word) {
     for (QAbstractButton* const button : form.findChildren<QAbstractButton*>()) {
         if (core::screens::TagOf(*button) == word) return ClickOn(*button);

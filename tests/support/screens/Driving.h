@@ -24,6 +24,9 @@ void Type(QWidget& box, std::string_view text);
 /// Types on, with what is there left as it is.
 void TypeOn(QWidget& box, std::string_view text);
 
+/// Types into whatever has the focus, and goes on to what comes next with the Tab key.
+void TypeAndTab(QWidget& form, std::string_view text);
+
 /// Clicks the button whose word ("APPLY", "CLOSE", ...) its tag holds.
 void ClickAction(const QWidget& form, std::string_view word);
 void ClickOn(QWidget& control);
