@@ -12,8 +12,9 @@ function roomOf(path,    part, n) {
     return part[1]
 }
 
-function isProgram(room) { return room == "kestrom" || room == "vestrelctl" }
-function mayKnowQt(room) { return isScreen[room] || room == "kestrom" }
+function isWindowProgram(room) { return room == "kestrom" || room == "dbmender" }
+function isProgram(room) { return isWindowProgram(room) || room == "vestrelctl" }
+function mayKnowQt(room) { return isScreen[room] || isWindowProgram(room) }
 
 # Why room `from` may not use room `to`; empty when it may.
 function objection(from, to) {

@@ -11,6 +11,7 @@
 #include "core/Settings.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Conversions.h"
+#include "platform/values/Errors.h"
 
 namespace core {
 
@@ -57,13 +58,25 @@ DatabaseState FindDatabase(std::ostream* diagFile) {
 }
 
 std::int16_t ReadDbVersion() {
-    std::ifstream file(platform::AddBackslash(App().DbPath) + "Version");
+    return ReadDbVersion(App().DbPath);
+}
+
+std::int16_t ReadDbVersion(std::string_view directory) {
+    std::ifstream file(platform::AddBackslash(directory) + "Version");
     std::string word;
     file >> word;
     try {
         return platform::StrToInt16(word);
     } catch (const std::exception&) {
         return 0;
+    }
+}
+
+void RegisterDatabase(std::string_view name, const std::filesystem::path& directory) {
+    const std::string path =
+        platform::AddBackslash(std::filesystem::absolute(directory).lexically_normal().string());
+    if (!SetRegString(kDatabasesKey, name, path)) {
+        throw platform::Error("the registry can't be written");
     }
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/system/Process.h"
@@ -21,6 +23,11 @@ DatabaseState FindDatabase(std::ostream* diagFile);
 /// The version in the database directory's file "Version"; 0 when it is missing or holds no number
 /// of 16 bits.
 std::int16_t ReadDbVersion();
+/// The same of any directory.
+std::int16_t ReadDbVersion(std::string_view directory);
+
+/// Names a database directory to the programs. An Error when the registry can't be written.
+void RegisterDatabase(std::string_view name, const std::filesystem::path& directory);
 
 /// How StartDatabaseMender leaves this process.
 struct MenderHandover {

@@ -51,9 +51,10 @@ void MakeSettings(Connection& connection, Date today) {
     connection.Execute("UPDATE Configuration SET NextId = ?", {days * kMinutesPerDay});
 }
 
-void LiveThrough(const store::SampleCast& cast, Date today) {
+void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress& progress) {
     std::vector<SampleTenant> tenants(cast.leases.begin(), cast.leases.end());
     const SampleExpenses expenses;
+    const int days = today.Serial() - cast.begins.Serial() + 1;
     for (Date day = cast.begins; day <= today; day = DateAdd(Interval::Day, 1, day)) {
         platform::SetToday(day);
         platform::UnitOfWork unit(core::App().Connection);
@@ -61,13 +62,15 @@ void LiveThrough(const store::SampleCast& cast, Date today) {
             tenant.LiveThrough(day);
         expenses.Pay(day);
         unit.Commit();
+        if (progress) progress(day.Serial() - cast.begins.Serial() + 1, days);
     }
     core::UpdateRecords();
 }
 
 } // namespace
 
-void MakeSamplePortfolio(const std::filesystem::path& folder, int units, Date today) {
+void MakeSamplePortfolio(const std::filesystem::path& folder, int units, Date today,
+                         const SampleProgress& progress) {
     store::CreateDatabase(folder);
     Attempt attempt(folder);
     core::App().DbPath = platform::AddBackslash(folder.string());
@@ -79,7 +82,7 @@ void MakeSamplePortfolio(const std::filesystem::path& folder, int units, Date to
     const store::SampleCast cast =
         store::WriteSampleRecords(connection, {units, today, core::NextId});
     core::LoadConfiguration();
-    LiveThrough(cast, today);
+    LiveThrough(cast, today, progress);
     attempt.Keep();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 #include "platform/values/Date.h"
 #include "store/SamplePortfolio.h"
@@ -9,12 +10,16 @@ namespace shell {
 
 inline constexpr int kSampleUnits = store::kSampleUnits;
 
+/// Told of each day that the sample has lived through.
+using SampleProgress = std::function<void(int daysDone, int days)>;
+
 /// Makes a database in `folder` with a sample portfolio of this many units and lives through its
 /// two years up to `today`, tenant by tenant: the program's own run charges, its own payments
 /// settle. The same units and day give the same books. An Error when there is a database already,
-/// which stays untouched, or when something fails; then nothing is left behind.
+/// which stays untouched, or when something fails, in `progress` too; then nothing is left behind.
 ///
 /// The process's session is closed afterwards, and its clock stands at `today`.
-void MakeSamplePortfolio(const std::filesystem::path& folder, int units, platform::Date today);
+void MakeSamplePortfolio(const std::filesystem::path& folder, int units, platform::Date today,
+                         const SampleProgress& progress = {});
 
 } // namespace shell

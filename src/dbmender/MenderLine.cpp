@@ -1,0 +1,29 @@
+#include "dbmender/MenderLine.h"
+
+#include "core/RegistryKeys.h"
+#include "platform/values/Text.h"
+
+namespace dbmender {
+
+using platform::EqualIgnoringCase;
+
+// A path holds "/" itself, so a switch is a whole word here and its value the rest of it.
+MenderLine ReadMenderLine(std::span<const char* const> words) {
+    MenderLine line;
+    line.dbName = core::kDefaultDatabase;
+    for (const std::string_view word : words) {
+        const std::size_t equals = word.find('=');
+        const std::string_view name = word.substr(0, equals);
+        const std::string value(equals == std::string_view::npos
+                                    ? std::string_view()
+                                    : platform::Trim(word.substr(equals + 1)));
+        if (EqualIgnoringCase(name, "/nowarning")) line.warns = false;
+        if (EqualIgnoringCase(name, "/appstart")) line.appStart = value;
+        if (EqualIgnoringCase(name, "/altdb") && !value.empty()) {
+            line.dbName = platform::ToLower(value);
+        }
+    }
+    return line;
+}
+
+} // namespace dbmender

@@ -1,0 +1,204 @@
+#include "dbmender/frmDbMender.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+#include <array>
+
+#include "core/RegistryKeys.h"
+#include "platform/dialogs/Choosers.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/qt/Icons.h"
+#include "platform/qt/Text.h"
+#include "platform/system/Paths.h"
+#include "platform/values/Errors.h"
+#include "ui_frmDbMender.h"
+
+namespace dbmender {
+
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+namespace {
+
+constexpr std::array kRemedies = {Remedy::WriteVersion, Remedy::UseExisting, Remedy::MakeEmpty,
+                                  Remedy::MakeSample};
+constexpr std::string_view kTitle = "Database Mender";
+
+/// Ends the making of a sample on the person's wish.
+struct Cancelled {};
+
+} // namespace
+
+frmDbMender::frmDbMender(MenderLine line, StartProgram start, QWidget* parent)
+    : QDialog(parent),
+      ui_(std::make_unique<Ui::frmDbMender>()),
+      line_(std::move(line)),
+      start_(std::move(start)) {
+    ui_->setupUi(this);
+    ui_->prgWork->hide();
+    ui_->lblPicture->setPixmap(
+        platform::qt::LoadIcon(QStringLiteral("vestrel")).pixmap(ui_->lblPicture->minimumSize()));
+    if (line_.dbName != core::kDefaultDatabase) {
+        setWindowTitle(windowTitle() + QStringLiteral(" - ") + ToScreen(line_.dbName));
+    }
+    for (const Remedy remedy : kRemedies) {
+        connect(&ButtonOf(remedy), &QRadioButton::toggled, this, [this](bool on) {
+            if (on) RemedyChosen();
+        });
+    }
+    connect(ui_->txtFolder, &QLineEdit::textChanged, this, &frmDbMender::ShowObjection);
+    connect(ui_->cmdBrowse, &QPushButton::clicked, this, &frmDbMender::Browse);
+    connect(ui_->cmdMend, &QPushButton::clicked, this, &frmDbMender::Mend);
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmDbMender::reject);
+}
+
+frmDbMender::~frmDbMender() = default;
+
+void frmDbMender::Setup() {
+    diagnosis_ = ExamineRegistered(line_.dbName);
+    ShowFinding();
+    OfferRemedies();
+    show();
+    MakeRoom();
+    if (line_.warns) {
+        platform::TheDialogs().ShowMessage(
+            kTitle, "All other Vestrel programs should be shut down before you go on.",
+            platform::Icon::Information);
+    }
+}
+
+void frmDbMender::ShowFinding() {
+    ui_->lblFinding->setText(ToScreen(Explain(diagnosis_)));
+}
+
+void frmDbMender::OfferRemedies() {
+    const std::vector<Remedy> offered = RemediesFor(diagnosis_);
+    for (const Remedy remedy : kRemedies)
+        ButtonOf(remedy).setVisible(std::ranges::count(offered, remedy) > 0);
+    ButtonOf(offered.front()).setChecked(true);
+}
+
+/// A folder that the person gave stays; a proposal gives way to the next.
+void frmDbMender::RemedyChosen() {
+    const Remedy remedy = Chosen().remedy;
+    const bool isOwn = !ui_->txtFolder->text().isEmpty() && ui_->txtFolder->text() != proposed_;
+    if (!isOwn || remedy == Remedy::WriteVersion) {
+        proposed_ = ToScreen(ProposedFolder(diagnosis_, remedy).string());
+        ui_->txtFolder->setText(proposed_);
+    }
+    ui_->txtFolder->setEnabled(remedy != Remedy::WriteVersion);
+    ui_->cmdBrowse->setEnabled(remedy != Remedy::WriteVersion);
+    ShowObjection();
+}
+
+void frmDbMender::ShowObjection() {
+    const std::string objection = Objection(Chosen());
+    ui_->lblObjection->setText(ToScreen(objection));
+    ui_->cmdMend->setEnabled(objection.empty());
+    MakeRoom();
+}
+
+/// Long paths wrap into more lines than the window was made for.
+void frmDbMender::MakeRoom() {
+    const int wanted = layout()->totalHeightForWidth(width());
+    if (height() < wanted) resize(width(), wanted);
+}
+
+void frmDbMender::Browse() {
+    const auto folder = platform::TheChoosers().Folder("Choose the folder of the database",
+                                                       FromScreen(ui_->txtFolder->text()));
+    if (folder) ui_->txtFolder->setText(ToScreen(*folder));
+}
+
+void frmDbMender::Mend() {
+    const Choice choice = Chosen();
+    try {
+        SetWorking(true);
+        Apply(choice, line_.dbName, [this](int daysDone, int days) {
+            ui_->prgWork->setRange(0, days);
+            ui_->prgWork->setValue(daysDone);
+            QCoreApplication::processEvents();
+            if (cancelled_) throw Cancelled();
+        });
+        SetWorking(false);
+    } catch (const Cancelled&) {
+        SetWorking(false);
+        ShowObjection();
+        return;
+    } catch (const std::exception& failure) {
+        SetWorking(false);
+        platform::TheDialogs().ShowMessage(kTitle, failure.what(), platform::Icon::Critical);
+        ShowObjection();
+        return;
+    }
+    StartAgain();
+}
+
+void frmDbMender::StartAgain() {
+    std::string program = line_.appStart;
+    if (program.empty()) {
+        program = (platform::ExecutablePath().parent_path() / "kestrom").string();
+    }
+    std::vector<std::string> arguments;
+    if (line_.dbName != core::kDefaultDatabase) arguments.push_back("/altdb=" + line_.dbName);
+    if (!platform::FileExists(program) || !start_(program, arguments)) {
+        platform::TheDialogs().ShowMessage(
+            kTitle, "The database can be used now, but " + program + " can't be started.",
+            platform::Icon::Exclamation);
+    }
+    accept();
+}
+
+void frmDbMender::SetWorking(bool working) {
+    working_ = working;
+    cancelled_ = false;
+    ui_->grpRemedies->setEnabled(!working);
+    ui_->cmdMend->setEnabled(!working);
+    ui_->prgWork->setRange(0, 0);
+    ui_->prgWork->setVisible(working);
+    ui_->lblObjection->setVisible(!working);
+    QCoreApplication::processEvents();
+}
+
+Choice frmDbMender::Chosen() const {
+    Choice choice;
+    for (const Remedy remedy : kRemedies) {
+        if (ButtonOf(remedy).isChecked()) choice.remedy = remedy;
+    }
+    choice.folder = FromScreen(ui_->txtFolder->text().trimmed());
+    return choice;
+}
+
+QRadioButton& frmDbMender::ButtonOf(Remedy remedy) const {
+    switch (remedy) {
+        case Remedy::WriteVersion:
+            return *ui_->optWriteVersion;
+        case Remedy::MakeEmpty:
+            return *ui_->optMakeEmpty;
+        case Remedy::MakeSample:
+            return *ui_->optMakeSample;
+        case Remedy::UseExisting:
+            break;
+    }
+    return *ui_->optUseExisting;
+}
+
+void frmDbMender::reject() {
+    if (working_) {
+        cancelled_ = true;
+        return;
+    }
+    QDialog::reject();
+}
+
+void frmDbMender::closeEvent(QCloseEvent* event) {
+    if (working_) {
+        cancelled_ = true;
+        event->ignore();
+        return;
+    }
+    QDialog::closeEvent(event);
+}
+
+} // namespace dbmender

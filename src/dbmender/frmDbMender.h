@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QDialog>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "dbmender/Diagnosis.h"
+#include "dbmender/MenderLine.h"
+#include "dbmender/Remedies.h"
+
+class QRadioButton;
+
+namespace Ui {
+class frmDbMender;
+}
+
+namespace dbmender {
+
+/// Starts a program that lives on without us; false when it can't be started.
+using StartProgram = std::function<bool(const std::filesystem::path& program,
+                                        const std::vector<std::string>& arguments)>;
+
+/// Tells what is wrong with a registered database, offers what helps, does it and starts the window
+/// program again.
+class frmDbMender : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmDbMender(MenderLine line, StartProgram start, QWidget* parent = nullptr);
+    ~frmDbMender() override;
+
+    void Setup();
+
+    /// Escape and Cancel: ends the making of a sample first.
+    void reject() override;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void ShowFinding();
+    void OfferRemedies();
+    void RemedyChosen();
+    void ShowObjection();
+    void MakeRoom();
+    void Browse();
+    void Mend();
+    void StartAgain();
+    void SetWorking(bool working);
+    Choice Chosen() const;
+    QRadioButton& ButtonOf(Remedy remedy) const;
+
+    std::unique_ptr<Ui::frmDbMender> ui_;
+    MenderLine line_;
+    StartProgram start_;
+    Diagnosis diagnosis_;
+    QString proposed_; ///< the folder that was put into the box last
+    bool working_ = false;
+    bool cancelled_ = false;
+};
+
+} // namespace dbmender

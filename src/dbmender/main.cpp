@@ -1,0 +1,35 @@
+#include <QApplication>
+#include <cstdio>
+#include <exception>
+#include <span>
+
+#include "core/Globals.h"
+#include "dbmender/frmDbMender.h"
+#include "platform/qt/Appearance.h"
+#include "platform/qt/Icons.h"
+#include "platform/qt/QtDialogs.h"
+#include "platform/system/Process.h"
+#include "shell/Registrations.h"
+
+int main(int argc, char** argv) {
+    try {
+        const QApplication application(argc, argv);
+        QApplication::setApplicationName(QStringLiteral("dbmender"));
+        QApplication::setDesktopFileName(QStringLiteral("vestrel"));
+        QApplication::setWindowIcon(platform::qt::LoadIcon(QStringLiteral("vestrel")));
+        core::InitGlobals({});
+        const platform::qt::DesktopAppearance appearance;
+        platform::SetDialogs(platform::qt::MakeDialogs());
+        platform::SetChoosers(platform::qt::MakeChoosers());
+        shell::RegisterLogic();
+
+        const std::span words(argv, static_cast<std::size_t>(argc));
+        dbmender::frmDbMender window(dbmender::ReadMenderLine(words.subspan(1)),
+                                     platform::StartDetached);
+        window.Setup();
+        return QApplication::exec();
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "dbmender: %s\n", failure.what());
+        return 1;
+    }
+}

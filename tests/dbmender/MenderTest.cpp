@@ -1,0 +1,172 @@
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+#include "core/CoreFixture.h"
+#include "core/RegistryKeys.h"
+#include "core/Settings.h"
+#include "dbmender/Diagnosis.h"
+#include "dbmender/MenderLine.h"
+#include "dbmender/Remedies.h"
+#include "platform/system/Paths.h"
+#include "platform/values/Errors.h"
+#include "shell/Registrations.h"
+#include "store/CreateDatabase.h"
+
+namespace {
+
+using dbmender::Condition;
+using dbmender::Remedy;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+TEST(MenderLine, ReadsEachSwitchAsAWholeWord) {
+    const auto read = [](std::vector<const char*> words) {
+        return dbmender::ReadMenderLine(words);
+    };
+    const auto line = read(
+        {"/NoWarning", "/appstart=/opt/My Vestrel/Kestrom=2", "/altdb= Second ", "/nodb", "x"});
+    EXPECT_FALSE(line.warns);
+    EXPECT_EQ(line.appStart, "/opt/My Vestrel/Kestrom=2");
+    EXPECT_EQ(line.dbName, "second");
+    for (const auto& words :
+         {std::vector<const char*>{}, {"/altdb=", "/appstart"}, {"nowarning"}}) {
+        const auto plain = read(words);
+        EXPECT_TRUE(plain.warns);
+        EXPECT_EQ(plain.appStart, "");
+        EXPECT_EQ(plain.dbName, "Default");
+    }
+}
+
+dbmender::Diagnosis Found(Condition condition, const std::filesystem::path& folder = {}) {
+    return {condition, folder, 0, {}};
+}
+
+class Mender : public tests::CoreProcess {
+  protected:
+    std::filesystem::path Books() const { return Folder() / "books"; }
+    void WriteVersion(std::string_view text) {
+        std::ofstream(Books() / store::kVersionFile) << text;
+    }
+    static std::string Registered(std::string_view name = "Default") {
+        return core::GetRegString(core::kDatabasesKey, name, "-");
+    }
+};
+
+TEST_F(Mender, TellsWhatIsWrong) {
+    EXPECT_EQ(dbmender::ExamineRegistered("second").condition, Condition::NotRegistered);
+    EXPECT_EQ(dbmender::Examine(Books()).condition, Condition::NoFolder);
+    std::filesystem::create_directory(Books());
+    EXPECT_EQ(dbmender::Examine(Books()).condition, Condition::NoFile);
+    std::ofstream(Books() / store::kDatabaseFile) << "a letter to my tenant, not a database";
+    EXPECT_EQ(dbmender::Examine(Books()).condition, Condition::NotADatabase);
+    std::filesystem::remove(Books() / store::kDatabaseFile);
+
+    store::CreateDatabase(Books());
+    core::SetRegString(core::kDatabasesKey, "second", Books().string());
+    EXPECT_EQ(dbmender::ExamineRegistered("second").condition, Condition::Ready);
+    struct Version {
+        const char* text;
+        Condition condition;
+        const char* says;
+    };
+    for (const auto& [text, condition, says] :
+         {Version{"8", Condition::TooOld, "has version 8, and this Vestrel needs version 9"},
+          Version{"nine", Condition::TooOld, "does not tell its version"},
+          Version{"9", Condition::Ready, "in order"},
+          Version{"10", Condition::Ready, "made for a newer Vestrel, with version 10"}}) {
+        WriteVersion(text);
+        const auto found = dbmender::Examine(Books());
+        EXPECT_EQ(found.condition, condition) << text;
+        EXPECT_THAT(dbmender::Explain(found), HasSubstr(says));
+    }
+    std::filesystem::remove(Books() / store::kVersionFile);
+    EXPECT_EQ(dbmender::Examine(Books()).condition, Condition::NoVersion);
+    {
+        platform::Connection database;
+        database.Open(Books() / store::kDatabaseFile);
+        database.RunScript("ALTER TABLE Lease DROP COLUMN Notes");
+    }
+    EXPECT_EQ(dbmender::Examine(Books()).condition, Condition::TooOld)
+        << "without a version, one that lacks a field is of an older one";
+    WriteVersion("9");
+    const auto damaged = dbmender::Examine(Books());
+    EXPECT_EQ(damaged.condition, Condition::Incomplete);
+    EXPECT_THAT(dbmender::Explain(damaged), HasSubstr("the field Notes of the table Lease"));
+}
+
+TEST_F(Mender, ProposesTheDatabasesOwnFolderWhereNothingIsLost) {
+    const std::filesystem::path usual = PathTo("db");
+    const auto unknown = Found(Condition::NotRegistered);
+    const auto gone = Found(Condition::NoFolder, Books());
+    EXPECT_EQ(dbmender::ProposedFolder(unknown, Remedy::MakeEmpty), usual);
+    EXPECT_EQ(dbmender::ProposedFolder(unknown, Remedy::UseExisting), "");
+    EXPECT_EQ(dbmender::ProposedFolder(gone, Remedy::MakeSample), Books());
+    store::CreateDatabase(usual);
+    EXPECT_EQ(dbmender::ProposedFolder(unknown, Remedy::MakeEmpty), usual.string() + "2");
+    store::CreateDatabase(Books());
+    const auto old = Found(Condition::TooOld, Books());
+    EXPECT_EQ(dbmender::ProposedFolder(old, Remedy::MakeEmpty), usual.string() + "2");
+    EXPECT_EQ(dbmender::ProposedFolder(old, Remedy::UseExisting), Books());
+
+    EXPECT_EQ(dbmender::RemediesFor(unknown).front(), Remedy::MakeEmpty);
+    EXPECT_EQ(dbmender::RemediesFor(gone).front(), Remedy::UseExisting);
+    EXPECT_THAT(dbmender::RemediesFor(Found(Condition::NoVersion)),
+                ElementsAre(Remedy::WriteVersion, Remedy::UseExisting, Remedy::MakeEmpty,
+                            Remedy::MakeSample));
+}
+
+TEST_F(Mender, RefusesWhatCannotBeDone) {
+    store::CreateDatabase(Books());
+    MakeFile("letter");
+    struct Case {
+        Remedy remedy;
+        std::filesystem::path folder;
+        const char* says;
+    };
+    for (const auto& [remedy, folder, says] :
+         {Case{Remedy::MakeEmpty, "", "Choose a folder"},
+          Case{Remedy::MakeEmpty, "db", "the whole path"},
+          Case{Remedy::MakeSample, Books(), "a database in this folder already"},
+          Case{Remedy::MakeEmpty, PathTo("letter"), "is a file"},
+          Case{Remedy::UseExisting, PathTo("nowhere"), "is missing"},
+          Case{Remedy::WriteVersion, Books(), "in order"}}) {
+        EXPECT_THAT(dbmender::Objection({remedy, folder}), HasSubstr(says)) << folder;
+        EXPECT_THROW(dbmender::Apply({remedy, folder}, "Default"), platform::Error) << folder;
+    }
+    EXPECT_EQ(Registered(), "-");
+    EXPECT_EQ(dbmender::Objection({Remedy::UseExisting, Books()}), "");
+}
+
+TEST_F(Mender, MakesFindsAndMendsAndRegistersIt) {
+    const std::filesystem::path made = Folder() / "new" / "books";
+    dbmender::Apply({Remedy::MakeEmpty, made}, "Default");
+    EXPECT_EQ(dbmender::ExamineRegistered("Default").condition, Condition::Ready);
+    EXPECT_EQ(Registered(), made.string() + "/");
+    EXPECT_TRUE(platform::FileExists(PathTo("References.mdb")));
+
+    dbmender::Apply({Remedy::UseExisting, made}, "second");
+    EXPECT_EQ(Registered("second"), made.string() + "/");
+
+    std::filesystem::remove(made / store::kVersionFile);
+    dbmender::Apply({Remedy::WriteVersion, made}, "Default");
+    EXPECT_EQ(platform::ReadWholeFile(made / store::kVersionFile), "9");
+}
+
+struct Enough {};
+
+TEST_F(Mender, LeavesNothingOfASampleThatWasBrokenOff) {
+    shell::RegisterLogic();
+    int told = 0;
+    const auto stop = [&](int daysDone, int days) {
+        EXPECT_EQ(daysDone, ++told);
+        EXPECT_GT(days, 700);
+        if (daysDone == 2) throw Enough();
+    };
+    EXPECT_THROW(dbmender::Apply({Remedy::MakeSample, Books()}, "Default", stop), Enough);
+    EXPECT_EQ(dbmender::Objection({Remedy::MakeSample, Books()}), "") << "it can be begun again";
+    EXPECT_EQ(Registered(), "-");
+    EXPECT_FALSE(core::App().Connection.IsOpen());
+}
+
+} // namespace

@@ -1,0 +1,155 @@
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+
+#include "core/RegistryKeys.h"
+#include "core/Settings.h"
+#include "dbmender/frmDbMender.h"
+#include "platform/dialogs/Choosers.h"
+#include "platform/qt/Text.h"
+#include "shell/Registrations.h"
+#include "store/CreateDatabase.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
+#include "support/screens/ScreenChecks.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+using support::ClickOn;
+using support::Find;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class MenderScreen : public support::ScreenTest {
+  protected:
+    MenderScreen() { MakeFile("kestrom"); }
+    ~MenderScreen() override { platform::SetChoosers(nullptr); }
+
+    dbmender::frmDbMender& Open(bool warns = false, const char* dbName = "Default") {
+        const auto start = [this](const std::filesystem::path& program,
+                                  const std::vector<std::string>& arguments) {
+            started_.push_back(program.filename().string());
+            started_.insert(started_.end(), arguments.begin(), arguments.end());
+            return true;
+        };
+        window_ = std::make_unique<dbmender::frmDbMender>(
+            dbmender::MenderLine{warns, PathTo("kestrom"), dbName}, start);
+        window_->Setup();
+        return *window_;
+    }
+    std::string Finding() const { return FromScreen(Find<QLabel>(*window_, "lblFinding").text()); }
+    std::string Objection() const {
+        return FromScreen(Find<QLabel>(*window_, "lblObjection").text());
+    }
+    QLineEdit& FolderBox() const { return Find<QLineEdit>(*window_, "txtFolder"); }
+    QPushButton& Mend() const { return Find<QPushButton>(*window_, "cmdMend"); }
+    void Pick(const char* option) const { Find<QRadioButton>(*window_, option).click(); }
+    static std::string Registered(const char* name) {
+        return core::GetRegString(core::kDatabasesKey, name, "-");
+    }
+
+    std::unique_ptr<dbmender::frmDbMender> window_;
+    std::vector<std::string> started_;
+};
+
+TEST_F(MenderScreen, MakesAnEmptyDatabaseForANewcomer) {
+    Open(true);
+    EXPECT_EQ(Heard(),
+              std::vector<std::string>{"Database Mender: All other Vestrel programs should "
+                                       "be shut down before you go on."});
+    EXPECT_EQ(Finding(), "Vestrel does not know yet where your database is.");
+    EXPECT_EQ(FromScreen(FolderBox().text()), PathTo("db"));
+    EXPECT_FALSE(Find<QRadioButton>(*window_, "optWriteVersion").isVisible());
+    QTest::keyClick(window_.get(), Qt::Key_Return);
+    EXPECT_EQ(Registered("Default"), PathTo("db") + "/");
+    EXPECT_THAT(started_, ElementsAre("kestrom"));
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(MenderScreen, PointsAtAnExistingDatabaseOfAnotherName) {
+    core::SetRegString(core::kDatabasesKey, "second", PathTo("gone"));
+    store::CreateDatabase(PathTo("mine"));
+    Open(false, "second");
+    EXPECT_THAT(Heard(), IsEmpty());
+    EXPECT_EQ(Finding(), "The folder " + PathTo("gone") + " is missing.");
+    EXPECT_TRUE(Find<QRadioButton>(*window_, "optUseExisting").isChecked());
+    EXPECT_FALSE(Mend().isEnabled());
+    EXPECT_THAT(Objection(), HasSubstr("is missing"));
+    support::Type(FolderBox(), PathTo("mine"));
+    EXPECT_EQ(Objection(), "");
+    Pick("optMakeEmpty");
+    EXPECT_EQ(FromScreen(FolderBox().text()), PathTo("mine")) << "the person's folder stays";
+    EXPECT_THAT(Objection(), HasSubstr("a database in this folder already"));
+    EXPECT_FALSE(Mend().isEnabled());
+    Pick("optUseExisting");
+    ClickOn(Mend());
+    EXPECT_EQ(Registered("second"), PathTo("mine") + "/");
+    EXPECT_EQ(Registered("Default"), "-");
+    EXPECT_THAT(started_, ElementsAre("kestrom", "/altdb=second"));
+}
+
+TEST_F(MenderScreen, SaysWhyItCannotMakeOne) {
+    MakeFile("locked");
+    Open();
+    support::Type(FolderBox(), PathTo("locked/db"));
+    ClickOn(Mend());
+    const auto heard = Heard();
+    ASSERT_EQ(heard.size(), 1U);
+    EXPECT_THAT(heard.front(), HasSubstr("locked"));
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_TRUE(Mend().isEnabled());
+    EXPECT_EQ(Registered("Default"), "-");
+}
+
+TEST_F(MenderScreen, CanBeStoppedWhileItMakesTheSample) {
+    shell::RegisterLogic();
+    Open();
+    Pick("optMakeSample");
+    bool worked = false;
+    QTimer ticks; // a frozen window would let none of them through
+    QObject::connect(&ticks, &QTimer::timeout, [&] {
+        const auto& bar = Find<QProgressBar>(*window_, "prgWork");
+        if (bar.value() < 3) return;
+        worked = bar.isVisible() && !Mend().isEnabled();
+        QTest::keyClick(window_.get(), Qt::Key_Escape);
+        ticks.stop();
+    });
+    ticks.start(0);
+    ClickOn(Mend());
+    EXPECT_TRUE(worked);
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_TRUE(Mend().isEnabled());
+    EXPECT_THAT(started_, IsEmpty());
+    EXPECT_THAT(Heard(), IsEmpty());
+    EXPECT_FALSE(std::filesystem::exists(PathTo("db/Vestrel.mdb")));
+    QTest::keyClick(window_.get(), Qt::Key_Escape);
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(MenderScreen, LooksAndReadsRight) {
+    store::CreateDatabase(PathTo("mine"));
+    std::filesystem::remove(PathTo("mine/Version"));
+    core::SetRegString(core::kDatabasesKey, "Default", PathTo("mine"));
+    Open();
+    EXPECT_TRUE(Find<QRadioButton>(*window_, "optWriteVersion").isChecked());
+    EXPECT_EQ(Objection(), "");
+    EXPECT_FALSE(FolderBox().isEnabled());
+    EXPECT_THAT(support::Portray(*window_, "frmDbMender-version"), IsEmpty());
+    Pick("optUseExisting");
+    EXPECT_THAT(support::MnemonicFaults(*window_), IsEmpty());
+    EXPECT_THAT(support::TabOrderFaults(*window_), IsEmpty());
+    EXPECT_THAT(support::NameFaults(*window_), IsEmpty());
+    EXPECT_THAT(support::Portray(*window_, "frmDbMender"), IsEmpty());
+}
+
+} // namespace
