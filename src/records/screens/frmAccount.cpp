@@ -6,6 +6,7 @@
 #include "core/screens/AddressBox.h"
 #include "core/screens/ComboList.h"
 #include "core/screens/TabPages.h"
+#include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/screens/Contacts.h"
 #include "records/screens/Panels.h"
@@ -40,6 +41,7 @@ frmAccount::~frmAccount() = default;
 void frmAccount::MakePanels() {
     contacts_ = PlacePanel(new Contacts(this), *ui_->tabContacts, "ucContacts");
     ledger_ = PlacePanel(new books::screens::General_Ledger(this), *ui_->tabLedger, "ucLedger");
+    files_ = PlacePanel(new documents::screens::FileObjects(this), *ui_->tabFiles, "ucFOB");
     connect(contacts_, &Contacts::Changed, this, [this] { MarkDirty(); });
 }
 
@@ -72,6 +74,7 @@ void frmAccount::ShowCaption() {
                                  : tr("Editing Account: %1").arg(shownAs));
     contacts_->Load(core::kAccount, Id());
     ledger_->SetParty(core::kAccount, Id());
+    files_->SetRecord(core::kAccount, Id());
 }
 
 std::vector<std::string> frmAccount::Errors() {

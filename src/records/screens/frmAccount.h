@@ -16,6 +16,10 @@ namespace books::screens {
 class General_Ledger;
 }
 
+namespace documents::screens {
+class FileObjects;
+}
+
 namespace records::screens {
 
 class Contacts;
@@ -49,6 +53,7 @@ class frmAccount : public core::screens::RecordForm {
     std::unique_ptr<Ui::frmAccountDetails> details_;
     Contacts* contacts_ = nullptr;
     books::screens::General_Ledger* ledger_ = nullptr;
+    documents::screens::FileObjects* files_ = nullptr;
 };
 
 } // namespace records::screens

@@ -16,6 +16,10 @@ namespace books::screens {
 class General_Ledger;
 }
 
+namespace documents::screens {
+class FileObjects;
+}
+
 namespace records::screens {
 
 class Contacts;
@@ -48,6 +52,7 @@ class frmTenant : public core::screens::RecordForm {
     RelatedDBs* incidents_ = nullptr;
     Contacts* contacts_ = nullptr;
     books::screens::General_Ledger* ledger_ = nullptr;
+    documents::screens::FileObjects* files_ = nullptr;
 };
 
 } // namespace records::screens

@@ -12,6 +12,7 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/screens/MaskedEdit.h"
+#include "documents/screens/FileObjects.h"
 #include "exchange/DeleteRecord.h"
 #include "platform/qt/Text.h"
 #include "records/screens/frmTenant.h"
@@ -182,7 +183,7 @@ TEST_F(TenantTest, ListsItsIncidentsAndOpensThem) {
     core::RegisterOpener(core::kIncident, {});
 }
 
-TEST_F(TenantTest, ShowsWhatItPaidAndComesBackUnderItsNumberWhenRemovedMeanwhile) {
+TEST_F(TenantTest, ShowsPaymentsAndFilesAndComesBackUnderItsNumberWhenRemovedMeanwhile) {
     Run("INSERT INTO Transactions (IdTransaction, IdTenant, DateEffective, Amount, Description) "
         "VALUES (600, 30, '05/01/2024', 950, 'May')");
     const auto form = Open(30);
@@ -191,6 +192,13 @@ TEST_F(TenantTest, ShowsWhatItPaidAndComesBackUnderItsNumberWhenRemovedMeanwhile
     Run("UPDATE Transactions SET IdTenant = 31");
     core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
     EXPECT_EQ(ledger->Model().rowCount(), 0);
+
+    Run("INSERT INTO FileObject (IdFileObject, dbType, IdOwner, Description, FilePath, IsPic) "
+        "VALUES (601, 5, 30, 'Lease', '/nowhere/lease.pdf', False)");
+    core::NotifyAll(core::kFileObject, core::kRecordsChanged, 0);
+    auto& files = Find<documents::screens::FileObjects>(*form, "ucFOB");
+    files.ShowFileObject(601);
+    EXPECT_EQ(files.SelectedId(), 601);
 
     Answer({true});
     exchange::DeleteRecord(core::kTenant, 30);
