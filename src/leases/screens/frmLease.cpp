@@ -1,0 +1,318 @@
+#include "leases/screens/frmLease.h"
+
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include "core/EditRecord.h"
+#include "core/RecordHelpers.h"
+#include "core/RecordKinds.h"
+#include "core/RecordNotices.h"
+#include "core/Session.h"
+#include "core/screens/Binding.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/ControlValue.h"
+#include "core/screens/ErrorRoll.h"
+#include "core/screens/TabPages.h"
+#include "core/screens/Tags.h"
+#include "documents/screens/FileObjects.h"
+#include "leases/mLease.h"
+#include "leases/screens/Lease_Ledger.h"
+#include "platform/qt/Text.h"
+#include "platform/values/Conversions.h"
+#include "ui_frmLease.h"
+#include "ui_frmLeaseFees.h"
+#include "ui_frmLeaseMore.h"
+#include "ui_frmLeaseNotes.h"
+#include "ui_frmLeaseTerms.h"
+
+namespace leases::screens {
+
+using core::screens::FillList;
+using core::screens::GetSelectedId;
+using core::screens::Guarded;
+using core::screens::SelectById;
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+frmLease::frmLease(QWidget* parent)
+    : RecordForm({core::kLease, "Lease", "IdLease"}, parent),
+      ui_(std::make_unique<Ui::frmLease>()),
+      terms_(std::make_unique<Ui::frmLeaseTerms>()),
+      fees_(std::make_unique<Ui::frmLeaseFees>()),
+      more_(std::make_unique<Ui::frmLeaseMore>()),
+      notes_(std::make_unique<Ui::frmLeaseNotes>()),
+      leaseToken_([this](std::int16_t kind, std::int16_t, std::int32_t id) {
+          if (kind == core::kLease && id != 0 && id == Id()) LeaseChanged();
+      }) {
+    ui_->setupUi(this);
+    terms_->setupUi(ui_->tabTerms);
+    fees_->setupUi(ui_->tabFees);
+    more_->setupUi(ui_->tabMore);
+    notes_->setupUi(ui_->tabNotes);
+    MakePanels();
+    MakeMenu();
+    Wire();
+    Connect();
+    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+}
+
+frmLease::~frmLease() = default;
+
+void frmLease::MakePanels() {
+    ucLL_ = new Lease_Ledger(this);
+    ucLL_->setObjectName(QStringLiteral("ucLL"));
+    ui_->ledgerPage->insertWidget(0, ucLL_, 1);
+    ucFOB_ = new documents::screens::FileObjects(this);
+    ucFOB_->setObjectName(QStringLiteral("ucFOB"));
+    (new QVBoxLayout(ui_->tabFiles))->addWidget(ucFOB_);
+}
+
+void frmLease::MakeMenu() {
+    struct Item {
+        LeaseCommand command;
+        const char* name;
+        QString text;
+    };
+    auto* const bar = new QMenuBar(this);
+    QMenu* const menu = bar->addMenu(tr("&Lease"));
+    for (const Item& item :
+         {Item{LeaseCommand::GiveNotice, "mnuGiveNotice", tr("&Give Notice...")},
+          Item{LeaseCommand::CancelNotice, "mnuCancelNotice", tr("&Cancel Notice...")},
+          Item{LeaseCommand::BreakLease, "mnuBreakLease", tr("&Break Lease...")},
+          Item{LeaseCommand::RenewLease, "mnuRenewLease", tr("Re&new Lease...")},
+          Item{LeaseCommand::RollForward, "mnuRollFOrward", tr("Roll &Forward...")},
+          Item{LeaseCommand::Reprocess, "mnuReprocess", tr("&Reprocess...")}}) {
+        if (item.command == LeaseCommand::RollForward) menu->addSeparator();
+        QAction* const action = menu->addAction(item.text);
+        action->setObjectName(QLatin1String(item.name));
+        commands_[static_cast<std::size_t>(item.command)] = action;
+        connect(action, &QAction::triggered, this,
+                [this, command = item.command] { Guarded([&] { Run(command); }); });
+    }
+    layout()->setMenuBar(bar);
+}
+
+void frmLease::Connect() {
+    const auto guarded = [this](auto work) {
+        return [this, work] { Guarded([&] { (this->*work)(); }); };
+    };
+    connect(terms_->dpDateActive, &QLineEdit::textChanged, this, &frmLease::DateActiveChanged);
+    connect(terms_->cboIdUnit, &QComboBox::currentIndexChanged, this,
+            guarded(&frmLease::UnitChosen));
+    connect(terms_->cboTermType, &QComboBox::currentTextChanged, this, &frmLease::ShowParts);
+    connect(more_->chkSubsidy, &QCheckBox::toggled, this, &frmLease::ShowParts);
+    connect(more_->chkPurchaseOption, &QCheckBox::toggled, this, &frmLease::ShowParts);
+    connect(more_->cboSubsidyType, &QComboBox::currentIndexChanged, this,
+            guarded(&frmLease::FillPayors));
+    connect(ucLL_, &Lease_Ledger::Changed, this, guarded(&frmLease::ShowBalances));
+    connect(terms_->cmdZoomUnit, &QAbstractButton::clicked, this, [this] { Zoom(core::kUnit); });
+    connect(terms_->cmdZoomTenant, &QAbstractButton::clicked, this,
+            [this] { Zoom(core::kTenant); });
+}
+
+void frmLease::Setup(std::int32_t idLease) {
+    bool found = idLease == 0;
+    if (idLease != 0) {
+        // A lease that can't be brought up to date must still be opened, to be mended.
+        Guarded([&] { UpdateLeaseById(idLease, WalkMode::CatchUp); });
+        platform::Recordset rows;
+        found = core::OneRecordFound(
+            core::OpenRecordset(rows, "SELECT IdLease FROM Lease WHERE IdLease = ?",
+                                core::Access::ReadOnly, {idLease}));
+    }
+    const bool isStored = idLease != 0 && found;
+    age_ = isStored ? LeaseAge::Stored : LeaseAge::New;
+    OpenRecord(isStored ? idLease : 0, [&] {
+        FillLists();
+        if (!isStored) ShowProposal();
+    });
+}
+
+void frmLease::FillLists() {
+    using core::screens::FillFromCommaList;
+    if (terms_->cboTermType->count() == 0) {
+        FillFromCommaList(*terms_->cboTermType, "WTW,MTM,Week(s),Month(s),Year(s)");
+        FillFromCommaList(*terms_->cboExpireOption, "WTW,MTM,Renew,Expire");
+        more_->cboSubsidyType->addItem(tr("Account"), core::kAccount);
+        more_->cboSubsidyType->addItem(tr("Tenant"), core::kTenant);
+    }
+    FillPayors();
+    FillList(core::kUnit, *terms_->cboIdUnit, {.addNone = true});
+    FillList(core::kTenant, *terms_->cboIdTenant, {.addNone = true});
+}
+
+void frmLease::FillPayors() {
+    FillList(GetSelectedId(*more_->cboSubsidyType), *more_->cboSubsidy, {.addNone = true});
+}
+
+/// What a new lease starts with is shown as a stored one is, and never stored by that.
+void frmLease::ShowProposal() {
+    platform::Recordset row;
+    ProposeLease(row);
+    core::screens::BindFromRecord(*this, row);
+    ShowEnabled();
+}
+
+void frmLease::ShowRow(platform::Recordset& row) {
+    RecordForm::ShowRow(row);
+    // The list of payors depends on a field that may be bound after it.
+    FillPayors();
+    if (!row["SubsidyId"].IsNull()) {
+        SelectById(*more_->cboSubsidy, row["SubsidyId"].AsLong(), {.selectFirst = true});
+    }
+    ShowEnabled();
+}
+
+void frmLease::WriteRow(platform::Recordset& row) {
+    core::screens::BindToRecord(*this, row);
+    SaveLease(row, age_);
+}
+
+void frmLease::AfterSave() {
+    age_ = LeaseAge::Stored;
+    saved_ = true;
+}
+
+void frmLease::ShowCaption() {
+    if (Id() == 0) {
+        setWindowTitle(tr("Adding New Lease"));
+        ui_->lblTitle->setText(tr("New Lease (Press Apply to Save)"));
+    } else {
+        const QString name =
+            tr("%1 at %2")
+                .arg(terms_->cboIdTenant->currentText(), terms_->cboIdUnit->currentText());
+        setWindowTitle(tr("Lease: %1").arg(name));
+        ui_->lblTitle->setText(tr("Editing Lease: %1").arg(name));
+    }
+    ucFOB_->SetRecord(core::kLease, Id());
+    Guarded([this] {
+        ucLL_->Load(Id());
+        ShowBalances();
+    });
+    ShowEnabled();
+}
+
+std::vector<std::string> frmLease::Errors() {
+    return LeaseErrors({GetSelectedId(*terms_->cboIdUnit), GetSelectedId(*terms_->cboIdTenant),
+                        terms_->txtRent->Amount().value_or(platform::Currency())});
+}
+
+void frmLease::Refresh(std::int16_t kind) {
+    const bool isNew = age_ == LeaseAge::New;
+    if (kind == core::kUnit && isNew) FillList(core::kUnit, *terms_->cboIdUnit, {.addNone = true});
+    if (kind == core::kTenant && isNew) {
+        FillList(core::kTenant, *terms_->cboIdTenant, {.addNone = true});
+    }
+    if (kind == core::kAccount || kind == core::kTenant) {
+        if (kind == GetSelectedId(*more_->cboSubsidyType)) FillPayors();
+    }
+}
+
+void frmLease::DateActiveChanged() {
+    if (Loading() || age_ != LeaseAge::New) return;
+    const auto day = terms_->dpDateActive->Day();
+    if (!day || !day->IsSet()) return;
+    terms_->dpDateRenewed->SetDay(*day);
+    terms_->dpDateNextDue->SetDay(*day);
+}
+
+void frmLease::UnitChosen() {
+    if (Loading() || age_ != LeaseAge::New) return;
+    terms_->txtRent->SetAmount(core::GetUnitRent(GetSelectedId(*terms_->cboIdUnit)));
+}
+
+void frmLease::ShowEnabled() {
+    ShowAvailable();
+    ShowParts();
+}
+
+void frmLease::ShowAvailable() {
+    const LeaseAvailability can = AvailabilityOf(age_, FromScreen(ui_->txtStatus->text()));
+    const auto enable = [this](LeaseCommand command, bool enabled) {
+        commands_[static_cast<std::size_t>(command)]->setEnabled(enabled);
+    };
+    enable(LeaseCommand::GiveNotice, can.giveNotice);
+    enable(LeaseCommand::BreakLease, can.breakLease);
+    enable(LeaseCommand::CancelNotice, can.cancelNotice);
+    enable(LeaseCommand::RenewLease, can.renewLease);
+    enable(LeaseCommand::RollForward, can.runs);
+    enable(LeaseCommand::Reprocess, can.runs);
+    terms_->dpDateActive->setEnabled(can.dateActive);
+    terms_->dpDateRenewed->setEnabled(can.dateRenewed);
+    terms_->dpDateVacating->setEnabled(can.dateVacating);
+    const LoadingGuard loading(*this);
+    if (can.blankVacating) terms_->dpDateVacating->clear();
+    terms_->cboIdTenant->setEnabled(can.parties);
+    terms_->cboIdUnit->setEnabled(can.parties);
+}
+
+/// What one choice makes another depend on.
+void frmLease::ShowParts() {
+    const bool ends = HasEnd(FromScreen(terms_->cboTermType->currentText()));
+    terms_->txtTerm->setEnabled(ends);
+    terms_->lblExpireOption->setEnabled(ends);
+    terms_->cboExpireOption->setEnabled(ends);
+    const bool subsidy = more_->chkSubsidy->isChecked();
+    const bool option = more_->chkPurchaseOption->isChecked();
+    more_->fraSubsidy->setEnabled(subsidy);
+    more_->fraLeaseOption->setEnabled(option);
+    ucLL_->OfferTabs(subsidy, option);
+}
+
+/// The sums of the ledger, as they are now.
+void frmLease::ShowBalances() {
+    if (Id() == 0) return;
+    const LoadingGuard loading(*this);
+    platform::Recordset row;
+    ReadBalances(row, Id());
+    if (row.Eof()) return;
+    for (QWidget* const control : std::initializer_list<QWidget*>{
+             ui_->txtRentDue, more_->txtSubsDue, more_->txtOptionBal, ui_->lblDepositTotal,
+             ui_->lblDepositPaid, ui_->lblDepositDue, ui_->lblDepositRefunded,
+             ui_->lblDepositCharged, ui_->lblDepositBalance}) {
+        const auto field = row[core::screens::FieldOfTag(core::screens::TagOf(*control))];
+        if (!field.IsNull()) core::screens::ShowValue(*control, '$', field.Value());
+    }
+}
+
+void frmLease::LeaseChanged() {
+    const LoadingGuard loading(*this);
+    if (!Dirty()) return Load();
+    platform::Recordset row;
+    FindRow(row);
+    if (row.Eof()) return;
+    // What the books themselves move must not be overwritten by the next save.
+    for (QWidget* const control : std::initializer_list<QWidget*>{
+             ui_->txtStatus, ui_->txtRentStatus, terms_->dpDateNextDue}) {
+        const std::string tag = core::screens::TagOf(*control);
+        const auto field = row[core::screens::FieldOfTag(tag)];
+        if (!field.IsNull()) core::screens::ShowValue(*control, tag.front(), field.Value());
+    }
+    ShowAvailable();
+    ShowBalances();
+}
+
+void frmLease::Run(LeaseCommand command) {
+    if (!AskWhether(command)) return;
+    saved_ = false;
+    Apply();
+    if (!saved_) return;
+    const std::int32_t id = Id();
+    const double days =
+        platform::TryParseNumber(FromScreen(terms_->txtNoticeDays->text())).value_or(0);
+    RunCommand(command, id, platform::RoundToInt16(days));
+    if (command == LeaseCommand::Reprocess || command == LeaseCommand::RollForward) {
+        Setup(id);
+    } else {
+        const LoadingGuard loading(*this);
+        Load();
+    }
+}
+
+void frmLease::Zoom(std::int16_t kind) {
+    const QComboBox& combo = kind == core::kUnit ? *terms_->cboIdUnit : *terms_->cboIdTenant;
+    const std::int32_t id = GetSelectedId(combo);
+    if (id != 0) Guarded([&] { core::EditRecord(kind, id); });
+}
+
+} // namespace leases::screens

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+#include "core/NotifyAll.h"
+#include "core/screens/RecordForm.h"
+#include "leases/LeaseCommands.h"
+#include "leases/LeaseEditor.h"
+
+class QAction;
+
+namespace documents::screens {
+class FileObjects;
+}
+
+namespace Ui {
+class frmLease;
+class frmLeaseFees;
+class frmLeaseMore;
+class frmLeaseNotes;
+class frmLeaseTerms;
+} // namespace Ui
+
+namespace leases::screens {
+
+class Lease_Ledger;
+
+/// A lease: its terms, its ledger, and the commands that move it through its life by hand.
+class frmLease : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmLease(QWidget* parent = nullptr);
+    ~frmLease() override;
+
+    /// Opens a lease, brought up to date, or a new one (0).
+    void Setup(std::int32_t idLease);
+
+  protected:
+    void ShowRow(platform::Recordset& row) override;
+    void WriteRow(platform::Recordset& row) override;
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void AfterSave() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    void MakeMenu();
+    void MakePanels();
+    void Connect();
+    void FillLists();
+    void FillPayors();
+    void ShowProposal();
+
+    void DateActiveChanged();
+    void UnitChosen();
+    void ShowEnabled();
+    void ShowAvailable();
+    void ShowParts();
+    void ShowBalances();
+    /// The lease was changed elsewhere: what is typed here and not saved stays.
+    void LeaseChanged();
+    void Run(LeaseCommand command);
+    void Zoom(std::int16_t kind);
+
+    std::unique_ptr<Ui::frmLease> ui_;
+    std::unique_ptr<Ui::frmLeaseTerms> terms_;
+    std::unique_ptr<Ui::frmLeaseFees> fees_;
+    std::unique_ptr<Ui::frmLeaseMore> more_;
+    std::unique_ptr<Ui::frmLeaseNotes> notes_;
+    Lease_Ledger* ucLL_ = nullptr;
+    documents::screens::FileObjects* ucFOB_ = nullptr;
+    std::array<QAction*, 6> commands_{};
+    /// Until a save has succeeded, also where one failed midway.
+    LeaseAge age_ = LeaseAge::New;
+    bool saved_ = false;
+    core::NotifyToken leaseToken_;
+};
+
+} // namespace leases::screens

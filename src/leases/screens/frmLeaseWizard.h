@@ -1,0 +1,48 @@
+#pragma once
+
+#include <memory>
+
+#include "core/screens/frmWizard.h"
+#include "leases/LeaseWizard.h"
+
+namespace Ui {
+class frmLeaseWizardProperty;
+class frmLeaseWizardSummary;
+class frmLeaseWizardTenant;
+class frmLeaseWizardTerms;
+} // namespace Ui
+
+namespace leases::screens {
+
+/// Makes a lease in five steps, and where they are new its property and its tenant.
+class frmLeaseWizard : public core::screens::frmWizard {
+    Q_OBJECT
+
+  public:
+    explicit frmLeaseWizard(QWidget* parent = nullptr);
+    ~frmLeaseWizard() override;
+
+    void Setup();
+
+  protected:
+    std::vector<std::string> StepErrors(int step) override;
+    void ShowStep(int step) override;
+    void Finish() override;
+    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+
+  private:
+    void MakeSteps();
+    void Connect();
+    void ShowAvailable();
+    void PropertyChosen();
+    void LookUpZip();
+    LeaseWizardEntry Entered() const;
+    void ShowSummary();
+
+    std::unique_ptr<Ui::frmLeaseWizardProperty> property_;
+    std::unique_ptr<Ui::frmLeaseWizardTenant> tenant_;
+    std::unique_ptr<Ui::frmLeaseWizardTerms> terms_;
+    std::unique_ptr<Ui::frmLeaseWizardSummary> summary_;
+};
+
+} // namespace leases::screens

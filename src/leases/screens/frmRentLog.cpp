@@ -1,0 +1,85 @@
+#include "leases/screens/frmRentLog.h"
+
+#include <QPushButton>
+
+#include "core/RecordKinds.h"
+#include "core/RecordNotices.h"
+#include "core/Session.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/Tags.h"
+#include "leases/ChargeEditor.h"
+#include "platform/qt/Text.h"
+#include "platform/system/Clock.h"
+#include "platform/values/Errors.h"
+#include "ui_frmRentLog.h"
+
+namespace leases::screens {
+
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+namespace {
+
+/// Tells the person where there isn't exactly one row to show.
+bool IsThere(std::int32_t id) {
+    platform::Recordset rows;
+    return core::OneRecordFound(core::OpenRecordset(
+        rows, "SELECT IdRentLog FROM RentLog WHERE IdRentLog = ?", core::Access::ReadOnly, {id}));
+}
+
+} // namespace
+
+frmRentLog::frmRentLog(QWidget* parent)
+    : RecordForm({core::kRentLog, "RentLog", "IdRentLog"}, parent),
+      ui_(std::make_unique<Ui::frmRentLog>()) {
+    ui_->setupUi(this);
+    Wire();
+    ui_->cmdAction->Apply().hide();
+    QPushButton& save = ui_->cmdAction->Close();
+    save.setText(tr("&Save"));
+    core::screens::SetTag(save, "SAVE");
+}
+
+frmRentLog::~frmRentLog() = default;
+
+void frmRentLog::Setup(std::int32_t id, std::int32_t idLease, RentClass rentClass) {
+    entry_ = {.idLease = idLease, .rentClass = rentClass};
+    const bool isNew = id == 0 || !IsThere(id);
+    OpenRecord(isNew ? 0 : id, [this, rentClass] {
+        for (const std::string& word : ChargeCategories(rentClass))
+            ui_->cboCategory->addItem(ToScreen(word));
+        ui_->cboCategory->setCurrentIndex(ui_->cboCategory->count() - 1);
+        ui_->dpDatePosted->SetDay(platform::Today());
+        ui_->txtAmount->SetAmount({});
+    });
+    ui_->txtAmount->setFocus();
+    ui_->txtAmount->selectAll();
+}
+
+void frmRentLog::ShowRow(platform::Recordset& row) {
+    RecordForm::ShowRow(row);
+    entry_.idLease = row["IdLease"].AsLong();
+    entry_.idTransaction = row["IdTransaction"].AsLong();
+    entry_.rentClass = RentClass{row["Class"].AsInteger()};
+    if (!row["Flags"].IsNull()) entry_.flags = RentFlags{row["Flags"].AsInteger()};
+}
+
+void frmRentLog::WriteRow(platform::Recordset& row) {
+    const auto amount = ui_->txtAmount->Amount();
+    if (!amount) {
+        throw platform::ConversionError("\"" + FromScreen(ui_->txtAmount->text()) +
+                                        "\" is not an amount of money");
+    }
+    RentLogEntry entry = entry_;
+    entry.datePosted = ui_->dpDatePosted->Day().value_or(platform::Date());
+    entry.category = FromScreen(ui_->cboCategory->currentText());
+    entry.amount = *amount;
+    entry.description = FromScreen(ui_->txtDescription->text());
+    SaveCharge(row, entry);
+}
+
+void frmRentLog::ShowCaption() {
+    setWindowTitle(ToScreen(ChargeCaption(entry_.rentClass)));
+}
+
+} // namespace leases::screens

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/RecordForm.h"
+#include "leases/RentLog.h"
+
+namespace Ui {
+class frmRentLog;
+}
+
+namespace leases::screens {
+
+/// One row of a lease's ledger.
+class frmRentLog : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmRentLog(QWidget* parent = nullptr);
+    ~frmRentLog() override;
+
+    /// Opens a row, or a new one (0) of a lease and class.
+    void Setup(std::int32_t id, std::int32_t idLease, RentClass rentClass);
+
+  protected:
+    void ShowRow(platform::Recordset& row) override;
+    void WriteRow(platform::Recordset& row) override;
+    void ShowCaption() override;
+
+  private:
+    std::unique_ptr<Ui::frmRentLog> ui_;
+    /// What the screen doesn't show.
+    RentLogEntry entry_;
+};
+
+} // namespace leases::screens

@@ -1,0 +1,248 @@
+#include "leases/screens/frmRentPayment.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <algorithm>
+
+#include "core/EditRecord.h"
+#include "core/RecordKinds.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/ErrorRoll.h"
+#include "core/screens/Tags.h"
+#include "leases/DeleteCharges.h"
+#include "leases/PaymentOutlook.h"
+#include "leases/screens/PickMenu.h"
+#include "leases/screens/frmRentSplit.h"
+#include "platform/qt/Text.h"
+#include "platform/values/Format.h"
+#include "platform/values/Text.h"
+#include "ui_frmRentPayment.h"
+
+namespace leases::screens {
+
+using core::screens::FillList;
+using core::screens::GetSelectedId;
+using core::screens::Guarded;
+using core::screens::SelectById;
+using core::screens::SelectByText;
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+namespace {
+
+/// A name that was typed stays, and nobody is chosen for it.
+void FillParties(int kind, QComboBox& combo) {
+    FillList(kind, combo, {.keepText = GetSelectedId(combo) == 0});
+}
+
+/// A party that isn't in the list any more is shown by its name.
+void ShowParty(QComboBox& combo, std::int32_t id, const std::string& name) {
+    SelectById(combo, id);
+    if (id == 0 || GetSelectedId(combo) != id) SelectByText(combo, name, {.setText = true});
+}
+
+} // namespace
+
+frmRentPayment::frmRentPayment(QWidget* parent)
+    : EntryForm(parent),
+      ui_(std::make_unique<Ui::frmRentPayment>()),
+      chargeMenu_(new QMenu(tr("&Charges"), this)) {
+    ui_->setupUi(this);
+    ui_->lvwCharges->SetTicks(true);
+    ui_->lvwCharges->SetColumns(
+        {tr("Date"), tr("Category"), tr("Description"), tr("Amount"), QString()},
+        {20, 20, 40, 15, 0});
+    ui_->cboFromType->addItem(tr("Account"), core::kAccount);
+    ui_->cboFromType->addItem(tr("Tenant"), core::kTenant);
+    MakeMenu();
+    Wire(tr("&Submit"), tr("Post the payment and close (Enter)"), "SUBMIT");
+    Connect();
+}
+
+frmRentPayment::~frmRentPayment() = default;
+
+void frmRentPayment::MakeMenu() {
+    auto* const bar = new QMenuBar(this);
+    QMenu* const payment = bar->addMenu(tr("Pa&yment"));
+    QAction* const submit = payment->addAction(tr("&Submit"));
+    submit->setObjectName(QStringLiteral("mnuSubmit"));
+    connect(submit, &QAction::triggered, this, &frmRentPayment::Submit);
+    QAction* const receipt = payment->addAction(tr("Print &Receipt"));
+    receipt->setObjectName(QStringLiteral("mnuReceiptItem"));
+    receipt->setEnabled(false); // until there are receipts
+    bar->addMenu(chargeMenu_);
+    AddChargeItems(*chargeMenu_);
+    layout()->setMenuBar(bar);
+}
+
+void frmRentPayment::AddChargeItems(QMenu& menu) {
+    const auto add = [&](const char* name, const QString& text, auto work) {
+        QAction* const action = menu.addAction(text);
+        action->setObjectName(QLatin1String(name));
+        connect(action, &QAction::triggered, this, [work] { Guarded(work); });
+    };
+    AddPickMenu(menu, QStringLiteral("mnuCheck"),
+                [this](ChargePick pick) { ui_->lvwCharges->Tick(pick); });
+    menu.addSeparator();
+    AddPickMenu(menu, QStringLiteral("mnuSelect"),
+                [this](ChargePick pick) { ui_->lvwCharges->Select(pick); });
+    menu.addSeparator();
+    add("mnuChargeAdd", tr("A&dd Charge..."), [this] { AddCharge(); });
+    add("mnuChargeEdit", tr("&Edit Charge..."),
+        [this] { EditCharge(ui_->lvwCharges->CurrentId()); });
+    add("mnuChargeSplit", tr("S&plit Charge..."), [this] { SplitCharge(); });
+    add("mnuChargeDelete", tr("De&lete Charge"), [this] { RemoveCharges(); });
+    ui_->lvwCharges->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(ui_->lvwCharges, &QWidget::customContextMenuRequested, this, [this](QPoint where) {
+        chargeMenu_->popup(ui_->lvwCharges->viewport()->mapToGlobal(where));
+    });
+}
+
+void frmRentPayment::Connect() {
+    connect(ui_->cboFromType, &QComboBox::currentIndexChanged, this,
+            [this] { Guarded([this] { FillPayers(); }); });
+    connect(ui_->lvwCharges, &ChargeList::TicksChanged, this, [this] {
+        MarkDirty();
+        Guarded([this] { ShowTotal(); });
+    });
+    connect(ui_->lvwCharges, &QTreeWidget::itemSelectionChanged, this,
+            &frmRentPayment::ShowAvailable);
+    connect(ui_->lvwCharges, &ChargeList::RowChosen, this,
+            [this](std::int32_t id) { Guarded([&] { EditCharge(id); }); });
+    connect(ui_->lvwCharges, &ChargeList::DeleteAsked, this,
+            [this] { Guarded([this] { RemoveCharges(); }); });
+    connect(ui_->chkShowPending, &QCheckBox::toggled, this,
+            [this] { Guarded([this] { Quietly([this] { ShowCharges(); }); }); });
+    connect(ui_->cmdSplit, &QPushButton::clicked, this,
+            [this] { Guarded([this] { SplitCharge(); }); });
+}
+
+void frmRentPayment::Setup(std::int32_t idTransaction, std::int32_t idLease, RentClass rentClass,
+                           LeaseUpdate update) {
+    update_ = update;
+    const bool found = Guarded([&] {
+        payment_ =
+            idTransaction == 0 ? ProposePayment(idLease, rentClass) : ReadPayment(idTransaction);
+    });
+    if (!found) {
+        deleteLater();
+        return;
+    }
+    core::screens::SetTag(*this, idTransaction == 0 ? "" : std::to_string(idTransaction));
+    Begin([this] { ShowPayment(); });
+    ui_->lvwCharges->setFocus();
+}
+
+void frmRentPayment::ShowPayment() {
+    const bool isNew = payment_.idTransaction == 0;
+    setWindowTitle(isNew ? ToScreen(payment_.paymentWord)
+                         : tr("%1: %2").arg(ToScreen(payment_.paymentWord),
+                                            ToScreen(payment_.dateEffective.ToText())));
+    ui_->chkShowPending->setVisible(!isNew);
+    FillAccounts();
+    ShowParty(*ui_->cboTo, payment_.toAccount, payment_.toName);
+    SelectById(*ui_->cboFromType, payment_.fromType, {.selectFirst = true});
+    FillPayers();
+    ShowParty(*ui_->cboFrom, payment_.fromId, payment_.fromName);
+    for (const std::string& word : PaymentWords(payment_.rentClass))
+        ui_->cboPaymentType->addItem(ToScreen(word));
+    SelectByText(*ui_->cboPaymentType, payment_.paymentWord, {.setText = true});
+    ui_->dpEffectiveDate->SetDay(payment_.dateEffective);
+    ui_->txtCheckNumber->setText(ToScreen(payment_.checkNumber));
+    ui_->txtDescription->setText(ToScreen(payment_.description));
+    ui_->txtDescription->setCursorPosition(0);
+    ShowCharges();
+}
+
+void frmRentPayment::FillPayers() {
+    FillParties(GetSelectedId(*ui_->cboFromType), *ui_->cboFrom);
+}
+
+void frmRentPayment::FillAccounts() {
+    FillParties(core::kAccount, *ui_->cboTo);
+}
+
+void frmRentPayment::ShowCharges() {
+    ReadCharges(payment_,
+                ui_->chkShowPending->isChecked() ? OpenCharges::Offer : OpenCharges::Leave);
+    std::vector<ChargeLine> lines;
+    for (const PaymentCharge& charge : payment_.charges) {
+        lines.push_back({charge.idRentLog, charge.flags, charge.datePosted, charge.category,
+                         charge.description, charge.amount, std::nullopt, charge.selected});
+    }
+    ui_->lvwCharges->ShowLines(lines);
+    ShowTotal();
+    ShowAvailable();
+}
+
+void frmRentPayment::ReadTicks() {
+    const std::vector<std::int32_t> ticked = ui_->lvwCharges->TickedIds();
+    for (PaymentCharge& charge : payment_.charges)
+        charge.selected = std::ranges::find(ticked, charge.idRentLog) != ticked.end();
+}
+
+void frmRentPayment::ShowTotal() {
+    ReadTicks();
+    ui_->txtAmount->setText(ToScreen(platform::FormatNumber(payment_.Total(), "#.00")));
+    ui_->lblOutlook->setText(ToScreen(DescribeOutlook(payment_)));
+}
+
+void frmRentPayment::ShowAvailable() {
+    const bool isChosen = ui_->lvwCharges->CurrentId() != 0;
+    const bool isRent = payment_.rentClass == RentClass::Rent;
+    ui_->cmdSplit->setEnabled(isChosen);
+    for (QAction* const action : chargeMenu_->actions()) {
+        const QString name = action->objectName();
+        if (name.startsWith(QLatin1String("mnuCharge")) && !name.endsWith(QLatin1String("Add"))) {
+            action->setEnabled(isChosen);
+        } else if (name.endsWith(QLatin1String("Rent")) || name.endsWith(QLatin1String("Other"))) {
+            action->setEnabled(isRent);
+        }
+    }
+}
+
+void frmRentPayment::AddCharge() {
+    core::EditRecord(core::kRentLog, 0, payment_.idLease, 0, static_cast<int>(payment_.rentClass));
+}
+
+void frmRentPayment::EditCharge(std::int32_t id) {
+    if (id == 0) return;
+    core::EditRecord(core::kRentLog, id, payment_.idLease, 0, static_cast<int>(payment_.rentClass));
+}
+
+void frmRentPayment::SplitCharge() {
+    const std::int32_t id = ui_->lvwCharges->CurrentId();
+    if (id != 0) (new frmRentSplit)->Setup(id);
+}
+
+void frmRentPayment::RemoveCharges() {
+    DeleteCharges(payment_.idLease, ui_->lvwCharges->SelectedIds(), "Delete all selected charges?");
+}
+
+std::vector<std::string> frmRentPayment::Errors() {
+    if (ui_->dpEffectiveDate->IsValid()) return {};
+    return {"\"" + FromScreen(ui_->dpEffectiveDate->text()) + "\" is not a date (mm/dd/yyyy)."};
+}
+
+void frmRentPayment::Store() {
+    ReadTicks();
+    payment_.dateEffective = ui_->dpEffectiveDate->Day().value_or(platform::Date());
+    payment_.fromType = static_cast<std::int16_t>(GetSelectedId(*ui_->cboFromType));
+    payment_.fromId = GetSelectedId(*ui_->cboFrom);
+    payment_.fromName = FromScreen(ui_->cboFrom->currentText());
+    payment_.toAccount = GetSelectedId(*ui_->cboTo);
+    payment_.toName = FromScreen(ui_->cboTo->currentText());
+    payment_.checkNumber = FromScreen(ui_->txtCheckNumber->text());
+    payment_.paymentWord = FromScreen(ui_->cboPaymentType->currentText());
+    payment_.description = platform::Trim(FromScreen(ui_->txtDescription->text()));
+    SubmitPayment(payment_, update_);
+}
+
+void frmRentPayment::Refresh(std::int16_t kind) {
+    const std::int32_t fromType = GetSelectedId(*ui_->cboFromType);
+    if (kind == core::kAccount) FillAccounts();
+    if (kind == fromType && (kind == core::kAccount || kind == core::kTenant)) FillPayers();
+    if (kind == core::kRentLog) ShowCharges();
+}
+
+} // namespace leases::screens

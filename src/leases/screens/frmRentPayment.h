@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/EntryForm.h"
+#include "leases/RentPayment.h"
+
+class QMenu;
+
+namespace Ui {
+class frmRentPayment;
+}
+
+namespace leases::screens {
+
+/// Takes a payment against the charges of a lease, or edits one that was taken.
+class frmRentPayment : public core::screens::EntryForm {
+    Q_OBJECT
+
+  public:
+    explicit frmRentPayment(QWidget* parent = nullptr);
+    ~frmRentPayment() override;
+
+    /// Opens a stored payment, or a new one (0) for the open charges of a lease and class. `update`
+    /// says whether the lease is brought up to date after it.
+    void Setup(std::int32_t idTransaction, std::int32_t idLease, RentClass rentClass,
+               LeaseUpdate update);
+
+  protected:
+    void Store() override;
+    std::vector<std::string> Errors() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    void MakeMenu();
+    void AddChargeItems(QMenu& menu);
+    void Connect();
+    void ShowPayment();
+    void FillPayers();
+    void FillAccounts();
+    void ShowCharges();
+    void ReadTicks();
+    void ShowTotal();
+    void ShowAvailable();
+
+    void AddCharge();
+    void EditCharge(std::int32_t id);
+    void SplitCharge();
+    void RemoveCharges();
+
+    std::unique_ptr<Ui::frmRentPayment> ui_;
+    QMenu* chargeMenu_;
+    RentPayment payment_;
+    LeaseUpdate update_ = LeaseUpdate::Yes;
+};
+
+} // namespace leases::screens

@@ -1,0 +1,131 @@
+#include "leases/screens/frmRentSplit.h"
+
+#include "core/RecordNotices.h"
+#include "core/Settings.h"
+#include "core/screens/ComboList.h"
+#include "platform/qt/Text.h"
+#include "platform/values/Format.h"
+#include "ui_frmRentSplit.h"
+
+namespace leases::screens {
+
+using core::screens::SelectByText;
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+namespace {
+
+constexpr std::string_view kSplitKey = R"(SOFTWARE\Vestrel\Kestrom\RentSplit)";
+constexpr std::string_view kAutoCalc = "AutoCalc";
+
+} // namespace
+
+frmRentSplit::frmRentSplit(QWidget* parent)
+    : EntryForm(parent), ui_(std::make_unique<Ui::frmRentSplit>()) {
+    ui_->setupUi(this);
+    lines_ = {Line{ui_->dpDate1, ui_->cboCategory1, ui_->txtAmount1, ui_->txtDescription1,
+                   ui_->optIsRent1},
+              Line{ui_->dpDate2, ui_->cboCategory2, ui_->txtAmount2, ui_->txtDescription2,
+                   ui_->optIsRent2}};
+    Wire(tr("&Save"), tr("Put the two parts in the place of the charge (Enter)"), "SAVE");
+    for (std::size_t part = 0; part < lines_.size(); ++part) {
+        connect(lines_[part].amount, &QLineEdit::textChanged, this,
+                [this, part] { AmountChanged(part); });
+    }
+}
+
+frmRentSplit::~frmRentSplit() = default;
+
+void frmRentSplit::Setup(std::int32_t idRentLog) {
+    const auto split = ReadSplit(idRentLog);
+    if (!split) {
+        core::OneRecordFound(0);
+        deleteLater();
+        return;
+    }
+    split_ = *split;
+    setWindowTitle(ToScreen(SplitCaption(split_.charge.rentClass)));
+    Begin([this] { ShowSplit(); });
+    ui_->txtAmount1->setFocus();
+    ui_->txtAmount1->selectAll();
+}
+
+void frmRentSplit::ShowSplit() {
+    ui_->chkAutoCalc->setChecked(core::GetRegFlag(kSplitKey, kAutoCalc, true));
+    const RentLogEntry& charge = split_.charge;
+    ui_->dpDate0->SetDay(charge.datePosted);
+    ui_->cboCategory0->setText(ToScreen(charge.category));
+    ui_->txtAmount0->SetAmount(charge.amount);
+    ui_->txtDescription0->setText(ToScreen(charge.description));
+    for (std::size_t part = 0; part < lines_.size(); ++part) {
+        for (const std::string& word : SplitCategories(charge.rentClass))
+            lines_[part].category->addItem(ToScreen(word));
+        ShowPart(lines_[part], split_.parts[part]);
+        lines_[part].isRent->setVisible(split_.IsPeriodRent());
+    }
+    ui_->lblIsRent->setVisible(split_.IsPeriodRent());
+    lines_[split_.rentPart].isRent->setChecked(true);
+    ShowDifference();
+}
+
+void frmRentSplit::ShowPart(const Line& line, const SplitPart& part) {
+    line.date->SetDay(part.date);
+    SelectByText(*line.category, part.category, {.setText = true});
+    line.amount->SetAmount(part.amount);
+    line.description->setText(ToScreen(part.description));
+    line.description->setCursorPosition(0);
+}
+
+SplitPart frmRentSplit::ReadPart(const Line& line) {
+    return {line.date->Day().value_or(platform::Date()), FromScreen(line.category->currentText()),
+            line.amount->Amount().value_or(platform::Currency()),
+            FromScreen(line.description->text())};
+}
+
+/// The other part takes what is left.
+void frmRentSplit::AmountChanged(std::size_t part) {
+    if (Loading()) return;
+    const auto amount = lines_[part].amount->Amount();
+    if (amount && ui_->chkAutoCalc->isChecked()) {
+        Quietly([&] { lines_[1 - part].amount->SetAmount(split_.Rest(*amount)); });
+    }
+    ShowDifference();
+}
+
+void frmRentSplit::ShowDifference() {
+    for (std::size_t part = 0; part < lines_.size(); ++part)
+        split_.parts[part] = ReadPart(lines_[part]);
+    const platform::Currency missing = split_.Missing();
+    const QString amount =
+        ToScreen(platform::FormatMoney(missing < platform::Currency() ? -missing : missing));
+    ui_->lblDifference->setText(missing.IsZero() ? tr("The parts add up to the charge.")
+                                : missing > platform::Currency()
+                                    ? tr("The parts are %1 less than the charge.").arg(amount)
+                                    : tr("The parts are %1 more than the charge.").arg(amount));
+}
+
+std::vector<std::string> frmRentSplit::Errors() {
+    std::vector<std::string> lines;
+    for (const Line& line : lines_) {
+        const std::string amount = FromScreen(line.amount->text());
+        const std::string date = FromScreen(line.date->text());
+        if (!line.amount->Amount())
+            lines.push_back("\"" + amount + "\" is not an amount of money.");
+        if (!line.date->IsValid()) lines.push_back("\"" + date + "\" is not a date (mm/dd/yyyy).");
+    }
+    return lines;
+}
+
+void frmRentSplit::Store() {
+    for (std::size_t part = 0; part < lines_.size(); ++part)
+        split_.parts[part] = ReadPart(lines_[part]);
+    split_.rentPart = ui_->optIsRent2->isChecked() ? 1 : 0;
+    SaveSplit(split_);
+}
+
+void frmRentSplit::closeEvent(QCloseEvent* event) {
+    core::SetRegFlag(kSplitKey, kAutoCalc, ui_->chkAutoCalc->isChecked());
+    EntryForm::closeEvent(event);
+}
+
+} // namespace leases::screens

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/EntryForm.h"
+#include "leases/RentSplit.h"
+
+class QComboBox;
+class QLineEdit;
+class QRadioButton;
+
+namespace core::screens {
+class DateEdit;
+class MoneyEdit;
+} // namespace core::screens
+
+namespace Ui {
+class frmRentSplit;
+}
+
+namespace leases::screens {
+
+/// Makes two charges of one, so that a part of it can be paid.
+class frmRentSplit : public core::screens::EntryForm {
+    Q_OBJECT
+
+  public:
+    explicit frmRentSplit(QWidget* parent = nullptr);
+    ~frmRentSplit() override;
+
+    void Setup(std::int32_t idRentLog);
+
+  protected:
+    void Store() override;
+    std::vector<std::string> Errors() override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    /// The controls of one part.
+    struct Line {
+        core::screens::DateEdit* date;
+        QComboBox* category;
+        core::screens::MoneyEdit* amount;
+        QLineEdit* description;
+        QRadioButton* isRent;
+    };
+
+    void ShowSplit();
+    void ShowPart(const Line& line, const SplitPart& part);
+    static SplitPart ReadPart(const Line& line);
+    void AmountChanged(std::size_t part);
+    void ShowDifference();
+
+    std::unique_ptr<Ui::frmRentSplit> ui_;
+    std::array<Line, 2> lines_;
+    RentSplit split_;
+};
+
+} // namespace leases::screens
