@@ -11,6 +11,10 @@
 #include "core/screens/frmConfig.h"
 #include "core/screens/frmHelp.h"
 #include "core/screens/frmPreferences.h"
+#include "leases/screens/frmLease.h"
+#include "leases/screens/frmLeaseWizard.h"
+#include "leases/screens/frmRentLog.h"
+#include "leases/screens/frmRentPayment.h"
 #include "platform/qt/QtDialogs.h"
 #include "records/screens/frmAccount.h"
 #include "records/screens/frmIncident.h"
@@ -73,6 +77,21 @@ void RegisterEditors() {
             setup.idTemplate = request.parent2;
             (new books::screens::frmTransaction)->Setup(setup);
         });
+    core::RegisterTransactionOpener(
+        core::TransactionEditor::RentPayment,
+        [](const core::EditRequest& request, const core::TransactionPlace& place) {
+            (new leases::screens::frmRentPayment)
+                ->Setup(request.id, place.idLease, leases::RentClass::Rent,
+                        leases::LeaseUpdate::Yes);
+        });
+    core::RegisterOpener(core::kLease, [](const core::EditRequest& request) {
+        (new leases::screens::frmLease)->Setup(request.id);
+    });
+    core::RegisterOpener(core::kRentLog, [](const core::EditRequest& request) {
+        (new leases::screens::frmRentLog)
+            ->Setup(request.id, request.parent1,
+                    leases::RentClass{static_cast<std::int16_t>(request.parent3)});
+    });
     core::RegisterOpener(core::kOwner, [](const core::EditRequest& request) {
         (new records::screens::frmOwnerLink)->Setup(request.id, request.parent1);
     });
@@ -83,6 +102,12 @@ shell::screens::Commands MenuCommands() {
     commands.Add(QStringLiteral("mnuConfig"), Opening<core::screens::frmConfig>());
     commands.Add(QStringLiteral("mnuGlobalConfig"), Opening<core::screens::frmConfig>());
     commands.Add(QStringLiteral("mnuPreferences"), Opening<core::screens::frmPreferences>());
+    commands.Add(QStringLiteral("mnuLeaseWizard"), Opening<leases::screens::frmLeaseWizard>());
+    commands.Add(QStringLiteral("mnuPayRent"), [](const shell::screens::Selection& selection) {
+        if (selection.id == 0) return;
+        (new leases::screens::frmRentPayment)
+            ->Setup(0, selection.id, leases::RentClass::Rent, leases::LeaseUpdate::Yes);
+    });
     commands.Add(QStringLiteral("mnuHelpAbout"), Opening<core::screens::frmAbout>());
     return commands;
 }
