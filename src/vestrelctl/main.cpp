@@ -37,6 +37,8 @@ int Run(int argc, char** argv) {
     vestrelctl::AddUpdate(line, options);
     vestrelctl::AddAlerts(line, options);
     vestrelctl::AddSql(line, options);
+    vestrelctl::AddPost(line, options);
+    vestrelctl::AddPay(line, options);
 
     try {
         line.parse(argc, argv);

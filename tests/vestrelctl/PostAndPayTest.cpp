@@ -1,0 +1,136 @@
+#include <fmt/core.h>
+
+#include "vestrelctl/VestrelctlFixture.h"
+
+namespace tests {
+
+namespace {
+
+/// Books with a tenant, three accounts and a lease of 1,000.00 a month, charged up to 12/31/2023.
+class PostAndPay : public Vestrelctl {
+  protected:
+    PostAndPay() {
+        EXPECT_EQ(Run("init " + Books()).status, 0);
+        // The settings come with the first run.
+        EXPECT_EQ(Run("--today 12/31/2023 " + OnBooks() + "update").status, 0);
+        const Outcome made = Run(
+            OnBooks() + "sql -",
+            "UPDATE Configuration SET NextId = 1000;\n"
+            "INSERT INTO Building (IdBuilding, Address) VALUES (104, '12 Elm Street');\n"
+            "INSERT INTO Unit (IdUnit, IdBuilding, Unit) VALUES (102, 104, 'A');\n"
+            "INSERT INTO Tenant (IdTenant, LastName, FirstName) VALUES (103, 'O''Brien', 'Ann');\n"
+            "INSERT INTO Account (IdAccount, ShowAs) VALUES (105, 'First Bank');\n"
+            "INSERT INTO Account (IdAccount, ShowAs) VALUES (106, 'Plumber');\n"
+            "INSERT INTO Account (IdAccount, ShowAs) VALUES (107, 'Second Bank');\n"
+            "INSERT INTO Lease (IdLease, IdTenant, IdUnit, Status, DateActive, DateRenewed, "
+            "DateNextDue, DateUpdated, Term, TermType, ExpireOption, NoticeDays, Rent, "
+            "RentAccount, DepositAccount, Discount, DiscountDays, OneTimeFee, OneTimeDays, "
+            "DailyFee, DailyDays, EvictDays) VALUES (101, 103, 102, 'Contracted', '01/01/2023', "
+            "'01/01/2023', '01/01/2024', '12/31/2023', 12, 'Month(s)', 'MTM', 30, 1000, 105, 105, "
+            "0, 5, 25, 3, 0, 10, 60);\n");
+        EXPECT_EQ(made.status, 0) << made.errors;
+    }
+
+    std::string Ask(const std::string& select) {
+        const std::string rows = Run(OnBooks() + "sql \"" + select + "\"").output;
+        return rows.substr(rows.find('\n') + 1);
+    }
+};
+
+TEST_F(PostAndPay, LiveThroughAYearOfRent) {
+    for (int month = 1; month <= 12; ++month) {
+        // In March the rent comes late, with the fee that this costs.
+        const std::string today =
+            fmt::format("--today {:02}/{:02}/2024 ", month, month == 3 ? 9 : 2);
+        ASSERT_EQ(Run(today + OnBooks() + "update").status, 0);
+        const Outcome paid = Run(today + OnBooks() + "pay 101");
+        EXPECT_EQ(paid.status, 0) << paid.errors;
+        EXPECT_NE(
+            paid.output.find(month == 3 ? ": 2 charges, 1025.0000\n" : ": 1 charge, 1000.0000\n"),
+            std::string::npos)
+            << paid.output;
+    }
+    EXPECT_EQ(Ask("SELECT Count(*), Sum(Amount) FROM Transactions WHERE Class = 1 AND "
+                  "DebitId = 103 AND CreditId = 105"),
+              "12,12025.0000\n");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE IdTransaction = 0"), "0\n");
+    EXPECT_EQ(Ask("SELECT DateNextDue, RentStatus, RentDue FROM Lease"),
+              "\"01/01/2025\",\"OK\",0.0000\n");
+    const Outcome again = Run("--today 12/03/2024 " + OnBooks() + "pay 101");
+    EXPECT_EQ(again.status, 1);
+    EXPECT_EQ(again.errors, "vestrelctl: There is no open charge to pay\n");
+}
+
+TEST_F(PostAndPay, PayAsTheyAreTold) {
+    Run("--today 01/01/2024 " + OnBooks() + "update");
+    const Outcome paid = Run("--today 01/15/2024 " + OnBooks() +
+                             "pay 101 --class 1 --date 1/5/2024 --to 107 --check 0042");
+    EXPECT_EQ(paid.status, 0) << paid.errors;
+    EXPECT_EQ(Ask("SELECT DateEffective, CreditId, CreditDesc, CheckNum, TaxCategory FROM "
+                  "Transactions"),
+              "\"01/05/2024\",107,\"Second Bank\",\"0042\",\"Rent Payment\"\n");
+    EXPECT_EQ(Ask("SELECT RentAccount FROM Lease"), "107\n");
+}
+
+TEST_F(PostAndPay, PostWhatIsSaidAndWhatItTriggers) {
+    Run(OnBooks() +
+        "sql \"INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, "
+        "TriggerID, TriggerTaxCategory, DebitType, DebitId, CreditType, CreditId, Amount, "
+        "TaxCategory, Description) VALUES (7, 2, True, 1, 1, 106, 'repairs', 1, 105, 1, 107, 5, "
+        "'Supplies', 'Fee')\"");
+    const Outcome posted =
+        Run("--today 02/10/2024 " + OnBooks() +
+            "post --debit account:105 --credit account:106 --amount 1,250.5 --date 2/1/2024 "
+            "--category Repairs --check 17 --description \"Owner's pump\" --building 104");
+    EXPECT_EQ(posted.status, 0) << posted.errors;
+    EXPECT_EQ(posted.output,
+              "Transaction 1000: Repairs, First Bank to Plumber, 02/01/2024, 1250.5000\n"
+              "Transaction 1001: Supplies, First Bank to Second Bank, 02/10/2024, 5.0000\n");
+    EXPECT_EQ(Ask("SELECT IEN, CheckNum, Description, IdBuilding, Class FROM Transactions "
+                  "WHERE IdTransaction = 1000"),
+              "1,\"17\",\"Owner's pump\",104,0\n");
+}
+
+TEST_F(PostAndPay, PostADepositsRefundIntoTheLedgerToo) {
+    const Outcome posted =
+        Run("--today 02/10/2024 " + OnBooks() +
+            "post --debit account:105 --credit tenant:103 --amount 300 --lease 101 --tenant 103 "
+            "--category 'Deposit Refund|2' --class 3 --flags 3");
+    EXPECT_EQ(posted.status, 0) << posted.errors;
+    EXPECT_EQ(Ask("SELECT IdLease, IdTransaction, DatePosted, Class, Category, Amount, Flags "
+                  "FROM RentLog"),
+              "101,1000,\"02/10/2024\",3,\"Deposit Refund\",300.0000,3\n");
+}
+
+TEST_F(PostAndPay, RefuseWhatMakesNoSense) {
+    const std::string post = "post --debit account:105 --credit ";
+    struct Case {
+        std::string words;
+        int status;
+        const char* errors;
+    };
+    for (const auto& [words, status, errors] : {
+             Case{post + "account:106 --amount 1x", 1, "vestrelctl: '1x' is no amount of money\n"},
+             {post + "account:999 --amount 1", 1, "vestrelctl: There is no account 999\n"},
+             {post + "bank:105 --amount 1", 1,
+              "vestrelctl: 'bank:105' is no party: account:ID, tenant:ID or name:TEXT\n"},
+             {post + "name:Joe --amount 1 --category Fun", 1,
+              "vestrelctl: There is no category 'Fun'; give its class: 'Fun|0' for income, 1 for "
+              "expense, 2 for neither\n"},
+             {"pay 999", 1, "vestrelctl: There is no lease 999\n"},
+             {"pay 101 --to 103", 1, "vestrelctl: There is no account 103\n"},
+             {"pay 101 --class 4", 2, nullptr},
+             {"pay 101 --date 02/30/2024", 2, nullptr},
+             {"pay", 2, nullptr},
+             {"post --debit name:A --credit name:B", 2, nullptr},
+         }) {
+        const Outcome outcome = Run(OnBooks() + words);
+        EXPECT_EQ(outcome.status, status) << words;
+        EXPECT_TRUE(errors == nullptr || outcome.errors == errors) << outcome.errors;
+    }
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0\n");
+}
+
+} // namespace
+
+} // namespace tests
