@@ -7,7 +7,7 @@ namespace documents::screens {
 
 namespace {
 
-constexpr QSize kIconSize{40, 40};
+constexpr QSize kIconSize{36, 36};
 constexpr int kTextMargin = 12;
 
 } // namespace
@@ -32,10 +32,21 @@ void FileListView::SetEmptyText(const QString& text) {
 }
 
 void FileListView::keyPressEvent(QKeyEvent* event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && currentIndex().isValid() && state() != QAbstractItemView::EditingState) {
-        Q_EMIT FileChosen();
-        return;
+    const bool hasFile = currentIndex().isValid() && state() != QAbstractItemView::EditingState;
+    switch (event->key()) {
+        case Qt::Key_Insert:
+            Q_EMIT AddAsked();
+            return;
+        case Qt::Key_Delete:
+            Q_EMIT DeleteAsked();
+            return;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (!hasFile) break;
+            Q_EMIT FileChosen();
+            return;
+        default:
+            break;
     }
     QListView::keyPressEvent(event);
 }

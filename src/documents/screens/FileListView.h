@@ -4,7 +4,8 @@
 
 namespace documents::screens {
 
-/// A list of files. A double click or Enter chooses one; F2 edits its description.
+/// A list of files. A double click or Enter chooses one, Insert and Delete ask for their commands,
+/// F2 edits a description.
 class FileListView : public QListView {
     Q_OBJECT
 
@@ -16,6 +17,8 @@ class FileListView : public QListView {
 
   Q_SIGNALS:
     void FileChosen();
+    void AddAsked();
+    void DeleteAsked();
     void SelectionMoved();
 
   protected:

@@ -4,7 +4,6 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMimeData>
-#include <QShortcut>
 
 #include "core/RecordKinds.h"
 #include "core/screens/ErrorRoll.h"
@@ -81,13 +80,8 @@ void FileObjects::Connect() {
         Qt::QueuedConnection);
     connect(ui_->picV, &QSplitter::splitterMoved, this, &FileObjects::SplitMoved);
     connect(ui_->picH, &QSplitter::splitterMoved, this, &FileObjects::SplitMoved);
-    const auto onKey = [this](Qt::Key key, QToolButton* button) {
-        auto* const shortcut = new QShortcut(key, ui_->lvwFile);
-        shortcut->setContext(Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
-    };
-    onKey(Qt::Key_Insert, ui_->cmdAdd);
-    onKey(Qt::Key_Delete, ui_->cmdDelete);
+    connect(ui_->lvwFile, &FileListView::AddAsked, ui_->cmdAdd, &QToolButton::click);
+    connect(ui_->lvwFile, &FileListView::DeleteAsked, ui_->cmdDelete, &QToolButton::click);
 }
 
 void FileObjects::MakeOptions() {
@@ -104,8 +98,7 @@ void FileObjects::MakeOptions() {
             ShowSettings();
             SaveSettings();
         });
-        connect(options_, &QMenu::aboutToShow, action,
-                [this, action, flag] { action->setChecked(settings_.*flag); });
+        flags_.emplace_back(action, flag);
     };
     add(tr("Show paths instead of descriptions"), "mnuShowPath", &FilePanelSettings::ShowPath);
     add(tr("Show icons"), "mnuShowIcons", &FilePanelSettings::ShowIcons);
@@ -262,6 +255,8 @@ void FileObjects::SplitMoved() {
 
 void FileObjects::ShowSettings() {
     files_->SetLook({settings_.ShowPath, settings_.ShowIcons});
+    for (const auto& [action, flag] : flags_)
+        action->setChecked(settings_.*flag);
     setAcceptDrops(settings_.AllowDandD);
     ShowAvailable();
 }

@@ -3,10 +3,13 @@
 #include <QWidget>
 #include <cstdint>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "core/NotifyAll.h"
 #include "documents/FilePanelSettings.h"
 
+class QAction;
 class QMenu;
 
 namespace Ui {
@@ -63,6 +66,7 @@ class FileObjects : public QWidget {
     std::unique_ptr<Ui::FileObjects> ui_;
     FileListModel* files_;
     QMenu* options_;
+    std::vector<std::pair<QAction*, bool FilePanelSettings::*>> flags_;
     std::int16_t dbType_ = 0;
     std::int32_t id_ = 0;
     bool all_ = false;
