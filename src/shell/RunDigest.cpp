@@ -17,11 +17,15 @@ struct Noun {
     std::string_view many;
 };
 
-constexpr std::array<Noun, 4> kNouns = {{
+constexpr std::array<Noun, 8> kNouns = {{
     {"Rent", "rent charge", "rent charges"},
     {"Rent Subsidy", "subsidy charge", "subsidy charges"},
     {"Rent Discount", "discount", "discounts"},
     {"Late Fee", "late fee", "late fees"},
+    {"Mortgage Payment", "mortgage payment", "mortgage payments"},
+    {"Mortgage Escrow", "escrow payment", "escrow payments"},
+    {"PMI Payment", "mortgage insurance charge", "mortgage insurance charges"},
+    {"Late Payment", "mortgage late fee", "mortgage late fees"},
 }};
 
 std::string Counted(std::string_view category, std::size_t count) {

@@ -20,7 +20,9 @@ void AddRegister(CLI::App& line);
 void AddUpdate(CLI::App& line, const Options& options);
 void AddAlerts(CLI::App& line, const Options& options);
 void AddSql(CLI::App& line, const Options& options);
+void AddAmortize(CLI::App& line, const Options& options);
 void AddPost(CLI::App& line, const Options& options);
 void AddPay(CLI::App& line, const Options& options);
+void AddPayMortgage(CLI::App& line, const Options& options);
 
 } // namespace vestrelctl

@@ -1,6 +1,9 @@
+#include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <iostream>
 #include <string>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -22,12 +25,35 @@ std::string SetToday(const std::string& text) {
     return {};
 }
 
+/// A script whose variable is empty doesn't mean the root of the file system.
+std::string IsNamed(const std::string& directory) {
+    return directory.empty() ? "no directory is named" : std::string();
+}
+
+/// One line, whatever the reason holds.
+int Fail(std::string reason, int status) {
+    std::ranges::replace(reason, '\n', ' ');
+    std::cout.flush();
+    std::fprintf(stderr, "vestrelctl: %s\n", reason.c_str());
+    return status;
+}
+
+std::string UsageFault(const CLI::App& line, const CLI::ParseError& error) {
+    const std::vector<std::string> unknown = line.remaining();
+    const std::string fault = unknown.empty() || !line.get_subcommands().empty()
+                                  ? error.what()
+                                  : "there is no command " + unknown.front();
+    return fault + " (vestrelctl --help tells the usage)";
+}
+
 int Run(int argc, char** argv) {
     CLI::App line("Keeps the books of rental property without a window.", "vestrelctl");
     line.require_subcommand(1);
 
     vestrelctl::Options options;
-    line.add_option("--data", options.data, "The database directory")->type_name("DIR");
+    line.add_option("--data", options.data, "The database directory")
+        ->type_name("DIR")
+        ->check(CLI::Validator(IsNamed, "", ""));
     line.add_option("--today", "The day to take for today")
         ->type_name("MM/DD/YYYY")
         ->check(CLI::Validator(SetToday, "", ""));
@@ -37,14 +63,19 @@ int Run(int argc, char** argv) {
     vestrelctl::AddUpdate(line, options);
     vestrelctl::AddAlerts(line, options);
     vestrelctl::AddSql(line, options);
+    vestrelctl::AddAmortize(line, options);
     vestrelctl::AddPost(line, options);
     vestrelctl::AddPay(line, options);
+    vestrelctl::AddPayMortgage(line, options);
 
     try {
         line.parse(argc, argv);
+    } catch (const CLI::Success& help) {
+        line.exit(help);
     } catch (const CLI::ParseError& error) {
-        return line.exit(error) == 0 ? 0 : kWrongUsage;
+        return Fail(UsageFault(line, error), kWrongUsage);
     }
+    if (!std::cout.flush()) return Fail("the output can't be written", kFailed);
     return 0;
 }
 
@@ -56,7 +87,6 @@ int main(int argc, char** argv) {
         shell::RegisterLogic();
         return Run(argc, argv);
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "vestrelctl: %s\n", error.what());
-        return kFailed;
+        return Fail(error.what(), kFailed);
     }
 }

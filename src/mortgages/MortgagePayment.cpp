@@ -1,0 +1,178 @@
+#include "mortgages/MortgagePayment.h"
+
+#include <algorithm>
+
+#include "core/Descriptions.h"
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "platform/database/Recordset.h"
+#include "platform/system/Clock.h"
+
+namespace mortgages {
+
+using platform::Currency;
+using platform::CursorMode;
+using platform::Recordset;
+
+namespace {
+
+std::string TextOf(const platform::Field& field) {
+    return field.IsNull() ? "" : field.AsText();
+}
+
+std::int32_t IdOf(const platform::Field& field) {
+    return field.IsNull() ? 0 : field.AsLong();
+}
+
+Currency MoneyOf(const platform::Field& field) {
+    return field.IsNull() ? Currency() : field.AsCurrency();
+}
+
+std::string AccountName(std::int32_t idAccount) {
+    return core::GetDescription(core::kAccount, idAccount, 0, false);
+}
+
+/// A stored side: the account's id, or a name that is none.
+void ReadParty(Recordset& row, std::string_view idField, std::string_view nameField,
+               std::int32_t& id, std::string& name) {
+    id = IdOf(row[idField]);
+    name = id == 0 ? TextOf(row[nameField]) : AccountName(id);
+    if (name.empty()) name = TextOf(row[nameField]);
+}
+
+PaymentCharge ChargeOf(Recordset& rows) {
+    return {
+        .idMortgageLog = rows["IdMortgageLog"].AsLong(),
+        .datePosted = rows["DatePosted"].AsDate(),
+        .period = rows["Period"].IsNull() ? std::int16_t{0} : rows["Period"].AsInteger(),
+        .category = TextOf(rows["Category"]),
+        .payDown = MoneyOf(rows["PayDown"]),
+        .total = MoneyOf(rows["Total"]),
+        .description = TextOf(rows["Description"]),
+        .selected = rows["Selected"].AsText() == "True",
+        .flags = LogFlags{rows["Flags"].IsNull() ? std::int16_t{0} : rows["Flags"].AsInteger()}};
+}
+
+bool WasSelected(const std::vector<PaymentCharge>& charges, std::int32_t id, bool otherwise) {
+    const auto known = std::find_if(charges.begin(), charges.end(),
+                                    [&](const auto& at) { return at.idMortgageLog == id; });
+    return known == charges.end() ? otherwise : known->selected;
+}
+
+} // namespace
+
+Currency MortgagePayment::PaidAmount() const {
+    Currency total;
+    for (const PaymentCharge& charge : charges) {
+        if (charge.selected) total += charge.total;
+    }
+    return total;
+}
+
+std::int16_t MortgagePayment::FromPeriod() const {
+    std::int16_t lowest = 0;
+    for (const PaymentCharge& charge : charges) {
+        if (charge.IsBasePayment() && (lowest == 0 || charge.period < lowest))
+            lowest = charge.period;
+    }
+    return lowest;
+}
+
+MortgagePayment ProposeMortgagePayment(std::int32_t idMortgage) {
+    Recordset row;
+    row.Open(core::App().Connection,
+             "SELECT Description, IdLastPmt, IdMortgagee FROM Mortgage WHERE IdMortgage = ?",
+             CursorMode::ReadOnly, {idMortgage});
+    if (row.Eof()) {
+        throw platform::DatabaseError("There is no mortgage " + std::to_string(idMortgage));
+    }
+    MortgagePayment payment;
+    payment.idMortgage = idMortgage;
+    payment.dateEffective = platform::Today();
+    payment.fromAccount = IdOf(row["IdLastPmt"]);
+    payment.fromName = AccountName(payment.fromAccount);
+    payment.toAccount = IdOf(row["IdMortgagee"]);
+    payment.toName = AccountName(payment.toAccount);
+    payment.paymentType = kCategoryPayment;
+    payment.description = "Mortgage Payment for " + TextOf(row["Description"]);
+    ReadCharges(payment);
+    return payment;
+}
+
+MortgagePayment ReadMortgagePayment(std::int32_t idTransaction) {
+    Recordset row;
+    row.Open(core::App().Connection, "SELECT * FROM Transactions WHERE (IdTransaction = ?)",
+             CursorMode::ReadOnly, {idTransaction});
+    if (row.Eof()) {
+        throw platform::DatabaseError("There is no transaction " + std::to_string(idTransaction));
+    }
+    MortgagePayment payment;
+    payment.idTransaction = idTransaction;
+    payment.idMortgage = IdOf(row["IdMortgage"]);
+    payment.dateEffective = row["DateEffective"].AsDate();
+    ReadParty(row, "DebitId", "DebitDesc", payment.fromAccount, payment.fromName);
+    ReadParty(row, "CreditId", "CreditDesc", payment.toAccount, payment.toName);
+    payment.checkNumber = TextOf(row["CheckNum"]);
+    payment.paymentType = TextOf(row["TaxCategory"]);
+    payment.description = TextOf(row["Description"]);
+    ReadCharges(payment);
+    return payment;
+}
+
+void ReadCharges(MortgagePayment& payment) {
+    // A new payment has settled nothing, and no row of another mortgage is its own.
+    const std::int32_t settledBy = payment.idTransaction == 0 ? -1 : payment.idTransaction;
+    Recordset rows;
+    rows.Open(core::App().Connection,
+              "SELECT *, 'True' AS [Selected] FROM MortgageLog WHERE (IdTransaction = ?) "
+              "UNION SELECT *, 'False' AS [Selected] FROM MortgageLog "
+              "WHERE (IdMortgage = ?) AND (IdTransaction = 0) ORDER BY DateValue(DatePosted)",
+              CursorMode::ReadOnly, {settledBy, payment.idMortgage});
+    std::vector<PaymentCharge> charges;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        PaymentCharge charge = ChargeOf(rows);
+        if (charge.selected && charge.flags == LogFlags::Payment) {
+            payment.idPaymentRow = charge.idMortgageLog;
+            continue;
+        }
+        charge.selected = WasSelected(payment.charges, charge.idMortgageLog, charge.selected);
+        charges.push_back(std::move(charge));
+    }
+    // Charges of one day stay in the order they were posted in.
+    std::stable_sort(charges.begin(), charges.end(), [](const auto& a, const auto& b) {
+        return std::pair(a.datePosted, a.idMortgageLog) < std::pair(b.datePosted, b.idMortgageLog);
+    });
+    payment.charges = std::move(charges);
+}
+
+std::string_view Select(MortgagePayment& payment, std::size_t charge, bool selected) {
+    PaymentCharge& at = payment.charges.at(charge);
+    if (at.IsBasePayment()) {
+        const auto begin = payment.charges.begin();
+        const auto here = begin + static_cast<std::ptrdiff_t>(charge);
+        const auto isOpenGap = [](const PaymentCharge& other) {
+            return other.IsBasePayment() && !other.selected;
+        };
+        const auto isTicked = [](const PaymentCharge& other) {
+            return other.IsBasePayment() && other.selected;
+        };
+        if (selected && std::any_of(begin, here, isOpenGap))
+            return "Previous base payments must be selected";
+        if (!selected && std::any_of(here + 1, payment.charges.end(), isTicked))
+            return "Following base payments must not be selected";
+    }
+    at.selected = selected;
+    return {};
+}
+
+void SelectAll(MortgagePayment& payment, ChargeChoice choice, bool selected) {
+    const std::size_t count = payment.charges.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        // The last ones first where they are taken out, so that none stands in another's way.
+        const std::size_t at = selected ? i : count - 1 - i;
+        if (choice == ChargeChoice::All || payment.charges[at].IsBasePayment())
+            Select(payment, at, selected);
+    }
+}
+
+} // namespace mortgages

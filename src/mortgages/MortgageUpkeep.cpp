@@ -1,0 +1,95 @@
+#include "mortgages/MortgageUpkeep.h"
+
+#include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "mortgages/MortgageLog.h"
+#include "mortgages/mMortgage.h"
+#include "platform/system/Clock.h"
+
+namespace mortgages {
+
+using platform::Currency;
+using platform::CursorMode;
+using platform::Recordset;
+using platform::UnitOfWork;
+using platform::Value;
+
+namespace {
+
+constexpr double kHalfACent = 0.005;
+
+double NumberOr0(const platform::Field& field) {
+    return field.IsNull() ? 0 : field.AsDouble();
+}
+
+} // namespace
+
+void StoreLoan(const clsMortgage& mortgage, Recordset& row) {
+    const Value balloon = row["BalloonMtg"].Value();
+    const Value balloonPayment = row["BalloonPmt"].Value();
+    mortgage.SaveRS(row);
+    if (!balloon.IsNull()) {
+        row["BalloonMtg"].Set(balloon);
+        row["BalloonPmt"].Set(balloonPayment);
+    }
+    row["CurrentPPmt"].Set(mortgage.GetPPMT(0).ToDouble());
+    row["CurrentIPmt"].Set(mortgage.GetIPMT(0).ToDouble());
+}
+
+void SettleRemainder(clsMortgage& mortgage) {
+    const int paid = mortgage.CurrentPeriod() - 1;
+    const double left = mortgage.GetPV(0);
+    if (paid < 1 || left <= 0 || left >= kHalfACent) return;
+    // More than is left: the schedule cuts it to what ends the loan.
+    const double extra = mortgage.Schedule()[static_cast<std::size_t>(paid) - 1].XPri;
+    mortgage.SetXPri(paid, extra + kHalfACent);
+    mortgage.ReCalc();
+}
+
+void RefreshMortgage(std::int32_t idMortgage) {
+    Recordset row;
+    row.Open(core::App().Connection, "SELECT * FROM Mortgage WHERE IdMortgage = ?",
+             CursorMode::Updatable, {idMortgage});
+    if (row.Eof()) return;
+
+    UnitOfWork unit(core::App().Connection);
+    clsMortgage mortgage;
+    mortgage.LoadRS(row);
+    mortgage.ReCalc();
+    SettleRemainder(mortgage);
+    StoreLoan(mortgage, row);
+    UpdateMortgage(row, RunMode::CatchUp);
+    unit.Commit();
+}
+
+PayoffResult PostPayoff(std::int32_t idMortgage) {
+    UnitOfWork unit(core::App().Connection);
+    core::App().Connection.Execute(
+        "DELETE * FROM MortgageLog WHERE (IdMortgage = ?) AND (IdTransaction = 0)", {idMortgage});
+    Recordset row;
+    row.Open(core::App().Connection,
+             "SELECT CurrentPeriod, CurrentPV, CurrentPPmt, CurrentIpmt FROM Mortgage "
+             "WHERE IdMortgage = ?",
+             CursorMode::ReadOnly, {idMortgage});
+    if (row.Eof() || row["CurrentPeriod"].IsNull() || row["CurrentPV"].IsNull()) {
+        return PayoffResult::NotFound;
+    }
+    const double balance = row["CurrentPV"].AsDouble();
+    const double principal = NumberOr0(row["CurrentPPmt"]);
+    WriteMortgageLog({.idMortgage = idMortgage,
+                      .period = row["CurrentPeriod"].AsInteger(),
+                      .datePosted = platform::Today(),
+                      .category = std::string(kCategoryPayoff),
+                      .principal = Currency::FromDouble(principal),
+                      .payDown = Currency::FromDouble(balance - principal),
+                      .interest = Currency::FromDouble(NumberOr0(row["CurrentIpmt"])),
+                      .other = {},
+                      .description = std::string(kCategoryPayoff),
+                      .flags = LogFlags::BasePayment});
+    unit.Commit();
+    core::NotifyAll(core::kMortgageLog, core::kRecordsChanged, 0);
+    return PayoffResult::Posted;
+}
+
+} // namespace mortgages

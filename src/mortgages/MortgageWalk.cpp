@@ -1,0 +1,140 @@
+#include "mortgages/MortgageWalk.h"
+
+#include <algorithm>
+
+#include "platform/values/Errors.h"
+
+namespace mortgages {
+
+using platform::Currency;
+using platform::Date;
+using platform::DateAdd;
+using platform::Field;
+using platform::Interval;
+
+namespace {
+
+Date DateOf(const Field& field) {
+    return field.IsBlank() ? Date() : field.AsDate();
+}
+
+Currency MoneyOf(const Field& field) {
+    return field.IsNull() ? Currency() : field.AsCurrency();
+}
+
+Date Needed(Date date, const char* field) {
+    if (!date.IsSet()) throw platform::FieldError(std::string(field) + " is empty");
+    return date;
+}
+
+/// The due date that the walk stands at, and the last day of grace. The day after a due day still
+/// belongs to it.
+class DueDays {
+  public:
+    DueDays(Date nextDue, int graceDays)
+        : due_(nextDue.IsSet() ? nextDue : Date::FromSerial(0)),
+          late_(nextDue.IsSet() ? DateAdd(Interval::Day, graceDays, due_) : due_),
+          graceDays_(std::max(graceDays, 0)) {}
+
+    void AdvanceTo(Date day) {
+        while (day.Serial() - due_.Serial() > 1)
+            due_ = DateAdd(Interval::Month, 1, due_);
+        if (day.Serial() - late_.Serial() > 1) late_ = DateAdd(Interval::Day, graceDays_, due_);
+    }
+
+    bool IsDue(Date day) const { return day == due_; }
+    bool IsLate(Date day) const { return day == late_; }
+
+  private:
+    Date due_;
+    Date late_;
+    int graceDays_;
+};
+
+Charge OtherCharge(LogFlags flags, Date day, std::int16_t period, Currency amount) {
+    Charge charge;
+    charge.flags = flags;
+    charge.date = day;
+    charge.period = period;
+    charge.other = amount;
+    return charge;
+}
+
+void ChargeDay(std::vector<Charge>& charges, const clsMortgage& mortgage, const RunTerms& terms,
+               const DueDays& days, Date day) {
+    const bool due = days.IsDue(day);
+    const bool late = terms.graceDays > 0 && terms.lateFee > Currency() && days.IsLate(day);
+    if (!due && !late) return;
+    const int period = mortgage.GetPeriod(day);
+    const auto number = static_cast<std::int16_t>(period);
+    if (due) {
+        charges.push_back({.flags = LogFlags::BasePayment,
+                           .date = day,
+                           .period = number,
+                           .principal = mortgage.GetPPMT(period),
+                           .payDown = Currency::FromDouble(mortgage.GetXPRI(period)),
+                           .interest = mortgage.GetIPMT(period),
+                           .other = {}});
+        if (!terms.escrow.IsZero())
+            charges.push_back(OtherCharge(LogFlags::Escrow, day, number, terms.escrow));
+        if (!terms.pmi.IsZero())
+            charges.push_back(OtherCharge(LogFlags::Pmi, day, number, terms.pmi));
+    }
+    if (late) charges.push_back(OtherCharge(LogFlags::LateFee, day, number, terms.lateFee));
+}
+
+} // namespace
+
+ChargeWords WordsOf(LogFlags flags) {
+    switch (flags) {
+        case LogFlags::Escrow:
+            return {kCategoryEscrow, "Mortgage Escrow Payment"};
+        case LogFlags::Pmi:
+            return {kCategoryPmi, "Mortgage PMI Payment"};
+        case LogFlags::LateFee:
+            return {kCategoryLate, kCategoryLate};
+        case LogFlags::BasePayment:
+            return {kCategoryPayment, "Mortgage P & I Payment Due"};
+        case LogFlags::Ordinary:
+        case LogFlags::Payment:
+            break;
+    }
+    return {kCategoryPayment, kCategoryPayment};
+}
+
+RunTerms RunTerms::Read(platform::Recordset& row) {
+    RunTerms terms;
+    terms.firstDue = DateOf(row["FirstDue"]);
+    terms.nextDue = DateOf(row["NextDue"]);
+    terms.dateUpdated = DateOf(row["DateUpdated"]);
+    if (!row["GracePeriod"].IsNull()) terms.graceDays = row["GracePeriod"].AsInteger();
+    terms.escrow = MoneyOf(row["EscrowAmount"]);
+    terms.pmi = MoneyOf(row["PMI"]);
+    terms.lateFee = MoneyOf(row["LateFee"]);
+    return terms;
+}
+
+Date RunTerms::Start(RunMode mode) const {
+    if (!dateUpdated.IsSet()) return DateAdd(Interval::Month, -1, Needed(firstDue, "FirstDue"));
+    if (mode == RunMode::Reprocess) return DateAdd(Interval::Month, -1, Needed(nextDue, "NextDue"));
+    return dateUpdated;
+}
+
+Date RunTerms::Target(RunMode mode, Date today) const {
+    return mode == RunMode::RollForward ? Needed(nextDue, "NextDue") : today;
+}
+
+std::vector<Charge> WalkMortgage(const clsMortgage& mortgage, const RunTerms& terms, Date from,
+                                 Date to) {
+    std::vector<Charge> charges;
+    DueDays days(terms.nextDue, terms.graceDays);
+    for (int serial = from.Serial() + 1; serial <= to.Serial(); ++serial) {
+        const Date day = Date::FromSerial(serial);
+        if (mortgage.GetStatus(day) != status::kCurrent) continue;
+        days.AdvanceTo(day);
+        ChargeDay(charges, mortgage, terms, days, day);
+    }
+    return charges;
+}
+
+} // namespace mortgages

@@ -1,0 +1,79 @@
+#include "mortgages/mMortgage.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "core/Globals.h"
+#include "mortgages/MortgageLog.h"
+#include "platform/system/Clock.h"
+
+namespace mortgages {
+
+using platform::CursorMode;
+using platform::Date;
+using platform::Recordset;
+using platform::UnitOfWork;
+
+namespace {
+
+/// Most days change nothing in a row; what isn't set isn't written.
+void SetWord(Recordset& row, std::string_view field, std::string_view word) {
+    auto stored = row[field];
+    if (stored.IsNull() || stored.AsText() != word) stored.Set(word);
+}
+
+bool HasBalance(Recordset& row) {
+    return row["CurrentPV"].IsNull() || row["CurrentPV"].AsDouble() != 0;
+}
+
+/// What the last payment leaves: no balance and no due date to reckon charges from.
+bool IsPaidOff(Recordset& row) {
+    return row["NextDue"].IsBlank() && !HasBalance(row);
+}
+
+} // namespace
+
+std::vector<Charge> UpdateMortgage(Recordset& row, RunMode mode) {
+    const RunTerms terms = RunTerms::Read(row);
+    const Date from = terms.Start(mode);
+    const Date to = terms.Target(mode, platform::Today());
+    std::vector<Charge> charges;
+    if (to > from && !IsPaidOff(row)) {
+        clsMortgage mortgage;
+        mortgage.LoadRS(row);
+        mortgage.ReCalc();
+        charges = WalkMortgage(mortgage, terms, from, to);
+    }
+
+    std::optional<UnitOfWork> unit;
+    if (!charges.empty()) unit.emplace(core::App().Connection);
+    WriteCharges(row["IdMortgage"].AsLong(), charges);
+    SetWord(row, "DateUpdated", std::max(from, to).ToText());
+    SetMortgageStatus(row);
+    row.Update();
+    if (unit) unit->Commit();
+    return charges;
+}
+
+void UpdateMortgageById(std::int32_t idMortgage, RunMode mode) {
+    Recordset row;
+    row.Open(core::App().Connection, "SELECT * FROM Mortgage WHERE IdMortgage = ?",
+             CursorMode::Updatable, {idMortgage});
+    if (!row.Eof()) UpdateMortgage(row, mode);
+}
+
+void SetMortgageStatus(Recordset& row) {
+    const bool paid = !HasBalance(row);
+    SetWord(row, "Status", paid ? status::kClosed : status::kCurrent);
+    if (paid) {
+        SetWord(row, "PmtStatus", pmtstatus::kNotApplicable);
+        return;
+    }
+    if (row["NextDue"].IsBlank()) return;
+    const int daysPast = platform::Today().Serial() - row["NextDue"].AsDate().Serial();
+    const int grace = row["GracePeriod"].IsNull() ? 0 : row["GracePeriod"].AsInteger();
+    const std::string_view late = daysPast > grace ? pmtstatus::kLate : pmtstatus::kDue;
+    SetWord(row, "PmtStatus", daysPast > 0 ? late : pmtstatus::kOk);
+}
+
+} // namespace mortgages

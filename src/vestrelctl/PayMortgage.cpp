@@ -1,0 +1,66 @@
+#include <cstdint>
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include <fmt/core.h>
+
+#include "core/Descriptions.h"
+#include "core/RecordKinds.h"
+#include "mortgages/MortgagePayment.h"
+#include "platform/values/Conversions.h"
+#include "platform/values/Errors.h"
+#include "vestrelctl/Command.h"
+#include "vestrelctl/OpenBooks.h"
+
+namespace vestrelctl {
+
+namespace {
+
+struct Words {
+    std::int32_t mortgage = 0;
+    std::string date;
+    std::int32_t from = 0;
+    std::int32_t to = 0;
+    std::string check;
+};
+
+void SetAccount(std::int32_t given, std::int32_t& account, std::string& name) {
+    if (given == 0) return;
+    account = given;
+    name = core::GetDescription(core::kAccount, given, 0, false);
+    if (name.empty()) throw platform::Error(fmt::format("There is no account {}", given));
+}
+
+void Pay(const Words& words) {
+    mortgages::MortgagePayment payment = mortgages::ProposeMortgagePayment(words.mortgage);
+    if (!words.date.empty()) payment.dateEffective = platform::Date::Parse(words.date);
+    SetAccount(words.from, payment.fromAccount, payment.fromName);
+    SetAccount(words.to, payment.toAccount, payment.toName);
+    payment.checkNumber = words.check;
+    mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
+    if (payment.charges.empty()) throw platform::Error("There is no open charge to pay");
+    const std::int32_t id =
+        mortgages::SubmitMortgagePayment(payment, mortgages::OpenedFrom::Elsewhere);
+    std::cout << fmt::format("Transaction {}: {} charges, {}\n", id, payment.charges.size(),
+                             platform::MoneyToFixedText(payment.PaidAmount()));
+}
+
+} // namespace
+
+void AddPayMortgage(CLI::App& line, const Options& options) {
+    CLI::App* command = line.add_subcommand("pay-mortgage", "Pay all open charges of a mortgage");
+    auto words = std::make_shared<Words>();
+    command->add_option("mortgage", words->mortgage, "The mortgage's IdMortgage")->required();
+    command->add_option("--date", words->date, "The day of the payment, today without it")
+        ->type_name("MM/DD/YYYY");
+    command->add_option("--from", words->from, "The paying account")->type_name("ACCOUNT");
+    command->add_option("--to", words->to, "The receiving account")->type_name("ACCOUNT");
+    command->add_option("--check", words->check, "The check's number")->type_name("N");
+    command->callback([words, &options] {
+        OpenBooks(options);
+        Pay(*words);
+    });
+}
+
+} // namespace vestrelctl
