@@ -6,6 +6,7 @@
 #include "core/Session.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
+#include "shell/SampleBorrower.h"
 #include "shell/SampleExpenses.h"
 #include "shell/SampleTenant.h"
 #include "store/CreateDatabase.h"
@@ -53,6 +54,7 @@ void MakeSettings(Connection& connection, Date today) {
 
 void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress& progress) {
     std::vector<SampleTenant> tenants(cast.leases.begin(), cast.leases.end());
+    std::vector<SampleBorrower> borrowers(cast.loans.begin(), cast.loans.end());
     const SampleExpenses expenses;
     const int days = today.Serial() - cast.begins.Serial() + 1;
     for (Date day = cast.begins; day <= today; day = DateAdd(Interval::Day, 1, day)) {
@@ -60,11 +62,17 @@ void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress
         platform::UnitOfWork unit(core::App().Connection);
         for (SampleTenant& tenant : tenants)
             tenant.LiveThrough(day);
+        for (SampleBorrower& borrower : borrowers)
+            borrower.LiveThrough(day);
         expenses.Pay(day);
         unit.Commit();
         if (progress) progress(day.Serial() - cast.begins.Serial() + 1, days);
     }
     core::UpdateRecords();
+    platform::UnitOfWork unit(core::App().Connection);
+    for (const SampleBorrower& borrower : borrowers)
+        borrower.NoteEquity();
+    unit.Commit();
 }
 
 } // namespace

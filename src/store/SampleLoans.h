@@ -2,12 +2,17 @@
 
 #include <vector>
 
+#include "store/SamplePortfolio.h"
 #include "store/SampleProperty.h"
 
 namespace store {
 
-/// Writes the mortgages of most of the buildings, current and paid up to the first of next month,
-/// and takes them off the buildings' equity.
-void WriteSampleLoans(SampleBooks& books, const std::vector<SampleBuilding>& buildings);
+/// Writes the mortgages of most of the buildings as they stood two years back, paid until then,
+/// and takes them off the buildings' equity. Answers how each is going to be paid.
+std::vector<SampleLoan> WriteSampleLoans(SampleBooks& books,
+                                         const std::vector<SampleBuilding>& buildings);
+
+/// The day from which the sample's mortgages are charged.
+platform::Date SampleLoansBegin(platform::Date today);
 
 } // namespace store

@@ -1,6 +1,8 @@
 #include "store/SamplePortfolio.h"
 
+#include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "store/SampleAccounts.h"
 #include "store/SampleLeases.h"
@@ -115,9 +117,11 @@ SampleCast WriteSampleRecords(platform::Connection& connection, const SampleOpti
     SampleBooks books{rows, dice, options.today, {}};
     WriteSampleAccounts(books);
     const std::vector<SampleBuilding> buildings = WriteSampleProperty(books, options.units);
-    WriteSampleLoans(books, buildings);
+    std::vector<SampleLoan> loans = WriteSampleLoans(books, buildings);
     AddDepositTemplates(books, buildings);
     SampleCast cast = WriteSampleLeases(books, buildings);
+    cast.begins = std::min(cast.begins, SampleLoansBegin(options.today));
+    cast.loans = std::move(loans);
     AddSampleApplicants(books);
     WriteSampleUpkeep(books, buildings);
     if (!buildings.empty()) AddEvents(books, buildings.front());

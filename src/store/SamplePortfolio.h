@@ -38,17 +38,27 @@ struct SampleHabit {
     platform::Date breaks;      ///< the day on which the lease is broken, usually unset
 };
 
+/// How one mortgage of the sample is going to be paid.
+struct SampleLoan {
+    std::int32_t idMortgage = 0;
+    std::int32_t idBuilding = 0;
+    int daysAfterDue = 0;       ///< from the due day to the day of payment
+    platform::Date stopsPaying; ///< due days from this one on stay unpaid; unset if all are paid
+};
+
 struct SampleCast {
-    /// The day on which the first of the leases was saved, some two years back.
+    /// The first day that anything happens on, some two years back.
     platform::Date begins;
     /// Every lease, in the order of the rows.
     std::vector<SampleHabit> leases;
+    std::vector<SampleLoan> loans;
 };
 
 /// Fills an empty database with a portfolio as it stood before its leases began: property, people,
-/// maintenance, mortgages, and each lease as it was first saved, "Pending" and with an empty
-/// ledger. The settings' row, if there is one, names the sample's company and accounts. The same
-/// units, day and identifiers give the same rows. One unit of work; failures are thrown.
+/// maintenance, running mortgages as they stood two years back, and each lease as it was first
+/// saved, "Pending" and with an empty ledger. The settings' row, if there is one, names the
+/// sample's company and accounts. The same units, day and identifiers give the same rows. One unit
+/// of work; failures are thrown.
 SampleCast WriteSampleRecords(platform::Connection& connection, const SampleOptions& options);
 
 } // namespace store

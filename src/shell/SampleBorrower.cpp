@@ -1,0 +1,51 @@
+#include "shell/SampleBorrower.h"
+
+#include "core/Globals.h"
+#include "core/RecordHelpers.h"
+#include "mortgages/MortgagePayment.h"
+#include "mortgages/mMortgage.h"
+#include "platform/database/Recordset.h"
+
+namespace shell {
+
+using platform::Currency;
+using platform::Date;
+using platform::DateAdd;
+using platform::Interval;
+
+SampleBorrower::SampleBorrower(const store::SampleLoan& plan) : plan_(plan) {
+    PlanNextPayment();
+}
+
+void SampleBorrower::LiveThrough(Date day) {
+    if (day != nextPayment_) return;
+    Pay();
+    PlanNextPayment();
+}
+
+void SampleBorrower::Pay() const {
+    mortgages::UpdateMortgageById(plan_.idMortgage, mortgages::RunMode::CatchUp);
+    mortgages::MortgagePayment payment = mortgages::ProposeMortgagePayment(plan_.idMortgage);
+    mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
+    if (payment.PaidAmount() > Currency()) {
+        mortgages::SubmitMortgagePayment(payment, mortgages::OpenedFrom::Elsewhere);
+    }
+}
+
+void SampleBorrower::PlanNextPayment() {
+    platform::Recordset row;
+    row.Open(core::App().Connection, "SELECT NextDue FROM Mortgage WHERE IdMortgage = ?",
+             platform::CursorMode::ReadOnly, {plan_.idMortgage});
+    const Date nextDue = row["NextDue"].IsBlank() ? Date() : row["NextDue"].AsDate();
+    const bool stops = plan_.stopsPaying.IsSet() && nextDue >= plan_.stopsPaying;
+    nextPayment_ =
+        !nextDue.IsSet() || stops ? Date() : DateAdd(Interval::Day, plan_.daysAfterDue, nextDue);
+}
+
+void SampleBorrower::NoteEquity() const {
+    core::App().Connection.Execute(
+        "UPDATE Building SET Equity = ? WHERE IdBuilding = ?",
+        {Currency::FromDouble(core::GetBuildingEquity(plan_.idBuilding)), plan_.idBuilding});
+}
+
+} // namespace shell
