@@ -1,3 +1,4 @@
+#include <cstdint>
 #include <iostream>
 #include <string>
 
@@ -15,10 +16,14 @@ namespace vestrelctl {
 
 namespace {
 
-void PrintRows(std::string_view statement) {
+/// What stands before the first line of a result: nothing, or the empty line that parts it from the
+/// result before it.
+using Parting = std::string_view;
+
+void PrintRows(std::string_view statement, Parting parting) {
     platform::Recordset rows;
     rows.Open(core::App().Connection, statement);
-    std::string line;
+    std::string line(parting);
     for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
         if (i > 0) line += ',';
         line += platform::CsvText(rows[i].Name());
@@ -34,13 +39,14 @@ void PrintRows(std::string_view statement) {
     }
 }
 
-void RunStatement(std::string_view statement) {
+void RunStatement(std::string_view statement, Parting parting = {}) {
     platform::Connection& connection = core::App().Connection;
     const auto kind = platform::dialect::Compile(statement, connection.Tables()).kind;
     if (kind == platform::dialect::StatementKind::Select) {
-        PrintRows(statement);
+        PrintRows(statement, parting);
     } else {
-        std::cout << connection.Execute(statement) << '\n';
+        const std::int64_t affected = connection.Execute(statement);
+        std::cout << parting << affected << '\n';
     }
 }
 
@@ -57,14 +63,19 @@ bool ReadStatement(std::istream& input, std::string& statement) {
     return !platform::Trim(statement).empty();
 }
 
+/// Some editors begin a file with it.
+void SkipByteOrderMark(std::istream& input) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    if (input.peek() == static_cast<unsigned char>(kMark.front())) input.ignore(kMark.size());
+}
+
 void RunStatements(std::istream& input) {
+    SkipByteOrderMark(input);
     std::string statement;
     for (int number = 1; ReadStatement(input, statement); ++number) {
-        if (number > 1) std::cout << '\n';
         try {
-            RunStatement(statement);
+            RunStatement(statement, number > 1 ? "\n" : "");
         } catch (const platform::Error& error) {
-            std::cout.flush();
             throw platform::Error(fmt::format("statement {}: {}", number, error.what()));
         }
     }

@@ -24,10 +24,46 @@ TEST_F(Vestrelctl, RunsStatementsUpToTheFirstThatFails) {
             "INSERT INTO Account (IdAccount, ShowAs)\nVALUES (1, 'O''Brien; Sons');\n"
             "SELECT ShowAs FROM Account;\nSELECT Nothing\nFROM Account;\nDELETE * FROM Account;\n");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.output, "1\n\n\"ShowAs\"\n\"O'Brien; Sons\"\n\n");
+    EXPECT_EQ(outcome.output, "1\n\n\"ShowAs\"\n\"O'Brien; Sons\"\n");
     EXPECT_EQ(outcome.errors,
               "vestrelctl: statement 3: Unknown field 'Nothing' (line 1, column 8)\n");
     EXPECT_EQ(Run(OnBooks() + "sql 'SELECT Count(*) AS N FROM Account'").output, "\"N\"\n1\n");
+}
+
+TEST_F(Vestrelctl, PrintsDoublesByTheFewestDigitsThatNameThem) {
+    ASSERT_EQ(Run("init " + Books()).status, 0);
+    EXPECT_EQ(Run(OnBooks() + "sql \"SELECT 1E21 AS A, 0.0000001 AS B, 3.0 AS C, 1/3 AS D, "
+                              "123456789.125 AS E\"")
+                  .output,
+              "\"A\",\"B\",\"C\",\"D\",\"E\"\n"
+              "1E+21,0.0000001,3,0.3333333333333333,123456789.125\n");
+}
+
+TEST_F(Vestrelctl, TakesStatementsAsEditorsWriteThem) {
+    ASSERT_EQ(Run("init " + Books()).status, 0);
+    const std::string one = "\"N\"\n1\n";
+    const std::string both = one + "\n\"N\"\n2\n";
+    const struct {
+        std::string input;
+        std::string output;
+    } cases[] = {
+        {"", ""},
+        {"\n \n", ""},
+        {"SELECT 1 AS N", one},
+        {"SELECT 1 AS N;\r\nSELECT 2 AS N;\r\n", both},
+        {"\xEF\xBB\xBFSELECT 1 AS N;\n\n\nSELECT\n2 AS N", both},
+        {"SELECT\n1 AS N  ;  \nSELECT 2 AS N;", both},
+    };
+    for (const auto& each : cases) {
+        const Outcome outcome = Run(OnBooks() + "sql -", each.input);
+        EXPECT_EQ(outcome.status, 0) << each.input << outcome.errors;
+        EXPECT_EQ(outcome.output, each.output) << each.input;
+    }
+}
+
+TEST_F(Vestrelctl, SaysWhenItsOutputIsLost) {
+    ASSERT_EQ(Run("init " + Books()).status, 0);
+    EXPECT_EQ(Run(OnBooks() + "sql 'SELECT 1' >/dev/full 2>/dev/null; exit $? #").status, 1);
 }
 
 TEST_F(Vestrelctl, RefusesWhatItCannotDoInOneLine) {
@@ -39,22 +75,50 @@ TEST_F(Vestrelctl, RefusesWhatItCannotDoInOneLine) {
     std::ofstream(folder_ / "old" / "Vestrel.mdb") << "x";
     std::ofstream(folder_ / "old" / "Version") << 8;
     const auto at = [&](const char* name) { return "--data '" + (folder_ / name).string() + "' "; };
-    struct Case {
+    std::ofstream(folder_ / "file") << "x";
+    const struct {
         std::string words;
         int status;
+        std::string_view fault;
+    } cases[] = {
+        {"init " + Books(), 1, "Vestrel.mdb is there already"},
+        {"init --sample --units 2 " + Books(), 1, "Vestrel.mdb is there already"},
+        {"init '" + (folder_ / "file").string() + "'", 1, "file is no directory"},
+        {at("junk") + "update", 1, ""},
+        {at("old") + "update", 1, "has version 8; version 9 is needed"},
+        {at("nowhere") + "alerts", 1, "there is no database"},
+        {"sql 'SELECT 1'", 1, "no database is registered; name its directory with --data"},
+        {OnBooks() + "sql 'nonsense'", 1, "instead of 'nonsense' (line 1, column 1)"},
+        {OnBooks() + "sql ''", 1, "(line 1, column 1)"},
+        {OnBooks() + "sql 'SELECT 1; SELECT 2'", 1, "(line 1, column 11)"},
+        {OnBooks() + "sql 'SELECT [a\nb] FROM Tenant'", 1, "Unknown field 'a b'"},
+        {OnBooks() + "sql 'DROP TABLE Tenant'", 1, "instead of 'DROP'"},
+        {OnBooks() + "amortize 1", 1, "no mortgage 1"},
+        {"", 2, "A subcommand is required"},
+        {"sell", 2, "there is no command sell"},
+        {"--datum x alerts", 2, "--datum"},
+        {"--data '' alerts", 2, "no directory is named"},
+        {"--today 02/30/2024 update", 2, "'02/30/2024' is no day of the form mm/dd/yyyy"},
+        {"update --today 02/28/2024", 2, "not expected"},
+        {"alerts more", 2, "not expected: more"},
+        {"sql", 2, "statement is required"},
+        {"sql 'SELECT 1' 'SELECT 2'", 2, "not expected"},
+        {"register", 2, "directory is required"},
+        {"init", 2, "directory is required"},
+        {"init --units 3 x", 2, "--units requires --sample"},
+        {"init --sample --units 0 x", 2, "not in range"},
+        {"init --sample --units 2.5 x", 2, "--units"},
+        {OnBooks() + "amortize first", 2, "first"},
     };
-    for (const auto& [words, status] :
-         {Case{"init " + Books(), 1}, Case{at("junk") + "update", 1}, Case{at("old") + "update", 1},
-          Case{at("nowhere") + "alerts", 1}, Case{"sql 'SELECT 1'", 1},
-          Case{OnBooks() + "sql 'nonsense'", 1}, Case{"", 2}, Case{"sell", 2},
-          Case{"--today 02/30/2024 update", 2}, Case{"init --sample --units 0 x", 2}}) {
+    for (const auto& [words, status, fault] : cases) {
         const Outcome outcome = Run(words);
         EXPECT_EQ(outcome.status, status) << words;
         EXPECT_EQ(outcome.output, "") << words;
-        if (status == 1) {
-            EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1) << outcome.errors;
-        }
+        EXPECT_EQ(outcome.errors.rfind("vestrelctl: ", 0), 0U) << outcome.errors;
+        EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1) << outcome.errors;
+        EXPECT_NE(outcome.errors.find(fault), std::string::npos) << words << ": " << outcome.errors;
     }
+    EXPECT_EQ(Run("--help").status, 0);
 }
 
 TEST_F(Vestrelctl, MakesTheSameSampleTwiceAndFindsNothingLeftToPost) {
