@@ -48,10 +48,20 @@ class Crash : public testing::Test {
 };
 
 TEST_F(Crash, APaymentIsNeverHalf) {
+    // What it sets off on either side is a part of it.
+    for (const auto* values : {"500, 5, 103", "501, 1, 105"}) {
+        core::App().Connection.Execute(
+            "INSERT INTO AutoEvent (IdAutoEvent, TriggerType, TriggerID, EventType, Enabled, "
+            "Alert, TriggerTaxCategory, EventAction, DebitType, DebitId, CreditType, CreditId, "
+            "Amount, TaxCategory, IEN, Description) VALUES (" +
+            std::string(values) +
+            ", 2, True, True, 'Rent Payment', 1, 1, 105, 1, 106, 80, 'Fees', 1, 'Fee')");
+    }
     ExpectWhole(CrashAtEveryStatement([] {
                     leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Rent));
                 }),
-                20);
+                30);
+    EXPECT_EQ(Scalar("SELECT Count(*) FROM Transactions"), "3");
 }
 
 TEST_F(Crash, AnEditedPaymentIsNeverHalf) {

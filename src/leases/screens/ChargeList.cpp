@@ -69,15 +69,17 @@ ChargeList::ChargeList(QWidget* parent) : QTreeWidget(parent) {
     setTabKeyNavigation(false);
     setTextElideMode(Qt::ElideRight);
     setColumnCount(kOpenTotal + 1);
-    header()->setSortIndicator(-1, Qt::AscendingOrder);
-    header()->setSortIndicatorClearable(true);
     header()->setStretchLastSection(false);
-    setSortingEnabled(true);
+    header()->setSectionsClickable(true);
+    // Until a caption is clicked the rows stand as they were given.
+    connect(header(), &QHeaderView::sectionClicked, this, &ChargeList::SortBy);
     for (const int column : {kAmount, kOpenTotal})
         headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QTreeWidget::itemChanged, this, [this] {
         if (!filling_) Q_EMIT TicksChanged();
     });
+    connect(this, &QTreeWidget::itemSelectionChanged, this, &ChargeList::SelectionMoved);
+    connect(this, &QTreeWidget::currentItemChanged, this, &ChargeList::SelectionMoved);
     connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
         Q_EMIT RowChosen(item->data(kDate, kIdRole).toInt());
     });
@@ -102,7 +104,17 @@ void ChargeList::ShowLines(const std::vector<ChargeLine>& lines) {
     for (QTreeWidgetItem* const item : items) {
         if (item->data(kDate, kIdRole).toInt() == current) setCurrentItem(item);
     }
+    if (sortedBy_ >= 0) sortItems(sortedBy_, order_);
     filling_ = false;
+}
+
+void ChargeList::SortBy(int column) {
+    const bool again = column == sortedBy_ && order_ == Qt::AscendingOrder;
+    order_ = again ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sortedBy_ = column;
+    header()->setSortIndicatorShown(true);
+    header()->setSortIndicator(column, order_);
+    sortItems(column, order_);
 }
 
 std::vector<std::int32_t> ChargeList::SelectedIds() const {
@@ -111,12 +123,14 @@ std::vector<std::int32_t> ChargeList::SelectedIds() const {
         const QTreeWidgetItem* const item = topLevelItem(row);
         if (item->isSelected()) ids.push_back(item->data(kDate, kIdRole).toInt());
     }
-    if (ids.empty() && CurrentId() != 0) ids.push_back(CurrentId());
+    if (ids.empty() && currentItem()) ids.push_back(CurrentId());
     return ids;
 }
 
 std::int32_t ChargeList::CurrentId() const {
-    return currentItem() ? currentItem()->data(kDate, kIdRole).toInt() : 0;
+    if (currentItem()) return currentItem()->data(kDate, kIdRole).toInt();
+    const QList<QTreeWidgetItem*> selected = selectedItems();
+    return selected.isEmpty() ? 0 : selected.front()->data(kDate, kIdRole).toInt();
 }
 
 std::vector<std::int32_t> ChargeList::TickedIds() const {

@@ -43,7 +43,7 @@ class ChargeList : public QTreeWidget {
 
     /// The selected rows, or else the current one.
     std::vector<std::int32_t> SelectedIds() const;
-    /// The row in focus, 0 without one.
+    /// The row in focus, or else the first selected one; 0 without one.
     std::int32_t CurrentId() const;
     std::vector<std::int32_t> TickedIds() const;
 
@@ -54,6 +54,7 @@ class ChargeList : public QTreeWidget {
 
   Q_SIGNALS:
     void TicksChanged();
+    void SelectionMoved();
     /// A double click or Enter on a row.
     void RowChosen(std::int32_t id);
     void DeleteAsked();
@@ -63,11 +64,14 @@ class ChargeList : public QTreeWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void SortBy(int column);
     void ShareWidth();
 
     std::vector<int> percents_;
     bool ticks_ = false;
     bool filling_ = false;
+    int sortedBy_ = -1;
+    Qt::SortOrder order_ = Qt::AscendingOrder;
 };
 
 } // namespace leases::screens

@@ -116,7 +116,7 @@ void Lease_Ledger::Connect() {
         connect(button, &QPushButton::clicked, this, [work] { Guarded(work); });
     };
     connect(tabs_, &QTabBar::currentChanged, this, [this] { Guarded([this] { ShowRows(); }); });
-    connect(list_, &QTreeWidget::itemSelectionChanged, this, &Lease_Ledger::ShowAvailable);
+    connect(list_, &ChargeList::SelectionMoved, this, &Lease_Ledger::ShowAvailable);
     connect(list_, &ChargeList::RowChosen, this,
             [this](std::int32_t id) { Guarded([&] { Edit(id); }); });
     connect(list_, &ChargeList::DeleteAsked, this, [this] { Guarded([this] { Delete(); }); });

@@ -105,8 +105,7 @@ void frmRentPayment::Connect() {
         MarkDirty();
         Guarded([this] { ShowTotal(); });
     });
-    connect(ui_->lvwCharges, &QTreeWidget::itemSelectionChanged, this,
-            &frmRentPayment::ShowAvailable);
+    connect(ui_->lvwCharges, &ChargeList::SelectionMoved, this, &frmRentPayment::ShowAvailable);
     connect(ui_->lvwCharges, &ChargeList::RowChosen, this,
             [this](std::int32_t id) { Guarded([&] { EditCharge(id); }); });
     connect(ui_->lvwCharges, &ChargeList::DeleteAsked, this,
