@@ -1,0 +1,112 @@
+#include "records/BuildingRules.h"
+
+#include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "core/Session.h"
+#include "platform/database/Recordset.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/values/Text.h"
+
+namespace records {
+
+using platform::Currency;
+using platform::Recordset;
+using platform::Value;
+
+namespace {
+
+platform::Connection& Books() {
+    return core::App().Connection;
+}
+
+} // namespace
+
+std::vector<std::string> BuildingErrors(std::string_view address) {
+    if (platform::Trim(address).empty()) return {"An address must be entered."};
+    return {};
+}
+
+std::vector<core::Choice> UnitsOf(std::int32_t idBuilding) {
+    Recordset rows;
+    rows.Open(Books(), "SELECT IdUnit, Unit FROM Unit WHERE IdBuilding = ? ORDER BY Unit",
+              platform::CursorMode::ReadOnly, {idBuilding});
+    std::vector<core::Choice> units;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const platform::Field label = rows["Unit"];
+        units.push_back({label.IsNull() ? "" : label.AsText(), rows["IdUnit"].AsLong()});
+    }
+    return units;
+}
+
+bool AreStored(std::int32_t idBuilding, std::int32_t idUnit) {
+    return Books()
+               .Scalar("SELECT IdBuilding FROM Building WHERE IdBuilding = ?", {idBuilding})
+               .has_value() &&
+           Books().Scalar("SELECT IdUnit FROM Unit WHERE IdUnit = ?", {idUnit}).has_value();
+}
+
+std::int32_t MakeNewUnit(std::int32_t idBuilding) {
+    const std::int32_t idUnit = core::NextId();
+    Recordset row;
+    row.Open(Books(), "Unit", platform::CursorMode::AppendOnly);
+    row.AddNew();
+    row["IdUnit"].Set(idUnit);
+    row["IdBuilding"].Set(idBuilding);
+    row["Unit"].Set("<new>");
+    row["Status"].Set("Hold");
+    row["Rent"].Set(Currency());
+    for (const auto* count : {"Ccount", "SqFt"})
+        row[count].Set(std::int32_t{0});
+    for (const auto* flag :
+         {"Hide", "Selected", "Smoke", "Split", "WDHookup", "Fireplace", "PetAllowed"}) {
+        row[flag].Set(false);
+    }
+    for (const auto* text : {"Faces", "Bedrooms", "Bathrooms", "Garage", "KeyType", "KeyCode",
+                             "SecTenant", "Ad", "Notes"}) {
+        row[text].Set("");
+    }
+    row.Update();
+    core::NotifyAll(core::kUnit, core::kRecordsChanged, 0);
+    return idUnit;
+}
+
+Currency EquityAt(Currency marketValue, std::int32_t idBuilding) {
+    const Value owed =
+        Books()
+            .Scalar("SELECT SUM(CurrentPV) FROM Mortgage WHERE IdBuilding = ?", {idBuilding})
+            .value_or(Value());
+    return owed.IsNull() ? marketValue : marketValue - owed.AsCurrency();
+}
+
+std::optional<std::string> DepreciationFault(Currency basis, double years) {
+    if (basis <= Currency()) return "Depreciation basis must be greater than 0.";
+    if (!(years > 0)) return "Depreciation term must be greater than 0.";
+    return std::nullopt;
+}
+
+void TellUnitNumberMissing(std::string_view unit) {
+    if (!unit.empty()) return;
+    platform::TheDialogs().ShowMessage(
+        "Unit Number Missing",
+        "No unit number specified. When adding additional units to a building a unit number "
+        "should be assigned\n"
+        "to each unit for ease of management. You may continue without assigning a unit number "
+        "and return later\n"
+        "to fill this in.",
+        platform::Icon::Information);
+}
+
+bool AskToConvert() {
+    return platform::TheDialogs().AskYesNo(
+        "Continue?",
+        "To add an additional unit this property will convert to a multi unit building. Please "
+        "read the help file\n"
+        "section explaining how these are handled differently so you can understand how to "
+        "correctly manage these\n"
+        "types of properties within Vestrel.\n"
+        "Do you wish to continue?",
+        platform::Icon::Question);
+}
+
+} // namespace records
