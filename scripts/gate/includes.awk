@@ -12,7 +12,7 @@ function roomOf(path,    part, n) {
     return part[1]
 }
 
-function isWindowProgram(room) { return room == "kestrom" || room == "dbmender" }
+function isWindowProgram(room) { return room ~ /^(kestrom|dbmender|photoreel)$/ }
 function isProgram(room) { return isWindowProgram(room) || room == "vestrelctl" }
 function mayKnowQt(room) { return isScreen[room] || isWindowProgram(room) }
 

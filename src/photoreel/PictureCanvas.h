@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+namespace photoreel {
+
+/// One picture on a dark ground, as large as there is room; or a text.
+class PictureCanvas : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit PictureCanvas(QWidget* parent = nullptr);
+
+    void ShowPicture(const QImage& picture);
+    void ShowText(const QString& text);
+    const QImage& Shown() const { return picture_; }
+    const QString& Text() const { return text_; }
+
+  Q_SIGNALS:
+    /// A click with the left button, or the wheel turned down.
+    void NextAsked();
+    /// A click with the right button, or the wheel turned up.
+    void PreviousAsked();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    QImage picture_;
+    QString text_;
+    int turned_ = 0; ///< of the wheel, not answered yet
+};
+
+} // namespace photoreel

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "documents/ShowList.h"
+
+namespace photoreel {
+
+/// Why a picture can't be shown; empty when it can.
+using Obstacle = std::function<std::string(const documents::ShowPicture& picture)>;
+
+/// A row of pictures to go through in both directions, over the ends too. Pictures that can't be
+/// shown are passed over.
+class Reel {
+  public:
+    explicit Reel(documents::ShowList list) : list_(std::move(list)) {}
+
+    // Each asks about one picture after the other until one can be shown; false when none can.
+    bool First(const Obstacle& obstacle);
+    bool Last(const Obstacle& obstacle);
+    bool Next(const Obstacle& obstacle);
+    bool Previous(const Obstacle& obstacle);
+
+    const std::string& Title() const { return list_.title; }
+    bool IsEmpty() const { return list_.pictures.empty(); }
+
+    /// What stands below the present picture: its description and its place in the row, and a line
+    /// for each picture that was just passed over, with the reason.
+    std::string Caption() const;
+
+  private:
+    enum class Direction { Forward, Backward };
+
+    std::size_t After(std::size_t position, Direction direction) const;
+    bool GoFrom(std::size_t position, Direction direction, const Obstacle& obstacle);
+
+    documents::ShowList list_;
+    std::size_t position_ = 0;
+    bool isShown_ = false; ///< there is a picture at the position that can be shown
+    std::vector<std::string> skipped_;
+};
+
+/// The list file among the words of the command line ("/loadfile FILE" or "/loadfile=FILE"); empty
+/// without one.
+std::string ListFileOf(std::span<const std::string> words);
+
+} // namespace photoreel
