@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "leases/RentPayment.h"
@@ -37,6 +38,25 @@ class Item : public QTreeWidgetItem {
     }
 };
 
+/// Rows with some air, and check boxes that can be seen on a dark list too: they are filled with
+/// the colour of what lies behind them.
+class RowDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        constexpr int kAir = 6;
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kAir);
+    }
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const bool isDark = option->palette.color(QPalette::Base).lightness() < 128;
+        if (isDark) option->palette.setColor(QPalette::Base, option->palette.color(QPalette::Mid));
+    }
+};
+
 bool IsPicked(const QTreeWidgetItem& item, ChargePick pick) {
     if (pick == ChargePick::All) return true;
     const RentFlags flags{static_cast<std::int16_t>(item.data(kDate, kFlagsRole).toInt())};
@@ -63,6 +83,7 @@ QTreeWidgetItem* MakeItem(const ChargeLine& line, bool ticks) {
 ChargeList::ChargeList(QWidget* parent) : QTreeWidget(parent) {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
+    setItemDelegate(new RowDelegate(this));
     setAllColumnsShowFocus(true);
     setAlternatingRowColors(true);
     setSelectionMode(ExtendedSelection);

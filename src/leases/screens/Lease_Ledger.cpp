@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabBar>
-#include <QToolButton>
 
 #include "books/screens/frmTransaction.h"
 #include "core/EditRecord.h"
@@ -77,11 +76,7 @@ void Lease_Ledger::MakeButtons() {
     core::screens::SetTag(*add_, "ADD");
     core::screens::SetTag(*edit_, "EDIT");
     core::screens::SetTag(*delete_, "DELETE");
-    select_ = new QToolButton(this);
-    select_->setObjectName(QStringLiteral("cmdSelect"));
-    select_->setText(tr("Select"));
-    select_->setToolTip(tr("Select several charges at once"));
-    select_->setPopupMode(QToolButton::InstantPopup);
+    select_ = MakeButton(tr("Select"), tr("Select several charges at once"), "cmdSelect");
     select_->setMenu(new QMenu(select_));
     AddPickMenu(*select_->menu(), QStringLiteral("mnuSelect"),
                 [this](ChargePick pick) { list_->Select(pick); });

@@ -9,7 +9,6 @@
 class QLabel;
 class QPushButton;
 class QTabBar;
-class QToolButton;
 
 namespace leases::screens {
 
@@ -57,7 +56,7 @@ class Lease_Ledger : public QWidget {
     QPushButton* add_ = nullptr;
     QPushButton* edit_ = nullptr;
     QPushButton* delete_ = nullptr;
-    QToolButton* select_ = nullptr;
+    QPushButton* select_ = nullptr;
     QPushButton* rent_ = nullptr;
     QPushButton* refund_ = nullptr;
     QPushButton* charge_ = nullptr;

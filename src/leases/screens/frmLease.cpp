@@ -17,6 +17,7 @@
 #include "documents/screens/FileObjects.h"
 #include "leases/mLease.h"
 #include "leases/screens/Lease_Ledger.h"
+#include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
 #include "ui_frmLease.h"
@@ -49,6 +50,8 @@ frmLease::frmLease(QWidget* parent)
     fees_->setupUi(ui_->tabFees);
     more_->setupUi(ui_->tabMore);
     notes_->setupUi(ui_->tabNotes);
+    for (QToolButton* const zoom : {terms_->cmdZoomUnit, terms_->cmdZoomTenant})
+        zoom->setIcon(platform::qt::LoadIcon(QStringLiteral("open")));
     MakePanels();
     MakeMenu();
     Wire();
