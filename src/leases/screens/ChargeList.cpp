@@ -52,8 +52,8 @@ class RowDelegate : public QStyledItemDelegate {
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
         QStyledItemDelegate::initStyleOption(option, index);
-        const bool isDark = option->palette.color(QPalette::Base).lightness() < 128;
-        if (isDark) option->palette.setColor(QPalette::Base, option->palette.color(QPalette::Mid));
+        const QColor base = option->palette.color(QPalette::Base);
+        if (base.lightness() < 128) option->palette.setColor(QPalette::Base, base.lighter(280));
     }
 };
 
