@@ -15,14 +15,14 @@ namespace books::screens {
 using core::screens::FillList;
 using core::screens::ReadCombo;
 
-PartyBoxes::PartyBoxes(QComboBox& type, QComboBox& party, QObject* parent)
-    : QObject(parent), type_(type), party_(party) {
+PartyBoxes::PartyBoxes(QComboBox& type, QComboBox& party, Nobody nobody, QObject* parent)
+    : QObject(parent), type_(type), party_(party), nobody_(nobody) {
     const QSignalBlocker quiet(type_);
     type_.addItem(tr("Account"), core::kAccount);
     type_.addItem(tr("Tenant"), core::kTenant);
     LetNamesStand();
     connect(&type_, &QComboBox::currentIndexChanged, this,
-            [this] { core::screens::Guarded([this] { FillList(Type(), party_); }); });
+            [this] { core::screens::Guarded([this] { Fill({}); }); });
 }
 
 /// A typed name that happens to be a later record's is still only a name: neither may the box
@@ -36,11 +36,17 @@ void PartyBoxes::LetNamesStand() {
 
 void PartyBoxes::Show(std::int16_t type, std::int32_t id) {
     core::screens::SelectById(type_, type, {.selectFirst = true});
-    FillList(Type(), party_, {.selectedId = id});
+    ShowStored(id);
+}
+
+void PartyBoxes::ShowStored(std::int32_t id) {
+    // A list selects its first row where it selects nothing: nobody, when that is offered.
+    party_.setCurrentIndex(-1);
+    Fill({.selectedId = id});
 }
 
 void PartyBoxes::ShowStored(std::int32_t id, std::string_view name) {
-    FillList(Type(), party_);
+    Fill({});
     core::ChoiceList list = ReadCombo(party_);
     list.SetText(name);
     if (id != 0) core::SelectById(list, id);
@@ -50,7 +56,12 @@ void PartyBoxes::ShowStored(std::int32_t id, std::string_view name) {
 void PartyBoxes::Refresh(std::int16_t kind) {
     if (kind != Type()) return;
     const bool isTyped = !ReadCombo(party_).Selected();
-    FillList(kind, party_, {.keepText = isTyped && party_.isEditable()});
+    Fill({.keepText = isTyped && party_.isEditable()});
+}
+
+void PartyBoxes::Fill(core::FillOptions options) {
+    options.addNone = nobody_ == Nobody::Offered;
+    FillList(Type(), party_, options);
 }
 
 std::int16_t PartyBoxes::Type() const {

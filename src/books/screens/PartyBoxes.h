@@ -2,10 +2,17 @@
 
 #include <QObject>
 #include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/Lists.h"
 
 class QComboBox;
 
 namespace books::screens {
+
+/// Whether the boxes offer a row for nobody.
+enum class Nobody { NotOffered, Offered };
 
 /// The two boxes that name one side of a transaction: what kind of party it is, and who. The second
 /// offers the records of the kind; where it can be typed in, any name will do.
@@ -13,12 +20,13 @@ class PartyBoxes : public QObject {
     Q_OBJECT
 
   public:
-    PartyBoxes(QComboBox& type, QComboBox& party, QObject* parent);
+    PartyBoxes(QComboBox& type, QComboBox& party, Nobody nobody, QObject* parent);
 
-    /// Fills both for a kind and a record of it; the first record for id 0.
+    /// Fills both for a kind and a record of it; the first row for id 0.
     void Show(std::int16_t type, std::int32_t id);
-    /// Fills the second for the kind that the first shows now, as the row has it: a record, or only
-    /// a name.
+    /// Fills the second for the kind that the first shows now, as the row has it: a record.
+    void ShowStored(std::int32_t id);
+    /// The same for a party that may be only a name.
     void ShowStored(std::int32_t id, std::string_view name);
     /// Records of a kind changed: who is named stays named.
     void Refresh(std::int16_t kind);
@@ -29,9 +37,11 @@ class PartyBoxes : public QObject {
 
   private:
     void LetNamesStand();
+    void Fill(core::FillOptions options);
 
     QComboBox& type_;
     QComboBox& party_;
+    Nobody nobody_;
 };
 
 } // namespace books::screens

@@ -21,8 +21,9 @@ frmTransaction::frmTransaction(QWidget* parent)
     : RecordForm({core::kTransaction, "Transactions", "IdTransaction"}, parent),
       ui_(std::make_unique<Ui::frmTransaction>()) {
     ui_->setupUi(this);
-    from_ = std::make_unique<PartyBoxes>(*ui_->cboFromType, *ui_->cboFrom, this);
-    to_ = std::make_unique<PartyBoxes>(*ui_->cboToType, *ui_->cboTo, this);
+    from_ =
+        std::make_unique<PartyBoxes>(*ui_->cboFromType, *ui_->cboFrom, Nobody::NotOffered, this);
+    to_ = std::make_unique<PartyBoxes>(*ui_->cboToType, *ui_->cboTo, Nobody::NotOffered, this);
     references_ = std::make_unique<ReferenceBoxes>(
         ReferenceBoxes::Boxes{ui_->cboLease, ui_->cboTenant, ui_->cboBuilding, ui_->cboUnit,
                               ui_->cboMortgage, ui_->cboWorkOrder},

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "books/AutoEvent.h"
+#include "books/screens/PartyBoxes.h"
+#include "books/screens/ReferenceBoxes.h"
+#include "core/screens/RecordForm.h"
+
+namespace Ui {
+class frmAutoEvent;
+}
+
+namespace books::screens {
+
+/// An event that runs by itself: what starts it, and what it does.
+class frmAutoEvent : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmAutoEvent(QWidget* parent = nullptr);
+    ~frmAutoEvent() override;
+
+    /// Opens an event, or a new one for id 0.
+    void Setup(std::int32_t id);
+
+  protected:
+    void ShowRow(platform::Recordset& row) override;
+    void WriteRow(platform::Recordset& row) override;
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    void FillLists();
+    void ShowAvailable();
+    EventType Type() const;
+    void SeedLastRun(platform::Recordset& row) const;
+
+    std::unique_ptr<Ui::frmAutoEvent> ui_;
+    std::unique_ptr<PartyBoxes> trigger_;
+    std::unique_ptr<PartyBoxes> from_;
+    std::unique_ptr<PartyBoxes> to_;
+    std::unique_ptr<ReferenceBoxes> references_;
+};
+
+} // namespace books::screens

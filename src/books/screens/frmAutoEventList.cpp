@@ -1,0 +1,60 @@
+#include "books/screens/frmAutoEventList.h"
+
+#include <QPushButton>
+
+#include "books/AutoEventRules.h"
+#include "core/EditRecord.h"
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "core/screens/ErrorRoll.h"
+#include "core/screens/Help.h"
+#include "core/screens/Wiring.h"
+#include "exchange/DeleteRecord.h"
+#include "platform/database/Recordset.h"
+#include "ui_frmAutoEventList.h"
+
+namespace books::screens {
+
+using core::screens::ActionBar;
+using core::screens::Guarded;
+using core::screens::RecordList;
+
+frmAutoEventList::frmAutoEventList(QWidget* parent)
+    : Form(parent), ui_(std::make_unique<Ui::frmAutoEventList>()) {
+    ui_->setupUi(this);
+    core::screens::WireControls(*this);
+    ui_->events->Allow(true, true, true);
+    ui_->events->List().setAccessibleName(tr("Automated events"));
+    ui_->cmdAction->Apply().hide();
+    ui_->cmdAction->Cancel().hide();
+    connect(ui_->events, &RecordList::AddAsked, this,
+            [] { core::EditRecord(core::kAutoEvent, 0); });
+    connect(ui_->events, &RecordList::EditAsked, this,
+            [](std::int32_t id) { core::EditRecord(core::kAutoEvent, id); });
+    connect(ui_->events, &RecordList::DeleteAsked, this, [](std::int32_t id) {
+        Guarded([id] { exchange::DeleteRecord(core::kAutoEvent, id); });
+    });
+    connect(ui_->cmdAction, &ActionBar::CloseClicked, this, &QWidget::close);
+    connect(ui_->cmdAction, &ActionBar::HelpClicked, this,
+            [this] { core::screens::ShowHelp(*this); });
+}
+
+frmAutoEventList::~frmAutoEventList() = default;
+
+void frmAutoEventList::Setup() {
+    Guarded([this] { UpdateGrid(); });
+    Open();
+}
+
+void frmAutoEventList::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/,
+                                    std::int32_t /*id*/) {
+    if (kind == core::kAutoEvent) UpdateGrid();
+}
+
+void frmAutoEventList::UpdateGrid() {
+    platform::Recordset rows;
+    rows.Open(core::App().Connection, AutoEventListSql());
+    ui_->events->ShowRows(std::move(rows), "frmAutoEventList");
+}
+
+} // namespace books::screens

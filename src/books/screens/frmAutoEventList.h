@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/Form.h"
+
+namespace Ui {
+class frmAutoEventList;
+}
+
+namespace books::screens {
+
+/// All events that run by themselves.
+class frmAutoEventList : public core::screens::Form {
+    Q_OBJECT
+
+  public:
+    explicit frmAutoEventList(QWidget* parent = nullptr);
+    ~frmAutoEventList() override;
+
+    void Setup();
+
+  protected:
+    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+
+  private:
+    void UpdateGrid();
+
+    std::unique_ptr<Ui::frmAutoEventList> ui_;
+};
+
+} // namespace books::screens
