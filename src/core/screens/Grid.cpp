@@ -36,6 +36,7 @@ Grid::Grid(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setSectionsClickable(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int column) { Q_EMIT HeaderClicked(model_.Caption(column)); });
+    connect(&model_, &GridModel::AllRead, this, [this] { Fit(firstColumn_, sizing_); });
     connect(this, &QTableView::doubleClicked, this, [this] { Q_EMIT RowChosen(SelectedId()); });
 
     auto* const copy = new QAction(tr("&Copy"), this);

@@ -68,6 +68,7 @@ class Grid : public QTableView {
     QString emptyText_;
     std::vector<int> wanted_; ///< kept while the columns share the width
     int firstColumn_ = 0;
+    Sizing sizing_ = Sizing::Manual;
     bool sharing_ = false;
 };
 

@@ -20,6 +20,8 @@ void GridModel::SetRows(platform::Recordset rows) {
     beginResetModel();
     rows_ = std::move(rows);
     rowCount_ = rows_.IsOpen() ? rows_.RecordCount() : 0;
+    atHand_ = rowCount_;
+    nextRead_.stop();
     columns_.clear();
     colors_.clear();
     narrowed_.clear();

@@ -28,6 +28,11 @@ class GridModel : public QAbstractTableModel {
     /// Takes over a row set; every column gets the format of its field's type. One that isn't open
     /// leaves nothing to show.
     void SetRows(platform::Recordset rows);
+    /// Reads the rows of a row set that is read as it is needed, some at a time while the person
+    /// goes on, until AllRead. What is shown meanwhile is read at once.
+    void ReadOn();
+    /// How many rows show without being waited for.
+    int RowsAtHand() const;
     /// Whether SetRows was called.
     bool IsLoaded() const { return !columns_.empty(); }
 
@@ -56,6 +61,7 @@ class GridModel : public QAbstractTableModel {
   Q_SIGNALS:
     /// All rows that have the text are there.
     void NarrowingEnded();
+    void AllRead();
 
   private:
     struct Column {
@@ -69,12 +75,15 @@ class GridModel : public QAbstractTableModel {
     RowSearch MakeSearch(const QString& text, int firstColumn) const;
     std::vector<std::int32_t> SearchOn();
     void SearchSlice();
+    void ReadSlice();
     QString SourceText(std::int64_t source, std::size_t column) const;
     std::optional<QColor> ColorOf(const QModelIndex& index) const;
 
     // Reading a row makes it current, which is all that reading changes.
     mutable platform::Recordset rows_;
     std::int64_t rowCount_ = 0;
+    std::int64_t atHand_ = 0;
+    QTimer nextRead_;
     std::vector<Column> columns_;
     std::unordered_map<std::int64_t, QColor> colors_;
     QString narrowed_;

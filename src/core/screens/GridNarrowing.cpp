@@ -14,6 +14,8 @@ GridModel::GridModel(QObject* parent) : QAbstractTableModel(parent) {
     nextSlice_.setSingleShot(true);
     nextSlice_.setInterval(0);
     connect(&nextSlice_, &QTimer::timeout, this, &GridModel::SearchSlice);
+    nextRead_.setInterval(0);
+    connect(&nextRead_, &QTimer::timeout, this, &GridModel::ReadSlice);
 }
 
 void GridModel::Narrow(const QString& text, int firstColumn) {

@@ -86,7 +86,7 @@ std::vector<int> Grid::WantedWidths() const {
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics header(bold);
-    const std::vector<int> rows = SampleRows(model_.rowCount());
+    const std::vector<int> rows = SampleRows(model_.RowsAtHand());
     std::vector<int> widths;
     for (int column = 0; column < model_.columnCount(); ++column) {
         int widest = header.horizontalAdvance(model_.Caption(column));
@@ -100,6 +100,7 @@ std::vector<int> Grid::WantedWidths() const {
 
 void Grid::Fit(int firstColumn, Sizing sizing) {
     sharing_ = false;
+    sizing_ = sizing;
     if (sizing == Sizing::Manual || model_.rowCount() == 0 || model_.columnCount() == 0) {
         if (sizing != Sizing::Manual && model_.columnCount() > 0) {
             for (int column = 0; column < firstColumn; ++column)

@@ -6,8 +6,10 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <limits>
 
 #include "platform/database/DatabaseFile.h"
+#include "platform/database/PendingRows.h"
 #include "platform/database/StatementProbe.h"
 #include "platform/database/dialect/RuntimeFunctions.h"
 #include "platform/values/Errors.h"
@@ -73,6 +75,19 @@ DatabaseEngine::DatabaseEngine(const std::filesystem::path& file, OpenMode mode)
     ReadCatalog();
 }
 
+DatabaseEngine::~DatabaseEngine() {
+    try {
+        ReadPending();
+    } catch (const Error&) {
+        // A row set that can't be read to its end has the rows that were read.
+    }
+}
+
+void DatabaseEngine::ReadPending() {
+    while (!pending_.empty())
+        pending_.back()->ReadTo(std::numeric_limits<std::size_t>::max());
+}
+
 void DatabaseEngine::ReadCatalog() {
     try {
         dialect::Catalog catalog;
@@ -122,12 +137,13 @@ void DatabaseEngine::Bind(CachedStatement& statement, std::span<const Value> par
 
 std::int64_t DatabaseEngine::Run(CachedStatement& statement) {
     CheckUnit();
+    const bool select =
+        statement.plan && statement.plan->compiled.kind == dialect::StatementKind::Select;
+    if (!select) ReadPending();
     if (Probe()) Probe()();
     const StatementRun run(statement.statement);
     while (statement.statement.Step()) {
     }
-    const bool select =
-        statement.plan && statement.plan->compiled.kind == dialect::StatementKind::Select;
     return select ? 0 : sqlite3_changes64(Handle());
 }
 
@@ -153,6 +169,7 @@ void DatabaseEngine::RunScript(std::string_view script) {
 }
 
 void DatabaseEngine::Command(const std::string& sql) {
+    ReadPending();
     if (Probe()) Probe()();
     if (database_->tryExec(sql) != SQLITE_OK) ThrowEngineError(Handle());
 }
@@ -174,6 +191,11 @@ void DatabaseEngine::Commit(int level) {
 void DatabaseEngine::RollBack(int level) noexcept {
     if (level == 0 || level > level_) return;
     level_ = level - 1;
+    try {
+        ReadPending();
+    } catch (const Error&) {
+        // What was begun inside the unit ends with it.
+    }
     if (sqlite3_get_autocommit(Handle()) == 0) {
         const std::string name = "unit_" + std::to_string(level_);
         database_->tryExec(level_ == 0 ? "ROLLBACK" : "ROLLBACK TO " + name + "; RELEASE " + name);

@@ -7,16 +7,22 @@
 #include <memory>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "platform/database/Connection.h"
 #include "platform/database/StatementCache.h"
 
 namespace platform {
 
+class PendingRows;
+
 /// What an open connection is made of.
 class DatabaseEngine {
   public:
     DatabaseEngine(const std::filesystem::path& file, OpenMode mode);
+    ~DatabaseEngine();
+    DatabaseEngine(const DatabaseEngine&) = delete;
+    DatabaseEngine& operator=(const DatabaseEngine&) = delete;
 
     sqlite3* Handle() const { return database_->getHandle(); }
     const dialect::Catalog& Tables() const { return catalog_; }
@@ -39,6 +45,11 @@ class DatabaseEngine {
 
     void RunScript(std::string_view script);
 
+    /// Rows that are still to be read, until they are removed: they are read before anything is
+    /// written.
+    void AddPending(PendingRows& rows) { pending_.push_back(&rows); }
+    void RemovePending(const PendingRows& rows) noexcept { std::erase(pending_, &rows); }
+
     // Units of work, one inside another; each has a level counted from 1.
     int Begin();
     void Commit(int level);
@@ -48,11 +59,13 @@ class DatabaseEngine {
 
   private:
     void ReadCatalog();
+    void ReadPending();
     void Command(const std::string& sql);
 
     std::unique_ptr<SQLite::Database> database_;
     dialect::Catalog catalog_;
     StatementCache statements_;
+    std::vector<PendingRows*> pending_;
     std::uint64_t lastPlan_ = 0;
     int level_ = 0;
     bool schemaChangedInUnit_ = false;

@@ -2,6 +2,7 @@
 
 #include <numeric>
 
+#include "platform/database/AsNeeded.h"
 #include "platform/database/DatabaseEngine.h"
 #include "platform/database/RecordsetState.h"
 #include "platform/values/Text.h"
@@ -39,8 +40,15 @@ void Recordset::State::MoveTo(std::size_t place) {
     located = false;
 }
 
+void Recordset::State::ReadAll() {
+    if (!pending) return;
+    pending->ReadTo(pending->Total());
+    pending.reset();
+}
+
 void Recordset::State::WriteOutOrder() {
     if (ordered) return;
+    ReadAll();
     order.resize(rows.Size());
     std::iota(order.begin(), order.end(), std::uint32_t{0});
     ordered = true;
@@ -49,6 +57,10 @@ void Recordset::State::WriteOutOrder() {
 Cell Recordset::State::Stored(std::size_t index) {
     if (adding) return {};
     if (!located) {
+        if (pending) {
+            pending->ReadTo(CurrentRow() + 1);
+            if (CurrentRow() >= rows.Size()) return {}; // it could not be read to its end
+        }
         rows.Locate(CurrentRow(), FieldCount() + (IsWritable() ? 1 : 0), places);
         located = true;
     }
@@ -81,7 +93,12 @@ void Recordset::Open(Connection& connection, std::string_view sql, CursorMode mo
     State& state = *state_;
     state.connection = &connection;
     state.mode = mode;
-    if (mode != CursorMode::AppendOnly) {
+    if (mode == kReadAsNeeded) {
+        engine.CheckUnit();
+        state.pending = std::make_unique<PendingRows>(
+            engine, prepared.plan, std::vector(parameters.begin(), parameters.end()), state.rows);
+        state.pending->ReadTo(kFirstRowsRead);
+    } else if (mode != CursorMode::AppendOnly) {
         engine.CheckUnit();
         DatabaseEngine::Bind(prepared, parameters);
         const bool writable = mode == CursorMode::Updatable && !compiled.table.empty();
@@ -106,6 +123,7 @@ void Recordset::Close() {
     if (!state_) return;
     State& state = *state_;
     state.plan.reset();
+    state.pending.reset();
     state.rows.Clear();
     state.ordered = false;
     state.order.clear();

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/database/AsNeeded.h"
+#include "platform/database/PendingRows.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/RowBuffer.h"
 #include "platform/database/StatementCache.h"
@@ -20,7 +22,8 @@ struct Recordset::State {
     std::shared_ptr<const StatementPlan> plan; // null when it is closed
 
     RowBuffer rows;
-    bool ordered = false; // otherwise the rows stand as they were read
+    std::unique_ptr<PendingRows> pending; // what is read as it is asked for; null for most
+    bool ordered = false;                 // otherwise the rows stand as they were read
     std::vector<std::uint32_t> order;
     std::size_t current = 0; // a place in the order
 
@@ -36,7 +39,11 @@ struct Recordset::State {
     /// The field's index; nothing when there is none of this name.
     std::optional<std::size_t> Find(std::string_view name) const;
 
-    std::size_t Count() const { return ordered ? order.size() : rows.Size(); }
+    std::size_t Count() const {
+        if (ordered) return order.size();
+        return pending ? pending->Total() : rows.Size();
+    }
+    void ReadAll();
     bool HasRow() const { return adding || current < Count(); }
     std::size_t CurrentRow() const { return ordered ? order[current] : current; }
     void MoveTo(std::size_t place);
@@ -46,7 +53,9 @@ struct Recordset::State {
     /// The current row's stored value at `index`: of a field, or of the row's number behind them.
     Cell Stored(std::size_t index);
 
-    bool IsWritable() const { return mode != CursorMode::ReadOnly && !Compiled().table.empty(); }
+    bool IsWritable() const {
+        return mode != CursorMode::ReadOnly && mode != kReadAsNeeded && !Compiled().table.empty();
+    }
     void CheckWritable() const;
     bool IsComputed(std::size_t field) const { return Compiled().sources[field].empty(); }
     void Edit(std::size_t field, Value value);

@@ -69,8 +69,8 @@ class ViewPanel : public QWidget {
     void FilterFieldChanged();
     void Sort(const QString& caption);
     void ReadRows();
+    void ReadTransactions();
     void ColorCells();
-    void SizeColumns();
     void ShowSortArrow();
     void Select(std::int32_t id, Cause cause);
     void SearchChanged();

@@ -3,9 +3,12 @@
 #include <QHeaderView>
 #include <QScrollBar>
 
-#include "core/Preferences.h"
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "core/screens/Grid.h"
+#include "core/screens/GridColumns.h"
+#include "platform/database/AsNeeded.h"
 #include "platform/qt/Text.h"
 #include "shell/CellMarks.h"
 #include "shell/ViewTexts.h"
@@ -15,7 +18,6 @@
 namespace shell::screens {
 
 using core::screens::Grid;
-using core::screens::Sizing;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -44,7 +46,7 @@ void ViewPanel::Reload(Cause cause) {
     ReadRows();
     ColorCells();
     ui_->grd->Model().Narrow(ui_->txtSearch->text(), kFirstShown);
-    SizeColumns();
+    core::screens::SizeColumns(*ui_->grd, kFirstShown);
     ShowSortArrow();
     Select(id, cause);
     if (cause == Cause::Broadcast) ui_->grd->verticalScrollBar()->setValue(scrolled);
@@ -54,6 +56,10 @@ void ViewPanel::Reload(Cause cause) {
 }
 
 void ViewPanel::ReadRows() {
+    if (kind_ == core::kTransaction && state_.sortField.empty()) {
+        ReadTransactions();
+        return;
+    }
     platform::Recordset rows;
     count_ = core::OpenRecordset(rows, BuildViewSql(kind_, Filter(), IdColumn::First),
                                  core::Access::ReadOnly);
@@ -67,26 +73,26 @@ void ViewPanel::ReadRows() {
     core::screens::LoadGrid(*ui_->grd, std::move(rows));
 }
 
+/// There may be a million of them, whose first page need not wait for the others.
+void ViewPanel::ReadTransactions() {
+    platform::Recordset rows;
+    try {
+        rows.Open(core::App().Connection, BuildViewSql(kind_, Filter(), IdColumn::First),
+                  platform::kReadAsNeeded);
+        count_ = rows.RecordCount();
+    } catch (const platform::Error&) {
+        count_ = -1;
+    }
+    core::screens::LoadGrid(*ui_->grd, std::move(rows));
+    ui_->grd->Model().ReadOn();
+}
+
 void ViewPanel::ColorCells() {
     const int column = MarkedColumn(kind_);
     if (column < 0) return;
     ui_->grd->Model().SetColorRule(column, [kind = kind_](const platform::Value& word) {
         return word.IsNull() ? std::nullopt : ColorOf(MarkOf(kind, word.AsText()));
     });
-}
-
-void ViewPanel::SizeColumns() {
-    Grid& grid = *ui_->grd;
-    if (grid.Model().columnCount() == 0) return;
-    grid.setColumnHidden(0, true);
-    const auto sizing = static_cast<Sizing>(core::Preferences().AutoSize);
-    if (sizing == Sizing::Manual) {
-        // What was never set by hand starts from the texts.
-        core::screens::AutoSizeGrid(grid, kFirstShown, Sizing::FitText);
-        core::screens::LoadColumnWidths(grid);
-    } else {
-        core::screens::AutoSizeGrid(grid, kFirstShown, sizing);
-    }
 }
 
 void ViewPanel::ShowSortArrow() {

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/database/PreparedStatement.h"
+#include "platform/database/RowBuffer.h"
+#include "platform/database/StatementCache.h"
+
+namespace platform {
+
+class DatabaseEngine;
+
+/// The rows of a select that aren't read yet. All of them come from one view of the database: the
+/// engine has the rest read before it writes.
+class PendingRows {
+  public:
+    /// Starts the select, which puts its rows into `rows`, and counts them.
+    PendingRows(DatabaseEngine& engine, std::shared_ptr<const StatementPlan> plan,
+                std::vector<Value> parameters, RowBuffer& rows);
+    ~PendingRows();
+    PendingRows(const PendingRows&) = delete;
+    PendingRows& operator=(const PendingRows&) = delete;
+
+    /// How many rows there are, read or not.
+    std::size_t Total() const { return total_; }
+    /// Reads on until `count` rows are there, or all.
+    void ReadTo(std::size_t count);
+
+  private:
+    void End();
+
+    DatabaseEngine* engine_; // null when all rows are read
+    std::vector<Value> parameters_;
+    std::optional<CachedStatement> select_; // as long as it has rows: it keeps the engine open
+    RowBuffer& rows_;
+    int width_;
+    std::size_t total_ = 0;
+};
+
+} // namespace platform
