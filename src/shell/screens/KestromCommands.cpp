@@ -11,6 +11,7 @@
 #include "core/Settings.h"
 #include "core/screens/ErrorRoll.h"
 #include "core/screens/Help.h"
+#include "exchange/DeleteRecord.h"
 #include "platform/dialogs/Desktop.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Icons.h"
@@ -105,6 +106,7 @@ void frmKestrom::ConnectOwnCommands() {
     On(name("mnuAdd"), [this] { core::EditRecord(selectedDb_, 0); });
     On(name("mnuEdit"), [this] { core::EditRecord(selectedDb_, SelectedId()); });
     On(name("mnuCopy"), [this] { core::EditRecord(selectedDb_, 0, 0, SelectedId()); });
+    On(name("mnuDelete"), [this] { exchange::DeleteRecord(selectedDb_, SelectedId()); });
     On(name("mnuRefreshSummary"), [this] { home_->Refresh(); });
     On(name("mnuRefresh"), [this] {
         if (selectedDb_ == core::kAlert) {
@@ -118,7 +120,9 @@ void frmKestrom::ConnectOwnCommands() {
     On(name("mnuPrintGrid"), [this] { PrintGrid(); });
     On(name("mnuExit"), [this] { close(); });
     On(name("mnuCalculator"), StartCalculator);
-    On(name("mnuRestoreTransCategories"), RestoreTransCategories);
+    if (!services_.commands.Has(name("mnuRestoreTransCategories"))) {
+        On(name("mnuRestoreTransCategories"), RestoreTransCategories);
+    }
     On(name("mnuSysInfo"), StartSystemInformation);
     On(name("mnuHelpGettingStarted"), [this] { OpenHelp(QStringLiteral("gettingstarted")); });
     On(name("mnuHelpContents"), [this] { OpenHelp(QStringLiteral("contents")); });

@@ -140,7 +140,8 @@ void frmKestrom::EnableEditButtons() {
     ui_->mnuEdit->setEnabled(can.edit);
     ui_->mnuCopy->setEnabled(can.edit);
     ui_->mnuPrintGrid->setEnabled(can.printGrid && services_.viewReport);
-    for (QAction* const item : {ui_->mnuDelete, ui_->mnuPrint, ui_->mnuPayRent, ui_->mnuPayMortgage,
+    ui_->mnuDelete->setEnabled(can.record);
+    for (QAction* const item : {ui_->mnuPrint, ui_->mnuPayRent, ui_->mnuPayMortgage,
                                 ui_->mnuPhotoReel, ui_->mnuPrintDoc, ui_->mnuPrintDocMgmt}) {
         item->setEnabled(can.record && services_.commands.Has(item->objectName()));
     }

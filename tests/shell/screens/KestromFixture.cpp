@@ -43,7 +43,8 @@ KestromTest::KestromTest() {
         Run(sql);
     }
     core::LoadBooks();
-    core::RegisterRunStep(core::RunStep::Leases, nullptr);
+    for (const core::RunStep step : {core::RunStep::Mortgages, core::RunStep::Leases})
+        core::RegisterRunStep(step, nullptr);
     const auto opened = [this](const core::EditRequest& request) {
         log_.push_back(std::to_string(request.kind) + " " + std::to_string(request.id));
     };

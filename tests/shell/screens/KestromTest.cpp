@@ -62,7 +62,7 @@ TEST_F(Kestrom, OffersWhatThereIsWorkFor) {
                 ElementsAre("mnuConfig", "mnuExit", "mnuHelpContents"));
     Go("LEASES");
     EXPECT_THAT(Enabled({"mnuAdd", "mnuEdit", "mnuPayRent", "mnuDelete", "mnuPrintGrid"}),
-                ElementsAre("mnuAdd", "mnuEdit", "mnuPayRent"));
+                ElementsAre("mnuAdd", "mnuEdit", "mnuPayRent", "mnuDelete"));
     EXPECT_TRUE(Item("mnuPayRent").isVisible());
     EXPECT_TRUE(Item("mnuDatabaseSep").isVisible());
     EXPECT_FALSE(Item("mnuCopy").isVisible());
@@ -93,6 +93,29 @@ TEST_F(Kestrom, OpensRecordsByMenuMouseAndKeyboard) {
     EXPECT_THAT(log_, ElementsAre("29 0"));
     QTest::keyClick(&Window(), Qt::Key_6, Qt::ControlModifier);
     EXPECT_EQ(Window().SelectedDb(), core::kTenant);
+}
+
+TEST_F(Kestrom, OffersTheWizardsOnItsHomePage) {
+    services_.commands.Add(QStringLiteral("mnuMortgageWizard"),
+                           [this](const auto&) { log_.emplace_back("wizard"); });
+    EXPECT_FALSE(support::Find<QToolButton>(Window(), "WIZ_LEASE").isEnabled());
+    support::ClickOn(support::Find<QToolButton>(Window(), "WIZ_MORTGAGE"));
+    EXPECT_THAT(log_, ElementsAre("wizard"));
+}
+
+TEST_F(Kestrom, DeletesTheSelectedRecordOfThoseWhoAgree) {
+    Answer({false, true});
+    Go("TENANTS");
+    Grid().SelectId(32);
+    QTest::keyClick(&Grid(), Qt::Key_Delete);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Tenant"), "3");
+    QTest::keyClick(&Grid(), Qt::Key_Delete);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Tenant WHERE IdTenant = 32"), "0");
+    EXPECT_EQ(Heard().size(), 2U);
+    EXPECT_EQ(Status(), "Selected 2 Tenant records");
+    EXPECT_EQ(Window().SelectedId(), 32) << "until the person moves on";
+    QTest::keyClick(&Grid(), Qt::Key_Down);
+    EXPECT_EQ(Window().SelectedId(), 30);
 }
 
 TEST_F(Kestrom, PrintsTheViewThroughTheScratchReport) {
