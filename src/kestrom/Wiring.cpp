@@ -2,6 +2,9 @@
 
 #include <QApplication>
 
+#include "books/screens/frmAutoEvent.h"
+#include "books/screens/frmAutoEventList.h"
+#include "books/screens/frmTransCategory.h"
 #include "books/screens/frmTransaction.h"
 #include "core/EditRecord.h"
 #include "core/MessagePump.h"
@@ -92,6 +95,9 @@ void RegisterEditors() {
             ->Setup(request.id, request.parent1,
                     leases::RentClass{static_cast<std::int16_t>(request.parent3)});
     });
+    core::RegisterOpener(core::kAutoEvent, [](const core::EditRequest& request) {
+        (new books::screens::frmAutoEvent)->Setup(request.id);
+    });
     core::RegisterOpener(core::kOwner, [](const core::EditRequest& request) {
         (new records::screens::frmOwnerLink)->Setup(request.id, request.parent1);
     });
@@ -108,6 +114,8 @@ shell::screens::Commands MenuCommands() {
         (new leases::screens::frmRentPayment)
             ->Setup(0, selection.id, leases::RentClass::Rent, leases::LeaseUpdate::Yes);
     });
+    commands.Add(QStringLiteral("mnuAutoEvents"), Opening<books::screens::frmAutoEventList>());
+    commands.Add(QStringLiteral("mnuTransCategory"), Opening<books::screens::frmTransCategory>());
     commands.Add(QStringLiteral("mnuHelpAbout"), Opening<core::screens::frmAbout>());
     return commands;
 }
