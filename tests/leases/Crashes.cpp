@@ -6,8 +6,7 @@
 #include <exception>
 
 #include "core/Globals.h"
-#include "core/Session.h"
-#include "platform/database/Recordset.h"
+#include "leases/DumpBooks.h"
 #include "platform/database/StatementProbe.h"
 
 namespace tests {
@@ -70,21 +69,6 @@ std::vector<std::string> Reopen(const fs::path& file) {
 }
 
 } // namespace
-
-std::vector<std::string> DumpBooks() {
-    std::vector<std::string> lines;
-    for (const std::string& table : core::ListTables(core::App().Connection).names) {
-        platform::Recordset rows;
-        rows.Open(core::App().Connection, table);
-        for (; !rows.Eof(); rows.MoveNext()) {
-            std::string line = table + ": ";
-            for (std::size_t i = 0; i < rows.FieldCount(); ++i)
-                line += (rows[i].IsNull() ? "null" : rows[i].AsText()) + "|";
-            lines.push_back(line);
-        }
-    }
-    return lines;
-}
 
 Crashes CrashAtEveryStatement(const std::function<void()>& work) {
     const fs::path file = core::App().Connection.File();

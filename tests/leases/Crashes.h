@@ -23,7 +23,4 @@ struct Crashes {
 /// row of every table compared. In the end the work is done.
 Crashes CrashAtEveryStatement(const std::function<void()>& work);
 
-/// Every row of the open books, a line each.
-std::vector<std::string> DumpBooks();
-
 } // namespace tests

@@ -10,7 +10,7 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "leases/BooksTest.h"
-#include "leases/Crashes.h"
+#include "leases/DumpBooks.h"
 #include "leases/PaymentOutlook.h"
 #include "leases/RentLog.h"
 #include "leases/mLease.h"
