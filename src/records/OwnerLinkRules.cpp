@@ -58,8 +58,10 @@ std::vector<std::string> OwnerErrors(const OwnerEntry& entry) {
     std::vector<std::string> lines;
     if (entry.idBuilding == 0) lines.emplace_back("A building must be selected.");
     if (entry.idAccount == 0) lines.emplace_back("An owner must be selected.");
+    // Said so that what isn't a number at all is outside too.
     const double percent = PercentOf(entry.percent);
-    if (!(percent >= 1 && percent <= 100)) {
+    const bool isShare = percent >= 1 && percent <= 100;
+    if (!isShare) {
         lines.emplace_back("Percentage owned must be between 1 and 100 percent.");
     }
     if (HasOtherLink(entry)) {
