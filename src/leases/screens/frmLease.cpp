@@ -245,8 +245,9 @@ void frmLease::ShowAvailable() {
     terms_->dpDateVacating->setEnabled(can.dateVacating);
     const LoadingGuard loading(*this);
     if (can.blankVacating) terms_->dpDateVacating->clear();
-    terms_->cboIdTenant->setEnabled(can.parties);
-    terms_->cboIdUnit->setEnabled(can.parties);
+    // Where the tenant or the unit has gone another can be chosen, or nothing could be saved.
+    for (QComboBox* const party : {terms_->cboIdTenant, terms_->cboIdUnit})
+        party->setEnabled(can.parties || GetSelectedId(*party) == 0);
 }
 
 /// What one choice makes another depend on.

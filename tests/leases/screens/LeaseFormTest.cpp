@@ -371,6 +371,23 @@ TEST_F(LeaseForm, ALeaseWhoseDatesAreBrokenStillOpensToBeMended) {
     EXPECT_EQ(Lease("RentStatus"), "OK");
 }
 
+TEST_F(LeaseForm, ALeaseWhoseUnitIsGoneCanBeGivenAnotherAndBePaid) {
+    Charge("05/01/2024", 950, RentFlags::PeriodRent);
+    Run("DELETE * FROM Unit WHERE IdUnit = 20");
+    const auto form = Open();
+    EXPECT_FALSE(IsEnabled(*form, "cboIdTenant"));
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{kRoll + "A unit must be specified.\n"});
+    leases::SubmitPayment(leases::ProposePayment(kLease, RentClass::Rent));
+    EXPECT_EQ(Ask("SELECT IdUnit - IdBuilding FROM Transactions WHERE Amount = 950"), "20");
+    Choose(*form, "cboIdUnit", "12 Elm St A");
+    EXPECT_EQ(Text(*form, "txtRent"), "950.00") << "its own rent stays";
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(Lease("IdUnit"), "21");
+    EXPECT_FALSE(IsEnabled(*form, "cboIdUnit"));
+}
+
 TEST_F(LeaseForm, LooksAndReadsRight) {
     Charge("05/01/2024", 950, RentFlags::PeriodRent);
     Charge("05/06/2024", 40);
