@@ -159,6 +159,7 @@ std::int64_t Recordset::AbsolutePosition() const {
 
 void Recordset::SetAbsolutePosition(std::int64_t position) {
     State& state = Opened();
+    if (position == AbsolutePosition() && !state.edited && !state.adding) return;
     const bool stands = position >= 1 && position <= RecordCount();
     state.MoveTo(stands ? static_cast<std::size_t>(position - 1) : state.Count());
 }

@@ -99,6 +99,11 @@ std::string FormatDate(Date date, std::string_view format) {
 }
 
 std::string Format(const Value& value, std::string_view format) {
+    // The two formats of all lists need not be looked into, cell by cell.
+    if (const auto* amount = std::get_if<Currency>(&value.Held()); amount && format == kMoneyFormat)
+        return FormatDigits(DigitsOf(*amount), format);
+    if (const auto* date = std::get_if<Date>(&value.Held()); date && format == kDateFormat)
+        return date->IsSet() ? date->ToText() : std::string();
     const std::string_view plain = NamedFormat(format);
     if (value.IsNull()) {
         const auto section = FormatSection(plain, 3);

@@ -166,8 +166,9 @@ std::string_view FormatSection(std::string_view format, int index) {
 }
 
 std::string_view NamedFormat(std::string_view format) {
-    const auto* const named = std::ranges::find_if(
-        kNamed, [&](const auto& entry) { return EqualIgnoringCase(entry.first, format); });
+    const auto* const named = std::ranges::find_if(kNamed, [&](const auto& entry) {
+        return entry.first.size() == format.size() && EqualIgnoringCase(entry.first, format);
+    });
     return named != kNamed.end() ? named->second : format;
 }
 
