@@ -31,6 +31,7 @@ General_Ledger::General_Ledger(QWidget* parent)
         Guarded([id] { exchange::DeleteRecord(core::kTransaction, id); });
     });
     List().setAccessibleName(tr("Transactions"));
+    List().setProperty("registryKey", QStringLiteral(R"(SOFTWARE\Vestrel\Kestrom\Ledger)"));
     List().setEnabled(false);
 }
 

@@ -17,6 +17,13 @@ constexpr int kSamples = 500; // rows that are measured; up to so many, all of t
 
 constexpr std::string_view kGridInfoKey = R"(SOFTWARE\Vestrel\GridInfo)";
 
+/// Where the widths of a grid are kept; a panel that keeps its own names the place in the grid's
+/// property "registryKey".
+std::string WidthsKey(const Grid& grid) {
+    const QString own = grid.property("registryKey").toString();
+    return own.isEmpty() ? std::string(kGridInfoKey) : platform::qt::FromScreen(own);
+}
+
 std::string WidthsName(const Grid& grid) {
     return "ColData_" + platform::qt::FromScreen(grid.StoreName());
 }
@@ -152,7 +159,8 @@ void AutoSizeByLength(Grid& grid, int firstColumn) {
 
 void LoadColumnWidths(Grid& grid) {
     if (!grid.Model().IsLoaded()) return;
-    const QString stored = platform::qt::ToScreen(GetRegString(kGridInfoKey, WidthsName(grid), {}));
+    const QString stored =
+        platform::qt::ToScreen(GetRegString(WidthsKey(grid), WidthsName(grid), {}));
     if (stored.isEmpty()) return;
     std::vector<int> widths;
     for (const QString& part : stored.split(QLatin1Char(','))) {
@@ -175,7 +183,7 @@ void SaveColumnWidths(const Grid& grid) {
     for (int column = 0; column < grid.Model().columnCount(); ++column) {
         widths << QString::number(grid.columnWidth(column));
     }
-    SetRegString(kGridInfoKey, WidthsName(grid),
+    SetRegString(WidthsKey(grid), WidthsName(grid),
                  platform::qt::FromScreen(widths.join(QLatin1Char(','))));
 }
 

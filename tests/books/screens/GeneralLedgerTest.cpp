@@ -9,6 +9,7 @@
 #include "books/screens/frmTransaction.h"
 #include "core/EditRecord.h"
 #include "core/NotifyAll.h"
+#include "core/Preferences.h"
 #include "core/RecordKinds.h"
 #include "core/screens/OpenForms.h"
 #include "platform/registry/Registry.h"
@@ -161,6 +162,27 @@ TEST_F(GeneralLedgerTest, EditsAndDeletesTheSelectedRow) {
     EXPECT_EQ(Ask("SELECT IdTransaction FROM Transactions"), "1001");
     EXPECT_EQ(grid.Model().rowCount(), 1);
     core::RegisterTransactionOpener(core::TransactionEditor::Transaction, {});
+}
+
+TEST_F(GeneralLedgerTest, KeepsTheWidthsOfItsColumnsByWhomItShows) {
+    Post(3, 1, bank_, smith_);
+    core::Preferences().AutoSize = 0;
+    for (const auto& [kind, id, width] :
+         {std::tuple{core::kAccount, 60, 111}, {core::kTenant, 30, 122}}) {
+        General_Ledger ledger;
+        ledger.SetParty(kind, id);
+        Find<core::screens::Grid>(ledger, "grd").setColumnWidth(2, width);
+    }
+    const auto kept = [](std::string_view name) {
+        return platform::TheRegistry()
+            .ReadText(R"(SOFTWARE\Vestrel\Kestrom\Ledger)", "ColData_ucLedger." + std::string(name))
+            .value_or("-");
+    };
+    EXPECT_NE(kept("Account").find(",111,"), std::string::npos) << kept("Account");
+    EXPECT_NE(kept("Tenant").find(",122,"), std::string::npos) << kept("Tenant");
+    General_Ledger again;
+    again.SetParty(core::kTenant, 30);
+    EXPECT_EQ(Find<core::screens::Grid>(again, "grd").columnWidth(2), 122);
 }
 
 TEST_F(GeneralLedgerTest, LooksAndReadsRight) {

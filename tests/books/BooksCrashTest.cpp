@@ -1,0 +1,60 @@
+#include <gtest/gtest.h>
+
+#include "books/BooksFixture.h"
+#include "books/SaveTransaction.h"
+#include "books/ScheduledEvents.h"
+#include "core/Preferences.h"
+#include "leases/Crashes.h"
+
+namespace {
+
+using tests::Crashes;
+
+class BooksCrash : public tests::BooksTest {
+  protected:
+    static void ExpectWhole(const Crashes& crashes, int atLeast) {
+        EXPECT_EQ(crashes.faults, std::vector<std::string>{});
+        EXPECT_GE(crashes.statements, atLeast);
+        EXPECT_EQ(crashes.asBefore + crashes.asAfter, crashes.statements);
+    }
+};
+
+TEST_F(BooksCrash, APostingWithItsEventsIsNeverHalf) {
+    AddTriggered(101, 1, 60, "Rent Payment");
+    AddTriggered(102, 5, 30, "Rent Payment");
+    Run("UPDATE AutoEvent SET Alert = True");
+    ExpectWhole(tests::CrashAtEveryStatement([] { books::PostTransaction(Payment()); }), 12);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "3");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Alerts"), "2");
+}
+
+TEST_F(BooksCrash, ASaveWithItsTripIsNeverHalf) {
+    const std::int32_t id = books::SaveTransaction(0, Payment(), books::Trip::None);
+    ExpectWhole(tests::CrashAtEveryStatement(
+                    [&] { books::SaveTransaction(id, Payment(), books::Trip::Keep); }),
+                5);
+    core::Preferences().ConfirmDelete = false;
+    ExpectWhole(tests::CrashAtEveryStatement(
+                    [&] { books::SaveTransaction(id, Payment(), books::Trip::None); }),
+                5);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Mileage"), "0");
+}
+
+TEST_F(BooksCrash, APassOfTheEventsIsNeverHalf) {
+    AddScheduled(101, 3, 1, "04/17/2024");
+    AddScheduled(102, 2, 1, "05/10/2024");
+    Run("UPDATE AutoEvent SET Alert = True");
+    struct Nobody : core::RunListener {
+        void Posted(int, std::int32_t, std::string_view,
+                    const std::vector<core::PostedRow>&) override {}
+        void Failed(int, std::int32_t, std::string_view, std::string_view) override {}
+    };
+    ExpectWhole(tests::CrashAtEveryStatement([] {
+                    Nobody nobody;
+                    books::ScheduledEvents(nobody).RunScheduledEvents();
+                }),
+                12);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "2");
+}
+
+} // namespace
