@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 void CreateTables(platform::Connection& connection) {
     platform::UnitOfWork work(connection);
     connection.RunScript(SchemaScript(BooksTables()));
-    SeedTransCategories(connection);
+    InitTransCategories(connection);
     work.Commit();
 }
 

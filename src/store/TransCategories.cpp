@@ -41,7 +41,7 @@ std::span<const DefaultCategory> DefaultCategories() {
     return kDefaults;
 }
 
-void SeedTransCategories(platform::Connection& connection) {
+void InitTransCategories(platform::Connection& connection) {
     for (const DefaultCategory& each : kDefaults) {
         if (connection.Scalar("SELECT Category FROM TransCategory WHERE Category = ?",
                               {each.category})) {

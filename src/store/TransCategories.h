@@ -20,6 +20,6 @@ struct DefaultCategory {
 std::span<const DefaultCategory> DefaultCategories();
 
 /// Adds every default category whose name isn't there yet.
-void SeedTransCategories(platform::Connection& connection);
+void InitTransCategories(platform::Connection& connection);
 
 } // namespace store

@@ -130,8 +130,8 @@ TEST_F(Categories, ComeBackWithoutTouchingTheUsersOwn) {
     books_.Execute("DELETE * FROM TransCategory WHERE Category = 'Repairs'");
     books_.Execute("UPDATE TransCategory SET IEN = 1 WHERE Category = 'Vending'");
     books_.Execute("INSERT INTO TransCategory (Category, IEN) VALUES ('Gifts', 2)");
-    store::SeedTransCategories(books_);
-    store::SeedTransCategories(books_);
+    store::InitTransCategories(books_);
+    store::InitTransCategories(books_);
     const std::vector<std::string> rows = Rows();
     ASSERT_EQ(rows.size(), 27U);
     EXPECT_EQ(rows[25], "Gifts|2");

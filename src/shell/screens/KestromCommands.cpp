@@ -149,7 +149,7 @@ void frmKestrom::RestoreTransCategories() {
         "and replace them with the default ones. Are you sure you want to do this?",
         platform::Icon::Question);
     if (!agreed) return;
-    store::SeedTransCategories(core::App().Connection);
+    store::InitTransCategories(core::App().Connection);
     core::NotifyAll(core::kTransCategory, core::kRecordsChanged, 0);
     platform::TheDialogs().ShowMessage("Success",
                                        "Default Transaction Categories have been restored.",
