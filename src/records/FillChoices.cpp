@@ -1,0 +1,23 @@
+#include "records/FillChoices.h"
+
+#include "core/Globals.h"
+#include "core/Lists.h"
+#include "platform/database/Recordset.h"
+
+namespace records {
+
+void FillChoices(core::ChoiceList& list, const ChoiceSource& source, std::int32_t selectedId) {
+    if (selectedId == 0) selectedId = core::GetSelectedId(list);
+    list.Clear();
+    list.Add(source.none, 0);
+    platform::Recordset rows;
+    rows.Open(core::App().Connection, source.sql, platform::CursorMode::ReadOnly,
+              source.parameters);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const platform::Field description = rows["Description"];
+        list.Add(description.IsNull() ? std::string() : description.AsText(), rows["Id"].AsLong());
+    }
+    core::SelectById(list, selectedId, {.selectFirst = true});
+}
+
+} // namespace records

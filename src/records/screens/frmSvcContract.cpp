@@ -1,0 +1,86 @@
+#include "records/screens/frmSvcContract.h"
+
+#include "core/RecordKinds.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/ErrorRoll.h"
+#include "records/SvcContractRules.h"
+#include "records/screens/StoredChoice.h"
+#include "ui_frmSvcContract.h"
+
+namespace records::screens {
+
+using core::screens::FillList;
+using core::screens::GetSelectedId;
+
+frmSvcContract::frmSvcContract(QWidget* parent)
+    : RecordForm({core::kSvcContract, "SvcContract", "IdSvcContract"}, parent),
+      ui_(std::make_unique<Ui::frmSvcContract>()) {
+    ui_->setupUi(this);
+    Wire();
+    connect(ui_->cboBuilding, &QComboBox::currentIndexChanged, this,
+            [this] { core::screens::Guarded([this] { FillAppliances(); }); });
+}
+
+frmSvcContract::~frmSvcContract() = default;
+
+void frmSvcContract::Setup(std::int32_t id, std::int32_t idBuilding, std::int32_t idAppliance) {
+    OpenRecord(id, [this, idBuilding, idAppliance] {
+        core::screens::FillFromCommaList(*ui_->cboTermType, kContractPeriods);
+        core::screens::FillFromCommaList(*ui_->cboBillTermType, kContractPeriods);
+        core::screens::FillFromCommaList(*ui_->cboBillType, kBillTypes);
+        for (QComboBox* const combo : {ui_->cboTermType, ui_->cboBillTermType, ui_->cboBillType}) {
+            combo->setCurrentIndex(0);
+        }
+        FillList(core::kBuilding, *ui_->cboBuilding, {.selectedId = idBuilding, .addNone = true});
+        FillVendors();
+        FillAppliances(idAppliance);
+    });
+}
+
+void frmSvcContract::FillVendors() {
+    FillList(core::kVendorAccount, *ui_->cboVendor, {.addNone = true});
+}
+
+void frmSvcContract::FillAppliances(std::int32_t selectedId) {
+    core::ChoiceList appliances = core::screens::ReadCombo(*ui_->cboAppliance);
+    FillAppliancesOfBuilding(appliances, GetSelectedId(*ui_->cboBuilding), selectedId);
+    core::screens::ShowInCombo(appliances, *ui_->cboAppliance);
+}
+
+void frmSvcContract::ShowRow(platform::Recordset& row) {
+    RecordForm::ShowRow(row);
+    ShowStoredChoice(*ui_->cboTermType, row["SvcTermType"]);
+    ShowStoredChoice(*ui_->cboBillTermType, row["BillTermType"]);
+    ShowStoredChoice(*ui_->cboBillType, row["BillType"]);
+    // The appliances are those of the building before until here.
+    const platform::Field idAppliance = row["IdAppliance"];
+    FillAppliances(idAppliance.IsNull() ? 0 : idAppliance.AsLong());
+}
+
+void frmSvcContract::ShowCaption() {
+    setWindowTitle(Id() == 0 ? tr("Adding New Service Contract")
+                             : tr("Service Contract: %1").arg(ui_->cboBuilding->currentText()));
+}
+
+std::vector<std::string> frmSvcContract::Errors() {
+    return SvcContractErrors(GetSelectedId(*ui_->cboBuilding), GetSelectedId(*ui_->cboVendor));
+}
+
+void frmSvcContract::Refresh(std::int16_t kind) {
+    switch (kind) {
+        case core::kAccount:
+            FillVendors();
+            break;
+        case core::kBuilding:
+            FillList(core::kBuilding, *ui_->cboBuilding, {.addNone = true});
+            FillAppliances();
+            break;
+        case core::kAppliance:
+            FillAppliances();
+            break;
+        default:
+            break;
+    }
+}
+
+} // namespace records::screens

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/RecordForm.h"
+
+namespace Ui {
+class frmSvcContract;
+}
+
+namespace records::screens {
+
+/// A service contract on a building, or on one of its appliances.
+class frmSvcContract : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmSvcContract(QWidget* parent = nullptr);
+    ~frmSvcContract() override;
+
+    /// Opens a contract, or a new one on a building and, unless that is 0, an appliance.
+    void Setup(std::int32_t id, std::int32_t idBuilding, std::int32_t idAppliance);
+
+  protected:
+    void ShowRow(platform::Recordset& row) override;
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    void FillVendors();
+    void FillAppliances(std::int32_t selectedId = 0);
+
+    std::unique_ptr<Ui::frmSvcContract> ui_;
+};
+
+} // namespace records::screens

@@ -1,0 +1,146 @@
+#include "records/screens/frmWorkOrder.h"
+
+#include "core/RecordKinds.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/EnableContainer.h"
+#include "core/screens/ErrorRoll.h"
+#include "core/screens/TabPages.h"
+#include "documents/screens/FileObjects.h"
+#include "platform/qt/Text.h"
+#include "platform/system/Clock.h"
+#include "records/WorkOrderRules.h"
+#include "records/screens/Panels.h"
+#include "records/screens/RelatedDBs.h"
+#include "records/screens/StoredChoice.h"
+#include "ui_frmWorkOrder.h"
+#include "ui_frmWorkOrderJob.h"
+
+namespace records::screens {
+
+using core::screens::FillList;
+using core::screens::GetSelectedId;
+
+namespace {
+
+std::int32_t IdOf(const platform::Field& field) {
+    return field.IsNull() ? 0 : field.AsLong();
+}
+
+} // namespace
+
+frmWorkOrder::frmWorkOrder(QWidget* parent)
+    : RecordForm({core::kWorkOrder, "WorkOrder", "IdWorkOrder"}, parent),
+      ui_(std::make_unique<Ui::frmWorkOrder>()),
+      job_(std::make_unique<Ui::frmWorkOrderJob>()) {
+    ui_->setupUi(this);
+    job_->setupUi(ui_->tabJob);
+    MakePanels();
+    Wire();
+    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    connect(job_->cboIdUnit, &QComboBox::currentIndexChanged, this,
+            [this] { core::screens::Guarded([this] { FillUnitLists(); }); });
+    connect(job_->cboIdVendor, &QComboBox::currentIndexChanged, this, [this] { ShowVendor(); });
+    job_->txtDescription->setFocus();
+}
+
+frmWorkOrder::~frmWorkOrder() = default;
+
+void frmWorkOrder::MakePanels() {
+    history_ = PlacePanel(new RelatedDBs(this), *ui_->tabHistory, "ucHistory");
+    files_ = PlacePanel(new documents::screens::FileObjects(this), *ui_->tabFiles, "ucFOB");
+}
+
+void frmWorkOrder::Setup(std::int32_t id, std::int32_t idUnit) {
+    OpenRecord(id, [this, idUnit] { FillLists(idUnit); });
+}
+
+void frmWorkOrder::FillLists(std::int32_t idUnit) {
+    core::screens::FillFromCommaList(*job_->cboStatus, kWorkOrderStatuses);
+    job_->cboStatus->setCurrentIndex(0);
+    job_->dpDateOpened->SetDay(platform::Today());
+    FillList(core::kUnit, *job_->cboIdUnit, {.selectedId = idUnit, .addNone = true});
+    FillList(core::kTenant, *job_->cboInitiator, {.keepText = true});
+    FillVendors();
+    FillUnitLists();
+    ShowVendor();
+}
+
+void frmWorkOrder::FillVendors() {
+    FillList(core::kVendorAccount, *job_->cboIdVendor, {.addNone = true});
+}
+
+void frmWorkOrder::FillUnitLists() {
+    FillUnitLists({});
+}
+
+void frmWorkOrder::FillUnitLists(const UnitChoices& chosen) {
+    const std::int32_t idUnit = GetSelectedId(*job_->cboIdUnit);
+    FillList(core::kRoom, *job_->cboIdRoom,
+             {.selectedId = chosen.idRoom, .addNone = true, .parentId = idUnit});
+    FillList(core::kAppliance, *job_->cboIdAppliance,
+             {.selectedId = chosen.idAppliance, .addNone = true, .parentId = idUnit});
+    core::ChoiceList owners = core::screens::ReadCombo(*job_->cboIdOwner);
+    FillOwnersOfUnit(owners, idUnit, chosen.idOwner);
+    core::screens::ShowInCombo(owners, *job_->cboIdOwner);
+}
+
+void frmWorkOrder::ShowVendor() {
+    core::screens::EnableContainer(*job_->fraVendor, GetSelectedId(*job_->cboIdVendor) != 0);
+}
+
+void frmWorkOrder::ShowRow(platform::Recordset& row) {
+    job_->dpDateOpened->SetDay({});
+    RecordForm::ShowRow(row);
+    ShowStoredChoice(*job_->cboStatus, row["Status"]);
+    // The lists of the unit are those of the one before until here.
+    FillUnitLists({IdOf(row["IdRoom"]), IdOf(row["IdAppliance"]), IdOf(row["IdOwner"])});
+    ShowVendor();
+}
+
+void frmWorkOrder::WriteRow(platform::Recordset& row) {
+    RecordForm::WriteRow(row);
+    if (row["IdParent"].IsNull()) row["IdParent"].Set(std::int32_t{0});
+}
+
+void frmWorkOrder::ShowCaption() {
+    const QString name = job_->txtDescription->text();
+    const bool isNew = Id() == 0;
+    setWindowTitle(isNew ? tr("Adding New WorkOrder") : tr("WorkOrder: %1").arg(name));
+    ui_->lblTitle->setText(isNew ? tr("New WorkOrder (Press Apply to Save)")
+                                 : tr("Editing WorkOrder: %1").arg(name));
+    for (QWidget* const page : {ui_->tabHistory, ui_->tabFiles}) {
+        ui_->tabs->setTabEnabled(ui_->tabs->indexOf(page), !isNew);
+    }
+    history_->Load(core::kWorkOrder, Id());
+    files_->SetRecord(core::kWorkOrder, Id());
+}
+
+std::vector<std::string> frmWorkOrder::Errors() {
+    return WorkOrderErrors(platform::qt::FromScreen(job_->txtDescription->text()));
+}
+
+void frmWorkOrder::Refresh(std::int16_t kind) {
+    switch (kind) {
+        case core::kUnit:
+            FillList(core::kUnit, *job_->cboIdUnit, {.addNone = true});
+            FillUnitLists();
+            break;
+        case core::kTenant:
+            FillList(core::kTenant, *job_->cboInitiator, {.keepText = true});
+            break;
+        case core::kAccount:
+            FillVendors();
+            ShowVendor();
+            FillUnitLists();
+            break;
+        case core::kRoom:
+        case core::kAppliance:
+        case core::kOwner:
+            FillUnitLists();
+            break;
+        default:
+            break;
+    }
+}
+
+} // namespace records::screens

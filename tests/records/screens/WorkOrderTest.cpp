@@ -1,0 +1,241 @@
+#include "records/screens/frmWorkOrder.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QTabWidget>
+
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "documents/AttachFile.h"
+#include "records/screens/Fields.h"
+#include "records/screens/frmWoItem.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
+#include "support/screens/ScreenChecks.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using records::screens::frmWoItem;
+using records::screens::frmWorkOrder;
+using support::ClickAction;
+using support::FieldEntry;
+using support::Find;
+using support::Type;
+using Said = std::vector<std::string>;
+
+const std::string kNoDescription =
+    "Whoa!: The following errors have occured:\n\nA description must be entered.\n";
+
+class WorkOrderTest : public support::ScreenTest {
+  protected:
+    WorkOrderTest() {
+        for (const char* sql : {
+                 "INSERT INTO Account (IdAccount, ShowAs, AccountType) "
+                 "VALUES (63, 'Fix-It Co', 'Vendor')",
+                 "INSERT INTO OwnerLink (IdOwnerLink, IdBuilding, IdAccount) VALUES (90, 10, 61)",
+                 "INSERT INTO Room (IdRoom, IdUnit, RoomType) VALUES (81, 22, 'Garage')",
+             }) {
+            Run(sql);
+        }
+    }
+    QPointer<frmWorkOrder> Open(std::int32_t id = 0, std::int32_t idUnit = 0) {
+        QPointer<frmWorkOrder> form(new frmWorkOrder);
+        form->Setup(id, idUnit);
+        return form;
+    }
+    static QString Chosen(const frmWorkOrder& form, const char* combo) {
+        return Find<QComboBox>(form, combo).currentText();
+    }
+    static bool CanOpenTab(const frmWorkOrder& form, int tab) {
+        return Find<QTabWidget>(form, "tabs").isTabEnabled(tab);
+    }
+};
+
+const std::vector<FieldEntry> kFields = {
+    {"txtDescription", "Fix Bob's \"stove\"", "ShortDesc", ""},
+    {"cboIdUnit", "12 Elm St B", "IdUnit", "20"},
+    {"cboIdRoom", "Kitchen", "IdRoom", "80"},
+    {"cboIdAppliance", "Stove", "IdAppliance", "70"},
+    {"cboIdOwner", "Al Owner", "IdOwner", "61"},
+    {"cboInitiator", "The neighbour", "Initiator", ""},
+    {"chkPermission", "x", "Permission", "True"},
+    {"cboStatus", "Completed", "Status", ""},
+    {"txtPriority", "2", "Priority", ""},
+    {"dpDateOpened", "05/01/2024", "DateOpened", ""},
+    {"dpDateClosed", "05/16/2024", "DateClosed", ""},
+    {"cboIdVendor", "Fix-It Co", "IdVendor", "63"},
+    {"txtRep", "Ann O'Hare", "Rep", ""},
+    {"txtTech", "Bo", "Tech", ""},
+    {"txtEstimate", "80.00", "Estimate", "80"},
+    {"txtLimit", "120.50", "Limit", "120.5"},
+    {"txtActual", "1,234.56", "Actual", "1234.56"},
+    {"txtm", "Twice already", "Notes", ""},
+    {"chkHide", "x", "Hide", "True"},
+};
+
+TEST_F(WorkOrderTest, ANewOneTakesEveryFieldAndShowsItAgain) {
+    auto form = Open();
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New WorkOrder"));
+    EXPECT_EQ(Find<QLabel>(*form, "lblTitle").text(),
+              QStringLiteral("New WorkOrder (Press Apply to Save)"));
+    EXPECT_EQ(Chosen(*form, "cboStatus"), QStringLiteral("Open"));
+    EXPECT_EQ(Chosen(*form, "cboInitiator"), QString());
+    EXPECT_FALSE(CanOpenTab(*form, 1) || CanOpenTab(*form, 2));
+    support::Enter(*form, kFields);
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(support::StoredFaults("WorkOrder", "IdWorkOrder = 1000", kFields), Said{});
+    EXPECT_EQ(Ask("SELECT IdParent FROM WorkOrder"), "0");
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("WorkOrder: Fix Bob's \"stove\""));
+    EXPECT_EQ(Find<QLabel>(*form, "lblTitle").text(),
+              QStringLiteral("Editing WorkOrder: Fix Bob's \"stove\""));
+    EXPECT_TRUE(CanOpenTab(*form, 1) && CanOpenTab(*form, 2));
+    ClickAction(*form, "CLOSE");
+    form = Open(1000);
+    EXPECT_EQ(support::ShownFaults(*form, kFields), Said{});
+    EXPECT_FALSE(form->Dirty());
+}
+
+TEST_F(WorkOrderTest, AsksForADescriptionAlone) {
+    const auto form = Open();
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{kNoDescription});
+    Type(Find<QLineEdit>(*form, "txtDescription"), "Roof");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT IdUnit + IdRoom + IdVendor + IdOwner FROM WorkOrder"), "0");
+    EXPECT_EQ(Ask("SELECT Status FROM WorkOrder"), "Open");
+}
+
+TEST_F(WorkOrderTest, TheUnitDecidesWhatIsOffered) {
+    const auto form = Open(0, 20);
+    EXPECT_EQ(Chosen(*form, "cboIdUnit"), QStringLiteral("12 Elm St B"));
+    support::Choose(*form, "cboIdRoom", "Kitchen");
+    support::Choose(*form, "cboIdOwner", "Al Owner");
+    support::Choose(*form, "cboIdUnit", "Oak Rd 1");
+    EXPECT_EQ(Chosen(*form, "cboIdRoom"), QStringLiteral("[ No Room Selected ]"));
+    EXPECT_EQ(Chosen(*form, "cboIdOwner"), QStringLiteral("[ No Account Selected ]"));
+    support::Choose(*form, "cboIdRoom", "Garage");
+    EXPECT_EQ(Find<QComboBox>(*form, "cboIdRoom").count(), 2);
+    support::Choose(*form, "cboIdUnit", "[ No Unit Selected ]");
+    EXPECT_EQ(Find<QComboBox>(*form, "cboIdRoom").count(), 1);
+}
+
+TEST_F(WorkOrderTest, VendorFieldsWaitForAVendorAndKeepTheirValues) {
+    auto form = Open();
+    const auto& rep = Find<QLineEdit>(*form, "txtRep");
+    EXPECT_FALSE(rep.isEnabled());
+    Type(Find<QLineEdit>(*form, "txtDescription"), "Roof");
+    support::Choose(*form, "cboIdVendor", "Fix-It Co");
+    EXPECT_TRUE(rep.isEnabled());
+    Type(Find<QLineEdit>(*form, "txtRep"), "Ann");
+    support::Choose(*form, "cboIdVendor", "[ No Account Selected ]");
+    EXPECT_FALSE(rep.isEnabled());
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Rep FROM WorkOrder"), "Ann");
+    form = Open(1000);
+    EXPECT_FALSE(Find<QLineEdit>(*form, "txtRep").isEnabled());
+    EXPECT_EQ(Find<QLineEdit>(*form, "txtRep").text(), QStringLiteral("Ann"));
+}
+
+TEST_F(WorkOrderTest, KeepsWhatItDoesNotOffer) {
+    Run("INSERT INTO WorkOrder (IdWorkOrder, ShortDesc, Status, IdUnit, IdRoom, IdParent) "
+        "VALUES (500, 'Old', 'On Hold', 20, 80, 7)");
+    auto form = Open(500);
+    EXPECT_EQ(Chosen(*form, "cboStatus"), QStringLiteral("On Hold"));
+    EXPECT_EQ(Find<QLineEdit>(*form, "dpDateOpened").text(), QString()) << "unset, not today";
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Status & '|' & IdRoom & '|' & IdParent FROM WorkOrder"), "On Hold|80|7");
+}
+
+TEST_F(WorkOrderTest, FollowsOtherScreens) {
+    const auto form = Open(0, 20);
+    Type(Find<QComboBox>(*form, "cboInitiator"), "Somebody");
+    support::Choose(*form, "cboIdVendor", "Fix-It Co");
+    support::Choose(*form, "cboIdRoom", "Kitchen");
+    Run("UPDATE Unit SET Unit = 'B2' WHERE IdUnit = 20");
+    Run("INSERT INTO Tenant (IdTenant, LastName, FirstName) VALUES (33, 'Ames', 'Al')");
+    Run("UPDATE Account SET ShowAs = 'Fix-It Ltd' WHERE IdAccount = 63");
+    Run("UPDATE Room SET RoomType = 'Cuisine' WHERE IdRoom = 80");
+    for (const std::int16_t kind : {core::kUnit, core::kTenant, core::kAccount, core::kRoom}) {
+        core::NotifyAll(kind, core::kRecordsChanged, 0);
+    }
+    EXPECT_EQ(Chosen(*form, "cboIdUnit"), QStringLiteral("12 Elm St B2"));
+    EXPECT_EQ(Chosen(*form, "cboInitiator"), QStringLiteral("Somebody"));
+    EXPECT_GE(Find<QComboBox>(*form, "cboInitiator").findText(QStringLiteral("Ames, Al")), 0);
+    EXPECT_EQ(Chosen(*form, "cboIdVendor"), QStringLiteral("Fix-It Ltd"));
+    EXPECT_EQ(Chosen(*form, "cboIdRoom"), QStringLiteral("Cuisine"));
+    Run("DELETE * FROM Account WHERE IdAccount = 63");
+    core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
+    EXPECT_FALSE(Find<QLineEdit>(*form, "txtRep").isEnabled());
+}
+
+TEST_F(WorkOrderTest, HistoryIsWrittenToItsOrder) {
+    Run("INSERT INTO WorkOrder (IdWorkOrder, ShortDesc) VALUES (500, 'Roof')");
+    const auto order = Open(500);
+    QPointer<frmWoItem> item(new frmWoItem);
+    item->Setup(0, 500);
+    EXPECT_EQ(item->windowTitle(), QStringLiteral("Adding New History"));
+    ClickAction(*item, "CLOSE");
+    EXPECT_EQ(Heard(), Said{kNoDescription});
+    const std::vector<FieldEntry> fields = {{"txtDescription", "Called Bob's", "Description", ""},
+                                            {"dp", "02/29/2024", "EntryDate", ""},
+                                            {"txtm", "No answer", "Notes", ""}};
+    EXPECT_EQ(Find<QLineEdit>(*item, "dp").text(), QStringLiteral("05/17/2024"));
+    support::Enter(*item, fields);
+    ClickAction(*item, "APPLY");
+    EXPECT_EQ(item->windowTitle(), QStringLiteral("History: Called Bob's"));
+    EXPECT_EQ(support::StoredFaults("WOItem", "IdWOItem = 1000 AND IdWorkOrder = 500", fields),
+              Said{});
+    ClickAction(*item, "CLOSE");
+    EXPECT_EQ(support::GridText(Find<core::screens::Grid>(*order, "grd")),
+              "Entry Date|Description\n02/29/2024|Called Bob's\n");
+    Run("DELETE * FROM WOItem");
+    item = new frmWoItem;
+    item->Setup(1000, 0);
+    EXPECT_EQ(item->Id(), 0) << "the entry has gone meanwhile";
+    item->CloseUnasked();
+}
+
+TEST_F(WorkOrderTest, AChangeIsLeftOnlyWhenAgreed) {
+    Run("INSERT INTO WorkOrder (IdWorkOrder, ShortDesc) VALUES (500, 'Roof')");
+    const auto form = Open(500);
+    Type(Find<QLineEdit>(*form, "txtDescription"), "Cellar");
+    Answer({false, true});
+    ClickAction(*form, "CANCEL");
+    EXPECT_TRUE(form && form->isVisible());
+    ClickAction(*form, "CANCEL");
+    EXPECT_EQ(Heard(), (Said{"Whoa!: Close without saving changes?",
+                             "Whoa!: Close without saving changes?"}));
+    EXPECT_EQ(Ask("SELECT ShortDesc FROM WorkOrder"), "Roof");
+}
+
+TEST_F(WorkOrderTest, LooksRight) {
+    auto form = Open();
+    support::Enter(*form, kFields);
+    ClickAction(*form, "APPLY");
+    Run("INSERT INTO WOItem (IdWOItem, IdWorkOrder, EntryDate, Description) "
+        "VALUES (510, 1000, '05/02/2024', 'Called the vendor')");
+    core::NotifyAll(core::kWorkOrderHistory, core::kRecordsChanged, 0);
+    auto& tabs = Find<QTabWidget>(*form, "tabs");
+    for (const char* name : {"frmWorkOrder", "frmWorkOrder-history", "frmWorkOrder-files"}) {
+        EXPECT_EQ(support::Portray(*form, name), Said{}) << name;
+        EXPECT_EQ(support::MnemonicFaults(*form), Said{}) << name;
+        EXPECT_EQ(support::TabOrderFaults(*form), Said{}) << name;
+        tabs.setCurrentIndex(tabs.currentIndex() + 1);
+    }
+    EXPECT_EQ(support::NameFaults(*form), Said{});
+    EXPECT_LE(form->height(), 740);
+    form->CloseUnasked();
+    auto* const item = new frmWoItem;
+    item->Setup(510, 0);
+    EXPECT_EQ(support::Portray(*item, "frmWoItem"), Said{});
+    EXPECT_EQ(support::MnemonicFaults(*item), Said{});
+    EXPECT_EQ(support::TabOrderFaults(*item), Said{});
+    EXPECT_EQ(support::NameFaults(*item), Said{});
+    item->CloseUnasked();
+}
+
+} // namespace
