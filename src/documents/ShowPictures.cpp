@@ -19,7 +19,8 @@ constexpr std::string_view kShowProgram = "PhotoReel.exe";
 
 std::string TitleOf(std::int16_t kind, std::int32_t id) {
     const std::string title = "Vestrel Slide Show";
-    const std::string description = core::GetDescription(kind, id, 0, false);
+    const std::int16_t described = kind == core::kUnitWithBuilding ? core::kUnit : kind;
+    const std::string description = core::GetDescription(described, id, 0, false);
     return description.empty() ? title : title + " - " + description;
 }
 

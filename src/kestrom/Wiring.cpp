@@ -14,15 +14,28 @@
 #include "core/screens/frmConfig.h"
 #include "core/screens/frmHelp.h"
 #include "core/screens/frmPreferences.h"
+#include "documents/ShowPictures.h"
 #include "leases/screens/frmLease.h"
 #include "leases/screens/frmLeaseWizard.h"
 #include "leases/screens/frmRentLog.h"
 #include "leases/screens/frmRentPayment.h"
+#include "mortgages/screens/frmMortgage.h"
+#include "mortgages/screens/frmMortgagePayment.h"
+#include "mortgages/screens/frmMortgageWizard.h"
+#include "mortgages/screens/frmMtgLog.h"
 #include "platform/qt/QtDialogs.h"
 #include "records/screens/frmAccount.h"
+#include "records/screens/frmAppliance.h"
+#include "records/screens/frmBuilding.h"
+#include "records/screens/frmContent.h"
 #include "records/screens/frmIncident.h"
+#include "records/screens/frmManagerLink.h"
 #include "records/screens/frmOwnerLink.h"
+#include "records/screens/frmRoom.h"
+#include "records/screens/frmSvcContract.h"
 #include "records/screens/frmTenant.h"
+#include "records/screens/frmWoItem.h"
+#include "records/screens/frmWorkOrder.h"
 
 namespace kestrom {
 
@@ -39,6 +52,14 @@ void OpenOnce() {
         return;
     }
     (new Screen)->Setup();
+}
+
+/// The editor of a record that hangs from one other.
+template <class Screen>
+void RegisterChild(std::int16_t kind) {
+    core::RegisterOpener(kind, [](const core::EditRequest& request) {
+        (new Screen)->Setup(request.id, request.parent1);
+    });
 }
 
 template <class Screen>
@@ -87,6 +108,14 @@ void RegisterEditors() {
                 ->Setup(request.id, place.idLease, leases::RentClass::Rent,
                         leases::LeaseUpdate::Yes);
         });
+    core::RegisterTransactionOpener(
+        core::TransactionEditor::MortgagePayment,
+        [](const core::EditRequest& request, const core::TransactionPlace& place) {
+            (new mortgages::screens::frmMortgagePayment)
+                ->Setup(request.id, place.idMortgage, mortgages::OpenedFrom::Elsewhere);
+        });
+    RegisterChild<mortgages::screens::frmMortgage>(core::kMortgage);
+    RegisterChild<mortgages::screens::frmMtgLog>(core::kMortgageLog);
     core::RegisterOpener(core::kLease, [](const core::EditRequest& request) {
         (new leases::screens::frmLease)->Setup(request.id);
     });
@@ -98,9 +127,21 @@ void RegisterEditors() {
     core::RegisterOpener(core::kAutoEvent, [](const core::EditRequest& request) {
         (new books::screens::frmAutoEvent)->Setup(request.id);
     });
-    core::RegisterOpener(core::kOwner, [](const core::EditRequest& request) {
-        (new records::screens::frmOwnerLink)->Setup(request.id, request.parent1);
+    RegisterChild<records::screens::frmOwnerLink>(core::kOwner);
+    RegisterChild<records::screens::frmManagerLink>(core::kManager);
+    RegisterChild<records::screens::frmRoom>(core::kRoom);
+    RegisterChild<records::screens::frmContent>(core::kContent);
+    RegisterChild<records::screens::frmAppliance>(core::kAppliance);
+    core::RegisterOpener(core::kWorkOrder, [](const core::EditRequest& request) {
+        (new records::screens::frmWorkOrder)->Setup(request.id, request.parent1);
     });
+    RegisterChild<records::screens::frmWoItem>(core::kWorkOrderHistory);
+    core::RegisterOpener(core::kSvcContract, [](const core::EditRequest& request) {
+        (new records::screens::frmSvcContract)
+            ->Setup(request.id, request.parent1, request.parent3);
+    });
+    core::RegisterOpener(core::kBuilding, records::screens::OpenBuilding);
+    core::RegisterOpener(core::kUnit, records::screens::OpenBuilding);
 }
 
 shell::screens::Commands MenuCommands() {
@@ -109,6 +150,13 @@ shell::screens::Commands MenuCommands() {
     commands.Add(QStringLiteral("mnuGlobalConfig"), Opening<core::screens::frmConfig>());
     commands.Add(QStringLiteral("mnuPreferences"), Opening<core::screens::frmPreferences>());
     commands.Add(QStringLiteral("mnuLeaseWizard"), Opening<leases::screens::frmLeaseWizard>());
+    commands.Add(QStringLiteral("mnuMortgageWizard"),
+                 Opening<mortgages::screens::frmMortgageWizard>());
+    commands.Add(QStringLiteral("mnuPayMortgage"), [](const shell::screens::Selection& selection) {
+        if (selection.id == 0) return;
+        (new mortgages::screens::frmMortgagePayment)
+            ->Setup(0, selection.id, mortgages::OpenedFrom::Elsewhere);
+    });
     commands.Add(QStringLiteral("mnuPayRent"), [](const shell::screens::Selection& selection) {
         if (selection.id == 0) return;
         (new leases::screens::frmRentPayment)
@@ -116,6 +164,11 @@ shell::screens::Commands MenuCommands() {
     });
     commands.Add(QStringLiteral("mnuAutoEvents"), Opening<books::screens::frmAutoEventList>());
     commands.Add(QStringLiteral("mnuTransCategory"), Opening<books::screens::frmTransCategory>());
+    commands.Add(QStringLiteral("mnuPhotoReel"), [](const shell::screens::Selection& selection) {
+        // A unit's show begins with what the house looks like.
+        const bool isUnit = selection.kind == core::kUnit;
+        documents::ShowPictures(isUnit ? core::kUnitWithBuilding : selection.kind, selection.id);
+    });
     commands.Add(QStringLiteral("mnuHelpAbout"), Opening<core::screens::frmAbout>());
     return commands;
 }

@@ -54,7 +54,10 @@ TEST_F(PictureShow, OfAUnitWithItsBuildingHasThePicturesOfBoth) {
     Attach(core::kUnit, 21, "/p/another unit.jpg");
     Attach(core::kBuilding, 11, "/p/another building.jpg");
     Show(core::kUnitWithBuilding, 20, "12 Elm St");
-    EXPECT_EQ("12 Elm St\nkitchen|/p/kitchen.jpg\nfront|/p/front.jpg\n", List());
+    const std::string pictures = "\nkitchen|/p/kitchen.jpg\nfront|/p/front.jpg\n";
+    EXPECT_EQ("12 Elm St" + pictures, List());
+    Show(core::kUnitWithBuilding, 20);
+    EXPECT_EQ("Vestrel Slide Show - 12 Elm St B" + pictures, List());
 }
 
 TEST_F(PictureShow, IsSorryWithoutPictures) {
