@@ -48,7 +48,9 @@ QSize PicturePreview::minimumSizeHint() const {
 void PicturePreview::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRect room = rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
-    painter.fillRect(rect(), palette().color(QPalette::Base));
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(palette().color(QPalette::Base));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
     if (image_.isNull()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
         painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, text_);

@@ -12,7 +12,9 @@ namespace {
 QString Filters(const FileQuestion& question) {
     QStringList filters;
     for (const FileFilter& filter : question.filters) {
-        filters << QStringLiteral("%1 (%2)").arg(ToScreen(filter.name), ToScreen(filter.patterns));
+        // Here "*.*" would leave out the files without an ending.
+        const std::string patterns = filter.patterns == "*.*" ? "*" : filter.patterns;
+        filters << QStringLiteral("%1 (%2)").arg(ToScreen(filter.name), ToScreen(patterns));
     }
     return filters.join(QStringLiteral(";;"));
 }
