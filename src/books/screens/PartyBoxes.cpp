@@ -21,8 +21,7 @@ PartyBoxes::PartyBoxes(QComboBox& type, QComboBox& party, Nobody nobody, QObject
     type_.addItem(tr("Account"), core::kAccount);
     type_.addItem(tr("Tenant"), core::kTenant);
     LetNamesStand();
-    connect(&type_, &QComboBox::currentIndexChanged, this,
-            [this] { core::screens::Guarded([this] { Fill({}); }); });
+    connect(&type_, &QComboBox::currentIndexChanged, this, [this] { Fill(0); });
 }
 
 /// A typed name that happens to be a later record's is still only a name: neither may the box
@@ -42,11 +41,11 @@ void PartyBoxes::Show(std::int16_t type, std::int32_t id) {
 void PartyBoxes::ShowStored(std::int32_t id) {
     // A list selects its first row where it selects nothing: nobody, when that is offered.
     party_.setCurrentIndex(-1);
-    Fill({.selectedId = id});
+    Fill(id);
 }
 
 void PartyBoxes::ShowStored(std::int32_t id, std::string_view name) {
-    Fill({});
+    Fill(0);
     core::ChoiceList list = ReadCombo(party_);
     list.SetText(name);
     if (id != 0) core::SelectById(list, id);
@@ -55,13 +54,21 @@ void PartyBoxes::ShowStored(std::int32_t id, std::string_view name) {
 
 void PartyBoxes::Refresh(std::int16_t kind) {
     if (kind != Type()) return;
-    const bool isTyped = !ReadCombo(party_).Selected();
-    Fill({.keepText = isTyped && party_.isEditable()});
+    const core::ChoiceList before = ReadCombo(party_);
+    FillList(kind, party_, {.addNone = nobody_ == Nobody::Offered});
+    if (!party_.isEditable()) return;
+    // A name that nobody in the list stands for, or stands for any more, remains a name.
+    core::ChoiceList list = ReadCombo(party_);
+    if (before.Selected() && core::GetSelectedId(list) == core::GetSelectedId(before)) return;
+    list.SetText(before.Text());
+    core::screens::ShowInCombo(list, party_);
 }
 
-void PartyBoxes::Fill(core::FillOptions options) {
-    options.addNone = nobody_ == Nobody::Offered;
-    FillList(Type(), party_, options);
+/// As far as the list can be filled.
+void PartyBoxes::Fill(std::int32_t id) {
+    core::screens::Guarded([&] {
+        FillList(Type(), party_, {.selectedId = id, .addNone = nobody_ == Nobody::Offered});
+    });
 }
 
 std::int16_t PartyBoxes::Type() const {

@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/Lists.h"
-
 class QComboBox;
 
 namespace books::screens {
@@ -37,7 +35,7 @@ class PartyBoxes : public QObject {
 
   private:
     void LetNamesStand();
-    void Fill(core::FillOptions options);
+    void Fill(std::int32_t id);
 
     QComboBox& type_;
     QComboBox& party_;

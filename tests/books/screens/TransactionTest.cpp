@@ -284,6 +284,28 @@ TEST_F(TransactionTest, HearsOfOtherRecordsAndStaysClean) {
     EXPECT_FALSE(form->Dirty());
 }
 
+TEST_F(TransactionTest, KeepsTheNameOfAPartyThatIsRemovedMeanwhile) {
+    const auto form = Open();
+    Choose(*form, "cboFrom", "River Bank");
+    Choose(*form, "cboTo", "Jo Owner");
+    Run("DELETE * FROM Account WHERE IdAccount = 60");
+    core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
+    EXPECT_EQ(Text(*form, "cboFrom"), "River Bank");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Row("DebitId, DebitDesc, CreditId"), "0|River Bank|62");
+}
+
+TEST_F(TransactionTest, OpensWithAListThatEndsEarly) {
+    Run("INSERT INTO Tenant (IdTenant, FirstName) VALUES (33, 'Nobody')");
+    TransactionSetup setup;
+    setup.fromType = core::kTenant;
+    setup.toId = 62;
+    const auto form = Open(setup);
+    EXPECT_EQ(Heard().size(), 2U) << "the list of parties and that of references";
+    EXPECT_EQ(Text(*form, "cboTo"), "Jo Owner");
+    EXPECT_TRUE(form->isVisible());
+}
+
 TEST_F(TransactionTest, WaitsWhenItIsModalAndTellsWhatBecameOfIt) {
     for (const auto* action : {"CANCEL", "CLOSE"}) {
         frmTransaction form;
