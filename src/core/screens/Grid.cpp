@@ -59,9 +59,10 @@ std::int32_t Grid::SelectedId() const {
 }
 
 bool Grid::SelectId(std::int32_t id) {
+    const std::string wanted = std::to_string(id);
     for (int row = 0; row < model_.rowCount(); ++row) {
         const platform::Value value = model_.CellValue(row, 0);
-        if (value.IsNull() || value.AsText() != std::to_string(id)) continue;
+        if (value.IsNull() || value.AsText() != wanted) continue;
         const int column = std::max(0, horizontalHeader()->logicalIndexAt(0));
         setCurrentIndex(model_.index(row, column));
         return true;

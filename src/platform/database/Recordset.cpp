@@ -119,6 +119,11 @@ void Recordset::Open(Connection& connection, std::string_view sql, CursorMode mo
     Open(connection, sql, mode, std::span(parameters.begin(), parameters.size()));
 }
 
+void OpenAsNeeded(Recordset& rows, Connection& connection, std::string_view sql,
+                  std::initializer_list<Value> parameters) {
+    rows.Open(connection, sql, kReadAsNeeded, parameters);
+}
+
 void Recordset::Close() {
     if (!state_) return;
     State& state = *state_;

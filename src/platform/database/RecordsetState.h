@@ -14,6 +14,9 @@
 
 namespace platform {
 
+/// The mode of OpenAsNeeded, which no caller names.
+inline constexpr CursorMode kReadAsNeeded = static_cast<CursorMode>(3);
+
 /// What a row set holds: its rows as they are stored, their present order, and what was set on the
 /// current one.
 struct Recordset::State {

@@ -77,8 +77,8 @@ void ViewPanel::ReadRows() {
 void ViewPanel::ReadTransactions() {
     platform::Recordset rows;
     try {
-        rows.Open(core::App().Connection, BuildViewSql(kind_, Filter(), IdColumn::First),
-                  platform::kReadAsNeeded);
+        platform::OpenAsNeeded(rows, core::App().Connection,
+                               BuildViewSql(kind_, Filter(), IdColumn::First));
         count_ = rows.RecordCount();
     } catch (const platform::Error&) {
         count_ = -1;

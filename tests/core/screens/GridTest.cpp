@@ -9,6 +9,7 @@
 #include <numeric>
 
 #include "core/Settings.h"
+#include "platform/database/AsNeeded.h"
 #include "support/screens/Driving.h"
 #include "support/screens/ScreenFixture.h"
 
@@ -236,6 +237,33 @@ TEST_F(GridTest, CopiesTheSelectedRowsWithoutHiddenColumns) {
     const QString text = QApplication::clipboard()->text();
     EXPECT_EQ(text.count(QLatin1Char('\n')), 3);
     EXPECT_TRUE(text.contains(QStringLiteral("B\tHold\t950.50\n"))) << text.toStdString();
+}
+
+TEST_F(GridTest, ShowsTheFirstRowsOfALongListWhileTheOthersAreRead) {
+    constexpr int kRows = 3 * platform::kFirstRowsRead;
+    {
+        platform::UnitOfWork work(core::App().Connection);
+        for (int id = 1; id <= kRows; ++id) {
+            core::App().Connection.Execute("INSERT INTO Mileage (IdMileage, Vehicle) VALUES (?, ?)",
+                                           {id, id == kRows ? "A vehicle of a long name" : "Van"});
+        }
+        work.Commit();
+    }
+    platform::Recordset rows;
+    platform::OpenAsNeeded(rows, core::App().Connection, "SELECT IdMileage, Vehicle FROM Mileage");
+    LoadGrid(grid_, std::move(rows));
+    grid_.Model().ReadOn();
+    AutoSizeGrid(grid_, 1, Sizing::FitText);
+    const int before = grid_.columnWidth(1);
+    EXPECT_EQ(grid_.Model().rowCount(), kRows);
+    EXPECT_EQ(grid_.Model().RowsAtHand(), platform::kFirstRowsRead);
+    const QSignalSpy read(&grid_.Model(), &core::screens::GridModel::AllRead);
+    Run("DELETE * FROM Mileage");
+    support::SettleEvents();
+    EXPECT_EQ(read.count(), 1);
+    EXPECT_EQ(grid_.Model().RowsAtHand(), kRows);
+    EXPECT_GT(grid_.columnWidth(1), before) << "the widths are those of all rows now";
+    EXPECT_TRUE(grid_.SelectId(kRows));
 }
 
 TEST_F(GridTest, NarrowsToRowsWithTheTextInAnyShownColumn) {

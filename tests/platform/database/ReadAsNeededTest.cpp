@@ -15,7 +15,7 @@ class ReadAsNeeded : public DatabaseFixture {
         for (int id = 1; id <= kRows; ++id)
             AddPerson(id, "old");
         work.Commit();
-        rows_.Open(connection_, "SELECT Id, Name FROM Person", kReadAsNeeded);
+        OpenAsNeeded(rows_, connection_, "SELECT Id, Name FROM Person");
     }
 
     /// Of all rows by their places: the names that aren't "old" and the places whose number isn't
@@ -59,7 +59,7 @@ TEST_F(ReadAsNeeded, OutlivesAUnitOfWorkThatIsTakenBack) {
     {
         const UnitOfWork work(connection_);
         connection_.Execute("UPDATE Person SET Name = 'new'");
-        inside.Open(connection_, "SELECT Id, Name FROM Person", kReadAsNeeded);
+        OpenAsNeeded(inside, connection_, "SELECT Id, Name FROM Person");
     }
     EXPECT_EQ(Changed(), "");
     inside.SetAbsolutePosition(kRows);
@@ -73,14 +73,13 @@ TEST_F(ReadAsNeeded, OutlivesItsConnection) {
 }
 
 TEST_F(ReadAsNeeded, CanBeLeftBeforeItsEnd) {
-    rows_.Open(connection_, "SELECT Id FROM Person WHERE Id = ?", kReadAsNeeded, {7});
+    OpenAsNeeded(rows_, connection_, "SELECT Id FROM Person WHERE Id = ?", {7});
     EXPECT_EQ(rows_.RecordCount(), 1);
     EXPECT_EQ(rows_["Id"].AsLong(), 7);
-    rows_.Open(connection_, "SELECT Id FROM Person WHERE Id = 0", kReadAsNeeded);
+    OpenAsNeeded(rows_, connection_, "SELECT Id FROM Person WHERE Id = 0");
     EXPECT_EQ(rows_.RecordCount(), 0);
     EXPECT_TRUE(rows_.Eof());
-    EXPECT_THROW(rows_.Open(connection_, "SELECT Nothing FROM Person", kReadAsNeeded),
-                 DialectError);
+    EXPECT_THROW(OpenAsNeeded(rows_, connection_, "SELECT Nothing FROM Person"), DialectError);
     EXPECT_FALSE(rows_.IsOpen());
     connection_.Execute("DELETE * FROM Person");
     EXPECT_EQ(Single("SELECT Count(*) FROM Person"), "0");
