@@ -1,7 +1,8 @@
 #include "records/screens/Contacts.h"
 
 #include <QLineEdit>
-#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 #include "core/screens/AddressBox.h"
@@ -9,6 +10,7 @@
 #include "core/screens/ErrorRoll.h"
 #include "core/screens/Wiring.h"
 #include "platform/qt/Text.h"
+#include "records/screens/ResetFields.h"
 #include "ui_Contacts.h"
 
 namespace records::screens {
@@ -22,12 +24,11 @@ std::int32_t IdOf(const QListWidgetItem* item) {
     return item ? item->data(Qt::UserRole).toInt() : 0;
 }
 
-/// A null leaves its box as it is, which would show the contact before.
-void ClearBoxes(const QWidget& fields) {
-    for (QWidget* const control : core::screens::ControlsOf(fields)) {
-        if (auto* const line = qobject_cast<QLineEdit*>(control)) line->clear();
-        if (auto* const page = qobject_cast<QPlainTextEdit*>(control)) page->clear();
-    }
+/// The key presses the button while the list has the focus.
+void AddShortcut(Qt::Key key, QWidget& list, QPushButton& button) {
+    auto* const shortcut = new QShortcut(QKeySequence(key), &list);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, &button, &QPushButton::click);
 }
 
 } // namespace
@@ -54,6 +55,8 @@ void Contacts::Wire() {
     });
     connect(ui_->cmdAdd, &QPushButton::clicked, this, [this] { Guarded([this] { Add(); }); });
     connect(ui_->cmdDelete, &QPushButton::clicked, this, [this] { Guarded([this] { Remove(); }); });
+    AddShortcut(Qt::Key_Insert, *ui_->lvwContacts, *ui_->cmdAdd);
+    AddShortcut(Qt::Key_Delete, *ui_->lvwContacts, *ui_->cmdDelete);
     connect(ui_->lvwContacts, &QListWidget::currentItemChanged, this, &Contacts::MoveTo);
 }
 
@@ -122,7 +125,7 @@ void Contacts::FillContacts(std::int32_t idSelected) {
 
 void Contacts::ShowCurrent() {
     showing_ = true;
-    ClearBoxes(*ui_->fields);
+    ResetFields(*ui_->fields, {});
     ui_->fields->setEnabled(id_ != 0);
     ui_->cmdDelete->setEnabled(id_ != 0);
     Guarded([this] {

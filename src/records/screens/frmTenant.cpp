@@ -12,6 +12,7 @@
 #include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
 #include "records/screens/RelatedDBs.h"
+#include "records/screens/StoredChoice.h"
 #include "ui_frmTenant.h"
 #include "ui_frmTenantHistory.h"
 #include "ui_frmTenantIdentity.h"
@@ -56,12 +57,9 @@ void frmTenant::Setup(std::int32_t id) {
     });
 }
 
-/// A status that is none of the words stays the tenant's until another is chosen.
 void frmTenant::ShowRow(platform::Recordset& row) {
     RecordForm::ShowRow(row);
-    const platform::Field status = row["Status"];
-    if (status.IsBlank()) return;
-    core::screens::SelectByText(*person_->cboStatus, status.AsText(), {.setText = true});
+    ShowStoredChoice(*person_->cboStatus, row["Status"]);
 }
 
 void frmTenant::RowMissing() {

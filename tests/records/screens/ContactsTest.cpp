@@ -1,8 +1,10 @@
+#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTest>
 
 #include "core/RecordKinds.h"
 #include "platform/qt/Text.h"
@@ -109,6 +111,17 @@ TEST_F(ContactsTest, DeletingAsksAndMovesOn) {
     EXPECT_FALSE(Find<QPushButton>(panel_, "cmdDelete").isEnabled());
     EXPECT_FALSE(Find<QWidget>(panel_, "fields").isEnabled());
     EXPECT_EQ(Box("txtDescription").text(), QString());
+}
+
+TEST_F(ContactsTest, TheListTakesInsertAndDelete) {
+    QApplication::setActiveWindow(&panel_);
+    List().setFocus();
+    QTest::keyClick(&List(), Qt::Key_Insert);
+    EXPECT_EQ(Listed(), "Boss|Mother|*New Contact");
+    List().setFocus();
+    Answer({true});
+    QTest::keyClick(&List(), Qt::Key_Delete);
+    EXPECT_EQ(Listed(), "*Boss|Mother");
 }
 
 TEST_F(ContactsTest, WhatCantBeWrittenStaysOnTheScreen) {
