@@ -102,6 +102,28 @@ TEST_F(PostAndPay, PostADepositsRefundIntoTheLedgerToo) {
               "101,1000,\"02/10/2024\",3,\"Deposit Refund\",300.0000,3\n");
 }
 
+TEST_F(PostAndPay, AreDoneByEventsBeforeTheLeasesAreCharged) {
+    const auto event = [](int id, int period, const char* lastRun) {
+        return fmt::format(
+            "INSERT INTO AutoEvent (IdAutoEvent, EventType, Description, Enabled, "
+            "EventAction, IntervalType, IntervalPeriod, LastRun, DebitType, "
+            "DebitId, CreditType, CreditId, Amount, TaxCategory) VALUES ({}, 1, "
+            "'Fee {}', True, 1, 3, {}, '{}', 1, 105, 1, 107, 5, 'Supplies');\n",
+            id, id, period, lastRun);
+    };
+    Run(OnBooks() + "sql -", event(7, 1, "11/30/2023") + event(8, 0, ""));
+    const Outcome outcome = Run("--today 01/31/2024 " + OnBooks() + "update");
+    EXPECT_EQ(outcome.output,
+              "Supplies, Fee 7, 12/30/2023, 5.0000\n"
+              "Not updated: Auto Event Fee 8: It never runs: its interval period is 0\n"
+              "Supplies, Fee 7, 01/30/2024, 5.0000\n"
+              "Rent, O'Brien, 12 Elm Street A, 01/01/2024, 1000.0000\n"
+              "Late Fee, O'Brien, 12 Elm Street A, 01/04/2024, 25.0000\n"
+              "4 rows posted.\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "vestrelctl: 1 record could not be brought up to date\n");
+}
+
 TEST_F(PostAndPay, RefuseWhatMakesNoSense) {
     const std::string post = "post --debit account:105 --credit ";
     struct Case {
