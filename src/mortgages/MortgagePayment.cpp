@@ -5,6 +5,7 @@
 #include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "mortgages/Fields.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
@@ -15,18 +16,6 @@ using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
-
-std::string TextOf(const platform::Field& field) {
-    return field.IsNull() ? "" : field.AsText();
-}
-
-std::int32_t IdOf(const platform::Field& field) {
-    return field.IsNull() ? 0 : field.AsLong();
-}
-
-Currency MoneyOf(const platform::Field& field) {
-    return field.IsNull() ? Currency() : field.AsCurrency();
-}
 
 std::string AccountName(std::int32_t idAccount) {
     return core::GetDescription(core::kAccount, idAccount, 0, false);
@@ -41,16 +30,15 @@ void ReadParty(Recordset& row, std::string_view idField, std::string_view nameFi
 }
 
 PaymentCharge ChargeOf(Recordset& rows) {
-    return {
-        .idMortgageLog = rows["IdMortgageLog"].AsLong(),
-        .datePosted = rows["DatePosted"].AsDate(),
-        .period = rows["Period"].IsNull() ? std::int16_t{0} : rows["Period"].AsInteger(),
-        .category = TextOf(rows["Category"]),
-        .payDown = MoneyOf(rows["PayDown"]),
-        .total = MoneyOf(rows["Total"]),
-        .description = TextOf(rows["Description"]),
-        .selected = rows["Selected"].AsText() == "True",
-        .flags = LogFlags{rows["Flags"].IsNull() ? std::int16_t{0} : rows["Flags"].AsInteger()}};
+    return {.idMortgageLog = rows["IdMortgageLog"].AsLong(),
+            .datePosted = rows["DatePosted"].AsDate(),
+            .period = CountOf(rows["Period"]),
+            .category = TextOf(rows["Category"]),
+            .payDown = MoneyOf(rows["PayDown"]),
+            .total = MoneyOf(rows["Total"]),
+            .description = TextOf(rows["Description"]),
+            .selected = rows["Selected"].AsText() == "True",
+            .flags = LogFlags{CountOf(rows["Flags"])}};
 }
 
 bool WasSelected(const std::vector<PaymentCharge>& charges, std::int32_t id, bool otherwise) {

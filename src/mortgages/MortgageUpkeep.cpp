@@ -29,7 +29,7 @@ void StoreLoan(const clsMortgage& mortgage, Recordset& row) {
     const Value balloon = row["BalloonMtg"].Value();
     const Value balloonPayment = row["BalloonPmt"].Value();
     mortgage.SaveRS(row);
-    if (!balloon.IsNull()) {
+    if (!balloon.IsNull() && balloon.AsBoolean() && !mortgage.Balloon()) {
         row["BalloonMtg"].Set(balloon);
         row["BalloonPmt"].Set(balloonPayment);
     }

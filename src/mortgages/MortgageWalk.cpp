@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "mortgages/Fields.h"
 #include "platform/values/Errors.h"
 
 namespace mortgages {
@@ -9,18 +10,9 @@ namespace mortgages {
 using platform::Currency;
 using platform::Date;
 using platform::DateAdd;
-using platform::Field;
 using platform::Interval;
 
 namespace {
-
-Date DateOf(const Field& field) {
-    return field.IsBlank() ? Date() : field.AsDate();
-}
-
-Currency MoneyOf(const Field& field) {
-    return field.IsNull() ? Currency() : field.AsCurrency();
-}
 
 Date Needed(Date date, const char* field) {
     if (!date.IsSet()) throw platform::FieldError(std::string(field) + " is empty");
@@ -107,7 +99,7 @@ RunTerms RunTerms::Read(platform::Recordset& row) {
     terms.firstDue = DateOf(row["FirstDue"]);
     terms.nextDue = DateOf(row["NextDue"]);
     terms.dateUpdated = DateOf(row["DateUpdated"]);
-    if (!row["GracePeriod"].IsNull()) terms.graceDays = row["GracePeriod"].AsInteger();
+    terms.graceDays = CountOf(row["GracePeriod"]);
     terms.escrow = MoneyOf(row["EscrowAmount"]);
     terms.pmi = MoneyOf(row["PMI"]);
     terms.lateFee = MoneyOf(row["LateFee"]);

@@ -49,6 +49,14 @@ MortgageLogEntry PaymentRowOf(const MortgagePayment& payment, std::int32_t idTra
 void ApplyBasePayment(std::int32_t idMortgage, const PaymentCharge& charge, bool isNew) {
     clsMortgage mortgage;
     if (!mortgage.LoadMtg(idMortgage)) return;
+    if (charge.period > mortgage.ArraySize()) {
+        // A row that came without lists as long as its loan: the schedule lengthens them.
+        clsMortgage whole = mortgage;
+        whole.ReCalc();
+        whole.SaveMtg(idMortgage);
+        mortgage = clsMortgage();
+        mortgage.LoadMtg(idMortgage);
+    }
     mortgage.SetXPri(charge.period, charge.payDown.ToDouble());
     if (isNew) mortgage.AdvanceCurrentPeriod();
     mortgage.SaveMtg(idMortgage);

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/Globals.h"
+#include "mortgages/Fields.h"
 #include "mortgages/MortgageLog.h"
 #include "platform/system/Clock.h"
 
@@ -71,7 +72,7 @@ void SetMortgageStatus(Recordset& row) {
     }
     if (row["NextDue"].IsBlank()) return;
     const int daysPast = platform::Today().Serial() - row["NextDue"].AsDate().Serial();
-    const int grace = row["GracePeriod"].IsNull() ? 0 : row["GracePeriod"].AsInteger();
+    const int grace = CountOf(row["GracePeriod"]);
     const std::string_view late = daysPast > grace ? pmtstatus::kLate : pmtstatus::kDue;
     SetWord(row, "PmtStatus", daysPast > 0 ? late : pmtstatus::kOk);
 }

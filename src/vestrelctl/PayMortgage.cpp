@@ -5,19 +5,19 @@
 
 #include <fmt/core.h>
 
-#include "core/Descriptions.h"
 #include "core/RecordKinds.h"
 #include "mortgages/MortgagePayment.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
+#include "vestrelctl/Words.h"
 
 namespace vestrelctl {
 
 namespace {
 
-struct Words {
+struct MortgageWords {
     std::int32_t mortgage = 0;
     std::string date;
     std::int32_t from = 0;
@@ -28,11 +28,10 @@ struct Words {
 void SetAccount(std::int32_t given, std::int32_t& account, std::string& name) {
     if (given == 0) return;
     account = given;
-    name = core::GetDescription(core::kAccount, given, 0, false);
-    if (name.empty()) throw platform::Error(fmt::format("There is no account {}", given));
+    name = NameOf(core::kAccount, given);
 }
 
-void Pay(const Words& words) {
+void Pay(const MortgageWords& words) {
     mortgages::MortgagePayment payment = mortgages::ProposeMortgagePayment(words.mortgage);
     if (!words.date.empty()) payment.dateEffective = platform::Date::Parse(words.date);
     SetAccount(words.from, payment.fromAccount, payment.fromName);
@@ -42,7 +41,8 @@ void Pay(const Words& words) {
     if (payment.charges.empty()) throw platform::Error("There is no open charge to pay");
     const std::int32_t id =
         mortgages::SubmitMortgagePayment(payment, mortgages::OpenedFrom::Elsewhere);
-    std::cout << fmt::format("Transaction {}: {} charges, {}\n", id, payment.charges.size(),
+    std::cout << fmt::format("Transaction {}: {} {}, {}\n", id, payment.charges.size(),
+                             payment.charges.size() == 1 ? "charge" : "charges",
                              platform::MoneyToFixedText(payment.PaidAmount()));
 }
 
@@ -50,10 +50,11 @@ void Pay(const Words& words) {
 
 void AddPayMortgage(CLI::App& line, const Options& options) {
     CLI::App* command = line.add_subcommand("pay-mortgage", "Pay all open charges of a mortgage");
-    auto words = std::make_shared<Words>();
+    auto words = std::make_shared<MortgageWords>();
     command->add_option("mortgage", words->mortgage, "The mortgage's IdMortgage")->required();
     command->add_option("--date", words->date, "The day of the payment, today without it")
-        ->type_name("MM/DD/YYYY");
+        ->type_name("MM/DD/YYYY")
+        ->check(IsDay());
     command->add_option("--from", words->from, "The paying account")->type_name("ACCOUNT");
     command->add_option("--to", words->to, "The receiving account")->type_name("ACCOUNT");
     command->add_option("--check", words->check, "The check's number")->type_name("N");

@@ -229,6 +229,15 @@ TEST_P(PaidFrom, APaidPayoffClosesTheMortgage) {
 INSTANTIATE_TEST_SUITE_P(Places, PaidFrom,
                          testing::Values(OpenedFrom::MortgageScreen, OpenedFrom::Elsewhere));
 
+TEST_F(MortgagePaying, APayoffOfARowWithoutListsClosesToo) {
+    for (const char* field : {"xPri", "xRate"})
+        SetMortgageField(field, "");
+    SetMortgageField("CurrentPPmt", "99.55");
+    ASSERT_EQ(mortgages::PostPayoff(kMortgageId), mortgages::PayoffResult::Posted);
+    PayAll(OpenedFrom::Elsewhere);
+    EXPECT_THAT(Rows("SELECT Status, CurrentPV FROM Mortgage"), ElementsAre("Closed|0"));
+}
+
 TEST_F(MortgagePaying, APayoffWithoutFiguresRemovesNothing) {
     RunMortgagesOn(Date(2024, 1, 20));
     SetMortgageField("CurrentPV", "NULL");

@@ -92,7 +92,7 @@ void RecordForm::Load() {
 }
 
 bool RecordForm::Save() {
-    if (!ShowErrorRoll(AllErrors())) return false;
+    if (!ShowErrorRoll(AllErrors()) || !Agreed()) return false;
     Store();
     NotifyAll(place_.kind, kRecordsChanged, 0);
     dirty_ = false;

@@ -59,6 +59,8 @@ class RecordForm : public Form {
     virtual void ShowCaption() = 0;
     /// What is wrong with what was entered, a line each.
     virtual std::vector<std::string> Errors() { return {}; }
+    /// Asks what there is to ask once nothing is wrong; No stops the save.
+    virtual bool Agreed() { return true; }
     /// Writes what was entered. A screen whose save is more than its row gives the whole of it to
     /// the logic, and sets the id that a new record got.
     virtual void Store();

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "mortgages/clsMortgage.h"
+
+namespace mortgages {
+
+/// One point of the schedule as it is drawn by years.
+struct YearPoint {
+    std::string label; ///< "Year 1"
+    double balance = 0;
+    double principal = 0; ///< paid since the first period, as is the interest
+    double interest = 0;
+};
+
+/// The names of the three series, in the order of YearPoint.
+inline constexpr std::string_view kYearSeries[] = {"Balance", "Principle TTD", "Interest TTD"};
+
+/// The first year is drawn by its first period, each later one by the last of the year before.
+/// Nothing without a schedule; a loan shorter than a year has its one.
+std::vector<YearPoint> ScheduleYears(const clsMortgage& mortgage);
+
+} // namespace mortgages

@@ -1,0 +1,153 @@
+#include "mortgages/screens/AmortPage.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QSplitter>
+#include <QTableView>
+#include <algorithm>
+
+#include "mortgages/screens/AmortModel.h"
+#include "mortgages/screens/YearChart.h"
+#include "platform/qt/Text.h"
+
+namespace mortgages::screens {
+
+namespace {
+
+constexpr int kPadding = 12;
+
+} // namespace
+
+AmortPage::AmortPage(QWidget* parent)
+    : QWidget(parent),
+      settings_(LoadViewSettings()),
+      model_(new AmortModel(this)),
+      table_(new QTableView(this)),
+      chart_(new YearChart(this)),
+      fault_(new QLabel(this)) {
+    setProperty("panel", true);
+    table_->setObjectName(QStringLiteral("grdAmort"));
+    table_->setAccessibleName(tr("Schedule"));
+    table_->setModel(model_);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table_->setWordWrap(false);
+    table_->setTabKeyNavigation(false);
+    table_->setShowGrid(false);
+    table_->verticalHeader()->hide();
+    for (QHeaderView* const header : {table_->horizontalHeader(), table_->verticalHeader()})
+        header->setFocusPolicy(Qt::NoFocus);
+    table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
+    fault_->setObjectName(QStringLiteral("lblFault"));
+    fault_->setWordWrap(true);
+    fault_->hide();
+
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    MakeOptions();
+    column->addWidget(fault_);
+    auto* const halves = new QSplitter(Qt::Vertical, this);
+    halves->addWidget(table_);
+    halves->addWidget(chart_);
+    halves->setStretchFactor(0, 1);
+    halves->setStretchFactor(1, 1);
+    halves->setChildrenCollapsible(false);
+    column->addWidget(halves, 1);
+    setTabOrder(type_, table_);
+}
+
+QCheckBox* AmortPage::MakeCheck(const QString& text, const QString& hint, const char* name,
+                                bool on) {
+    auto* const box = new QCheckBox(text, this);
+    box->setObjectName(QLatin1String(name));
+    box->setToolTip(hint);
+    box->setChecked(on);
+    connect(box, &QCheckBox::toggled, this, &AmortPage::Choose);
+    return box;
+}
+
+void AmortPage::MakeOptions() {
+    detail_ = MakeCheck(tr("&Detail"), tr("Principal, interest, payments left and penalties"),
+                        "chkViewDetail", settings_.detail);
+    yearToDate_ = MakeCheck(tr("&Year to date"), tr("Sums since each January"), "chkViewYTD",
+                            settings_.yearToDate);
+    cumulative_ = MakeCheck(tr("C&umulative"), tr("Sums since the first payment"),
+                            "chkViewCumulative", settings_.cumulative);
+    legend_ =
+        MakeCheck(tr("L&egend"), tr("Tell the chart's colours"), "chkViewLegend", settings_.legend);
+    type_ = new QComboBox(this);
+    type_->setObjectName(QStringLiteral("cboChartType"));
+    type_->addItems({tr("Lines"), tr("Bars"), tr("Areas")});
+    type_->setCurrentIndex(static_cast<int>(settings_.chart));
+    type_->setAccessibleName(tr("Kind of chart"));
+    connect(type_, &QComboBox::currentIndexChanged, this, &AmortPage::Choose);
+    auto* const caption = new QLabel(tr("C&hart:"), this);
+    caption->setBuddy(type_);
+
+    auto* const row = new QHBoxLayout;
+    for (QWidget* const option : std::initializer_list<QWidget*>{detail_, yearToDate_, cumulative_})
+        row->addWidget(option);
+    row->addStretch();
+    for (QWidget* const option : std::initializer_list<QWidget*>{legend_, caption, type_})
+        row->addWidget(option);
+    static_cast<QVBoxLayout*>(layout())->addLayout(row);
+}
+
+void AmortPage::Show(const clsMortgage& mortgage) {
+    mortgage_ = mortgage;
+    ShowAll();
+}
+
+void AmortPage::ShowFault(std::string_view reason) {
+    fault_->setText(platform::qt::ToScreen(reason));
+    fault_->setVisible(!reason.empty());
+}
+
+void AmortPage::Choose() {
+    settings_ = {.detail = detail_->isChecked(),
+                 .yearToDate = yearToDate_->isChecked(),
+                 .cumulative = cumulative_->isChecked(),
+                 .legend = legend_->isChecked(),
+                 .chart = ChartType{type_->currentIndex()}};
+    SaveViewSettings(settings_);
+    ShowAll();
+}
+
+void AmortPage::ShowAll() {
+    model_->Show(mortgage_, {.showDue = true,
+                             .showDetail = settings_.detail,
+                             .showYear = settings_.yearToDate,
+                             .showTotal = settings_.cumulative});
+    FitColumns();
+    UpdateChart();
+}
+
+/// Each column as wide as its texts, and what room is left shared among them.
+void AmortPage::FitColumns() {
+    table_->resizeColumnsToContents();
+    const int count = model_->columnCount();
+    int wanted = 0;
+    for (int column = 0; column < count; ++column)
+        wanted += table_->columnWidth(column) + kPadding;
+    const int left = std::max(0, table_->viewport()->width() - wanted) / std::max(1, count);
+    for (int column = 0; column < count; ++column)
+        table_->setColumnWidth(column, table_->columnWidth(column) + kPadding + left);
+}
+
+void AmortPage::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    FitColumns();
+}
+
+void AmortPage::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    FitColumns();
+}
+
+void AmortPage::UpdateChart() {
+    chart_->Show(ScheduleYears(mortgage_), settings_.chart, settings_.legend);
+}
+
+} // namespace mortgages::screens

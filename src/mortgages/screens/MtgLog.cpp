@@ -1,0 +1,165 @@
+#include "mortgages/screens/MtgLog.h"
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTabBar>
+
+#include "core/EditRecord.h"
+#include "core/RecordKinds.h"
+#include "core/screens/ErrorRoll.h"
+#include "core/screens/Tags.h"
+#include "mortgages/screens/LogList.h"
+#include "mortgages/screens/frmMortgagePayment.h"
+#include "platform/qt/Text.h"
+
+namespace mortgages::screens {
+
+using core::screens::Guarded;
+using platform::qt::ToScreen;
+
+MtgLog::MtgLog(QWidget* parent)
+    : QWidget(parent),
+      tabs_(new QTabBar(this)),
+      list_(new LogList(this)),
+      menu_(new QMenu(this)),
+      token_([this](std::int16_t kind, std::int16_t, std::int32_t) {
+          if (kind == core::kMortgageLog || kind == core::kTransaction) ShowRows();
+      }) {
+    setProperty("panel", true);
+    tabs_->setObjectName(QStringLiteral("tab"));
+    tabs_->setAccessibleName(tr("Part of the log"));
+    tabs_->setExpanding(false);
+    tabs_->setDrawBase(false);
+    tabs_->addTab(tr("Payment Due"));
+    tabs_->addTab(tr("Payment History"));
+    list_->setObjectName(QStringLiteral("lvw"));
+    list_->setAccessibleName(tr("Charges and payments"));
+    list_->setMinimumHeight(140);
+    list_->SetColumns({tr("Date Posted"), tr("Category"), tr("Description"), tr("Principal"),
+                       tr("Paydown"), tr("Interest"), tr("Other"), tr("Total")},
+                      2, 2);
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(tabs_);
+    column->addWidget(list_, 1);
+    MakeButtons();
+    MakeMenu();
+    Connect();
+    ShowRows();
+}
+
+QPushButton* MtgLog::MakeButton(const QString& text, const QString& hint, const char* name,
+                                const char* tag) {
+    auto* const button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(hint);
+    button->setAutoDefault(false);
+    core::screens::SetTag(*button, tag);
+    return button;
+}
+
+void MtgLog::MakeButtons() {
+    add_ = MakeButton(tr("Add..."), tr("Add a charge (Insert)"), "cmdEditAdd", "ADD");
+    edit_ = MakeButton(tr("Edit..."), tr("Open the row in focus (Enter)"), "cmdEditEdit", "EDIT");
+    delete_ = MakeButton(tr("Delete"), tr("Delete the selected rows (Delete)"), "cmdEditDelete",
+                         "DELETE");
+    pay_ = MakeButton(tr("&Make Payment"), tr("Pay charges of this mortgage"), "cmdPayment",
+                      "PAYMENT");
+    auto* const row = new QHBoxLayout;
+    for (QWidget* const button : {add_, edit_, delete_})
+        row->addWidget(button);
+    row->addStretch();
+    row->addWidget(pay_);
+    static_cast<QVBoxLayout*>(layout())->addLayout(row);
+}
+
+void MtgLog::MakeMenu() {
+    const auto add = [this](const char* name, const QString& text, auto work) {
+        QAction* const action = menu_->addAction(text);
+        action->setObjectName(QLatin1String(name));
+        connect(action, &QAction::triggered, this, work);
+    };
+    add("mnuSelectAll", tr("Select &All"), [this] { list_->selectAll(); });
+    add("mnuSelectPI", tr("Select &Principal and Interest"),
+        [this] { list_->SelectBasePayments(true); });
+    add("mnuSelectOther", tr("Select &Others"), [this] { list_->SelectBasePayments(false); });
+    list_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(list_, &QWidget::customContextMenuRequested, this,
+            [this](QPoint where) { menu_->popup(list_->viewport()->mapToGlobal(where)); });
+}
+
+void MtgLog::Connect() {
+    connect(tabs_, &QTabBar::currentChanged, this, [this] { Guarded([this] { ShowRows(); }); });
+    connect(list_, &QTreeWidget::itemSelectionChanged, this, &MtgLog::ShowAvailable);
+    connect(list_, &LogList::RowChosen, this,
+            [this](std::int32_t id) { Guarded([&] { Edit(id); }); });
+    connect(list_, &LogList::DeleteAsked, this, [this] { Guarded([this] { Delete(); }); });
+    auto* const insert = new QShortcut(QKeySequence(Qt::Key_Insert), list_);
+    insert->setContext(Qt::WidgetShortcut);
+    connect(insert, &QShortcut::activated, add_, &QPushButton::click);
+    connect(add_, &QPushButton::clicked, this, [this] { Guarded([this] { Add(); }); });
+    connect(edit_, &QPushButton::clicked, this,
+            [this] { Guarded([this] { Edit(list_->CurrentId()); }); });
+    connect(delete_, &QPushButton::clicked, this, [this] { Guarded([this] { Delete(); }); });
+    connect(pay_, &QPushButton::clicked, this, [this] { Guarded([this] { Pay(); }); });
+}
+
+LogPart MtgLog::Part() const {
+    return tabs_->currentIndex() == 1 ? LogPart::PaymentHistory : LogPart::PaymentDue;
+}
+
+void MtgLog::Load(std::int32_t idMortgage) {
+    idMortgage_ = idMortgage;
+    ShowRows();
+}
+
+void MtgLog::ShowRows() {
+    std::vector<LogLine> lines;
+    if (idMortgage_ != 0) {
+        for (const LogRow& row : ReadLog(idMortgage_, Part())) {
+            const MortgageLogEntry& entry = row.entry;
+            lines.push_back({.idMortgageLog = row.idMortgageLog,
+                             .flags = entry.flags,
+                             .date = entry.datePosted,
+                             .texts = {ToScreen(entry.category), ToScreen(entry.description)},
+                             .amounts = {entry.principal, entry.payDown, entry.interest,
+                                         entry.other, row.total}});
+        }
+    }
+    list_->ShowLines(lines);
+    ShowAvailable();
+}
+
+void MtgLog::ShowAvailable() {
+    const bool isSelected = list_->CurrentId() != 0;
+    add_->setEnabled(idMortgage_ != 0);
+    pay_->setEnabled(idMortgage_ != 0);
+    edit_->setEnabled(isSelected);
+    delete_->setEnabled(isSelected);
+}
+
+void MtgLog::Add() {
+    core::EditRecord(core::kMortgageLog, 0, idMortgage_);
+}
+
+/// What was paid is edited on the payment that did.
+void MtgLog::Edit(std::int32_t id) {
+    if (id == 0) return;
+    if (Part() == LogPart::PaymentDue) {
+        core::EditRecord(core::kMortgageLog, id, idMortgage_);
+    } else {
+        core::EditRecord(core::kTransaction, TransactionOfLogRow(id));
+    }
+}
+
+void MtgLog::Delete() {
+    DeleteLogRows(list_->SelectedIds(), "Delete all selected items?");
+}
+
+void MtgLog::Pay() {
+    (new frmMortgagePayment)->Setup(0, idMortgage_, OpenedFrom::MortgageScreen);
+}
+
+} // namespace mortgages::screens

@@ -1,0 +1,183 @@
+#include "mortgages/screens/frmMortgage.h"
+
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include "core/Configuration.h"
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "core/screens/Binding.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/EnableContainer.h"
+#include "core/screens/ErrorRoll.h"
+#include "core/screens/TabPages.h"
+#include "documents/screens/FileObjects.h"
+#include "mortgages/MortgageUpkeep.h"
+#include "mortgages/screens/AmortPage.h"
+#include "mortgages/screens/MtgLog.h"
+#include "platform/qt/Text.h"
+#include "ui_frmMortgage.h"
+#include "ui_frmMortgageEscrow.h"
+#include "ui_frmMortgageGeneral.h"
+#include "ui_frmMortgageOrigination.h"
+
+namespace mortgages::screens {
+
+using core::screens::FillList;
+using core::screens::Guarded;
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+frmMortgage::frmMortgage(QWidget* parent)
+    : RecordForm({core::kMortgage, "Mortgage", "IdMortgage"}, parent),
+      ui_(std::make_unique<Ui::frmMortgage>()),
+      general_(std::make_unique<Ui::frmMortgageGeneral>()),
+      origin_(std::make_unique<Ui::frmMortgageOrigination>()),
+      escrow_(std::make_unique<Ui::frmMortgageEscrow>()) {
+    ui_->setupUi(this);
+    general_->setupUi(ui_->tabGeneral);
+    origin_->setupUi(ui_->tabOrigination);
+    escrow_->setupUi(ui_->tabEscrow);
+    MakePanels();
+    MakeMenu();
+    Wire();
+    Connect();
+    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+}
+
+frmMortgage::~frmMortgage() = default;
+
+void frmMortgage::MakePanels() {
+    ucMtgLog_ = new MtgLog(this);
+    ucMtgLog_->setObjectName(QStringLiteral("ucMtgLog"));
+    (new QVBoxLayout(ui_->tabPayments))->addWidget(ucMtgLog_);
+    amort_ = new AmortPage(this);
+    amort_->setObjectName(QStringLiteral("ucAmort"));
+    (new QVBoxLayout(ui_->tabAmortization))->addWidget(amort_);
+    ucFOB_ = new documents::screens::FileObjects(this);
+    ucFOB_->setObjectName(QStringLiteral("ucFOB"));
+    (new QVBoxLayout(ui_->tabFiles))->addWidget(ucFOB_);
+}
+
+void frmMortgage::Connect() {
+    const auto changed = [this] { TermsChanged(); };
+    for (QLineEdit* const box : ui_->tabOrigination->findChildren<QLineEdit*>()) {
+        if (!box->isReadOnly()) connect(box, &QLineEdit::textChanged, this, changed);
+    }
+    for (QCheckBox* const box :
+         {origin_->chkBalloon, origin_->chkARM, origin_->chkIntOnly, origin_->chkPPM}) {
+        connect(box, &QCheckBox::toggled, this, [this] {
+            UpdateOptions();
+            TermsChanged();
+        });
+    }
+    connect(origin_->cmdMaxRates, &QPushButton::clicked, this, [this] {
+        loan_.SetMaxRates();
+        Reckon();
+        MarkDirty();
+    });
+    connect(general_->cmdIncDueDate, &QPushButton::clicked, this, [this] { MoveDueDate(1); });
+    connect(general_->cmdDecDueDate, &QPushButton::clicked, this, [this] { MoveDueDate(-1); });
+}
+
+void frmMortgage::Setup(std::int32_t idMortgage, std::int32_t parentBuilding) {
+    OpenRecord(idMortgage, [&] {
+        FillList(core::kBuilding, *general_->cboIdBuilding,
+                 {.selectedId = parentBuilding, .addNone = true});
+        for (const std::int16_t kind : {core::kMortgageeAccount, core::kAccount})
+            FillAccounts(kind);
+        core::screens::SelectById(*general_->cboIdMortgagee, core::Config().DefaultMortgagee);
+        if (idMortgage == 0) ShowTerms();
+    });
+}
+
+void frmMortgage::FillAccounts(std::int16_t kind) {
+    if (kind == core::kMortgageeAccount) {
+        FillList(kind, *general_->cboIdMortgagee, {.addNone = true});
+        return;
+    }
+    FillList(kind, *general_->cboIdMortgagor, {.addNone = true});
+    FillList(kind, *escrow_->cboIdEscrow, {.addNone = true});
+}
+
+void frmMortgage::ShowRow(platform::Recordset& row) {
+    RecordForm::ShowRow(row);
+    loan_ = clsMortgage();
+    loan_.LoadRS(row);
+    storedPeriod_ = loan_.CurrentPeriod();
+    ShowTerms();
+}
+
+void frmMortgage::ShowCaption() {
+    const QString name = general_->txtDescription->text();
+    const bool isNew = Id() == 0;
+    setWindowTitle(isNew ? tr("Adding New Mortgage") : tr("Mortgage: %1").arg(name));
+    ui_->lblTitle->setText(isNew ? tr("New Mortgage (Press Apply to Save)")
+                                 : tr("Editing Mortgage: %1").arg(name));
+    UpdateControls();
+}
+
+std::vector<std::string> frmMortgage::Errors() {
+    return MortgageErrors(FromScreen(general_->txtAccountNumber->text()));
+}
+
+bool frmMortgage::Agreed() {
+    return Id() != 0 || AskToSaveNew();
+}
+
+void frmMortgage::Store() {
+    storing_ = true;
+    platform::UnitOfWork unit(core::App().Connection);
+    const std::int32_t idBefore = Id();
+    try {
+        platform::Recordset row;
+        FindRowToWrite(row);
+        core::screens::BindToRecord(*this, row);
+        loan_.SetDescription(FromScreen(general_->txtDescription->text()));
+        SettleRemainder(loan_);
+        SaveMortgage(row, loan_, FromScreen(general_->cboIdMortgagee->currentText()));
+        unit.Commit();
+    } catch (...) {
+        SetId(idBefore);
+        storing_ = false;
+        throw;
+    }
+    storedPeriod_ = loan_.CurrentPeriod();
+    storing_ = false;
+}
+
+void frmMortgage::AfterSave() {
+    saved_ = true;
+}
+
+void frmMortgage::Refresh(std::int16_t kind) {
+    if (kind == core::kBuilding)
+        FillList(core::kBuilding, *general_->cboIdBuilding, {.addNone = true});
+    if (kind == core::kAccount) {
+        FillAccounts(core::kMortgageeAccount);
+        FillAccounts(core::kAccount);
+    }
+    if (kind == core::kMortgage && Id() != 0 && !storing_) FollowPayment();
+}
+
+void frmMortgage::UpdateControls() {
+    const bool isSaved = Id() != 0;
+    for (QAction* const command : commands_)
+        command->setEnabled(isSaved);
+    changeBalance_->setEnabled(isSaved);
+    core::screens::EnableContainer(*origin_->fraRequired, !isSaved);
+    origin_->dpDue->setEnabled(!isSaved);
+    ucMtgLog_->Load(Id());
+    ucFOB_->SetRecord(core::kMortgage, Id());
+    UpdateOptions();
+}
+
+void frmMortgage::UpdateOptions() {
+    MarkDirty();
+    origin_->fraBalloon->setEnabled(origin_->chkBalloon->isChecked());
+    origin_->fraARM->setEnabled(origin_->chkARM->isChecked());
+    origin_->fraPPM->setEnabled(origin_->chkPPM->isChecked());
+    changeRate_->setEnabled(Id() != 0 && origin_->chkARM->isChecked());
+}
+
+} // namespace mortgages::screens

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/screens/EntryForm.h"
+#include "mortgages/MortgagePayment.h"
+
+class QMenu;
+
+namespace Ui {
+class frmMortgagePayment;
+}
+
+namespace mortgages::screens {
+
+/// Pays charges of a mortgage, or edits a payment that was made.
+class frmMortgagePayment : public core::screens::EntryForm {
+    Q_OBJECT
+
+  public:
+    explicit frmMortgagePayment(QWidget* parent = nullptr);
+    ~frmMortgagePayment() override;
+
+    /// Opens a stored payment, or a new one (0) of the mortgage.
+    void Setup(std::int32_t idTransaction, std::int32_t idMortgage, OpenedFrom from);
+
+  protected:
+    void Store() override;
+    std::vector<std::string> Errors() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    void MakeMenu();
+    void ShowPayment();
+    void FillAccounts();
+    void ShowCharges();
+    void ShowTicks();
+    void TickOne(std::size_t charge, bool on);
+    void TickAll(ChargeChoice choice, bool on);
+    void RemoveCharges();
+
+    std::unique_ptr<Ui::frmMortgagePayment> ui_;
+    QMenu* chargeMenu_;
+    MortgagePayment payment_;
+    OpenedFrom from_ = OpenedFrom::Elsewhere;
+};
+
+} // namespace mortgages::screens

@@ -1,0 +1,166 @@
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "core/EditRecord.h"
+#include "core/RecordKinds.h"
+#include "core/screens/DateEdit.h"
+#include "mortgages/screens/MortgageScreens.h"
+#include "mortgages/screens/frmMortgage.h"
+#include "mortgages/screens/frmMortgageAdjust.h"
+#include "mortgages/screens/frmMortgagePayment.h"
+#include "mortgages/screens/frmMortgageWizard.h"
+#include "mortgages/screens/frmMtgLog.h"
+
+namespace tests {
+
+namespace {
+
+using mortgages::OpenedFrom;
+using mortgages::screens::frmMortgage;
+using mortgages::screens::frmMortgageAdjust;
+using mortgages::screens::frmMortgagePayment;
+using mortgages::screens::frmMortgageWizard;
+using mortgages::screens::frmMtgLog;
+
+class MortgagePaymentScreen : public MortgageScreenTest {
+  protected:
+    static QPointer<frmMortgagePayment> Open(std::int32_t id = 0) {
+        QPointer<frmMortgagePayment> form(new frmMortgagePayment);
+        form->Setup(id, kLoan, OpenedFrom::Elsewhere);
+        return form;
+    }
+};
+
+TEST_F(MortgagePaymentScreen, TicksBasePaymentsInTheirOrder) {
+    const auto form = Open();
+    const Said open = {"03/01/2024|3|Mortgage Payment|Mortgage P & I Payment Due|719.46",
+                       "03/01/2024|3|Mortgage Escrow|Mortgage Escrow Payment|250.00",
+                       "03/16/2024|3|Late Payment|Late Payment|35.00",
+                       "04/01/2024|4|Mortgage Payment|Mortgage P & I Payment Due|719.46"};
+    const Said lines = Lines(*form, "lvwCharges");
+    ASSERT_EQ(lines.size(), 9U);
+    EXPECT_EQ(Said(lines.begin(), lines.begin() + 4), open);
+    EXPECT_EQ(Text(*form, "txtTotalDue"), ".00");
+    EXPECT_EQ(Text(*form, "cboFrom"), "River Bank");
+    EXPECT_EQ(Text(*form, "cboTo"), "Ann's Loans");
+
+    Tick(*form, 3, true);
+    EXPECT_EQ(Heard(), Said{"Note: Previous base payments must be selected"});
+    EXPECT_EQ(Lines(*form, "lvwCharges"), lines) << "the tick doesn't stay";
+    EXPECT_FALSE(form->Dirty());
+    Tick(*form, 0, true);
+    Tick(*form, 3, true);
+    EXPECT_EQ(Text(*form, "txtTotalDue"), "1438.92");
+    Tick(*form, 0, false);
+    EXPECT_EQ(Heard(), Said{"Note: Following base payments must not be selected"});
+    EXPECT_EQ(Lines(*form, "lvwCharges").front().substr(0, 2), "x ");
+    Trigger(*form, "mnuUncheckAll");
+    EXPECT_EQ(Text(*form, "txtTotalDue"), ".00");
+    Trigger(*form, "mnuCheckPI");
+    EXPECT_EQ(Text(*form, "txtTotalDue"), "2158.38");
+}
+
+TEST_F(MortgagePaymentScreen, SubmitsAndShowsTheStoredPaymentAgain) {
+    const auto form = Open();
+    Tick(*form, 0, true);
+    Tick(*form, 1, true);
+    Type(Find<QLineEdit>(*form, "txtCheckNumber"), "0042");
+    ClickAction(*form, "SUBMIT");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_FALSE(form && form->isVisible());
+    const std::string id = Ask("SELECT IdTransaction FROM Transactions WHERE CheckNum = '0042'");
+    EXPECT_EQ(Loan("NextDue"), "02/01/2024");
+
+    core::EditRecord(core::kTransaction, std::stoi(id));
+    const auto stored = Opened<frmMortgagePayment>();
+    ASSERT_TRUE(stored);
+    EXPECT_EQ(Text(*stored, "txtTotalDue"), "969.46");
+    EXPECT_EQ(Lines(*stored, "lvwCharges").size(), 9U) << "its own row isn't listed";
+    ClickAction(*stored, "SUBMIT");
+    EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "969.4606");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM MortgageLog WHERE Flags = 2"), "1");
+    EXPECT_EQ(Loan("CurrentPeriod"), "2");
+}
+
+TEST_F(MortgagePaymentScreen, AChargeKeepsABasePaymentsSplit) {
+    const std::string base =
+        Ask("SELECT IdMortgageLog FROM MortgageLog WHERE Flags = 1 AND Period = 3");
+    auto* const form = new frmMtgLog;
+    form->Setup(std::stoi(base), kLoan);
+    EXPECT_EQ(form->windowTitle(), QStringLiteral(" Editing Mortgage Charge"));
+    for (const char* locked : {"cboCategory", "txtPrincipal", "txtPayDown", "txtInterest"})
+        EXPECT_FALSE(Find<QWidget>(*form, locked).isEnabled()) << locked;
+    Type(Find<QLineEdit>(*form, "txtOther"), "12.5");
+    EXPECT_EQ(Text(*form, "txtTotal"), "731.96");
+    ClickAction(*form, "OK");
+    EXPECT_EQ(Ask("SELECT Total FROM MortgageLog WHERE IdMortgageLog = " + base), "731.9606");
+
+    auto* const fresh = new frmMtgLog;
+    fresh->Setup(0, kLoan);
+    EXPECT_EQ(Text(*fresh, "cboCategory"), "Misc Charge");
+    EXPECT_EQ(Find<QComboBox>(*fresh, "cboCategory").count(), 7);
+    Type(Find<QLineEdit>(*fresh, "txtInterest"), "3");
+    Type(Find<QLineEdit>(*fresh, "txtDescription"), "Bank's slip");
+    ClickAction(*fresh, "OK");
+    EXPECT_EQ(Ask("SELECT Category + '|' + DatePosted FROM MortgageLog WHERE Description = "
+                  "'Bank''s slip' AND Flags = 0 AND Total = 3"),
+              "Misc Charge|05/17/2024");
+
+    auto* const missing = new frmMtgLog;
+    missing->Setup(99999, kLoan);
+    ASSERT_EQ(Heard().size(), 1U);
+    missing->CloseUnasked();
+}
+
+TEST_F(MortgagePaymentScreen, TheWizardAddsALoanAndOpensIt) {
+    QPointer<frmMortgageWizard> form(new frmMortgageWizard);
+    form->Setup();
+    EXPECT_EQ(Text(*form, "txtOrigPV"), "100000.00");
+    EXPECT_EQ(Text(*form, "txtOrigPmt"), "733.76");
+    form->GoTo(2);
+    EXPECT_EQ(Heard(), Said{"Whoa!: The following errors have occured:\n\nA valid company name has "
+                            "not been entered.\n"});
+    Find<QRadioButton>(*form, "optAccount1").click();
+    Choose(*form, "cboAccount", "Ann's Loans");
+    form->GoTo(3);
+    Type(Find<QLineEdit>(*form, "dpFirstDue"), "1/1/2023");
+    Type(Find<QLineEdit>(*form, "txtLoanNumber"), "L-1");
+    form->GoTo(4);
+    Type(Find<QLineEdit>(*form, "dpNextDue"), "6/1/2024");
+    Type(Find<QLineEdit>(*form, "txtCurrPV"), "98500");
+    EXPECT_EQ(Faults(*form, "frmMortgageWizard-today"), Said{});
+    form->GoTo(5);
+    EXPECT_EQ(Heard(), Said{});
+    ClickAction(*form, "FINISH");
+    const auto opened = Opened<frmMortgage>();
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(Text(*opened, "txtDescription"), "Ann's Loans L-1");
+    EXPECT_EQ(Text(*opened, "txtNextDue"), "06/01/2024");
+    EXPECT_EQ(Text(*opened, "txtBalance"), "98,500.00");
+}
+
+TEST_F(MortgagePaymentScreen, LookRight) {
+    const auto payment = Open();
+    Tick(*payment, 0, true);
+    EXPECT_EQ(Faults(*payment, "frmMortgagePayment"), Said{});
+    auto* const charge = new frmMtgLog;
+    charge->Setup(0, kLoan);
+    EXPECT_EQ(Faults(*charge, "frmMtgLog"), Said{});
+    auto* const rate = new frmMortgageAdjust;
+    rate->SetupInt(5, 6.25);
+    EXPECT_EQ(Faults(*rate, "frmMortgageAdjust-rate"), Said{});
+    auto* const balance = new frmMortgageAdjust;
+    balance->SetupBalance(platform::Currency::FromUnits(100), platform::Date(2024, 6, 1), 6);
+    EXPECT_EQ(Faults(*balance, "frmMortgageAdjust-balance"), Said{});
+    auto* const wizard = new frmMortgageWizard;
+    wizard->Setup();
+    EXPECT_EQ(Faults(*wizard, "frmMortgageWizard"), Said{});
+    wizard->GoTo(1);
+    EXPECT_EQ(Faults(*wizard, "frmMortgageWizard-lender"), Said{});
+}
+
+} // namespace
+
+} // namespace tests

@@ -1,0 +1,284 @@
+#include <QAbstractItemModel>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableView>
+#include <QtCharts/QBarCategoryAxis>
+#include <QtCharts/QChartView>
+#include <QtCharts/QLegend>
+#include <QtCharts/QLineSeries>
+
+#include "core/screens/DateEdit.h"
+#include "mortgages/screens/MortgageScreens.h"
+#include "mortgages/screens/frmMortgage.h"
+#include "mortgages/screens/frmMortgageAdjust.h"
+#include "mortgages/screens/frmMortgagePayment.h"
+#include "mortgages/screens/frmMtgLog.h"
+#include "platform/qt/Text.h"
+
+namespace tests {
+
+namespace {
+
+using mortgages::screens::frmMortgage;
+using mortgages::screens::frmMortgageAdjust;
+using mortgages::screens::frmMortgagePayment;
+using mortgages::screens::frmMtgLog;
+
+class MortgageScreen : public MortgageScreenTest {
+  protected:
+    static QPointer<frmMortgage> Open(std::int32_t id = kLoan) {
+        QPointer<frmMortgage> form(new frmMortgage);
+        form->Setup(id, 10);
+        return form;
+    }
+    static void GoTo(const frmMortgage& form, const char* page) {
+        Find<QTabWidget>(form, "tabs").setCurrentWidget(&Find<QWidget>(form, page));
+    }
+    static int ScheduleRows(const frmMortgage& form) {
+        return Find<QTableView>(form, "grdAmort").model()->rowCount();
+    }
+    static std::string Captions(const frmMortgage& form) {
+        const QAbstractItemModel& model = *Find<QTableView>(form, "grdAmort").model();
+        std::string line;
+        for (int column = 0; column < model.columnCount(); ++column)
+            line += platform::qt::FromScreen(
+                        model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString()) +
+                    ";";
+        return line;
+    }
+};
+
+TEST_F(MortgageScreen, ShowsALoanWithItsOriginationLocked) {
+    const auto form = Open();
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Mortgage: First loan"));
+    EXPECT_EQ(Text(*form, "cboIdMortgagee"), "Ann's Loans");
+    EXPECT_EQ(Text(*form, "txtOrigPV"), "120,000.00");
+    EXPECT_EQ(Text(*form, "txtOrigRate"), "6");
+    EXPECT_EQ(Text(*form, "txtOrigPmt"), "719.46");
+    EXPECT_EQ(Text(*form, "txtNextDue"), "01/01/2024");
+    EXPECT_EQ(Text(*form, "lblRemaining"), "of 360, 360 left");
+    EXPECT_EQ(Text(*form, "lblSplit"), "principal 119.46, interest 600.00");
+    EXPECT_EQ(Text(*form, "txtBalance"), "120,000.00");
+    EXPECT_FALSE(form->Dirty());
+    EXPECT_FALSE(Find<QWidget>(*form, "txtOrigPV").isEnabled());
+    EXPECT_FALSE(Find<QWidget>(*form, "dpDue").isEnabled());
+    EXPECT_FALSE(Find<QWidget>(*form, "txtARMPerCap").isEnabled());
+    Find<QCheckBox>(*form, "chkARM").setChecked(true);
+    EXPECT_TRUE(Find<QWidget>(*form, "txtARMPerCap").isEnabled());
+    EXPECT_TRUE(form->Dirty());
+}
+
+TEST_F(MortgageScreen, ANewLoanIsReckonedAsItIsTypedAndAskedAboutOnce) {
+    const auto form = Open(0);
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Mortgage"));
+    EXPECT_EQ(Text(*form, "cboIdBuilding"), "12 Elm St");
+    Type(Find<QLineEdit>(*form, "txtOrigPV"), "50000");
+    Type(Find<QLineEdit>(*form, "txtOrigPer"), "24");
+    Type(Find<QLineEdit>(*form, "txtOrigRate"), "12");
+    Type(Find<QLineEdit>(*form, "dpDue"), "3/31/2024");
+    EXPECT_EQ(ScheduleRows(*form), 24);
+    EXPECT_EQ(Text(*form, "txtOrigPmt"), "2,353.67");
+    Find<QCheckBox>(*form, "chkBalloon").setChecked(true);
+    Type(Find<QLineEdit>(*form, "txtBalloonPer"), "12");
+    EXPECT_EQ(ScheduleRows(*form), 12);
+    EXPECT_EQ(Text(*form, "txtBalloonPmt"), "26,490.78");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{"Whoa!: The following errors have occured:\n\nAn account number "
+                            "entered.\n"});
+    Type(Find<QLineEdit>(*form, "txtAccountNumber"), "N-9");
+    Choose(*form, "cboIdMortgagee", "Ann's Loans");
+    ClickAction(*form, "APPLY");
+    ASSERT_EQ(Heard().size(), 1U); // No stops the save
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Mortgage"), "1");
+    EXPECT_TRUE(form->Dirty());
+    Answer({true});
+    ClickAction(*form, "APPLY");
+    const std::string id = std::to_string(form->Id());
+    const auto stored = [&](const char* fields) {
+        return Ask("SELECT " + std::string(fields) + " FROM Mortgage WHERE IdMortgage = " + id);
+    };
+    EXPECT_EQ(stored("Description"), "Ann's Loans N-9");
+    EXPECT_EQ(stored("BalloonMtg"), "True");
+    EXPECT_EQ(stored("Status + '|' + PmtStatus + '|' + DateUpdated + '|' + FirstDue"),
+              "Current|Late|05/17/2024|03/31/2024");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM MortgageLog WHERE IdMortgage = " + id), "2");
+    EXPECT_FALSE(form->Dirty());
+    EXPECT_FALSE(Find<QWidget>(*form, "txtOrigPV").isEnabled());
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(stored("BalloonMtg"), "True");
+}
+
+TEST_F(MortgageScreen, TermsThatCannotBeReckonedAreToldBesideTheSchedule) {
+    const auto form = Open(0);
+    GoTo(*form, "tabOrigination");
+    Type(Find<QLineEdit>(*form, "txtXPriAll"), "0");
+    Type(Find<QLineEdit>(*form, "txtOrigPer"), "");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(ScheduleRows(*form), 1); // at least one period
+    Type(Find<QLineEdit>(*form, "txtOrigPer"), "99999");
+    EXPECT_EQ(ScheduleRows(*form), 1200);
+}
+
+TEST_F(MortgageScreen, ShowsTheScheduleAndItsYears) {
+    const auto form = Open();
+    EXPECT_EQ(Captions(*form), "No.;Due;Rate;Pmt;Xtra Pri;Balance;");
+    Find<QCheckBox>(*form, "chkViewDetail").setChecked(true);
+    Find<QCheckBox>(*form, "chkViewYTD").setChecked(true);
+    EXPECT_EQ(Captions(*form),
+              "No.;Due;Rate;Pmt;Pmt Yr;Pri;Xtra Pri;Pri Yr;Int;Int Yr;Balance;Remaining;PPM "
+              "Penalty;");
+    const auto& chart = *Find<QChartView>(*form, "chtYears").chart();
+    ASSERT_EQ(chart.series().size(), 3);
+    Said names;
+    for (const auto* series : chart.series())
+        names.push_back(platform::qt::FromScreen(series->name()));
+    EXPECT_EQ(names, (Said{"Balance", "Principle TTD", "Interest TTD"}));
+    auto* years = qobject_cast<QBarCategoryAxis*>(chart.axes(Qt::Horizontal).front());
+    ASSERT_EQ(years->count(), 30);
+    EXPECT_EQ(years->categories().at(1), QStringLiteral("Year 2"));
+    const auto* balance = qobject_cast<QLineSeries*>(chart.series().front());
+    EXPECT_EQ(balance->at(0).y(), 120'000);
+    EXPECT_NEAR(balance->at(1).y(), 118'652.6, 0.1); // the twelfth period's first balance
+
+    Choose(*form, "cboChartType", "Bars");
+    Find<QCheckBox>(*form, "chkViewLegend").setChecked(false);
+    EXPECT_EQ(chart.series().size(), 1);
+    EXPECT_FALSE(chart.legend()->isVisible());
+    EXPECT_FALSE(form->Dirty());
+    form->CloseUnasked();
+    const auto again = Open();
+    EXPECT_EQ(Text(*again, "cboChartType"), "Bars");
+    EXPECT_TRUE(Find<QCheckBox>(*again, "chkViewYTD").isChecked());
+}
+
+TEST_F(MortgageScreen, MovesTheDueDateOnlyWhenAgreed) {
+    const auto form = Open();
+    ClickOn(Find<QPushButton>(*form, "cmdIncDueDate"));
+    EXPECT_EQ(Text(*form, "txtCurrentPeriod"), "1");
+    Answer({true, true, true});
+    ClickOn(Find<QPushButton>(*form, "cmdIncDueDate"));
+    ClickOn(Find<QPushButton>(*form, "cmdIncDueDate"));
+    ClickOn(Find<QPushButton>(*form, "cmdDecDueDate"));
+    EXPECT_EQ(Heard(),
+              (Said{"Confirm Action: Increment Due Date?", "Confirm Action: Increment Due Date?",
+                    "Confirm Action: Decrement Due Date?"}));
+    EXPECT_EQ(Text(*form, "txtNextDue"), "02/01/2024");
+    EXPECT_TRUE(form->Dirty());
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Loan("NextDue"), "02/01/2024");
+    EXPECT_EQ(Loan("CurrentPeriod"), "2");
+}
+
+TEST_F(MortgageScreen, APaymentMadeHereShowsAndIsRightHoweverTheScreenIsLeft) {
+    const auto form = Open();
+    GoTo(*form, "tabPayments");
+    Find<QLineEdit>(*form, "txtDescription").setText(QStringLiteral("Renamed"));
+    ClickOn(Find<QPushButton>(*form, "cmdPayment"));
+    const auto payment = Opened<frmMortgagePayment>();
+    ASSERT_TRUE(payment);
+    Trigger(*payment, "mnuCheckAll");
+    ClickAction(*payment, "SUBMIT");
+    EXPECT_EQ(Text(*form, "txtNextDue"), "04/01/2024");
+    EXPECT_EQ(Text(*form, "txtDescription"), "Renamed") << "what is being changed stays";
+    EXPECT_EQ(Lines(*form, "lvw"), Said{});
+    Find<QTabBar>(*form, "tab").setCurrentIndex(1);
+    EXPECT_EQ(Lines(*form, "lvw").size(), 10U);
+    Answer({true});
+    ClickAction(*form, "CANCEL");
+    EXPECT_EQ(Loan("NextDue"), "04/01/2024");
+    EXPECT_EQ(Loan("Description"), "First loan");
+}
+
+TEST_F(MortgageScreen, PaysTheLoanOff) {
+    const auto form = Open();
+    Answer({true});
+    Trigger(*form, "mnuPayoff");
+    const Said heard = Heard();
+    ASSERT_EQ(heard.size(), 2U);
+    EXPECT_EQ(heard[1],
+              "Payoff Posted: A payoff charge has been posted and all other charges have been "
+              "removed. To complete the\nyou need to make the final payment. Once this has been "
+              "completed the mortgage status will\nchange to closed and no more charges will be "
+              "posted.");
+    EXPECT_EQ(Lines(*form, "lvw"), Said{"05/17/2024|Mortgage Payoff|Mortgage Payoff|119.46|"
+                                        "119,880.54|600.00|0.00|120,600.00"});
+    ClickOn(Find<QPushButton>(*form, "cmdPayment"));
+    const auto payment = Opened<frmMortgagePayment>();
+    Tick(*payment, 0, true);
+    ClickAction(*payment, "SUBMIT");
+    EXPECT_EQ(Text(*form, "txtStatus"), "Closed");
+    EXPECT_EQ(Text(*form, "txtBalance"), "0.00");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Loan("Status"), "Closed");
+    EXPECT_EQ(Loan("CurrentPV"), "0");
+}
+
+TEST_F(MortgageScreen, RepostsAndRollsForwardWhenAgreed) {
+    const auto form = Open();
+    const auto before = Lines(*form, "lvw").size();
+    Trigger(*form, "mnuReprocess");
+    EXPECT_EQ(Lines(*form, "lvw").size(), before);
+    Answer({true});
+    Trigger(*form, "mnuReprocess");
+    EXPECT_GT(Lines(*form, "lvw").size(), before);
+    EXPECT_FALSE(Open(0)->findChild<QAction*>(QStringLiteral("mnuRollFOrward"))->isEnabled());
+}
+
+TEST_F(MortgageScreen, TakesALendersRateAndBalanceOver) {
+    const auto form = Open();
+    EXPECT_FALSE(form->findChild<QAction*>(QStringLiteral("mnuChangeRate"))->isEnabled());
+    Find<QCheckBox>(*form, "chkARM").setChecked(true);
+    Trigger(*form, "mnuChangeRate");
+    auto adjust = Opened<frmMortgageAdjust>();
+    ASSERT_TRUE(adjust);
+    EXPECT_EQ(Text(*adjust, "txtPer_Int"), "1");
+    Type(Find<QLineEdit>(*adjust, "txtPer_Int"), "0");
+    ClickAction(*adjust, "CHANGEI");
+    EXPECT_EQ(Heard(), Said{"Whoa!: The following errors have occured:\n\nPeriod number cannot be "
+                            "zero (or less than).\n"});
+    Type(Find<QLineEdit>(*adjust, "txtPer_Int"), "13");
+    Type(Find<QLineEdit>(*adjust, "txtI_Int"), "7.5");
+    ClickAction(*adjust, "CHANGEI");
+    const QAbstractItemModel& rows = *Find<QTableView>(*form, "grdAmort").model();
+    EXPECT_EQ(rows.index(12, 2).data().toString(), QStringLiteral("7.50"));
+
+    Trigger(*form, "mnuChangeBalance");
+    adjust = Opened<frmMortgageAdjust>();
+    Type(Find<QLineEdit>(*adjust, "txtBalance"), "120000");
+    Type(Find<QLineEdit>(*adjust, "dpNextDue"), "6/1/2024");
+    ClickAction(*adjust, "PROCEEDBAL");
+    EXPECT_EQ(Heard(), Said{"Whoa!: The following errors have occured:\n\nNew balance must be "
+                            "lower than previous balance.\n"});
+    Type(Find<QLineEdit>(*adjust, "txtBalance"), "100000");
+    ClickAction(*adjust, "PROCEEDBAL");
+    EXPECT_EQ(rows.index(4, 5).data().toString(), QStringLiteral("100,000.00"));
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Loan("ARM"), "True");
+    EXPECT_NE(Loan("xPri").find("19273."), std::string::npos) << Loan("xPri").substr(0, 60);
+}
+
+TEST_F(MortgageScreen, LooksRight) {
+    const auto form = Open();
+    for (const char* page : {"tabGeneral", "tabOrigination", "tabEscrow", "tabPayments",
+                             "tabAmortization", "tabFiles"}) {
+        GoTo(*form, page);
+        EXPECT_EQ(Faults(*form, std::string("frmMortgage-") + page), Said{}) << page;
+    }
+    const auto fresh = Open(0);
+    GoTo(*fresh, "tabOrigination");
+    for (const char* box : {"chkBalloon", "chkARM", "chkPPM"})
+        Find<QCheckBox>(*fresh, box).setChecked(true);
+    EXPECT_EQ(Faults(*fresh, "frmMortgage-new"), Said{});
+    GoTo(*fresh, "tabAmortization");
+    Choose(*fresh, "cboChartType", "Bars");
+    Find<QCheckBox>(*fresh, "chkViewDetail").setChecked(true);
+    EXPECT_EQ(Faults(*fresh, "frmMortgage-bars"), Said{});
+}
+
+} // namespace
+
+} // namespace tests
