@@ -19,7 +19,9 @@ char32_t Filtered(const QLineEdit& edit, char32_t key) {
     KeyedBox box;
     box.tag = tag;
     box.text = text;
-    box.caret = static_cast<std::size_t>(edit.cursorPosition());
+    // What is typed goes where the selection begins, wherever in it the caret stands.
+    box.caret = static_cast<std::size_t>(edit.hasSelectedText() ? edit.selectionStart()
+                                                                : edit.cursorPosition());
     box.selected = static_cast<std::size_t>(edit.selectedText().size());
     if (edit.maxLength() < kNoLimit) box.maxLength = static_cast<std::size_t>(edit.maxLength());
     return FilterKey(box, key);

@@ -3,11 +3,13 @@
 #include "core/RecordKinds.h"
 #include "core/screens/ComboList.h"
 #include "core/screens/TabPages.h"
+#include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/FurnishingRules.h"
 #include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
 #include "records/screens/RelatedDBs.h"
+#include "records/screens/StoredAccounts.h"
 #include "ui_frmAppliance.h"
 #include "ui_frmApplianceDetails.h"
 
@@ -22,7 +24,8 @@ frmAppliance::frmAppliance(QWidget* parent)
       details_(std::make_unique<Ui::frmApplianceDetails>()) {
     ui_->setupUi(this);
     details_->setupUi(ui_->tabAppliance);
-    contracts_ = PlacePanel(new RelatedDBs, *ui_->tabContracts, "ucContracts");
+    contracts_ = PlacePanel(new RelatedDBs(this), *ui_->tabContracts, "ucContracts");
+    files_ = PlacePanel(new documents::screens::FileObjects, *ui_->tabFiles, "ucFOB");
     Wire();
     core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
 }
@@ -34,9 +37,14 @@ void frmAppliance::Setup(std::int32_t id, std::int32_t parentUnit) {
         LoadPickFields(*this);
         core::screens::FillFromCommaList(*details_->cboDeprMethod, kStraightLine);
         core::screens::SelectByText(*details_->cboDeprMethod, kStraightLine);
-        FillList(core::kVendorAccount, *details_->cboVendor, {.addNone = true});
+        FillAccountList(core::kVendorAccount, *details_->cboVendor);
         FillList(core::kUnit, *details_->cboUnit, {.selectedId = parentUnit, .addNone = true});
     });
+}
+
+void frmAppliance::ShowRow(platform::Recordset& row) {
+    OfferStoredAccounts({details_->cboVendor}, row);
+    RecordForm::ShowRow(row);
 }
 
 void frmAppliance::ShowCaption() {
@@ -45,6 +53,7 @@ void frmAppliance::ShowCaption() {
                                    .arg(details_->cboManufacturer->currentText(),
                                         details_->cboApplianceType->currentText()));
     contracts_->Load(core::kAppliance, Id());
+    files_->SetRecord(core::kAppliance, Id());
 }
 
 std::vector<std::string> frmAppliance::Errors() {
@@ -61,7 +70,7 @@ void frmAppliance::Refresh(std::int16_t kind) {
         FillList(core::kUnit, *details_->cboUnit, {.addNone = true});
     }
     if (kind == core::kAccount) {
-        FillList(core::kVendorAccount, *details_->cboVendor, {.addNone = true});
+        FillAccountList(core::kVendorAccount, *details_->cboVendor);
     }
 }
 

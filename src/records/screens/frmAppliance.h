@@ -10,6 +10,10 @@ class frmAppliance;
 class frmApplianceDetails;
 } // namespace Ui
 
+namespace documents::screens {
+class FileObjects;
+}
+
 namespace records::screens {
 
 class RelatedDBs;
@@ -26,6 +30,7 @@ class frmAppliance : public core::screens::RecordForm {
     void Setup(std::int32_t id, std::int32_t parentUnit);
 
   protected:
+    void ShowRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
     void AfterSave() override;
@@ -35,6 +40,7 @@ class frmAppliance : public core::screens::RecordForm {
     std::unique_ptr<Ui::frmAppliance> ui_;
     std::unique_ptr<Ui::frmApplianceDetails> details_;
     RelatedDBs* contracts_ = nullptr;
+    documents::screens::FileObjects* files_ = nullptr;
 };
 
 } // namespace records::screens

@@ -2,8 +2,11 @@
 
 #include "core/RecordKinds.h"
 #include "core/screens/ComboList.h"
+#include "core/screens/TabPages.h"
+#include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/FurnishingRules.h"
+#include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
 #include "ui_frmContent.h"
 
@@ -15,7 +18,9 @@ frmContent::frmContent(QWidget* parent)
     : RecordForm({core::kContent, "Content", "IdContent"}, parent),
       ui_(std::make_unique<Ui::frmContent>()) {
     ui_->setupUi(this);
+    files_ = PlacePanel(new documents::screens::FileObjects, *ui_->tabFiles, "ucFOB");
     Wire();
+    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
 }
 
 frmContent::~frmContent() = default;
@@ -30,6 +35,7 @@ void frmContent::Setup(std::int32_t id, std::int32_t parentUnit) {
 void frmContent::ShowCaption() {
     setWindowTitle(Id() == 0 ? tr("Adding New Content")
                              : tr("Content: %1").arg(ui_->txtDescription->text()));
+    files_->SetRecord(core::kContent, Id());
 }
 
 std::vector<std::string> frmContent::Errors() {

@@ -9,6 +9,10 @@ namespace Ui {
 class frmContent;
 }
 
+namespace documents::screens {
+class FileObjects;
+}
+
 namespace records::screens {
 
 /// A furnishing or movable item of a unit.
@@ -30,6 +34,7 @@ class frmContent : public core::screens::RecordForm {
 
   private:
     std::unique_ptr<Ui::frmContent> ui_;
+    documents::screens::FileObjects* files_ = nullptr;
 };
 
 } // namespace records::screens

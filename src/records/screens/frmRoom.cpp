@@ -2,8 +2,11 @@
 
 #include "core/RecordKinds.h"
 #include "core/screens/ComboList.h"
+#include "core/screens/TabPages.h"
+#include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/FurnishingRules.h"
+#include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
 #include "ui_frmRoom.h"
 
@@ -14,7 +17,9 @@ using core::screens::FillList;
 frmRoom::frmRoom(QWidget* parent)
     : RecordForm({core::kRoom, "Room", "IdRoom"}, parent), ui_(std::make_unique<Ui::frmRoom>()) {
     ui_->setupUi(this);
+    files_ = PlacePanel(new documents::screens::FileObjects, *ui_->tabFiles, "ucFOB");
     Wire();
+    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
 }
 
 frmRoom::~frmRoom() = default;
@@ -29,6 +34,7 @@ void frmRoom::Setup(std::int32_t id, std::int32_t parentUnit) {
 void frmRoom::ShowCaption() {
     setWindowTitle(Id() == 0 ? tr("Adding New Room")
                              : tr("Room: %1").arg(ui_->cboRoomType->currentText()));
+    files_->SetRecord(core::kRoom, Id());
 }
 
 std::vector<std::string> frmRoom::Errors() {

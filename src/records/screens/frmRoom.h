@@ -9,6 +9,10 @@ namespace Ui {
 class frmRoom;
 }
 
+namespace documents::screens {
+class FileObjects;
+}
+
 namespace records::screens {
 
 /// One room of a unit.
@@ -30,6 +34,7 @@ class frmRoom : public core::screens::RecordForm {
 
   private:
     std::unique_ptr<Ui::frmRoom> ui_;
+    documents::screens::FileObjects* files_ = nullptr;
 };
 
 } // namespace records::screens

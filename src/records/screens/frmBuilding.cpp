@@ -1,0 +1,240 @@
+// The life of the building's screen: its making, what it reads and what it writes.
+
+#include "records/screens/frmBuilding.h"
+
+#include <QScopedValueRollback>
+
+#include "core/Configuration.h"
+#include "core/Globals.h"
+#include "core/Lookups.h"
+#include "core/RecordKinds.h"
+#include "core/Session.h"
+#include "core/screens/Binding.h"
+#include "core/screens/ComboList.h"
+#include "core/screens/TabPages.h"
+#include "platform/qt/Text.h"
+#include "records/BuildingRules.h"
+#include "records/FurnishingRules.h"
+#include "records/screens/PickFields.h"
+#include "records/screens/ResetFields.h"
+#include "records/screens/StoredAccounts.h"
+#include "ui_frmBuilding.h"
+#include "ui_frmBuildingFinancial.h"
+#include "ui_frmBuildingPlace.h"
+#include "ui_frmBuildingServices.h"
+#include "ui_frmBuildingUnit.h"
+
+namespace records::screens {
+
+using core::screens::BindFromRecord;
+using core::screens::FillFromCommaList;
+using core::screens::FillList;
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+namespace {
+
+constexpr std::string_view kBuildingTable = "Building";
+constexpr std::string_view kUnitTable = "Unit";
+
+void FindById(platform::Recordset& row, std::string_view table, std::int32_t id) {
+    const std::string name(table);
+    row.Open(core::App().Connection, "SELECT * FROM " + name + " WHERE Id" + name + " = ?",
+             platform::CursorMode::Updatable, {id});
+}
+
+} // namespace
+
+frmBuilding::frmBuilding(QWidget* parent)
+    : RecordForm({core::kBuilding, std::string(kBuildingTable), "IdBuilding"}, parent),
+      ui_(std::make_unique<Ui::frmBuilding>()),
+      place_(std::make_unique<Ui::frmBuildingPlace>()),
+      unit_(std::make_unique<Ui::frmBuildingUnit>()),
+      financial_(std::make_unique<Ui::frmBuildingFinancial>()),
+      services_(std::make_unique<Ui::frmBuildingServices>()) {
+    ui_->setupUi(this);
+    place_->setupUi(ui_->tabBuilding);
+    unit_->setupUi(ui_->tabUnit);
+    financial_->setupUi(ui_->tabFinancial);
+    MakePanels();
+    services_->setupUi(ui_->tabServices);
+    MakeMenus();
+    Wire();
+    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    Connect();
+}
+
+frmBuilding::~frmBuilding() = default;
+
+void frmBuilding::Setup(std::int32_t idBuilding, std::int32_t idUnit, std::int32_t fromUnit) {
+    idUnit_ = idUnit;
+    if (idBuilding == 0 && idUnit != 0) idBuilding = core::GetUnitBuilding(idUnit);
+    OpenRecord(idBuilding, [&] {
+        FillLists();
+        if (idBuilding == 0) Propose(fromUnit);
+    });
+    place_->txtAddress->setFocus();
+}
+
+void frmBuilding::FillLists() {
+    LoadPickFields(*this);
+    FillFromCommaList(*unit_->cboUnitStatus, kUnitStatuses);
+    unit_->cboUnitStatus->setCurrentIndex(0);
+    FillFromCommaList(*services_->cboHOAFrequency, kHoaFrequencies);
+    FillFromCommaList(*financial_->cboDeprMethod, kStraightLine);
+    financial_->cboDeprMethod->setCurrentIndex(0);
+    FillAccounts();
+    FillFreeAccounts();
+}
+
+void frmBuilding::FillAccounts() {
+    const auto fill = [](std::int16_t kind, std::initializer_list<QComboBox*> lists) {
+        for (QComboBox* const list : lists)
+            FillAccountList(kind, *list);
+    };
+    fill(core::kAccount, {services_->cboHOAAccount, services_->cboSecAccount});
+    fill(core::kInsuranceAccount, {services_->cboInsurance});
+    fill(core::kUtilityAccount,
+         {services_->cboElectricAccount, services_->cboWaterAccount, services_->cboGasAccount,
+          services_->cboSewageAccount, services_->cboCableAccount, services_->cboTrashAccount});
+}
+
+/// Accounts are only proposed where any name may be typed; what is there stays.
+void frmBuilding::FillFreeAccounts() {
+    for (QComboBox* const combo : {financial_->cboPurchFrom, financial_->cboPurchAgent,
+                                   financial_->cboSoldTo, financial_->cboCloseAgent}) {
+        FillList(core::kAccount, *combo, {.keepText = true});
+    }
+}
+
+void frmBuilding::Propose(std::int32_t fromUnit) {
+    idUnit_ = 0;
+    financial_->txtDeprPeriod->setText(ToScreen(kUsualDeprPeriod));
+    place_->txtCounty->setText(ToScreen(core::Config().DefaultCounty));
+    place_->txtState->setText(ToScreen(core::Config().DefaultState));
+    if (fromUnit == 0) return;
+    platform::Recordset row;
+    FindById(row, kBuildingTable, core::GetUnitBuilding(fromUnit));
+    if (!row.Eof()) BindFromRecord(*this, row, kBuildingTable);
+    FindById(row, kUnitTable, fromUnit);
+    if (!row.Eof()) BindFromRecord(*this, row, kUnitTable);
+}
+
+void frmBuilding::ShowRow(platform::Recordset& row) {
+    ResetFields(*this, kBuildingTable);
+    financial_->cboDeprMethod->setCurrentIndex(0);
+    OfferStoredAccounts(
+        {services_->cboHOAAccount, services_->cboSecAccount, services_->cboInsurance,
+         services_->cboElectricAccount, services_->cboWaterAccount, services_->cboGasAccount,
+         services_->cboSewageAccount, services_->cboCableAccount, services_->cboTrashAccount},
+        row);
+    BindFromRecord(*this, row, kBuildingTable);
+    multi_ = row["Multi"].AsBoolean();
+    ShowUnit();
+}
+
+/// Without a unit of its own choice the screen shows the building's first.
+void frmBuilding::ShowUnit() {
+    if (idUnit_ == 0) {
+        const auto units = UnitsOf(Id());
+        if (!units.empty()) idUnit_ = units.front().id;
+    }
+    platform::Recordset row;
+    FindById(row, kUnitTable, idUnit_);
+    ResetFields(*this, kUnitTable);
+    unit_->cboUnitStatus->setCurrentIndex(0);
+    if (!row.Eof()) BindFromRecord(*this, row, kUnitTable);
+    storedStatus_ = unit_->cboUnitStatus->currentText();
+}
+
+void frmBuilding::RowMissing() {
+    idUnit_ = 0;
+    multi_ = false;
+}
+
+void frmBuilding::ShowCaption() {
+    const QString address = place_->txtAddress->text();
+    const bool isNew = Id() == 0;
+    setWindowTitle(isNew ? tr("Adding New Single Unit Building") : tr("Building: %1").arg(address));
+    ui_->lblTitle->setText(isNew ? tr("New Building (Press Apply to Save)")
+                                 : tr("Editing Building: %1").arg(address));
+    FillUnits();
+    ShowPanels();
+}
+
+std::vector<std::string> frmBuilding::Errors() {
+    return BuildingErrors(FromScreen(place_->txtAddress->text()));
+}
+
+/// The building and its unit, both or neither.
+void frmBuilding::Store() {
+    const std::int32_t building = Id();
+    const std::int32_t unit = idUnit_;
+    try {
+        platform::UnitOfWork work(core::App().Connection);
+        StoreBuilding();
+        StoreUnit();
+        work.Commit();
+    } catch (...) {
+        SetId(building);
+        idUnit_ = unit;
+        throw;
+    }
+}
+
+void frmBuilding::StoreBuilding() {
+    platform::Recordset row;
+    FindRowToWrite(row);
+    core::screens::BindToRecord(*this, row, kBuildingTable);
+    if (row["Multi"].IsNull()) row["Multi"].Set(false);
+    if (makeMulti_) row["Multi"].Set(true);
+    row.Update();
+}
+
+void frmBuilding::StoreUnit() {
+    platform::Recordset row;
+    FindById(row, kUnitTable, idUnit_);
+    if (row.Eof()) {
+        if (idUnit_ == 0) idUnit_ = core::NextId();
+        row.AddNew();
+        row["IdUnit"].Set(idUnit_);
+        row["Ccount"].Set(std::int32_t{0});
+    }
+    core::screens::BindToRecord(*this, row, kUnitTable);
+    row["IdBuilding"].Set(Id());
+    row.Update();
+}
+
+void frmBuilding::AfterSave() {
+    SavePickFields(*this);
+    const QScopedValueRollback telling(telling_, true);
+    core::NotifyAll(core::kUnit, core::kRecordsChanged, 0);
+}
+
+void frmBuilding::Refresh(std::int16_t kind) {
+    if (kind == core::kAccount) {
+        FillAccounts();
+        FillFreeAccounts();
+    }
+    const bool concerns = kind == core::kBuilding || kind == core::kUnit;
+    if (!concerns || telling_ || Id() == 0 || !AreStored(Id(), idUnit_)) return;
+    if (Dirty()) {
+        ShowStatus();
+        FillUnits();
+    } else {
+        Load();
+    }
+}
+
+/// A lease that begins or ends writes its unit's status. What the person has not chosen otherwise
+/// here follows, or the next save would write the old word back.
+void frmBuilding::ShowStatus() {
+    if (unit_->cboUnitStatus->currentText() != storedStatus_) return;
+    platform::Recordset row;
+    FindById(row, kUnitTable, idUnit_);
+    if (row.Eof() || row["Status"].IsNull()) return;
+    core::screens::SelectByText(*unit_->cboUnitStatus, row["Status"].AsText(), {.setText = true});
+    storedStatus_ = unit_->cboUnitStatus->currentText();
+}
+
+} // namespace records::screens

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/EditRecord.h"
+#include "core/screens/RecordForm.h"
+
+class QLabel;
+class QMenuBar;
+class QTabBar;
+
+namespace Ui {
+class frmBuilding;
+class frmBuildingPlace;
+class frmBuildingUnit;
+class frmBuildingFinancial;
+class frmBuildingServices;
+} // namespace Ui
+
+namespace books::screens {
+class General_Ledger;
+}
+namespace documents::screens {
+class FileObjects;
+}
+
+namespace records::screens {
+
+/// A building together with one of its units. A property of a single unit looks like one record; a
+/// building of several has a list to choose the unit from.
+class frmBuilding : public core::screens::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmBuilding(QWidget* parent = nullptr);
+    ~frmBuilding() override;
+
+    /// Opens a building, or the building of a unit; with neither a new one, which starts as a copy
+    /// of `fromUnit` and its building unless that is 0.
+    void Setup(std::int32_t idBuilding, std::int32_t idUnit, std::int32_t fromUnit = 0);
+
+    std::int32_t UnitId() const { return idUnit_; }
+    /// Shows another unit of the building; changes are saved first, and when they are refused
+    /// nothing happens. False then.
+    bool SelectUnit(std::int32_t idUnit);
+    /// Adds a unit to a building of several, or makes a building of several of this one.
+    void AddUnit();
+
+  protected:
+    void ShowRow(platform::Recordset& row) override;
+    void Store() override;
+    void RowMissing() override;
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void AfterSave() override;
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    void MakePanels();
+    void MakeMenus();
+    void Connect();
+    void FillLists();
+    void FillAccounts();
+    void FillFreeAccounts();
+    void Propose(std::int32_t fromUnit);
+
+    void ShowUnit();
+    void FillUnits();
+    void ShowPanels();
+    void ShowFiles();
+    void StoreBuilding();
+    void StoreUnit();
+    bool SaveChanges();
+    void Reload();
+    void ShowStatus();
+    void UnitChosen();
+    void Convert();
+
+    void CalculateEquity();
+    void ShowDepreciation();
+    void OpenTaxPage();
+
+    std::unique_ptr<Ui::frmBuilding> ui_;
+    std::unique_ptr<Ui::frmBuildingPlace> place_;
+    std::unique_ptr<Ui::frmBuildingUnit> unit_;
+    std::unique_ptr<Ui::frmBuildingFinancial> financial_;
+    std::unique_ptr<Ui::frmBuildingServices> services_;
+    books::screens::General_Ledger* ledger_ = nullptr;
+    documents::screens::FileObjects* files_ = nullptr;
+    QTabBar* filesOf_ = nullptr;
+    std::int32_t idUnit_ = 0;
+    bool multi_ = false;
+    bool makeMulti_ = false; ///< the save makes a building of several units
+    bool telling_ = false;   ///< what is heard now is this form's own save
+    QString storedStatus_;   ///< of the unit, as last read
+};
+
+/// Opens a building or unit as asked, in the form that has the building open if there is one.
+void OpenBuilding(const core::EditRequest& request);
+
+} // namespace records::screens

@@ -1,0 +1,106 @@
+// The menus and buttons of the building's screen.
+
+#include <QMenuBar>
+
+#include "core/References.h"
+#include "core/screens/AddressBox.h"
+#include "core/screens/ErrorRoll.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/qt/Text.h"
+#include "platform/values/Conversions.h"
+#include "platform/values/Errors.h"
+#include "platform/values/Format.h"
+#include "records/BuildingRules.h"
+#include "records/screens/frmBuilding.h"
+#include "ui_frmBuilding.h"
+#include "ui_frmBuildingFinancial.h"
+#include "ui_frmBuildingPlace.h"
+
+namespace records::screens {
+
+using core::screens::Guarded;
+using platform::qt::FromScreen;
+
+namespace {
+
+constexpr std::string_view kPeriodFormat = "#,###.0";
+
+/// What is no number, or past all numbers, counts as 0.
+double NumberIn(const QLineEdit& box) {
+    try {
+        return platform::TryParseNumber(FromScreen(box.text())).value_or(0);
+    } catch (const platform::OverflowError&) {
+        return 0;
+    }
+}
+
+} // namespace
+
+void frmBuilding::MakeMenus() {
+    auto* const bar = new QMenuBar(this);
+    layout()->setMenuBar(bar);
+    const auto add = [this](QMenu& menu, const QString& text, const char* name, auto slot) {
+        QAction* const action = menu.addAction(text, this, slot);
+        action->setObjectName(QLatin1String(name));
+        return action;
+    };
+    const auto later = [](QMenu& menu, const QString& text, const char* name) {
+        QAction* const action = menu.addAction(text);
+        action->setObjectName(QLatin1String(name));
+        action->setEnabled(false);
+    };
+    QMenu& building = *bar->addMenu(tr("&Building"));
+    add(building, tr("&Apply"), "mnuApply", [this] { Apply(); })
+        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    add(building, tr("Add &Unit"), "mnuAddUnit", [this] { AddUnit(); })
+        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
+    building.addSeparator();
+    later(building, tr("&Print Building"), "mnuPrintBuilding");
+    later(building, tr("P&rint Unit"), "mnuPrintUnit");
+    building.addSeparator();
+    add(building, tr("&Close"), "mnuClose", [this] { SaveAndClose(); });
+    QMenu& reports = *bar->addMenu(tr("&Reports"));
+    later(reports, tr("Of the &Building"), "mnuReportItemB");
+    later(reports, tr("Of the &Unit"), "mnuReportItemU");
+    QMenu& documents = *bar->addMenu(tr("&Documents"));
+    later(documents, tr("&Merge"), "mnuDocItem");
+}
+
+void frmBuilding::Connect() {
+    core::screens::FillPlaceByZip(*place_->txtZip,
+                                  {place_->txtCity, place_->txtState, place_->txtCounty});
+    connect(ui_->cboSelUnit, &QComboBox::activated, this, &frmBuilding::UnitChosen);
+    connect(place_->lblTaxAccount, &QLabel::linkActivated, this, &frmBuilding::OpenTaxPage);
+    connect(financial_->cmdCalcEquity, &QPushButton::clicked, this,
+            [this] { Guarded([this] { CalculateEquity(); }); });
+    connect(financial_->cmdShowDepr, &QPushButton::clicked, this,
+            [this] { Guarded([this] { ShowDepreciation(); }); });
+    connect(financial_->txtDeprPeriod, &QLineEdit::editingFinished, this, [this] {
+        QLineEdit& box = *financial_->txtDeprPeriod;
+        if (box.text().isEmpty()) return;
+        const QString shown =
+            platform::qt::ToScreen(platform::FormatNumber(NumberIn(box), kPeriodFormat));
+        if (box.text() != shown) box.setText(shown);
+    });
+}
+
+void frmBuilding::CalculateEquity() {
+    const auto value = financial_->txtMktValue->Amount();
+    financial_->txtEquity->SetAmount(EquityAt(value.value_or(platform::Currency()), Id()));
+}
+
+void frmBuilding::ShowDepreciation() {
+    const auto basis = financial_->txtDeprBasis->Amount().value_or(platform::Currency());
+    const auto fault = DepreciationFault(basis, NumberIn(*financial_->txtDeprPeriod));
+    if (fault) {
+        platform::TheDialogs().ShowMessage("Error", *fault, platform::Icon::Exclamation);
+        return;
+    }
+}
+
+void frmBuilding::OpenTaxPage() {
+    const auto text = [](const QLineEdit* box) { return FromScreen(box->text().trimmed()); };
+    core::GetTaxUrl(text(place_->txtTaxAccount), text(place_->txtCounty), text(place_->txtState));
+}
+
+} // namespace records::screens

@@ -1,0 +1,468 @@
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTabWidget>
+#include <algorithm>
+#include <map>
+
+#include "core/Configuration.h"
+#include "core/EditRecord.h"
+#include "core/Lookups.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "core/screens/Binding.h"
+#include "core/screens/OpenForms.h"
+#include "core/screens/Tags.h"
+#include "exchange/DeleteRecord.h"
+#include "platform/dialogs/Desktop.h"
+#include "records/screens/Fields.h"
+#include "records/screens/frmBuilding.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
+#include "support/screens/ScreenChecks.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using records::screens::frmBuilding;
+using support::ClickAction;
+using support::ClickOn;
+using support::FieldEntry;
+using support::Find;
+using support::Type;
+using Said = std::vector<std::string>;
+
+const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
+const std::string kConvert =
+    "Continue?: To add an additional unit this property will convert to a multi unit building. "
+    "Please read the help file\n"
+    "section explaining how these are handled differently so you can understand how to correctly "
+    "manage these\n"
+    "types of properties within Vestrel.\n"
+    "Do you wish to continue?";
+
+const std::vector<FieldEntry> kBuildingFields = {
+    {"txtAddress", "7 O'Hara's \"Row\"", "Address", ""},
+    {"txtZip", "97301", "Zip", ""},
+    {"txtCity", "Salem", "City", ""},
+    {"txtCounty", "Marion", "County", ""},
+    {"txtState", "OR", "State", ""},
+    {"cboRegion", "West", "Region", ""},
+    {"cboPropType", "House", "PropType", ""},
+    {"cboPropDesc", "Bungalow", "PropDesc", ""},
+    {"cboZoning", "R1", "Zoning", ""},
+    {"cboConstruction", "Brick", "Construction", ""},
+    {"txtYearBuilt", "1921", "YearBuilt", ""},
+    {"txtStoryHeight", "2", "StoryHeight", ""},
+    {"txtLotSize", "50' x 100'", "LotSize", ""},
+    {"txtBuildingKeyType", "Yale", "KeyType", ""},
+    {"txtBuildingKeyCode", "K-7", "KeyCode", ""},
+    {"txtTaxAccount", "R12345", "TaxAccountNumber", ""},
+    {"chkShed", "x", "Shed", "True"},
+    {"chkFence", "x", "Fence", "True"},
+    {"chkPool", "x", "Pool", "True"},
+    {"chkLawnIrrigation", "x", "LawnIrrigation", "True"},
+    {"chkDeck", "x", "Deck", "True"},
+    {"chkWaterfront", "x", "Waterfront", "True"},
+    {"txtmLegal", "Lot 7, block 2", "Legal", ""},
+    {"txtmBuildingNotes", "Corner house", "Notes", ""},
+    {"chkHideBuilding", "x", "Hide", "True"},
+    {"dpPurchDate", "02/29/2020", "PurchDate", ""},
+    {"txtPurchPrice", "250000.00", "PurchPrice", "250000"},
+    {"cboPurchFrom", "Nobody's Estate", "PurchFrom", ""},
+    {"cboPurchAgent", "Al Owner", "PurchAgent", ""},
+    {"chkPurchTitleIns", "x", "PurchTitleIns", "True"},
+    {"dpSaleDate", "12/31/2030", "SaleDate", ""},
+    {"txtSalePrice", "0.00", "SalePrice", "0"},
+    {"cboSoldTo", "Jo Owner", "SoldTo", ""},
+    {"cboCloseAgent", "Closers", "CloseAgent", ""},
+    {"chkSaleTitleIns", "x", "SaleTitleIns", "True"},
+    {"txtMktValue", "300000.00", "MktValue", "300000"},
+    {"txtEquity", "1000.00", "Equity", "1000"},
+    {"cboDeprMethod", "Straight Line", "DeprMethod", ""},
+    {"txtDeprPeriod", "39.0", "DeprPeriod", "39"},
+    {"txtDeprBasis", "200000.00", "DeprBasis", "200000"},
+    {"cboHOAAccount", "River Bank", "HOAAccount", "60"},
+    {"cboHOAFrequency", "Quarterly", "HOAFrequency", ""},
+    {"txtHOAPayment", "120.50", "HOAPayment", "120.5"},
+    {"dpHOANextDue", "06/30/2024", "HOANextDue", ""},
+    {"cboInsurance", "Sure & Sons", "InsAccount", "66"},
+    {"txtInsPolNum", "P-1", "InsPolNum", ""},
+    {"dpInsNextDue", "01/31/2025", "InsNextDue", ""},
+    {"txtmInsNotes", "Flood not covered", "InsNotes", ""},
+    {"cboElectricAccount", "City Light", "ElectricAccount", "65"},
+    {"txtElectricAccountNumber", "E1", "ElectricAccountNumber", ""},
+    {"cboWaterAccount", "City Light", "WaterAccount", "65"},
+    {"txtWaterAccountNumber", "W1", "WaterAccountNumber", ""},
+    {"cboWaterSource", "Well", "WaterSource", ""},
+    {"cboGasAccount", "City Light", "GasAccount", "65"},
+    {"txtGasAccountNumber", "G1", "GasAccountNumber", ""},
+    {"cboGasType", "Natural", "GasType", ""},
+    {"cboSewageAccount", "City Light", "SewageAccount", "65"},
+    {"txtSewageAccountNumber", "S1", "SewageAccountNumber", ""},
+    {"cboSewageType", "Septic", "SewageType", ""},
+    {"cboCableAccount", "City Light", "CableAccount", "65"},
+    {"txtCableAccountNumber", "C1", "CableAccountNumber", ""},
+    {"cboTrashAccount", "City Light", "TrashAccount", "65"},
+    {"txtTrashAccountNumber", "T1", "TrashAccountNumber", ""},
+    {"cboSecAccount", "Al Owner", "SecAccount", "61"},
+    {"txtSecVendor", "Watchmen", "SecVendor", ""},
+    {"txtSecAccountNumber", "A-9", "SecAccountNumber", ""},
+    {"txtSecMaster", "4711", "SecMaster", ""},
+    {"txtSecPassword", "swordfish", "SecPassword", ""}};
+
+const std::vector<FieldEntry> kUnitFields = {{"txtUnit", "1", "Unit", ""},
+                                             {"cboUnitStatus", "Avaliable", "Status", ""},
+                                             {"txtRent", "950.00", "Rent", "950"},
+                                             {"txtSqFt", "1200", "SqFt", ""},
+                                             {"txtFaces", "South", "Faces", ""},
+                                             {"txtBedrooms", "3", "Bedrooms", ""},
+                                             {"txtBathrooms", "1.5", "Bathrooms", ""},
+                                             {"txtGarage", "1", "Garage", ""},
+                                             {"txtUnitKeyType", "Abus", "KeyType", ""},
+                                             {"txtUnitKeyCode", "K-8", "KeyCode", ""},
+                                             {"txtSecTenant", "0815", "SecTenant", ""},
+                                             {"chkSplit", "x", "Split", "True"},
+                                             {"chkFireplace", "x", "Fireplace", "True"},
+                                             {"chkWDHookup", "x", "WDHookup", "True"},
+                                             {"chkSmoke", "x", "Smoke", "True"},
+                                             {"chkPetAllowed", "x", "PetAllowed", "True"},
+                                             {"txtmAd", "Sunny", "Ad", ""},
+                                             {"txtmUnitNotes", "Quiet", "Notes", ""},
+                                             {"chkHideUnit", "x", "Hide", "True"}};
+
+class BuildingTest : public support::ScreenTest {
+  protected:
+    BuildingTest() {
+        Run("INSERT INTO Account (IdAccount, ShowAs, AccountType) "
+            "VALUES (65, 'City Light', 'Utility')");
+        Run("INSERT INTO Account (IdAccount, ShowAs, AccountType) "
+            "VALUES (66, 'Sure & Sons', 'Insurance')");
+    }
+    static QPointer<frmBuilding> Open(std::int32_t building, std::int32_t unit = 0,
+                                      std::int32_t fromUnit = 0) {
+        QPointer<frmBuilding> form(new frmBuilding);
+        form->Setup(building, unit, fromUnit);
+        return form;
+    }
+    static std::string Title(const frmBuilding& form) {
+        return Find<QLabel>(form, "lblTitle").text().toStdString();
+    }
+    static void Choose(const frmBuilding& form, const char* action) {
+        Find<QAction>(form, action).trigger();
+    }
+    static std::string Units(const frmBuilding& form) {
+        const QComboBox& list = Find<QComboBox>(form, "cboSelUnit");
+        if (!list.isVisible()) return "hidden";
+        std::string units;
+        for (int row = 0; row < list.count(); ++row) {
+            units +=
+                (row == list.currentIndex() ? "*" : "") + list.itemText(row).toStdString() + " ";
+        }
+        return units;
+    }
+    static void ChooseUnit(const frmBuilding& form, const char* label) {
+        QComboBox& list = Find<QComboBox>(form, "cboSelUnit");
+        support::Choose(form, "cboSelUnit", label);
+        Q_EMIT list.activated(list.currentIndex());
+    }
+    static int OpenBuildings() {
+        int count = 0;
+        for (QWidget* const window : QApplication::topLevelWidgets()) {
+            if (qobject_cast<frmBuilding*>(window) && window->isVisible()) ++count;
+        }
+        return count;
+    }
+};
+
+TEST_F(BuildingTest, EveryFieldOfBothTablesIsBoundOnce) {
+    const auto form = Open(0);
+    std::map<std::string, int> bound;
+    for (const QWidget* const control : core::screens::ControlsOf(*form)) {
+        const std::string tag = core::screens::TagOf(*control);
+        if (tag.find('.') != std::string::npos) ++bound[tag.substr(1)];
+    }
+    std::string faults;
+    for (const std::string table : {"Building", "Unit"}) {
+        platform::Recordset row;
+        row.Open(core::App().Connection, "SELECT * FROM " + table);
+        const Said unbound = {"Id" + table, "Multi", "Selected", "Ccount", "Distance"};
+        for (std::size_t i = 0; i < row.FieldCount(); ++i) {
+            const std::string field = row[i].Name();
+            const bool isLink = table == "Unit" && field == "IdBuilding";
+            const int wanted = isLink || std::ranges::count(unbound, field) > 0 ? 0 : 1;
+            const int found = bound[table + "." + field];
+            if (found != wanted) faults += table + "." + field + " ";
+            bound.erase(table + "." + field);
+        }
+    }
+    for (const auto& [field, count] : bound)
+        faults += field + "? ";
+    EXPECT_EQ(faults, "");
+}
+
+TEST_F(BuildingTest, ANewOneIsEnteredAndReopened) {
+    core::Config().DefaultCounty = "Polk";
+    core::Config().DefaultState = "OR";
+    auto form = Open(0);
+    core::Config().DefaultCounty.clear();
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Single Unit Building"));
+    EXPECT_EQ(Title(*form), "New Building (Press Apply to Save)");
+    EXPECT_EQ(support::ShownFaults(*form, {{"txtDeprPeriod", "27.5", "", ""},
+                                           {"cboDeprMethod", "Straight Line", "", ""},
+                                           {"cboUnitStatus", "Hold", "", ""},
+                                           {"cboHOAFrequency", "", "", ""},
+                                           {"cboPurchFrom", "", "", ""},
+                                           {"txtCounty", "Polk", "", ""},
+                                           {"txtState", "OR", "", ""}}),
+              Said{});
+    EXPECT_EQ(Units(*form), "hidden");
+    EXPECT_FALSE(form->Dirty());
+    support::Enter(*form, kBuildingFields);
+    support::Enter(*form, kUnitFields);
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Building: 7 O'Hara's \"Row\""));
+    EXPECT_EQ(Title(*form), "Editing Building: 7 O'Hara's \"Row\"");
+    EXPECT_EQ(support::StoredFaults("Building", "IdBuilding = 1000", kBuildingFields), Said{});
+    EXPECT_EQ(support::StoredFaults("Unit", "IdBuilding = 1000", kUnitFields), Said{});
+    EXPECT_EQ(Ask("SELECT Multi FROM Building WHERE IdBuilding = 1000"), "False");
+    EXPECT_EQ(Ask("SELECT Ccount FROM Unit WHERE IdUnit = 1001"), "0");
+
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Unit WHERE IdBuilding = 1000"), "1");
+    form = Open(0, 1001);
+    EXPECT_EQ(form->OpenRecordId(), 1000) << "a unit opens its building";
+    const auto shown = [&](std::vector<FieldEntry> fields) {
+        for (FieldEntry& field : fields) {
+            if (field.text == "250000.00") field.text = "250,000.00";
+            if (field.text == "300000.00") field.text = "300,000.00";
+            if (field.text == "200000.00") field.text = "200,000.00";
+            if (field.text == "1000.00") field.text = "1,000.00";
+        }
+        return support::ShownFaults(*form, fields);
+    };
+    EXPECT_EQ(shown(kBuildingFields), Said{});
+    EXPECT_EQ(shown(kUnitFields), Said{});
+    EXPECT_FALSE(form->Dirty());
+}
+
+TEST_F(BuildingTest, WithoutAnAddressNothingIsWritten) {
+    const auto form = Open(0);
+    Type(Find<QLineEdit>(*form, "txtAddress"), "   ");
+    Type(Find<QLineEdit>(*form, "txtUnit"), "7");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{kRoll + "An address must be entered.\n"});
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Building"), "2");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Unit"), "3");
+}
+
+TEST_F(BuildingTest, BuildingAndUnitAreSavedBothOrNeither) {
+    const auto form = Open(0);
+    Type(Find<QLineEdit>(*form, "txtAddress"), "1 New Rd");
+    Find<QLineEdit>(*form, "txtSqFt").setText(QStringLiteral("99999999"));
+    ClickAction(*form, "CLOSE");
+    const Said heard = Heard();
+    ASSERT_EQ(heard.size(), 1U);
+    EXPECT_EQ(heard.front().substr(0, 9), "Vestrel: ") << "no unit is that large";
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Building"), "2");
+    EXPECT_TRUE(form && form->Dirty());
+    EXPECT_EQ(form->Id(), 0);
+    Type(Find<QLineEdit>(*form, "txtSqFt"), "999");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Unit, Building WHERE Unit.IdBuilding = "
+                  "Building.IdBuilding AND Address = '1 New Rd'"),
+              "1");
+}
+
+TEST_F(BuildingTest, AnotherUnitIsChosenWithWhatWasChangedSaved) {
+    const auto form = Open(10);
+    EXPECT_EQ(Units(*form), "*A B ") << "the first one, since none was asked for";
+    Type(Find<QLineEdit>(*form, "txtFaces"), "East");
+    ChooseUnit(*form, "B");
+    EXPECT_EQ(Ask("SELECT Faces FROM Unit WHERE IdUnit = 21"), "East");
+    EXPECT_EQ(form->UnitId(), 20);
+    EXPECT_EQ(support::ShownFaults(*form, {{"txtRent", "950.50", "", ""},
+                                           {"txtFaces", "", "", ""},
+                                           {"cboUnitStatus", "Hold", "", ""}}),
+              Said{})
+        << "an unset field doesn't show the other unit's";
+    EXPECT_FALSE(form->Dirty());
+
+    Find<QLineEdit>(*form, "txtAddress").clear();
+    ChooseUnit(*form, "A");
+    EXPECT_EQ(Heard(), Said{kRoll + "An address must be entered.\n"});
+    EXPECT_EQ(Units(*form), "A *B ") << "refused changes keep the unit";
+    EXPECT_EQ(form->UnitId(), 20);
+}
+
+TEST_F(BuildingTest, ASingleUnitBuildingIsConvertedThenUnitsAreAdded) {
+    const auto form = Open(11);
+    EXPECT_EQ(Units(*form), "hidden");
+    Answer({false, true});
+    Choose(*form, "mnuAddUnit");
+    EXPECT_EQ(Heard(), Said{kConvert});
+    EXPECT_EQ(Ask("SELECT Multi FROM Building WHERE IdBuilding = 11"), "False");
+    EXPECT_FALSE(form->Dirty());
+    Choose(*form, "mnuAddUnit");
+    EXPECT_EQ(Ask("SELECT Multi FROM Building WHERE IdBuilding = 11"), "True");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Unit WHERE IdBuilding = 11"), "1")
+        << "the unit is added by asking again";
+    EXPECT_EQ(Units(*form), "*1 ");
+    Heard();
+    Type(Find<QLineEdit>(*form, "txtBedrooms"), "4");
+    Choose(*form, "mnuAddUnit");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(Ask("SELECT Bedrooms FROM Unit WHERE IdUnit = 22"), "4") << "nothing typed is lost";
+    EXPECT_EQ(Units(*form), "1 *<new> ");
+    EXPECT_EQ(support::ShownFaults(*form, {{"txtUnit", "<new>", "", ""},
+                                           {"txtBedrooms", "", "", ""},
+                                           {"txtRent", "0.00", "", ""}}),
+              Said{});
+    Type(Find<QLineEdit>(*form, "txtUnit"), "");
+    Choose(*form, "mnuAddUnit");
+    EXPECT_EQ(Heard().front().substr(0, 21), "Unit Number Missing: ");
+    EXPECT_EQ(Units(*form), " 1 *<new> ");
+}
+
+TEST_F(BuildingTest, ANewOneStartsAsACopyOfAnother) {
+    Run("UPDATE Unit SET Bedrooms = '3' WHERE IdUnit = 20");
+    const auto form = Open(0, 0, 20);
+    EXPECT_EQ(form->Id(), 0);
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Single Unit Building"));
+    EXPECT_EQ(support::ShownFaults(
+                  *form, {{"txtAddress", "12 Elm St", "", ""}, {"txtBedrooms", "3", "", ""}}),
+              Said{});
+    EXPECT_FALSE(form->Dirty());
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Multi FROM Building WHERE IdBuilding = 1000"), "False");
+    EXPECT_EQ(Ask("SELECT Bedrooms FROM Unit WHERE IdBuilding = 1000"), "3");
+    EXPECT_EQ(Ask("SELECT IdBuilding FROM Unit WHERE IdUnit = 20"), "10");
+}
+
+TEST_F(BuildingTest, TheEquityIsReckonedFromTheValueShown) {
+    const auto form = Open(10);
+    Type(Find<QLineEdit>(*form, "txtMktValue"), "300000");
+    ClickAction(*form, "CALCEQUITY");
+    EXPECT_EQ(Find<QLineEdit>(*form, "txtEquity").text(), QStringLiteral("179,999.75"));
+    EXPECT_EQ(Ask("SELECT Equity FROM Building WHERE IdBuilding = 10"), "NULL");
+    EXPECT_TRUE(form->Dirty());
+}
+
+TEST_F(BuildingTest, ADepreciationScheduleWantsABasisAndATerm) {
+    const auto form = Open(10);
+    ClickAction(*form, "SHOWDEPR");
+    EXPECT_EQ(Heard(), Said{"Error: Depreciation basis must be greater than 0."});
+    Type(Find<QLineEdit>(*form, "txtDeprBasis"), "100");
+    ClickAction(*form, "SHOWDEPR");
+    EXPECT_EQ(Heard(), Said{"Error: Depreciation term must be greater than 0."});
+    Find<QLineEdit>(*form, "txtDeprPeriod").setText(QStringLiteral("1e999"));
+    ClickAction(*form, "SHOWDEPR");
+    EXPECT_EQ(Heard().size(), 1U);
+}
+
+TEST_F(BuildingTest, ThePeriodIsShownWithOneDecimal) {
+    const auto form = Open(0);
+    QLineEdit& period = Find<QLineEdit>(*form, "txtDeprPeriod");
+    for (const auto& [typed, shown] : {std::pair{"39", "39.0"}, {".5", ".5"}, {"", ""}}) {
+        Type(period, typed);
+        Q_EMIT period.editingFinished();
+        EXPECT_EQ(period.text(), QString::fromLatin1(shown));
+    }
+}
+
+TEST_F(BuildingTest, AStatusThatALeaseSetIsNotWrittenBack) {
+    for (const bool dirty : {false, true}) {
+        Run("UPDATE Unit SET Status = 'Hold' WHERE IdUnit = 20");
+        const auto form = Open(0, 20);
+        if (dirty) Type(Find<QLineEdit>(*form, "txtFaces"), "West");
+        core::SetUnitStatus(20, "Leased");
+        EXPECT_EQ(form->Dirty(), dirty);
+        ClickAction(*form, "CLOSE");
+        EXPECT_EQ(Ask("SELECT Status FROM Unit WHERE IdUnit = 20"), "Leased") << dirty;
+        support::SettleEvents();
+    }
+    EXPECT_EQ(Ask("SELECT Faces FROM Unit WHERE IdUnit = 20"), "West");
+}
+
+TEST_F(BuildingTest, WhatWasDeletedElsewhereComesBackUnderItsNumbers) {
+    const auto form = Open(0, 22);
+    exchange::DeleteRecord(core::kUnit, 22, exchange::Confirm::DontAsk);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Building WHERE IdBuilding = 11"), "0");
+    EXPECT_EQ(Find<QLineEdit>(*form, "txtAddress").text(), QStringLiteral("Oak Rd"));
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Address FROM Building WHERE IdBuilding = 11"), "Oak Rd");
+    EXPECT_EQ(Ask("SELECT Unit FROM Unit WHERE IdUnit = 22"), "1");
+}
+
+TEST_F(BuildingTest, ABuildingIsNeverOpenTwice) {
+    for (const std::int16_t kind : {core::kBuilding, core::kUnit})
+        core::RegisterOpener(kind, records::screens::OpenBuilding);
+    core::screens::RegisterOpenForms();
+    core::EditRecord(core::kUnit, 20);
+    EXPECT_EQ(OpenBuildings(), 1);
+    core::EditRecord(core::kUnit, 21);
+    core::EditRecord(core::kBuilding, 10);
+    EXPECT_EQ(OpenBuildings(), 1);
+    core::EditRecord(core::kBuilding, 11);
+    EXPECT_EQ(OpenBuildings(), 2);
+    core::EditRecord(core::kUnit, 0);
+    core::EditRecord(core::kUnit, 0, 0, 22);
+    EXPECT_EQ(OpenBuildings(), 4);
+    for (const std::int16_t kind : {core::kBuilding, core::kUnit})
+        core::RegisterOpener(kind, nullptr);
+}
+
+TEST_F(BuildingTest, AnAccountOfAnotherTypeIsNotLost) {
+    Run("UPDATE Building SET InsAccount = 61, GasAccount = 999 WHERE IdBuilding = 10");
+    auto form = Open(10);
+    core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
+    EXPECT_EQ(Find<QComboBox>(*form, "cboInsurance").currentText(), QStringLiteral("Al Owner"));
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT InsAccount FROM Building WHERE IdBuilding = 10"), "61");
+    EXPECT_EQ(Ask("SELECT GasAccount FROM Building WHERE IdBuilding = 10"), "0")
+        << "but one that has gone is";
+}
+
+TEST_F(BuildingTest, LongAndStrangeTextsComeBackWhole) {
+    const QString strange = QStringLiteral("Bob's \"Höfe\" 🏠 #5, 50% ; -- ") + QString(300, 'x');
+    auto form = Open(0);
+    for (const char* const box : {"txtAddress", "txtZip", "txtUnit"})
+        Find<QLineEdit>(*form, box).setText(strange);
+    Find<QComboBox>(*form, "cboPropType").setEditText(strange);
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Heard(), Said{});
+    form->CloseUnasked();
+    form = Open(1000);
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Building: ") + strange);
+    for (const char* const box : {"txtAddress", "txtZip", "txtUnit"})
+        EXPECT_EQ(Find<QLineEdit>(*form, box).text(), strange) << box;
+    EXPECT_EQ(Find<QComboBox>(*form, "cboPropType").currentText(), strange);
+}
+
+TEST_F(BuildingTest, LooksAndReadsRight) {
+    Run("INSERT INTO OwnerLink (IdOwnerLink, IdBuilding, IdAccount, [Percent], IsPrimary) "
+        "VALUES (90, 10, 61, 60.5, True)");
+    const auto form = Open(10);
+    support::Enter(*form, {{"txtAddress", "12 Elm St", "", ""},
+                           {"txtMktValue", "200000", "", ""},
+                           {"txtmLegal", "Lot 7, block 2", "", ""}});
+    QTabWidget& tabs = Find<QTabWidget>(*form, "tabs");
+    EXPECT_LE(form->width(), 1280);
+    EXPECT_LE(form->height(), 760);
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        SCOPED_TRACE(tab);
+        tabs.setCurrentIndex(tab);
+        support::SettleEvents();
+        EXPECT_EQ(support::MnemonicFaults(*form), Said{});
+        EXPECT_EQ(support::TabOrderFaults(*form), Said{});
+        EXPECT_EQ(support::NameFaults(*form), Said{});
+        EXPECT_EQ(support::Portray(*form, "frmBuilding-" + std::to_string(tab)), Said{});
+    }
+}
+
+} // namespace
