@@ -68,7 +68,11 @@ END
 
 #include "leases/Lease.h"
 #include "ui_frmLease.h"
+
+class frmLease : public core::screens::RecordForm {};
 END
+    put share/help/frmLease.html <<<'<title>Lease</title>'
+    put share/help/contents.txt <<<'frmLease'
     local file
     for file in src/platform/values/Sum.cpp src/core/Old.cpp; do
         printf '{"directory": "TREE", "command": "c++ -std=c++20 -ITREE/src -c %s", "file": "TREE/%s"},' \
@@ -137,7 +141,7 @@ planted() {
 
 makeSoundTree
 freshTree
-for check in format includes clock folders sizes tidy; do
+for check in format includes clock folders sizes help tidy; do
     passes "$check"
 done
 
@@ -187,6 +191,11 @@ planted docs/architecture.md '| `src/core` | again |' 'src/core: told of twice' 
 planted src/core/Big.cpp "$(printf '// x\\n%.0s' {1..600})" 'src/core/Big.cpp: 601 lines' sizes
 plant src/core/Big.cpp "$(printf '// x\\n%.0s' {1..599})"
 passes sizes
+
+planted src/leases/screens/frmRent.h 'class frmRent : public Form {' 'frmRent: has no page' help
+planted share/help/lost.html '<title>Lost</title>' 'lost.html: not told of in contents.txt' help
+planted share/help/contents.txt ' nowhere' 'nowhere: told of in contents.txt, but not there' help
+planted share/help/contents.txt frmLease 'frmLease: told of twice' help
 
 # What hasn't changed for long is looked at with --all alone; what passed is kept as passed.
 freshTree
