@@ -78,25 +78,26 @@ TEST_F(HelpTest, TheSearchFindsTheWordsInThePages) {
     int left = 0;
     QObject::connect(&search, &QHelpSearchEngine::indexingFinished, form, [&] { ++left; });
     ASSERT_TRUE(QTest::qWaitFor([&] { return left > 0; }, 20000)) << "the pages are read first";
-    for (const auto& [words, page] : {std::pair{"speaks for the building", "frmOwnerLink.html"},
-                                      {"week to week", "frmConfig.html"},
-                                      {"xyzzy", ""}}) {
+    const auto pagesWith = [&](const char* words) {
         bool done = false;
         const auto connection = QObject::connect(&search, &QHelpSearchEngine::searchingFinished,
                                                  form, [&] { done = true; });
         search.search(QString::fromLatin1(words));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return done; }, 20000)) << words;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return done; }, 20000)) << words;
         QObject::disconnect(connection);
         QStringList found;
         for (const QHelpSearchResult& result : search.searchResults(0, search.searchResultCount()))
             found << result.url().fileName();
-        if (*page == 0) {
-            EXPECT_TRUE(found.isEmpty()) << words;
-        } else {
-            EXPECT_TRUE(found.contains(QString::fromLatin1(page)))
-                << words << ": " << found.join(QLatin1Char(' ')).toStdString();
-        }
+        return found;
+    };
+    for (const auto& [words, page] : {std::pair{"speaks for the building", "frmOwnerLink.html"},
+                                      {"week to week", "frmConfig.html"}}) {
+        // The engine may read the pages once more, and finds none meanwhile.
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return pagesWith(words).contains(QString::fromLatin1(page)); }, 20000))
+            << words;
     }
+    EXPECT_TRUE(pagesWith("xyzzy").isEmpty());
 }
 
 TEST_F(HelpTest, TheContentsNameEveryPage) {
