@@ -139,9 +139,10 @@ void frmLease::FillLists() {
         more_->cboSubsidyType->addItem(tr("Account"), core::kAccount);
         more_->cboSubsidyType->addItem(tr("Tenant"), core::kTenant);
     }
-    FillPayors();
-    FillList(core::kUnit, *terms_->cboIdUnit, {.addNone = true});
-    FillList(core::kTenant, *terms_->cboIdTenant, {.addNone = true});
+    // A list that can't be filled to its end doesn't keep the others from being filled.
+    Guarded([this] { FillPayors(); });
+    Guarded([this] { FillList(core::kUnit, *terms_->cboIdUnit, {.addNone = true}); });
+    Guarded([this] { FillList(core::kTenant, *terms_->cboIdTenant, {.addNone = true}); });
 }
 
 void frmLease::FillPayors() {
@@ -158,6 +159,12 @@ void frmLease::ShowProposal() {
 
 void frmLease::ShowRow(platform::Recordset& row) {
     RecordForm::ShowRow(row);
+    // A word that isn't offered stays the lease's until another is chosen.
+    for (QComboBox* const combo : {terms_->cboTermType, terms_->cboExpireOption}) {
+        const auto word = row[core::screens::FieldOfTag(core::screens::TagOf(*combo))];
+        const std::string text = word.IsNull() ? std::string() : word.AsText();
+        core::screens::SelectByText(*combo, text, {.setText = true});
+    }
     // The list of payors depends on a field that may be bound after it.
     FillPayors();
     if (!row["SubsidyId"].IsNull()) {

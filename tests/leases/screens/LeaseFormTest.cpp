@@ -371,6 +371,27 @@ TEST_F(LeaseForm, ALeaseWhoseDatesAreBrokenStillOpensToBeMended) {
     EXPECT_EQ(Lease("RentStatus"), "OK");
 }
 
+TEST_F(LeaseForm, AWordThatIsNotOfferedStays) {
+    for (const auto* word : {"Yearly", "Weekly", "Years(s)", ""}) {
+        Set("TermType", word);
+        Set("ExpireOption", word);
+        const auto form = Open();
+        EXPECT_EQ(Text(*form, "cboTermType"), word);
+        EXPECT_FALSE(form->Dirty());
+        ClickAction(*form, "CLOSE");
+        EXPECT_EQ(Lease("TermType"), word);
+        EXPECT_EQ(Lease("ExpireOption"), word);
+        support::SettleEvents();
+    }
+}
+
+TEST_F(LeaseForm, AListThatEndsEarlySaysSoAndTheOthersAreThere) {
+    Run("UPDATE Unit SET Unit = NULL WHERE IdUnit = 22");
+    const auto form = Open(0);
+    EXPECT_EQ(Heard().size(), 1U);
+    EXPECT_EQ(Find<QComboBox>(*form, "cboIdTenant").count(), 4);
+}
+
 TEST_F(LeaseForm, ALeaseWhoseUnitIsGoneCanBeGivenAnotherAndBePaid) {
     Charge("05/01/2024", 950, RentFlags::PeriodRent);
     Run("DELETE * FROM Unit WHERE IdUnit = 20");
