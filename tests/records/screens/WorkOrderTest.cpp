@@ -5,10 +5,11 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QTabWidget>
+#include <QToolButton>
 
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "documents/AttachFile.h"
+#include "exchange/DeleteRecord.h"
 #include "records/screens/Fields.h"
 #include "records/screens/frmWoItem.h"
 #include "support/screens/Driving.h"
@@ -197,6 +198,36 @@ TEST_F(WorkOrderTest, HistoryIsWrittenToItsOrder) {
     item->Setup(1000, 0);
     EXPECT_EQ(item->Id(), 0) << "the entry has gone meanwhile";
     item->CloseUnasked();
+}
+
+TEST_F(WorkOrderTest, HistoryIsRemovedFromItsList) {
+    Run("INSERT INTO WorkOrder (IdWorkOrder, ShortDesc) VALUES (500, 'Roof')");
+    Run("INSERT INTO WOItem (IdWOItem, IdWorkOrder, Description) VALUES (510, 500, 'Called')");
+    Run("INSERT INTO WOItem (IdWOItem, IdWorkOrder, Description) VALUES (511, 500, 'Came')");
+    const auto form = Open(500);
+    Find<QTabWidget>(*form, "tabs").setCurrentIndex(1);
+    Find<core::screens::Grid>(*form, "grd").SelectId(511);
+    Answer({true});
+    support::ClickOn(Find<QToolButton>(Find<QWidget>(*form, "ucHistory"), "cmdDelete"));
+    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Work Order History?"});
+    EXPECT_EQ(Ask("SELECT MAX(IdWOItem) FROM WOItem"), "510");
+    EXPECT_EQ(support::GridText(Find<core::screens::Grid>(*form, "grd")),
+              "Entry Date|Description\n |Called\n");
+    EXPECT_FALSE(form->Dirty());
+}
+
+TEST_F(WorkOrderTest, ComesBackUnderItsNumberWhenSavedAfterItsRemoval) {
+    Run("INSERT INTO WorkOrder (IdWorkOrder, ShortDesc, IdUnit) VALUES (500, 'Roof', 20)");
+    Run("INSERT INTO FileObject (IdFileObject, dbType, IdOwner, FilePath) "
+        "VALUES (520, 6, 500, '/a.txt')");
+    const auto form = Open(500);
+    EXPECT_TRUE(exchange::DeleteRecord(core::kWorkOrder, 500, exchange::Confirm::DontAsk));
+    EXPECT_EQ(Ask("SELECT Count(*) FROM WorkOrder"), "0");
+    EXPECT_TRUE(form && form->isVisible());
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT ShortDesc FROM WorkOrder WHERE IdWorkOrder = 500 AND IdUnit = 20"),
+              "Roof");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM FileObject"), "0");
 }
 
 TEST_F(WorkOrderTest, AChangeIsLeftOnlyWhenAgreed) {
