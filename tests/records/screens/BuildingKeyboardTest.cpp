@@ -3,7 +3,11 @@
 #include <QPointer>
 #include <QTest>
 
+#include "core/EditRecord.h"
+#include "core/RecordKinds.h"
 #include "records/screens/frmBuilding.h"
+#include "records/screens/frmManagerLink.h"
+#include "records/screens/frmOwnerLink.h"
 #include "support/screens/Driving.h"
 #include "support/screens/ScreenFixture.h"
 
@@ -12,6 +16,23 @@ namespace {
 using records::screens::frmBuilding;
 using support::TypeAndTab;
 using Said = std::vector<std::string>;
+
+/// Opens records of a kind on their screen, while it lives.
+template <class Screen>
+struct Opening {
+    explicit Opening(std::int16_t of) : kind(of) {
+        core::RegisterOpener(kind, [this](const core::EditRequest& request) {
+            form = new Screen;
+            form->Setup(request.id, request.parent1);
+        });
+    }
+    ~Opening() { core::RegisterOpener(kind, nullptr); }
+    Opening(const Opening&) = delete;
+    Opening& operator=(const Opening&) = delete;
+
+    std::int16_t kind;
+    QPointer<Screen> form;
+};
 
 /// A person without a mouse.
 class BuildingKeyboardTest : public support::ScreenTest {
@@ -77,6 +98,42 @@ TEST_F(BuildingKeyboardTest, EntersABuildingOfThreeUnits) {
             row["Unit"].AsText() + " " + row["Status"].AsText() + " " + row["Rent"].AsText() + "\n";
     }
     EXPECT_EQ(units, "1A Avaliable 950.5\n2B Hold 800\n3C Hold 800\n");
+}
+
+TEST_F(BuildingKeyboardTest, GivesItAnOwnerAndAManager) {
+    Run("INSERT INTO Account (IdAccount, ShowAs, AccountType) "
+        "VALUES (64, 'Mo''s Management', 'Building Manager')");
+    Opening<records::screens::frmOwnerLink> owners(core::kOwner);
+    Opening<records::screens::frmManagerLink> managers(core::kManager);
+    TypeAndTab(*form_, "5 Owner St");
+    Press(Qt::Key_S, Qt::ControlModifier);
+    TabTo("tabs"); // of the lists, the owners' being the first
+    TabTo("cmdAdd");
+    Press(Qt::Key_Space);
+    ASSERT_TRUE(owners.form);
+    QApplication::setActiveWindow(owners.form);
+    for (const char* const text : {"5", "Jo", "100"})
+        TypeAndTab(*owners.form, text);
+    QTest::keyClick(owners.form->focusWidget(), Qt::Key_Space); // the primary one
+    QTest::keyClick(owners.form->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Ask("SELECT IdAccount FROM OwnerLink WHERE IdBuilding = 1000 AND IsPrimary = True "
+                  "AND [Percent] = 100"),
+              "62");
+
+    QApplication::setActiveWindow(form_);
+    Press(Qt::Key_Backtab);
+    Press(Qt::Key_Right); // the managers' list
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Space);
+    ASSERT_TRUE(managers.form);
+    QApplication::setActiveWindow(managers.form);
+    for (const char* const text : {"5", "Mo", "02/29/2024", "2", "Year"})
+        TypeAndTab(*managers.form, text);
+    QTest::keyClick(managers.form->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Ask("SELECT DateStart & Term & TermType FROM ManagerLink WHERE IdBuilding = 1000 "
+                  "AND IdAccount = 64"),
+              "02/29/20242Year(s)");
+    EXPECT_EQ(Heard(), Said{});
 }
 
 TEST_F(BuildingKeyboardTest, TheMenuOpensByItsLetter) {

@@ -222,10 +222,13 @@ TEST_F(BuildingTest, ANewOneIsEnteredAndReopened) {
               Said{});
     EXPECT_EQ(Units(*form), "hidden");
     EXPECT_FALSE(form->Dirty());
+    const QWidget& addDeposit = Find<QWidget>(Find<QWidget>(*form, "ucDeposits"), "cmdAdd");
+    EXPECT_FALSE(addDeposit.isEnabled());
     support::Enter(*form, kBuildingFields);
     support::Enter(*form, kUnitFields);
     ClickAction(*form, "APPLY");
     EXPECT_EQ(Heard(), Said{});
+    EXPECT_TRUE(addDeposit.isEnabled()) << "what hangs from it can be added now";
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Building: 7 O'Hara's \"Row\""));
     EXPECT_EQ(Title(*form), "Editing Building: 7 O'Hara's \"Row\"");
     EXPECT_EQ(support::StoredFaults("Building", "IdBuilding = 1000", kBuildingFields), Said{});

@@ -213,6 +213,8 @@ TEST_F(FurnishingTest, LookAndReadRight) {
     const auto form = Open<frmAppliance>(70);
     Find<QTabWidget>(*form, "tabs").setCurrentIndex(1);
     EXPECT_EQ(support::Portray(*form, "frmAppliance-contracts"), Said{});
+    Find<QTabWidget>(*form, "tabs").setCurrentIndex(2);
+    EXPECT_EQ(support::Portray(*form, "frmAppliance-files"), Said{});
 }
 
 } // namespace
