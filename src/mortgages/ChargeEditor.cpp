@@ -4,7 +4,7 @@
 #include "core/RecordKinds.h"
 #include "core/RecordNotices.h"
 #include "core/Session.h"
-#include "mortgages/Fields.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/system/Clock.h"
 
 namespace mortgages {

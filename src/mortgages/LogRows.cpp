@@ -5,7 +5,7 @@
 #include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "exchange/DeleteRecord.h"
-#include "mortgages/Fields.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
 

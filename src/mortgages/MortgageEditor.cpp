@@ -3,9 +3,9 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "mortgages/Fields.h"
 #include "mortgages/MortgageUpkeep.h"
 #include "mortgages/mMortgage.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Text.h"
 

@@ -5,7 +5,7 @@
 #include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "mortgages/Fields.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 

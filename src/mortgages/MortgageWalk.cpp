@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "mortgages/Fields.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/values/Errors.h"
 
 namespace mortgages {

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "core/Globals.h"
-#include "mortgages/Fields.h"
 #include "mortgages/MortgageLog.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/system/Clock.h"
 
 namespace mortgages {

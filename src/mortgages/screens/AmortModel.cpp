@@ -65,8 +65,8 @@ QVariant AmortModel::headerData(int section, Qt::Orientation orientation, int ro
     if (!grid_ || orientation != Qt::Horizontal) return {};
     const AmortColumn& column = grid_->Columns()[static_cast<std::size_t>(section)];
     if (role == Qt::DisplayRole) return ToScreen(column.caption);
-    if (role == Qt::TextAlignmentRole && !StandsLeft(column))
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole)
+        return QVariant((StandsLeft(column) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     return {};
 }
 

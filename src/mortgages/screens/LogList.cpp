@@ -75,7 +75,7 @@ LogList::LogList(QWidget* parent) : QTreeWidget(parent) {
 }
 
 void LogList::SetColumns(const QStringList& captions, int texts, int wide) {
-    texts_ = texts;
+    wide_ = wide;
     setHeaderLabels(captions);
     for (int column = texts + 1; column < columnCount(); ++column)
         headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
@@ -98,7 +98,7 @@ void LogList::ShowLines(const std::vector<LogLine>& lines) {
     addTopLevelItems(items);
     setSortingEnabled(true);
     for (QTreeWidgetItem* const item : items) {
-        item->setSizeHint(0, QSize(0, fontMetrics().height() + 6));
+        item->setSizeHint(wide_, QSize(0, fontMetrics().height() + 6));
         if (item->data(0, kIdRole).toInt() == current) setCurrentItem(item);
     }
     filling_ = false;

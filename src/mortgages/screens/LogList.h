@@ -55,7 +55,7 @@ class LogList : public QTreeWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    int texts_ = 0;
+    int wide_ = 0;
     bool ticks_ = false;
     bool filling_ = false;
 };

@@ -67,6 +67,7 @@ void MtgLog::MakeButtons() {
                          "DELETE");
     pay_ = MakeButton(tr("&Make Payment"), tr("Pay charges of this mortgage"), "cmdPayment",
                       "PAYMENT");
+    pay_->setMinimumWidth(pay_->sizeHint().width() + 16);
     auto* const row = new QHBoxLayout;
     for (QWidget* const button : {add_, edit_, delete_})
         row->addWidget(button);
