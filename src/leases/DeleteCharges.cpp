@@ -9,23 +9,21 @@
 
 namespace leases {
 
+namespace {
+
+bool Agreed(const std::vector<std::int32_t>& ids, std::string_view question) {
+    if (ids.size() == 1) return exchange::AgreedToDelete(core::kRentLog, ids.front());
+    return platform::TheDialogs().AskYesNo("Confirm Delete", question, platform::Icon::Question);
+}
+
+} // namespace
+
 bool DeleteCharges(std::int32_t idLease, const std::vector<std::int32_t>& ids,
                    std::string_view question) {
-    if (ids.empty()) return false;
-    const bool several = ids.size() > 1;
-    if (several &&
-        !platform::TheDialogs().AskYesNo("Confirm Delete", question, platform::Icon::Question)) {
-        return false;
-    }
-    if (!several && !exchange::DeleteRecord(core::kRentLog, ids.front(), exchange::Confirm::Ask,
-                                            exchange::Tell::Nobody)) {
-        return false;
-    }
+    if (ids.empty() || !Agreed(ids, question)) return false;
     platform::UnitOfWork unit(core::App().Connection);
-    if (several) {
-        for (const std::int32_t id : ids)
-            exchange::RemoveRecord(core::kRentLog, id, exchange::Tell::Nobody);
-    }
+    for (const std::int32_t id : ids)
+        exchange::RemoveRecord(core::kRentLog, id, exchange::Tell::Nobody);
     StoreBalances(idLease);
     unit.Commit();
     core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);

@@ -6,6 +6,7 @@
 #include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
@@ -34,32 +35,21 @@ std::string NameOf(std::int16_t kind, std::int32_t id) {
     return core::GetDescription(kind, id, 0, false);
 }
 
-std::string TextOf(const platform::Field& field) {
-    return field.IsNull() ? std::string() : field.AsText();
-}
-
-std::int32_t IdOf(const platform::Field& field) {
-    return field.IsNull() ? 0 : field.AsLong();
-}
-
 void AddRows(RentPayment& payment, Recordset& rows, bool selected) {
     for (; !rows.Eof(); rows.MoveNext()) {
-        const auto flags =
-            RentFlags{rows["Flags"].IsNull() ? std::int16_t{0} : rows["Flags"].AsInteger()};
+        const auto flags = RentFlags{CountOf(rows["Flags"])};
         if (flags == RentFlags::Payment) {
             if (payment.idTransaction != 0 && selected)
                 payment.idPaymentRow = rows["IdRentLog"].AsLong();
             continue;
         }
-        payment.charges.push_back(
-            {.idRentLog = rows["IdRentLog"].AsLong(),
-             .datePosted =
-                 rows["DatePosted"].IsBlank() ? platform::Date() : rows["DatePosted"].AsDate(),
-             .category = TextOf(rows["Category"]),
-             .amount = rows["Amount"].IsNull() ? Currency() : rows["Amount"].AsCurrency(),
-             .description = TextOf(rows["Description"]),
-             .flags = flags,
-             .selected = selected});
+        payment.charges.push_back({.idRentLog = rows["IdRentLog"].AsLong(),
+                                   .datePosted = DateOf(rows["DatePosted"]),
+                                   .category = TextOf(rows["Category"]),
+                                   .amount = MoneyOf(rows["Amount"]),
+                                   .description = TextOf(rows["Description"]),
+                                   .flags = flags,
+                                   .selected = selected});
     }
 }
 

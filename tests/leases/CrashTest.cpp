@@ -3,15 +3,19 @@
 #include <gtest/gtest.h>
 
 #include "core/Globals.h"
+#include "leases/ChargeEditor.h"
 #include "leases/Crashes.h"
+#include "leases/DeleteCharges.h"
 #include "leases/LeaseCommands.h"
 #include "leases/LeaseEditor.h"
 #include "leases/LeaseFixture.h"
 #include "leases/LeaseWizard.h"
+#include "leases/Ledger.h"
 #include "leases/RentPayment.h"
 #include "leases/RentSplit.h"
 #include "leases/mLease.h"
 #include "platform/system/Clock.h"
+#include "support/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 
 namespace tests {
@@ -92,6 +96,31 @@ TEST_F(Crash, ASplitIsNeverHalf) {
                     leases::SaveSplit(*split);
                 }),
                 8);
+}
+
+TEST_F(Crash, AChargesSaveOrRemovalIsNeverHalf) {
+    ExpectWhole(CrashAtEveryStatement([] {
+                    platform::Recordset row;
+                    row.Open(core::App().Connection, "RentLog", platform::CursorMode::AppendOnly);
+                    row.AddNew();
+                    row["IdRentLog"].Set(std::int32_t{900});
+                    leases::SaveCharge(row, {.idLease = kLeaseId,
+                                             .datePosted = Date(2024, 2, 1),
+                                             .amount = platform::Currency::FromUnits(7)});
+                }),
+                4);
+    for (const std::size_t count : {1U, 3U}) {
+        ExpectWhole(CrashAtEveryStatement([count] {
+                        const support::ScriptedDialogs person({true});
+                        std::vector<std::int32_t> ids;
+                        for (const leases::LedgerRow& charge :
+                             leases::ReadLedger(kLeaseId, leases::kLedgerTabs[0])) {
+                            if (ids.size() < count) ids.push_back(charge.idRentLog);
+                        }
+                        leases::DeleteCharges(kLeaseId, ids, "All?");
+                    }),
+                    5);
+    }
 }
 
 TEST_F(Crash, ACommandIsNeverHalf) {
