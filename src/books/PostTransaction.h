@@ -42,7 +42,7 @@ struct Transaction {
     std::int32_t idWorkOrder = 0;
 };
 
-/// Who starts the events that a new row triggers.
+/// Whether a new row starts the events that wait for one like it.
 enum class Triggers { Fire, Skip };
 
 /// Adds a row to the transactions: the one way that rows reach the table. Before the row is kept

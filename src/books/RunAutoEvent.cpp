@@ -2,12 +2,12 @@
 
 #include "books/AutoEvent.h"
 #include "books/PostTransaction.h"
-#include "books/Reading.h"
 #include "books/TellLists.h"
 #include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
@@ -22,8 +22,8 @@ constexpr std::size_t kNameCharacters = 30;
 constexpr std::string_view kCheckNumber = "AutoEvent";
 
 Party PartyOf(Recordset& event, std::string_view typeField, std::string_view idField) {
-    const std::int16_t type = ShortOr0(event[typeField]);
-    const std::int32_t id = LongOr0(event[idField]);
+    const std::int16_t type = CountOf(event[typeField]);
+    const std::int32_t id = IdOf(event[idField]);
     return {type, id, core::GetDescription(type, id, kNameCharacters)};
 }
 
@@ -31,17 +31,17 @@ Transaction PostingOf(Recordset& event, Date date) {
     return {.dateEffective = date,
             .debit = PartyOf(event, "DebitType", "DebitId"),
             .credit = PartyOf(event, "CreditType", "CreditId"),
-            .amount = MoneyOr0(event["Amount"]),
+            .amount = MoneyOf(event["Amount"]),
             .taxCategory = TextOf(event["TaxCategory"]),
-            .ien = Ien{ShortOr0(event["IEN"])},
+            .ien = Ien{CountOf(event["IEN"])},
             .checkNumber = std::string(kCheckNumber),
             .description = TextOf(event["Description"]),
-            .idTenant = LongOr0(event["IdTenant"]),
-            .idBuilding = LongOr0(event["IdBuilding"]),
-            .idUnit = LongOr0(event["IdUnit"]),
-            .idLease = LongOr0(event["IdLease"]),
-            .idMortgage = LongOr0(event["IdMortgage"]),
-            .idWorkOrder = LongOr0(event["IdWorkOrder"])};
+            .idTenant = IdOf(event["IdTenant"]),
+            .idBuilding = IdOf(event["IdBuilding"]),
+            .idUnit = IdOf(event["IdUnit"]),
+            .idLease = IdOf(event["IdLease"]),
+            .idMortgage = IdOf(event["IdMortgage"]),
+            .idWorkOrder = IdOf(event["IdWorkOrder"])};
 }
 
 } // namespace
@@ -55,9 +55,9 @@ void RunAutoEvent(std::int32_t idAutoEvent, Date date) {
 
     platform::UnitOfWork unit(core::App().Connection);
     const bool posts =
-        EventAction{ShortOr0(event["EventAction"])} == EventAction::ProcessTransaction;
+        EventAction{CountOf(event["EventAction"])} == EventAction::ProcessTransaction;
     if (posts) PostTransaction(PostingOf(event, date), Triggers::Skip);
-    if (BooleanOf(event["Alert"])) {
+    if (FlagOf(event["Alert"])) {
         core::AddAlert(fmt::format("Auto Event Launched: {} [{}]", TextOf(event["Description"]),
                                    date.ToText()),
                        date);

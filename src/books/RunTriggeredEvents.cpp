@@ -6,9 +6,9 @@
 #include <fmt/core.h>
 
 #include "books/AutoEvent.h"
-#include "books/Reading.h"
 #include "core/Globals.h"
 #include "core/RecordHelpers.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Text.h"

@@ -1,7 +1,6 @@
 #include "books/SaveTransaction.h"
 
 #include "books/Mileage.h"
-#include "books/Reading.h"
 #include "books/RunTriggeredEvents.h"
 #include "books/TransactionListeners.h"
 #include "books/TransactionRow.h"
@@ -9,6 +8,7 @@
 #include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "exchange/DeleteRecord.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 
 namespace books {

@@ -7,11 +7,11 @@
 
 #include "books/AutoEvent.h"
 #include "books/EventSchedule.h"
-#include "books/Reading.h"
 #include "books/TellLists.h"
 #include "core/Globals.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
@@ -33,8 +33,8 @@ struct EventOutcome {
 };
 
 EventSchedule ScheduleOf(Recordset& event) {
-    return {IntervalType{ShortOr0(event["IntervalType"])}, ShortOr0(event["IntervalPeriod"]),
-            event["LastRun"].IsBlank() ? Date() : event["LastRun"].AsDate()};
+    return {IntervalType{CountOf(event["IntervalType"])}, CountOf(event["IntervalPeriod"]),
+            DateOf(event["LastRun"])};
 }
 
 std::string DescriptionOf(Recordset& event) {
@@ -52,8 +52,8 @@ std::optional<EventOutcome> RunIfDue(Recordset& event) {
     outcome.description = DescriptionOf(event);
     outcome.category = TextOf(event["TaxCategory"]);
     RunAutoEvent(outcome.id, *due);
-    if (EventAction{ShortOr0(event["EventAction"])} == EventAction::ProcessTransaction) {
-        outcome.posted = {*due, {}, MoneyOr0(event["Amount"])};
+    if (EventAction{CountOf(event["EventAction"])} == EventAction::ProcessTransaction) {
+        outcome.posted = {*due, {}, MoneyOf(event["Amount"])};
     }
     return outcome;
 }
@@ -80,7 +80,7 @@ bool ScheduledEvents::RunScheduledEvents() {
     bool ran = false;
     UnitOfWork pass(core::App().Connection);
     for (; !events.Eof(); events.MoveNext()) {
-        const std::int32_t id = LongOr0(events["IdAutoEvent"]);
+        const std::int32_t id = IdOf(events["IdAutoEvent"]);
         if (passedOver_.contains(id)) continue;
         try {
             if (auto outcome = RunIfDue(events)) {

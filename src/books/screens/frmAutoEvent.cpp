@@ -2,14 +2,15 @@
 
 #include "books/AutoEventRules.h"
 #include "books/EventSchedule.h"
-#include "books/Reading.h"
 #include "books/screens/CategoryBox.h"
 #include "core/RecordKinds.h"
 #include "core/screens/ComboList.h"
 #include "core/screens/TabPages.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Conversions.h"
+#include "platform/values/Format.h"
 #include "ui_frmAutoEvent.h"
 
 namespace books::screens {
@@ -28,7 +29,7 @@ void Offer(QComboBox& box, const QString& text, Code code) {
 }
 
 void ShowParty(PartyBoxes& boxes, Recordset& row, std::string_view idField) {
-    boxes.ShowStored(LongOr0(row[idField]));
+    boxes.ShowStored(IdOf(row[idField]));
 }
 
 } // namespace
@@ -85,15 +86,17 @@ void frmAutoEvent::ShowRow(Recordset& row) {
     ShowParty(*trigger_, row, "TriggerID");
     ShowParty(*from_, row, "DebitId");
     ShowParty(*to_, row, "CreditId");
-    const Ien ien{ShortOr0(row["IEN"])};
+    const Ien ien{CountOf(row["IEN"])};
     if (!row["TaxCategory"].IsNull()) {
         ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), ien});
     }
     if (!row["TriggerTaxCategory"].IsNull()) {
         ShowCategory(*ui_->cboTriggerCategory, {row["TriggerTaxCategory"].AsText(), Ien::Income});
     }
-    const std::string lastRun = TextOf(row["LastRun"]);
-    ui_->lblLastRun->setText(lastRun.empty() ? tr("Never") : ToScreen(lastRun));
+    ui_->lblLastRun->setText(
+        row["LastRun"].IsBlank()
+            ? tr("Never")
+            : ToScreen(platform::Format(row["LastRun"].Value(), platform::kDateFormat)));
     references_->ShowAvailable();
     ShowAvailable();
 }

@@ -1,11 +1,11 @@
 #include "books/screens/frmTransaction.h"
 
-#include "books/Reading.h"
 #include "books/SaveTransaction.h"
 #include "books/screens/CategoryBox.h"
 #include "core/Globals.h"
 #include "core/screens/Binding.h"
 #include "core/screens/ControlValue.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "ui_frmTransaction.h"
@@ -72,17 +72,17 @@ void frmTransaction::ShowTemplate(std::int32_t idTemplate) {
 
 void frmTransaction::ShowRow(Recordset& row) {
     ShowFields(row);
-    transactionClass_ = ShortOr0(row["Class"]);
-    flags_ = ShortOr0(row["Flags"]);
-    ui_->chkMileage->setChecked(LongOr0(row["IdMileage"]) != 0);
+    transactionClass_ = CountOf(row["Class"]);
+    flags_ = CountOf(row["Flags"]);
+    ui_->chkMileage->setChecked(IdOf(row["IdMileage"]) != 0);
 }
 
 void frmTransaction::ShowFields(Recordset& row) {
     RecordForm::ShowRow(row);
-    from_->ShowStored(LongOr0(row["DebitId"]), TextOf(row["DebitDesc"]));
-    to_->ShowStored(LongOr0(row["CreditId"]), TextOf(row["CreditDesc"]));
+    from_->ShowStored(IdOf(row["DebitId"]), TextOf(row["DebitDesc"]));
+    to_->ShowStored(IdOf(row["CreditId"]), TextOf(row["CreditDesc"]));
     if (!row["TaxCategory"].IsNull()) {
-        ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), Ien{ShortOr0(row["IEN"])}});
+        ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), Ien{CountOf(row["IEN"])}});
     }
     references_->ShowAvailable();
 }

@@ -6,6 +6,7 @@
 #include "core/screens/ErrorRoll.h"
 #include "core/screens/TabPages.h"
 #include "documents/screens/FileObjects.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "records/WorkOrderRules.h"
@@ -19,14 +20,6 @@ namespace records::screens {
 
 using core::screens::FillList;
 using core::screens::GetSelectedId;
-
-namespace {
-
-std::int32_t IdOf(const platform::Field& field) {
-    return field.IsNull() ? 0 : field.AsLong();
-}
-
-} // namespace
 
 frmWorkOrder::frmWorkOrder(QWidget* parent)
     : RecordForm({core::kWorkOrder, "WorkOrder", "IdWorkOrder"}, parent),
