@@ -12,8 +12,9 @@ namespace core::screens {
 
 namespace {
 
-constexpr int kMargin = 17;   // 250 twips, a sixth of an inch
-constexpr int kSamples = 500; // rows that are measured; up to so many, all of them
+constexpr int kMargin = 17;       // 250 twips, a sixth of an inch
+constexpr int kSamples = 500;     // rows that are measured; up to so many, all of them
+constexpr int kFirstSamples = 60; // while rows are still read, after which the widths come anew
 
 constexpr std::string_view kGridInfoKey = R"(SOFTWARE\Vestrel\GridInfo)";
 
@@ -28,13 +29,13 @@ std::string WidthsName(const Grid& grid) {
     return "ColData_" + platform::qt::FromScreen(grid.StoreName());
 }
 
-/// The rows to judge a grid by: all, or as many as kSamples evenly spread from first to last.
-std::vector<int> SampleRows(int rowCount) {
-    std::vector<int> rows(static_cast<std::size_t>(std::min(rowCount, kSamples)));
+/// The rows to judge a grid by: all, or as many as `samples` evenly spread from first to last.
+std::vector<int> SampleRows(int rowCount, int samples = kSamples) {
+    std::vector<int> rows(static_cast<std::size_t>(std::min(rowCount, samples)));
     const int count = static_cast<int>(rows.size());
     for (int i = 0; i < count; ++i) {
         const auto at =
-            rowCount <= kSamples ? i : static_cast<std::int64_t>(rowCount - 1) * i / (kSamples - 1);
+            rowCount <= samples ? i : static_cast<std::int64_t>(rowCount - 1) * i / (samples - 1);
         rows[static_cast<std::size_t>(i)] = static_cast<int>(at);
     }
     return rows;
@@ -93,7 +94,9 @@ std::vector<int> Grid::WantedWidths() const {
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics header(bold);
-    const std::vector<int> rows = SampleRows(model_.RowsAtHand());
+    const bool isAtHand = model_.RowsAtHand() == model_.rowCount();
+    const std::vector<int> rows =
+        SampleRows(model_.RowsAtHand(), isAtHand ? kSamples : kFirstSamples);
     std::vector<int> widths;
     for (int column = 0; column < model_.columnCount(); ++column) {
         int widest = header.horizontalAdvance(model_.Caption(column));
