@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QImageReader>
+#include <mutex>
 
 namespace documents::screens {
 
@@ -11,6 +12,12 @@ namespace {
 // Some formats are read whole before they are scaled down.
 constexpr int kMostMegabytes = 256;
 constexpr qint64 kMostPixels = 300'000'000;
+
+/// The limit is the whole process's, and pictures are read on several threads.
+void LimitMemory() {
+    static std::once_flag once;
+    std::call_once(once, [] { QImageReader::setAllocationLimit(kMostMegabytes); });
+}
 
 /// The size to read at: the picture's own, or as much less as the bound asks for.
 QSize ReadSize(const QImageReader& reader, QSize own, QSize bound) {
@@ -25,7 +32,7 @@ PictureRead ReadPicture(const QString& path, QSize bound) {
     // Anything but a file (a pipe, say) might never end.
     if (!QFileInfo(path).isFile()) return {{}, PictureFault::Missing};
     QImageReader reader(path);
-    QImageReader::setAllocationLimit(kMostMegabytes);
+    LimitMemory();
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     const QSize own = reader.size();
