@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTabWidget>
+#include <algorithm>
 
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
@@ -9,8 +10,10 @@
 #include "core/screens/OpenForms.h"
 #include "core/screens/RecordForm.h"
 #include "kestrom/Wiring.h"
+#include "platform/database/Recordset.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
+#include "platform/values/Format.h"
 #include "shell/Registrations.h"
 #include "shell/SampleLife.h"
 #include "support/screens/Driving.h"
@@ -91,6 +94,49 @@ class Editors : public support::ScreenTest {
             Ask(std::string("SELECT Max(") + kind.idField + ") FROM " + kind.table);
         return id == "NULL" ? 0 : std::stoi(id);
     }
+    /// The ids of a few records of a kind: every so many of them.
+    static std::vector<std::int32_t> SomeIds(const Kind& kind) {
+        platform::Recordset rows;
+        rows.Open(core::App().Connection, std::string("SELECT ") + kind.idField + " FROM " +
+                                              kind.table + " ORDER BY " + kind.idField);
+        const std::int64_t step = std::max<std::int64_t>(1, rows.RecordCount() / 6);
+        std::vector<std::int32_t> ids;
+        for (std::int64_t at = 1; at <= rows.RecordCount(); at += step) {
+            rows.SetAbsolutePosition(at);
+            ids.push_back(rows[0].AsLong());
+        }
+        return ids;
+    }
+    /// "field = value" of what is set: an empty box saves an empty text, and 0, for null.
+    static std::vector<std::string> Row(const Kind& kind, std::int32_t id) {
+        platform::Recordset row;
+        row.Open(core::App().Connection,
+                 std::string("SELECT * FROM ") + kind.table + " WHERE " + kind.idField + " = ?",
+                 platform::CursorMode::ReadOnly, {id});
+        std::vector<std::string> fields;
+        for (std::size_t i = 0; i < row.FieldCount(); ++i) {
+            const platform::Field field = row[i];
+            if (field.IsNull()) continue;
+            // Boxes hold cents.
+            const bool isMoney = field.Type() == platform::FieldType::Currency;
+            const std::string text =
+                isMoney ? platform::FormatMoney(field.AsCurrency()) : field.AsText();
+            if (!text.empty() && text != "0" && text != "0.00" && text != "False")
+                fields.push_back(field.Name() + " = " + text);
+        }
+        return fields;
+    }
+    /// What a save changed. A list without a blank row gives what had no type its first.
+    static std::vector<std::string> Changes(const std::vector<std::string>& before,
+                                            const std::vector<std::string>& after) {
+        std::vector<std::string> changes;
+        for (const std::string& field : before)
+            if (std::ranges::count(after, field) == 0) changes.push_back("was " + field);
+        for (const std::string& field : after)
+            if (std::ranges::count(before, field) == 0 && !field.ends_with("Type = 1"))
+                changes.push_back("is " + field);
+        return changes;
+    }
     /// What is wrong with how a screen looks and is used, page by page.
     static std::vector<std::string> Faults(Form& form) {
         const std::string name = "sample-" + FromScreen(form.objectName());
@@ -140,6 +186,24 @@ TEST_F(Editors, OpenRecordsCleanAndOnlyOnce) {
         support::SettleEvents();
         EXPECT_THAT(Open(), IsEmpty()) << name << " doesn't close";
         core::screens::CloseAllForms();
+    }
+}
+
+TEST_F(Editors, SaveWhatTheyOpenedAsItWas) {
+    for (const Kind& kind : kKinds) {
+        if (!core::HasEditor(kind.kind)) continue;
+        for (const std::int32_t id : SomeIds(kind)) {
+            const std::string name =
+                std::string(core::RecordKindName(kind.kind)) + " " + std::to_string(id);
+            const std::vector<std::string> before = Row(kind, id);
+            core::EditRecord(kind.kind, id);
+            ASSERT_EQ(Open().size(), 1U) << name;
+            auto* const form = qobject_cast<core::screens::RecordForm*>(Open().front());
+            if (form) form->SaveAndClose();
+            EXPECT_THAT(Changes(before, Row(kind, id)), IsEmpty()) << name;
+            core::screens::CloseAllForms();
+            support::SettleEvents();
+        }
     }
 }
 
