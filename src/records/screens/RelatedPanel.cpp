@@ -16,6 +16,7 @@ RelatedPanel::RelatedPanel(QWidget* parent)
 }
 
 void RelatedPanel::ShowList(const RelatedList* list, const RelatedOwner& owner) {
+    if (list == list_ && owner == owner_) return; // it keeps itself current
     list_ = list;
     owner_ = owner;
     Reload();

@@ -39,10 +39,11 @@ double NumberIn(const QLineEdit& box) {
 void frmBuilding::MakeMenus() {
     auto* const bar = new QMenuBar(this);
     layout()->setMenuBar(bar);
-    const auto add = [this](QMenu& menu, const QString& text, const char* name, auto slot) {
+    const auto add = [this](QMenu& menu, const QString& text, const char* name, auto slot,
+                            const QKeySequence& keys = {}) {
         QAction* const action = menu.addAction(text, this, slot);
         action->setObjectName(QLatin1String(name));
-        return action;
+        action->setShortcut(keys);
     };
     const auto later = [](QMenu& menu, const QString& text, const char* name) {
         QAction* const action = menu.addAction(text);
@@ -50,15 +51,13 @@ void frmBuilding::MakeMenus() {
         action->setEnabled(false);
     };
     QMenu& building = *bar->addMenu(tr("&Building"));
-    add(building, tr("&Apply"), "mnuApply", [this] { Apply(); })
-        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
-    add(building, tr("Add &Unit"), "mnuAddUnit", [this] { AddUnit(); })
-        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
+    add(building, tr("&Apply"), "mnuApply", &frmBuilding::Apply, Qt::CTRL | Qt::Key_S);
+    add(building, tr("Add &Unit"), "mnuAddUnit", &frmBuilding::AddUnit, Qt::CTRL | Qt::Key_N);
     building.addSeparator();
     later(building, tr("&Print Building"), "mnuPrintBuilding");
     later(building, tr("P&rint Unit"), "mnuPrintUnit");
     building.addSeparator();
-    add(building, tr("&Close"), "mnuClose", [this] { SaveAndClose(); });
+    add(building, tr("&Close"), "mnuClose", &frmBuilding::SaveAndClose);
     QMenu& reports = *bar->addMenu(tr("&Reports"));
     later(reports, tr("Of the &Building"), "mnuReportItemB");
     later(reports, tr("Of the &Unit"), "mnuReportItemU");
@@ -92,10 +91,8 @@ void frmBuilding::CalculateEquity() {
 void frmBuilding::ShowDepreciation() {
     const auto basis = financial_->txtDeprBasis->Amount().value_or(platform::Currency());
     const auto fault = DepreciationFault(basis, NumberIn(*financial_->txtDeprPeriod));
-    if (fault) {
-        platform::TheDialogs().ShowMessage("Error", *fault, platform::Icon::Exclamation);
-        return;
-    }
+    // The schedule itself has no window yet.
+    if (fault) platform::TheDialogs().ShowMessage("Error", *fault, platform::Icon::Exclamation);
 }
 
 void frmBuilding::OpenTaxPage() {
