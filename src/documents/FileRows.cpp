@@ -7,6 +7,7 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Format.h"
@@ -18,10 +19,6 @@ namespace {
 
 constexpr std::size_t kLongestText = 255; // as the field holds it
 
-std::string TextOrEmpty(const platform::Field& field) {
-    return field.IsNull() ? std::string() : field.AsText();
-}
-
 std::vector<FileRow> ReadRows(std::string_view sql,
                               std::initializer_list<platform::Value> parameters) {
     platform::Recordset rows;
@@ -31,9 +28,9 @@ std::vector<FileRow> ReadRows(std::string_view sql,
         files.push_back({.id = rows["IdFileObject"].AsLong(),
                          .dbType = rows["dbType"].AsInteger(),
                          .idOwner = rows["IdOwner"].AsLong(),
-                         .description = TextOrEmpty(rows["Description"]),
-                         .path = TextOrEmpty(rows["FilePath"]),
-                         .isPicture = !rows["IsPic"].IsNull() && rows["IsPic"].AsBoolean()});
+                         .description = platform::TextOf(rows["Description"]),
+                         .path = platform::TextOf(rows["FilePath"]),
+                         .isPicture = platform::FlagOf(rows["IsPic"])});
     }
     return files;
 }

@@ -7,6 +7,7 @@
 #include "core/Lookups.h"
 #include "core/RecordKinds.h"
 #include "documents/ShowList.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/system/Paths.h"
@@ -43,12 +44,10 @@ void OpenPictures(platform::Recordset& rows, std::int16_t kind, std::int32_t id)
 std::vector<ShowPicture> PicturesOf(std::int16_t kind, std::int32_t id) {
     platform::Recordset rows;
     OpenPictures(rows, kind, id);
-    const auto orEmpty = [&](std::string_view field) {
-        return rows[field].IsNull() ? std::string() : rows[field].AsText();
-    };
     std::vector<ShowPicture> pictures;
     for (; !rows.Eof(); rows.MoveNext()) {
-        pictures.push_back({orEmpty("Description"), orEmpty("FilePath")});
+        pictures.push_back(
+            {platform::TextOf(rows["Description"]), platform::TextOf(rows["FilePath"])});
     }
     return pictures;
 }

@@ -5,6 +5,7 @@
 #include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "exchange/Removal.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 
 namespace exchange {
@@ -16,8 +17,7 @@ void Removal::RemoveLease(std::int32_t id) {
     platform::Recordset lease;
     lease.Open(books, "SELECT Status, IdTenant, IdUnit FROM Lease WHERE IdLease = ?",
                platform::CursorMode::ReadOnly, {id});
-    const std::string status =
-        lease.Eof() || lease["Status"].IsNull() ? "" : lease["Status"].AsText();
+    const std::string status = lease.Eof() ? std::string() : platform::TextOf(lease["Status"]);
     // The unit of a lease that has ended may have been let again, and its tenant moved on.
     if (!lease.Eof() && status != "Expired" && status != "Broken") {
         core::ExecuteSql("UPDATE Unit SET Status = 'Avaliable' WHERE IdUnit = ?",

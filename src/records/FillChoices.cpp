@@ -2,6 +2,7 @@
 
 #include "core/Globals.h"
 #include "core/Lists.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 
 namespace records {
@@ -14,8 +15,7 @@ void FillChoices(core::ChoiceList& list, const ChoiceSource& source, std::int32_
     rows.Open(core::App().Connection, source.sql, platform::CursorMode::ReadOnly,
               source.parameters);
     for (; !rows.Eof(); rows.MoveNext()) {
-        const platform::Field description = rows["Description"];
-        list.Add(description.IsNull() ? std::string() : description.AsText(), rows["Id"].AsLong());
+        list.Add(platform::TextOf(rows["Description"]), rows["Id"].AsLong());
     }
     core::SelectById(list, selectedId, {.selectFirst = true});
 }

@@ -3,6 +3,7 @@
 #include "core/RecordKinds.h"
 #include "core/screens/ComboList.h"
 #include "core/screens/ErrorRoll.h"
+#include "platform/database/FieldReadings.h"
 #include "records/SvcContractRules.h"
 #include "records/screens/StoredChoice.h"
 #include "ui_frmSvcContract.h"
@@ -53,8 +54,7 @@ void frmSvcContract::ShowRow(platform::Recordset& row) {
     ShowStoredChoice(*ui_->cboBillTermType, row["BillTermType"]);
     ShowStoredChoice(*ui_->cboBillType, row["BillType"]);
     // The appliances are those of the building before until here.
-    const platform::Field idAppliance = row["IdAppliance"];
-    FillAppliances(idAppliance.IsNull() ? 0 : idAppliance.AsLong());
+    FillAppliances(platform::IdOf(row["IdAppliance"]));
 }
 
 void frmSvcContract::ShowCaption() {
