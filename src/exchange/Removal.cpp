@@ -52,7 +52,8 @@ void Removal::Keep(Tell tell) {
     for (const Message& message : messages_) {
         core::NotifyAll(message.kind, message.action, 0);
     }
-    core::LetMessagesRun();
+    // A timer must not post into the larger unit of work that this removal may be a part of.
+    if (!core::App().Connection.InUnitOfWork()) core::LetMessagesRun();
 }
 
 void RunRemoval(Tell tell, const std::function<void(Removal& removal)>& work) {

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "core/MessagePump.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "exchange/DeleteRecord.h"
@@ -39,6 +40,21 @@ TEST_F(RemovalBroadcast, ComesWhenTheRemovalIsOnDisk) {
     EXPECT_TRUE(DeleteRecord(core::kBuilding, 100, Confirm::DontAsk));
     ASSERT_FALSE(unitsOnDisk.empty());
     EXPECT_THAT(unitsOnDisk, testing::Each("3"));
+}
+
+TEST_F(RemovalBroadcast, LetsOtherWorkRunOnlyWhereNoneIsUnderWay) {
+    int runs = 0;
+    core::SetMessagePump([&] { ++runs; });
+    {
+        platform::UnitOfWork larger(core::App().Connection);
+        exchange::RemoveRecord(core::kRoom, 500);
+        EXPECT_THAT(heard_, ElementsAre(Pair(core::kRoom, 1)));
+        EXPECT_EQ(0, runs);
+        larger.Commit();
+    }
+    exchange::RemoveRecord(core::kRoom, 501);
+    EXPECT_EQ(1, runs);
+    core::SetMessagePump({});
 }
 
 TEST_F(RemovalBroadcast, IsLeftOutSilently) {
