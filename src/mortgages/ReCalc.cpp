@@ -44,6 +44,7 @@ class ScheduleBuilder {
         Split(row);
         const double extra = xPri_[static_cast<std::size_t>(i) - 1];
         row.XPri = extra != 0 ? extra : terms_.xPriAll;
+        if (row.XPri != 0) extraPaid_ = true;
         Sum(row, before);
         if (terms_.PPM) AddPenalty(i, row, before);
         row.EndBal = row.BeginBal - (row.Pri + row.XPri);
@@ -71,10 +72,17 @@ class ScheduleBuilder {
             stale_ = false;
         }
         row.Pmt = payment_;
-        // What is left at this balance and payment, which extra principal has shortened.
-        const double left = annuity_.NPer(row.Pmt, -row.BeginBal);
+        const double left = PeriodsLeft(row);
         row.Pri = -annuity_.FirstPPmt(left, row.BeginBal);
         row.Int = -annuity_.FirstIPmt(row.BeginBal);
+    }
+
+    /// What is left at this balance and payment. Until extra principal shortens it, that is what is
+    /// left of the term: the formula would answer the same, and add a rounding that a long and dear
+    /// loan magnifies from row to row.
+    double PeriodsLeft(const AmortPeriod& row) const {
+        if (!extraPaid_) return term_ - (sinceChange_ - 1);
+        return annuity_.NPer(row.Pmt, -row.BeginBal);
     }
 
     static bool StartsYear(const AmortPeriod& row, const AmortPeriod* before) {
@@ -116,6 +124,7 @@ class ScheduleBuilder {
         balance_ = row.EndBal;
         term_ -= sinceChange_;
         sinceChange_ = 0;
+        extraPaid_ = false;
         stale_ = true;
     }
 
@@ -143,6 +152,7 @@ class ScheduleBuilder {
     double balance_; ///< at the last change of the rate, with the periods left of the term then
     double term_;
     int sinceChange_ = 0;
+    bool extraPaid_ = false;
     bool penaltyDone_ = false;
 };
 

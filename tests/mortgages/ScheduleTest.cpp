@@ -151,15 +151,27 @@ TEST_F(Schedule, KnowsThePaymentsOfLendersTables) {
 }
 
 TEST_F(Schedule, BalancesFollowTheClosedForm) {
-    const clsMortgage loan = Loan(180'000, 360, 6.25);
-    const double growth = 1 + 0.0625 / 12;
-    for (const int paid : {1, 12, 60, 180, 300, 359}) {
-        const double factor = std::pow(growth, paid);
-        const double balance = 180'000 * factor - loan.OrigPmt() * (factor - 1) / (growth - 1);
-        EXPECT_NEAR(loan.GetPV(paid + 1 > 360 ? 360 : paid + 1), balance, 1e-9 * 180'000) << paid;
+    const struct {
+        double amount;
+        int periods;
+        double percent;
+    } kCases[] = {{180'000, 360, 6.25}, {1'000'000, 1200, 30}, {50'000, 1200, 3}, {1, 2, 0.01}};
+    for (const auto& loanCase : kCases) {
+        SCOPED_TRACE(loanCase.percent);
+        const clsMortgage loan = Loan(loanCase.amount, loanCase.periods, loanCase.percent);
+        // What is left is the value of the payments to come.
+        const long double growth = std::log1p(loanCase.percent / 1200.0L);
+        const long double whole = std::expm1(-loanCase.periods * growth);
+        for (int paid = 1; paid < loanCase.periods; ++paid) {
+            const long double share = std::expm1((paid - loanCase.periods) * growth) / whole;
+            ExpectClose(loan.GetPV(paid + 1), loanCase.amount * share, 0);
+            if (HasFailure()) break;
+        }
+        EXPECT_NEAR(loan.GetPriTTD(0), loan.Schedule().front().Pri, 1e-9);
+        EXPECT_NEAR(loan.GetPriTTD(loanCase.periods), loanCase.amount, 1e-9 * loanCase.amount);
+        EXPECT_NEAR(loan.GetIntTTD(5000), loanCase.periods * loan.OrigPmt() - loanCase.amount,
+                    1e-9 * loanCase.periods * loan.OrigPmt());
     }
-    EXPECT_NEAR(loan.GetPriTTD(360), 180'000, 1e-4);
-    EXPECT_NEAR(loan.GetIntTTD(1000), 360 * loan.OrigPmt() - 180'000, 1e-4);
 }
 
 TEST_F(Schedule, BalloonStopsTheFullTermsScheduleEarly) {

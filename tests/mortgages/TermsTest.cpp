@@ -6,6 +6,7 @@
 
 #include "mortgages/AmortGrid.h"
 #include "mortgages/DoubleList.h"
+#include "mortgages/ScheduleYears.h"
 #include "mortgages/clsMortgage.h"
 #include "platform/system/Clock.h"
 
@@ -201,6 +202,24 @@ std::string Captions(const mortgages::AmortGrid& grid) {
     for (const auto& column : grid.Columns())
         captions += std::string(column.caption) + ";";
     return captions;
+}
+
+TEST_F(Terms, ShowTheYearsByTheFirstPeriodAndThenEachYearsEnd) {
+    clsMortgage loan;
+    // Half a year too many rounds to the even count of years.
+    for (const auto& [periods, years] : {std::pair{1, 1}, {11, 1}, {18, 2}, {30, 2}, {42, 4}}) {
+        loan.SetOrigPer(periods);
+        loan.ReCalc();
+        EXPECT_EQ(mortgages::ScheduleYears(loan).size(), static_cast<std::size_t>(years))
+            << periods;
+    }
+    const auto points = mortgages::ScheduleYears(loan);
+    EXPECT_EQ(points[0].label, "Year 1");
+    EXPECT_EQ(points[0].balance, 100'000);
+    EXPECT_EQ(points[3].label, "Year 4");
+    EXPECT_EQ(points[3].balance, loan.GetPV(36));
+    EXPECT_EQ(points[3].principal, loan.GetPriTTD(36));
+    EXPECT_EQ(points[3].interest, loan.GetIntTTD(36));
 }
 
 TEST_F(Terms, ShowTheScheduleByItsViewOptions) {

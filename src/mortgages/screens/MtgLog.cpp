@@ -134,11 +134,10 @@ void MtgLog::ShowRows() {
 }
 
 void MtgLog::ShowAvailable() {
-    const bool isSelected = list_->CurrentId() != 0;
     add_->setEnabled(idMortgage_ != 0);
     pay_->setEnabled(idMortgage_ != 0);
-    edit_->setEnabled(isSelected);
-    delete_->setEnabled(isSelected);
+    edit_->setEnabled(list_->CurrentId() != 0);
+    delete_->setEnabled(!list_->SelectedIds().empty());
 }
 
 void MtgLog::Add() {

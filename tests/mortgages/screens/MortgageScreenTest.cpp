@@ -193,6 +193,21 @@ TEST_F(MortgageScreen, APaymentMadeHereShowsAndIsRightHoweverTheScreenIsLeft) {
     EXPECT_EQ(Loan("Description"), "First loan");
 }
 
+TEST_F(MortgageScreen, ChargesAreSelectedByKindAndDeletedTogether) {
+    const auto form = Open();
+    GoTo(*form, "tabPayments");
+    Trigger(*form, "mnuSelectPI");
+    ClickOn(Find<QPushButton>(*form, "cmdEditDelete"));
+    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete all selected items?"});
+    EXPECT_EQ(Lines(*form, "lvw").size(), 9U) << "No keeps them";
+    Answer({true});
+    ClickOn(Find<QPushButton>(*form, "cmdEditDelete"));
+    EXPECT_EQ(Lines(*form, "lvw").size(), 6U);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM MortgageLog WHERE Flags = 1"), "0");
+    Trigger(*form, "mnuSelectOther");
+    EXPECT_EQ(Find<QTreeWidget>(*form, "lvw").selectedItems().size(), 6);
+}
+
 TEST_F(MortgageScreen, PaysTheLoanOff) {
     const auto form = Open();
     Answer({true});
