@@ -60,6 +60,37 @@ TEST_F(ViewsOnScreen, FollowTheChoicesAboveThem) {
     EXPECT_EQ(Column("From"), "Ann\nBob\n");
 }
 
+TEST_F(ViewsOnScreen, ShowALongListBeforeAllOfItIsRead) {
+    {
+        platform::UnitOfWork work(core::App().Connection);
+        for (int id = 2001; id <= 3500; ++id) {
+            core::App().Connection.Execute(
+                "INSERT INTO Transactions (IdTransaction, DateEffective, DebitDesc, Amount) "
+                "VALUES (?, '05/02/2024', ?, 1)",
+                {id, id == 3500 ? "Zoe" : "Cy"});
+        }
+        work.Commit();
+    }
+    Window().SetSelectedDb(core::kTransaction);
+    EXPECT_EQ(Status(), "Selected 1501 Transaction records");
+    EXPECT_LT(Grid().Model().RowsAtHand(), 1501);
+    Run("DELETE FROM Transactions WHERE IdTransaction = 3500");
+    EXPECT_TRUE(Grid().SelectId(3500)) << "it is shown as it was read until it is told of";
+    support::Type(Find<QLineEdit>(Window(), "txtSearch"), "zoe");
+    support::SettleEvents();
+    EXPECT_EQ(Column("From"), "Zoe\n");
+    core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
+    EXPECT_EQ(Status(), "Selected 1500 Transaction records");
+    support::SettleEvents();
+    EXPECT_EQ(Column("From"), "");
+    ClickCaption("Amount");
+    EXPECT_EQ(Status(), "Selected 1500 Transaction records sorted by Amount [ASC]");
+    ClickCaption("Amount");
+    Choose(Window(), "cboDays", "Last 30 days");
+    Window().close();
+    EXPECT_FALSE(core::App().Connection.IsOpen());
+}
+
 TEST_F(ViewsOnScreen, SortByAClickOnACaption) {
     Go("LEASES");
     ClickCaption("Rent");
