@@ -18,13 +18,21 @@ QIcon IconOfKind(const QFileInfo& file) {
     return platform::qt::LoadIcon(QStringLiteral("file"));
 }
 
+/// In its own colours on a selected line too.
+QIcon IconOfPicture(const QImage& image) {
+    const QPixmap picture = QPixmap::fromImage(image);
+    QIcon icon(picture);
+    icon.addPixmap(picture, QIcon::Selected);
+    return icon;
+}
+
 } // namespace
 
 FileIcons::FileIcons(QObject* parent) : QObject(parent) {
     connect(&loader_, &PictureLoader::Loaded, this,
             [this](const QString& path, const PictureRead& picture) {
                 if (picture.image.isNull()) return;
-                icons_[path] = QIcon(QPixmap::fromImage(picture.image));
+                icons_[path] = IconOfPicture(picture.image);
                 Q_EMIT Changed(path);
             });
 }
