@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "leases/RentLog.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
@@ -20,14 +21,12 @@ void ChargeDeposits(std::int32_t idLease, std::int32_t idUnit) {
         CursorMode::ReadOnly, {core::GetUnitBuilding(idUnit), idUnit});
     platform::UnitOfWork unit(core::App().Connection);
     for (; !templates.Eof(); templates.MoveNext()) {
-        const auto description = templates["Description"];
-        const auto amount = templates["Amount"];
         WriteRentLog({.idLease = idLease,
                       .datePosted = platform::Today(),
                       .rentClass = RentClass::Deposit,
                       .category = std::string(kCategoryDeposit),
-                      .amount = amount.IsNull() ? Currency() : amount.AsCurrency(),
-                      .description = description.IsNull() ? "" : description.AsText()});
+                      .amount = MoneyOf(templates["Amount"]),
+                      .description = TextOf(templates["Description"])});
     }
     unit.Commit();
 }

@@ -1,6 +1,7 @@
 #include "leases/LeaseTerms.h"
 
 #include "leases/RentCodes.h"
+#include "platform/database/FieldReadings.h"
 
 namespace leases {
 
@@ -37,10 +38,6 @@ Reading<std::int16_t> Count(Field field) {
     return TryRead([&] { return field.AsInteger(); });
 }
 
-std::string Word(const Field& field) {
-    return field.IsNull() ? std::string() : field.AsText();
-}
-
 bool IsWeekly(std::string_view termType) {
     return termType == "Weekly" || termType == "Week(s)" || termType == status::kWeekToWeek;
 }
@@ -49,9 +46,9 @@ bool IsWeekly(std::string_view termType) {
 
 LeaseTerms LeaseTerms::Read(platform::Recordset& row) {
     LeaseTerms terms;
-    terms.status = Word(row["Status"]);
-    terms.termType = Word(row["TermType"]);
-    terms.expireOption = Word(row["ExpireOption"]);
+    terms.status = TextOf(row["Status"]);
+    terms.termType = TextOf(row["TermType"]);
+    terms.expireOption = TextOf(row["ExpireOption"]);
     terms.dateActive = RequiredDate(row["DateActive"]);
     terms.dateRenewed = RequiredDate(row["DateRenewed"]);
     terms.dateVacating = RequiredDate(row["DateVacating"]);

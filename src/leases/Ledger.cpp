@@ -8,6 +8,7 @@
 #include "core/RecordKinds.h"
 #include "leases/RentLog.h"
 #include "leases/mLease.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
@@ -32,17 +33,13 @@ std::string_view Filter(LedgerRows rows) {
 }
 
 LedgerRow ReadRow(Recordset& rows) {
-    const auto text = [&](std::string_view field) {
-        return rows[field].IsNull() ? std::string() : rows[field].AsText();
-    };
-    LedgerRow row;
-    row.idRentLog = rows["IdRentLog"].AsLong();
-    if (!rows["Flags"].IsNull()) row.flags = RentFlags{rows["Flags"].AsInteger()};
-    if (!rows["DatePosted"].IsBlank()) row.datePosted = rows["DatePosted"].AsDate();
-    row.category = text("Category");
-    row.description = text("Description");
-    if (!rows["Amount"].IsNull()) row.amount = rows["Amount"].AsCurrency();
-    return row;
+    return {.idRentLog = rows["IdRentLog"].AsLong(),
+            .flags = RentFlags{CountOf(rows["Flags"])},
+            .datePosted = DateOf(rows["DatePosted"]),
+            .category = TextOf(rows["Category"]),
+            .description = TextOf(rows["Description"]),
+            .amount = MoneyOf(rows["Amount"]),
+            .openTotal = std::nullopt};
 }
 
 books::Transaction DepositTransaction(std::int32_t idLease, RentFlags flags) {
@@ -54,8 +51,7 @@ books::Transaction DepositTransaction(std::int32_t idLease, RentFlags flags) {
         throw platform::DatabaseError("There is no lease " + std::to_string(idLease));
     }
     const LeaseLinks links = GetLeaseLinks(idLease);
-    const std::int32_t idAccount =
-        lease["DepositAccount"].IsNull() ? 0 : lease["DepositAccount"].AsLong();
+    const std::int32_t idAccount = IdOf(lease["DepositAccount"]);
     books::Transaction transaction;
     transaction.dateEffective = platform::Today();
     transaction.debit = {core::kAccount, idAccount,
@@ -66,9 +62,7 @@ books::Transaction DepositTransaction(std::int32_t idLease, RentFlags flags) {
     transaction.idTenant = links.idTenant;
     transaction.idUnit = links.idUnit;
     transaction.idBuilding = links.idBuilding;
-    if (!lease["DepositBalance"].IsNull()) {
-        transaction.amount = lease["DepositBalance"].AsCurrency();
-    }
+    transaction.amount = MoneyOf(lease["DepositBalance"]);
     return transaction;
 }
 

@@ -6,6 +6,7 @@
 
 #include "core/Globals.h"
 #include "leases/LeaseTerms.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/Format.h"
 
@@ -17,11 +18,10 @@ using platform::Date;
 namespace {
 
 std::string DescribeDueDate(platform::Recordset& lease, int periods) {
-    const Date due = lease["DateNextDue"].IsBlank() ? Date() : lease["DateNextDue"].AsDate();
+    const Date due = DateOf(lease["DateNextDue"]);
     if (!due.IsSet()) return "the lease has no next due date";
     if (periods == 0) return "next due date stays " + due.ToText();
-    const auto interval =
-        TermInterval(lease["TermType"].IsNull() ? "" : lease["TermType"].AsText());
+    const auto interval = TermInterval(TextOf(lease["TermType"]));
     // Step by step, as the payment moves it: a month's last day may shorten on the way.
     Date moved = due;
     for (int i = 0; i < periods; ++i)
@@ -30,9 +30,8 @@ std::string DescribeDueDate(platform::Recordset& lease, int periods) {
 }
 
 std::string DescribeCredit(platform::Recordset& lease, int periods) {
-    const bool earns = periods > 0 && !lease["Option"].IsNull() && lease["Option"].AsBoolean();
-    if (!earns || lease["OptionCredit"].IsNull()) return {};
-    const Currency credit = lease["OptionCredit"].AsCurrency() * periods;
+    if (periods == 0 || !FlagOf(lease["Option"])) return {};
+    const Currency credit = MoneyOf(lease["OptionCredit"]) * periods;
     return credit.IsZero() ? "" : ", option credit " + platform::FormatMoney(credit);
 }
 

@@ -6,6 +6,7 @@
 #include "exchange/DeleteRecord.h"
 #include "leases/ChargeEditor.h"
 #include "leases/LeaseEditor.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 
 namespace leases {
@@ -17,19 +18,14 @@ using platform::Recordset;
 namespace {
 
 RentLogEntry ReadEntry(Recordset& row) {
-    const auto text = [&](std::string_view field) {
-        return row[field].IsNull() ? std::string() : row[field].AsText();
-    };
-    RentLogEntry entry;
-    entry.idLease = row["IdLease"].AsLong();
-    entry.idTransaction = row["IdTransaction"].AsLong();
-    if (!row["DatePosted"].IsBlank()) entry.datePosted = row["DatePosted"].AsDate();
-    entry.rentClass = RentClass{row["Class"].AsInteger()};
-    entry.category = text("Category");
-    if (!row["Amount"].IsNull()) entry.amount = row["Amount"].AsCurrency();
-    entry.description = text("Description");
-    if (!row["Flags"].IsNull()) entry.flags = RentFlags{row["Flags"].AsInteger()};
-    return entry;
+    return {.idLease = row["IdLease"].AsLong(),
+            .idTransaction = row["IdTransaction"].AsLong(),
+            .datePosted = DateOf(row["DatePosted"]),
+            .rentClass = RentClass{row["Class"].AsInteger()},
+            .category = TextOf(row["Category"]),
+            .amount = MoneyOf(row["Amount"]),
+            .description = TextOf(row["Description"]),
+            .flags = RentFlags{CountOf(row["Flags"])}};
 }
 
 void OpenCharge(Recordset& row, std::int32_t idRentLog) {

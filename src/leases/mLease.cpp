@@ -9,6 +9,7 @@
 #include "core/Session.h"
 #include "leases/LeaseStatus.h"
 #include "leases/RentLog.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/system/Clock.h"
 
 namespace leases {
@@ -98,7 +99,7 @@ void AdvanceNextDue(std::int32_t idLease, OptionCredit credit, Broadcast broadca
     if (row.Eof()) return;
 
     UnitOfWork unit(core::App().Connection);
-    const std::string termType = row["TermType"].IsNull() ? "" : row["TermType"].AsText();
+    const std::string termType = TextOf(row["TermType"]);
     const Date nextDue = DateAdd(TermInterval(termType), 1, row["DateNextDue"].AsDate());
     row["DateNextDue"].Set(nextDue.ToText());
     row.Update();

@@ -17,6 +17,7 @@
 #include "documents/screens/FileObjects.h"
 #include "leases/mLease.h"
 #include "leases/screens/Lease_Ledger.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
@@ -162,14 +163,11 @@ void frmLease::ShowRow(platform::Recordset& row) {
     // A word that isn't offered stays the lease's until another is chosen.
     for (QComboBox* const combo : {terms_->cboTermType, terms_->cboExpireOption}) {
         const auto word = row[core::screens::FieldOfTag(core::screens::TagOf(*combo))];
-        const std::string text = word.IsNull() ? std::string() : word.AsText();
-        core::screens::SelectByText(*combo, text, {.setText = true});
+        core::screens::SelectByText(*combo, platform::TextOf(word), {.setText = true});
     }
     // The list of payors depends on a field that may be bound after it.
     FillPayors();
-    if (!row["SubsidyId"].IsNull()) {
-        SelectById(*more_->cboSubsidy, row["SubsidyId"].AsLong(), {.selectFirst = true});
-    }
+    SelectById(*more_->cboSubsidy, platform::IdOf(row["SubsidyId"]), {.selectFirst = true});
     ShowEnabled();
 }
 

@@ -8,6 +8,7 @@
 #include "core/screens/ComboList.h"
 #include "core/screens/Tags.h"
 #include "leases/ChargeEditor.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
@@ -61,7 +62,7 @@ void frmRentLog::ShowRow(platform::Recordset& row) {
     entry_.idLease = row["IdLease"].AsLong();
     entry_.idTransaction = row["IdTransaction"].AsLong();
     entry_.rentClass = RentClass{row["Class"].AsInteger()};
-    if (!row["Flags"].IsNull()) entry_.flags = RentFlags{row["Flags"].AsInteger()};
+    entry_.flags = RentFlags{platform::CountOf(row["Flags"])};
 }
 
 void frmRentLog::WriteRow(platform::Recordset& row) {
