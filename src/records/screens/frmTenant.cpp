@@ -2,6 +2,7 @@
 
 #include "books/screens/General_Ledger.h"
 #include "core/RecordKinds.h"
+#include "core/Session.h"
 #include "core/screens/AddressBox.h"
 #include "core/screens/ComboList.h"
 #include "core/screens/TabPages.h"
@@ -60,6 +61,7 @@ void frmTenant::Setup(std::int32_t id) {
 void frmTenant::ShowRow(platform::Recordset& row) {
     RecordForm::ShowRow(row);
     ShowStoredChoice(*person_->cboStatus, row["Status"]);
+    status_ = StatusShown();
 }
 
 void frmTenant::RowMissing() {
@@ -80,6 +82,21 @@ void frmTenant::ShowCaption() {
 
 std::vector<std::string> frmTenant::Errors() {
     return TenantErrors(platform::qt::FromScreen(person_->txtLastName->text()));
+}
+
+/// A lease that begins or ends meanwhile sets the status, which must not be saved away again; what
+/// the person has chosen here stays.
+void frmTenant::Refresh(std::int16_t kind) {
+    if (Id() == 0 || (kind != core::kTenant && kind != core::kLease)) return;
+    if (StatusShown() != status_) return;
+    const auto stored = core::LookUp("SELECT Status FROM Tenant WHERE IdTenant = ?", {Id()});
+    if (!stored) return;
+    core::screens::SelectByText(*person_->cboStatus, stored->AsText(), {.setText = true});
+    status_ = StatusShown();
+}
+
+std::string frmTenant::StatusShown() const {
+    return platform::qt::FromScreen(person_->cboStatus->currentText());
 }
 
 void frmTenant::AfterSave() {

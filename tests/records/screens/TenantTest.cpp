@@ -147,6 +147,27 @@ TEST_F(TenantTest, AStatusOfAnotherMakeIsKept) {
     EXPECT_EQ(Ask("SELECT Status FROM Tenant WHERE IdTenant = 31"), "") << "none is not Pending";
 }
 
+TEST_F(TenantTest, AStatusThatALeaseSetMeanwhileIsNotSavedAway) {
+    const auto lease = [](const char* status) {
+        Run(std::string("UPDATE Tenant SET Status = '") + status + "' WHERE IdTenant = 30");
+        core::NotifyAll(core::kLease, core::kRecordsChanged, 40);
+    };
+    auto form = Open(30);
+    lease("Current");
+    EXPECT_EQ(Find<QComboBox>(*form, "cboStatus").currentText(), QStringLiteral("Current"));
+    EXPECT_FALSE(form->Dirty());
+    lease("Archived");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Status FROM Tenant WHERE IdTenant = 30"), "Archived");
+
+    form = Open(30);
+    Choose(*form, "cboStatus", "Rejected");
+    lease("Current");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Status FROM Tenant WHERE IdTenant = 30"), "Rejected")
+        << "what was chosen here stays";
+}
+
 TEST_F(TenantTest, NumbersThatAreNobodysBusinessShowOnlyWithTheFocus) {
     const auto form = Open(30);
     Find<QTabWidget>(*form, "tabs").setCurrentIndex(1);
