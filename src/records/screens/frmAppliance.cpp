@@ -9,13 +9,12 @@
 #include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
 #include "records/screens/RelatedDBs.h"
-#include "records/screens/StoredAccounts.h"
+#include "records/screens/StoredLinks.h"
 #include "ui_frmAppliance.h"
 #include "ui_frmApplianceDetails.h"
 
 namespace records::screens {
 
-using core::screens::FillList;
 using platform::qt::FromScreen;
 
 frmAppliance::frmAppliance(QWidget* parent)
@@ -38,12 +37,13 @@ void frmAppliance::Setup(std::int32_t id, std::int32_t parentUnit) {
         core::screens::FillFromCommaList(*details_->cboDeprMethod, kStraightLine);
         core::screens::SelectByText(*details_->cboDeprMethod, kStraightLine);
         FillAccountList(core::kVendorAccount, *details_->cboVendor);
-        FillList(core::kUnit, *details_->cboUnit, {.selectedId = parentUnit, .addNone = true});
+        FillUnitList(*details_->cboUnit, NoneRow::Yes, parentUnit);
     });
 }
 
 void frmAppliance::ShowRow(platform::Recordset& row) {
     OfferStoredAccounts({details_->cboVendor}, row);
+    OfferStoredUnit(*details_->cboUnit, row);
     RecordForm::ShowRow(row);
 }
 
@@ -67,7 +67,7 @@ void frmAppliance::AfterSave() {
 
 void frmAppliance::Refresh(std::int16_t kind) {
     if (kind == core::kUnit || kind == core::kBuilding) {
-        FillList(core::kUnit, *details_->cboUnit, {.addNone = true});
+        FillUnitList(*details_->cboUnit, NoneRow::Yes);
     }
     if (kind == core::kAccount) {
         FillAccountList(core::kVendorAccount, *details_->cboVendor);

@@ -17,7 +17,7 @@
 #include "records/FurnishingRules.h"
 #include "records/screens/PickFields.h"
 #include "records/screens/ResetFields.h"
-#include "records/screens/StoredAccounts.h"
+#include "records/screens/StoredLinks.h"
 #include "ui_frmBuilding.h"
 #include "ui_frmBuildingFinancial.h"
 #include "ui_frmBuildingPlace.h"

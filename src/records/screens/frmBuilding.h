@@ -55,6 +55,7 @@ class frmBuilding : public core::screens::RecordForm {
     std::vector<std::string> Errors() override;
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void MakePanels();

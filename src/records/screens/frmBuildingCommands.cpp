@@ -1,5 +1,6 @@
 // The menus and buttons of the building's screen.
 
+#include <QEvent>
 #include <QMenuBar>
 
 #include "core/References.h"
@@ -81,6 +82,16 @@ void frmBuilding::Connect() {
             platform::qt::ToScreen(platform::FormatNumber(NumberIn(box), kPeriodFormat));
         if (box.text() != shown) box.setText(shown);
     });
+}
+
+/// A link keeps the colour of the palette that it was made in.
+void frmBuilding::changeEvent(QEvent* event) {
+    RecordForm::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || !isVisible()) return;
+    QLabel& link = *place_->lblTaxAccount;
+    const QString text = link.text();
+    link.clear();
+    link.setText(text);
 }
 
 void frmBuilding::CalculateEquity() {

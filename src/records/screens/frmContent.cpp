@@ -1,18 +1,16 @@
 #include "records/screens/frmContent.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
 #include "core/screens/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/FurnishingRules.h"
 #include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
+#include "records/screens/StoredLinks.h"
 #include "ui_frmContent.h"
 
 namespace records::screens {
-
-using core::screens::FillList;
 
 frmContent::frmContent(QWidget* parent)
     : RecordForm({core::kContent, "Content", "IdContent"}, parent),
@@ -28,8 +26,13 @@ frmContent::~frmContent() = default;
 void frmContent::Setup(std::int32_t id, std::int32_t parentUnit) {
     OpenRecord(id, [this, parentUnit] {
         LoadPickFields(*this);
-        FillList(core::kUnit, *ui_->cboUnit, {.selectedId = parentUnit});
+        FillUnitList(*ui_->cboUnit, NoneRow::No, parentUnit);
     });
+}
+
+void frmContent::ShowRow(platform::Recordset& row) {
+    OfferStoredUnit(*ui_->cboUnit, row);
+    RecordForm::ShowRow(row);
 }
 
 void frmContent::ShowCaption() {
@@ -47,7 +50,7 @@ void frmContent::AfterSave() {
 }
 
 void frmContent::Refresh(std::int16_t kind) {
-    if (kind == core::kUnit || kind == core::kBuilding) FillList(core::kUnit, *ui_->cboUnit);
+    if (kind == core::kUnit || kind == core::kBuilding) FillUnitList(*ui_->cboUnit, NoneRow::No);
 }
 
 } // namespace records::screens

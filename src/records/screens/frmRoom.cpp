@@ -1,18 +1,16 @@
 #include "records/screens/frmRoom.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
 #include "core/screens/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/FurnishingRules.h"
 #include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
+#include "records/screens/StoredLinks.h"
 #include "ui_frmRoom.h"
 
 namespace records::screens {
-
-using core::screens::FillList;
 
 frmRoom::frmRoom(QWidget* parent)
     : RecordForm({core::kRoom, "Room", "IdRoom"}, parent), ui_(std::make_unique<Ui::frmRoom>()) {
@@ -27,8 +25,13 @@ frmRoom::~frmRoom() = default;
 void frmRoom::Setup(std::int32_t id, std::int32_t parentUnit) {
     OpenRecord(id, [this, parentUnit] {
         LoadPickFields(*this);
-        FillList(core::kUnit, *ui_->cboUnit, {.selectedId = parentUnit});
+        FillUnitList(*ui_->cboUnit, NoneRow::No, parentUnit);
     });
+}
+
+void frmRoom::ShowRow(platform::Recordset& row) {
+    OfferStoredUnit(*ui_->cboUnit, row);
+    RecordForm::ShowRow(row);
 }
 
 void frmRoom::ShowCaption() {
@@ -46,7 +49,7 @@ void frmRoom::AfterSave() {
 }
 
 void frmRoom::Refresh(std::int16_t kind) {
-    if (kind == core::kUnit || kind == core::kBuilding) FillList(core::kUnit, *ui_->cboUnit);
+    if (kind == core::kUnit || kind == core::kBuilding) FillUnitList(*ui_->cboUnit, NoneRow::No);
 }
 
 } // namespace records::screens

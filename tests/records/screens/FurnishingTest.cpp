@@ -206,6 +206,20 @@ TEST_F(FurnishingTest, UnitsAndVendorsThatChangeAreOfferedAtOnce) {
     EXPECT_FALSE(form->Dirty());
 }
 
+TEST_F(FurnishingTest, AUnitThatIsNotOfferedIsNotLost) {
+    Run("UPDATE Room SET IdUnit = 999 WHERE IdRoom = 80");
+    auto room = Open<frmRoom>(80);
+    EXPECT_EQ(Find<QComboBox>(*room, "cboUnit").currentText(), QStringLiteral("Unit no. 999"));
+    core::NotifyAll(core::kUnit, core::kRecordsChanged, 0);
+    ClickAction(*room, "CLOSE");
+    EXPECT_EQ(Ask("SELECT IdUnit FROM Room WHERE IdRoom = 80"), "999");
+    Run("UPDATE Unit SET Unit = NULL WHERE IdUnit = 20");
+    const auto stove = Open<frmAppliance>(70);
+    EXPECT_EQ(Heard().size(), 1U) << "the list can't be filled to its end";
+    ClickAction(*stove, "CLOSE");
+    EXPECT_EQ(Ask("SELECT IdUnit FROM Appliance WHERE IdAppliance = 70"), "20");
+}
+
 TEST_F(FurnishingTest, LookAndReadRight) {
     LooksRight<frmRoom>(80, "frmRoom");
     LooksRight<frmContent>(0, "frmContent");
