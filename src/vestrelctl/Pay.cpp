@@ -1,13 +1,9 @@
 #include <cstdint>
-#include <iostream>
 #include <memory>
 #include <string>
 
-#include <fmt/core.h>
-
 #include "core/RecordKinds.h"
 #include "leases/RentPayment.h"
-#include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
@@ -36,9 +32,7 @@ void Pay(const PayWords& words) {
     payment.checkNumber = words.check;
     if (payment.charges.empty()) throw platform::Error("There is no open charge to pay");
     const std::int32_t id = leases::SubmitPayment(payment);
-    std::cout << fmt::format("Transaction {}: {} {}, {}\n", id, payment.charges.size(),
-                             payment.charges.size() == 1 ? "charge" : "charges",
-                             platform::MoneyToFixedText(payment.Total()));
+    PrintPaid(id, payment.charges.size(), payment.Total());
 }
 
 } // namespace

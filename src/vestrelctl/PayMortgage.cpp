@@ -1,13 +1,9 @@
 #include <cstdint>
-#include <iostream>
 #include <memory>
 #include <string>
 
-#include <fmt/core.h>
-
 #include "core/RecordKinds.h"
 #include "mortgages/MortgagePayment.h"
-#include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
@@ -41,9 +37,7 @@ void Pay(const MortgageWords& words) {
     if (payment.charges.empty()) throw platform::Error("There is no open charge to pay");
     const std::int32_t id =
         mortgages::SubmitMortgagePayment(payment, mortgages::OpenedFrom::Elsewhere);
-    std::cout << fmt::format("Transaction {}: {} {}, {}\n", id, payment.charges.size(),
-                             payment.charges.size() == 1 ? "charge" : "charges",
-                             platform::MoneyToFixedText(payment.PaidAmount()));
+    PrintPaid(id, payment.charges.size(), payment.PaidAmount());
 }
 
 } // namespace

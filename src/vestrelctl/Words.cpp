@@ -1,9 +1,12 @@
 #include "vestrelctl/Words.h"
 
+#include <iostream>
+
 #include <fmt/core.h>
 
 #include "core/Descriptions.h"
 #include "core/RecordKinds.h"
+#include "platform/values/Conversions.h"
 #include "platform/values/Date.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Text.h"
@@ -25,6 +28,12 @@ std::string NameOf(std::int16_t kind, std::int32_t id) {
             fmt::format("There is no {} {}", platform::ToLower(core::RecordKindName(kind)), id));
     }
     return name;
+}
+
+void PrintPaid(std::int32_t idTransaction, std::size_t charges, platform::Currency amount) {
+    std::cout << fmt::format("Transaction {}: {} {}, {}\n", idTransaction, charges,
+                             charges == 1 ? "charge" : "charges",
+                             platform::MoneyToFixedText(amount));
 }
 
 } // namespace vestrelctl
