@@ -28,10 +28,6 @@ void Offer(QComboBox& box, const QString& text, Code code) {
     box.addItem(text, static_cast<int>(code));
 }
 
-void ShowParty(PartyBoxes& boxes, Recordset& row, std::string_view idField) {
-    boxes.ShowStored(IdOf(row[idField]));
-}
-
 } // namespace
 
 frmAutoEvent::frmAutoEvent(QWidget* parent)
@@ -83,9 +79,9 @@ void frmAutoEvent::FillLists() {
 
 void frmAutoEvent::ShowRow(Recordset& row) {
     RecordForm::ShowRow(row);
-    ShowParty(*trigger_, row, "TriggerID");
-    ShowParty(*from_, row, "DebitId");
-    ShowParty(*to_, row, "CreditId");
+    trigger_->ShowStored(IdOf(row["TriggerID"]));
+    from_->ShowStored(IdOf(row["DebitId"]));
+    to_->ShowStored(IdOf(row["CreditId"]));
     const Ien ien{CountOf(row["IEN"])};
     if (!row["TaxCategory"].IsNull()) {
         ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), ien});
