@@ -38,9 +38,9 @@ std::int32_t StoredId(const QComboBox& list, platform::Recordset& row) {
 
 } // namespace
 
-void FillAccountList(std::int16_t kind, QComboBox& list) {
+void FillAccountList(std::int16_t kind, QComboBox& list, NoneRow none) {
     const std::int32_t id = GetSelectedId(list);
-    core::screens::FillList(kind, list, {.addNone = true});
+    core::screens::FillList(kind, list, {.addNone = none == NoneRow::Yes});
     OfferAccount(list, id);
     core::screens::SelectById(list, id);
 }

@@ -3,6 +3,7 @@
 #include "core/RecordKinds.h"
 #include "core/screens/ComboList.h"
 #include "records/ManagerLinkRules.h"
+#include "records/screens/StoredLinks.h"
 #include "ui_frmManagerLink.h"
 
 namespace records::screens {
@@ -27,8 +28,13 @@ void frmManagerLink::Setup(std::int32_t id, std::int32_t parentBuilding) {
         ui_->cboFeeType->setCurrentIndex(0);
         ui_->cboTermType->setCurrentIndex(0);
         FillList(core::kBuilding, *ui_->cboBuilding, {.selectedId = parentBuilding});
-        FillList(core::kBuildingManagerAccount, *ui_->cboManager);
+        FillAccountList(core::kBuildingManagerAccount, *ui_->cboManager, NoneRow::No);
     });
+}
+
+void frmManagerLink::ShowRow(platform::Recordset& row) {
+    OfferStoredAccounts({ui_->cboManager}, row);
+    RecordForm::ShowRow(row);
 }
 
 void frmManagerLink::ShowCaption() {
@@ -42,7 +48,8 @@ std::vector<std::string> frmManagerLink::Errors() {
 
 void frmManagerLink::Refresh(std::int16_t kind) {
     if (kind == core::kBuilding) FillList(core::kBuilding, *ui_->cboBuilding);
-    if (kind == core::kAccount) FillList(core::kBuildingManagerAccount, *ui_->cboManager);
+    if (kind == core::kAccount)
+        FillAccountList(core::kBuildingManagerAccount, *ui_->cboManager, NoneRow::No);
 }
 
 } // namespace records::screens

@@ -4,6 +4,7 @@
 #include "core/screens/ComboList.h"
 #include "platform/qt/Text.h"
 #include "records/OwnerLinkRules.h"
+#include "records/screens/StoredLinks.h"
 #include "ui_frmOwnerLink.h"
 
 namespace records::screens {
@@ -23,8 +24,13 @@ frmOwnerLink::~frmOwnerLink() = default;
 void frmOwnerLink::Setup(std::int32_t id, std::int32_t parentBuilding) {
     OpenRecord(id, [this, parentBuilding] {
         FillList(core::kBuilding, *ui_->cboBuilding, {.selectedId = parentBuilding});
-        FillList(core::kBuildingOwnerAccount, *ui_->cboOwner);
+        FillAccountList(core::kBuildingOwnerAccount, *ui_->cboOwner, NoneRow::No);
     });
+}
+
+void frmOwnerLink::ShowRow(platform::Recordset& row) {
+    OfferStoredAccounts({ui_->cboOwner}, row);
+    RecordForm::ShowRow(row);
 }
 
 void frmOwnerLink::ShowCaption() {
@@ -44,7 +50,8 @@ void frmOwnerLink::AfterSave() {
 
 void frmOwnerLink::Refresh(std::int16_t kind) {
     if (kind == core::kBuilding) FillList(core::kBuilding, *ui_->cboBuilding);
-    if (kind == core::kAccount) FillList(core::kBuildingOwnerAccount, *ui_->cboOwner);
+    if (kind == core::kAccount)
+        FillAccountList(core::kBuildingOwnerAccount, *ui_->cboOwner, NoneRow::No);
 }
 
 } // namespace records::screens

@@ -23,6 +23,7 @@ class frmOwnerLink : public core::screens::RecordForm {
     void Setup(std::int32_t id, std::int32_t parentBuilding);
 
   protected:
+    void ShowRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
     void AfterSave() override;

@@ -95,6 +95,15 @@ TEST_F(ManagerLinkTest, HearsOfNewManagers) {
     EXPECT_FALSE(form->Dirty());
 }
 
+TEST_F(ManagerLinkTest, AnAccountOfAnotherTypeStaysTheManager) {
+    Run("INSERT INTO ManagerLink (IdManagerLink, IdBuilding, IdAccount) VALUES (500, 11, 61)");
+    const auto form = Open(500);
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Manager: Al Owner"));
+    core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT IdAccount FROM ManagerLink"), "61");
+}
+
 TEST_F(ManagerLinkTest, LooksAndReadsRight) {
     const auto form = Open();
     EXPECT_EQ(support::MnemonicFaults(*form), Said{});
