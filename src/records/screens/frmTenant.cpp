@@ -87,8 +87,7 @@ std::vector<std::string> frmTenant::Errors() {
 /// A lease that begins or ends meanwhile sets the status, which must not be saved away again; what
 /// the person has chosen here stays.
 void frmTenant::Refresh(std::int16_t kind) {
-    if (Id() == 0 || (kind != core::kTenant && kind != core::kLease)) return;
-    if (StatusShown() != status_) return;
+    if (kind != core::kTenant || Id() == 0 || StatusShown() != status_) return;
     const auto stored = core::LookUp("SELECT Status FROM Tenant WHERE IdTenant = ?", {Id()});
     if (!stored) return;
     core::screens::SelectByText(*person_->cboStatus, stored->AsText(), {.setText = true});

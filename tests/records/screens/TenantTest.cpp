@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "core/EditRecord.h"
+#include "core/Lookups.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/screens/MaskedEdit.h"
@@ -148,10 +149,7 @@ TEST_F(TenantTest, AStatusOfAnotherMakeIsKept) {
 }
 
 TEST_F(TenantTest, AStatusThatALeaseSetMeanwhileIsNotSavedAway) {
-    const auto lease = [](const char* status) {
-        Run(std::string("UPDATE Tenant SET Status = '") + status + "' WHERE IdTenant = 30");
-        core::NotifyAll(core::kLease, core::kRecordsChanged, 40);
-    };
+    const auto lease = [](const char* status) { core::SetTenantStatus(30, status); };
     auto form = Open(30);
     lease("Current");
     EXPECT_EQ(Find<QComboBox>(*form, "cboStatus").currentText(), QStringLiteral("Current"));
