@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <algorithm>
 
+#include "core/Descriptions.h"
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
 #include "core/screens/ComboList.h"
@@ -134,9 +135,9 @@ void frmRentPayment::Setup(std::int32_t idTransaction, std::int32_t idLease, Ren
 
 void frmRentPayment::ShowPayment() {
     const bool isNew = payment_.idTransaction == 0;
-    setWindowTitle(isNew ? ToScreen(payment_.paymentWord)
-                         : tr("%1: %2").arg(ToScreen(payment_.paymentWord),
-                                            ToScreen(payment_.dateEffective.ToText())));
+    setWindowTitle(
+        tr("%1: %2").arg(ToScreen(payment_.paymentWord),
+                         ToScreen(core::GetDescription(core::kLease, payment_.idLease))));
     ui_->chkShowPending->setVisible(!isNew);
     FillAccounts();
     ShowParty(*ui_->cboTo, payment_.toAccount, payment_.toName);

@@ -65,6 +65,7 @@ TEST_F(PaymentScreen, OpensOnAllThatIsOpenAndFollowsTheTicks) {
     EXPECT_EQ(Rows(*form, "lvwCharges"), (Said{"x 04/01/2024|Rent|Rent due 04/01/2024|950.00",
                                                "x 05/01/2024|Rent|Rent due 05/01/2024|950.00",
                                                "x 05/06/2024|Late Fee|Late Fee|40.00"}));
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Rent Payment: Smith, 12 Elm St B"));
     EXPECT_EQ(Text(*form, "txtAmount"), "1940.00");
     EXPECT_EQ(Outlook(*form), "3 charges, next due date moves from 04/01/2024 to 06/01/2024");
     EXPECT_EQ(Text(*form, "cboFrom"), "Smith, John Q");
