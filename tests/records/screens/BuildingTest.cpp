@@ -19,7 +19,7 @@
 #include "core/screens/Tags.h"
 #include "exchange/DeleteRecord.h"
 #include "platform/dialogs/Desktop.h"
-#include "records/screens/Fields.h"
+#include "records/screens/BuildingFields.h"
 #include "records/screens/frmBuilding.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
@@ -34,6 +34,8 @@ using support::ClickOn;
 using support::FieldEntry;
 using support::Find;
 using support::Type;
+using tests::kBuildingFields;
+using tests::kUnitFields;
 using Said = std::vector<std::string>;
 
 const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
@@ -44,96 +46,6 @@ const std::string kConvert =
     "manage these\n"
     "types of properties within Vestrel.\n"
     "Do you wish to continue?";
-
-const std::vector<FieldEntry> kBuildingFields = {
-    {"txtAddress", "7 O'Hara's \"Row\"", "Address", ""},
-    {"txtZip", "97301", "Zip", ""},
-    {"txtCity", "Salem", "City", ""},
-    {"txtCounty", "Marion", "County", ""},
-    {"txtState", "OR", "State", ""},
-    {"cboRegion", "West", "Region", ""},
-    {"cboPropType", "House", "PropType", ""},
-    {"cboPropDesc", "Bungalow", "PropDesc", ""},
-    {"cboZoning", "R1", "Zoning", ""},
-    {"cboConstruction", "Brick", "Construction", ""},
-    {"txtYearBuilt", "1921", "YearBuilt", ""},
-    {"txtStoryHeight", "2", "StoryHeight", ""},
-    {"txtLotSize", "50' x 100'", "LotSize", ""},
-    {"txtBuildingKeyType", "Yale", "KeyType", ""},
-    {"txtBuildingKeyCode", "K-7", "KeyCode", ""},
-    {"txtTaxAccount", "R12345", "TaxAccountNumber", ""},
-    {"chkShed", "x", "Shed", "True"},
-    {"chkFence", "x", "Fence", "True"},
-    {"chkPool", "x", "Pool", "True"},
-    {"chkLawnIrrigation", "x", "LawnIrrigation", "True"},
-    {"chkDeck", "x", "Deck", "True"},
-    {"chkWaterfront", "x", "Waterfront", "True"},
-    {"txtmLegal", "Lot 7, block 2", "Legal", ""},
-    {"txtmBuildingNotes", "Corner house", "Notes", ""},
-    {"chkHideBuilding", "x", "Hide", "True"},
-    {"dpPurchDate", "02/29/2020", "PurchDate", ""},
-    {"txtPurchPrice", "250000.00", "PurchPrice", "250000"},
-    {"cboPurchFrom", "Nobody's Estate", "PurchFrom", ""},
-    {"cboPurchAgent", "Al Owner", "PurchAgent", ""},
-    {"chkPurchTitleIns", "x", "PurchTitleIns", "True"},
-    {"dpSaleDate", "12/31/2030", "SaleDate", ""},
-    {"txtSalePrice", "0.00", "SalePrice", "0"},
-    {"cboSoldTo", "Jo Owner", "SoldTo", ""},
-    {"cboCloseAgent", "Closers", "CloseAgent", ""},
-    {"chkSaleTitleIns", "x", "SaleTitleIns", "True"},
-    {"txtMktValue", "300000.00", "MktValue", "300000"},
-    {"txtEquity", "1000.00", "Equity", "1000"},
-    {"cboDeprMethod", "Straight Line", "DeprMethod", ""},
-    {"txtDeprPeriod", "39.0", "DeprPeriod", "39"},
-    {"txtDeprBasis", "200000.00", "DeprBasis", "200000"},
-    {"cboHOAAccount", "River Bank", "HOAAccount", "60"},
-    {"cboHOAFrequency", "Quarterly", "HOAFrequency", ""},
-    {"txtHOAPayment", "120.50", "HOAPayment", "120.5"},
-    {"dpHOANextDue", "06/30/2024", "HOANextDue", ""},
-    {"cboInsurance", "Sure & Sons", "InsAccount", "66"},
-    {"txtInsPolNum", "P-1", "InsPolNum", ""},
-    {"dpInsNextDue", "01/31/2025", "InsNextDue", ""},
-    {"txtmInsNotes", "Flood not covered", "InsNotes", ""},
-    {"cboElectricAccount", "City Light", "ElectricAccount", "65"},
-    {"txtElectricAccountNumber", "E1", "ElectricAccountNumber", ""},
-    {"cboWaterAccount", "City Light", "WaterAccount", "65"},
-    {"txtWaterAccountNumber", "W1", "WaterAccountNumber", ""},
-    {"cboWaterSource", "Well", "WaterSource", ""},
-    {"cboGasAccount", "City Light", "GasAccount", "65"},
-    {"txtGasAccountNumber", "G1", "GasAccountNumber", ""},
-    {"cboGasType", "Natural", "GasType", ""},
-    {"cboSewageAccount", "City Light", "SewageAccount", "65"},
-    {"txtSewageAccountNumber", "S1", "SewageAccountNumber", ""},
-    {"cboSewageType", "Septic", "SewageType", ""},
-    {"cboCableAccount", "City Light", "CableAccount", "65"},
-    {"txtCableAccountNumber", "C1", "CableAccountNumber", ""},
-    {"cboTrashAccount", "City Light", "TrashAccount", "65"},
-    {"txtTrashAccountNumber", "T1", "TrashAccountNumber", ""},
-    {"cboSecAccount", "Al Owner", "SecAccount", "61"},
-    {"txtSecVendor", "Watchmen", "SecVendor", ""},
-    {"txtSecAccountNumber", "A-9", "SecAccountNumber", ""},
-    {"txtSecMaster", "4711", "SecMaster", ""},
-    {"txtSecPassword", "swordfish", "SecPassword", ""}};
-
-const std::vector<FieldEntry> kUnitFields = {{"txtUnit", "1", "Unit", ""},
-                                             {"cboUnitStatus", "Avaliable", "Status", ""},
-                                             {"txtRent", "950.00", "Rent", "950"},
-                                             {"txtSqFt", "1200", "SqFt", ""},
-                                             {"txtFaces", "South", "Faces", ""},
-                                             {"txtBedrooms", "3", "Bedrooms", ""},
-                                             {"txtBathrooms", "1.5", "Bathrooms", ""},
-                                             {"txtGarage", "1", "Garage", ""},
-                                             {"txtUnitKeyType", "Abus", "KeyType", ""},
-                                             {"txtUnitKeyCode", "K-8", "KeyCode", ""},
-                                             {"txtSecTenant", "0815", "SecTenant", ""},
-                                             {"chkSplit", "x", "Split", "True"},
-                                             {"chkFireplace", "x", "Fireplace", "True"},
-                                             {"chkWDHookup", "x", "WDHookup", "True"},
-                                             {"chkSmoke", "x", "Smoke", "True"},
-                                             {"chkPetAllowed", "x", "PetAllowed", "True"},
-                                             {"txtmAd", "Sunny", "Ad", ""},
-                                             {"txtmUnitNotes", "Quiet", "Notes", ""},
-                                             {"chkHideUnit", "x", "Hide", "True"}};
 
 class BuildingTest : public support::ScreenTest {
   protected:
