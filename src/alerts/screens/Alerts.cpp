@@ -203,9 +203,9 @@ std::string Alerts::NotesText() const {
 void Alerts::OpenAlert() const {
     const auto row = static_cast<std::size_t>(list_->currentRow());
     if (list_->currentRow() < 0 || row >= records_.size()) return;
-    const auto [kind, id] = records_[row];
-    if (kind == 0 || id == 0) return;
-    core::screens::Guarded([kind = kind, id = id] { core::EditRecord(kind, id); });
+    const std::pair<std::int16_t, std::int32_t> record = records_[row];
+    if (record.first == 0 || record.second == 0) return;
+    core::screens::Guarded([record] { core::EditRecord(record.first, record.second); });
 }
 
 void Alerts::resizeEvent(QResizeEvent* event) {

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-PendingRows::PendingRows(DatabaseEngine& engine, std::shared_ptr<const StatementPlan> plan,
+PendingRows::PendingRows(DatabaseEngine& engine, const std::shared_ptr<const StatementPlan>& plan,
                          std::vector<Value> parameters, RowBuffer& rows)
     : engine_(&engine),
       parameters_(std::move(parameters)),

@@ -18,7 +18,7 @@ class DatabaseEngine;
 class PendingRows {
   public:
     /// Starts the select, which puts its rows into `rows`, and counts them.
-    PendingRows(DatabaseEngine& engine, std::shared_ptr<const StatementPlan> plan,
+    PendingRows(DatabaseEngine& engine, const std::shared_ptr<const StatementPlan>& plan,
                 std::vector<Value> parameters, RowBuffer& rows);
     ~PendingRows();
     PendingRows(const PendingRows&) = delete;

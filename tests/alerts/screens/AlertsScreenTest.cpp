@@ -29,6 +29,12 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 class AlertsPage : public support::ScreenTest {
+  public:
+    ~AlertsPage() override {
+        for (const std::int16_t kind : {core::kLease, core::kMortgage, core::kBuilding})
+            core::RegisterOpener(kind, nullptr);
+    }
+
   protected:
     AlertsPage() {
         platform::SetToday(platform::Date(2024, 5, 17));
@@ -38,10 +44,6 @@ class AlertsPage : public support::ScreenTest {
                 opened_.push_back(std::to_string(request.kind) + " " + std::to_string(request.id));
             });
         }
-    }
-    ~AlertsPage() override {
-        for (const std::int16_t kind : {core::kLease, core::kMortgage, core::kBuilding})
-            core::RegisterOpener(kind, nullptr);
     }
 
     void Show() {

@@ -11,7 +11,6 @@
 #include "core/RegistryKeys.h"
 #include "core/Settings.h"
 #include "dbmender/frmDbMender.h"
-#include "platform/dialogs/Choosers.h"
 #include "platform/qt/Text.h"
 #include "shell/Registrations.h"
 #include "store/CreateDatabase.h"
@@ -33,7 +32,6 @@ using testing::IsEmpty;
 class MenderScreen : public support::ScreenTest {
   protected:
     MenderScreen() { MakeFile("kestrom"); }
-    ~MenderScreen() override { platform::SetChoosers(nullptr); }
 
     dbmender::frmDbMender& Open(bool warns = false, const char* dbName = "Default") {
         const auto start = [this](const std::filesystem::path& program,
