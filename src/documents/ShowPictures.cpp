@@ -54,7 +54,7 @@ std::vector<ShowPicture> PicturesOf(std::int16_t kind, std::int32_t id) {
 
 /// In the program's directory; beside the program itself where that directory is another.
 std::filesystem::path FindShowProgram() {
-    const std::filesystem::path own = core::App().AppPath + std::string(kShowProgram);
+    std::filesystem::path own = core::App().AppPath + std::string(kShowProgram);
     if (platform::FileExists(own.string())) return own;
     return platform::ExecutablePath().parent_path() / kShowProgram;
 }
