@@ -21,7 +21,7 @@ namespace {
 constexpr std::size_t kRowsPerCommit = 50'000;
 
 std::string Describe(std::int16_t kind, std::int32_t id) {
-    const std::string description = GetDescription(kind, id, 0, false);
+    std::string description = GetDescription(kind, id, 0, false);
     if (!description.empty()) return description;
     return platform::ToLower(RecordKindName(kind)) + " " + std::to_string(id);
 }

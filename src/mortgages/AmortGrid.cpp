@@ -78,6 +78,7 @@ std::string AmortGrid::Text(std::size_t row, std::size_t column) const {
 
 std::vector<AmortColumn> PrintedColumns(bool full) {
     std::vector<AmortColumn> columns;
+    columns.reserve(kColumns.size());
     for (const std::size_t place : kPrinted)
         columns.push_back(kColumns[place]);
     if (!full) return columns;

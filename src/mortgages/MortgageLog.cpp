@@ -5,7 +5,6 @@
 
 namespace mortgages {
 
-using platform::Currency;
 using platform::Value;
 
 namespace {

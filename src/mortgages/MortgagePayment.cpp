@@ -127,7 +127,7 @@ void ReadCharges(MortgagePayment& payment) {
         charges.push_back(std::move(charge));
     }
     // Charges of one day stay in the order they were posted in.
-    std::stable_sort(charges.begin(), charges.end(), [](const auto& a, const auto& b) {
+    std::sort(charges.begin(), charges.end(), [](const auto& a, const auto& b) {
         return std::pair(a.datePosted, a.idMortgageLog) < std::pair(b.datePosted, b.idMortgageLog);
     });
     payment.charges = std::move(charges);

@@ -32,10 +32,12 @@ clsMortgage Loan(double amount, double periods, double percent) {
     return loan;
 }
 
+using Exact = long double;
+
 /// Equal to a billionth; what nears nothing is measured by `scale`.
 void ExpectClose(double actual, long double expected, long double scale) {
     const long double allowed = 1e-9L * std::max(std::fabs(expected), scale);
-    EXPECT_LE(std::fabs(actual - expected), allowed)
+    EXPECT_LE(std::fabs(static_cast<Exact>(actual) - expected), allowed)
         << actual << " is not " << static_cast<double>(expected);
 }
 
@@ -111,13 +113,12 @@ TEST_F(Schedule, AgreesWithAnIndependentReckoning) {
             loan.SetXPri(static_cast<int>(i) + 1, static_cast<double>(loanCase.extra[i]));
         loan.ReCalc();
 
-        ReferenceLoan reference{.balance = loanCase.amount,
-                                .periods = loanCase.periods,
+        ReferenceLoan reference{.balance = static_cast<Exact>(loanCase.amount),
+                                .periods = static_cast<Exact>(loanCase.periods),
                                 .rates = loanCase.rates,
                                 .extra = loanCase.extra,
                                 .interestOnly = loanCase.interestOnly};
-        if (reference.rates.empty())
-            reference.rates = {static_cast<long double>(loanCase.percent / 100)};
+        if (reference.rates.empty()) reference.rates = {static_cast<Exact>(loanCase.percent / 100)};
         const auto expected = Amortise(reference, static_cast<int>(loanCase.periods));
         ASSERT_EQ(loan.Schedule().size(), expected.size());
         const long double scale = expected.front().payment;
@@ -160,11 +161,11 @@ TEST_F(Schedule, BalancesFollowTheClosedForm) {
         SCOPED_TRACE(loanCase.percent);
         const clsMortgage loan = Loan(loanCase.amount, loanCase.periods, loanCase.percent);
         // What is left is the value of the payments to come.
-        const long double growth = std::log1p(loanCase.percent / 1200.0L);
+        const long double growth = std::log1p(static_cast<Exact>(loanCase.percent) / 1200);
         const long double whole = std::expm1(-loanCase.periods * growth);
         for (int paid = 1; paid < loanCase.periods; ++paid) {
             const long double share = std::expm1((paid - loanCase.periods) * growth) / whole;
-            ExpectClose(loan.GetPV(paid + 1), loanCase.amount * share, 0);
+            ExpectClose(loan.GetPV(paid + 1), static_cast<Exact>(loanCase.amount) * share, 0);
             if (HasFailure()) break;
         }
         EXPECT_NEAR(loan.GetPriTTD(0), loan.Schedule().front().Pri, 1e-9);
