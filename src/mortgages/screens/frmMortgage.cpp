@@ -24,9 +24,7 @@
 namespace mortgages::screens {
 
 using core::screens::FillList;
-using core::screens::Guarded;
 using platform::qt::FromScreen;
-using platform::qt::ToScreen;
 
 frmMortgage::frmMortgage(QWidget* parent)
     : RecordForm({core::kMortgage, "Mortgage", "IdMortgage"}, parent),

@@ -122,6 +122,7 @@ void frmMortgagePayment::FillAccounts() {
 void frmMortgagePayment::ShowCharges() {
     ReadCharges(payment_);
     std::vector<LogLine> lines;
+    lines.reserve(payment_.charges.size());
     for (const PaymentCharge& charge : payment_.charges) {
         lines.push_back({.idMortgageLog = charge.idMortgageLog,
                          .flags = charge.flags,
@@ -138,6 +139,7 @@ void frmMortgagePayment::ShowCharges() {
 
 void frmMortgagePayment::ShowTicks() {
     std::vector<bool> ticks;
+    ticks.reserve(payment_.charges.size());
     for (const PaymentCharge& charge : payment_.charges)
         ticks.push_back(charge.selected);
     ui_->lvwCharges->ShowTicks(ticks);
