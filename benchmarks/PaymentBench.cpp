@@ -61,7 +61,8 @@ int Run() {
             PayAll);
     });
     const Cost plain = Best([](const std::filesystem::path& books) {
-        return bench::InOwnProcess([] {}, [&] { return bench::RunPlainPayments(books, kPayments); });
+        return bench::InOwnProcess([] {},
+                                   [&] { return bench::RunPlainPayments(books, kPayments); });
     });
     PrintCost("1,000 payments, one after the other", ours);
     PrintCost("  the same rows by the engine alone", plain);

@@ -137,8 +137,7 @@ void RegisterEditors() {
     });
     RegisterChild<records::screens::frmWoItem>(core::kWorkOrderHistory);
     core::RegisterOpener(core::kSvcContract, [](const core::EditRequest& request) {
-        (new records::screens::frmSvcContract)
-            ->Setup(request.id, request.parent1, request.parent3);
+        (new records::screens::frmSvcContract)->Setup(request.id, request.parent1, request.parent3);
     });
     core::RegisterOpener(core::kBuilding, records::screens::OpenBuilding);
     core::RegisterOpener(core::kUnit, records::screens::OpenBuilding);

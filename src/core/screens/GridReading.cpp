@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "core/screens/GridModel.h"
-#include "platform/database/AsNeeded.h"
 
 namespace core::screens {
 

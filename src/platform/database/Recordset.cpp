@@ -2,7 +2,6 @@
 
 #include <numeric>
 
-#include "platform/database/AsNeeded.h"
 #include "platform/database/DatabaseEngine.h"
 #include "platform/database/RecordsetState.h"
 #include "platform/values/Text.h"
@@ -93,7 +92,7 @@ void Recordset::Open(Connection& connection, std::string_view sql, CursorMode mo
     State& state = *state_;
     state.connection = &connection;
     state.mode = mode;
-    if (mode == kReadAsNeeded) {
+    if (mode == CursorMode::ReadAsNeeded) {
         engine.CheckUnit();
         state.pending = std::make_unique<PendingRows>(
             engine, prepared.plan, std::vector(parameters.begin(), parameters.end()), state.rows);
@@ -117,11 +116,6 @@ void Recordset::Open(Connection& connection, std::string_view sql, CursorMode mo
 void Recordset::Open(Connection& connection, std::string_view sql, CursorMode mode,
                      std::initializer_list<Value> parameters) {
     Open(connection, sql, mode, std::span(parameters.begin(), parameters.size()));
-}
-
-void OpenAsNeeded(Recordset& rows, Connection& connection, std::string_view sql,
-                  std::initializer_list<Value> parameters) {
-    rows.Open(connection, sql, kReadAsNeeded, parameters);
 }
 
 void Recordset::Close() {

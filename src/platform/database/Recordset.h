@@ -17,7 +17,14 @@ enum class CursorMode {
     ReadOnly,
     Updatable,
     AppendOnly, ///< opened to add rows: the statement names a table, whose rows aren't fetched
+    /// Only read, and no further than rows are asked for. They are as they were when it was opened
+    /// all the same: before anything is written, and before the connection closes, the rest is read
+    /// at once. A failure that comes later is thrown where a row is asked for.
+    ReadAsNeeded,
 };
+
+/// How many rows ReadAsNeeded reads at first.
+inline constexpr int kFirstRowsRead = 500;
 
 class Recordset;
 

@@ -106,7 +106,7 @@ int BindEdits(PreparedStatement& statement, const dialect::CompiledStatement& se
 } // namespace
 
 void Recordset::State::CheckWritable() const {
-    if (mode == CursorMode::ReadOnly || mode == kReadAsNeeded) {
+    if (IsReadOnly()) {
         throw DatabaseError("The row set was opened to be read only.");
     }
     if (Compiled().table.empty()) {

@@ -6,16 +6,12 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/database/AsNeeded.h"
 #include "platform/database/PendingRows.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/RowBuffer.h"
 #include "platform/database/StatementCache.h"
 
 namespace platform {
-
-/// The mode of OpenAsNeeded, which no caller names.
-inline constexpr CursorMode kReadAsNeeded = static_cast<CursorMode>(3);
 
 /// What a row set holds: its rows as they are stored, their present order, and what was set on the
 /// current one.
@@ -56,9 +52,10 @@ struct Recordset::State {
     /// The current row's stored value at `index`: of a field, or of the row's number behind them.
     Cell Stored(std::size_t index);
 
-    bool IsWritable() const {
-        return mode != CursorMode::ReadOnly && mode != kReadAsNeeded && !Compiled().table.empty();
+    bool IsReadOnly() const {
+        return mode == CursorMode::ReadOnly || mode == CursorMode::ReadAsNeeded;
     }
+    bool IsWritable() const { return !IsReadOnly() && !Compiled().table.empty(); }
     void CheckWritable() const;
     bool IsComputed(std::size_t field) const { return Compiled().sources[field].empty(); }
     void Edit(std::size_t field, Value value);

@@ -8,7 +8,6 @@
 #include "core/Session.h"
 #include "core/screens/Grid.h"
 #include "core/screens/GridColumns.h"
-#include "platform/database/AsNeeded.h"
 #include "platform/qt/Text.h"
 #include "shell/CellMarks.h"
 #include "shell/ViewTexts.h"
@@ -77,8 +76,8 @@ void ViewPanel::ReadRows() {
 void ViewPanel::ReadTransactions() {
     platform::Recordset rows;
     try {
-        platform::OpenAsNeeded(rows, core::App().Connection,
-                               BuildViewSql(kind_, Filter(), IdColumn::First));
+        rows.Open(core::App().Connection, BuildViewSql(kind_, Filter(), IdColumn::First),
+                  platform::CursorMode::ReadAsNeeded);
         count_ = rows.RecordCount();
     } catch (const platform::Error&) {
         count_ = -1;

@@ -9,7 +9,6 @@
 #include <numeric>
 
 #include "core/Settings.h"
-#include "platform/database/AsNeeded.h"
 #include "support/screens/Driving.h"
 #include "support/screens/ScreenFixture.h"
 
@@ -250,7 +249,8 @@ TEST_F(GridTest, ShowsTheFirstRowsOfALongListWhileTheOthersAreRead) {
         work.Commit();
     }
     platform::Recordset rows;
-    platform::OpenAsNeeded(rows, core::App().Connection, "SELECT IdMileage, Vehicle FROM Mileage");
+    rows.Open(core::App().Connection, "SELECT IdMileage, Vehicle FROM Mileage",
+              platform::CursorMode::ReadAsNeeded);
     LoadGrid(grid_, std::move(rows));
     grid_.Model().ReadOn();
     AutoSizeGrid(grid_, 1, Sizing::FitText);
