@@ -81,6 +81,11 @@ void SelectByText(QComboBox& combo, std::string_view text, NoMatch otherwise) {
     ShowSelection(list, combo);
 }
 
+void SelectOrName(QComboBox& combo, std::int32_t id, std::string_view name) {
+    SelectById(combo, id);
+    if (id == 0 || GetSelectedId(combo) != id) SelectByText(combo, name, {.setText = true});
+}
+
 void LoadPickList(QComboBox& combo) {
     ChoiceList list = ReadCombo(combo);
     core::LoadPickList(list, TagOf(combo));

@@ -25,6 +25,8 @@ void FillFromCommaList(QComboBox& combo, std::string_view text);
 std::int32_t GetSelectedId(const QComboBox& combo);
 void SelectById(QComboBox& combo, std::int32_t id, NoMatch otherwise = {});
 void SelectByText(QComboBox& combo, std::string_view text, NoMatch otherwise = {});
+/// Selects the row of the identifier; one that isn't offered, and 0, is shown by its name.
+void SelectOrName(QComboBox& combo, std::int32_t id, std::string_view name);
 
 /// The remembered items of the field in the combo box's tag join the list; its text stays.
 void LoadPickList(QComboBox& combo);

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QTreeWidget>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
+#include "core/screens/LedgerList.h"
 #include "leases/RentCodes.h"
-#include "platform/values/Currency.h"
-#include "platform/values/Date.h"
 
 namespace leases::screens {
 
@@ -26,9 +25,8 @@ struct ChargeLine {
 /// Which charges a command takes together.
 enum class ChargePick { All, Rent, Other };
 
-/// Charges to look at and choose from; several can be selected, and with ticks each has a check
-/// box. A click on a caption sorts by it.
-class ChargeList : public QTreeWidget {
+/// Charges of a lease to look at and choose from.
+class ChargeList : public core::screens::LedgerList {
     Q_OBJECT
 
   public:
@@ -37,14 +35,9 @@ class ChargeList : public QTreeWidget {
     /// What the columns are called, and how much of the width each takes; one without a share is
     /// hidden. In the order date, category, description, amount, running total.
     void SetColumns(const QStringList& captions, const std::vector<int>& percents);
-    void SetTicks(bool ticks) { ticks_ = ticks; }
     /// The row that is current stays so.
     void ShowLines(const std::vector<ChargeLine>& lines);
 
-    /// The selected rows, or else the current one.
-    std::vector<std::int32_t> SelectedIds() const;
-    /// The row in focus, or else the first selected one; 0 without one.
-    std::int32_t CurrentId() const;
     std::vector<std::int32_t> TickedIds() const;
 
     /// Selects exactly these rows.
@@ -55,23 +48,15 @@ class ChargeList : public QTreeWidget {
   Q_SIGNALS:
     void TicksChanged();
     void SelectionMoved();
-    /// A double click or Enter on a row.
-    void RowChosen(std::int32_t id);
-    void DeleteAsked();
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    void SortBy(int column);
+    static bool IsPicked(const QTreeWidgetItem& row, ChargePick pick);
     void ShareWidth();
 
     std::vector<int> percents_;
-    bool ticks_ = false;
-    bool filling_ = false;
-    int sortedBy_ = -1;
-    Qt::SortOrder order_ = Qt::AscendingOrder;
 };
 
 } // namespace leases::screens

@@ -26,6 +26,7 @@ using core::screens::GetSelectedId;
 using core::screens::Guarded;
 using core::screens::SelectById;
 using core::screens::SelectByText;
+using core::screens::SelectOrName;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -34,12 +35,6 @@ namespace {
 /// A name that was typed stays, and nobody is chosen for it.
 void FillParties(int kind, QComboBox& combo) {
     FillList(kind, combo, {.keepText = GetSelectedId(combo) == 0});
-}
-
-/// A party that isn't in the list any more is shown by its name.
-void ShowParty(QComboBox& combo, std::int32_t id, const std::string& name) {
-    SelectById(combo, id);
-    if (id == 0 || GetSelectedId(combo) != id) SelectByText(combo, name, {.setText = true});
 }
 
 } // namespace
@@ -140,10 +135,10 @@ void frmRentPayment::ShowPayment() {
                          ToScreen(core::GetDescription(core::kLease, payment_.idLease))));
     ui_->chkShowPending->setVisible(!isNew);
     FillAccounts();
-    ShowParty(*ui_->cboTo, payment_.toAccount, payment_.toName);
+    SelectOrName(*ui_->cboTo, payment_.toAccount, payment_.toName);
     SelectById(*ui_->cboFromType, payment_.fromType, {.selectFirst = true});
     FillPayers();
-    ShowParty(*ui_->cboFrom, payment_.fromId, payment_.fromName);
+    SelectOrName(*ui_->cboFrom, payment_.fromId, payment_.fromName);
     for (const std::string& word : PaymentWords(payment_.rentClass))
         ui_->cboPaymentType->addItem(ToScreen(word));
     SelectByText(*ui_->cboPaymentType, payment_.paymentWord, {.setText = true});

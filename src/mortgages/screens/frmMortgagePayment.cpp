@@ -20,20 +20,10 @@ namespace mortgages::screens {
 using core::screens::FillList;
 using core::screens::GetSelectedId;
 using core::screens::Guarded;
-using core::screens::SelectById;
 using core::screens::SelectByText;
+using core::screens::SelectOrName;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
-
-namespace {
-
-/// An account that isn't in the list any more is shown by its name.
-void ShowParty(QComboBox& combo, std::int32_t id, const std::string& name) {
-    SelectById(combo, id);
-    if (id == 0 || GetSelectedId(combo) != id) SelectByText(combo, name, {.setText = true});
-}
-
-} // namespace
 
 frmMortgagePayment::frmMortgagePayment(QWidget* parent)
     : EntryForm(parent),
@@ -102,8 +92,8 @@ void frmMortgagePayment::ShowPayment() {
                        ? tr("Mortgage Payment")
                        : tr("Mortgage Payment: %1").arg(ToScreen(payment_.dateEffective.ToText())));
     FillAccounts();
-    ShowParty(*ui_->cboFrom, payment_.fromAccount, payment_.fromName);
-    ShowParty(*ui_->cboTo, payment_.toAccount, payment_.toName);
+    SelectOrName(*ui_->cboFrom, payment_.fromAccount, payment_.fromName);
+    SelectOrName(*ui_->cboTo, payment_.toAccount, payment_.toName);
     ui_->cboPaymentType->addItem(ToScreen(kCategoryPayment));
     SelectByText(*ui_->cboPaymentType, payment_.paymentType, {.setText = true});
     ui_->dpEffectiveDate->SetDay(payment_.dateEffective);

@@ -1,5 +1,3 @@
-#include "platform/database/AsNeeded.h"
-
 #include "DatabaseFixture.h"
 
 namespace platform {
@@ -15,7 +13,7 @@ class ReadAsNeeded : public DatabaseFixture {
         for (int id = 1; id <= kRows; ++id)
             AddPerson(id, "old");
         work.Commit();
-        OpenAsNeeded(rows_, connection_, "SELECT Id, Name FROM Person");
+        rows_.Open(connection_, "SELECT Id, Name FROM Person", CursorMode::ReadAsNeeded);
     }
 
     /// Of all rows by their places: the names that aren't "old" and the places whose number isn't
@@ -59,7 +57,7 @@ TEST_F(ReadAsNeeded, OutlivesAUnitOfWorkThatIsTakenBack) {
     {
         const UnitOfWork work(connection_);
         connection_.Execute("UPDATE Person SET Name = 'new'");
-        OpenAsNeeded(inside, connection_, "SELECT Id, Name FROM Person");
+        inside.Open(connection_, "SELECT Id, Name FROM Person", CursorMode::ReadAsNeeded);
     }
     EXPECT_EQ(Changed(), "");
     inside.SetAbsolutePosition(kRows);
@@ -73,13 +71,14 @@ TEST_F(ReadAsNeeded, OutlivesItsConnection) {
 }
 
 TEST_F(ReadAsNeeded, CanBeLeftBeforeItsEnd) {
-    OpenAsNeeded(rows_, connection_, "SELECT Id FROM Person WHERE Id = ?", {7});
+    rows_.Open(connection_, "SELECT Id FROM Person WHERE Id = ?", CursorMode::ReadAsNeeded, {7});
     EXPECT_EQ(rows_.RecordCount(), 1);
     EXPECT_EQ(rows_["Id"].AsLong(), 7);
-    OpenAsNeeded(rows_, connection_, "SELECT Id FROM Person WHERE Id = 0");
+    rows_.Open(connection_, "SELECT Id FROM Person WHERE Id = 0", CursorMode::ReadAsNeeded);
     EXPECT_EQ(rows_.RecordCount(), 0);
     EXPECT_TRUE(rows_.Eof());
-    EXPECT_THROW(OpenAsNeeded(rows_, connection_, "SELECT Nothing FROM Person"), DialectError);
+    EXPECT_THROW(rows_.Open(connection_, "SELECT Nothing FROM Person", CursorMode::ReadAsNeeded),
+                 DialectError);
     EXPECT_FALSE(rows_.IsOpen());
     connection_.Execute("DELETE * FROM Person");
     EXPECT_EQ(Single("SELECT Count(*) FROM Person"), "0");
