@@ -9,7 +9,6 @@
 
 namespace leases {
 
-using platform::Currency;
 using platform::CursorMode;
 using platform::Recordset;
 

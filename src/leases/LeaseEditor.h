@@ -54,7 +54,7 @@ struct LeaseAvailability {
     friend bool operator==(const LeaseAvailability&, const LeaseAvailability&) = default;
 };
 
-LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view status);
+LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view word);
 
 /// Whether a lease of this term type has an end: one that runs on from week to week or month to
 /// month has none.

@@ -6,12 +6,9 @@
 #include "core/RecordKinds.h"
 #include "leases/RentLog.h"
 #include "leases/mLease.h"
-#include "platform/database/Recordset.h"
+#include "platform/database/Connection.h"
 
 namespace leases {
-
-using platform::CursorMode;
-using platform::Recordset;
 
 namespace {
 

@@ -34,7 +34,6 @@ using core::screens::GetSelectedId;
 using core::screens::Guarded;
 using core::screens::SelectById;
 using platform::qt::FromScreen;
-using platform::qt::ToScreen;
 
 frmLease::frmLease(QWidget* parent)
     : RecordForm({core::kLease, "Lease", "IdLease"}, parent),

@@ -161,6 +161,7 @@ void frmRentPayment::ShowCharges() {
     ReadCharges(payment_,
                 ui_->chkShowPending->isChecked() ? OpenCharges::Offer : OpenCharges::Leave);
     std::vector<ChargeLine> lines;
+    lines.reserve(payment_.charges.size());
     for (const PaymentCharge& charge : payment_.charges) {
         lines.push_back({charge.idRentLog, charge.flags, charge.datePosted, charge.category,
                          charge.description, charge.amount, std::nullopt, charge.selected});
