@@ -4,6 +4,7 @@
 
 #include "core/Preferences.h"
 #include "core/screens/ActionBar.h"
+#include "core/screens/DayErrors.h"
 #include "core/screens/ErrorRoll.h"
 #include "core/screens/Help.h"
 #include "core/screens/Tags.h"
@@ -41,6 +42,10 @@ void EntryForm::Submit() {
     if (!kept) return;
     dirty_ = false;
     close();
+}
+
+std::vector<std::string> EntryForm::Errors() {
+    return DayErrors(*this);
 }
 
 void EntryForm::Refresh(std::int16_t /*kind*/) {}

@@ -35,8 +35,8 @@ class EntryForm : public Form {
 
     /// Gives the entries to the logic. Failures are thrown.
     virtual void Store() = 0;
-    /// What is wrong with what was entered, a line each.
-    virtual std::vector<std::string> Errors() { return {}; }
+    /// What is wrong with what was entered, a line each; by itself, typed days that are none.
+    virtual std::vector<std::string> Errors();
     /// Refreshes what depends on records of `kind`, which is nobody's change either.
     virtual void Refresh(std::int16_t kind);
 

@@ -1,6 +1,8 @@
 #include "core/screens/RecordForm.h"
 
 #include <QPushButton>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "core/Globals.h"
@@ -8,13 +10,12 @@
 #include "core/Session.h"
 #include "core/screens/ActionBar.h"
 #include "core/screens/Binding.h"
-#include "core/screens/DateEdit.h"
+#include "core/screens/DayErrors.h"
 #include "core/screens/ErrorRoll.h"
 #include "core/screens/Help.h"
 #include "core/screens/Tags.h"
 #include "core/screens/Wiring.h"
 #include "platform/dialogs/Dialogs.h"
-#include "platform/qt/Text.h"
 
 namespace core::screens {
 
@@ -141,12 +142,7 @@ void RecordForm::ShowDirty() {
 /// The screen's own lines, and one for each typed day that is none.
 std::vector<std::string> RecordForm::AllErrors() {
     std::vector<std::string> lines = Errors();
-    for (const QWidget* const control : ControlsOf(*this)) {
-        const auto* const date = qobject_cast<const DateEdit*>(control);
-        if (!date || date->IsValid()) continue;
-        lines.push_back("\"" + platform::qt::FromScreen(date->text()) +
-                        "\" is not a date (mm/dd/yyyy).");
-    }
+    std::ranges::move(DayErrors(*this), std::back_inserter(lines));
     return lines;
 }
 

@@ -215,11 +215,6 @@ void frmRentPayment::RemoveCharges() {
     DeleteCharges(payment_.idLease, ui_->lvwCharges->SelectedIds(), "Delete all selected charges?");
 }
 
-std::vector<std::string> frmRentPayment::Errors() {
-    if (ui_->dpEffectiveDate->IsValid()) return {};
-    return {"\"" + FromScreen(ui_->dpEffectiveDate->text()) + "\" is not a date (mm/dd/yyyy)."};
-}
-
 void frmRentPayment::Store() {
     ReadTicks();
     payment_.dateEffective = ui_->dpEffectiveDate->Day().value_or(platform::Date());

@@ -29,7 +29,6 @@ class frmRentPayment : public core::screens::EntryForm {
 
   protected:
     void Store() override;
-    std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;
 
   private:

@@ -3,6 +3,7 @@
 #include "core/RecordNotices.h"
 #include "core/Settings.h"
 #include "core/screens/ComboList.h"
+#include "core/screens/DayErrors.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Format.h"
 #include "ui_frmRentSplit.h"
@@ -108,10 +109,9 @@ std::vector<std::string> frmRentSplit::Errors() {
     std::vector<std::string> lines;
     for (const Line& line : lines_) {
         const std::string amount = FromScreen(line.amount->text());
-        const std::string date = FromScreen(line.date->text());
         if (!line.amount->Amount())
             lines.push_back("\"" + amount + "\" is not an amount of money.");
-        if (!line.date->IsValid()) lines.push_back("\"" + date + "\" is not a date (mm/dd/yyyy).");
+        if (!line.date->IsValid()) lines.push_back(core::screens::NotADay(*line.date));
     }
     return lines;
 }

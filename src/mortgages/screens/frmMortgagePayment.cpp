@@ -153,11 +153,6 @@ void frmMortgagePayment::RemoveCharges() {
     DeleteLogRows(ui_->lvwCharges->SelectedIds(), "Delete all selected charges?");
 }
 
-std::vector<std::string> frmMortgagePayment::Errors() {
-    if (ui_->dpEffectiveDate->IsValid()) return {};
-    return {"\"" + FromScreen(ui_->dpEffectiveDate->text()) + "\" is not a date (mm/dd/yyyy)."};
-}
-
 void frmMortgagePayment::Store() {
     payment_.dateEffective = ui_->dpEffectiveDate->Day().value_or(platform::Date());
     payment_.fromAccount = GetSelectedId(*ui_->cboFrom);

@@ -27,7 +27,6 @@ class frmMortgagePayment : public core::screens::EntryForm {
 
   protected:
     void Store() override;
-    std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;
 
   private:

@@ -81,11 +81,6 @@ void frmMtgLog::ShowTotal() {
         [this] { ui_->txtTotal->setText(ToScreen(platform::FormatMoney(Entered().Total()))); });
 }
 
-std::vector<std::string> frmMtgLog::Errors() {
-    if (ui_->dpDatePosted->IsValid()) return {};
-    return {"\"" + FromScreen(ui_->dpDatePosted->text()) + "\" is not a date (mm/dd/yyyy)."};
-}
-
 void frmMtgLog::Store() {
     SaveCharge(Entered(), id_);
 }

@@ -25,7 +25,6 @@ class frmMtgLog : public core::screens::EntryForm {
 
   protected:
     void Store() override;
-    std::vector<std::string> Errors() override;
 
   private:
     void ShowEntry();
