@@ -4,9 +4,19 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
+# Clones at other places, and other presets with the same flags, share what was compiled; the
+# looseness is what ccache wants for precompiled headers.
 find_program(VESTREL_CCACHE ccache)
 if(VESTREL_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${VESTREL_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
+    CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+    ${VESTREL_CCACHE})
+endif()
+
+# The faster linker, where it is installed.
+find_program(VESTREL_MOLD mold)
+if(VESTREL_MOLD)
+  add_link_options(-fuse-ld=mold)
 endif()
 
 add_library(vestrel_warnings INTERFACE)

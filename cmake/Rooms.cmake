@@ -11,6 +11,7 @@ function(vestrel_room target)
     PUBLIC ${ROOM_USES} ${ROOM_LIBRARIES}
     PRIVATE vestrel_warnings vestrel_sanitizers)
   set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+  vestrel_precompiled(${target} pch_logic)
 endfunction()
 
 # vestrel_test(<target> [USES <target>...]): one test program of the files of this folder.
@@ -23,6 +24,7 @@ function(vestrel_test target)
     VESTREL_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}")
   target_link_libraries(${target} PRIVATE
     ${TEST_USES} GTest::gtest GTest::gmock GTest::gtest_main vestrel_warnings vestrel_sanitizers)
+  vestrel_precompiled(${target} pch_tests)
   add_test(NAME ${target} COMMAND ${target})
 endfunction()
 
@@ -39,6 +41,7 @@ function(vestrel_screens target)
   target_link_libraries(${target}
     PUBLIC ${ROOM_USES} ${ROOM_LIBRARIES} Qt6::Widgets
     PRIVATE vestrel_warnings vestrel_sanitizers)
+  vestrel_precompiled(${target} pch_screens)
 endfunction()
 
 # vestrel_screen_test(<target> [USES <target>...]): a test program of this folder that drives real
@@ -51,5 +54,6 @@ function(vestrel_screen_test target)
   target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${target} PRIVATE
     ${TEST_USES} screen_test_support GTest::gtest GTest::gmock vestrel_warnings vestrel_sanitizers)
+  vestrel_precompiled(${target} pch_screen_tests)
   add_test(NAME ${target} COMMAND ${target})
 endfunction()
