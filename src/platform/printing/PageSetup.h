@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/printing/Lengths.h"
+#include "platform/printing/PrintStyle.h"
+
+namespace platform {
+
+/// The numbers are stored with reports.
+enum class PageOrientation : std::int16_t { Portrait = 0, Landscape = 1 };
+enum class Paper : std::uint8_t { Letter, A4 };
+
+/// "Letter" and "A4", as the setting of the paper holds them.
+std::string_view PaperName(Paper paper);
+
+/// Letter where the territory of a locale's name such as "en_US.UTF-8" uses it or the name has
+/// none, otherwise A4.
+Paper PaperOfLocale(std::string_view locale);
+
+/// The paper of this machine's locale (LC_ALL, LC_PAPER, LANG).
+Paper DefaultPaper();
+
+/// The paper of a setting's text, whatever its case; DefaultPaper if the text names none.
+Paper PaperOfSetting(std::string_view text);
+
+/// The page that a document is laid out for.
+struct PageSetup {
+    Paper paper = Paper::Letter;
+    PageOrientation orientation = PageOrientation::Portrait;
+    Twips marginLeft = kTwipsPerInch;
+    Twips marginTop = kTwipsPerInch;
+    Twips marginRight = kTwipsPerInch;
+    Twips marginBottom = kTwipsPerInch;
+
+    /// The whole page as it is read, so that landscape pages are wider than high.
+    Twips PageWidth() const;
+    Twips PageHeight() const;
+    /// The page less its margins; margins that leave less than an inch are cut in proportion by
+    /// WithSaneMargins.
+    Twips PrintWidth() const { return PageWidth() - marginLeft - marginRight; }
+    Twips PrintHeight() const { return PageHeight() - marginTop - marginBottom; }
+
+    /// The same setup with margins that are not negative and leave at least an inch each way.
+    PageSetup WithSaneMargins() const;
+
+    friend bool operator==(const PageSetup&, const PageSetup&) = default;
+};
+
+/// What stands above and below every page: left, centre and right, separated by "|"; "%d" is the
+/// number of the page.
+struct PageFrame {
+    std::string header;
+    std::string footer;
+    PrintStyle style{.fontName = "Arial", .fontSize = 10};
+};
+
+} // namespace platform

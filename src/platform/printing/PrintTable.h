@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/printing/PrintStyle.h"
+
+namespace platform {
+
+/// The numbers are those that report definitions and engines know.
+enum class TableBorder : std::uint8_t {
+    None = 0,
+    Bottom = 1,
+    Top = 2,
+    TopBottom = 3,
+    Box = 4,
+    Columns = 5,
+    ColTopBottom = 6,
+    BelowHeader = 7,
+    BoxRows = 8,
+    BoxColumns = 9,
+    All = 10,
+};
+
+enum class VerticalAlign : std::uint8_t { Top, Middle, Bottom };
+/// Whether a column's text goes on in a further line or is cut with an ellipsis.
+enum class Wrap : std::uint8_t { Wrap, Ellipsis };
+
+struct TableColumn {
+    TextAlign align = TextAlign::Left;
+    Wrap wrap = Wrap::Wrap;
+    bool bold = false;
+    /// The decimal points of "12.00" and "(12.00)" stand above each other.
+    bool alignCurrency = false;
+    Twips width = 0;    ///< 0 for a share of what is left
+    double percent = 0; ///< of the printable width; used where it is above 0
+};
+
+struct TableHeader {
+    std::vector<std::string> cells{}; ///< empty for a table without a header row
+    bool bold = false;
+    std::optional<PrintColor> background = std::nullopt;
+    Twips height = 0; ///< at least this high
+    VerticalAlign vertical = VerticalAlign::Top;
+};
+
+/// The rows of a table, read once from the first to the last as they are printed, so that none need
+/// be held. The cells stay valid until the next call.
+class TableRows {
+  public:
+    virtual ~TableRows() = default;
+    virtual std::size_t Count() const = 0;
+    /// The cells of the next row; nothing after the last one. A row of fewer cells than the table
+    /// has columns leaves the rest blank, further cells are not shown.
+    virtual const std::vector<std::string>* Next() = 0;
+};
+
+/// Rows that are held.
+class HeldRows : public TableRows {
+  public:
+    explicit HeldRows(std::vector<std::vector<std::string>> rows) : rows_(std::move(rows)) {}
+    std::size_t Count() const override { return rows_.size(); }
+    const std::vector<std::string>* Next() override {
+        return next_ < rows_.size() ? &rows_[next_++] : nullptr;
+    }
+
+  private:
+    std::vector<std::vector<std::string>> rows_;
+    std::size_t next_ = 0;
+};
+
+/// A table between AddTable and EndTable, whose attributes may still be set. Columns count from 0.
+struct PrintTable {
+    std::vector<TableColumn> columns{};
+    TableHeader header{};
+    TableBorder border = TableBorder::None;
+    std::size_t rowCount = 0; ///< without the header row
+};
+
+/// Columns of a format such as "<2880|>20%|^1.5in|<": "<", ">" and "^" align left, right and
+/// centre, "~" cuts instead of wrapping; the width is in twips, percent of the printable width or a
+/// unit that ParseLength reads; a column without a width, or with none above 0, shares what is
+/// left.
+std::vector<TableColumn> ParseTableFormat(std::string_view format);
+
+/// The rows and cells of a text: rows separated by ";", cells by "|". An empty text has no rows; a
+/// ";" at the end of the text adds none.
+std::vector<std::vector<std::string>> ParseTableText(std::string_view text);
+
+} // namespace platform

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "platform/printing/DocumentFlow.h"
+#include "platform/printing/PageSink.h"
+
+namespace platform {
+
+/// A document that is held: its finished pages, and its flow beside them.
+class PrintedDocument : public PageSink {
+  public:
+    const DocumentInfo& Info() const { return info_; }
+    std::size_t PageCount() const { return pages_.size(); }
+    /// Counted from 0.
+    const PrintedPage& Page(std::size_t index) const { return pages_[index]; }
+    /// True from EndPages on: no page will be added.
+    bool IsComplete() const { return complete_; }
+    void Clear();
+
+    DocumentFlow& Flow() { return flow_; }
+    const DocumentFlow& Flow() const { return flow_; }
+
+    void BeginPages(const DocumentInfo& info) override;
+    void AddPage(PrintedPage page) override;
+    void EndPages() override;
+
+  private:
+    DocumentInfo info_;
+    std::vector<PrintedPage> pages_;
+    DocumentFlow flow_;
+    bool complete_ = false;
+};
+
+} // namespace platform
