@@ -49,6 +49,7 @@ TableColumn ReadColumn(std::string_view text) {
 } // namespace
 
 std::vector<TableColumn> ParseTableFormat(std::string_view format) {
+    format = Trim(format);
     if (format.ends_with(';')) format.remove_suffix(1);
     std::vector<TableColumn> columns;
     for (const std::string_view part : Split(format, '|'))
