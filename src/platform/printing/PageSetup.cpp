@@ -70,6 +70,18 @@ Twips PageSetup::PageHeight() const {
     return orientation == PageOrientation::Landscape ? size.shortSide : size.longSide;
 }
 
+FrameLine::FrameLine(std::string_view text) {
+    const auto part = [&text] {
+        const auto end = text.find('|');
+        std::string taken(text.substr(0, end));
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        return taken;
+    };
+    left = part();
+    center = part();
+    right = part();
+}
+
 PageSetup PageSetup::WithSaneMargins() const {
     PageSetup sane = *this;
     Fit(sane.marginLeft, sane.marginRight, PageWidth());

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/printing/Lengths.h"
 #include "platform/printing/PrintStyle.h"
@@ -49,11 +50,25 @@ struct PageSetup {
     friend bool operator==(const PageSetup&, const PageSetup&) = default;
 };
 
-/// What stands above and below every page: left, centre and right, separated by "|"; "%d" is the
-/// number of the page.
+/// One line of three parts above or below every page; "%d" in a part is the number of the page.
+struct FrameLine {
+    FrameLine() = default;
+    FrameLine(std::string leftPart, std::string centerPart, std::string rightPart)
+        : left(std::move(leftPart)), center(std::move(centerPart)), right(std::move(rightPart)) {}
+    /// The parts of a text that separates them by "|".
+    FrameLine(std::string_view text);
+    FrameLine(const char* text) : FrameLine(std::string_view(text)) {}
+
+    bool IsEmpty() const { return left.empty() && center.empty() && right.empty(); }
+
+    std::string left;
+    std::string center;
+    std::string right;
+};
+
 struct PageFrame {
-    std::string header;
-    std::string footer;
+    FrameLine header{};
+    FrameLine footer{};
     PrintStyle style{.fontName = "Arial", .fontSize = 10};
 };
 

@@ -79,7 +79,8 @@ class PrintSurface {
     /// (no further left than the margin) and wraps at the right margin, later lines under the first
     /// one; "\n" starts a new line. An empty text moves on by one line.
     void Text(std::string_view text);
-    /// Prints one line at the current position without wrapping or moving, turned by textAngle.
+    /// Draws one line at the current position, turned by textAngle, without wrapping or moving. It
+    /// is no part of the flow.
     void TextAt(std::string_view text);
     /// Prints a separator line across the printable width and moves below it. The caption is set
     /// into the line; "-" stands for a line without a caption.
@@ -107,6 +108,9 @@ class PrintSurface {
 
   private:
     struct State;
+
+    bool Breaks(Twips height) const;
+    void PrintLines(std::string_view clean);
 
     FontMetrics& metrics_;
     PrintStyles styles_;

@@ -1,0 +1,185 @@
+#include "platform/printing/TableLayout.h"
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+/// A row that is taller than a page begins where at least so many of its lines fit.
+constexpr std::size_t kLinesOfTallRow = 4;
+
+/// Where a border has lines: around a page's part of the table and between its rows and columns.
+struct BorderLines {
+    bool top;
+    bool bottom;
+    bool sides;
+    bool columns;
+    bool belowHeader;
+    bool rows;
+};
+
+BorderLines LinesOf(TableBorder border) {
+    switch (border) {
+        case TableBorder::None:
+            return {false, false, false, false, false, false};
+        case TableBorder::Bottom:
+            return {false, true, false, false, false, false};
+        case TableBorder::Top:
+            return {true, false, false, false, false, false};
+        case TableBorder::TopBottom:
+            return {true, true, false, false, false, false};
+        case TableBorder::Box:
+            return {true, true, true, false, false, false};
+        case TableBorder::Columns:
+            return {false, false, false, true, false, false};
+        case TableBorder::ColTopBottom:
+            return {true, true, false, true, false, false};
+        case TableBorder::BelowHeader:
+            return {false, false, false, false, true, false};
+        case TableBorder::BoxRows:
+            return {true, true, true, false, true, true};
+        case TableBorder::BoxColumns:
+            return {true, true, true, true, false, false};
+        case TableBorder::All:
+            break;
+    }
+    return {true, true, true, true, true, true};
+}
+
+} // namespace
+
+TableLayout::TableLayout(PageMaker& maker, FontMetrics& metrics, const PrintStyle& style,
+                         const PrintTable& table, const FittedColumns& columns)
+    : maker_(maker),
+      style_(style),
+      table_(table),
+      columns_(columns),
+      header_(metrics, style, table, columns_, RowKind::Header),
+      row_(metrics, style, table, columns_, RowKind::Body) {
+    std::vector<std::string_view> cells(table.header.cells.begin(), table.header.cells.end());
+    header_.Fill(cells);
+}
+
+void TableLayout::Begin(Twips y) {
+    y_ = y;
+    segmentTop_ = y;
+}
+
+/// A header row that takes more than half the page isn't repeated: no row would fit below it.
+Twips TableLayout::RepeatedHeight() const {
+    if (table_.header.cells.empty()) return 0;
+    const Twips height = header_.Height();
+    return height > (maker_.Bottom() - maker_.Top()) / 2 ? 0 : height;
+}
+
+bool TableLayout::IsTall() const {
+    return row_.Height() > maker_.Bottom() - maker_.Top() - RepeatedHeight();
+}
+
+void TableLayout::Add(std::span<const std::string_view> cells) {
+    row_.Fill(cells);
+    if (!headerDrawn_) {
+        const Twips first = IsTall() ? row_.HeightOf(kLinesOfTallRow) : row_.Height();
+        if (!Fits(RepeatedHeight() + first) && y_ > maker_.Top()) {
+            maker_.NewPage();
+            Begin(maker_.Top());
+        }
+        DrawHeader();
+    }
+    if (!Fits(row_.Height()) && pageHasRow_ &&
+        (!IsTall() || row_.LinesIn(maker_.Bottom() - y_) == 0)) {
+        BreakPage();
+    }
+    if (Fits(row_.Height())) {
+        DrawRow(row_);
+    } else {
+        DrawTallRow(row_);
+    }
+}
+
+Twips TableLayout::End() {
+    if (!headerDrawn_) {
+        if (!Fits(RepeatedHeight()) && y_ > maker_.Top()) {
+            maker_.NewPage();
+            Begin(maker_.Top());
+        }
+        DrawHeader();
+    }
+    EndSegment();
+    return y_;
+}
+
+void TableLayout::DrawHeader() {
+    headerDrawn_ = true;
+    if (table_.header.cells.empty()) return;
+    if (!Fits(header_.Height())) return DrawTallRow(header_);
+    if (table_.header.background) {
+        PrintStyle fill;
+        fill.penStyle = PenStyle::None;
+        fill.brushStyle = BrushStyle::Solid;
+        fill.brushColor = *table_.header.background;
+        Twips width = 0;
+        for (const Twips column : columns_.widths)
+            width += column;
+        maker_.Box(fill, maker_.Left(), y_, maker_.Left() + width, y_ + header_.Height());
+    }
+    header_.Draw(maker_, maker_.Left(), y_, 0, header_.LineCount());
+    y_ += header_.Height();
+    if (LinesOf(table_.border).belowHeader) DrawRowLine();
+}
+
+void TableLayout::DrawRow(TableRowLayout& row) {
+    if (pageHasRow_ && LinesOf(table_.border).rows) DrawRowLine();
+    row.Draw(maker_, maker_.Left(), y_, 0, row.LineCount());
+    y_ += row.Height();
+    pageHasRow_ = true;
+}
+
+void TableLayout::DrawTallRow(TableRowLayout& row) {
+    std::size_t first = 0;
+    while (first < row.LineCount()) {
+        // At least one line a page, so that the row ends whatever the page's height.
+        const std::size_t room = std::max<std::size_t>(row.LinesIn(maker_.Bottom() - y_), 1);
+        const std::size_t end = std::min(first + room, row.LineCount());
+        row.Draw(maker_, maker_.Left(), y_, first, end);
+        y_ += row.HeightOf(end - first);
+        first = end;
+        if (first == row.LineCount()) break;
+        EndSegment();
+        maker_.NewPage();
+        Begin(maker_.Top());
+        if (&row != &header_ && RepeatedHeight() > 0) DrawHeader();
+    }
+    pageHasRow_ = true;
+}
+
+void TableLayout::BreakPage() {
+    EndSegment();
+    maker_.NewPage();
+    Begin(maker_.Top());
+    pageHasRow_ = false;
+    if (RepeatedHeight() > 0) DrawHeader();
+}
+
+void TableLayout::DrawRowLine() {
+    Twips right = maker_.Left();
+    for (const Twips column : columns_.widths)
+        right += column;
+    maker_.Line(style_, maker_.Left(), y_, right, y_);
+}
+
+void TableLayout::EndSegment() {
+    if (y_ == segmentTop_) return;
+    const BorderLines lines = LinesOf(table_.border);
+    Twips x = maker_.Left();
+    for (std::size_t i = 0; i < columns_.widths.size(); ++i) {
+        if (i == 0 ? lines.sides : lines.columns) maker_.Line(style_, x, segmentTop_, x, y_);
+        x += columns_.widths[i];
+    }
+    if (lines.sides) maker_.Line(style_, x, segmentTop_, x, y_);
+    if (lines.top) maker_.Line(style_, maker_.Left(), segmentTop_, x, segmentTop_);
+    if (lines.bottom) maker_.Line(style_, maker_.Left(), y_, x, y_);
+}
+
+} // namespace platform
