@@ -1,5 +1,8 @@
 #include "core/Descriptions.h"
 
+#include <algorithm>
+
+#include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "platform/values/Text.h"
@@ -56,6 +59,53 @@ std::string_view DescriptionSql(int kind, bool shortForm) {
     }
 }
 
+/// The kind of the records that a list of `kind` offers.
+int KindOffered(int kind) {
+    if (!AccountTypeOfKind(kind).empty()) return kAccount;
+    if (kind == kMultiUnitBuilding || kind == kSingleUnitBuilding) return kBuilding;
+    return kind;
+}
+
+std::string_view ExistenceSql(int kind) {
+    switch (kind) {
+        case kAccount:
+            return "SELECT IdAccount FROM Account WHERE IdAccount = ?";
+        case kLease:
+            return "SELECT IdLease FROM Lease WHERE IdLease = ?";
+        case kMortgage:
+            return "SELECT IdMortgage FROM Mortgage WHERE IdMortgage = ?";
+        case kTenant:
+            return "SELECT IdTenant FROM Tenant WHERE IdTenant = ?";
+        case kWorkOrder:
+            return "SELECT IdWorkOrder FROM WorkOrder WHERE IdWorkOrder = ?";
+        case kAppliance:
+            return "SELECT IdAppliance FROM Appliance WHERE IdAppliance = ?";
+        case kRoom:
+            return "SELECT IdRoom FROM Room WHERE IdRoom = ?";
+        case kUser:
+            return "SELECT IdUser FROM Users WHERE IdUser = ?";
+        case kBuilding:
+            return "SELECT IdBuilding FROM Building WHERE IdBuilding = ?";
+        case kUnit:
+            return "SELECT IdUnit FROM Unit WHERE IdUnit = ?";
+        default:
+            return {};
+    }
+}
+
+/// The statement of a description that leaves out what is null: '&' joins a null as an empty text.
+std::string WithoutNulls(std::string_view sql) {
+    std::string joined(sql);
+    std::ranges::replace(joined, '+', '&');
+    return joined;
+}
+
+/// Without the commas and blanks at the end that joined what is left out.
+std::string WithoutLooseEnd(std::string text) {
+    text.erase(text.find_last_not_of(" ,") + 1);
+    return text;
+}
+
 } // namespace
 
 std::string GetDescription(int kind, std::int32_t id, std::size_t maxLength, bool shortForm) {
@@ -65,6 +115,26 @@ std::string GetDescription(int kind, std::int32_t id, std::size_t maxLength, boo
     if (!line) return {};
     const std::string text = line->AsText();
     return maxLength == 0 ? text : platform::LeftCharacters(text, maxLength);
+}
+
+bool RecordExists(int kind, std::int32_t id) {
+    const std::string_view sql = ExistenceSql(KindOffered(kind));
+    return !sql.empty() && App().Connection.Scalar(sql, {id}).has_value();
+}
+
+std::string NameOfRecord(int kind, std::int32_t id) {
+    if (id == 0) return {};
+    const int offered = KindOffered(kind);
+    const std::string sql = WithoutNulls(DescriptionSql(offered, true));
+    if (!sql.empty()) {
+        const auto line = offered == kTenant ? LookUp(sql, {id, id}) : LookUp(sql, {id});
+        const std::string text = WithoutLooseEnd(line ? line->AsText() : std::string());
+        if (!text.empty()) return text;
+    }
+    std::string name(RecordKindName(offered));
+    name += (name.empty() ? "no. " : " no. ") + std::to_string(id);
+    const bool isDeleted = !ExistenceSql(offered).empty() && !RecordExists(offered, id);
+    return isDeleted ? name + " (deleted)" : name;
 }
 
 } // namespace core

@@ -12,4 +12,14 @@ namespace core {
 std::string GetDescription(int kind, std::int32_t id, std::size_t maxLength = 0,
                            bool shortForm = false);
 
+/// A text that names the record in any case, for a list that must show it: its description, with
+/// what is null left out; "Tenant no. 31" if nothing of it is set, and "Tenant no. 31 (deleted)" if
+/// there is no such record. The kinds that filter a list (31 and up) name accounts and buildings.
+/// Empty for id 0.
+std::string NameOfRecord(int kind, std::int32_t id);
+
+/// Whether there is a record of this id among those that a list of the kind can offer. Throws on
+/// failure.
+bool RecordExists(int kind, std::int32_t id);
+
 } // namespace core

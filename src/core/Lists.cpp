@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/ListStatements.h"
 #include "platform/database/Recordset.h"
@@ -35,7 +36,9 @@ void FillList(int kind, ChoiceList& list, const FillOptions& options) {
         rows.Open(App().Connection, statement.sql + " ORDER BY 1 ");
         for (; !rows.Eof(); rows.MoveNext()) {
             const std::int32_t id = rows["Id"].AsLong();
-            list.Add(rows["Description"].AsText(), id);
+            const platform::Field name = rows["Description"];
+            const bool lacksName = options.nameNulls && name.IsNull();
+            list.Add(lacksName ? NameOfRecord(kind, id) : name.AsText(), id);
             if (id == selectedId) list.Select(list.Rows().size() - 1);
         }
     }

@@ -17,11 +17,13 @@ struct FillOptions {
     bool keepText = false;
     /// The unit or building whose rows are offered, for the kinds that depend on one.
     std::int32_t parentId = 0;
+    /// Offers a record whose text is null by its NameOfRecord, instead of ending there.
+    bool nameNulls = false;
 };
 
 /// Fills a list with the records of a kind in the order of their text, and selects the first row
-/// when nothing else is. A kind that has no list leaves it empty. Failures are thrown: a record
-/// whose text is null ends the filling at its row.
+/// if nothing else is selected. A kind that has no list leaves it empty. Throws if the list can't
+/// be read; without `nameNulls`, a record whose text is null ends the filling with a FieldError.
 void FillList(int kind, ChoiceList& list, const FillOptions& options = {});
 
 /// Adds the pieces between commas, as they stand, that aren't blank.

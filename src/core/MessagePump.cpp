@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/Globals.h"
+
 namespace core {
 
 namespace {
@@ -18,7 +20,10 @@ void SetMessagePump(std::function<void()> pump) {
 }
 
 void LetMessagesRun() {
-    if (Pump()) Pump()();
+    if (!Pump() || App().Connection.InUnitOfWork()) return;
+    // The pump may be replaced by what it runs.
+    const auto pump = Pump();
+    pump();
 }
 
 } // namespace core

@@ -4,11 +4,12 @@
 
 namespace core {
 
-/// Gives the process its way of letting pending window messages run; an empty one takes it away.
+/// Sets the function that lets pending window messages run; an empty one removes it.
 void SetMessagePump(std::function<void()> pump);
 
-/// Lets pending window messages run, so that long work doesn't freeze the screen. What they do
-/// happens inside this call. Nothing in a program without windows.
+/// Lets pending window messages run, so that long work doesn't freeze the screen. Their handlers
+/// run inside this call. Does nothing in a program without windows, nor while a unit of work is
+/// open: a click or a timer must not write into somebody else's unit.
 void LetMessagesRun();
 
 } // namespace core

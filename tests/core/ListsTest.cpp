@@ -63,6 +63,43 @@ std::string AsText(const ChoiceList& list) {
     return text;
 }
 
+TEST_F(Descriptions, NameEveryRecordThatAListMustShow) {
+    Run("UPDATE Tenant SET FirstName = NULL WHERE IdTenant = 31");
+    Run("UPDATE Tenant SET LastName = NULL, FirstName = NULL WHERE IdTenant = 32");
+    Run("UPDATE Unit SET Unit = NULL WHERE IdUnit = 21");
+    struct Case {
+        int kind;
+        std::int32_t id;
+        std::string_view name;
+        bool exists;
+    };
+    for (const Case& c : {
+             Case{core::kTenant, 30, "Smith, John Q", true},
+             Case{core::kTenant, 31, "O'Brien", true},
+             Case{core::kTenant, 32, "Tenant no. 32", true},
+             Case{core::kTenant, 33, "Tenant no. 33 (deleted)", false},
+             Case{core::kLease, 40, "Smith, 12 Elm St B", true},
+             Case{core::kUnit, 21, "12 Elm St", true},
+             Case{core::kVendorAccount, 61, "Al Owner", true},
+             Case{core::kMortgageeAccount, 99, "Account no. 99 (deleted)", false},
+             Case{core::kSingleUnitBuilding, 10, "12 Elm St", true},
+             Case{core::kMortgage, 51, "Mortgage no. 51", true},
+             Case{core::kActivities, 7, "Activities no. 7", false},
+             Case{core::kTenant, 0, "", false},
+         }) {
+        EXPECT_EQ(core::NameOfRecord(c.kind, c.id), c.name);
+        EXPECT_EQ(core::RecordExists(c.kind, c.id), c.exists) << c.name;
+    }
+}
+
+TEST_F(Lists, ARecordWithoutATextEndsTheFillingUnlessItIsNamed) {
+    Run("UPDATE Tenant SET FirstName = NULL WHERE IdTenant = 31");
+    ChoiceList list;
+    EXPECT_THROW(core::FillList(core::kTenant, list), platform::Error);
+    core::FillList(core::kTenant, list, {.selectedId = 30, .nameNulls = true});
+    EXPECT_EQ(AsText(list), "O'Brien=31 | [Smith, John Q=30] | Zu, Li=32");
+}
+
 TEST_F(Lists, OfferTheRecordsOfAKindInTheOrderOfTheirText) {
     struct Case {
         int kind;

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "core/CoreFixture.h"
+#include "core/MessagePump.h"
 #include "platform/values/Errors.h"
 
 namespace {
@@ -169,6 +170,24 @@ TEST_F(Session, IdentifiersFollowOneAnother) {
     EXPECT_EQ(Ask("SELECT NextId FROM Configuration"), "2147483640");
     EXPECT_EQ(core::NextIds(7), 2147483640);
     EXPECT_THROW(core::NextId(), platform::OverflowError);
+}
+
+TEST_F(Session, NoMessageRunsInsideAUnitOfWork) {
+    Run("INSERT INTO Configuration (NextId) VALUES (41)");
+    int pumped = 0;
+    core::SetMessagePump([&] { ++pumped; });
+    core::NextId();
+    EXPECT_EQ(pumped, 1);
+    {
+        platform::UnitOfWork unit(core::App().Connection);
+        core::NextId();
+        core::LetMessagesRun();
+        unit.Commit();
+    }
+    EXPECT_EQ(pumped, 1);
+    core::LetMessagesRun();
+    EXPECT_EQ(pumped, 2);
+    core::SetMessagePump({});
 }
 
 TEST_F(Session, IdentifiersBeginAtTheMinuteTheyAreFirstAskedFor) {
