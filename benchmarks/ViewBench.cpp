@@ -11,7 +11,7 @@
 #include "PlainViews.h"
 #include "WindowBooks.h"
 #include "core/RecordKinds.h"
-#include "core/screens/Grid.h"
+#include "core/grid/Grid.h"
 #include "shell/Views.h"
 #include "shell/screens/frmKestrom.h"
 #include "support/TemporaryFolder.h"
@@ -45,9 +45,9 @@ class OpenWindow {
 
     /// On until the list has read all its rows.
     double ReadAll() {
-        core::screens::GridModel& model = Grid().Model();
+        core::grid::GridModel& model = Grid().Model();
         bool isRead = false;
-        QObject::connect(&model, &core::screens::GridModel::AllRead, [&] { isRead = true; });
+        QObject::connect(&model, &core::grid::GridModel::AllRead, [&] { isRead = true; });
         const double rows = ShowAll();
         while (!isRead)
             QCoreApplication::processEvents();
@@ -56,7 +56,7 @@ class OpenWindow {
 
     /// Every cell as the list would show it.
     double ReadTexts() {
-        const core::screens::GridModel& model = Grid().Model();
+        const core::grid::GridModel& model = Grid().Model();
         const double rows = ShowAll();
         qsizetype letters = 0;
         for (int row = 0; row < model.rowCount(); ++row) {
@@ -67,8 +67,8 @@ class OpenWindow {
     }
 
   private:
-    core::screens::Grid& Grid() {
-        return *window_->findChild<core::screens::Grid*>(QStringLiteral("grd"));
+    core::grid::Grid& Grid() {
+        return *window_->findChild<core::grid::Grid*>(QStringLiteral("grd"));
     }
 
     int argc_ = 1;

@@ -23,7 +23,7 @@ add_library(vestrel_warnings INTERFACE)
 target_compile_options(vestrel_warnings INTERFACE
   -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
   -Woverloaded-virtual -Wdouble-promotion -Wformat=2 -Wimplicit-fallthrough
-  -Wextra-semi -Wno-restrict -Werror)
+  -Wextra-semi -Wno-restrict -Wno-array-bounds -Werror)
 
 add_library(vestrel_sanitizers INTERFACE)
 if(VESTREL_SANITIZE)

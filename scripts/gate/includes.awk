@@ -8,7 +8,8 @@ function fault(text) { print FILENAME ":" FNR ": " text }
 function roomOf(path,    part, n) {
     n = split(path, part, "/")
     if (n > 2 && part[2] == "screens") return part[1] "/screens"
-    if (n > 2 && part[1] == "platform" && part[2] == "qt") return "platform/qt"
+    if (n > 2 && (part[1] "/" part[2]) ~ /^(platform\/qt|core\/(binding|forms|grid))$/)
+        return part[1] "/" part[2]
     return part[1]
 }
 
@@ -38,7 +39,7 @@ function readRooms(floorOfRow, text, screens,    room) {
 }
 
 NR == FNR {
-    if (split($0, cell, "|") == 5 && cell[2] ~ /^ *[0-9]+ *$/) {
+    if (split($0, cell, "|") == 5 && cell[2] ~ /^ *[0-9.]+ *$/) {
         readRooms(cell[2] + 0, cell[3], 0)
         readRooms(cell[2] + 0, cell[4], 1)
     }

@@ -7,9 +7,9 @@
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
-#include "exchange/DeleteRecord.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
+#include "removal/DeleteRecord.h"
 
 namespace books {
 
@@ -36,10 +36,10 @@ std::int32_t SaveTransaction(std::int32_t id, const Transaction& transaction, Tr
     const bool isNew = id == 0;
     const std::int32_t oldTrip = isNew ? 0 : TripOf(id);
     const bool removesTrip =
-        trip == Trip::None && oldTrip != 0 && exchange::AgreedToDelete(core::kMileage, oldTrip);
+        trip == Trip::None && oldTrip != 0 && removal::AgreedToDelete(core::kMileage, oldTrip);
 
     platform::UnitOfWork unit(core::App().Connection);
-    if (removesTrip) exchange::RemoveRecord(core::kMileage, oldTrip);
+    if (removesTrip) removal::RemoveRecord(core::kMileage, oldTrip);
     Recordset rows;
     OpenRow(rows, id);
     WriteTransactionFields(rows, transaction);

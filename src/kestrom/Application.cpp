@@ -5,7 +5,7 @@
 #include <exception>
 #include <stdexcept>
 
-#include "core/screens/ErrorRoll.h"
+#include "core/forms/ErrorRoll.h"
 
 namespace kestrom {
 
@@ -26,7 +26,7 @@ void Application::Show(const std::exception& failure) {
     std::fprintf(stderr, "kestrom: %s\n", failure.what());
     if (showing_) return;
     const QScopedValueRollback showing(showing_, true);
-    core::screens::ShowFailure(failure);
+    core::forms::ShowFailure(failure);
 }
 
 } // namespace kestrom

@@ -9,11 +9,8 @@
 #include "core/EditRecord.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
-#include "core/screens/OpenForms.h"
-#include "core/screens/frmAbout.h"
-#include "core/screens/frmConfig.h"
-#include "core/screens/frmHelp.h"
-#include "core/screens/frmPreferences.h"
+#include "core/forms/OpenForms.h"
+#include "core/forms/frmHelp.h"
 #include "documents/ShowPictures.h"
 #include "leases/screens/frmLease.h"
 #include "leases/screens/frmLeaseWizard.h"
@@ -36,6 +33,9 @@
 #include "records/screens/frmTenant.h"
 #include "records/screens/frmWoItem.h"
 #include "records/screens/frmWorkOrder.h"
+#include "shell/screens/frmAbout.h"
+#include "shell/screens/frmConfig.h"
+#include "shell/screens/frmPreferences.h"
 
 namespace kestrom {
 
@@ -74,8 +74,8 @@ void RegisterPlatform() {
     platform::SetChoosers(platform::qt::MakeChoosers());
     platform::SetDesktop(platform::qt::MakeDesktop());
     core::SetMessagePump([] { QCoreApplication::processEvents(); });
-    core::screens::RegisterOpenForms();
-    core::screens::RegisterHelpWindow();
+    core::forms::RegisterOpenForms();
+    core::forms::RegisterHelpWindow();
 }
 
 void RegisterEditors() {
@@ -145,9 +145,9 @@ void RegisterEditors() {
 
 shell::screens::Commands MenuCommands() {
     shell::screens::Commands commands;
-    commands.Add(QStringLiteral("mnuConfig"), Opening<core::screens::frmConfig>());
-    commands.Add(QStringLiteral("mnuGlobalConfig"), Opening<core::screens::frmConfig>());
-    commands.Add(QStringLiteral("mnuPreferences"), Opening<core::screens::frmPreferences>());
+    commands.Add(QStringLiteral("mnuConfig"), Opening<shell::screens::frmConfig>());
+    commands.Add(QStringLiteral("mnuGlobalConfig"), Opening<shell::screens::frmConfig>());
+    commands.Add(QStringLiteral("mnuPreferences"), Opening<shell::screens::frmPreferences>());
     commands.Add(QStringLiteral("mnuLeaseWizard"), Opening<leases::screens::frmLeaseWizard>());
     commands.Add(QStringLiteral("mnuMortgageWizard"),
                  Opening<mortgages::screens::frmMortgageWizard>());
@@ -168,7 +168,7 @@ shell::screens::Commands MenuCommands() {
         const bool isUnit = selection.kind == core::kUnit;
         documents::ShowPictures(isUnit ? core::kUnitWithBuilding : selection.kind, selection.id);
     });
-    commands.Add(QStringLiteral("mnuHelpAbout"), Opening<core::screens::frmAbout>());
+    commands.Add(QStringLiteral("mnuHelpAbout"), Opening<shell::screens::frmAbout>());
     return commands;
 }
 

@@ -8,7 +8,6 @@
 #include "core/Preferences.h"
 #include "core/Session.h"
 #include "core/Startup.h"
-#include "core/screens/frmSplash.h"
 #include "kestrom/Application.h"
 #include "kestrom/Start.h"
 #include "kestrom/Wiring.h"
@@ -21,6 +20,7 @@
 #include "shell/Registrations.h"
 #include "shell/screens/BooksRun.h"
 #include "shell/screens/frmKestrom.h"
+#include "shell/screens/frmSplash.h"
 
 namespace {
 
@@ -59,7 +59,7 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
     kestrom::FindBooks(line);
     core::OpenBooks();
 
-    std::optional<core::screens::frmSplash> splash;
+    std::optional<shell::screens::frmSplash> splash;
     if (core::Preferences().ShowSplash) {
         splash.emplace();
         splash->Setup();

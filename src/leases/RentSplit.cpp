@@ -3,11 +3,11 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "exchange/DeleteRecord.h"
 #include "leases/ChargeEditor.h"
 #include "leases/LeaseEditor.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
+#include "removal/DeleteRecord.h"
 
 namespace leases {
 
@@ -102,7 +102,7 @@ void SaveSplit(const RentSplit& split) {
                       .description = part.description,
                       .flags = isRent ? RentFlags::PeriodRent : RentFlags::Ordinary});
     }
-    exchange::RemoveRecord(core::kRentLog, split.idRentLog, exchange::Tell::Nobody);
+    removal::RemoveRecord(core::kRentLog, split.idRentLog, removal::Tell::Nobody);
     StoreBalances(split.charge.idLease);
     unit.Commit();
     core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);

@@ -4,10 +4,10 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
-#include "exchange/DeleteRecord.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
+#include "removal/DeleteRecord.h"
 
 namespace mortgages {
 
@@ -55,13 +55,13 @@ std::int32_t TransactionOfLogRow(std::int32_t idMortgageLog) {
 
 bool DeleteLogRows(const std::vector<std::int32_t>& ids, std::string_view question) {
     if (ids.empty()) return false;
-    if (ids.size() == 1) return exchange::DeleteRecord(core::kMortgageLog, ids.front());
+    if (ids.size() == 1) return removal::DeleteRecord(core::kMortgageLog, ids.front());
     if (!platform::TheDialogs().AskYesNo("Confirm Delete", question, platform::Icon::Question)) {
         return false;
     }
     platform::UnitOfWork unit(core::App().Connection);
     for (const std::int32_t id : ids)
-        exchange::RemoveRecord(core::kMortgageLog, id, exchange::Tell::Nobody);
+        removal::RemoveRecord(core::kMortgageLog, id, removal::Tell::Nobody);
     unit.Commit();
     core::NotifyAll(core::kMortgageLog, core::kRecordsChanged, 0);
     return true;

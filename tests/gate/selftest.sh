@@ -69,7 +69,7 @@ END
 #include "leases/Lease.h"
 #include "ui_frmLease.h"
 
-class frmLease : public core::screens::RecordForm {};
+class frmLease : public core::forms::RecordForm {};
 END
     put share/help/frmLease.html <<<'<title>Lease</title>'
     put share/help/contents.txt <<<'frmLease'

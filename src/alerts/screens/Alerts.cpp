@@ -18,7 +18,7 @@
 #include "alerts/PortfolioSummary.h"
 #include "alerts/screens/SideMenu.h"
 #include "core/EditRecord.h"
-#include "core/screens/ErrorRoll.h"
+#include "core/forms/ErrorRoll.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Format.h"
@@ -205,7 +205,7 @@ void Alerts::OpenAlert() const {
     if (list_->currentRow() < 0 || row >= records_.size()) return;
     const std::pair<std::int16_t, std::int32_t> record = records_[row];
     if (record.first == 0 || record.second == 0) return;
-    core::screens::Guarded([record] { core::EditRecord(record.first, record.second); });
+    core::forms::Guarded([record] { core::EditRecord(record.first, record.second); });
 }
 
 void Alerts::resizeEvent(QResizeEvent* event) {

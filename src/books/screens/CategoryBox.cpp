@@ -4,7 +4,7 @@
 
 #include "core/Lists.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
+#include "core/binding/ComboList.h"
 
 namespace books::screens {
 
@@ -28,7 +28,7 @@ std::int32_t ClassOf(const Category& category) {
 } // namespace
 
 void FillCategories(QComboBox& box) {
-    core::screens::ShowInCombo(Offered(), box);
+    core::binding::ShowInCombo(Offered(), box);
 }
 
 void RefreshCategories(QComboBox& box) {
@@ -44,21 +44,21 @@ void PresetCategory(QComboBox& box, const Category& category) {
     for (const core::Choice& row : offered.Rows())
         list.Add(row.text, row.id);
     list.Select(0);
-    core::screens::ShowInCombo(list, box);
+    core::binding::ShowInCombo(list, box);
 }
 
 void ShowCategory(QComboBox& box, const Category& category) {
-    core::ChoiceList list = core::screens::ReadCombo(box);
+    core::ChoiceList list = core::binding::ReadCombo(box);
     core::SelectByText(list, category.text);
     if (!list.Selected() || list.Rows()[*list.Selected()].text != category.text) {
         list.Add(category.text, ClassOf(category));
         list.Select(list.Rows().size() - 1);
     }
-    core::screens::ShowInCombo(list, box);
+    core::binding::ShowInCombo(list, box);
 }
 
 Category ChosenCategory(const QComboBox& box) {
-    const core::ChoiceList list = core::screens::ReadCombo(box);
+    const core::ChoiceList list = core::binding::ReadCombo(box);
     return {list.Text(), Ien{static_cast<std::int16_t>(core::GetSelectedId(list))}};
 }
 

@@ -9,14 +9,14 @@
 #include "core/EditRecord.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ErrorRoll.h"
-#include "exchange/DeleteRecord.h"
+#include "core/forms/ErrorRoll.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
+#include "removal/DeleteRecord.h"
 
 namespace books::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 
 General_Ledger::General_Ledger(QWidget* parent)
     : RecordList(parent),
@@ -28,7 +28,7 @@ General_Ledger::General_Ledger(QWidget* parent)
     connect(this, &RecordList::EditAsked, this,
             [](std::int32_t id) { core::EditRecord(core::kTransaction, id); });
     connect(this, &RecordList::DeleteAsked, this, [](std::int32_t id) {
-        Guarded([id] { exchange::DeleteRecord(core::kTransaction, id); });
+        Guarded([id] { removal::DeleteRecord(core::kTransaction, id); });
     });
     List().setAccessibleName(tr("Transactions"));
     List().setProperty("registryKey", QStringLiteral(R"(SOFTWARE\Vestrel\Kestrom\Ledger)"));

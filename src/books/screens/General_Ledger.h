@@ -4,7 +4,7 @@
 
 #include "books/LedgerView.h"
 #include "core/NotifyAll.h"
-#include "core/screens/RecordList.h"
+#include "core/grid/RecordList.h"
 
 class QComboBox;
 class QRadioButton;
@@ -13,7 +13,7 @@ namespace books::screens {
 
 /// The transactions of an account, a tenant or a unit, newest first, with what adds, opens and
 /// deletes them. It keeps itself current.
-class General_Ledger : public core::screens::RecordList {
+class General_Ledger : public core::grid::RecordList {
     Q_OBJECT
 
   public:

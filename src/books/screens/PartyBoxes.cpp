@@ -6,14 +6,14 @@
 
 #include "books/PartyChoice.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/ErrorRoll.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/ErrorRoll.h"
 #include "platform/qt/Text.h"
 
 namespace books::screens {
 
-using core::screens::FillList;
-using core::screens::ReadCombo;
+using core::binding::FillList;
+using core::binding::ReadCombo;
 
 PartyBoxes::PartyBoxes(QComboBox& type, QComboBox& party, Nobody nobody, QObject* parent)
     : QObject(parent), type_(type), party_(party), nobody_(nobody) {
@@ -34,7 +34,7 @@ void PartyBoxes::LetNamesStand() {
 }
 
 void PartyBoxes::Show(std::int16_t type, std::int32_t id) {
-    core::screens::SelectById(type_, type, {.selectFirst = true});
+    core::binding::SelectById(type_, type, {.selectFirst = true});
     ShowStored(id);
 }
 
@@ -49,7 +49,7 @@ void PartyBoxes::ShowStored(std::int32_t id, std::string_view name) {
     core::ChoiceList list = ReadCombo(party_);
     list.SetText(name);
     if (id != 0) core::SelectById(list, id);
-    core::screens::ShowInCombo(list, party_);
+    core::binding::ShowInCombo(list, party_);
 }
 
 void PartyBoxes::Refresh(std::int16_t kind) {
@@ -61,18 +61,18 @@ void PartyBoxes::Refresh(std::int16_t kind) {
     core::ChoiceList list = ReadCombo(party_);
     if (before.Selected() && core::GetSelectedId(list) == core::GetSelectedId(before)) return;
     list.SetText(before.Text());
-    core::screens::ShowInCombo(list, party_);
+    core::binding::ShowInCombo(list, party_);
 }
 
 /// As far as the list can be filled.
 void PartyBoxes::Fill(std::int32_t id) {
-    core::screens::Guarded([&] {
+    core::forms::Guarded([&] {
         FillList(Type(), party_, {.selectedId = id, .addNone = nobody_ == Nobody::Offered});
     });
 }
 
 std::int16_t PartyBoxes::Type() const {
-    return static_cast<std::int16_t>(core::screens::GetSelectedId(type_));
+    return static_cast<std::int16_t>(core::binding::GetSelectedId(type_));
 }
 
 std::int32_t PartyBoxes::Id() const {

@@ -4,14 +4,14 @@
 
 #include "core/Lookups.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/ErrorRoll.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/ErrorRoll.h"
 
 namespace books::screens {
 
-using core::screens::FillList;
-using core::screens::GetSelectedId;
-using core::screens::Guarded;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
+using core::forms::Guarded;
 
 ReferenceBoxes::ReferenceBoxes(const Boxes& boxes, QObject* parent)
     : QObject(parent),
@@ -80,7 +80,7 @@ void ReferenceBoxes::MortgageChosen() {
 
 /// One that isn't offered is nothing.
 void ReferenceBoxes::Select(QComboBox& combo, std::int32_t id) {
-    core::screens::SelectById(combo, id, {.selectFirst = true});
+    core::binding::SelectById(combo, id, {.selectFirst = true});
 }
 
 } // namespace books::screens

@@ -4,8 +4,8 @@
 #include "books/EventSchedule.h"
 #include "books/screens/CategoryBox.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/TabPages.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/TabPages.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
@@ -15,7 +15,7 @@
 
 namespace books::screens {
 
-using core::screens::GetSelectedId;
+using core::binding::GetSelectedId;
 using platform::Recordset;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
@@ -46,7 +46,7 @@ frmAutoEvent::frmAutoEvent(QWidget* parent)
     connect(ui_->optScheduled, &QRadioButton::toggled, this, &frmAutoEvent::ShowAvailable);
     connect(ui_->cboEventAction, &QComboBox::currentIndexChanged, this,
             &frmAutoEvent::ShowAvailable);
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
 }
 
 frmAutoEvent::~frmAutoEvent() = default;
@@ -61,7 +61,7 @@ void frmAutoEvent::FillLists() {
     Offer(*ui_->cboIntervalType, tr("Month"), IntervalType::Month);
     Offer(*ui_->cboIntervalType, tr("Day of Month"), IntervalType::DayOfMonth);
     Offer(*ui_->cboIntervalType, tr("Year"), IntervalType::Year);
-    core::screens::SelectById(*ui_->cboIntervalType, static_cast<int>(IntervalType::Month));
+    core::binding::SelectById(*ui_->cboIntervalType, static_cast<int>(IntervalType::Month));
     Offer(*ui_->cboEventAction, tr("No Action"), EventAction::None);
     Offer(*ui_->cboEventAction, tr("Process Transaction"), EventAction::ProcessTransaction);
     ui_->optScheduled->setChecked(true);

@@ -6,7 +6,7 @@
 #include "books/AutoEvent.h"
 #include "books/screens/PartyBoxes.h"
 #include "books/screens/ReferenceBoxes.h"
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmAutoEvent;
@@ -15,7 +15,7 @@ class frmAutoEvent;
 namespace books::screens {
 
 /// An event that runs by itself: what starts it, and what it does.
-class frmAutoEvent : public core::screens::RecordForm {
+class frmAutoEvent : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

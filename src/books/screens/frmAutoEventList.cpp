@@ -6,23 +6,23 @@
 #include "core/EditRecord.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Help.h"
-#include "core/screens/Wiring.h"
-#include "exchange/DeleteRecord.h"
+#include "core/binding/Wiring.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/Help.h"
 #include "platform/database/Recordset.h"
+#include "removal/DeleteRecord.h"
 #include "ui_frmAutoEventList.h"
 
 namespace books::screens {
 
-using core::screens::ActionBar;
-using core::screens::Guarded;
-using core::screens::RecordList;
+using core::forms::ActionBar;
+using core::forms::Guarded;
+using core::grid::RecordList;
 
 frmAutoEventList::frmAutoEventList(QWidget* parent)
     : Form(parent), ui_(std::make_unique<Ui::frmAutoEventList>()) {
     ui_->setupUi(this);
-    core::screens::WireControls(*this);
+    core::binding::WireControls(*this);
     ui_->events->Allow(true, true, true);
     ui_->events->List().setAccessibleName(tr("Automated events"));
     ui_->cmdAction->Apply().hide();
@@ -32,11 +32,11 @@ frmAutoEventList::frmAutoEventList(QWidget* parent)
     connect(ui_->events, &RecordList::EditAsked, this,
             [](std::int32_t id) { core::EditRecord(core::kAutoEvent, id); });
     connect(ui_->events, &RecordList::DeleteAsked, this, [](std::int32_t id) {
-        Guarded([id] { exchange::DeleteRecord(core::kAutoEvent, id); });
+        Guarded([id] { removal::DeleteRecord(core::kAutoEvent, id); });
     });
     connect(ui_->cmdAction, &ActionBar::CloseClicked, this, &QWidget::close);
     connect(ui_->cmdAction, &ActionBar::HelpClicked, this,
-            [this] { core::screens::ShowHelp(*this); });
+            [this] { core::forms::ShowHelp(*this); });
 }
 
 frmAutoEventList::~frmAutoEventList() = default;

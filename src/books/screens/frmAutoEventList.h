@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/Form.h"
+#include "core/forms/Form.h"
 
 namespace Ui {
 class frmAutoEventList;
@@ -12,7 +12,7 @@ class frmAutoEventList;
 namespace books::screens {
 
 /// All events that run by themselves.
-class frmAutoEventList : public core::screens::Form {
+class frmAutoEventList : public core::forms::Form {
     Q_OBJECT
 
   public:

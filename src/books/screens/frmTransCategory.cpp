@@ -5,23 +5,23 @@
 
 #include "books/Categories.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Help.h"
-#include "core/screens/Wiring.h"
+#include "core/binding/Wiring.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/Help.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
 #include "ui_frmTransCategory.h"
 
 namespace books::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
 frmTransCategory::frmTransCategory(QWidget* parent)
     : Form(parent), ui_(std::make_unique<Ui::frmTransCategory>()) {
     ui_->setupUi(this);
-    core::screens::WireControls(*this);
+    core::binding::WireControls(*this);
     columns_ = {{{Ien::Income, ui_->lstIncome, ui_->cmdAddIncome},
                  {Ien::Expense, ui_->lstExpense, ui_->cmdAddExpense},
                  {Ien::Unclassified, ui_->lstUnclassified, ui_->cmdAddUnclassified}}};
@@ -39,9 +39,9 @@ frmTransCategory::frmTransCategory(QWidget* parent)
     for (QPushButton* const button : findChildren<QPushButton*>())
         button->setAutoDefault(false);
     ui_->cmdAction->Close().setDefault(false);
-    connect(ui_->cmdAction, &core::screens::ActionBar::CloseClicked, this, &QWidget::close);
-    connect(ui_->cmdAction, &core::screens::ActionBar::HelpClicked, this,
-            [this] { core::screens::ShowHelp(*this); });
+    connect(ui_->cmdAction, &core::forms::ActionBar::CloseClicked, this, &QWidget::close);
+    connect(ui_->cmdAction, &core::forms::ActionBar::HelpClicked, this,
+            [this] { core::forms::ShowHelp(*this); });
 }
 
 frmTransCategory::~frmTransCategory() = default;

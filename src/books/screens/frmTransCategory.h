@@ -5,7 +5,7 @@
 #include <string>
 
 #include "books/PostTransaction.h"
-#include "core/screens/Form.h"
+#include "core/forms/Form.h"
 
 class QListWidget;
 class QPushButton;
@@ -17,7 +17,7 @@ class frmTransCategory;
 namespace books::screens {
 
 /// The categories of transactions, a list for each class, with what adds and removes them.
-class frmTransCategory : public core::screens::Form {
+class frmTransCategory : public core::forms::Form {
     Q_OBJECT
 
   public:

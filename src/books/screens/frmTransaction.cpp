@@ -3,8 +3,8 @@
 #include "books/SaveTransaction.h"
 #include "books/screens/CategoryBox.h"
 #include "core/Globals.h"
-#include "core/screens/Binding.h"
-#include "core/screens/ControlValue.h"
+#include "core/binding/Binding.h"
+#include "core/binding/ControlValue.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
@@ -12,7 +12,7 @@
 
 namespace books::screens {
 
-using core::screens::ReadValue;
+using core::binding::ReadValue;
 using platform::Recordset;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;

@@ -8,7 +8,7 @@
 #include "books/screens/PartyBoxes.h"
 #include "books/screens/ReferenceBoxes.h"
 #include "core/RecordKinds.h"
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmTransaction;
@@ -36,7 +36,7 @@ struct TransactionSetup {
 };
 
 /// A movement of money.
-class frmTransaction : public core::screens::RecordForm {
+class frmTransaction : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

@@ -6,20 +6,20 @@
 #include <QMimeData>
 
 #include "core/RecordKinds.h"
-#include "core/screens/ErrorRoll.h"
+#include "core/forms/ErrorRoll.h"
 #include "documents/AttachFile.h"
 #include "documents/ShowPictures.h"
 #include "documents/screens/FileListModel.h"
-#include "exchange/DeleteRecord.h"
 #include "platform/dialogs/Desktop.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
+#include "removal/DeleteRecord.h"
 #include "ui_FileObjects.h"
 
 namespace documents::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -206,7 +206,7 @@ void FileObjects::OpenFile() {
 void FileObjects::DeleteFile() {
     const std::int32_t id = SelectedId();
     if (id == 0 || !ui_->cmdDelete->isEnabled()) return;
-    Guarded([id] { exchange::DeleteRecord(core::kFileObject, id); });
+    Guarded([id] { removal::DeleteRecord(core::kFileObject, id); });
 }
 
 void FileObjects::dragEnterEvent(QDragEnterEvent* event) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/screens/LedgerList.h"
+#include "core/grid/LedgerList.h"
 #include "leases/RentCodes.h"
 
 namespace leases::screens {
@@ -26,7 +26,7 @@ struct ChargeLine {
 enum class ChargePick { All, Rent, Other };
 
 /// Charges of a lease to look at and choose from.
-class ChargeList : public core::screens::LedgerList {
+class ChargeList : public core::grid::LedgerList {
     Q_OBJECT
 
   public:

@@ -10,8 +10,8 @@
 #include "books/screens/frmTransaction.h"
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Tags.h"
+#include "core/binding/Tags.h"
+#include "core/forms/ErrorRoll.h"
 #include "leases/DeleteCharges.h"
 #include "leases/screens/ChargeList.h"
 #include "leases/screens/PickMenu.h"
@@ -22,7 +22,7 @@
 
 namespace leases::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 using platform::qt::ToScreen;
 
 namespace {
@@ -73,9 +73,9 @@ void Lease_Ledger::MakeButtons() {
         MakeButton(tr("Edit..."), tr("Open the charge in focus (Enter)"), "cmdEditEdit", "edit");
     delete_ = MakeButton(tr("Delete"), tr("Delete the selected charges (Delete)"), "cmdEditDelete",
                          "delete");
-    core::screens::SetTag(*add_, "ADD");
-    core::screens::SetTag(*edit_, "EDIT");
-    core::screens::SetTag(*delete_, "DELETE");
+    core::binding::SetTag(*add_, "ADD");
+    core::binding::SetTag(*edit_, "EDIT");
+    core::binding::SetTag(*delete_, "DELETE");
     select_ = MakeButton(tr("Select"), tr("Select several charges at once"), "cmdSelect");
     select_->setMenu(new QMenu(select_));
     AddPickMenu(*select_->menu(), QStringLiteral("mnuSelect"),

@@ -8,12 +8,12 @@
 #include "core/RecordKinds.h"
 #include "core/RecordNotices.h"
 #include "core/Session.h"
-#include "core/screens/Binding.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/ControlValue.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/TabPages.h"
-#include "core/screens/Tags.h"
+#include "core/binding/Binding.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/ControlValue.h"
+#include "core/binding/Tags.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "leases/mLease.h"
 #include "leases/screens/Lease_Ledger.h"
@@ -29,10 +29,10 @@
 
 namespace leases::screens {
 
-using core::screens::FillList;
-using core::screens::GetSelectedId;
-using core::screens::Guarded;
-using core::screens::SelectById;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
+using core::binding::SelectById;
+using core::forms::Guarded;
 using platform::qt::FromScreen;
 
 frmLease::frmLease(QWidget* parent)
@@ -56,7 +56,7 @@ frmLease::frmLease(QWidget* parent)
     MakeMenu();
     Wire();
     Connect();
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
 }
 
 frmLease::~frmLease() = default;
@@ -132,7 +132,7 @@ void frmLease::Setup(std::int32_t idLease) {
 }
 
 void frmLease::FillLists() {
-    using core::screens::FillFromCommaList;
+    using core::binding::FillFromCommaList;
     if (terms_->cboTermType->count() == 0) {
         FillFromCommaList(*terms_->cboTermType, "WTW,MTM,Week(s),Month(s),Year(s)");
         FillFromCommaList(*terms_->cboExpireOption, "WTW,MTM,Renew,Expire");
@@ -153,7 +153,7 @@ void frmLease::FillPayors() {
 void frmLease::ShowProposal() {
     platform::Recordset row;
     ProposeLease(row);
-    core::screens::BindFromRecord(*this, row);
+    core::binding::BindFromRecord(*this, row);
     ShowEnabled();
 }
 
@@ -161,8 +161,8 @@ void frmLease::ShowRow(platform::Recordset& row) {
     RecordForm::ShowRow(row);
     // A word that isn't offered stays the lease's until another is chosen.
     for (QComboBox* const combo : {terms_->cboTermType, terms_->cboExpireOption}) {
-        const auto word = row[core::screens::FieldOfTag(core::screens::TagOf(*combo))];
-        core::screens::SelectByText(*combo, platform::TextOf(word), {.setText = true});
+        const auto word = row[core::binding::FieldOfTag(core::binding::TagOf(*combo))];
+        core::binding::SelectByText(*combo, platform::TextOf(word), {.setText = true});
     }
     // The list of payors depends on a field that may be bound after it.
     FillPayors();
@@ -171,7 +171,7 @@ void frmLease::ShowRow(platform::Recordset& row) {
 }
 
 void frmLease::WriteRow(platform::Recordset& row) {
-    core::screens::BindToRecord(*this, row);
+    core::binding::BindToRecord(*this, row);
     SaveLease(row, age_);
 }
 
@@ -278,8 +278,8 @@ void frmLease::ShowBalances() {
              ui_->txtRentDue, more_->txtSubsDue, more_->txtOptionBal, ui_->lblDepositTotal,
              ui_->lblDepositPaid, ui_->lblDepositDue, ui_->lblDepositRefunded,
              ui_->lblDepositCharged, ui_->lblDepositBalance}) {
-        const auto field = row[core::screens::FieldOfTag(core::screens::TagOf(*control))];
-        if (!field.IsNull()) core::screens::ShowValue(*control, '$', field.Value());
+        const auto field = row[core::binding::FieldOfTag(core::binding::TagOf(*control))];
+        if (!field.IsNull()) core::binding::ShowValue(*control, '$', field.Value());
     }
 }
 
@@ -292,9 +292,9 @@ void frmLease::LeaseChanged() {
     // What the books themselves move must not be overwritten by the next save.
     for (QWidget* const control : std::initializer_list<QWidget*>{
              ui_->txtStatus, ui_->txtRentStatus, terms_->dpDateNextDue}) {
-        const std::string tag = core::screens::TagOf(*control);
-        const auto field = row[core::screens::FieldOfTag(tag)];
-        if (!field.IsNull()) core::screens::ShowValue(*control, tag.front(), field.Value());
+        const std::string tag = core::binding::TagOf(*control);
+        const auto field = row[core::binding::FieldOfTag(tag)];
+        if (!field.IsNull()) core::binding::ShowValue(*control, tag.front(), field.Value());
     }
     ShowAvailable();
     ShowBalances();

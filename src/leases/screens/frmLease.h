@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "core/NotifyAll.h"
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 #include "leases/LeaseCommands.h"
 #include "leases/LeaseEditor.h"
 
@@ -28,7 +28,7 @@ namespace leases::screens {
 class Lease_Ledger;
 
 /// A lease: its terms, its ledger, and the commands that move it through its life by hand.
-class frmLease : public core::screens::RecordForm {
+class frmLease : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

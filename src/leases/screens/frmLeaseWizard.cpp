@@ -7,9 +7,9 @@
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
 #include "core/References.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/EnableContainer.h"
-#include "core/screens/ErrorRoll.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/EnableContainer.h"
+#include "core/forms/ErrorRoll.h"
 #include "leases/LeaseEditor.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
@@ -21,10 +21,10 @@
 
 namespace leases::screens {
 
-using core::screens::EnableContainer;
-using core::screens::FillList;
-using core::screens::GetSelectedId;
-using core::screens::Guarded;
+using core::binding::EnableContainer;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
+using core::forms::Guarded;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -79,8 +79,8 @@ void frmLeaseWizard::Setup() {
         FillList(core::kUnit, *property_->cboProperty, {.addNone = true});
         FillList(core::kTenant, *tenant_->cboTenant, {.addNone = true});
     });
-    core::screens::FillFromCommaList(*terms_->cboTermType, "Week(s),Month(s)");
-    core::screens::SelectByText(*terms_->cboTermType, "Month(s)");
+    core::binding::FillFromCommaList(*terms_->cboTermType, "Week(s),Month(s)");
+    core::binding::SelectByText(*terms_->cboTermType, "Month(s)");
     terms_->dpStartDate->SetDay(FirstOfNextMonth());
     terms_->txtTerm->setText(QStringLiteral("12"));
     terms_->txtRent->SetAmount({});

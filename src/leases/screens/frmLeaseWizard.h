@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "core/screens/frmWizard.h"
+#include "core/forms/frmWizard.h"
 #include "leases/LeaseWizard.h"
 
 namespace Ui {
@@ -15,7 +15,7 @@ class frmLeaseWizardTerms;
 namespace leases::screens {
 
 /// Makes a lease in five steps, and where they are new its property and its tenant.
-class frmLeaseWizard : public core::screens::frmWizard {
+class frmLeaseWizard : public core::forms::frmWizard {
     Q_OBJECT
 
   public:

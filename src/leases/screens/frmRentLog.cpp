@@ -5,8 +5,8 @@
 #include "core/RecordKinds.h"
 #include "core/RecordNotices.h"
 #include "core/Session.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/Tags.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/Tags.h"
 #include "leases/ChargeEditor.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
@@ -38,7 +38,7 @@ frmRentLog::frmRentLog(QWidget* parent)
     ui_->cmdAction->Apply().hide();
     QPushButton& save = ui_->cmdAction->Close();
     save.setText(tr("&Save"));
-    core::screens::SetTag(save, "SAVE");
+    core::binding::SetTag(save, "SAVE");
 }
 
 frmRentLog::~frmRentLog() = default;

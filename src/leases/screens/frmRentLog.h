@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 #include "leases/RentLog.h"
 
 namespace Ui {
@@ -13,7 +13,7 @@ class frmRentLog;
 namespace leases::screens {
 
 /// One row of a lease's ledger.
-class frmRentLog : public core::screens::RecordForm {
+class frmRentLog : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

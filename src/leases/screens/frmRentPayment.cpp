@@ -7,9 +7,9 @@
 #include "core/Descriptions.h"
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Tags.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/Tags.h"
+#include "core/forms/ErrorRoll.h"
 #include "leases/DeleteCharges.h"
 #include "leases/PaymentOutlook.h"
 #include "leases/screens/PickMenu.h"
@@ -21,12 +21,12 @@
 
 namespace leases::screens {
 
-using core::screens::FillList;
-using core::screens::GetSelectedId;
-using core::screens::Guarded;
-using core::screens::SelectById;
-using core::screens::SelectByText;
-using core::screens::SelectOrName;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
+using core::binding::SelectById;
+using core::binding::SelectByText;
+using core::binding::SelectOrName;
+using core::forms::Guarded;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -123,7 +123,7 @@ void frmRentPayment::Setup(std::int32_t idTransaction, std::int32_t idLease, Ren
         deleteLater();
         return;
     }
-    core::screens::SetTag(*this, idTransaction == 0 ? "" : std::to_string(idTransaction));
+    core::binding::SetTag(*this, idTransaction == 0 ? "" : std::to_string(idTransaction));
     Begin([this] { ShowPayment(); });
     ui_->lvwCharges->setFocus();
 }

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/EntryForm.h"
+#include "core/forms/EntryForm.h"
 #include "leases/RentPayment.h"
 
 class QMenu;
@@ -15,7 +15,7 @@ class frmRentPayment;
 namespace leases::screens {
 
 /// Takes a payment against the charges of a lease, or edits one that was taken.
-class frmRentPayment : public core::screens::EntryForm {
+class frmRentPayment : public core::forms::EntryForm {
     Q_OBJECT
 
   public:

@@ -2,15 +2,15 @@
 
 #include "core/RecordNotices.h"
 #include "core/Settings.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/DayErrors.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/DayErrors.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Format.h"
 #include "ui_frmRentSplit.h"
 
 namespace leases::screens {
 
-using core::screens::SelectByText;
+using core::binding::SelectByText;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -111,7 +111,7 @@ std::vector<std::string> frmRentSplit::Errors() {
         const std::string amount = FromScreen(line.amount->text());
         if (!line.amount->Amount())
             lines.push_back("\"" + amount + "\" is not an amount of money.");
-        if (!line.date->IsValid()) lines.push_back(core::screens::NotADay(*line.date));
+        if (!line.date->IsValid()) lines.push_back(core::binding::NotADay(*line.date));
     }
     return lines;
 }

@@ -4,17 +4,17 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/EntryForm.h"
+#include "core/forms/EntryForm.h"
 #include "leases/RentSplit.h"
 
 class QComboBox;
 class QLineEdit;
 class QRadioButton;
 
-namespace core::screens {
+namespace core::binding {
 class DateEdit;
 class MoneyEdit;
-} // namespace core::screens
+} // namespace core::binding
 
 namespace Ui {
 class frmRentSplit;
@@ -23,7 +23,7 @@ class frmRentSplit;
 namespace leases::screens {
 
 /// Makes two charges of one, so that a part of it can be paid.
-class frmRentSplit : public core::screens::EntryForm {
+class frmRentSplit : public core::forms::EntryForm {
     Q_OBJECT
 
   public:
@@ -40,9 +40,9 @@ class frmRentSplit : public core::screens::EntryForm {
   private:
     /// The controls of one part.
     struct Line {
-        core::screens::DateEdit* date;
+        core::binding::DateEdit* date;
         QComboBox* category;
-        core::screens::MoneyEdit* amount;
+        core::binding::MoneyEdit* amount;
         QLineEdit* description;
         QRadioButton* isRent;
     };

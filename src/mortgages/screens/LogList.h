@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/screens/LedgerList.h"
+#include "core/grid/LedgerList.h"
 #include "mortgages/MortgageCodes.h"
 
 namespace mortgages::screens {
@@ -19,7 +19,7 @@ struct LogLine {
 };
 
 /// Rows of a mortgage's log to look at and choose from.
-class LogList : public core::screens::LedgerList {
+class LogList : public core::grid::LedgerList {
     Q_OBJECT
 
   public:

@@ -8,15 +8,15 @@
 
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Tags.h"
+#include "core/binding/Tags.h"
+#include "core/forms/ErrorRoll.h"
 #include "mortgages/screens/LogList.h"
 #include "mortgages/screens/frmMortgagePayment.h"
 #include "platform/qt/Text.h"
 
 namespace mortgages::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 using platform::qt::ToScreen;
 
 MtgLog::MtgLog(QWidget* parent)
@@ -56,7 +56,7 @@ QPushButton* MtgLog::MakeButton(const QString& text, const QString& hint, const 
     button->setObjectName(QLatin1String(name));
     button->setToolTip(hint);
     button->setAutoDefault(false);
-    core::screens::SetTag(*button, tag);
+    core::binding::SetTag(*button, tag);
     return button;
 }
 

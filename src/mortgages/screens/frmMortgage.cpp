@@ -6,11 +6,11 @@
 #include "core/Configuration.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "core/screens/Binding.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/EnableContainer.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/TabPages.h"
+#include "core/binding/Binding.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/EnableContainer.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "mortgages/MortgageUpkeep.h"
 #include "mortgages/screens/AmortPage.h"
@@ -23,7 +23,7 @@
 
 namespace mortgages::screens {
 
-using core::screens::FillList;
+using core::binding::FillList;
 using platform::qt::FromScreen;
 
 frmMortgage::frmMortgage(QWidget* parent)
@@ -40,7 +40,7 @@ frmMortgage::frmMortgage(QWidget* parent)
     MakeMenu();
     Wire();
     Connect();
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
 }
 
 frmMortgage::~frmMortgage() = default;
@@ -84,7 +84,7 @@ void frmMortgage::Setup(std::int32_t idMortgage, std::int32_t parentBuilding) {
                  {.selectedId = parentBuilding, .addNone = true});
         for (const std::int16_t kind : {core::kMortgageeAccount, core::kAccount})
             FillAccounts(kind);
-        core::screens::SelectById(*general_->cboIdMortgagee, core::Config().DefaultMortgagee);
+        core::binding::SelectById(*general_->cboIdMortgagee, core::Config().DefaultMortgagee);
         if (idMortgage == 0) ShowTerms();
     });
 }
@@ -130,7 +130,7 @@ void frmMortgage::Store() {
     try {
         platform::Recordset row;
         FindRowToWrite(row);
-        core::screens::BindToRecord(*this, row);
+        core::binding::BindToRecord(*this, row);
         loan_.SetDescription(FromScreen(general_->txtDescription->text()));
         SettleRemainder(loan_);
         SaveMortgage(row, loan_, FromScreen(general_->cboIdMortgagee->currentText()));
@@ -163,7 +163,7 @@ void frmMortgage::UpdateControls() {
     for (QAction* const command : commands_)
         command->setEnabled(isSaved);
     changeBalance_->setEnabled(isSaved);
-    core::screens::EnableContainer(*origin_->fraRequired, !isSaved);
+    core::binding::EnableContainer(*origin_->fraRequired, !isSaved);
     origin_->dpDue->setEnabled(!isSaved);
     ucMtgLog_->Load(Id());
     ucFOB_->SetRecord(core::kMortgage, Id());

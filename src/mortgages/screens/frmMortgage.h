@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 #include "mortgages/MortgageEditor.h"
 #include "mortgages/clsMortgage.h"
 
@@ -28,7 +28,7 @@ class MtgLog;
 
 /// A mortgage: its parties and terms, its log, its schedule, and what moves it by hand. The
 /// origination of a saved one stays as it is.
-class frmMortgage : public core::screens::RecordForm {
+class frmMortgage : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

@@ -1,6 +1,6 @@
 #include "mortgages/screens/frmMortgageAdjust.h"
 
-#include "core/screens/DayErrors.h"
+#include "core/binding/DayErrors.h"
 #include "mortgages/MortgageAdjust.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
@@ -62,7 +62,7 @@ std::vector<std::string> frmMortgageAdjust::Errors() {
     std::vector<std::string> errors = BalanceErrors(ui_->txtBalance->Amount().value_or(Currency()),
                                                     oldBalance_, NumberIn(*ui_->txtI_Bal));
     const auto day = ui_->dpNextDue->Day();
-    if (!day || !day->IsSet()) errors.push_back(core::screens::NotADay(*ui_->dpNextDue));
+    if (!day || !day->IsSet()) errors.push_back(core::binding::NotADay(*ui_->dpNextDue));
     return errors;
 }
 

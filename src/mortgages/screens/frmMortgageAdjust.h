@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "core/screens/EntryForm.h"
+#include "core/forms/EntryForm.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Date.h"
 
@@ -14,7 +14,7 @@ namespace mortgages::screens {
 
 /// Asks for a new rate of a mortgage, or for the balance that its lender states. It changes nothing
 /// itself: what was given is told.
-class frmMortgageAdjust : public core::screens::EntryForm {
+class frmMortgageAdjust : public core::forms::EntryForm {
     Q_OBJECT
 
   public:

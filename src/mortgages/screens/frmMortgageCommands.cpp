@@ -2,7 +2,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "core/screens/ErrorRoll.h"
+#include "core/forms/ErrorRoll.h"
 #include "mortgages/MortgageUpkeep.h"
 #include "mortgages/screens/MtgLog.h"
 #include "mortgages/screens/frmMortgage.h"
@@ -11,7 +11,7 @@
 
 namespace mortgages::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 
 QAction* frmMortgage::AddAction(const char* name, const QString& text,
                                 const std::function<void()>& work) {

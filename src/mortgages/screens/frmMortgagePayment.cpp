@@ -5,9 +5,9 @@
 
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Tags.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/Tags.h"
+#include "core/forms/ErrorRoll.h"
 #include "mortgages/LogRows.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
@@ -17,11 +17,11 @@
 
 namespace mortgages::screens {
 
-using core::screens::FillList;
-using core::screens::GetSelectedId;
-using core::screens::Guarded;
-using core::screens::SelectByText;
-using core::screens::SelectOrName;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
+using core::binding::SelectByText;
+using core::binding::SelectOrName;
+using core::forms::Guarded;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -82,7 +82,7 @@ void frmMortgagePayment::Setup(std::int32_t idTransaction, std::int32_t idMortga
         deleteLater();
         return;
     }
-    core::screens::SetTag(*this, idTransaction == 0 ? "" : std::to_string(idTransaction));
+    core::binding::SetTag(*this, idTransaction == 0 ? "" : std::to_string(idTransaction));
     Begin([this] { ShowPayment(); });
     ui_->lvwCharges->setFocus();
 }

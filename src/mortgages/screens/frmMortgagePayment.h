@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/EntryForm.h"
+#include "core/forms/EntryForm.h"
 #include "mortgages/MortgagePayment.h"
 
 class QMenu;
@@ -15,7 +15,7 @@ class frmMortgagePayment;
 namespace mortgages::screens {
 
 /// Pays charges of a mortgage, or edits a payment that was made.
-class frmMortgagePayment : public core::screens::EntryForm {
+class frmMortgagePayment : public core::forms::EntryForm {
     Q_OBJECT
 
   public:

@@ -32,7 +32,7 @@ std::int16_t CountIn(const QLineEdit& box) {
     return platform::RoundToInt16(std::clamp(NumberIn(box), 0.0, kMostCounted));
 }
 
-double AmountIn(const core::screens::MoneyEdit& box) {
+double AmountIn(const core::binding::MoneyEdit& box) {
     return box.Amount().value_or(Currency()).ToDouble();
 }
 

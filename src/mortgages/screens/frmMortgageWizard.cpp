@@ -6,9 +6,9 @@
 
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/EnableContainer.h"
-#include "core/screens/ErrorRoll.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/EnableContainer.h"
+#include "core/forms/ErrorRoll.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Conversions.h"
@@ -19,7 +19,7 @@
 
 namespace mortgages::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 using platform::Currency;
 using platform::qt::FromScreen;
 
@@ -81,7 +81,7 @@ void frmMortgageWizard::MakeSteps() {
 }
 
 void frmMortgageWizard::Setup() {
-    Guarded([this] { core::screens::FillList(core::kAccount, *lender_->cboAccount); });
+    Guarded([this] { core::binding::FillList(core::kAccount, *lender_->cboAccount); });
     const platform::Date today = platform::Today();
     const platform::Date first(today.Year(), today.Month(), 1);
     terms_->txtOrigPV->setText(QStringLiteral("100000.00"));
@@ -99,14 +99,14 @@ void frmMortgageWizard::Setup() {
 
 void frmMortgageWizard::ShowAvailable() {
     const bool isNew = lender_->optAccount0->isChecked();
-    core::screens::EnableContainer(*lender_->fraNew, isNew);
-    core::screens::EnableContainer(*lender_->fraExisting, !isNew);
+    core::binding::EnableContainer(*lender_->fraNew, isNew);
+    core::binding::EnableContainer(*lender_->fraExisting, !isNew);
 }
 
 WizardEntries frmMortgageWizard::Entered() const {
     return {.newAccount = lender_->optAccount0->isChecked(),
             .accountName = FromScreen(lender_->txtAccount->text()),
-            .idAccount = core::screens::GetSelectedId(*lender_->cboAccount),
+            .idAccount = core::binding::GetSelectedId(*lender_->cboAccount),
             .lenderName = FromScreen(lender_->cboAccount->currentText()),
             .origPV = terms_->txtOrigPV->Amount().value_or(Currency()),
             .origTerm = NumberIn(*terms_->txtOrigTerm),

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "core/screens/frmWizard.h"
+#include "core/forms/frmWizard.h"
 #include "mortgages/MortgageWizard.h"
 
 class QCheckBox;
@@ -17,7 +17,7 @@ class frmMortgageWizardTerms;
 namespace mortgages::screens {
 
 /// Adds a mortgage that may be running already, from what its lender's papers say.
-class frmMortgageWizard : public core::screens::frmWizard {
+class frmMortgageWizard : public core::forms::frmWizard {
     Q_OBJECT
 
   public:

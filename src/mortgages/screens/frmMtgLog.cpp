@@ -1,8 +1,8 @@
 #include "mortgages/screens/frmMtgLog.h"
 
-#include "core/screens/ComboList.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Tags.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/Tags.h"
+#include "core/forms/ErrorRoll.h"
 #include "mortgages/ChargeEditor.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
@@ -11,7 +11,7 @@
 
 namespace mortgages::screens {
 
-using core::screens::SelectByText;
+using core::binding::SelectByText;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -30,7 +30,7 @@ frmMtgLog::~frmMtgLog() = default;
 
 void frmMtgLog::Setup(std::int32_t idMortgageLog, std::int32_t idMortgage) {
     id_ = idMortgageLog;
-    const bool found = core::screens::Guarded([&] {
+    const bool found = core::forms::Guarded([&] {
         if (id_ == 0) {
             entry_ = NewCharge(idMortgage);
         } else if (!ReadCharge(id_, entry_)) {
@@ -42,7 +42,7 @@ void frmMtgLog::Setup(std::int32_t idMortgageLog, std::int32_t idMortgage) {
         deleteLater();
         return;
     }
-    core::screens::SetTag(*this, id_ == 0 ? "" : std::to_string(id_));
+    core::binding::SetTag(*this, id_ == 0 ? "" : std::to_string(id_));
     Begin([this] { ShowEntry(); });
 }
 
@@ -77,7 +77,7 @@ MortgageLogEntry frmMtgLog::Entered() const {
 }
 
 void frmMtgLog::ShowTotal() {
-    core::screens::Guarded(
+    core::forms::Guarded(
         [this] { ui_->txtTotal->setText(ToScreen(platform::FormatMoney(Entered().Total()))); });
 }
 

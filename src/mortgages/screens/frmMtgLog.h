@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/EntryForm.h"
+#include "core/forms/EntryForm.h"
 #include "mortgages/MortgageLog.h"
 
 namespace Ui {
@@ -13,7 +13,7 @@ class frmMtgLog;
 namespace mortgages::screens {
 
 /// One charge of a mortgage. A base payment keeps its split.
-class frmMtgLog : public core::screens::EntryForm {
+class frmMtgLog : public core::forms::EntryForm {
     Q_OBJECT
 
   public:

@@ -5,10 +5,10 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 
-#include "core/screens/AddressBox.h"
-#include "core/screens/Binding.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Wiring.h"
+#include "core/binding/AddressBox.h"
+#include "core/binding/Binding.h"
+#include "core/binding/Wiring.h"
+#include "core/forms/ErrorRoll.h"
 #include "platform/qt/Text.h"
 #include "records/screens/ResetFields.h"
 #include "ui_Contacts.h"
@@ -17,7 +17,7 @@ namespace records::screens {
 
 namespace {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 using platform::qt::ToScreen;
 
 std::int32_t IdOf(const QListWidgetItem* item) {
@@ -43,12 +43,12 @@ Contacts::Contacts(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::
 Contacts::~Contacts() = default;
 
 void Contacts::Wire() {
-    using core::screens::AddressKind;
-    core::screens::WireControls(*this);
-    core::screens::FillPlaceByZip(*ui_->txtZip, {ui_->txtCity, ui_->txtState});
-    core::screens::OpenOnClick(*ui_->txtEmail, AddressKind::Mail);
-    core::screens::OpenOnClick(*ui_->txtWeb, AddressKind::Web);
-    core::screens::ConnectChanges(*ui_->fields, *this, [this] {
+    using core::binding::AddressKind;
+    core::binding::WireControls(*this);
+    core::binding::FillPlaceByZip(*ui_->txtZip, {ui_->txtCity, ui_->txtState});
+    core::binding::OpenOnClick(*ui_->txtEmail, AddressKind::Mail);
+    core::binding::OpenOnClick(*ui_->txtWeb, AddressKind::Web);
+    core::binding::ConnectChanges(*ui_->fields, *this, [this] {
         if (showing_ || id_ == 0) return;
         changed_ = true;
         Q_EMIT Changed();
@@ -72,7 +72,7 @@ void Contacts::SaveCurrent() {
     if (!changed_ || id_ == 0) return;
     platform::Recordset row;
     OpenContact(row, id_, owner_);
-    core::screens::BindToRecord(*ui_->fields, row);
+    core::binding::BindToRecord(*ui_->fields, row);
     row.Update();
     changed_ = false;
     for (int i = 0; i < ui_->lvwContacts->count(); ++i) {
@@ -132,7 +132,7 @@ void Contacts::ShowCurrent() {
         if (id_ == 0) return;
         platform::Recordset row;
         OpenContact(row, id_, owner_);
-        core::screens::BindFromRecord(*ui_->fields, row);
+        core::binding::BindFromRecord(*ui_->fields, row);
     });
     changed_ = false;
     showing_ = false;

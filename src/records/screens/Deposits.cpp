@@ -4,12 +4,12 @@
 #include <array>
 
 #include "core/RecordKinds.h"
-#include "core/screens/ErrorRoll.h"
+#include "core/forms/ErrorRoll.h"
 #include "records/screens/frmDeposit.h"
 
 namespace records::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 
 namespace {
 

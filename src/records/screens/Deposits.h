@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/NotifyAll.h"
-#include "core/screens/RecordList.h"
+#include "core/grid/RecordList.h"
 #include "records/DepositTemplates.h"
 
 class QTabBar;
@@ -9,7 +9,7 @@ class QTabBar;
 namespace records::screens {
 
 /// The deposit templates that a lease of a building's unit is charged by.
-class Deposits : public core::screens::RecordList {
+class Deposits : public core::grid::RecordList {
     Q_OBJECT
 
   public:

@@ -4,8 +4,8 @@
 #include <QSignalBlocker>
 #include <vector>
 
-#include "core/screens/Binding.h"
-#include "core/screens/ComboList.h"
+#include "core/binding/Binding.h"
+#include "core/binding/ComboList.h"
 
 namespace records::screens {
 
@@ -13,7 +13,7 @@ namespace {
 
 std::vector<QComboBox*> PickFields(const QWidget& form) {
     std::vector<QComboBox*> fields;
-    for (QWidget* const control : core::screens::ControlsOf(form)) {
+    for (QWidget* const control : core::binding::ControlsOf(form)) {
         auto* const combo = qobject_cast<QComboBox*>(control);
         if (combo && combo->property("pickList").toBool()) fields.push_back(combo);
     }
@@ -26,7 +26,7 @@ void LoadPickFields(QWidget& form) {
     for (QComboBox* const combo : PickFields(form)) {
         const QSignalBlocker quiet(combo);
         combo->clear();
-        core::screens::LoadPickList(*combo);
+        core::binding::LoadPickList(*combo);
         combo->setCurrentIndex(-1);
         combo->clearEditText();
     }
@@ -34,7 +34,7 @@ void LoadPickFields(QWidget& form) {
 
 void SavePickFields(const QWidget& form) {
     for (const QComboBox* const combo : PickFields(form))
-        core::screens::SavePickList(*combo);
+        core::binding::SavePickList(*combo);
 }
 
 } // namespace records::screens

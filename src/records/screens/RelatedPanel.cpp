@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/screens/ErrorRoll.h"
-#include "exchange/DeleteRecord.h"
+#include "core/forms/ErrorRoll.h"
+#include "removal/DeleteRecord.h"
 
 namespace records::screens {
 
@@ -34,7 +34,7 @@ void RelatedPanel::Reload() {
 }
 
 void RelatedPanel::Open(std::int32_t id) {
-    core::screens::Guarded([&] {
+    core::forms::Guarded([&] {
         const core::EditRequest request = RelatedRequest(*list_, owner_, id);
         core::EditRecord(request.kind, request.id, request.parent1, request.parent2,
                          request.parent3);
@@ -42,7 +42,7 @@ void RelatedPanel::Open(std::int32_t id) {
 }
 
 void RelatedPanel::Remove(std::int32_t id) {
-    core::screens::Guarded([&] { exchange::DeleteRecord(list_->kind, id); });
+    core::forms::Guarded([&] { removal::DeleteRecord(list_->kind, id); });
 }
 
 void RelatedPanel::Heard(std::int16_t kind) {

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "core/NotifyAll.h"
-#include "core/screens/RecordList.h"
+#include "core/grid/RecordList.h"
 #include "records/RelatedLists.h"
 
 namespace records::screens {
 
 /// What RelatedDBm and RelatedDBs have in common: the present list of an owner, kept current by
 /// itself.
-class RelatedPanel : public core::screens::RecordList {
+class RelatedPanel : public core::grid::RecordList {
     Q_OBJECT
 
   protected:

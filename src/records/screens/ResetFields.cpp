@@ -5,14 +5,14 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-#include "core/screens/Binding.h"
-#include "core/screens/Tags.h"
+#include "core/binding/Binding.h"
+#include "core/binding/Tags.h"
 
 namespace records::screens {
 
 void ResetFields(QWidget& form, std::string_view table) {
-    for (QWidget* const control : core::screens::ControlsOf(form)) {
-        if (!core::screens::ReadTag(core::screens::TagOf(*control), table)) continue;
+    for (QWidget* const control : core::binding::ControlsOf(form)) {
+        if (!core::binding::ReadTag(core::binding::TagOf(*control), table)) continue;
         if (auto* const line = qobject_cast<QLineEdit*>(control)) {
             line->clear();
         } else if (auto* const page = qobject_cast<QPlainTextEdit*>(control)) {

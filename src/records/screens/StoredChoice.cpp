@@ -2,13 +2,13 @@
 
 #include <QComboBox>
 
-#include "core/screens/ComboList.h"
+#include "core/binding/ComboList.h"
 
 namespace records::screens {
 
 void ShowStoredChoice(QComboBox& combo, const platform::Field& field) {
     if (field.IsBlank()) return combo.setCurrentIndex(-1);
-    core::screens::SelectByText(combo, field.AsText(), {.setText = true});
+    core::binding::SelectByText(combo, field.AsText(), {.setText = true});
 }
 
 } // namespace records::screens

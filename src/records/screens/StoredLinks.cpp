@@ -5,13 +5,13 @@
 
 #include "core/Descriptions.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/Tags.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/Tags.h"
 #include "platform/qt/Text.h"
 
 namespace records::screens {
 
-using core::screens::GetSelectedId;
+using core::binding::GetSelectedId;
 
 namespace {
 
@@ -32,7 +32,7 @@ void OfferUnit(QComboBox& list, std::int32_t id) {
 }
 
 std::int32_t StoredId(const QComboBox& list, platform::Recordset& row) {
-    const platform::Field field = row[core::screens::FieldOfTag(core::screens::TagOf(list))];
+    const platform::Field field = row[core::binding::FieldOfTag(core::binding::TagOf(list))];
     return field.IsNull() ? 0 : field.AsLong();
 }
 
@@ -40,9 +40,9 @@ std::int32_t StoredId(const QComboBox& list, platform::Recordset& row) {
 
 void FillAccountList(std::int16_t kind, QComboBox& list, NoneRow none) {
     const std::int32_t id = GetSelectedId(list);
-    core::screens::FillList(kind, list, {.addNone = none == NoneRow::Yes});
+    core::binding::FillList(kind, list, {.addNone = none == NoneRow::Yes});
     OfferAccount(list, id);
-    core::screens::SelectById(list, id);
+    core::binding::SelectById(list, id);
 }
 
 void OfferStoredAccounts(std::initializer_list<QComboBox*> lists, platform::Recordset& row) {
@@ -52,9 +52,9 @@ void OfferStoredAccounts(std::initializer_list<QComboBox*> lists, platform::Reco
 
 void FillUnitList(QComboBox& list, NoneRow none, std::int32_t proposed) {
     const std::int32_t id = proposed == 0 ? GetSelectedId(list) : proposed;
-    core::screens::FillList(core::kUnit, list, {.selectedId = id, .addNone = none == NoneRow::Yes});
+    core::binding::FillList(core::kUnit, list, {.selectedId = id, .addNone = none == NoneRow::Yes});
     OfferUnit(list, id);
-    core::screens::SelectById(list, id);
+    core::binding::SelectById(list, id);
 }
 
 void OfferStoredUnit(QComboBox& list, platform::Recordset& row) {

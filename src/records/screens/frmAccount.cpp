@@ -3,9 +3,9 @@
 #include "books/screens/General_Ledger.h"
 #include "core/Configuration.h"
 #include "core/RecordKinds.h"
-#include "core/screens/AddressBox.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/TabPages.h"
+#include "core/binding/AddressBox.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/screens/Contacts.h"
@@ -22,16 +22,16 @@ frmAccount::frmAccount(QWidget* parent)
     : RecordForm({core::kAccount, "Account", "IdAccount"}, parent),
       ui_(std::make_unique<Ui::frmAccount>()),
       details_(std::make_unique<Ui::frmAccountDetails>()) {
-    using core::screens::AddressKind;
+    using core::binding::AddressKind;
     ui_->setupUi(this);
     details_->setupUi(ui_->tabAccount);
     MakePanels();
     Wire();
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
     details_->cboAccountType->setFocus();
-    core::screens::FillPlaceByZip(*details_->txtZip, {details_->txtCity, details_->txtState});
-    core::screens::OpenOnClick(*details_->txtEmail, AddressKind::Mail);
-    core::screens::OpenOnClick(*details_->txtWeb, AddressKind::Web);
+    core::binding::FillPlaceByZip(*details_->txtZip, {details_->txtCity, details_->txtState});
+    core::binding::OpenOnClick(*details_->txtEmail, AddressKind::Mail);
+    core::binding::OpenOnClick(*details_->txtWeb, AddressKind::Web);
     connect(details_->cboAccountType, &QComboBox::currentTextChanged, this,
             &frmAccount::ShowSecrets);
 }
@@ -49,7 +49,7 @@ void frmAccount::Setup(std::int32_t id, std::string_view newType) {
     OpenRecord(id, [this, id, newType] {
         FillTypes();
         if (id != 0) return;
-        core::screens::SelectByText(*details_->cboAccountType, newType, {.setText = true});
+        core::binding::SelectByText(*details_->cboAccountType, newType, {.setText = true});
         details_->txtState->setText(ToScreen(core::Config().DefaultState));
         details_->txtBalance->setText(QStringLiteral("0.00"));
     });
@@ -94,8 +94,8 @@ void frmAccount::FillTypes() {
     const std::string text = FromScreen(details_->cboAccountType->currentText());
     const QSignalBlocker quiet(details_->cboAccountType);
     details_->cboAccountType->clear();
-    core::screens::FillFromCommaList(*details_->cboAccountType, OfferedAccountTypes());
-    core::screens::SelectByText(*details_->cboAccountType, text, {.setText = true});
+    core::binding::FillFromCommaList(*details_->cboAccountType, OfferedAccountTypes());
+    core::binding::SelectByText(*details_->cboAccountType, text, {.setText = true});
 }
 
 void frmAccount::ShowSecrets() {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string_view>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 #include "records/AccountRules.h"
 
 namespace Ui {
@@ -25,7 +25,7 @@ namespace records::screens {
 class Contacts;
 
 /// A party that money goes to or comes from, or a bank account of the owner's own.
-class frmAccount : public core::screens::RecordForm {
+class frmAccount : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

@@ -1,8 +1,8 @@
 #include "records/screens/frmAppliance.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/TabPages.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/FurnishingRules.h"
@@ -26,7 +26,7 @@ frmAppliance::frmAppliance(QWidget* parent)
     contracts_ = PlacePanel(new RelatedDBs(this), *ui_->tabContracts, "ucContracts");
     files_ = PlacePanel(new documents::screens::FileObjects, *ui_->tabFiles, "ucFOB");
     Wire();
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
 }
 
 frmAppliance::~frmAppliance() = default;
@@ -34,8 +34,8 @@ frmAppliance::~frmAppliance() = default;
 void frmAppliance::Setup(std::int32_t id, std::int32_t parentUnit) {
     OpenRecord(id, [this, parentUnit] {
         LoadPickFields(*this);
-        core::screens::FillFromCommaList(*details_->cboDeprMethod, kStraightLine);
-        core::screens::SelectByText(*details_->cboDeprMethod, kStraightLine);
+        core::binding::FillFromCommaList(*details_->cboDeprMethod, kStraightLine);
+        core::binding::SelectByText(*details_->cboDeprMethod, kStraightLine);
         FillAccountList(core::kVendorAccount, *details_->cboVendor);
         FillUnitList(*details_->cboUnit, NoneRow::Yes, parentUnit);
     });
@@ -57,7 +57,7 @@ void frmAppliance::ShowCaption() {
 }
 
 std::vector<std::string> frmAppliance::Errors() {
-    return ApplianceErrors(core::screens::GetSelectedId(*details_->cboUnit),
+    return ApplianceErrors(core::binding::GetSelectedId(*details_->cboUnit),
                            FromScreen(details_->cboApplianceType->currentText()));
 }
 

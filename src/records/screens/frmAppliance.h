@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmAppliance;
@@ -19,7 +19,7 @@ namespace records::screens {
 class RelatedDBs;
 
 /// An appliance of a unit, with its service contracts.
-class frmAppliance : public core::screens::RecordForm {
+class frmAppliance : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

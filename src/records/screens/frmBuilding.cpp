@@ -9,9 +9,9 @@
 #include "core/Lookups.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
-#include "core/screens/Binding.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/TabPages.h"
+#include "core/binding/Binding.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/TabPages.h"
 #include "platform/qt/Text.h"
 #include "records/BuildingRules.h"
 #include "records/FurnishingRules.h"
@@ -26,9 +26,9 @@
 
 namespace records::screens {
 
-using core::screens::BindFromRecord;
-using core::screens::FillFromCommaList;
-using core::screens::FillList;
+using core::binding::BindFromRecord;
+using core::binding::FillFromCommaList;
+using core::binding::FillList;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -60,7 +60,7 @@ frmBuilding::frmBuilding(QWidget* parent)
     services_->setupUi(ui_->tabServices);
     MakeMenus();
     Wire();
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
     Connect();
 }
 
@@ -185,7 +185,7 @@ void frmBuilding::Store() {
 void frmBuilding::StoreBuilding() {
     platform::Recordset row;
     FindRowToWrite(row);
-    core::screens::BindToRecord(*this, row, kBuildingTable);
+    core::binding::BindToRecord(*this, row, kBuildingTable);
     if (row["Multi"].IsNull()) row["Multi"].Set(false);
     if (makeMulti_) row["Multi"].Set(true);
     row.Update();
@@ -200,7 +200,7 @@ void frmBuilding::StoreUnit() {
         row["IdUnit"].Set(idUnit_);
         row["Ccount"].Set(std::int32_t{0});
     }
-    core::screens::BindToRecord(*this, row, kUnitTable);
+    core::binding::BindToRecord(*this, row, kUnitTable);
     row["IdBuilding"].Set(Id());
     row.Update();
 }
@@ -233,7 +233,7 @@ void frmBuilding::ShowStatus() {
     platform::Recordset row;
     FindById(row, kUnitTable, idUnit_);
     if (row.Eof() || row["Status"].IsNull()) return;
-    core::screens::SelectByText(*unit_->cboUnitStatus, row["Status"].AsText(), {.setText = true});
+    core::binding::SelectByText(*unit_->cboUnitStatus, row["Status"].AsText(), {.setText = true});
     storedStatus_ = unit_->cboUnitStatus->currentText();
 }
 

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "core/EditRecord.h"
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 class QLabel;
 class QMenuBar;
@@ -29,7 +29,7 @@ namespace records::screens {
 
 /// A building together with one of its units. A property of a single unit looks like one record; a
 /// building of several has a list to choose the unit from.
-class frmBuilding : public core::screens::RecordForm {
+class frmBuilding : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

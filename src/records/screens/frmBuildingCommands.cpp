@@ -4,8 +4,8 @@
 #include <QMenuBar>
 
 #include "core/References.h"
-#include "core/screens/AddressBox.h"
-#include "core/screens/ErrorRoll.h"
+#include "core/binding/AddressBox.h"
+#include "core/forms/ErrorRoll.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
@@ -19,7 +19,7 @@
 
 namespace records::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 using platform::qt::FromScreen;
 
 namespace {
@@ -67,7 +67,7 @@ void frmBuilding::MakeMenus() {
 }
 
 void frmBuilding::Connect() {
-    core::screens::FillPlaceByZip(*place_->txtZip,
+    core::binding::FillPlaceByZip(*place_->txtZip,
                                   {place_->txtCity, place_->txtState, place_->txtCounty});
     connect(ui_->cboSelUnit, &QComboBox::activated, this, &frmBuilding::UnitChosen);
     connect(place_->lblTaxAccount, &QLabel::linkActivated, this, &frmBuilding::OpenTaxPage);

@@ -6,9 +6,9 @@
 #include "books/screens/General_Ledger.h"
 #include "core/Lookups.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/OpenForms.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/OpenForms.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/BuildingRules.h"
@@ -21,7 +21,7 @@
 
 namespace records::screens {
 
-using core::screens::Guarded;
+using core::forms::Guarded;
 
 namespace {
 
@@ -73,12 +73,12 @@ void frmBuilding::FillUnits() {
     for (const core::Choice& unit : UnitsOf(Id()))
         list.Add(unit.text, unit.id);
     core::SelectById(list, idUnit_);
-    core::screens::ShowInCombo(list, *ui_->cboSelUnit);
+    core::binding::ShowInCombo(list, *ui_->cboSelUnit);
 }
 
 void frmBuilding::UnitChosen() {
-    if (SelectUnit(core::screens::GetSelectedId(*ui_->cboSelUnit))) return;
-    core::screens::SelectById(*ui_->cboSelUnit, idUnit_);
+    if (SelectUnit(core::binding::GetSelectedId(*ui_->cboSelUnit))) return;
+    core::binding::SelectById(*ui_->cboSelUnit, idUnit_);
 }
 
 /// Saves what was changed; false when that was refused or failed.
@@ -126,7 +126,7 @@ void OpenBuilding(const core::EditRequest& request) {
     const std::int32_t idUnit = isUnit ? request.id : 0;
     const std::int32_t idBuilding = isUnit ? core::GetUnitBuilding(idUnit) : request.id;
     if (auto* const open = FindOpen(idBuilding)) {
-        if (open->SelectUnit(idUnit)) core::screens::BringToFront(idBuilding);
+        if (open->SelectUnit(idUnit)) core::forms::BringToFront(idBuilding);
         return;
     }
     (new frmBuilding)->Setup(isUnit ? 0 : idBuilding, idUnit, isUnit ? request.parent2 : 0);

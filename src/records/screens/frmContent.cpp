@@ -1,7 +1,7 @@
 #include "records/screens/frmContent.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/TabPages.h"
+#include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/FurnishingRules.h"
@@ -18,7 +18,7 @@ frmContent::frmContent(QWidget* parent)
     ui_->setupUi(this);
     files_ = PlacePanel(new documents::screens::FileObjects, *ui_->tabFiles, "ucFOB");
     Wire();
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
 }
 
 frmContent::~frmContent() = default;

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmContent;
@@ -16,7 +16,7 @@ class FileObjects;
 namespace records::screens {
 
 /// A furnishing or movable item of a unit.
-class frmContent : public core::screens::RecordForm {
+class frmContent : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

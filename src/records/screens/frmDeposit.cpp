@@ -3,15 +3,15 @@
 #include <QRadioButton>
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/OpenForms.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/OpenForms.h"
 #include "platform/qt/Text.h"
 #include "ui_frmDeposit.h"
 
 namespace records::screens {
 
-using core::screens::FillList;
-using core::screens::GetSelectedId;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
 
 frmDeposit::frmDeposit(QWidget* parent)
     : RecordForm({core::kDeposit, "Deposit", "IdDeposit"}, parent, core::FormSizing::Fixed),
@@ -69,8 +69,8 @@ void frmDeposit::OfferPlaces() {
     const DepositScope scope = Scope();
     ui_->cboBuilding->setEnabled(scope == DepositScope::Building);
     ui_->cboUnit->setEnabled(scope == DepositScope::Unit);
-    if (scope != DepositScope::Building) core::screens::SelectById(*ui_->cboBuilding, 0);
-    if (scope != DepositScope::Unit) core::screens::SelectById(*ui_->cboUnit, 0);
+    if (scope != DepositScope::Building) core::binding::SelectById(*ui_->cboBuilding, 0);
+    if (scope != DepositScope::Unit) core::binding::SelectById(*ui_->cboUnit, 0);
 }
 
 DepositScope frmDeposit::Scope() const {
@@ -80,7 +80,7 @@ DepositScope frmDeposit::Scope() const {
 }
 
 void OpenDeposit(std::int32_t id, DepositScope scope, const DepositPlace& place) {
-    if (core::screens::BringToFront(id)) return;
+    if (core::forms::BringToFront(id)) return;
     (new frmDeposit)->Setup(id, scope, place);
 }
 

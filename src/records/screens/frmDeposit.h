@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 #include "records/DepositTemplates.h"
 
 namespace Ui {
@@ -13,7 +13,7 @@ class frmDeposit;
 namespace records::screens {
 
 /// A deposit that new leases are charged: all of them, those of a building or those of a unit.
-class frmDeposit : public core::screens::RecordForm {
+class frmDeposit : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

@@ -1,7 +1,7 @@
 #include "records/screens/frmIncident.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
+#include "core/binding/ComboList.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "records/TenantRules.h"
@@ -9,7 +9,7 @@
 
 namespace records::screens {
 
-using core::screens::FillList;
+using core::binding::FillList;
 
 frmIncident::frmIncident(QWidget* parent)
     : RecordForm({core::kIncident, "Incident", "IdIncident"}, parent),
@@ -23,7 +23,7 @@ frmIncident::~frmIncident() = default;
 
 void frmIncident::Setup(std::int32_t id, std::int32_t parentTenant) {
     OpenRecord(id, [this, parentTenant] {
-        core::screens::FillFromCommaList(*ui_->cboSeverity, kSeverities);
+        core::binding::FillFromCommaList(*ui_->cboSeverity, kSeverities);
         ui_->cboSeverity->setCurrentIndex(0);
         ui_->dpEntryDate->SetDay(platform::Today());
         FillList(core::kTenant, *ui_->cboTenant, {.selectedId = parentTenant, .addNone = true});

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmIncident;
@@ -12,7 +12,7 @@ class frmIncident;
 namespace records::screens {
 
 /// A dated note about a tenant.
-class frmIncident : public core::screens::RecordForm {
+class frmIncident : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

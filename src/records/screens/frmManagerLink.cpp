@@ -1,16 +1,16 @@
 #include "records/screens/frmManagerLink.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
+#include "core/binding/ComboList.h"
 #include "records/ManagerLinkRules.h"
 #include "records/screens/StoredLinks.h"
 #include "ui_frmManagerLink.h"
 
 namespace records::screens {
 
-using core::screens::FillFromCommaList;
-using core::screens::FillList;
-using core::screens::GetSelectedId;
+using core::binding::FillFromCommaList;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
 
 frmManagerLink::frmManagerLink(QWidget* parent)
     : RecordForm({core::kManager, "ManagerLink", "IdManagerLink"}, parent, core::FormSizing::Fixed),

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmManagerLink;
@@ -12,7 +12,7 @@ class frmManagerLink;
 namespace records::screens {
 
 /// One manager of a building, and the terms.
-class frmManagerLink : public core::screens::RecordForm {
+class frmManagerLink : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

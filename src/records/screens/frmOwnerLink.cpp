@@ -1,7 +1,7 @@
 #include "records/screens/frmOwnerLink.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
+#include "core/binding/ComboList.h"
 #include "platform/qt/Text.h"
 #include "records/OwnerLinkRules.h"
 #include "records/screens/StoredLinks.h"
@@ -9,8 +9,8 @@
 
 namespace records::screens {
 
-using core::screens::FillList;
-using core::screens::GetSelectedId;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
 
 frmOwnerLink::frmOwnerLink(QWidget* parent)
     : RecordForm({core::kOwner, "OwnerLink", "IdOwnerLink"}, parent, core::FormSizing::Fixed),

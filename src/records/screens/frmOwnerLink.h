@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmOwnerLink;
@@ -12,7 +12,7 @@ class frmOwnerLink;
 namespace records::screens {
 
 /// One owner of a building.
-class frmOwnerLink : public core::screens::RecordForm {
+class frmOwnerLink : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

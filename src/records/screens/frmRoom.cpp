@@ -1,7 +1,7 @@
 #include "records/screens/frmRoom.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/TabPages.h"
+#include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/FurnishingRules.h"
@@ -17,7 +17,7 @@ frmRoom::frmRoom(QWidget* parent)
     ui_->setupUi(this);
     files_ = PlacePanel(new documents::screens::FileObjects, *ui_->tabFiles, "ucFOB");
     Wire();
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
 }
 
 frmRoom::~frmRoom() = default;

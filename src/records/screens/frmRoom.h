@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmRoom;
@@ -16,7 +16,7 @@ class FileObjects;
 namespace records::screens {
 
 /// One room of a unit.
-class frmRoom : public core::screens::RecordForm {
+class frmRoom : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

@@ -1,8 +1,8 @@
 #include "records/screens/frmSvcContract.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/ErrorRoll.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/ErrorRoll.h"
 #include "platform/database/FieldReadings.h"
 #include "records/SvcContractRules.h"
 #include "records/screens/StoredChoice.h"
@@ -10,8 +10,8 @@
 
 namespace records::screens {
 
-using core::screens::FillList;
-using core::screens::GetSelectedId;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
 
 frmSvcContract::frmSvcContract(QWidget* parent)
     : RecordForm({core::kSvcContract, "SvcContract", "IdSvcContract"}, parent),
@@ -19,16 +19,16 @@ frmSvcContract::frmSvcContract(QWidget* parent)
     ui_->setupUi(this);
     Wire();
     connect(ui_->cboBuilding, &QComboBox::currentIndexChanged, this,
-            [this] { core::screens::Guarded([this] { FillAppliances(); }); });
+            [this] { core::forms::Guarded([this] { FillAppliances(); }); });
 }
 
 frmSvcContract::~frmSvcContract() = default;
 
 void frmSvcContract::Setup(std::int32_t id, std::int32_t idBuilding, std::int32_t idAppliance) {
     OpenRecord(id, [this, idBuilding, idAppliance] {
-        core::screens::FillFromCommaList(*ui_->cboTermType, kContractPeriods);
-        core::screens::FillFromCommaList(*ui_->cboBillTermType, kContractPeriods);
-        core::screens::FillFromCommaList(*ui_->cboBillType, kBillTypes);
+        core::binding::FillFromCommaList(*ui_->cboTermType, kContractPeriods);
+        core::binding::FillFromCommaList(*ui_->cboBillTermType, kContractPeriods);
+        core::binding::FillFromCommaList(*ui_->cboBillType, kBillTypes);
         for (QComboBox* const combo : {ui_->cboTermType, ui_->cboBillTermType, ui_->cboBillType}) {
             combo->setCurrentIndex(0);
         }
@@ -43,9 +43,9 @@ void frmSvcContract::FillVendors() {
 }
 
 void frmSvcContract::FillAppliances(std::int32_t selectedId) {
-    core::ChoiceList appliances = core::screens::ReadCombo(*ui_->cboAppliance);
+    core::ChoiceList appliances = core::binding::ReadCombo(*ui_->cboAppliance);
     FillAppliancesOfBuilding(appliances, GetSelectedId(*ui_->cboBuilding), selectedId);
-    core::screens::ShowInCombo(appliances, *ui_->cboAppliance);
+    core::binding::ShowInCombo(appliances, *ui_->cboAppliance);
 }
 
 void frmSvcContract::ShowRow(platform::Recordset& row) {

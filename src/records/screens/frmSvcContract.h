@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmSvcContract;
@@ -12,7 +12,7 @@ class frmSvcContract;
 namespace records::screens {
 
 /// A service contract on a building, or on one of its appliances.
-class frmSvcContract : public core::screens::RecordForm {
+class frmSvcContract : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

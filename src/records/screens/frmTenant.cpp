@@ -3,9 +3,9 @@
 #include "books/screens/General_Ledger.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
-#include "core/screens/AddressBox.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/TabPages.h"
+#include "core/binding/AddressBox.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/TenantRules.h"
@@ -27,17 +27,17 @@ frmTenant::frmTenant(QWidget* parent)
       person_(std::make_unique<Ui::frmTenantPerson>()),
       identity_(std::make_unique<Ui::frmTenantIdentity>()),
       history_(std::make_unique<Ui::frmTenantHistory>()) {
-    using core::screens::AddressKind;
+    using core::binding::AddressKind;
     ui_->setupUi(this);
     person_->setupUi(ui_->tabTenant);
     identity_->setupUi(ui_->tabIdentity);
     history_->setupUi(ui_->tabHistory);
     MakePanels();
     Wire();
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
     person_->txtLastName->setFocus();
-    core::screens::OpenOnClick(*person_->txtEmail, AddressKind::Mail);
-    core::screens::OpenOnClick(*person_->txtWeb, AddressKind::Web);
+    core::binding::OpenOnClick(*person_->txtEmail, AddressKind::Mail);
+    core::binding::OpenOnClick(*person_->txtWeb, AddressKind::Web);
 }
 
 frmTenant::~frmTenant() = default;
@@ -52,7 +52,7 @@ void frmTenant::MakePanels() {
 
 void frmTenant::Setup(std::int32_t id) {
     OpenRecord(id, [this, id] {
-        core::screens::FillFromCommaList(*person_->cboStatus, kTenantStatuses);
+        core::binding::FillFromCommaList(*person_->cboStatus, kTenantStatuses);
         person_->cboStatus->setCurrentIndex(id == 0 ? 0 : -1);
         LoadPickFields(*this);
     });
@@ -90,7 +90,7 @@ void frmTenant::Refresh(std::int16_t kind) {
     if (kind != core::kTenant || Id() == 0 || StatusShown() != status_) return;
     const auto stored = core::LookUp("SELECT Status FROM Tenant WHERE IdTenant = ?", {Id()});
     if (!stored) return;
-    core::screens::SelectByText(*person_->cboStatus, stored->AsText(), {.setText = true});
+    core::binding::SelectByText(*person_->cboStatus, stored->AsText(), {.setText = true});
     status_ = StatusShown();
 }
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmTenant;
@@ -27,7 +27,7 @@ class Contacts;
 class RelatedDBs;
 
 /// A person who rents, or wants to.
-class frmTenant : public core::screens::RecordForm {
+class frmTenant : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

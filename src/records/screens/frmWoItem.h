@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace Ui {
 class frmWoItem;
@@ -12,7 +12,7 @@ class frmWoItem;
 namespace records::screens {
 
 /// An entry of a work order's history.
-class frmWoItem : public core::screens::RecordForm {
+class frmWoItem : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

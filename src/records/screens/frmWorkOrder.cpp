@@ -1,10 +1,10 @@
 #include "records/screens/frmWorkOrder.h"
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/EnableContainer.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/TabPages.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/EnableContainer.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
@@ -18,8 +18,8 @@
 
 namespace records::screens {
 
-using core::screens::FillList;
-using core::screens::GetSelectedId;
+using core::binding::FillList;
+using core::binding::GetSelectedId;
 
 frmWorkOrder::frmWorkOrder(QWidget* parent)
     : RecordForm({core::kWorkOrder, "WorkOrder", "IdWorkOrder"}, parent),
@@ -29,9 +29,9 @@ frmWorkOrder::frmWorkOrder(QWidget* parent)
     job_->setupUi(ui_->tabJob);
     MakePanels();
     Wire();
-    core::screens::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
     connect(job_->cboIdUnit, &QComboBox::currentIndexChanged, this,
-            [this] { core::screens::Guarded([this] { FillUnitLists(); }); });
+            [this] { core::forms::Guarded([this] { FillUnitLists(); }); });
     connect(job_->cboIdVendor, &QComboBox::currentIndexChanged, this, [this] { ShowVendor(); });
     job_->txtDescription->setFocus();
 }
@@ -48,7 +48,7 @@ void frmWorkOrder::Setup(std::int32_t id, std::int32_t idUnit) {
 }
 
 void frmWorkOrder::FillLists(std::int32_t idUnit) {
-    core::screens::FillFromCommaList(*job_->cboStatus, kWorkOrderStatuses);
+    core::binding::FillFromCommaList(*job_->cboStatus, kWorkOrderStatuses);
     job_->cboStatus->setCurrentIndex(0);
     job_->dpDateOpened->SetDay(platform::Today());
     FillList(core::kUnit, *job_->cboIdUnit, {.selectedId = idUnit, .addNone = true});
@@ -72,13 +72,13 @@ void frmWorkOrder::FillUnitLists(const UnitChoices& chosen) {
              {.selectedId = chosen.idRoom, .addNone = true, .parentId = idUnit});
     FillList(core::kAppliance, *job_->cboIdAppliance,
              {.selectedId = chosen.idAppliance, .addNone = true, .parentId = idUnit});
-    core::ChoiceList owners = core::screens::ReadCombo(*job_->cboIdOwner);
+    core::ChoiceList owners = core::binding::ReadCombo(*job_->cboIdOwner);
     FillOwnersOfUnit(owners, idUnit, chosen.idOwner);
-    core::screens::ShowInCombo(owners, *job_->cboIdOwner);
+    core::binding::ShowInCombo(owners, *job_->cboIdOwner);
 }
 
 void frmWorkOrder::ShowVendor() {
-    core::screens::EnableContainer(*job_->fraVendor, GetSelectedId(*job_->cboIdVendor) != 0);
+    core::binding::EnableContainer(*job_->fraVendor, GetSelectedId(*job_->cboIdVendor) != 0);
 }
 
 void frmWorkOrder::ShowRow(platform::Recordset& row) {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/screens/RecordForm.h"
+#include "core/forms/RecordForm.h"
 
 namespace documents::screens {
 class FileObjects;
@@ -19,7 +19,7 @@ namespace records::screens {
 class RelatedDBs;
 
 /// A maintenance job on a unit, with its history and files.
-class frmWorkOrder : public core::screens::RecordForm {
+class frmWorkOrder : public core::forms::RecordForm {
     Q_OBJECT
 
   public:

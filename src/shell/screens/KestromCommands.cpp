@@ -9,15 +9,15 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Settings.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Help.h"
-#include "exchange/DeleteRecord.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/Help.h"
 #include "platform/dialogs/Desktop.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Paths.h"
 #include "platform/system/Process.h"
+#include "removal/DeleteRecord.h"
 #include "shell/GridReport.h"
 #include "shell/screens/HomePage.h"
 #include "shell/screens/ViewPanel.h"
@@ -74,7 +74,7 @@ void frmKestrom::ConnectCategories() {
             action->setData(category.kind);
             categories_->addAction(action);
             connect(action, &QAction::triggered, this, [this, kind = category.kind] {
-                core::screens::Guarded([&] { SetSelectedDb(kind); });
+                core::forms::Guarded([&] { SetSelectedDb(kind); });
             });
         }
     }
@@ -84,7 +84,7 @@ void frmKestrom::On(const QString& item, const std::function<void()>& work) {
     auto* const action = findChild<QAction*>(item);
     Q_ASSERT(action != nullptr);
     action->setEnabled(true);
-    connect(action, &QAction::triggered, this, [work] { core::screens::Guarded(work); });
+    connect(action, &QAction::triggered, this, [work] { core::forms::Guarded(work); });
 }
 
 void frmKestrom::ConnectCommands() {
@@ -106,7 +106,7 @@ void frmKestrom::ConnectOwnCommands() {
     On(name("mnuAdd"), [this] { core::EditRecord(selectedDb_, 0); });
     On(name("mnuEdit"), [this] { core::EditRecord(selectedDb_, SelectedId()); });
     On(name("mnuCopy"), [this] { core::EditRecord(selectedDb_, 0, 0, SelectedId()); });
-    On(name("mnuDelete"), [this] { exchange::DeleteRecord(selectedDb_, SelectedId()); });
+    On(name("mnuDelete"), [this] { removal::DeleteRecord(selectedDb_, SelectedId()); });
     On(name("mnuRefreshSummary"), [this] { home_->Refresh(); });
     On(name("mnuRefresh"), [this] {
         if (selectedDb_ == core::kAlert) {
@@ -126,8 +126,7 @@ void frmKestrom::ConnectOwnCommands() {
     On(name("mnuSysInfo"), StartSystemInformation);
     On(name("mnuHelpGettingStarted"), [this] { OpenHelp(QStringLiteral("gettingstarted")); });
     On(name("mnuHelpContents"), [this] { OpenHelp(QStringLiteral("contents")); });
-    On(name("mnuHelpSearch"),
-       [this] { OpenHelp(QString::fromLatin1(core::screens::kHelpSearch)); });
+    On(name("mnuHelpSearch"), [this] { OpenHelp(QString::fromLatin1(core::forms::kHelpSearch)); });
     On(name("mnuHelpDownloads"), [] { platform::TheDesktop().OpenWebPage(kDownloads); });
     On(name("mnuHelpUserForum"), [] { platform::TheDesktop().OpenWebPage(kForum); });
     ui_->mnuBackup->setEnabled(static_cast<bool>(services_.end.startBackup));
@@ -180,7 +179,7 @@ void frmKestrom::StartSystemInformation() {
 }
 
 void frmKestrom::OpenHelp(const QString& topic) {
-    core::screens::ShowHelpTopic(*this, topic);
+    core::forms::ShowHelpTopic(*this, topic);
 }
 
 } // namespace shell::screens

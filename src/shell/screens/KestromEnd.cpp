@@ -6,8 +6,8 @@
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
-#include "core/screens/OpenForms.h"
-#include "core/screens/WindowPlace.h"
+#include "core/forms/OpenForms.h"
+#include "core/forms/WindowPlace.h"
 #include "shell/screens/HomePage.h"
 #include "shell/screens/ViewPanel.h"
 #include "shell/screens/frmKestrom.h"
@@ -35,7 +35,7 @@ void frmKestrom::closeEvent(QCloseEvent* event) {
         QTimer::singleShot(kTryAgainMs, this, &frmKestrom::close);
         return;
     }
-    if (!core::screens::MayCloseAllForms() || !home_->AskToClose()) return;
+    if (!core::forms::MayCloseAllForms() || !home_->AskToClose()) return;
     End();
     event->accept();
 }
@@ -56,13 +56,13 @@ void frmKestrom::End() {
     homeRefresh_->stop();
     if (selectedDb_ != core::kAlert) view_->Remember();
     ShutDownSteps steps = services_.end;
-    steps.saveWindow = [this] { core::screens::SaveWindow(*this); };
+    steps.saveWindow = [this] { core::forms::SaveWindow(*this); };
     steps.saveHomePage = [this] { home_->SaveNotesOrRescue(); };
     steps.closeSession = [this] {
         view_->Release();
         core::CloseDatabase(core::App().Connection);
     };
-    steps.unloadForms = [] { core::screens::CloseAllForms(); };
+    steps.unloadForms = [] { core::forms::CloseAllForms(); };
     steps.isBackupWanted = [this, isDue = services_.end.isBackupWanted] {
         return IsBackupOnExit() || (isDue && isDue());
     };

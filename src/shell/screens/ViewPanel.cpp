@@ -5,9 +5,9 @@
 #include <QTimer>
 
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Grid.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/grid/Grid.h"
 #include "platform/qt/Text.h"
 #include "shell/ViewTexts.h"
 #include "ui_ViewPanel.h"
@@ -37,7 +37,7 @@ ViewPanel::ViewPanel(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::ViewPanel>()), search_(new QTimer(this)) {
     ui_->setupUi(this);
     ui_->fraLedger->hide();
-    core::screens::SetupGrid(*ui_->grd);
+    core::grid::SetupGrid(*ui_->grd);
     search_->setSingleShot(true);
     FillChoices();
     Connect();
@@ -57,22 +57,22 @@ void ViewPanel::FillChoices() {
 
 void ViewPanel::Connect() {
     const auto reload = [this](int row) {
-        if (row >= 0 && !loading_) core::screens::Guarded([this] { Reload(Cause::Choice); });
+        if (row >= 0 && !loading_) core::forms::Guarded([this] { Reload(Cause::Choice); });
     };
     for (QComboBox* const combo : {ui_->cboView, ui_->cboDays, ui_->cboFilterItem}) {
         connect(combo, &QComboBox::currentIndexChanged, this, reload);
     }
     connect(ui_->chkShowHidden, &QCheckBox::toggled, this, [reload] { reload(0); });
     connect(ui_->cboFilter, &QComboBox::currentIndexChanged, this, [this](int row) {
-        if (row >= 0 && !loading_) core::screens::Guarded([this] { FilterFieldChanged(); });
+        if (row >= 0 && !loading_) core::forms::Guarded([this] { FilterFieldChanged(); });
     });
 
-    connect(ui_->grd, &core::screens::Grid::HeaderClicked, this, &ViewPanel::Sort);
-    connect(ui_->grd, &core::screens::Grid::SelectionMoved, this, [this] {
+    connect(ui_->grd, &core::grid::Grid::HeaderClicked, this, &ViewPanel::Sort);
+    connect(ui_->grd, &core::grid::Grid::SelectionMoved, this, [this] {
         selectedId_ = ui_->grd->SelectedId();
         Q_EMIT SelectionMoved();
     });
-    connect(ui_->grd, &core::screens::Grid::RowChosen, this, &ViewPanel::RecordChosen);
+    connect(ui_->grd, &core::grid::Grid::RowChosen, this, &ViewPanel::RecordChosen);
     connect(ui_->grd, &QWidget::customContextMenuRequested, this, [this](const QPoint& position) {
         Q_EMIT MenuAsked(ui_->grd->viewport()->mapToGlobal(position));
     });
@@ -97,7 +97,7 @@ void ViewPanel::ShowKind(std::int16_t kind) {
             words.push_back({word, 0});
         Fill(*ui_->cboView, words, 0);
         state_ = LoadViewState(tag);
-        core::screens::SelectByText(*ui_->cboView, state_.view, {.selectFirst = true});
+        core::binding::SelectByText(*ui_->cboView, state_.view, {.selectFirst = true});
     }
     Reload(Cause::Choice);
 }
@@ -107,7 +107,7 @@ void ViewPanel::Remember() const {
     ViewState left = state_;
     left.view = FromScreen(ui_->cboView->currentText());
     SaveViewState(ViewTag(kind_), left);
-    core::screens::SaveColumnWidths(*ui_->grd);
+    core::grid::SaveColumnWidths(*ui_->grd);
 }
 
 void ViewPanel::Release() {
@@ -130,7 +130,7 @@ void ViewPanel::FilterFieldChanged() {
 }
 
 void ViewPanel::Sort(const QString& caption) {
-    core::screens::Guarded([&] {
+    core::forms::Guarded([&] {
         ClickHeader(state_, FromScreen(caption));
         Reload(Cause::Choice);
     });
@@ -157,7 +157,7 @@ QString ViewPanel::NarrowedStatus() const {
     return ToScreen(NarrowedText(ui_->grd->Model().rowCount(), count_));
 }
 
-core::screens::Grid& ViewPanel::List() const {
+core::grid::Grid& ViewPanel::List() const {
     return *ui_->grd;
 }
 

@@ -10,7 +10,7 @@
 
 class QTimer;
 
-namespace core::screens {
+namespace core::grid {
 class Grid;
 }
 namespace Ui {
@@ -50,7 +50,7 @@ class ViewPanel : public QWidget {
     /// What the status bar says of the list.
     QString Status() const;
     QString NarrowedStatus() const;
-    core::screens::Grid& List() const;
+    core::grid::Grid& List() const;
 
   Q_SIGNALS:
     void SelectionMoved();

@@ -6,8 +6,8 @@
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
-#include "core/screens/Grid.h"
-#include "core/screens/GridColumns.h"
+#include "core/grid/Grid.h"
+#include "core/grid/GridColumns.h"
 #include "platform/qt/Text.h"
 #include "shell/CellMarks.h"
 #include "shell/ViewTexts.h"
@@ -16,7 +16,7 @@
 
 namespace shell::screens {
 
-using core::screens::Grid;
+using core::grid::Grid;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -27,9 +27,9 @@ constexpr int kFirstShown = 1; // behind the id column
 std::optional<QColor> ColorOf(Mark mark) {
     switch (mark) {
         case Mark::Yellow:
-            return QColor::fromRgb(core::screens::kPaleYellow);
+            return QColor::fromRgb(core::grid::kPaleYellow);
         case Mark::Red:
-            return QColor::fromRgb(core::screens::kPaleRed);
+            return QColor::fromRgb(core::grid::kPaleRed);
         case Mark::None:
             break;
     }
@@ -45,7 +45,7 @@ void ViewPanel::Reload(Cause cause) {
     ReadRows();
     ColorCells();
     ui_->grd->Model().Narrow(ui_->txtSearch->text(), kFirstShown);
-    core::screens::SizeColumns(*ui_->grd, kFirstShown);
+    core::grid::SizeColumns(*ui_->grd, kFirstShown);
     ShowSortArrow();
     Select(id, cause);
     if (cause == Cause::Broadcast) ui_->grd->verticalScrollBar()->setValue(scrolled);
@@ -69,7 +69,7 @@ void ViewPanel::ReadRows() {
             SortText(state_, [&](std::string_view caption) { return rows.HasField(caption); });
         if (!order.empty()) rows.Sort(order);
     }
-    core::screens::LoadGrid(*ui_->grd, std::move(rows));
+    core::grid::LoadGrid(*ui_->grd, std::move(rows));
 }
 
 /// There may be a million of them, whose first page need not wait for the others.
@@ -82,7 +82,7 @@ void ViewPanel::ReadTransactions() {
     } catch (const platform::Error&) {
         count_ = -1;
     }
-    core::screens::LoadGrid(*ui_->grd, std::move(rows));
+    core::grid::LoadGrid(*ui_->grd, std::move(rows));
     ui_->grd->Model().ReadOn();
 }
 

@@ -11,9 +11,9 @@
 #include "core/MessagePump.h"
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Grid.h"
-#include "core/screens/WindowPlace.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/WindowPlace.h"
+#include "core/grid/Grid.h"
 #include "platform/qt/Text.h"
 #include "shell/Availability.h"
 #include "shell/ViewTexts.h"
@@ -77,7 +77,7 @@ void frmKestrom::Setup(RunDigest digest) {
     digest_ = std::move(digest);
     Initialise();
     SetSelectedDb(core::kAlert);
-    core::screens::RestoreWindow(*this, core::FormSizing::Resizable);
+    core::forms::RestoreWindow(*this, core::FormSizing::Resizable);
     show();
     repaint();
     // The run has just been done, so the first tick only remembers its day.
@@ -171,7 +171,7 @@ void frmKestrom::ShowStatus() {
 
 void frmKestrom::RefreshHome() {
     if (hasEnded_) return;
-    core::screens::Guarded([this] { home_->Refresh(); });
+    core::forms::Guarded([this] { home_->Refresh(); });
 }
 
 void frmKestrom::Tick() {

@@ -6,8 +6,8 @@
 #include <QVBoxLayout>
 
 #include "core/EditRecord.h"
-#include "core/screens/ErrorRoll.h"
-#include "core/screens/Help.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/Help.h"
 #include "shell/screens/PostedRows.h"
 
 namespace shell::screens {
@@ -28,7 +28,7 @@ frmPosted::frmPosted(QWidget* parent) : Form(parent), list_(new QTreeView(this))
     rows->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &frmPosted::close);
     connect(buttons, &QDialogButtonBox::helpRequested, this,
-            [this] { core::screens::ShowHelp(*this); });
+            [this] { core::forms::ShowHelp(*this); });
     connect(list_, &QTreeView::activated, this, &frmPosted::OpenRow);
 }
 
@@ -46,7 +46,7 @@ void frmPosted::OpenRow(const QModelIndex& row) const {
     const auto& rows = static_cast<const PostedRows&>(*list_->model());
     const DigestRow* const posted = rows.PostedAt(row.row());
     if (posted == nullptr) return;
-    core::screens::Guarded([&] { core::EditRecord(posted->recordKind, posted->recordId); });
+    core::forms::Guarded([&] { core::EditRecord(posted->recordKind, posted->recordId); });
 }
 
 } // namespace shell::screens

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/screens/Form.h"
+#include "core/forms/Form.h"
 #include "shell/RunDigest.h"
 
 class QModelIndex;
@@ -10,7 +10,7 @@ namespace shell::screens {
 
 /// What a bring-up-to-date run posted, row by row, and what it had to pass over. A row opens the
 /// record that it was posted for.
-class frmPosted : public core::screens::Form {
+class frmPosted : public core::forms::Form {
     Q_OBJECT
 
   public:

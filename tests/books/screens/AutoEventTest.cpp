@@ -167,7 +167,7 @@ TEST_F(AutoEventTest, TheListOpensAddsAndDeletesEvents) {
                          [&](const core::EditRequest& request) { opened.push_back(request.id); });
     const QPointer<frmAutoEventList> form(new frmAutoEventList);
     form->Setup();
-    auto& grid = Find<core::screens::Grid>(*form, "grd");
+    auto& grid = Find<core::grid::Grid>(*form, "grd");
     EXPECT_EQ(support::GridText(grid),
               "Description|Enabled|Last Ran\n"
               "Draw|Yes|02/29/2024\n"

@@ -11,7 +11,7 @@
 #include "core/NotifyAll.h"
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
-#include "core/screens/OpenForms.h"
+#include "core/forms/OpenForms.h"
 #include "platform/registry/Registry.h"
 #include "platform/system/Clock.h"
 #include "support/screens/Driving.h"
@@ -44,7 +44,7 @@ class GeneralLedgerTest : public support::ScreenTest {
         books::PostTransaction(row);
     }
     static std::string Text(const General_Ledger& ledger) {
-        return support::GridText(Find<core::screens::Grid>(ledger, "grd"));
+        return support::GridText(Find<core::grid::Grid>(ledger, "grd"));
     }
     static frmTransaction* OpenForm() {
         for (QWidget* const window : QApplication::topLevelWidgets()) {
@@ -73,11 +73,11 @@ TEST_F(GeneralLedgerTest, ShowsAnAccountAndKeepsItselfCurrent) {
               "05/03/2024|Repairs|Smith, John Q|100.00\n");
     platform::SetToday(platform::Date(2024, 7, 1));
     Choose(ledger, "cboDays", "Last 60 days");
-    EXPECT_EQ(Find<core::screens::Grid>(ledger, "grd").Model().rowCount(), 2);
+    EXPECT_EQ(Find<core::grid::Grid>(ledger, "grd").Model().rowCount(), 2);
     Choose(ledger, "cboDays", "Last 30 days");
-    EXPECT_EQ(Find<core::screens::Grid>(ledger, "grd").Model().rowCount(), 0);
+    EXPECT_EQ(Find<core::grid::Grid>(ledger, "grd").Model().rowCount(), 0);
     Choose(ledger, "cboDays", "All");
-    EXPECT_EQ(Find<core::screens::Grid>(ledger, "grd").Model().rowCount(), 2);
+    EXPECT_EQ(Find<core::grid::Grid>(ledger, "grd").Model().rowCount(), 2);
 }
 
 TEST_F(GeneralLedgerTest, OfNobodyIsEmptyAndDoesNothing) {
@@ -89,7 +89,7 @@ TEST_F(GeneralLedgerTest, OfNobodyIsEmptyAndDoesNothing) {
     EXPECT_EQ(Text(ledger), "Effective Date|Category|Party|Amount\n");
     for (const auto* button : {"cmdAdd", "cmdEdit", "cmdDelete"})
         EXPECT_FALSE(Find<QToolButton>(ledger, button).isEnabled()) << button;
-    EXPECT_FALSE(Find<core::screens::Grid>(ledger, "grd").isEnabled());
+    EXPECT_FALSE(Find<core::grid::Grid>(ledger, "grd").isEnabled());
     ledger.SetParty(core::kAccount, 60);
     EXPECT_TRUE(Find<QToolButton>(ledger, "cmdAdd").isEnabled());
     EXPECT_FALSE(Find<QToolButton>(ledger, "cmdEdit").isEnabled()) << "nothing is selected";
@@ -146,7 +146,7 @@ TEST_F(GeneralLedgerTest, EditsAndDeletesTheSelectedRow) {
     General_Ledger ledger;
     ledger.SetParty(core::kTenant, 30);
     ledger.show();
-    auto& grid = Find<core::screens::Grid>(ledger, "grd");
+    auto& grid = Find<core::grid::Grid>(ledger, "grd");
     ASSERT_TRUE(grid.SelectId(1000));
     ClickOn(Find<QToolButton>(ledger, "cmdEdit"));
     QTest::keyClick(&grid, Qt::Key_Return);
@@ -171,7 +171,7 @@ TEST_F(GeneralLedgerTest, KeepsTheWidthsOfItsColumnsByWhomItShows) {
          {std::tuple{core::kAccount, 60, 111}, {core::kTenant, 30, 122}}) {
         General_Ledger ledger;
         ledger.SetParty(kind, id);
-        Find<core::screens::Grid>(ledger, "grd").setColumnWidth(2, width);
+        Find<core::grid::Grid>(ledger, "grd").setColumnWidth(2, width);
     }
     const auto kept = [](std::string_view name) {
         return platform::TheRegistry()
@@ -182,7 +182,7 @@ TEST_F(GeneralLedgerTest, KeepsTheWidthsOfItsColumnsByWhomItShows) {
     EXPECT_NE(kept("Tenant").find(",122,"), std::string::npos) << kept("Tenant");
     General_Ledger again;
     again.SetParty(core::kTenant, 30);
-    EXPECT_EQ(Find<core::screens::Grid>(again, "grd").columnWidth(2), 122);
+    EXPECT_EQ(Find<core::grid::Grid>(again, "grd").columnWidth(2), 122);
 }
 
 TEST_F(GeneralLedgerTest, LooksAndReadsRight) {

@@ -9,7 +9,7 @@
 #include "books/TransactionListeners.h"
 #include "books/screens/frmTransaction.h"
 #include "core/NotifyAll.h"
-#include "core/screens/ComboList.h"
+#include "core/binding/ComboList.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
 #include "support/screens/ScreenChecks.h"

@@ -15,8 +15,8 @@
 
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ActionBar.h"
-#include "core/screens/Form.h"
+#include "core/forms/ActionBar.h"
+#include "core/forms/Form.h"
 #include "documents/AttachFile.h"
 #include "documents/FileRows.h"
 #include "documents/screens/FileListView.h"
@@ -55,7 +55,7 @@ class KeepingDesktop : public platform::Desktop {
 };
 
 /// A form with the panel in it, as the records' screens have it.
-class PanelForm : public core::screens::Form {
+class PanelForm : public core::forms::Form {
   public:
     explicit PanelForm(const char* name) {
         setObjectName(QLatin1String(name));
@@ -64,7 +64,7 @@ class PanelForm : public core::screens::Form {
         panel = new FileObjects(this);
         panel->setObjectName(QStringLiteral("ucFOB"));
         page->addWidget(panel);
-        page->addWidget(new core::screens::ActionBar(this));
+        page->addWidget(new core::forms::ActionBar(this));
         resize(700, 420);
     }
     void Show() { Open(); }

@@ -7,8 +7,8 @@
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
 #include "core/Startup.h"
-#include "core/screens/OpenForms.h"
-#include "core/screens/RecordForm.h"
+#include "core/forms/OpenForms.h"
+#include "core/forms/RecordForm.h"
 #include "kestrom/Wiring.h"
 #include "platform/database/Recordset.h"
 #include "platform/qt/Text.h"
@@ -23,7 +23,7 @@
 
 namespace {
 
-using core::screens::Form;
+using core::forms::Form;
 using platform::qt::FromScreen;
 using testing::IsEmpty;
 
@@ -68,7 +68,7 @@ class Editors : public support::ScreenTest {
         core::App().DbPath = PathTo("sample/");
         core::App().Connection.Open(Folder() / "sample" / "Vestrel.mdb");
         core::LoadBooks();
-        core::screens::RegisterOpenForms();
+        core::forms::RegisterOpenForms();
         kestrom::RegisterEditors();
     }
     ~Editors() override {
@@ -175,7 +175,7 @@ TEST_F(Editors, OpenRecordsCleanAndOnlyOnce) {
         Form& form = *open.front();
         EXPECT_THAT(Heard(), IsEmpty()) << name;
         EXPECT_TRUE(form.OpenRecordId() == id || kind.kind == core::kUnit) << name;
-        if (const auto* const record = qobject_cast<core::screens::RecordForm*>(&form)) {
+        if (const auto* const record = qobject_cast<core::forms::RecordForm*>(&form)) {
             EXPECT_FALSE(record->Dirty()) << name << " is dirty from the start";
         }
         core::EditRecord(kind.kind, id);
@@ -185,7 +185,7 @@ TEST_F(Editors, OpenRecordsCleanAndOnlyOnce) {
         EXPECT_THAT(Heard(), IsEmpty()) << name << " asks though nothing was changed";
         support::SettleEvents();
         EXPECT_THAT(Open(), IsEmpty()) << name << " doesn't close";
-        core::screens::CloseAllForms();
+        core::forms::CloseAllForms();
     }
 }
 
@@ -198,10 +198,10 @@ TEST_F(Editors, SaveWhatTheyOpenedAsItWas) {
             const std::vector<std::string> before = Row(kind, id);
             core::EditRecord(kind.kind, id);
             ASSERT_EQ(Open().size(), 1U) << name;
-            auto* const form = qobject_cast<core::screens::RecordForm*>(Open().front());
+            auto* const form = qobject_cast<core::forms::RecordForm*>(Open().front());
             if (form) form->SaveAndClose();
             EXPECT_THAT(Changes(before, Row(kind, id)), IsEmpty()) << name;
-            core::screens::CloseAllForms();
+            core::forms::CloseAllForms();
             support::SettleEvents();
         }
     }
@@ -224,7 +224,7 @@ TEST_F(Editors, OpenNewRecordsOfTheirOwn) {
         EXPECT_EQ(Ask(std::string("SELECT Count(*) FROM ") + kind.table), rows)
             << name << " is written without being asked";
         support::SettleEvents();
-        core::screens::CloseAllForms();
+        core::forms::CloseAllForms();
     }
 }
 

@@ -9,7 +9,7 @@
 
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/screens/DateEdit.h"
+#include "core/binding/DateEdit.h"
 #include "leases/screens/LeaseScreens.h"
 #include "leases/screens/frmRentLog.h"
 #include "leases/screens/frmRentPayment.h"

@@ -5,7 +5,7 @@
 
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
-#include "core/screens/DateEdit.h"
+#include "core/binding/DateEdit.h"
 #include "mortgages/screens/MortgageScreens.h"
 #include "mortgages/screens/frmMortgage.h"
 #include "mortgages/screens/frmMortgageAdjust.h"

@@ -11,7 +11,7 @@
 #include <QtCharts/QLegend>
 #include <QtCharts/QLineSeries>
 
-#include "core/screens/DateEdit.h"
+#include "core/binding/DateEdit.h"
 #include "mortgages/screens/MortgageScreens.h"
 #include "mortgages/screens/frmMortgage.h"
 #include "mortgages/screens/frmMortgageAdjust.h"

@@ -12,7 +12,7 @@
 #include "core/Configuration.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/screens/MaskedEdit.h"
+#include "core/binding/MaskedEdit.h"
 #include "platform/qt/Text.h"
 #include "records/screens/frmAccount.h"
 #include "support/screens/Driving.h"
@@ -22,7 +22,7 @@
 
 namespace {
 
-using core::screens::MaskedEdit;
+using core::binding::MaskedEdit;
 using platform::qt::FromScreen;
 using records::screens::frmAccount;
 using support::ClickAction;

@@ -14,13 +14,13 @@
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/screens/Binding.h"
-#include "core/screens/OpenForms.h"
-#include "core/screens/Tags.h"
-#include "exchange/DeleteRecord.h"
+#include "core/binding/Binding.h"
+#include "core/binding/Tags.h"
+#include "core/forms/OpenForms.h"
 #include "platform/dialogs/Desktop.h"
 #include "records/screens/BuildingFields.h"
 #include "records/screens/frmBuilding.h"
+#include "removal/DeleteRecord.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
 #include "support/screens/ScreenChecks.h"
@@ -94,8 +94,8 @@ class BuildingTest : public support::ScreenTest {
 TEST_F(BuildingTest, EveryFieldOfBothTablesIsBoundOnce) {
     const auto form = Open(0);
     std::map<std::string, int> bound;
-    for (const QWidget* const control : core::screens::ControlsOf(*form)) {
-        const std::string tag = core::screens::TagOf(*control);
+    for (const QWidget* const control : core::binding::ControlsOf(*form)) {
+        const std::string tag = core::binding::TagOf(*control);
         if (tag.find('.') != std::string::npos) ++bound[tag.substr(1)];
     }
     std::string faults;
@@ -306,7 +306,7 @@ TEST_F(BuildingTest, AStatusThatALeaseSetIsNotWrittenBack) {
 
 TEST_F(BuildingTest, WhatWasDeletedElsewhereComesBackUnderItsNumbers) {
     const auto form = Open(0, 22);
-    exchange::DeleteRecord(core::kUnit, 22, exchange::Confirm::DontAsk);
+    removal::DeleteRecord(core::kUnit, 22, removal::Confirm::DontAsk);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Building WHERE IdBuilding = 11"), "0");
     EXPECT_EQ(Find<QLineEdit>(*form, "txtAddress").text(), QStringLiteral("Oak Rd"));
     ClickAction(*form, "CLOSE");
@@ -317,7 +317,7 @@ TEST_F(BuildingTest, WhatWasDeletedElsewhereComesBackUnderItsNumbers) {
 TEST_F(BuildingTest, ABuildingIsNeverOpenTwice) {
     for (const std::int16_t kind : {core::kBuilding, core::kUnit})
         core::RegisterOpener(kind, records::screens::OpenBuilding);
-    core::screens::RegisterOpenForms();
+    core::forms::RegisterOpenForms();
     core::EditRecord(core::kUnit, 20);
     EXPECT_EQ(OpenBuildings(), 1);
     core::EditRecord(core::kUnit, 21);

@@ -7,7 +7,7 @@
 #include <QToolButton>
 
 #include "core/Preferences.h"
-#include "core/screens/OpenForms.h"
+#include "core/forms/OpenForms.h"
 #include "records/screens/Deposits.h"
 #include "records/screens/frmDeposit.h"
 #include "support/screens/Driving.h"
@@ -147,7 +147,7 @@ TEST_F(DepositsTest, TheListAddsOpensAndDeletes) {
     EXPECT_EQ(form->Id(), 1000);
     ClickOn(Find<QToolButton>(list, "cmdEdit"));
     EXPECT_EQ(OpenForm(), form) << "it is open already";
-    core::screens::CloseAllForms();
+    core::forms::CloseAllForms();
 
     Answer({false, true});
     ClickOn(Find<QToolButton>(list, "cmdDelete"));

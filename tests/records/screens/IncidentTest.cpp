@@ -6,7 +6,7 @@
 
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/screens/DateEdit.h"
+#include "core/binding/DateEdit.h"
 #include "records/screens/frmIncident.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"

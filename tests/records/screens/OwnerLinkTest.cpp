@@ -9,7 +9,7 @@
 #include "core/NotifyAll.h"
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
-#include "core/screens/ComboList.h"
+#include "core/binding/ComboList.h"
 #include "records/screens/frmOwnerLink.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"

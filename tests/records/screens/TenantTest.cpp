@@ -12,11 +12,11 @@
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/screens/MaskedEdit.h"
+#include "core/binding/MaskedEdit.h"
 #include "documents/screens/FileObjects.h"
-#include "exchange/DeleteRecord.h"
 #include "platform/qt/Text.h"
 #include "records/screens/frmTenant.h"
+#include "removal/DeleteRecord.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
 #include "support/screens/ScreenChecks.h"
@@ -24,7 +24,7 @@
 
 namespace {
 
-using core::screens::MaskedEdit;
+using core::binding::MaskedEdit;
 using platform::qt::FromScreen;
 using records::screens::frmTenant;
 using support::Choose;
@@ -51,8 +51,8 @@ class TenantTest : public support::ScreenTest {
         return FromScreen(form.windowTitle()) + "|" +
                FromScreen(Find<QLabel>(form, "lblTitle").text());
     }
-    static core::screens::Grid& Incidents(const frmTenant& form) {
-        return *Find<QWidget>(form, "ucIncidents").findChild<core::screens::Grid*>();
+    static core::grid::Grid& Incidents(const frmTenant& form) {
+        return *Find<QWidget>(form, "ucIncidents").findChild<core::grid::Grid*>();
     }
 };
 
@@ -206,7 +206,7 @@ TEST_F(TenantTest, ShowsPaymentsAndFilesAndComesBackUnderItsNumberWhenRemovedMea
     Run("INSERT INTO Transactions (IdTransaction, IdTenant, DateEffective, Amount, Description) "
         "VALUES (600, 30, '05/01/2024', 950, 'May')");
     const auto form = Open(30);
-    auto* const ledger = Find<QWidget>(*form, "ucLedger").findChild<core::screens::Grid*>();
+    auto* const ledger = Find<QWidget>(*form, "ucLedger").findChild<core::grid::Grid*>();
     EXPECT_EQ(ledger->Model().rowCount(), 1);
     Run("UPDATE Transactions SET IdTenant = 31");
     core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
@@ -220,7 +220,7 @@ TEST_F(TenantTest, ShowsPaymentsAndFilesAndComesBackUnderItsNumberWhenRemovedMea
     EXPECT_EQ(files.SelectedId(), 601);
 
     Answer({true});
-    exchange::DeleteRecord(core::kTenant, 30);
+    removal::DeleteRecord(core::kTenant, 30);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Tenant WHERE IdTenant = 30"), "0");
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Ask("SELECT LastName FROM Tenant WHERE IdTenant = 30"), "Smith");

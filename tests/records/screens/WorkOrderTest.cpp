@@ -9,9 +9,9 @@
 
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "exchange/DeleteRecord.h"
 #include "records/screens/Fields.h"
 #include "records/screens/frmWoItem.h"
+#include "removal/DeleteRecord.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
 #include "support/screens/ScreenChecks.h"
@@ -191,7 +191,7 @@ TEST_F(WorkOrderTest, HistoryIsWrittenToItsOrder) {
     EXPECT_EQ(support::StoredFaults("WOItem", "IdWOItem = 1000 AND IdWorkOrder = 500", fields),
               Said{});
     ClickAction(*item, "CLOSE");
-    EXPECT_EQ(support::GridText(Find<core::screens::Grid>(*order, "grd")),
+    EXPECT_EQ(support::GridText(Find<core::grid::Grid>(*order, "grd")),
               "Entry Date|Description\n02/29/2024|Called Bob's\n");
     Run("DELETE * FROM WOItem");
     item = new frmWoItem;
@@ -206,12 +206,12 @@ TEST_F(WorkOrderTest, HistoryIsRemovedFromItsList) {
     Run("INSERT INTO WOItem (IdWOItem, IdWorkOrder, Description) VALUES (511, 500, 'Came')");
     const auto form = Open(500);
     Find<QTabWidget>(*form, "tabs").setCurrentIndex(1);
-    Find<core::screens::Grid>(*form, "grd").SelectId(511);
+    Find<core::grid::Grid>(*form, "grd").SelectId(511);
     Answer({true});
     support::ClickOn(Find<QToolButton>(Find<QWidget>(*form, "ucHistory"), "cmdDelete"));
     EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Work Order History?"});
     EXPECT_EQ(Ask("SELECT MAX(IdWOItem) FROM WOItem"), "510");
-    EXPECT_EQ(support::GridText(Find<core::screens::Grid>(*form, "grd")),
+    EXPECT_EQ(support::GridText(Find<core::grid::Grid>(*form, "grd")),
               "Entry Date|Description\n |Called\n");
     EXPECT_FALSE(form->Dirty());
 }
@@ -221,7 +221,7 @@ TEST_F(WorkOrderTest, ComesBackUnderItsNumberWhenSavedAfterItsRemoval) {
     Run("INSERT INTO FileObject (IdFileObject, dbType, IdOwner, FilePath) "
         "VALUES (520, 6, 500, '/a.txt')");
     const auto form = Open(500);
-    EXPECT_TRUE(exchange::DeleteRecord(core::kWorkOrder, 500, exchange::Confirm::DontAsk));
+    EXPECT_TRUE(removal::DeleteRecord(core::kWorkOrder, 500, removal::Confirm::DontAsk));
     EXPECT_EQ(Ask("SELECT Count(*) FROM WorkOrder"), "0");
     EXPECT_TRUE(form && form->isVisible());
     ClickAction(*form, "CLOSE");

@@ -87,8 +87,8 @@ void KestromTest::Go(const char* tag) {
     throw std::runtime_error(std::string("no category ") + tag);
 }
 
-core::screens::Grid& KestromTest::Grid() {
-    return support::Find<core::screens::Grid>(Window(), "grd");
+core::grid::Grid& KestromTest::Grid() {
+    return support::Find<core::grid::Grid>(Window(), "grd");
 }
 
 QAction& KestromTest::Item(const char* name) {

@@ -23,7 +23,7 @@ class KestromTest : public support::ScreenTest {
     void Reopen();
     /// Clicks a category of the tool bar by its tag.
     void Go(const char* tag);
-    core::screens::Grid& Grid();
+    core::grid::Grid& Grid();
     QAction& Item(const char* name);
     std::string Status();
     void ClickCaption(const char* caption);

@@ -9,7 +9,7 @@
 
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/screens/Form.h"
+#include "core/forms/Form.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
@@ -185,7 +185,7 @@ TEST_F(Kestrom, RunsTheBooksWhenTheDayChanges) {
 }
 
 /// A record screen with unsaved changes.
-class DirtyForm : public core::screens::Form {
+class DirtyForm : public core::forms::Form {
   public:
     explicit DirtyForm(bool& mayClose) : mayClose_(mayClose) { Open(); }
 

@@ -7,7 +7,7 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
-#include "core/screens/Tags.h"
+#include "core/binding/Tags.h"
 #include "platform/qt/Text.h"
 
 namespace support {
@@ -35,7 +35,7 @@ void TypeAndTab(QWidget& form, std::string_view text) {
 
 void ClickAction(const QWidget& form, std::string_view word) {
     for (QAbstractButton* const button : form.findChildren<QAbstractButton*>()) {
-        if (core::screens::TagOf(*button) == word) return ClickOn(*button);
+        if (core::binding::TagOf(*button) == word) return ClickOn(*button);
     }
     throw std::runtime_error("no button " + std::string(word));
 }
@@ -57,8 +57,8 @@ void SettleEvents() {
     QCoreApplication::processEvents();
 }
 
-std::string GridText(const core::screens::Grid& grid) {
-    const core::screens::GridModel& model = grid.Model();
+std::string GridText(const core::grid::Grid& grid) {
+    const core::grid::GridModel& model = grid.Model();
     const auto line = [&](auto cell) {
         QStringList cells;
         for (int column = 0; column < model.columnCount(); ++column) {

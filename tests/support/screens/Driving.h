@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/screens/Grid.h"
+#include "core/grid/Grid.h"
 
 namespace support {
 
@@ -37,6 +37,6 @@ void Choose(const QWidget& form, const char* combo, std::string_view text);
 void SettleEvents();
 
 /// Captions and cells of the columns that show, cells parted by "|", a line each.
-std::string GridText(const core::screens::Grid& grid);
+std::string GridText(const core::grid::Grid& grid);
 
 } // namespace support

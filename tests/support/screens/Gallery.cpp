@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QPixmap>
 
-#include "core/screens/Binding.h"
+#include "core/binding/Binding.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/Text.h"
 #include "support/screens/Driving.h"
@@ -32,7 +32,7 @@ std::vector<std::string> Portray(QWidget& screen, const std::string& name) {
     platform::qt::ApplyAppearance(Appearance::Light);
 
     std::vector<std::string> faults;
-    for (const QWidget* const control : core::screens::ControlsOf(screen)) {
+    for (const QWidget* const control : core::binding::ControlsOf(screen)) {
         if (!control->isVisible()) continue;
         const auto* const label = qobject_cast<const QLabel*>(control);
         if (label && label->wordWrap()) continue;

@@ -8,7 +8,7 @@
 #include <QPlainTextEdit>
 #include <map>
 
-#include "core/screens/Binding.h"
+#include "core/binding/Binding.h"
 #include "platform/qt/Text.h"
 
 namespace support {
@@ -58,7 +58,7 @@ bool AreComparable(const QWidget& a, const QWidget& b, const QWidget& screen) {
 std::vector<std::string> MnemonicFaults(const QWidget& screen) {
     std::vector<std::string> faults;
     std::map<QString, std::string> taken;
-    for (const QWidget* const control : core::screens::ControlsOf(screen)) {
+    for (const QWidget* const control : core::binding::ControlsOf(screen)) {
         const auto* const label = qobject_cast<const QLabel*>(control);
         if (label && !label->buddy() && !QKeySequence::mnemonic(label->text()).isEmpty()) {
             faults.push_back(NameOf(*label) + " jumps nowhere");
@@ -96,7 +96,7 @@ std::vector<std::string> TabOrderFaults(QWidget& screen) {
 
 std::vector<std::string> NameFaults(const QWidget& screen) {
     std::vector<std::string> faults;
-    for (const QWidget* const control : core::screens::ControlsOf(screen)) {
+    for (const QWidget* const control : core::binding::ControlsOf(screen)) {
         if (IsEntry(*control) && control->accessibleName().isEmpty()) {
             faults.push_back(NameOf(*control) + " has no name");
         }

@@ -1,6 +1,6 @@
 #include "support/screens/ScreenFixture.h"
 
-#include "core/screens/OpenForms.h"
+#include "core/forms/OpenForms.h"
 #include "support/screens/Driving.h"
 
 namespace support {
@@ -8,7 +8,7 @@ namespace support {
 ScreenTest::ScreenTest() : person_(std::make_unique<ScriptedDialogs>()) {}
 
 ScreenTest::~ScreenTest() {
-    core::screens::CloseAllForms();
+    core::forms::CloseAllForms();
     SettleEvents();
 }
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/values/Value.h"
+
+namespace core {
+
+/// How the cells of a column read.
+struct ColumnFormat {
+    enum class Kind { Plain, Pattern, YesNo };
+
+    Kind kind = Kind::Plain;
+    std::string pattern; ///< a format of platform::Format
+    bool right = false;  ///< numbers stand at the right edge
+};
+
+/// The format of a column by its field's type and its caption: money, days, flags and fractions
+/// have one, "I Rate" one of its own; all else is shown as it is.
+ColumnFormat FormatOf(platform::FieldType type, std::string_view caption);
+
+/// A cell's text; one blank for a null. A text that the pattern does not suit stands as it is.
+std::string CellText(const platform::Value& value, const ColumnFormat& format);
+
+} // namespace core

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QWidget>
+#include <optional>
+
+#include "platform/values/Value.h"
+
+namespace core::binding {
+
+/// Shows a value that isn't null in a control, in the form that the sigil asks for. A control that
+/// can't show it stays as it is.
+void ShowValue(QWidget& control, char sigil, const platform::Value& value);
+
+/// What the control holds, by its sigil; nothing for a label, for a control that has no value of
+/// that sort, and for an option button that isn't the chosen one.
+std::optional<platform::Value> ReadValue(const QWidget& control, char sigil);
+
+} // namespace core::binding

@@ -1,0 +1,28 @@
+#include "core/binding/EnableContainer.h"
+
+#include <QFrame>
+#include <QGroupBox>
+
+namespace core::binding {
+
+namespace {
+
+/// A frame or group in the plain sense; many other widgets are frames by descent.
+bool IsContainer(const QWidget& widget) {
+    return qobject_cast<const QGroupBox*>(&widget) ||
+           widget.metaObject() == &QFrame::staticMetaObject ||
+           widget.metaObject() == &QWidget::staticMetaObject;
+}
+
+} // namespace
+
+void EnableContainer(QWidget& container, bool enabled) {
+    for (QObject* const child : container.children()) {
+        auto* const widget = qobject_cast<QWidget*>(child);
+        if (!widget || widget->isWindow()) continue;
+        widget->setEnabled(enabled);
+        if (IsContainer(*widget)) EnableContainer(*widget, enabled);
+    }
+}
+
+} // namespace core::binding

@@ -1,0 +1,72 @@
+#include "core/binding/KeyFilterEvents.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "core/binding/KeyFilter.h"
+#include "core/binding/Tags.h"
+
+namespace core::binding {
+
+namespace {
+
+constexpr int kNoLimit = 32767; // what a line edit has when nobody sets one
+
+char32_t Filtered(const QLineEdit& edit, char32_t key) {
+    const std::string tag = TagOf(edit);
+    const std::u32string text = edit.text().toStdU32String();
+    KeyedBox box;
+    box.tag = tag;
+    box.text = text;
+    // What is typed goes where the selection begins, wherever in it the caret stands.
+    box.caret = static_cast<std::size_t>(edit.hasSelectedText() ? edit.selectionStart()
+                                                                : edit.cursorPosition());
+    box.selected = static_cast<std::size_t>(edit.selectedText().size());
+    if (edit.maxLength() < kNoLimit) box.maxLength = static_cast<std::size_t>(edit.maxLength());
+    return FilterKey(box, key);
+}
+
+/// True when none of the text may go in as it stands; a capital goes in instead of its letter.
+bool TakesOver(QLineEdit& edit, const QString& text) {
+    const std::u32string keys = text.toStdU32String();
+    for (const char32_t key : keys) {
+        const char32_t passed = Filtered(edit, key);
+        if (passed == key && keys.size() == 1) return false;
+        if (passed != kNoKey) edit.insert(QString::fromUcs4(&passed, 1));
+    }
+    return true;
+}
+
+} // namespace
+
+bool KeyFilterEvents::eventFilter(QObject* watched, QEvent* event) {
+    auto* const edit = qobject_cast<QLineEdit*>(watched);
+    if (!edit || edit->isReadOnly()) return false;
+    if (event->type() == QEvent::KeyPress) {
+        const auto* const press = static_cast<QKeyEvent*>(event);
+        const QString text = press->text();
+        const bool isCommand = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier) &&
+                               !(press->modifiers() & Qt::GroupSwitchModifier);
+        if (isCommand || text.isEmpty() || !text.front().isPrint()) return false;
+        return TakesOver(*edit, text);
+    }
+    if (event->type() == QEvent::InputMethod) {
+        const QString text = static_cast<QInputMethodEvent*>(event)->commitString();
+        return !text.isEmpty() && TakesOver(*edit, text);
+    }
+    return false;
+}
+
+void InstallKeyFilter(QWidget& form) {
+    constexpr std::string_view kFiltering = "#&$%^@-";
+    auto* const filter = new KeyFilterEvents(&form);
+    for (QLineEdit* const edit : form.findChildren<QLineEdit*>()) {
+        const std::string tag = TagOf(*edit);
+        if (!tag.empty() && kFiltering.find(tag.front()) != std::string_view::npos) {
+            edit->installEventFilter(filter);
+        }
+    }
+}
+
+} // namespace core::binding

@@ -1,0 +1,69 @@
+#include "core/binding/Wiring.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+#include "core/binding/Binding.h"
+#include "core/binding/KeyFilterEvents.h"
+#include "core/binding/Tags.h"
+
+namespace core::binding {
+
+namespace {
+
+bool HoldsNumber(const QObject& control) {
+    constexpr std::string_view kNumbers = "#&$%";
+    const std::string tag = TagOf(control);
+    return !tag.empty() && kNumbers.find(tag.front()) != std::string_view::npos;
+}
+
+QString WithoutMarks(QString text) {
+    return text.remove(QLatin1Char('&')).remove(QLatin1Char(':')).trimmed();
+}
+
+} // namespace
+
+void WireControls(QWidget& form) {
+    InstallKeyFilter(form);
+    for (QWidget* const control : ControlsOf(form)) {
+        if (auto* const combo = qobject_cast<QComboBox*>(control)) {
+            combo->setInsertPolicy(QComboBox::NoInsert);
+        } else if (auto* const line = qobject_cast<QLineEdit*>(control)) {
+            if (HoldsNumber(*line)) line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        } else if (auto* const page = qobject_cast<QPlainTextEdit*>(control)) {
+            page->setTabChangesFocus(true);
+        } else if (const auto* const label = qobject_cast<QLabel*>(control)) {
+            QWidget* const named = label->buddy();
+            if (named && named->accessibleName().isEmpty()) {
+                named->setAccessibleName(WithoutMarks(label->text()));
+            }
+        }
+    }
+}
+
+void ConnectChanges(QWidget& form, QObject& context, const std::function<void()>& changed) {
+    for (QWidget* const control : ControlsOf(form)) {
+        if (control->property("noDirty").toBool()) continue;
+        if (auto* const line = qobject_cast<QLineEdit*>(control)) {
+            QObject::connect(line, &QLineEdit::textChanged, &context, changed);
+        } else if (auto* const page = qobject_cast<QPlainTextEdit*>(control)) {
+            QObject::connect(page, &QPlainTextEdit::textChanged, &context, changed);
+        } else if (auto* const combo = qobject_cast<QComboBox*>(control)) {
+            QObject::connect(combo, &QComboBox::currentIndexChanged, &context, changed);
+            QObject::connect(combo, &QComboBox::editTextChanged, &context, changed);
+        } else if (auto* const list = qobject_cast<QListWidget*>(control)) {
+            QObject::connect(list, &QListWidget::currentRowChanged, &context, changed);
+        } else if (auto* const group = qobject_cast<QGroupBox*>(control)) {
+            QObject::connect(group, &QGroupBox::toggled, &context, changed);
+        } else if (auto* const button = qobject_cast<QAbstractButton*>(control)) {
+            QObject::connect(button, &QAbstractButton::toggled, &context, changed);
+        }
+    }
+}
+
+} // namespace core::binding

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QHelpEngine>
+#include <QTextBrowser>
+#include <QUrl>
+
+#include "core/forms/Form.h"
+
+class QTabWidget;
+
+namespace core::forms {
+
+/// Shows pages of the compiled help; other addresses go to the browser.
+class HelpPage : public QTextBrowser {
+    Q_OBJECT
+
+  public:
+    HelpPage(QHelpEngine& engine, QWidget* parent);
+    QVariant loadResource(int type, const QUrl& name) override;
+
+  protected:
+    void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    QHelpEngine& engine_;
+};
+
+/// The help: contents, index and search beside the page.
+class frmHelp : public Form {
+    Q_OBJECT
+
+  public:
+    /// Reads the compiled help `file`; its collection is kept in `cacheFolder`.
+    frmHelp(const QString& file, const QString& cacheFolder, QWidget* parent = nullptr);
+
+    /// Shows a page by its name; the first page for one that isn't there.
+    void Setup(const QString& topic);
+    bool HasTopic(const QString& topic) const;
+    QString Topic() const;
+    HelpPage& Page() { return *page_; }
+    QHelpEngine& Engine() { return engine_; }
+
+  private:
+    void RegisterFile(const QString& file);
+    QWidget* MakeIndex();
+    QWidget* MakeSearch();
+    QWidget* MakeToolBar();
+
+    QHelpEngine engine_;
+    HelpPage* page_;
+    QTabWidget* ways_;
+};
+
+/// Lets HELP and F1 open the help that stands beside the program. One window serves all; it comes
+/// to the front.
+void RegisterHelpWindow();
+
+} // namespace core::forms

@@ -1,0 +1,22 @@
+#include "core/grid/GridColumns.h"
+
+#include "core/Preferences.h"
+#include "core/grid/Grid.h"
+
+namespace core::grid {
+
+void SizeColumns(Grid& grid, int firstColumn) {
+    if (grid.Model().columnCount() == 0) return;
+    for (int column = 0; column < firstColumn; ++column)
+        grid.setColumnHidden(column, true);
+    const auto sizing = static_cast<Sizing>(Preferences().AutoSize);
+    if (sizing == Sizing::Manual) {
+        // What was never set by hand starts from the texts.
+        AutoSizeGrid(grid, firstColumn, Sizing::FitText);
+        LoadColumnWidths(grid);
+    } else {
+        AutoSizeGrid(grid, firstColumn, sizing);
+    }
+}
+
+} // namespace core::grid

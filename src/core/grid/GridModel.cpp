@@ -1,0 +1,148 @@
+#include "core/grid/GridModel.h"
+
+#include <QFont>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/Text.h"
+
+namespace core::grid {
+
+namespace {
+
+std::int64_t CellKey(std::int64_t row, int column) {
+    return row * 4096 + column;
+}
+
+} // namespace
+
+void GridModel::SetRows(platform::Recordset rows) {
+    beginResetModel();
+    rows_ = std::move(rows);
+    rowCount_ = rows_.IsOpen() ? rows_.RecordCount() : 0;
+    atHand_ = rowCount_;
+    nextRead_.stop();
+    columns_.clear();
+    colors_.clear();
+    narrowed_.clear();
+    shown_.clear();
+    search_.reset();
+    nextSlice_.stop();
+    const std::size_t fields = rows_.IsOpen() ? rows_.FieldCount() : 0;
+    for (std::size_t i = 0; i < fields; ++i) {
+        const platform::Field field = rows_[i];
+        columns_.push_back({platform::qt::ToScreen(field.Name()),
+                            field.Type(),
+                            FormatOf(field.Type(), field.Name()),
+                            {}});
+    }
+    endResetModel();
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    if (parent.isValid()) return 0;
+    return static_cast<int>(narrowed_.isEmpty() ? rowCount_ : std::ssize(shown_));
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) return {};
+    switch (role) {
+        case Qt::DisplayRole:
+            return CellText(index.row(), index.column());
+        case Qt::TextAlignmentRole: {
+            const bool right = columns_[static_cast<std::size_t>(index.column())].format.right;
+            return QVariant(Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft));
+        }
+        case Qt::BackgroundRole:
+            if (const auto color = ColorOf(index)) return *color;
+            return {};
+        case Qt::ForegroundRole:
+            // A coloured cell keeps its colour in a dark window, so its ink must suit the cell.
+            if (const auto color = ColorOf(index)) {
+                return QColor(color->lightness() < 128 ? Qt::white : Qt::black);
+            }
+            return {};
+        default:
+            return {};
+    }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
+    switch (role) {
+        case Qt::DisplayRole:
+            return Caption(section);
+        case Qt::TextAlignmentRole:
+            return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+        case Qt::FontRole: {
+            QFont font;
+            font.setBold(boldHeader_);
+            return font;
+        }
+        default:
+            return {};
+    }
+}
+
+platform::Value GridModel::CellValue(int row, int column) const {
+    rows_.SetAbsolutePosition(Source(row) + 1);
+    return rows_[static_cast<std::size_t>(column)].Value();
+}
+
+QString GridModel::CellText(int row, int column) const {
+    return SourceText(Source(row), static_cast<std::size_t>(column));
+}
+
+QString GridModel::Caption(int column) const {
+    return columns_[static_cast<std::size_t>(column)].caption;
+}
+
+platform::FieldType GridModel::TypeOf(int column) const {
+    return columns_[static_cast<std::size_t>(column)].type;
+}
+
+void GridModel::SetFormat(int column, ColumnFormat format) {
+    if (column < 0 || column >= columnCount()) return;
+    columns_[static_cast<std::size_t>(column)].format = std::move(format);
+    if (rowCount() > 0) Q_EMIT dataChanged(index(0, column), index(rowCount() - 1, column));
+}
+
+void GridModel::SetColor(int column, int row, QColor color) {
+    if (column < 0 || column >= columnCount() || row < 0 || row >= rowCount()) return;
+    colors_[CellKey(Source(row), column)] = color;
+    Q_EMIT dataChanged(index(row, column), index(row, column));
+}
+
+void GridModel::SetColorRule(int column, ColorRule rule) {
+    if (column < 0 || column >= columnCount()) return;
+    columns_[static_cast<std::size_t>(column)].color = std::move(rule);
+    if (rowCount() > 0) Q_EMIT dataChanged(index(0, column), index(rowCount() - 1, column));
+}
+
+void GridModel::SetBoldHeader(bool bold) {
+    boldHeader_ = bold;
+    if (columnCount() > 0) Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+std::int64_t GridModel::Source(int row) const {
+    return narrowed_.isEmpty() ? row : shown_[static_cast<std::size_t>(row)];
+}
+
+QString GridModel::SourceText(std::int64_t source, std::size_t column) const {
+    rows_.SetAbsolutePosition(source + 1);
+    return platform::qt::ToScreen(core::CellText(rows_[column].Value(), columns_[column].format));
+}
+
+std::optional<QColor> GridModel::ColorOf(const QModelIndex& index) const {
+    const auto found = colors_.find(CellKey(Source(index.row()), index.column()));
+    if (found != colors_.end()) return found->second;
+    const ColorRule& rule = columns_[static_cast<std::size_t>(index.column())].color;
+    if (!rule) return std::nullopt;
+    return rule(CellValue(index.row(), index.column()));
+}
+
+} // namespace core::grid

@@ -1,0 +1,33 @@
+#include <algorithm>
+
+#include "core/grid/GridModel.h"
+
+namespace core::grid {
+
+namespace {
+
+// Rows that are read before the person is heard again: some hundredths of a second.
+constexpr std::int64_t kSlice = 10'000;
+
+} // namespace
+
+void GridModel::ReadOn() {
+    if (rowCount_ <= platform::kFirstRowsRead) return;
+    atHand_ = platform::kFirstRowsRead;
+    nextRead_.start();
+}
+
+int GridModel::RowsAtHand() const {
+    return static_cast<int>(narrowed_.isEmpty() ? atHand_ : std::ssize(shown_));
+}
+
+void GridModel::ReadSlice() {
+    atHand_ = std::min(rowCount_, atHand_ + kSlice);
+    rows_.SetAbsolutePosition(atHand_);
+    (void)rows_[std::size_t{0}].IsNull(); // asking for the last of them reads those before it
+    if (atHand_ < rowCount_) return;
+    nextRead_.stop();
+    Q_EMIT AllRead();
+}
+
+} // namespace core::grid

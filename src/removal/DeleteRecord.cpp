@@ -1,0 +1,118 @@
+#include "removal/DeleteRecord.h"
+
+#include <string_view>
+#include <vector>
+
+#include "core/Globals.h"
+#include "core/Lookups.h"
+#include "core/Preferences.h"
+#include "core/RecordKinds.h"
+#include "core/Session.h"
+#include "platform/database/Recordset.h"
+#include "platform/dialogs/Dialogs.h"
+#include "removal/Removal.h"
+#include "removal/RemovalQuestion.h"
+
+namespace removal {
+
+namespace {
+
+/// Told once after a row of children has gone, besides what each of them tells.
+constexpr std::int16_t kChildrenRemoved = 2;
+
+std::vector<std::int32_t> ChildrenOf(std::string_view sql, std::int32_t id) {
+    platform::Recordset rows;
+    rows.Open(core::App().Connection, sql, platform::CursorMode::ReadOnly, {id});
+    std::vector<std::int32_t> children;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        children.push_back(rows[0].AsLong());
+    }
+    return children;
+}
+
+void RemoveChildren(Removal& removal, std::int16_t kind, std::string_view sql, std::int32_t id) {
+    for (const std::int32_t child : ChildrenOf(sql, id)) {
+        removal.Remove(kind, child);
+    }
+    removal.Note(kind, kChildrenRemoved);
+}
+
+void RemoveLeasesOfUnit(Removal& removal, std::int32_t idUnit) {
+    RemoveChildren(removal, core::kLease, "SELECT IdLease FROM Lease WHERE IdUnit = ?", idUnit);
+}
+
+void RemoveUnitsOfBuilding(Removal& removal, std::int32_t idBuilding) {
+    for (const std::int32_t idUnit :
+         ChildrenOf("SELECT IdUnit FROM Unit WHERE IdBuilding = ?", idBuilding)) {
+        RemoveLeasesOfUnit(removal, idUnit);
+        removal.Remove(core::kUnit, idUnit);
+    }
+    removal.Note(core::kUnit, kChildrenRemoved);
+}
+
+/// A building can't be without a unit.
+void RemoveBuildingOfLastUnit(Removal& removal, std::int32_t idUnit) {
+    const std::int32_t idBuilding = core::GetUnitBuilding(idUnit);
+    if (idBuilding == 0) return;
+    const auto others = core::LookUp(
+        "SELECT Count(*) AS [Result] FROM Unit "
+        "WHERE (IdBuilding = ?) AND (IdUnit <> ?) ",
+        {idBuilding, idUnit});
+    if (!others || others->AsLong() == 0) removal.Remove(core::kBuilding, idBuilding);
+}
+
+void RemoveWhatGoesFirst(Removal& removal, std::int16_t kind, std::int32_t id) {
+    switch (kind) {
+        case core::kAccount:
+            RemoveChildren(removal, core::kOwner,
+                           "SELECT IdOwnerLink FROM OwnerLink WHERE IdAccount = ?", id);
+            RemoveChildren(removal, core::kManager,
+                           "SELECT IdManagerLink FROM ManagerLink WHERE IdAccount = ?", id);
+            break;
+        case core::kTenant:
+            RemoveChildren(removal, core::kLease, "SELECT IdLease FROM Lease WHERE IdTenant = ?",
+                           id);
+            break;
+        case core::kBuilding:
+            RemoveUnitsOfBuilding(removal, id);
+            break;
+        case core::kUnit:
+            RemoveLeasesOfUnit(removal, id);
+            RemoveBuildingOfLastUnit(removal, id);
+            break;
+        default:
+            break;
+    }
+}
+
+bool Agreed(std::int16_t kind, std::int32_t id) {
+    const auto question = QuestionBefore(kind, id);
+    return !question || platform::TheDialogs().AskYesNo(question->title, question->text,
+                                                        platform::Icon::Question);
+}
+
+} // namespace
+
+bool AgreedToDelete(std::int16_t kind, std::int32_t id) {
+    return !core::Preferences().ConfirmDelete || Agreed(kind, id);
+}
+
+bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm, Tell tell) {
+    if (id == 0) return false;
+    if (confirm == Confirm::Ask && !AgreedToDelete(kind, id)) return false;
+    // Asked before the work begins, so that no unit of work stands open while a person thinks.
+    const Charges charges = AskAboutCharges(kind, id);
+    RunRemoval(tell, [&](Removal& removal) {
+        RemoveWhatGoesFirst(removal, kind, id);
+        removal.Remove(kind, id, charges);
+    });
+    return true;
+}
+
+void RemoveRecord(std::int16_t kind, std::int32_t id, Tell tell) {
+    if (id == 0) return;
+    const Charges charges = AskAboutCharges(kind, id);
+    RunRemoval(tell, [&](Removal& removal) { removal.Remove(kind, id, charges); });
+}
+
+} // namespace removal

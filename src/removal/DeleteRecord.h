@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+
+namespace removal {
+
+/// Whether the person is asked first. With the preference ConfirmDelete off nobody is, ever.
+enum class Confirm { Ask, DontAsk };
+
+/// Whether the open screens are told of what has gone.
+enum class Tell { Screens, Nobody };
+
+/// Asks, then removes the record with the records that can't be without it: the links of an account
+/// to buildings, the leases of a tenant and of a unit, the units of a building, and the building of
+/// its last unit. True when it was removed, false when the person said No and for id 0.
+///
+/// A failure is thrown. What was removed before it stays removed; only when the machine stops
+/// midway are the books as before.
+bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm = Confirm::Ask,
+                  Tell tell = Tell::Screens);
+
+/// Asks as DeleteRecord does, for a routine that removes the record as a part of its own work; true
+/// when the person agrees, or nobody is to be asked.
+bool AgreedToDelete(std::int16_t kind, std::int32_t id);
+
+/// Removes one record, its attached files' links, and what points to it elsewhere, which then
+/// points to nothing; of a kind that isn't removed only the links of files go. Nothing for id 0.
+/// Failures as of DeleteRecord.
+///
+/// Nothing is asked, except of a payment: whether its charges go too or are open again.
+void RemoveRecord(std::int16_t kind, std::int32_t id, Tell tell = Tell::Screens);
+
+} // namespace removal

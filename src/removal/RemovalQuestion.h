@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace removal {
+
+struct RemovalQuestion {
+    std::string title;
+    std::string text;
+};
+
+/// What is asked before a record is removed, with the count of what goes with it; nothing for a
+/// kind that is removed unasked.
+std::optional<RemovalQuestion> QuestionBefore(std::int16_t kind, std::int32_t id);
+
+} // namespace removal

@@ -1,0 +1,99 @@
+#include <string>
+#include <string_view>
+
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "core/Session.h"
+#include "platform/database/Recordset.h"
+#include "platform/dialogs/Dialogs.h"
+#include "removal/Removal.h"
+
+namespace removal {
+
+namespace {
+
+/// The ledger that a payment settles charges of.
+enum class Ledger { None, Rent, Mortgage };
+
+Ledger LedgerOf(std::int32_t idTransaction) {
+    const auto transactionClass =
+        core::LookUp("SELECT Class FROM Transactions WHERE IdTransaction = ?", {idTransaction});
+    switch (transactionClass ? transactionClass->AsInteger() : 0) {
+        case 1:
+        case 2:
+        case 3:
+            return Ledger::Rent;
+        case 5:
+            return Ledger::Mortgage;
+        default:
+            return Ledger::None;
+    }
+}
+
+struct LedgerStatements {
+    std::string_view removeAll;
+    std::string_view removePayment; ///< the rows that the payment itself made
+    std::string_view findOrphans;
+    std::string_view removeOrphan;
+    std::string_view openAgain;
+};
+
+constexpr LedgerStatements kRentLedger = {
+    "DELETE * FROM RentLog WHERE idTransaction = ?",
+    "DELETE * FROM RentLog WHERE (idTransaction = ?) AND (Flags = 2)",
+    "SELECT IdRentLog FROM RentLog LEFT JOIN Lease ON RentLog.IdLease = Lease.IdLease "
+    "WHERE (Lease.IdLease IS NULL) AND (RentLog.IdTransaction = ?) ",
+    "DELETE * FROM RentLog WHERE IdRentLog = ?",
+    "UPDATE RentLog SET IdTransaction = 0 WHERE IdTransaction = ?",
+};
+
+constexpr LedgerStatements kMortgageLedger = {
+    "DELETE * FROM MortgageLog WHERE idTransaction = ?",
+    "DELETE * FROM MortgageLog WHERE (idTransaction = ?) AND (Flags = 2)",
+    "SELECT IdMortgageLog FROM MortgageLog "
+    "LEFT JOIN Mortgage ON MortgageLog.IdMortgage = Mortgage.IdMortgage "
+    "WHERE (Mortgage.IdMortgage IS NULL) AND (MortgageLog.IdTransaction = ?) ",
+    "DELETE * FROM MortgageLog WHERE IdMortgageLog = ?",
+    "UPDATE MortgageLog SET IdTransaction = 0 WHERE IdTransaction = ?",
+};
+
+void FreeCharges(const LedgerStatements& ledger, std::int32_t idTransaction) {
+    platform::Connection& books = core::App().Connection;
+    books.Execute(ledger.removePayment, {idTransaction});
+    platform::Recordset orphans;
+    orphans.Open(books, ledger.findOrphans, platform::CursorMode::ReadOnly, {idTransaction});
+    for (; !orphans.Eof(); orphans.MoveNext()) {
+        books.Execute(ledger.removeOrphan, {orphans[0].Value()});
+    }
+    books.Execute(ledger.openAgain, {idTransaction});
+}
+
+} // namespace
+
+Charges AskAboutCharges(std::int16_t kind, std::int32_t id) {
+    const Ledger ledger = kind == core::kTransaction ? LedgerOf(id) : Ledger::None;
+    if (ledger == Ledger::None) return Charges::OpenAgain;
+    const std::string text =
+        std::string("Do you want to remove associated ") +
+        (ledger == Ledger::Rent ? "rent" : "mortgage") +
+        " items? If not, these items will no\n"
+        "longer be associated with any transaction and will now show up as unpaid.";
+    return platform::TheDialogs().AskYesNo("Confirm Removal", text, platform::Icon::Question)
+               ? Charges::Remove
+               : Charges::OpenAgain;
+}
+
+void Removal::RemoveTransaction(std::int32_t id, Charges charges) {
+    const Ledger ledger = LedgerOf(id);
+    if (ledger != Ledger::None) {
+        const LedgerStatements& statements = ledger == Ledger::Rent ? kRentLedger : kMortgageLedger;
+        if (charges == Charges::Remove) {
+            core::App().Connection.Execute(statements.removeAll, {id});
+        } else {
+            FreeCharges(statements, id);
+        }
+    }
+    core::App().Connection.Execute("DELETE * FROM Transactions WHERE IdTransaction = ?", {id});
+}
+
+} // namespace removal

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace shell::screens {
+
+/// " v" and the program's version, major, minor and revision.
+QString VersionText();
+
+} // namespace shell::screens

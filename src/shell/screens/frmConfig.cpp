@@ -1,0 +1,110 @@
+#include "shell/screens/frmConfig.h"
+
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "core/binding/AddressBox.h"
+#include "core/binding/ComboList.h"
+#include "core/forms/TabPages.h"
+#include "platform/qt/Text.h"
+#include "ui_frmConfig.h"
+#include "ui_frmConfigAnalysis.h"
+#include "ui_frmConfigGeneral.h"
+#include "ui_frmConfigLeases.h"
+#include "ui_frmConfigOther.h"
+
+namespace shell::screens {
+
+using platform::qt::ToScreen;
+
+frmConfig::frmConfig(QWidget* parent)
+    : core::forms::RecordForm({core::kConfiguration, "Configuration", {}}, parent),
+      ui_(std::make_unique<Ui::frmConfig>()),
+      general_(std::make_unique<Ui::frmConfigGeneral>()),
+      analysis_(std::make_unique<Ui::frmConfigAnalysis>()),
+      leases_(std::make_unique<Ui::frmConfigLeases>()),
+      other_(std::make_unique<Ui::frmConfigOther>()) {
+    ui_->setupUi(this);
+    general_->setupUi(ui_->tabGeneral);
+    analysis_->setupUi(ui_->tabAnalysis);
+    leases_->setupUi(ui_->tabLeases);
+    other_->setupUi(ui_->tabOther);
+    Wire();
+    core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
+    core::binding::FillPlaceByZip(*general_->txtZip, {general_->txtCity, general_->txtState});
+    connect(leases_->cboTermType, &QComboBox::currentTextChanged, this, &frmConfig::OfferExpiry);
+    core::binding::OpenOnClick(*general_->txtEmail, core::binding::AddressKind::Mail);
+    core::binding::OpenOnClick(*general_->txtWeb, core::binding::AddressKind::Web);
+}
+
+frmConfig::~frmConfig() = default;
+
+void frmConfig::Setup() {
+    OpenRecord(0, [this] {
+        FillLists();
+        ShowProgram();
+        Load();
+    });
+}
+
+/// The settings are one row without an id.
+void frmConfig::FindRow(platform::Recordset& row) {
+    row.Open(core::App().Connection, "SELECT * FROM Configuration",
+             platform::CursorMode::Updatable);
+}
+
+void frmConfig::FindRowToWrite(platform::Recordset& row) {
+    FindRow(row);
+    if (row.Eof()) row.AddNew();
+}
+
+void frmConfig::ShowRow(platform::Recordset& row) {
+    core::forms::RecordForm::ShowRow(row);
+    OfferExpiry();
+}
+
+void frmConfig::ShowCaption() {
+    setWindowTitle(tr("Configuration"));
+}
+
+void frmConfig::AfterSave() {
+    core::binding::SavePickList(*other_->cboDefaultCar);
+}
+
+void frmConfig::Refresh(std::int16_t kind) {
+    if (kind == core::kAccount) FillAccounts();
+}
+
+void frmConfig::FillLists() {
+    core::binding::FillFromCommaList(*leases_->cboTermType, "WTW,MTM,Week(s),Month(s),Year(s)");
+    core::binding::SelectByText(*leases_->cboTermType, "Month(s)");
+    core::binding::FillFromCommaList(*leases_->cboExpireOption, "WTW,MTM,Renew,Expire");
+    core::binding::SelectByText(*leases_->cboExpireOption, "MTM");
+    core::binding::LoadPickList(*other_->cboDefaultCar);
+    other_->cboDefaultCar->clearEditText();
+    FillAccounts();
+}
+
+void frmConfig::FillAccounts() {
+    core::binding::FillList(core::kAccount, *other_->cboDefaultRentAccount, {.addNone = true});
+    core::binding::FillList(core::kAccount, *other_->cboDefaultDepositAccount, {.addNone = true});
+    core::binding::FillList(core::kMortgageeAccount, *other_->cboDefaultMortgagee,
+                            {.addNone = true});
+    core::binding::FillList(core::kAccount, *other_->cboDefaultMortgageAccount, {.addNone = true});
+}
+
+/// A lease that runs on from month to month or week to week has no end.
+void frmConfig::OfferExpiry() {
+    const QString type = leases_->cboTermType->currentText();
+    const bool ends = type != QLatin1String("MTM") && type != QLatin1String("WTW");
+    leases_->txtTerm->setEnabled(ends);
+    leases_->lblExpireOption->setEnabled(ends);
+    leases_->cboExpireOption->setEnabled(ends);
+}
+
+void frmConfig::ShowProgram() {
+    other_->txtDbVersion->setText(QString::number(core::App().DbVersionRequired));
+    other_->txtUserName->setText(ToScreen(core::App().UserName));
+    other_->txtSecAccess->setText(QString::number(core::App().SecurityLevel));
+}
+
+} // namespace shell::screens

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+#include "core/forms/Form.h"
+
+class QCheckBox;
+class QLineEdit;
+
+namespace Ui {
+class frmPreferences;
+}
+
+namespace shell::screens {
+
+/// How this person wants the program on this machine. Closing takes the entries over, cancelling
+/// drops them.
+class frmPreferences : public core::forms::Form {
+    Q_OBJECT
+
+  public:
+    explicit frmPreferences(QWidget* parent = nullptr);
+    ~frmPreferences() override;
+
+    void Setup();
+    void SaveAndClose();
+
+  private:
+    template <class Flag, class Days>
+    void ForEach(Flag flag, Days days);
+
+    std::unique_ptr<Ui::frmPreferences> ui_;
+};
+
+} // namespace shell::screens

@@ -1,0 +1,185 @@
+#include "core/forms/Form.h"
+
+#include <QLineEdit>
+#include <QScreen>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "core/EditRecord.h"
+#include "core/Settings.h"
+#include "core/binding/EnableContainer.h"
+#include "core/binding/Tags.h"
+#include "core/forms/FormPlace.h"
+#include "core/forms/Help.h"
+#include "core/forms/OpenForms.h"
+#include "support/screens/Driving.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using core::FormRectangle;
+using core::FormSizing;
+using core::forms::Form;
+
+class SampleForm : public Form {
+  public:
+    explicit SampleForm(FormSizing sizing = FormSizing::Resizable) : Form(nullptr, sizing) {
+        setObjectName(QStringLiteral("frmSample"));
+        auto* const layout = new QVBoxLayout(this);
+        layout->addWidget(new QLineEdit(this));
+        resize(300, 200);
+    }
+    using Form::Open;
+};
+
+class FormTest : public support::ScreenTest {
+  protected:
+    static void Store(std::string_view place, std::int32_t state = 0) {
+        core::SetRegString(R"(SOFTWARE\Vestrel\FormPosition)", "frmSample", place);
+        core::SetRegNumber(R"(SOFTWARE\Vestrel\FormState)", "frmSample", state);
+    }
+    static std::string StoredPlace() {
+        return core::GetRegString(R"(SOFTWARE\Vestrel\FormPosition)", "frmSample", "none");
+    }
+    static std::int32_t StoredState() {
+        return core::GetRegNumber(R"(SOFTWARE\Vestrel\FormState)", "frmSample", -1);
+    }
+};
+
+TEST_F(FormTest, OpensWhereItWasClosed) {
+    auto* form = new SampleForm;
+    form->Open();
+    form->move(40, 50);
+    form->resize(320, 240);
+    form->close();
+    EXPECT_EQ(StoredPlace(), "40,50,320,240");
+    EXPECT_EQ(StoredState(), 0);
+
+    form = new SampleForm;
+    form->Open();
+    EXPECT_EQ(form->pos(), QPoint(40, 50));
+    EXPECT_EQ(form->size(), QSize(320, 240));
+}
+
+TEST_F(FormTest, AFixedFormTakesOnlyItsPlace) {
+    Store("40,50,700,600");
+    auto* const form = new SampleForm(FormSizing::Fixed);
+    form->Open();
+    EXPECT_EQ(form->pos(), QPoint(40, 50));
+    EXPECT_NE(form->size(), QSize(700, 600));
+}
+
+TEST_F(FormTest, AMaximisedFormKeepsItsLastNormalPlace) {
+    Store("40,50,320,240");
+    auto* const form = new SampleForm;
+    form->Open();
+    form->showMaximized();
+    form->close();
+    EXPECT_EQ(StoredPlace(), "40,50,320,240");
+    EXPECT_EQ(StoredState(), 2);
+    auto* const again = new SampleForm;
+    again->Open();
+    EXPECT_TRUE(again->isMaximized());
+}
+
+TEST_F(FormTest, APlaceOffEveryScreenIsRescued) {
+    Store("90000,-7000,320,240");
+    auto* const form = new SampleForm;
+    form->Open();
+    EXPECT_TRUE(form->screen()->availableGeometry().contains(form->pos()));
+}
+
+TEST_F(FormTest, AStoredPlaceThatIsNoneIsPassedOver) {
+    for (const char* const place : {"here", "1,2,3", ""}) {
+        Store(place);
+        auto* const form = new SampleForm;
+        form->Open();
+        EXPECT_EQ(form->size(), QSize(300, 200)) << place;
+        form->close();
+    }
+}
+
+TEST_F(FormTest, EscapeClosesAndF1OpensThePageOfTheForm) {
+    QString asked;
+    core::forms::SetHelpOpener([&](QWidget*, const QString& topic) { asked = topic; });
+    auto* const form = new SampleForm;
+    form->Open();
+    core::forms::ShowHelp(*form);
+    EXPECT_EQ(asked, QStringLiteral("frmSample"));
+    core::forms::SetHelpOpener({});
+    core::forms::ShowHelp(*form);
+    QTest::keyClick(form, Qt::Key_Escape);
+    EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(FormTest, ARecordOpensOnceAndComesToTheFront) {
+    core::forms::RegisterOpenForms();
+    int opened = 0;
+    core::RegisterOpener(15, [&](const core::EditRequest&) { ++opened; });
+    auto* const form = new SampleForm;
+    core::binding::SetTag(*form, "42");
+    form->Open();
+    core::EditRecord(15, 42);
+    EXPECT_EQ(opened, 0);
+    core::EditRecord(15, 43);
+    EXPECT_EQ(opened, 1);
+    core::EditRecord(15, 0);
+    EXPECT_EQ(opened, 2) << "a new record always opens";
+    form->close();
+    support::SettleEvents();
+    core::EditRecord(15, 42);
+    EXPECT_EQ(opened, 3);
+    core::RegisterOpener(15, [](const core::EditRequest&) {});
+}
+
+TEST_F(FormTest, AllFormsCloseTheLastOpenedFirst) {
+    std::vector<int> order;
+    for (const int number : {1, 2, 3}) {
+        auto* const form = new SampleForm;
+        QObject::connect(form, &QObject::destroyed, form,
+                         [&order, number] { order.push_back(number); });
+        form->Open();
+    }
+    core::forms::CloseAllForms();
+    support::SettleEvents();
+    EXPECT_EQ(order, (std::vector{3, 2, 1}));
+    EXPECT_FALSE(core::forms::BringToFront(42));
+}
+
+struct PlaceCase {
+    const char* what;
+    FormRectangle wanted;
+    FormRectangle place;
+};
+
+TEST(FormPlace, KeepsWhatCanBeHeldAndRescuesTheRest) {
+    const std::vector<FormRectangle> screens = {{0, 0, 1280, 800}, {1280, 0, 1920, 1080}};
+    for (const PlaceCase& one : {
+             PlaceCase{"inside", {10, 20, 300, 200}, {10, 20, 300, 200}},
+             PlaceCase{"across both", {1200, 20, 300, 200}, {1200, 20, 300, 200}},
+             PlaceCase{"mostly off, yet to be held", {-200, 20, 300, 200}, {-200, 20, 300, 200}},
+             PlaceCase{"too little to hold", {-290, 20, 300, 200}, {0, 20, 300, 200}},
+             PlaceCase{"title above the screen", {10, -100, 300, 200}, {10, 0, 300, 200}},
+             PlaceCase{"on a screen that is gone", {5000, 20, 300, 200}, {2900, 20, 300, 200}},
+             PlaceCase{"below", {10, 900, 300, 200}, {10, 600, 300, 200}},
+             PlaceCase{"larger than the screen", {-9000, 0, 4000, 3000}, {0, 0, 1280, 800}},
+             PlaceCase{
+                 "numbers of any size", {2147483647, -2147483647, 300, 200}, {2900, 0, 300, 200}},
+         }) {
+        EXPECT_EQ(core::forms::RescuedPlace(one.wanted, screens), one.place) << one.what;
+    }
+    EXPECT_EQ(core::forms::RescuedPlace({1, 2, 3, 4}, {}), (FormRectangle{1, 2, 3, 4}));
+}
+
+TEST(EnableContainer, ReachesIntoFramesAndLeavesTheContainer) {
+    QFrame container;
+    auto* const frame = new QFrame(&container);
+    auto* const box = new QLineEdit(frame);
+    core::binding::EnableContainer(container, false);
+    EXPECT_TRUE(container.isEnabled());
+    EXPECT_FALSE(frame->isEnabled());
+    core::binding::EnableContainer(container, true);
+    EXPECT_TRUE(box->isEnabled());
+}
+
+} // namespace

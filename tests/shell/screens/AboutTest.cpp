@@ -1,0 +1,45 @@
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScreen>
+
+#include "shell/screens/frmAbout.h"
+#include "shell/screens/frmSplash.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using shell::screens::frmAbout;
+using shell::screens::frmSplash;
+using support::Find;
+using Said = std::vector<std::string>;
+
+class AboutTest : public support::ScreenTest {};
+
+bool ShowsVersion(const QWidget& form) {
+    static const QRegularExpression version(QStringLiteral("^ v\\d+\\.\\d+\\.\\d+$"));
+    return version.match(Find<QLabel>(form, "lblVersion").text()).hasMatch();
+}
+
+TEST_F(AboutTest, TellsTheVersionAndGoesWithOk) {
+    const QPointer<frmAbout> form(new frmAbout);
+    form->Setup();
+    EXPECT_TRUE(ShowsVersion(*form));
+    EXPECT_EQ(support::Portray(*form, "frmAbout"), Said{});
+    support::ClickOn(Find<QPushButton>(*form, "cmdOk"));
+    EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(AboutTest, TheSplashTellsTheVersionInTheMiddleOfTheScreen) {
+    frmSplash splash;
+    splash.Setup();
+    EXPECT_TRUE(ShowsVersion(splash));
+    EXPECT_TRUE(splash.isVisible());
+    EXPECT_TRUE(splash.geometry().contains(splash.screen()->availableGeometry().center()));
+    EXPECT_EQ(support::Portray(splash, "frmSplash"), Said{});
+}
+
+} // namespace

@@ -1,0 +1,198 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QTabWidget>
+
+#include "core/Configuration.h"
+#include "core/NotifyAll.h"
+#include "core/PickLists.h"
+#include "core/RecordKinds.h"
+#include "core/binding/ComboList.h"
+#include "core/binding/Tags.h"
+#include "platform/dialogs/Desktop.h"
+#include "shell/screens/frmConfig.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
+#include "support/screens/ScreenChecks.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using shell::screens::frmConfig;
+using support::Choose;
+using support::ClickAction;
+using support::Find;
+using support::Type;
+using Said = std::vector<std::string>;
+
+/// Keeps what is handed to other programs.
+class RecordingDesktop : public platform::Desktop {
+  public:
+    explicit RecordingDesktop(Said& opened) : opened_(opened) {}
+    bool OpenWebPage(std::string_view address) override { return Keep("web ", address); }
+    bool WriteMail(std::string_view address) override { return Keep("mail ", address); }
+    bool OpenDocument(std::string_view file) override { return Keep("document ", file); }
+
+  private:
+    bool Keep(std::string_view what, std::string_view where) {
+        opened_.push_back(std::string(what).append(where));
+        return true;
+    }
+    Said& opened_;
+};
+
+class ConfigTest : public support::ScreenTest {
+  protected:
+    ConfigTest() {
+        Run("DELETE * FROM Configuration");
+        core::CreateDefaultConfiguration(core::App().Connection);
+        core::LoadConfiguration();
+    }
+    QPointer<frmConfig> Open() {
+        QPointer<frmConfig> form(new frmConfig);
+        form->Setup();
+        return form;
+    }
+    static QLineEdit& Box(const frmConfig& form, const char* name) {
+        return Find<QLineEdit>(form, name);
+    }
+};
+
+TEST_F(ConfigTest, ShowsTheSettingsOfTheBooks) {
+    const auto form = Open();
+    const std::pair<const char*, const char*> shown[] = {
+        {"txtCompanyName", "Your Company Name"},
+        {"txtTaxIDFed", "123-56-6789"},
+        {"txtTerm", "12"},
+        {"txtDiscount", "50.00"},
+        {"txtDailyFee", "0.00"},
+        {"txtCFAVacancyRate", "5"},
+        {"txtCFAExp4", "Pool"},
+        {"txtDbVersion", "9"},
+        {"txtUserName", "Administrator"},
+        {"txtSecAccess", "1"},
+    };
+    for (const auto& [name, text] : shown) {
+        EXPECT_EQ(Box(*form, name).text(), QString::fromLatin1(text)) << name;
+    }
+    EXPECT_EQ(Find<QComboBox>(*form, "cboTermType").currentText(), QStringLiteral("Month(s)"));
+    EXPECT_EQ(Find<QComboBox>(*form, "cboExpireOption").currentText(), QStringLiteral("MTM"));
+    EXPECT_FALSE(form->Dirty());
+    const auto* const tabs = form->findChild<QTabWidget*>();
+    EXPECT_EQ(tabs->tabText(0) + tabs->tabText(1) + tabs->tabText(2) + tabs->tabText(3),
+              QStringLiteral("GeneralAnalysisLeasesOther"));
+}
+
+TEST_F(ConfigTest, SavingReachesEveryScreenWithTheNewValuesLoaded) {
+    Said heard;
+    const core::NotifyToken token([&](std::int16_t kind, std::int16_t action, std::int32_t id) {
+        heard.push_back(std::to_string(kind) + " " + std::to_string(action) + " " +
+                        std::to_string(id) + " " + core::Config().CompanyName);
+    });
+    const auto form = Open();
+    Type(Box(*form, "txtCompanyName"), "Elm & Sons");
+    Choose(*form, "cboDefaultRentAccount", "River Bank");
+    Type(Box(*form, "txtOneTimeFee"), "75.5");
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(heard, Said{"24 1 0 Elm & Sons"});
+    EXPECT_EQ(core::Config().DefaultRentAccount, 60);
+    EXPECT_EQ(core::Config().OneTimeFee, platform::Currency::FromScaled(755'000));
+    EXPECT_FALSE(form->Dirty());
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Configuration"), "1");
+}
+
+TEST_F(ConfigTest, NothingChangedSavesNothingElse) {
+    const std::string before = Ask("SELECT NextId FROM Configuration");
+    const std::string weight = Ask("SELECT NoteEquityWeight FROM Configuration");
+    ClickAction(*Open(), "CLOSE");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(Ask("SELECT NextId FROM Configuration"), before);
+    EXPECT_EQ(Ask("SELECT NoteEquityWeight FROM Configuration"), weight);
+    EXPECT_EQ(core::Config().CFASaleExpense, 4);
+}
+
+TEST_F(ConfigTest, BooksWithoutSettingsGetThemByASave) {
+    Run("DELETE * FROM Configuration");
+    const auto form = Open();
+    Type(Box(*form, "txtCompanyName"), "New");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT CompanyName FROM Configuration"), "New");
+}
+
+TEST_F(ConfigTest, ALeaseThatRunsOnHasNoTerm) {
+    const auto form = Open();
+    const auto offered = [&] {
+        return std::array{Box(*form, "txtTerm").isEnabled(),
+                          Find<QLabel>(*form, "lblExpireOption").isEnabled(),
+                          Find<QComboBox>(*form, "cboExpireOption").isEnabled()};
+    };
+    for (const auto& [type, ends] : {std::pair{"MTM", false},
+                                     {"Year(s)", true},
+                                     {"WTW", false},
+                                     {"Week(s)", true},
+                                     {"Month(s)", true}}) {
+        Choose(*form, "cboTermType", type);
+        EXPECT_EQ(offered(), (std::array{ends, ends, ends})) << type;
+    }
+    Run("UPDATE Configuration SET TermType = 'WTW'");
+    const auto loaded = Open();
+    EXPECT_FALSE(Box(*loaded, "txtTerm").isEnabled()) << "also as it is loaded";
+}
+
+TEST_F(ConfigTest, ATypedVehicleIsOfferedTheNextTime) {
+    const auto form = Open();
+    Type(Find<QComboBox>(*form, "cboDefaultCar"), "Old Truck");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT DefaultCar FROM Configuration"), "Old Truck");
+    Run("UPDATE Configuration SET DefaultCar = 'Van'");
+    const auto again = Open();
+    const auto& cars = Find<QComboBox>(*again, "cboDefaultCar");
+    EXPECT_EQ(cars.currentText(), QStringLiteral("Van"));
+    EXPECT_GE(cars.findText(QStringLiteral("Old Truck")), 0);
+}
+
+TEST_F(ConfigTest, AClickOnAnAddressGoesThereUnlessItIsBeingTyped) {
+    Said opened;
+    platform::SetDesktop(std::make_unique<RecordingDesktop>(opened));
+    const auto form = Open();
+    Box(*form, "txtEmail").setText(QStringLiteral("me@elm.example"));
+    Box(*form, "txtWeb").setText(QStringLiteral("www.elm.example"));
+    support::ClickOn(Box(*form, "txtEmail"));
+    support::ClickOn(Box(*form, "txtWeb"));
+    support::ClickOn(Box(*form, "txtPhone"));
+    Box(*form, "txtWeb").clear();
+    support::ClickOn(Box(*form, "txtWeb"));
+    Type(Box(*form, "txtWeb"), "www.");
+    support::ClickOn(Box(*form, "txtWeb"));
+    EXPECT_EQ(opened, (Said{"mail me@elm.example", "web www.elm.example"}));
+    platform::SetDesktop(nullptr);
+}
+
+TEST_F(ConfigTest, AnAccountThatIsAddedIsOffered) {
+    const auto form = Open();
+    Choose(*form, "cboDefaultRentAccount", "River Bank");
+    ClickAction(*form, "APPLY");
+    Run("INSERT INTO Account (IdAccount, ShowAs) VALUES (63, 'Brook Bank')");
+    core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
+    const auto& list = Find<QComboBox>(*form, "cboDefaultRentAccount");
+    EXPECT_EQ(list.count(), 5);
+    EXPECT_EQ(list.currentText(), QStringLiteral("River Bank"));
+    EXPECT_FALSE(form->Dirty());
+}
+
+TEST_F(ConfigTest, EveryTabLooksAndReadsRight) {
+    const auto form = Open();
+    auto* const tabs = form->findChild<QTabWidget*>();
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        SCOPED_TRACE(tabs->tabText(tab).toStdString());
+        EXPECT_EQ(support::MnemonicFaults(*form), Said{});
+        EXPECT_EQ(support::TabOrderFaults(*form), Said{});
+        EXPECT_EQ(support::Portray(*form, "frmConfig-" + tabs->tabText(tab).toStdString()), Said{});
+    }
+    EXPECT_EQ(support::NameFaults(*form), Said{});
+}
+
+} // namespace
