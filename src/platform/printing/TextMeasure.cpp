@@ -12,6 +12,8 @@ namespace {
 constexpr std::string_view kEllipsis = "\u2026";
 /// No line of a page holds so many bytes: a longer text isn't measured whole.
 constexpr std::size_t kLongText = 4000;
+/// Nor so long a word: it may be broken here, which it must be somewhere.
+constexpr std::size_t kLongWord = 1000;
 
 Twips Rounded(double twips) {
     return static_cast<Twips>(std::lround(std::min(twips, 1e9)));
@@ -33,7 +35,8 @@ std::string_view WithoutBlanksAtEnd(std::string_view text) {
 std::size_t PieceEnd(std::string_view text, std::size_t begin) {
     std::size_t at = std::min(text.find_first_not_of(' ', begin), text.size());
     bool first = true;
-    while (at < text.size() && text[at] != ' ') {
+    const std::size_t limit = begin + kLongWord;
+    while (at < text.size() && text[at] != ' ' && at < limit) {
         std::size_t next = at + FirstCluster(text.substr(at));
         std::size_t after = at;
         const char32_t code = NextCodePoint(text, after);

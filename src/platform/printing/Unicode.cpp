@@ -20,8 +20,12 @@ bool IsIn(const std::array<Range, N>& ranges, char32_t code) {
         ranges, [code](const Range& range) { return code >= range.first && code <= range.last; });
 }
 
-bool IsControl(char c) {
-    return static_cast<unsigned char>(c) < 0x20U || c == 0x7F;
+bool IsControl(char32_t code) {
+    return code < 0x20 || (code >= 0x7F && code < 0xA0);
+}
+
+bool IsNoCharacter(char32_t code) {
+    return (code & 0xFFFEU) == 0xFFFE || (code >= 0xFDD0 && code <= 0xFDEF);
 }
 
 } // namespace
@@ -93,18 +97,22 @@ std::size_t FirstCluster(std::string_view text) {
 }
 
 std::string_view CleanText(std::string_view text, std::string& scratch) {
-    const auto unclean = [](char c) { return IsControl(c) && c != '\n'; };
-    if (std::ranges::none_of(text, unclean)) return text;
-    scratch.clear();
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        if (c == '\r') {
-            if (i + 1 == text.size() || text[i + 1] != '\n') scratch += '\n';
+    const auto isPlain = [](char c) { return (c >= 0x20 && c < 0x7F) || c == '\n'; };
+    const auto firstOdd = std::ranges::find_if_not(text, isPlain);
+    if (firstOdd == text.end()) return text;
+
+    scratch.assign(text.begin(), firstOdd);
+    auto at = static_cast<std::size_t>(firstOdd - text.begin());
+    while (at < text.size()) {
+        if (const char32_t code = NextCodePoint(text, at); code == '\r') {
+            if (at == text.size() || text[at] != '\n') scratch += '\n';
+        } else if (code != '\n' && IsControl(code)) {
+            scratch += ' ';
         } else {
-            scratch += unclean(c) ? ' ' : c;
+            AppendUtf8(scratch, IsNoCharacter(code) ? kReplacement : code);
         }
     }
-    return scratch;
+    return scratch == text ? text : scratch;
 }
 
 } // namespace platform

@@ -21,8 +21,9 @@ bool BreaksAnywhere(char32_t code);
 /// The length in bytes of the first character together with its combining marks.
 std::size_t FirstCluster(std::string_view text);
 
-/// `text` with line ends as "\n" only and every other control character as a blank. Where nothing
-/// changes it is `text` itself, otherwise it is held in `scratch`.
+/// `text` with line ends as "\n" only, every other control character as a blank, and U+FFFD for
+/// what isn't a character. Where nothing changes it is `text` itself, otherwise it is held in
+/// `scratch`.
 std::string_view CleanText(std::string_view text, std::string& scratch);
 
 } // namespace platform

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// Where a writer of documents puts its bytes.
+class ByteSink {
+  public:
+    virtual ~ByteSink() = default;
+    /// Throws an Error if the bytes can't be taken.
+    virtual void Write(std::string_view bytes) = 0;
+};
+
+class StringSink : public ByteSink {
+  public:
+    void Write(std::string_view bytes) override { text_ += bytes; }
+    const std::string& Text() const { return text_; }
+
+  private:
+    std::string text_;
+};
+
+/// A file that takes its name only when it is whole: until Commit an older file of the name stays,
+/// and without Commit nothing is left. A name that isn't a regular file, such as a pipe, is written
+/// to as it is.
+class OutputFile : public ByteSink {
+  public:
+    /// Throws an Error with the reason if the file can't be made.
+    explicit OutputFile(std::filesystem::path path);
+    ~OutputFile() override;
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    void Write(std::string_view bytes) override;
+    /// Throws an Error with the reason, such as a full disk.
+    void Commit();
+
+  private:
+    [[noreturn]] void Fail();
+
+    std::filesystem::path path_;
+    std::string draft_; ///< empty where the file is written in place
+    std::FILE* file_ = nullptr;
+};
+
+/// Bytes kept aside in a file without a name until they are wanted.
+class Spool : public ByteSink {
+  public:
+    Spool();
+    ~Spool() override;
+    Spool(const Spool&) = delete;
+    Spool& operator=(const Spool&) = delete;
+
+    void Write(std::string_view bytes) override;
+    void CopyTo(ByteSink& sink);
+
+  private:
+    std::FILE* file_;
+};
+
+} // namespace platform

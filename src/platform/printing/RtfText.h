@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// Adds a text with braces, backslashes and every non-ASCII character escaped; line ends become
+/// line breaks.
+void AppendRtf(std::string& out, std::string_view text);
+
+/// The same, with each "%d" as a field that shows the page's number.
+void AppendRtfWithPageNumber(std::string& out, std::string_view text);
+
+/// Adds a font's name without what the font table can't hold.
+void AppendRtfName(std::string& out, std::string_view name);
+
+} // namespace platform

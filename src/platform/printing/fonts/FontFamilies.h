@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+#include <vector>
+
+#include "platform/printing/FontMetrics.h"
+
+namespace platform {
+
+/// The file that a family's face is drawn from.
+struct FaceSource {
+    std::string_view file;
+    bool slanted = false; ///< the file is upright and its glyphs are to be slanted
+};
+
+/// The fonts that reports name, each by one of the same widths that the packages bring, so that a
+/// report has the same lines and pages on every machine. An unknown family is Arial.
+FaceSource SourceOf(std::string_view family, Weight weight, Slant slant);
+
+/// The files that characters come from which a family's own file lacks, best first.
+std::vector<std::string_view> FallbackFiles(Weight weight);
+
+/// Where a font file of this name is; empty if it isn't installed. The folders of the system's
+/// fonts, those of the user and `fonts` beside the program are searched.
+std::filesystem::path FindFontFile(std::string_view name);
+
+} // namespace platform
