@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdio>
+
+namespace bench {
+
+/// One row of the printed table: eight cells.
+struct PlainRow {
+    char cells[8][40];
+};
+
+/// The row of this number, the same for every program.
+void FillRow(std::size_t number, PlainRow& row);
+
+/// What printing to PDF is held against: the same pages, landscape letter, eight columns, header
+/// and footer, by a plain loop with a font that readers bring and zlib as it comes. Returns the
+/// pages.
+int WritePlainPdf(const char* path, std::size_t rows);
+
+/// The same text as HTML by a plain loop.
+void WritePlainHtml(const char* path, std::size_t rows);
+
+} // namespace bench
