@@ -22,6 +22,10 @@ bool Connection::IsOpen() const {
     return engine_ != nullptr;
 }
 
+bool Connection::IsReadOnly() const {
+    return engine_ && engine_->IsReadOnly();
+}
+
 const std::filesystem::path& Connection::File() const {
     return file_;
 }

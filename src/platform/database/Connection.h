@@ -15,7 +15,12 @@
 
 namespace platform {
 
-enum class OpenMode { ReadWrite, ReadOnly, Create };
+enum class OpenMode {
+    ReadWrite,
+    ReadOnly,
+    ReadWriteIfAllowed, ///< only to read if the file or its folder can't be written to
+    Create,
+};
 
 class DatabaseEngine;
 
@@ -36,6 +41,8 @@ class Connection {
     /// Nothing when it isn't open.
     void Close();
     bool IsOpen() const;
+    /// True if it is open and every statement that writes will fail.
+    bool IsReadOnly() const;
     const std::filesystem::path& File() const;
 
     /// Runs one statement, with a value for each `?` in it. The number of rows affected (0 for a

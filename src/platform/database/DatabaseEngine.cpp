@@ -9,6 +9,7 @@
 #include <limits>
 
 #include "platform/database/DatabaseFile.h"
+#include "platform/database/EngineFailure.h"
 #include "platform/database/PendingRows.h"
 #include "platform/database/StatementProbe.h"
 #include "platform/database/dialect/RuntimeFunctions.h"
@@ -83,6 +84,10 @@ DatabaseEngine::~DatabaseEngine() {
     }
 }
 
+bool DatabaseEngine::IsReadOnly() const {
+    return sqlite3_db_readonly(Handle(), "main") != 0;
+}
+
 void DatabaseEngine::ReadPending() {
     while (!pending_.empty())
         pending_.back()->ReadTo(std::numeric_limits<std::size_t>::max());
@@ -104,8 +109,8 @@ void DatabaseEngine::ReadCatalog() {
         }
         if (!table.columns.empty()) catalog.Add(std::move(table));
         catalog_ = std::move(catalog);
-    } catch (const SQLite::Exception& error) {
-        throw DatabaseError(error.what(), error.getErrorCode());
+    } catch (const SQLite::Exception&) {
+        ThrowEngineError(Handle());
     }
 }
 

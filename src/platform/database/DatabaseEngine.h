@@ -25,6 +25,7 @@ class DatabaseEngine {
     DatabaseEngine& operator=(const DatabaseEngine&) = delete;
 
     sqlite3* Handle() const { return database_->getHandle(); }
+    bool IsReadOnly() const;
     const dialect::Catalog& Tables() const { return catalog_; }
 
     /// The prepared form of a statement of the dialect; a table's bare name stands for its rows.

@@ -16,23 +16,30 @@ namespace {
 
 namespace fs = std::filesystem;
 using Handle = std::unique_ptr<SQLite::Database>;
+using SetUpFile = void (*)(SQLite::Database& database);
 
-constexpr int kBusyMilliseconds = 2000;
+std::chrono::milliseconds& BusyTimeout() {
+    static std::chrono::milliseconds timeout = kBusyTimeout;
+    return timeout;
+}
 
 std::string SystemText(int error) {
     return std::generic_category().message(error);
 }
 
-[[noreturn]] void ThrowCannot(const char* what, const fs::path& file, const std::string& reason,
+[[noreturn]] void ThrowCannot(const char* action, const fs::path& file, const std::string& reason,
                               int code) {
-    throw DatabaseError(std::string("Cannot ") + what + " " + file.string() + ": " + reason, code);
+    throw DatabaseError(std::string("Cannot ") + action + " " + file.string() + ": " + reason,
+                        code);
 }
 
 int PrimaryCode(const SQLite::Exception& error) {
     return error.getErrorCode() & 0xFF;
 }
 
-std::string ReasonOf(const SQLite::Exception& error, const fs::path& file) {
+// `systemError` is the errno that came with the engine's failure, 0 if none did.
+std::string ReasonOf(const SQLite::Exception& error, int systemError, const fs::path& file) {
+    if (systemError == ENOSPC || systemError == EDQUOT) return "the disk is full";
     switch (PrimaryCode(error)) {
         case SQLITE_NOTADB:
             return "it is not a database";
@@ -49,7 +56,7 @@ std::string ReasonOf(const SQLite::Exception& error, const fs::path& file) {
             if (faccessat(AT_FDCWD, file.c_str(), R_OK, AT_EACCESS) != 0) return SystemText(errno);
             return "its folder can't be written to";
         default:
-            return error.what();
+            return systemError == 0 ? error.what() : SystemText(systemError);
     }
 }
 
@@ -88,32 +95,43 @@ void TellEngineNotToCount() {
     static_cast<void>(told);
 }
 
-Handle OpenHandle(const std::string& name, int flags) {
+Handle OpenHandle(const fs::path& file, const std::string& name, int flags, SetUpFile setUp) {
     TellEngineNotToCount();
-    return std::make_unique<SQLite::Database>(name, flags | SQLITE_OPEN_NOMUTEX, kBusyMilliseconds);
+    Handle database;
+    try {
+        database = std::make_unique<SQLite::Database>(name, flags | SQLITE_OPEN_NOMUTEX,
+                                                      static_cast<int>(BusyTimeout().count()));
+        setUp(*database);
+        return database;
+    } catch (const SQLite::Exception& error) {
+        const int systemError = database ? sqlite3_system_errno(database->getHandle()) : 0;
+        ThrowCannot("open", file, ReasonOf(error, systemError, file), PrimaryCode(error));
+    }
 }
 
-// Reads the schema: the engine opens a file only when it is first asked about.
-void Touch(SQLite::Database& database) {
+void SetUpToRead(SQLite::Database& database) {
+    database.exec("PRAGMA cache_size = -8192");
+    database.exec("PRAGMA temp_store = MEMORY");
+    // The engine opens a file only when it is first asked about.
     database.execAndGet("SELECT Count(*) FROM sqlite_master");
 }
 
-void SetUp(SQLite::Database& database) {
-    database.exec("PRAGMA cache_size = -8192");
-    database.exec("PRAGMA temp_store = MEMORY");
+void SetUpToWrite(SQLite::Database& database) {
+    SetUpToRead(database);
+    // The engine quietly falls back to reading where it may not write.
+    if (sqlite3_db_readonly(database.getHandle(), "main") != 0) {
+        throw SQLite::Exception("read-only", SQLITE_READONLY);
+    }
+    database.exec("PRAGMA journal_mode = WAL");
+    database.exec("PRAGMA synchronous = FULL");
 }
 
 Handle OpenToWrite(const fs::path& file) {
-    Handle database = OpenHandle(file.string(), SQLITE_OPEN_READWRITE);
-    SetUp(*database);
-    Touch(*database);
-    // The engine quietly falls back to reading where it may not write.
-    if (sqlite3_db_readonly(database->getHandle(), "main") != 0) {
-        ThrowCannot("open", file, "it is read-only", SQLITE_READONLY);
-    }
-    database->exec("PRAGMA journal_mode = WAL");
-    database->exec("PRAGMA synchronous = FULL");
-    return database;
+    return OpenHandle(file, file.string(), SQLITE_OPEN_READWRITE, SetUpToWrite);
+}
+
+bool IsForbidden(const DatabaseError& error) {
+    return error.Code() == SQLITE_CANTOPEN || error.Code() == SQLITE_READONLY;
 }
 
 // The name of a file that nobody changes while it is open, as the engine wants it.
@@ -141,40 +159,59 @@ bool HasUnreadLog(const fs::path& file) {
 
 Handle OpenToRead(const fs::path& file) {
     try {
-        Handle database = OpenHandle(file.string(), SQLITE_OPEN_READONLY);
-        SetUp(*database);
-        Touch(*database);
-        return database;
-    } catch (const SQLite::Exception& error) {
+        return OpenHandle(file, file.string(), SQLITE_OPEN_READONLY, SetUpToRead);
+    } catch (const DatabaseError& error) {
         // A write-ahead log needs a file beside the database even to be read. Where none can be
         // made nobody can be writing either.
-        const int code = PrimaryCode(error);
-        const bool noLogFile = code == SQLITE_CANTOPEN || code == SQLITE_READONLY;
-        if (!noLogFile || HasUnreadLog(file)) throw;
+        if (!IsForbidden(error) || HasUnreadLog(file)) throw;
     }
-    Handle database = OpenHandle(ImmutableName(file), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
-    SetUp(*database);
-    Touch(*database);
-    return database;
+    return OpenHandle(file, ImmutableName(file), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI,
+                      SetUpToRead);
+}
+
+Handle OpenAsAllowed(const fs::path& file) {
+    try {
+        return OpenToWrite(file);
+    } catch (const DatabaseError& error) {
+        if (!IsForbidden(error)) throw;
+    }
+    return OpenToRead(file);
+}
+
+Handle MakeFile(const fs::path& file) {
+    MakePrivateFile(file);
+    try {
+        return OpenToWrite(file);
+    } catch (const DatabaseError&) {
+        std::error_code ignored;
+        for (const char* companion : {"", "-wal", "-shm"}) {
+            fs::path made = file;
+            fs::remove(made += companion, ignored);
+        }
+        throw;
+    }
 }
 
 } // namespace
 
+void SetBusyTimeout(std::chrono::milliseconds timeout) {
+    BusyTimeout() = timeout;
+}
+
 std::unique_ptr<SQLite::Database> OpenDatabaseFile(const fs::path& file, OpenMode mode) {
     const fs::path full = fs::absolute(file);
-    const bool make = mode == OpenMode::Create;
-    if (make) {
-        MakePrivateFile(full);
-    } else {
-        CheckExists(full);
+    if (mode == OpenMode::Create) return MakeFile(full);
+    CheckExists(full);
+    switch (mode) {
+        case OpenMode::ReadOnly:
+            return OpenToRead(full);
+        case OpenMode::ReadWriteIfAllowed:
+            return OpenAsAllowed(full);
+        case OpenMode::ReadWrite:
+        case OpenMode::Create:
+            break;
     }
-    try {
-        return mode == OpenMode::ReadOnly ? OpenToRead(full) : OpenToWrite(full);
-    } catch (const SQLite::Exception& error) {
-        std::error_code ignored;
-        if (make) fs::remove(full, ignored);
-        ThrowCannot(make ? "make" : "open", full, ReasonOf(error, full), PrimaryCode(error));
-    }
+    return OpenToWrite(full);
 }
 
 } // namespace platform

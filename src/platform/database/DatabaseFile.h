@@ -2,6 +2,7 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 
@@ -10,9 +11,16 @@
 namespace platform {
 
 /// Opens or makes a database file as `mode` says and sets it up: write-ahead log, a commit that
-/// outlives a power cut, a modest cache. A DatabaseError names the file and the reason; a file that
-/// could not be set up is removed again if it was made here.
+/// outlives a power cut, a modest cache. Throws a DatabaseError that names the file and the reason;
+/// a file that could not be set up is removed again if it was made here.
 std::unique_ptr<SQLite::Database> OpenDatabaseFile(const std::filesystem::path& file,
                                                    OpenMode mode);
+
+/// Sets how long connections opened from now on wait for another program that is writing; a test
+/// that lets one wait in vain sets less.
+void SetBusyTimeout(std::chrono::milliseconds timeout);
+
+/// Longer than any unit of work of ours takes, and short enough for a user who waits at a screen.
+inline constexpr std::chrono::milliseconds kBusyTimeout{5000};
 
 } // namespace platform

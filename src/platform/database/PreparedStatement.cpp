@@ -2,7 +2,7 @@
 
 #include <sqlite3.h>
 
-#include "platform/values/Errors.h"
+#include "platform/database/EngineFailure.h"
 
 namespace platform {
 
@@ -14,10 +14,6 @@ std::string_view BytesOf(const void* data, int size) {
 }
 
 } // namespace
-
-void ThrowEngineError(sqlite3* database) {
-    throw DatabaseError(sqlite3_errmsg(database), sqlite3_errcode(database) & 0xFF);
-}
 
 PreparedStatement::PreparedStatement(sqlite3* database, std::string_view sql) {
     const int result = sqlite3_prepare_v3(database, sql.data(), static_cast<int>(sql.size()),

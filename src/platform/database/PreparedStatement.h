@@ -10,9 +10,6 @@ struct sqlite3_stmt;
 
 namespace platform {
 
-/// Throws the engine's last failure as a DatabaseError.
-[[noreturn]] void ThrowEngineError(sqlite3* database);
-
 /// One statement of the engine's SQL. It speaks to the engine itself, since rows by the million are
 /// read through it: the wrapper's columns each carry a counted pointer and a check.
 class PreparedStatement {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <clocale>
+#include <cstring>
 #include <cwctype>
 
 namespace platform {
@@ -142,10 +143,19 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
 }
 
 bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
-    if (!IsAscii(part)) return ToLower(text).find(ToLower(part)) != std::string::npos;
+    if (!IsAscii(part)) return FindText(ToLower(text), ToLower(part)) != std::string_view::npos;
     const auto same = [](char a, char b) { return LowerAscii(a) == LowerAscii(b); };
     return part.empty() ||
            std::search(text.begin(), text.end(), part.begin(), part.end(), same) != text.end();
+}
+
+std::size_t FindText(std::string_view text, std::string_view part, std::size_t from) {
+    if (from > text.size()) return std::string_view::npos;
+    const std::string_view rest = text.substr(from);
+    if (part.empty()) return from;
+    const void* found = memmem(rest.data(), rest.size(), part.data(), part.size());
+    if (found == nullptr) return std::string_view::npos;
+    return static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
 }
 
 std::string LeftCharacters(std::string_view text, std::size_t count) {

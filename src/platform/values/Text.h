@@ -17,6 +17,10 @@ int CompareIgnoringCase(std::string_view a, std::string_view b);
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 bool ContainsIgnoringCase(std::string_view text, std::string_view part);
 
+/// The offset of `part` in `text` at or after `from`, npos if it isn't there. Takes time in
+/// proportion to the lengths, whatever the strings hold.
+std::size_t FindText(std::string_view text, std::string_view part, std::size_t from = 0);
+
 /// The first `count` characters (not bytes) of UTF-8 text.
 std::string LeftCharacters(std::string_view text, std::size_t count);
 

@@ -5,6 +5,8 @@
 
 #include "DatabaseFixture.h"
 #include "OtherProcess.h"
+#include "platform/database/DatabaseFile.h"
+#include "platform/database/EngineFailure.h"
 
 namespace platform {
 
@@ -39,7 +41,10 @@ class ConnectionTest : public DatabaseFixture {
         fs::permissions(file, readers);
         fs::permissions(folder_.Path(), readers | entry);
     }
-    void TearDown() override { fs::permissions(folder_.Path(), fs::perms::owner_all); }
+    void TearDown() override {
+        fs::permissions(folder_.Path(), fs::perms::owner_all);
+        SetBusyTimeout(kBusyTimeout);
+    }
 
     std::string OpenError(const fs::path& file, OpenMode mode = OpenMode::ReadWrite) {
         Connection other;
@@ -97,6 +102,49 @@ TEST_F(ConnectionTest, ReadsWhereNothingMayBeWritten) {
     EXPECT_THROW(reader.Execute("DELETE FROM Person"), DatabaseError);
     const std::string error = OpenError(File());
     EXPECT_TRUE(error.ends_with("read-only") || error.ends_with("can't be written to")) << error;
+
+    Connection asAllowed;
+    asAllowed.Open(File(), OpenMode::ReadWriteIfAllowed);
+    EXPECT_TRUE(asAllowed.IsReadOnly());
+    EXPECT_EQ(asAllowed.Scalar("SELECT Name FROM Person"), Value("Ann"));
+    EXPECT_EQ(ErrorOf([&] {
+                  UnitOfWork unit(asAllowed);
+                  asAllowed.Execute("DELETE FROM Person");
+              }),
+              "These books can only be read.");
+}
+
+TEST_F(ConnectionTest, WritesWhereThatIsAllowed) {
+    connection_.Open(File(), OpenMode::ReadWriteIfAllowed);
+    EXPECT_FALSE(connection_.IsReadOnly());
+    AddPerson(1, "Ann");
+    EXPECT_NE(OpenError(folder_ / "none", OpenMode::ReadWriteIfAllowed), "no error");
+}
+
+TEST_F(ConnectionTest, SaysInPlainWordsWhatWentWrong) {
+    struct Case {
+        int code;
+        int systemError;
+        std::string_view said;
+    };
+    for (const Case& each : {
+             Case{SQLITE_BUSY, 0,
+                  "Another program is writing to these books. Try again when it has finished."},
+             {SQLITE_BUSY_SNAPSHOT, 0,
+              "Another program is writing to these books. Try again when it has finished."},
+             {SQLITE_FULL, 0, "The disk is full."},
+             {SQLITE_IOERR_SHMSIZE, ENOSPC, "The disk is full."},
+             {SQLITE_IOERR_WRITE, EDQUOT, "The disk is full."},
+             {SQLITE_IOERR_READ, EIO,
+              "The database file can't be read or written: Input/output error."},
+             {SQLITE_READONLY_DIRECTORY, 0, "These books can only be read."},
+             {SQLITE_CORRUPT_VTAB, 0, "The database file is damaged: the engine's words."},
+             // A stale errno is not the reason of a failure that is none of the disk's.
+             {SQLITE_CONSTRAINT, ENOSPC, "the engine's words"},
+         }) {
+        EXPECT_EQ(DescribeEngineFailure(each.code, each.systemError, "the engine's words"),
+                  each.said);
+    }
 }
 
 TEST_F(ConnectionTest, ReadsAFileWithOddLettersInItsName) {
@@ -112,6 +160,7 @@ TEST_F(ConnectionTest, ReadsAFileWithOddLettersInItsName) {
 TEST_F(ConnectionTest, FailsOnAFileThatAnotherProgramHoldsLocked) {
     AddPerson(1, "Ann");
     connection_.Close();
+    SetBusyTimeout(std::chrono::milliseconds(20));
     const OtherProcess other([&] {
         sqlite3* database = nullptr;
         sqlite3_open(File().c_str(), &database);
@@ -135,9 +184,14 @@ TEST_F(ConnectionTest, ReadsOnButDoesNotWriteWhileAnotherProgramWrites) {
         writer.Execute("UPDATE Person SET Name = 'Bob'");
     });
     ASSERT_TRUE(other.DidWork());
+    SetBusyTimeout(std::chrono::milliseconds(20));
     connection_.Open(File());
     EXPECT_EQ(Single("SELECT Name FROM Person"), "Ann");
-    EXPECT_EQ(ErrorOf([&] { AddPerson(2, "Cid"); }), "database is locked");
+    constexpr const char* kBusy =
+        "Another program is writing to these books. Try again when it has finished.";
+    EXPECT_EQ(ErrorOf([&] { AddPerson(2, "Cid"); }), kBusy);
+    // A unit of work is a write from its start: nothing read in it can be out of date.
+    EXPECT_EQ(ErrorOf([&] { const UnitOfWork unit(connection_); }), kBusy);
     other.Kill();
     AddPerson(2, "Cid");
     EXPECT_EQ(Single("SELECT Count(*) FROM Person WHERE Name <> 'Bob'"), "2");

@@ -98,7 +98,7 @@ TEST_F(UnitOfWorkTest, AFullDiskLeavesTheDataAsBefore) {
             AddPerson(id, long_name);
         unit.Commit();
     };
-    EXPECT_EQ(ErrorOf(fill), "database or disk is full");
+    EXPECT_EQ(ErrorOf(fill), "The disk is full.");
     EXPECT_EQ(Ids(), "1 ");
     AddPerson(2, "Bob");
     EXPECT_EQ(Ids(), "1 2 ");

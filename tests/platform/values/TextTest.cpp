@@ -61,5 +61,18 @@ TEST(Text, CountsCharactersNotBytes) {
     EXPECT_EQ(LeftCharacters("\xFFž1", 2), "\xFFž");
 }
 
+TEST(Text, IsFoundInTimeThatGrowsWithItsLength) {
+    // A search that starts again at each character takes minutes for this.
+    std::string text(1'000'001, 'a');
+    text.back() = 'b';
+    const std::string part = text.substr(600'000);
+    EXPECT_EQ(FindText(text, part), 600'000);
+    EXPECT_EQ(FindText(text, part + "c"), std::string_view::npos);
+    EXPECT_EQ(FindText(text, "b", 1'000'000), 1'000'000);
+    EXPECT_EQ(FindText(text, "a", 1'000'000), std::string_view::npos);
+    EXPECT_EQ(FindText("abc", "", 3), 3);
+    EXPECT_EQ(FindText("abc", "", 4), std::string_view::npos);
+}
+
 } // namespace
 } // namespace platform

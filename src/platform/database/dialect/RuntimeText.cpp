@@ -69,15 +69,21 @@ void Find(const RuntimeCall& call) {
     const std::string text = ToLower(call.Text(1));
     const std::string part = ToLower(call.Text(2));
     const auto start = std::max<std::int64_t>(1, call.Whole(0));
-    std::int64_t character = 0;
-    for (std::size_t at = 0; at <= text.size(); ++at) {
-        if (at < text.size() && !StartsCharacter(text[at])) continue;
+    std::size_t at = 0;
+    std::int64_t character = 1;
+    const auto step = [&] {
+        ++at;
+        while (at < text.size() && !StartsCharacter(text[at]))
+            ++at;
         ++character;
-        if (character >= start && text.compare(at, part.size(), part) == 0) {
-            return call.Answer(character);
-        }
-    }
-    call.Answer(std::int64_t{0});
+    };
+    while (character < start && at < text.size())
+        step();
+    const std::size_t found = character < start ? std::string_view::npos : FindText(text, part, at);
+    if (found == std::string_view::npos) return call.Answer(std::int64_t{0});
+    while (at < found)
+        step();
+    call.Answer(character);
 }
 
 void Like(const RuntimeCall& call) {
