@@ -7,6 +7,7 @@
 #include "core/Globals.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
+#include "core/Session.h"
 #include "platform/values/Text.h"
 
 namespace core {
@@ -20,9 +21,12 @@ namespace {
 // stays small in memory.
 constexpr std::size_t kRowsPerCommit = 50'000;
 
+/// A record whose name is empty (its description then begins with the comma behind the name) is
+/// called by its number.
 std::string Describe(std::int16_t kind, std::int32_t id) {
     std::string description = GetDescription(kind, id, 0, false);
-    if (!description.empty()) return description;
+    const std::string_view shown = platform::Trim(description);
+    if (!shown.empty() && shown.front() != ',') return description;
     return platform::ToLower(RecordKindName(kind)) + " " + std::to_string(id);
 }
 
@@ -57,28 +61,70 @@ class Outcome {
     std::vector<std::pair<std::int32_t, std::string>> faults_;
 };
 
+/// The run over the rows of one select.
+class Batches {
+  public:
+    Batches(std::int16_t kind, std::string_view select, std::string_view idField,
+            const UpdateOne& update)
+        : select_(select), idField_(idField), update_(update), outcome_(kind) {
+        rows_.Open(App().Connection, select, platform::CursorMode::Updatable);
+    }
+
+    /// Updates and keeps the next records; false when all are done.
+    bool DoNext() {
+        if (rows_.Eof()) return false;
+        UnitOfWork unit(App().Connection);
+        for (; !rows_.Eof() && !outcome_.IsFull(); rows_.MoveNext())
+            UpdateCurrent();
+        unit.Commit();
+        return true;
+    }
+
+    void Tell(RunListener& listener) { outcome_.Tell(listener); }
+
+  private:
+    void UpdateCurrent() {
+        const std::int32_t id = rows_[idField_].AsLong();
+        try {
+            outcome_.Add(id, update_(rows_));
+        } catch (const platform::ConflictError&) {
+            rows_.CancelUpdate();
+            UpdateAsStored(id);
+        } catch (const platform::Error& error) {
+            rows_.CancelUpdate();
+            outcome_.AddFault(id, error.what());
+        }
+    }
+
+    /// Another program has changed or deleted the record since the rows were read: it may have been
+    /// brought up to date already, so that everything is decided again on what is stored now.
+    void UpdateAsStored(std::int32_t id) {
+        std::string sql = select_;
+        AddWhere(sql, idField_ + " = ?");
+        try {
+            Recordset row;
+            row.Open(App().Connection, sql, platform::CursorMode::Updatable, {id});
+            for (; !row.Eof(); row.MoveNext())
+                outcome_.Add(id, update_(row));
+        } catch (const platform::Error& error) {
+            outcome_.AddFault(id, error.what());
+        }
+    }
+
+    std::string select_;
+    std::string idField_;
+    const UpdateOne& update_;
+    Recordset rows_;
+    Outcome outcome_;
+};
+
 } // namespace
 
 void UpdateEach(std::int16_t kind, std::string_view select, std::string_view idField,
                 const UpdateOne& update, RunListener& listener) {
-    Recordset rows;
-    rows.Open(App().Connection, select, platform::CursorMode::Updatable);
-    Outcome outcome(kind);
-    const auto updateCurrent = [&] {
-        const std::int32_t id = rows[idField].AsLong();
-        try {
-            outcome.Add(id, update(rows));
-        } catch (const platform::Error& error) {
-            rows.CancelUpdate();
-            outcome.AddFault(id, error.what());
-        }
-    };
-    while (!rows.Eof()) {
-        UnitOfWork unit(App().Connection);
-        for (; !rows.Eof() && !outcome.IsFull(); rows.MoveNext())
-            updateCurrent();
-        unit.Commit();
-        outcome.Tell(listener);
+    Batches batches(kind, select, idField, update);
+    while (batches.DoNext()) {
+        batches.Tell(listener);
         LetMessagesRun();
     }
 }

@@ -10,13 +10,15 @@
 
 namespace core {
 
-/// Brings one record, the current row of an updatable row set, up to date, and answers what was
-/// posted for it; the categories must outlive the run. What it throws leaves the record as it was.
+/// Brings one record, the current row of an updatable row set, up to date, and returns what was
+/// posted for it; the categories must outlive the run. Throws if it fails, and leaves the record as
+/// it was. Whatever it posts must be undone if its write of the row is a ConflictError.
 using UpdateOne = std::function<std::vector<PostedRow>(platform::Recordset& row)>;
 
-/// Does `update` with every row of `select`, in its order, for records of `kind` with the key
-/// `idField`. Many records are kept at a time, and told to the listener once they are; one that
-/// fails is told, left as it was, and the others go on. Messages run between the batches.
+/// Calls `update` with every row of `select`, in its order, for records of `kind` with the key
+/// `idField`. Many records are committed at a time and then reported to the listener; one that
+/// fails is reported and left as it was, and the others go on. A record that another program has
+/// changed since it was read is read again first. Messages run between the batches.
 void UpdateEach(std::int16_t kind, std::string_view select, std::string_view idField,
                 const UpdateOne& update, RunListener& listener);
 

@@ -66,6 +66,8 @@ bool CreateDefaultConfiguration(platform::Connection& connection) {
     std::string path;
     if (!connection.IsOpen() && !OpenDatabase(connection, path)) return false;
     try {
+        // As a write from the start: two programs that start at the same time must not both add it.
+        platform::UnitOfWork unit(connection);
         platform::Recordset rows;
         rows.Open(connection, "SELECT * FROM Configuration", platform::CursorMode::Updatable);
         // A count that failed may have made the table look empty.
@@ -75,6 +77,7 @@ bool CreateDefaultConfiguration(platform::Connection& connection) {
             if (!field.newValue.IsNull()) rows[field.name].Set(field.newValue);
         }
         rows.Update();
+        unit.Commit();
         return true;
     } catch (const std::exception&) {
         return false;

@@ -4,6 +4,7 @@
 #include <exception>
 #include <utility>
 
+#include "core/Globals.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
 
@@ -37,6 +38,7 @@ void RegisterRunStep(RunStep step, RunStepFunction work) {
 }
 
 void UpdateRecords(RunListener& listener) {
+    if (App().Connection.IsReadOnly()) return;
     for (const Step& step : Steps()) {
         if (!step.work) continue;
         LetMessagesRun();

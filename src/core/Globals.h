@@ -30,6 +30,8 @@ struct Globals {
     std::string DbFile;
     /// The session: opened at start, closed at shut-down, and no other.
     platform::Connection Connection;
+    /// Why the database could not be opened, in one line for the user; empty if it could.
+    std::string OpenFault;
 
     /// Where diagnostic lines go; null while the log is off.
     std::ostream* DiagFile = nullptr;

@@ -1,5 +1,6 @@
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "core/Globals.h"
 #include "core/IdStart.h"
@@ -23,6 +24,9 @@ std::int32_t NextIds(std::int32_t count) {
     LetMessagesRun();
     if (count < 1) throw platform::Error("fewer than one record identifier was asked for");
 
+    // Another program may take identifiers too, so that the read must be a part of the write.
+    std::optional<platform::UnitOfWork> unit;
+    if (!App().Connection.InUnitOfWork()) unit.emplace(App().Connection);
     platform::Recordset rows;
     rows.Open(App().Connection, "SELECT NextId FROM Configuration",
               platform::CursorMode::Updatable);
@@ -36,6 +40,7 @@ std::int32_t NextIds(std::int32_t count) {
     }
     next.Set(first + count);
     rows.Update();
+    if (unit) unit->Commit();
     return first;
 }
 

@@ -29,7 +29,7 @@ constexpr std::string_view kDuplicateRecord =
 
 } // namespace
 
-bool OneRecordFound(std::int16_t count) {
+bool OneRecordFound(std::int64_t count) {
     auto& dialogs = platform::TheDialogs();
     if (count < 1) {
         dialogs.ShowMessage("No Record Found", kNoRecord, platform::Icon::Information);

@@ -17,13 +17,15 @@ bool OpenDatabase(platform::Connection& connection, std::string& path) {
     std::ostream* diagFile = App().DiagFile;
     WriteDiag(diagFile, "{ } Opening database at " + path);
 
+    App().OpenFault.clear();
     const auto fail = [&](int number, std::string_view description) {
+        App().OpenFault = description;
         WriteDiag(diagFile,
                   fmt::format("{{*}} Error {} opening database {{{}}}", number, description));
         return false;
     };
     try {
-        connection.Open(path);
+        connection.Open(path, platform::OpenMode::ReadWriteIfAllowed);
         return true;
     } catch (const platform::DatabaseError& error) {
         return fail(error.Code(), error.what());
@@ -50,20 +52,23 @@ bool ExecuteSql(std::string_view sql, std::initializer_list<platform::Value> par
     }
 }
 
-std::int16_t OpenRecordset(platform::Recordset& rows, std::string_view sql, Access access,
+std::int64_t OpenRecordset(platform::Recordset& rows, std::string_view sql, Access access,
                            std::initializer_list<platform::Value> parameters) {
     const auto mode = access == Access::ReadOnly ? platform::CursorMode::ReadOnly
                                                  : platform::CursorMode::Updatable;
     try {
         rows.Close();
         rows.Open(App().Connection, sql, mode, parameters);
-        const std::int64_t count = rows.RecordCount();
-        if (count > std::numeric_limits<std::int16_t>::max()) return -1;
-        return static_cast<std::int16_t>(count);
+        return rows.RecordCount();
     } catch (const std::exception&) {
         CloseRecordset(rows);
         return -1;
     }
+}
+
+std::int16_t CountIn16Bits(std::int64_t count) {
+    if (count > std::numeric_limits<std::int16_t>::max()) return -1;
+    return static_cast<std::int16_t>(count);
 }
 
 bool OpenTableToAppend(platform::Recordset& rows, std::string_view table) {

@@ -18,7 +18,8 @@ namespace core {
 // -1, 0 or an unchanged output, unless it says otherwise; whoever must know the reason talks to the
 // connection itself.
 
-/// Opens `path`, or the process's database when it is empty (then `path` is set to its file).
+/// Opens `path`, or the process's database if it is empty (then `path` is set to its file); only to
+/// read if the file can't be written to. What went wrong is kept in App().OpenFault.
 bool OpenDatabase(platform::Connection& connection, std::string& path);
 bool CloseDatabase(platform::Connection& connection);
 
@@ -27,11 +28,12 @@ bool ExecuteSql(std::string_view sql, std::initializer_list<platform::Value> par
 
 enum class Access { ReadOnly, ReadWrite };
 
-/// Opens `rows` on a select (or on a table's bare name) and answers the number of rows; -1 on any
-/// failure. The count has 16 bits: past 32767 rows it answers -1 too, yet the row set stands open
-/// and knows its true count.
-std::int16_t OpenRecordset(platform::Recordset& rows, std::string_view sql, Access access,
+/// Opens `rows` on a select (or on a table's bare name) and returns the number of rows; -1 on any
+/// failure.
+std::int64_t OpenRecordset(platform::Recordset& rows, std::string_view sql, Access access,
                            std::initializer_list<platform::Value> parameters = {});
+/// The same count for a routine whose answer has 16 bits: -1 past 32767 rows.
+std::int16_t CountIn16Bits(std::int64_t count);
 /// Opens a table to add rows to it, without fetching any.
 bool OpenTableToAppend(platform::Recordset& rows, std::string_view table);
 void CloseRecordset(platform::Recordset& rows);
@@ -61,7 +63,8 @@ struct TableTotals {
 /// The tables of an open database, and the sums of their fields and rows.
 TableTotals ListTables(platform::Connection& connection);
 
-/// A new record identifier, unique in the whole database. A failure is thrown on.
+/// A new record identifier, unique in the whole database, also while another program takes some.
+/// Throws on failure.
 std::int32_t NextId();
 /// The first of `count` consecutive new identifiers, for a routine that writes many rows at once.
 std::int32_t NextIds(std::int32_t count);
