@@ -20,28 +20,15 @@ using platform::Interval;
 
 namespace {
 
-/// Takes back a database that was begun, unless the work is kept.
-class Attempt {
+/// The process's session on a file, closed at the end of its scope.
+class OpenSession {
   public:
-    explicit Attempt(std::filesystem::path folder) : folder_(std::move(folder)) {}
-    ~Attempt() {
-        core::CloseDatabase(core::App().Connection);
-        if (kept_) return;
-        std::error_code ignored;
-        for (const char* ending : {"", "-wal", "-shm"}) {
-            std::filesystem::remove(folder_ / (std::string(store::kDatabaseFile) + ending),
-                                    ignored);
-        }
-        std::filesystem::remove(folder_ / store::kVersionFile, ignored);
-    }
-    Attempt(const Attempt&) = delete;
-    Attempt& operator=(const Attempt&) = delete;
+    explicit OpenSession(const std::filesystem::path& file) { Session().Open(file); }
+    ~OpenSession() { core::CloseDatabase(Session()); }
+    OpenSession(const OpenSession&) = delete;
+    OpenSession& operator=(const OpenSession&) = delete;
 
-    void Keep() { kept_ = true; }
-
-  private:
-    std::filesystem::path folder_;
-    bool kept_ = false;
+    static Connection& Session() { return core::App().Connection; }
 };
 
 /// Identifiers begin at the minute of midnight, so that the same day gives the same ones.
@@ -79,19 +66,19 @@ void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress
 
 void MakeSamplePortfolio(const std::filesystem::path& folder, int units, Date today,
                          const SampleProgress& progress) {
-    store::CreateDatabase(folder);
-    Attempt attempt(folder);
+    store::NewDatabase database(folder);
     core::App().DbPath = platform::AddBackslash(folder.string());
     core::App().DbFile = core::App().DbPath + std::string(store::kDatabaseFile);
-    Connection& connection = core::App().Connection;
-    connection.Open(core::App().DbFile);
     platform::SetToday(today);
-    MakeSettings(connection, today);
-    const store::SampleCast cast =
-        store::WriteSampleRecords(connection, {units, today, core::NextId});
-    core::LoadConfiguration();
-    LiveThrough(cast, today, progress);
-    attempt.Keep();
+    {
+        const OpenSession session(database.Draft());
+        MakeSettings(OpenSession::Session(), today);
+        const store::SampleCast cast =
+            store::WriteSampleRecords(OpenSession::Session(), {units, today, core::NextId});
+        core::LoadConfiguration();
+        LiveThrough(cast, today, progress);
+    }
+    database.Publish();
 }
 
 } // namespace shell

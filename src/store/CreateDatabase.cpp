@@ -1,13 +1,9 @@
 #include "store/CreateDatabase.h"
 
 #include <string>
-#include <system_error>
-
-#include <fmt/core.h>
 
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
-#include "store/NewFile.h"
 #include "store/Tables.h"
 #include "store/TransCategories.h"
 
@@ -22,18 +18,22 @@ void CreateTables(platform::Connection& connection) {
     work.Commit();
 }
 
-void CreateDatabase(const fs::path& directory) {
-    const fs::path file = directory / kDatabaseFile;
-    NewFolder folder(directory);
-    NewFile database(file);
+NewDatabase::NewDatabase(const fs::path& directory)
+    : directory_(directory), folder_(directory), file_(directory / kDatabaseFile) {
     platform::Connection connection;
-    connection.Open(database.Draft(), platform::OpenMode::Create);
+    connection.Open(file_.Draft(), platform::OpenMode::Create);
     CreateTables(connection);
-    connection.Close();
+}
+
+void NewDatabase::Publish() {
     // The version first: a database is never seen without it, while a version alone is no database.
-    platform::WriteFileAtomically(directory / kVersionFile, std::to_string(kDatabaseVersion));
-    database.Publish();
-    folder.Keep();
+    platform::WriteFileAtomically(directory_ / kVersionFile, std::to_string(kDatabaseVersion));
+    file_.Publish();
+    folder_.Keep();
+}
+
+void CreateDatabase(const fs::path& directory) {
+    NewDatabase(directory).Publish();
 }
 
 } // namespace store

@@ -47,6 +47,12 @@ void NewFile::RemoveDraft() const {
 void NewFile::Publish() {
     RefuseTaken(file_);
     std::error_code error;
+    // A log that could not be written back when the draft was closed holds a part of it.
+    fs::path log = draft_;
+    if (fs::exists(log += "-wal", error)) {
+        throw platform::Error(
+            fmt::format("{} can't be made: it could not be written to the disk", file_.string()));
+    }
     fs::rename(draft_, file_, error);
     if (error) {
         throw platform::Error(fmt::format("{} can't be made: {}", file_.string(), error.message()));

@@ -95,6 +95,14 @@ TEST(CreateDatabase, GoesOverADraftThatACrashLeft) {
     EXPECT_THAT(NamesIn(folder.Path()), testing::UnorderedElementsAre("Vestrel.mdb", "Version"));
 }
 
+TEST(CreateDatabase, GivesNoDraftItsNameThatWasNotWrittenToTheDiskWhole) {
+    const support::TemporaryFolder folder;
+    store::NewDatabase database(folder.Path());
+    Write(folder / "Vestrel.mdb.new-wal", "what could not be written back");
+    EXPECT_THROW(database.Publish(), platform::Error);
+    EXPECT_FALSE(fs::exists(folder / "Vestrel.mdb"));
+}
+
 class Categories : public testing::Test {
   protected:
     Categories() {
