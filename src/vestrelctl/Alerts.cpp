@@ -37,7 +37,7 @@ void AddAlerts(CLI::App& line, const Options& options) {
     CLI::App* command =
         line.add_subcommand("alerts", "What needs attention, and the summary, as CSV");
     command->callback([&options] {
-        OpenBooks(options);
+        OpenBooks(options, Purpose::Read);
         core::LoadPreferences();
         PrintAlerts();
         std::cout << '\n';

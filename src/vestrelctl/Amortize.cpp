@@ -45,7 +45,7 @@ void AddAmortize(CLI::App& line, const Options& options) {
     auto id = std::make_shared<std::int32_t>(0);
     command->add_option("id", *id, "The mortgage's IdMortgage")->required();
     command->callback([id, &options] {
-        OpenDatabase(options);
+        OpenDatabase(options, Purpose::Read);
         PrintSchedule(*id);
     });
 }

@@ -7,14 +7,16 @@
 
 namespace vestrelctl {
 
-/// What stands before the command's name.
+/// The options before the command's name.
 struct Options {
     /// The database directory; the registered default without it.
     std::optional<std::filesystem::path> data;
+    /// Whether nothing may be written, even if the books allow it.
+    bool readOnly = false;
 };
 
 // Each command adds itself to the command line. Its work runs while the line is parsed and throws a
-// platform::Error where it fails.
+// platform::Error if it fails.
 void AddInit(CLI::App& line);
 void AddRegister(CLI::App& line);
 void AddUpdate(CLI::App& line, const Options& options);

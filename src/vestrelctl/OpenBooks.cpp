@@ -16,9 +16,19 @@ void FindGivenDatabase(const std::filesystem::path& folder) {
     core::App().DbFile = core::App().DbPath + "Vestrel.mdb";
 }
 
+platform::OpenMode ModeOf(const Options& options, Purpose purpose) {
+    using platform::OpenMode;
+    if (purpose == Purpose::Read) {
+        return options.readOnly ? OpenMode::ReadOnly : OpenMode::ReadWriteIfAllowed;
+    }
+    if (options.readOnly) throw platform::Error("--read-only: this command writes to the books");
+    return OpenMode::ReadWrite;
+}
+
 } // namespace
 
-void OpenDatabase(const Options& options) {
+void OpenDatabase(const Options& options, Purpose purpose) {
+    const platform::OpenMode mode = ModeOf(options, purpose);
     if (options.data) {
         FindGivenDatabase(*options.data);
     } else {
@@ -36,11 +46,11 @@ void OpenDatabase(const Options& options) {
         throw platform::Error(fmt::format("{} has version {}; version {} is needed", app.DbFile,
                                           version, app.DbVersionRequired));
     }
-    core::App().Connection.Open(app.DbFile);
+    core::App().Connection.Open(app.DbFile, mode);
 }
 
-void OpenBooks(const Options& options) {
-    OpenDatabase(options);
+void OpenBooks(const Options& options, Purpose purpose) {
+    OpenDatabase(options, purpose);
     core::LoadBooks();
 }
 

@@ -4,12 +4,16 @@
 
 namespace vestrelctl {
 
-/// Finds the database that the options name and opens the session on it. An Error that says what is
-/// wrong with it: missing, too old, locked, no database.
-void OpenDatabase(const Options& options);
+/// What a command does with the books. Books that can't be written to open for reading.
+enum class Purpose { Read, Write };
 
-/// The same as the program does at its start: with the settings of the books, which a new database
-/// receives now.
-void OpenBooks(const Options& options);
+/// Finds the database that the options name and opens the session on it. Throws an Error that says
+/// what is wrong with it: missing, too old, locked, damaged, or only readable when the command
+/// writes.
+void OpenDatabase(const Options& options, Purpose purpose);
+
+/// Opens them as the program does at its start: with the settings of the books, which a new
+/// database receives now. Throws an Error as OpenDatabase does.
+void OpenBooks(const Options& options, Purpose purpose);
 
 } // namespace vestrelctl

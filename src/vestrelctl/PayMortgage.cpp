@@ -1,40 +1,51 @@
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
-#include "core/RecordKinds.h"
+#include <fmt/core.h>
+
 #include "mortgages/MortgagePayment.h"
 #include "platform/values/Errors.h"
+#include "platform/values/Text.h"
+#include "vestrelctl/Arguments.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
-#include "vestrelctl/Words.h"
+#include "vestrelctl/Output.h"
 
 namespace vestrelctl {
 
 namespace {
 
-struct MortgageWords {
+struct PayMortgageArguments {
     std::int32_t mortgage = 0;
     std::string date;
-    std::int32_t from = 0;
-    std::int32_t to = 0;
+    std::optional<std::int32_t> from;
+    std::optional<std::int32_t> to;
     std::string check;
 };
 
-void SetAccount(std::int32_t given, std::int32_t& account, std::string& name) {
-    if (given == 0) return;
-    account = given;
-    name = NameOf(core::kAccount, given);
+void SetAccount(std::string_view option, std::optional<std::int32_t> given, std::int32_t& account,
+                std::string& name) {
+    if (given) {
+        account = *given;
+        name = AccountName(option, *given);
+    }
+    if (account == 0 && name.empty()) {
+        throw platform::Error(
+            fmt::format("{}: the mortgage doesn't name this account; name it", option));
+    }
 }
 
-void Pay(const MortgageWords& words) {
-    mortgages::MortgagePayment payment = mortgages::ProposeMortgagePayment(words.mortgage);
-    if (!words.date.empty()) payment.dateEffective = platform::Date::Parse(words.date);
-    SetAccount(words.from, payment.fromAccount, payment.fromName);
-    SetAccount(words.to, payment.toAccount, payment.toName);
-    payment.checkNumber = words.check;
-    mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
+void Pay(const PayMortgageArguments& given) {
+    mortgages::MortgagePayment payment = mortgages::ProposeMortgagePayment(given.mortgage);
     if (payment.charges.empty()) throw platform::Error("There is no open charge to pay");
+    SetAccount("--from", given.from, payment.fromAccount, payment.fromName);
+    SetAccount("--to", given.to, payment.toAccount, payment.toName);
+    if (!given.date.empty()) payment.dateEffective = platform::Date::Parse(given.date);
+    payment.checkNumber = given.check;
+    payment.description = platform::Trim(payment.description);
+    mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
     const std::int32_t id =
         mortgages::SubmitMortgagePayment(payment, mortgages::OpenedFrom::Elsewhere);
     PrintPaid(id, payment.charges.size(), payment.PaidAmount());
@@ -44,17 +55,24 @@ void Pay(const MortgageWords& words) {
 
 void AddPayMortgage(CLI::App& line, const Options& options) {
     CLI::App* command = line.add_subcommand("pay-mortgage", "Pay all open charges of a mortgage");
-    auto words = std::make_shared<MortgageWords>();
-    command->add_option("mortgage", words->mortgage, "The mortgage's IdMortgage")->required();
-    command->add_option("--date", words->date, "The day of the payment, today without it")
+    auto given = std::make_shared<PayMortgageArguments>();
+    command->add_option("mortgage", given->mortgage, "The mortgage's IdMortgage")->required();
+    command->add_option("--date", given->date, "The day of the payment, by default today")
         ->type_name("MM/DD/YYYY")
-        ->check(IsDay());
-    command->add_option("--from", words->from, "The paying account")->type_name("ACCOUNT");
-    command->add_option("--to", words->to, "The receiving account")->type_name("ACCOUNT");
-    command->add_option("--check", words->check, "The check's number")->type_name("N");
-    command->callback([words, &options] {
-        OpenBooks(options);
-        Pay(*words);
+        ->check(IsDate());
+    command
+        ->add_option("--from", given->from, "The paying account, by default the one that paid last")
+        ->type_name("ACCOUNT")
+        ->check(IsId());
+    command->add_option("--to", given->to, "The receiving account, by default the lender")
+        ->type_name("ACCOUNT")
+        ->check(IsId());
+    command->add_option("--check", given->check, "The check's number")
+        ->type_name("N")
+        ->check(IsValue());
+    command->callback([given, &options] {
+        OpenBooks(options, Purpose::Write);
+        BookAndPrint([&] { Pay(*given); });
     });
 }
 

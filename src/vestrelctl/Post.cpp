@@ -1,3 +1,4 @@
+#include <array>
 #include <cstdint>
 #include <iostream>
 #include <memory>
@@ -8,55 +9,98 @@
 #include "books/Categories.h"
 #include "books/PostTransaction.h"
 #include "core/Globals.h"
-#include "core/RecordKinds.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
+#include "platform/values/Text.h"
+#include "vestrelctl/Arguments.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
-#include "vestrelctl/Words.h"
+#include "vestrelctl/Output.h"
 
 namespace vestrelctl {
 
 namespace {
 
-struct PostWords {
+using books::Transaction;
+
+struct PostArguments {
     std::string debit;
     std::string credit;
     std::string amount;
     std::string category;
-    books::Transaction transaction;
+    Transaction transaction;
     std::string date;
 };
 
-/// "account:60", "tenant:30", or "name:Hardware Store" for somebody without a record.
-books::Party ReadParty(const std::string& text) {
-    const auto colon = text.find(':');
-    const std::string kind = text.substr(0, colon);
-    const std::string who = colon == std::string::npos ? std::string() : text.substr(colon + 1);
-    if (kind == "name" && !who.empty()) return {core::kAccount, 0, who};
-    const std::int16_t type = kind == "account"  ? core::kAccount
-                              : kind == "tenant" ? core::kTenant
-                                                 : core::kNone;
-    if (type == core::kNone || who.empty()) {
-        throw platform::Error(
-            fmt::format("'{}' is no party: account:ID, tenant:ID or name:TEXT", text));
+constexpr std::int16_t kEntered = 0;
+constexpr std::int16_t kDeposit = 3;
+constexpr std::int16_t kRefunded = 3;
+constexpr std::int16_t kChargedOff = 4;
+
+/// An option that names a record that the transaction is about.
+struct Reference {
+    const char* option;
+    const char* name;
+    const char* select; ///< finds the record by its id
+    std::int32_t Transaction::*id;
+};
+
+constexpr std::array<Reference, 6> kReferences = {
+    {{"--lease", "lease", "SELECT IdLease FROM Lease WHERE IdLease = ?", &Transaction::idLease},
+     {"--tenant", "tenant", "SELECT IdTenant FROM Tenant WHERE IdTenant = ?",
+      &Transaction::idTenant},
+     {"--building", "building", "SELECT IdBuilding FROM Building WHERE IdBuilding = ?",
+      &Transaction::idBuilding},
+     {"--unit", "unit", "SELECT IdUnit FROM Unit WHERE IdUnit = ?", &Transaction::idUnit},
+     {"--mortgage", "mortgage", "SELECT IdMortgage FROM Mortgage WHERE IdMortgage = ?",
+      &Transaction::idMortgage},
+     {"--work-order", "work order", "SELECT IdWorkOrder FROM WorkOrder WHERE IdWorkOrder = ?",
+      &Transaction::idWorkOrder}}};
+
+void CheckReferences(const Transaction& transaction) {
+    for (const Reference& each : kReferences) {
+        const std::int32_t id = transaction.*each.id;
+        if (id == 0 || core::App().Connection.Scalar(each.select, {id})) continue;
+        throw platform::Error(fmt::format("{}: there is no {} {}", each.option, each.name, id));
     }
-    const std::int32_t id = platform::StrToInt32(who);
-    return {type, id, NameOf(type, id)};
 }
 
-/// A category of the books by its text, or any with its class: "Parking|0".
+/// A deposit's transaction writes a row into the ledger of its lease, which reads class and flags.
+void CheckClass(const Transaction& transaction) {
+    const bool isDeposit = transaction.transactionClass == kDeposit;
+    if (isDeposit && transaction.flags != kRefunded && transaction.flags != kChargedOff) {
+        throw platform::Error("--flags: class 3 needs 3 (refunded) or 4 (charged off)");
+    }
+    if (!isDeposit && transaction.flags != 0) {
+        throw platform::Error("--flags: only a transaction of class 3 has flags");
+    }
+    if (isDeposit && transaction.idLease == 0) {
+        throw platform::Error("--lease: class 3 needs the lease that the deposit belongs to");
+    }
+}
+
+/// A category of the books by its name, or any other with its class: "Parking|0".
 books::Category ReadCategory(const std::string& text) {
-    if (text.empty()) return {std::string(books::kNoCategory), books::Ien::Income};
-    if (text.find('|') != std::string::npos) return books::ParseCategory(text);
+    const auto bar = text.find('|');
+    if (platform::Trim(text.substr(0, bar)).empty()) {
+        throw platform::Error("--category: name a category");
+    }
+    if (bar != std::string::npos) {
+        const std::string ien = text.substr(bar + 1);
+        if (ien == "0" || ien == "1" || ien == "2") return books::ParseCategory(text);
+        throw platform::Error(
+            fmt::format("--category: '{}' ends in no class: 0 for income, 1 for expense, 2 for "
+                        "neither",
+                        text));
+    }
     const auto ien =
         core::App().Connection.Scalar("SELECT IEN FROM TransCategory WHERE Category = ?", {text});
     if (!ien || ien->IsNull()) {
         throw platform::Error(
-            fmt::format("There is no category '{0}'; give its class: '{0}|0' for income, 1 for "
-                        "expense, 2 for neither",
+            fmt::format("--category: there is no category '{0}'; give its class: "
+                        "'{0}|0' for income, 1 for expense, 2 for neither",
                         text));
     }
     return {text, books::Ien{ien->AsInteger()}};
@@ -64,11 +108,11 @@ books::Category ReadCategory(const std::string& text) {
 
 platform::Currency ReadAmount(const std::string& text) {
     const auto amount = platform::TryParseMoney(text);
-    if (!amount) throw platform::Error(fmt::format("'{}' is no amount of money", text));
+    if (!amount) throw platform::Error(fmt::format("--amount: '{}' is not an amount", text));
     return *amount;
 }
 
-/// The new row, and what it triggered.
+/// Prints the new row, and those that it triggered.
 void PrintFrom(std::int32_t firstId) {
     platform::Recordset rows;
     rows.Open(core::App().Connection,
@@ -84,65 +128,64 @@ void PrintFrom(std::int32_t firstId) {
     }
 }
 
-void Post(const PostWords& words) {
-    books::Transaction transaction = words.transaction;
+void Post(const PostArguments& given) {
+    Transaction transaction = given.transaction;
     transaction.dateEffective =
-        words.date.empty() ? platform::Today() : platform::Date::Parse(words.date);
-    transaction.debit = ReadParty(words.debit);
-    transaction.credit = ReadParty(words.credit);
-    transaction.amount = ReadAmount(words.amount);
-    const books::Category category = ReadCategory(words.category);
+        given.date.empty() ? platform::Today() : platform::Date::Parse(given.date);
+    transaction.debit = ReadParty("--debit", given.debit);
+    transaction.credit = ReadParty("--credit", given.credit);
+    transaction.amount = ReadAmount(given.amount);
+    const books::Category category = ReadCategory(given.category);
     transaction.taxCategory = category.text;
     transaction.ien = category.ien;
+    CheckClass(transaction);
+    CheckReferences(transaction);
     PrintFrom(books::PostTransaction(transaction));
 }
 
-void AddReferences(CLI::App& command, books::Transaction& transaction) {
-    const auto add = [&](const char* name, std::int32_t& id) {
-        command.add_option(name, id, "A record that it is about")
+void AddReferences(CLI::App& command, Transaction& transaction) {
+    for (const Reference& each : kReferences) {
+        command.add_option(each.option, transaction.*each.id, "A record that it is about")
             ->type_name("ID")
+            ->check(IsId())
             ->group("References");
-    };
-    add("--lease", transaction.idLease);
-    add("--tenant", transaction.idTenant);
-    add("--building", transaction.idBuilding);
-    add("--unit", transaction.idUnit);
-    add("--mortgage", transaction.idMortgage);
-    add("--work-order", transaction.idWorkOrder);
+    }
 }
 
 } // namespace
 
 void AddPost(CLI::App& line, const Options& options) {
     CLI::App* command = line.add_subcommand("post", "Post one transaction");
-    auto words = std::make_shared<PostWords>();
-    constexpr const char* kParty = "account:ID|tenant:ID|name:TEXT";
-    command->add_option("--debit", words->debit, "Who pays")->required()->type_name(kParty);
-    command->add_option("--credit", words->credit, "Who is paid")->required()->type_name(kParty);
-    command->add_option("--amount", words->amount, "How much")->required()->type_name("AMOUNT");
-    command->add_option("--date", words->date, "The day of the transaction, today without it")
+    auto given = std::make_shared<PostArguments>();
+    const auto addText = [&](const char* name, std::string& value, const char* help) {
+        return command->add_option(name, value, help)->check(IsValue());
+    };
+    addText("--debit", given->debit, "Who pays")->required()->type_name(kPartyForms);
+    addText("--credit", given->credit, "Who is paid")->required()->type_name(kPartyForms);
+    addText("--amount", given->amount, "How much")->required()->type_name("AMOUNT");
+    command->add_option("--date", given->date, "The day of the transaction, by default today")
         ->type_name("MM/DD/YYYY")
-        ->check(IsDay());
-    command
-        ->add_option("--category", words->category,
-                     "A category of the books, or any with its class: 0 income, 1 expense, 2 "
-                     "neither")
+        ->check(IsDate());
+    addText("--category", given->category,
+            "A category of the books, or any with its class: 0 income, 1 expense, 2 neither")
+        ->required()
         ->type_name("TEXT[|CLASS]");
-    command->add_option("--check", words->transaction.checkNumber, "The check's number")
-        ->type_name("N");
-    command->add_option("--description", words->transaction.description, "What it was for");
+    addText("--check", given->transaction.checkNumber, "The check's number")->type_name("N");
+    addText("--description", given->transaction.description, "What it was for");
     command
-        ->add_option("--class", words->transaction.transactionClass,
-                     "What made it: 0 a person, 3 a lease's deposit")
+        ->add_option("--class", given->transaction.transactionClass,
+                     "What it belongs to: 0 nothing, 3 a lease's deposit")
+        ->check(CLI::IsMember({kEntered, kDeposit}))
         ->capture_default_str();
     command
-        ->add_option("--flags", words->transaction.flags,
+        ->add_option("--flags", given->transaction.flags,
                      "With class 3: 3 a deposit refunded, 4 a deposit charged off")
+        ->check(CLI::IsMember({std::int16_t{0}, kRefunded, kChargedOff}))
         ->capture_default_str();
-    AddReferences(*command, words->transaction);
-    command->callback([words, &options] {
-        OpenBooks(options);
-        Post(*words);
+    AddReferences(*command, given->transaction);
+    command->callback([given, &options] {
+        OpenBooks(options, Purpose::Write);
+        BookAndPrint([&] { Post(*given); });
     });
 }
 

@@ -11,19 +11,20 @@
 #include "platform/values/Text.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
+#include "vestrelctl/Output.h"
 
 namespace vestrelctl {
 
 namespace {
 
-/// What stands before the first line of a result: nothing, or the empty line that parts it from the
+/// Goes before the first line of a result: nothing, or the empty line that separates it from the
 /// result before it.
-using Parting = std::string_view;
+using Separator = std::string_view;
 
-void PrintRows(std::string_view statement, Parting parting) {
+void PrintRows(std::string_view statement, Separator separator) {
     platform::Recordset rows;
     rows.Open(core::App().Connection, statement);
-    std::string line(parting);
+    std::string line(separator);
     for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
         if (i > 0) line += ',';
         line += platform::CsvText(rows[i].Name());
@@ -31,6 +32,8 @@ void PrintRows(std::string_view statement, Parting parting) {
     std::cout << line << '\n';
     for (; !rows.Eof(); rows.MoveNext()) {
         line.clear();
+        // An empty line would end the result.
+        if (rows.FieldCount() == 1 && rows[0].IsNull()) line = "NULL";
         for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
             if (i > 0) line += ',';
             line += platform::CsvCell(rows[i].Value());
@@ -39,19 +42,21 @@ void PrintRows(std::string_view statement, Parting parting) {
     }
 }
 
-void RunStatement(std::string_view statement, Parting parting = {}) {
+void RunStatement(std::string_view statement, Separator separator = {}) {
     platform::Connection& connection = core::App().Connection;
     const auto kind = platform::dialect::Compile(statement, connection.Tables()).kind;
     if (kind == platform::dialect::StatementKind::Select) {
-        PrintRows(statement, parting);
+        PrintRows(statement, separator);
     } else {
-        const std::int64_t affected = connection.Execute(statement);
-        std::cout << parting << affected << '\n';
+        BookAndPrint([&] {
+            const std::int64_t affected = connection.Execute(statement);
+            std::cout << separator << affected << '\n';
+        });
     }
 }
 
-/// The next statement of the input, which ends with a line that ends in ';' (or with the input);
-/// false when there is none.
+/// Reads the next statement of the input, which ends with a line that ends in ';' (or with the
+/// input). Returns false if there is none.
 bool ReadStatement(std::istream& input, std::string& statement) {
     statement.clear();
     std::string line;
@@ -88,7 +93,7 @@ void AddSql(CLI::App& line, const Options& options) {
     auto text = std::make_shared<std::string>();
     command->add_option("statement", *text, "The statement, or - for standard input")->required();
     command->callback([text, &options] {
-        OpenDatabase(options);
+        OpenDatabase(options, Purpose::Read);
         if (*text == "-") {
             RunStatements(std::cin);
         } else {

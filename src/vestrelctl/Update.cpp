@@ -9,20 +9,24 @@
 #include "platform/values/Text.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
+#include "vestrelctl/Output.h"
 
 namespace vestrelctl {
 
 namespace {
 
-/// One line a posted row, and in the end a count.
+/// Prints one line for each posted row, and at the end their number.
 class Printer : public core::RunListener {
   public:
-    void Posted(int, std::int32_t, std::string_view description,
+    void Posted(int kind, std::int32_t, std::string_view description,
                 const std::vector<core::PostedRow>& rows) override {
         for (const core::PostedRow& row : rows) {
-            std::cout << fmt::format("{}, {}, {}, {}\n", platform::Trim(row.category), description,
-                                     row.date.ToText(), platform::MoneyToFixedText(row.amount));
+            const std::string_view category = platform::Trim(row.category);
+            std::cout << fmt::format(
+                "{}, {}, {}, {}\n", category.empty() ? core::RecordKindName(kind) : category,
+                description, row.date.ToText(), platform::MoneyToFixedText(row.amount));
         }
+        FlushOutput();
         posted_ += rows.size();
     }
 
@@ -51,7 +55,8 @@ class Printer : public core::RunListener {
 void AddUpdate(CLI::App& line, const Options& options) {
     CLI::App* command = line.add_subcommand("update", "Bring the books up to date");
     command->callback([&options] {
-        OpenBooks(options);
+        OpenBooks(options, Purpose::Write);
+        CheckOutput();
         Printer printer;
         core::UpdateRecords(printer);
         printer.Finish();

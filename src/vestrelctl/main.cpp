@@ -20,7 +20,7 @@ constexpr int kWrongUsage = 2;
 
 std::string SetToday(const std::string& text) {
     const auto day = platform::Date::TryParse(text);
-    if (!day) return "'" + text + "' is no day of the form mm/dd/yyyy";
+    if (!day) return "'" + text + "' is not a valid date (mm/dd/yyyy)";
     platform::SetToday(day);
     return {};
 }
@@ -38,6 +38,28 @@ int Fail(std::string reason, int status) {
     return status;
 }
 
+/// "--check=" gives an empty value, where the parser would take the next argument for it.
+void AddGivenArgument(std::vector<std::string>& arguments, const std::string& argument) {
+    const auto equals = argument.find('=');
+    const bool isEmptyValue = argument.starts_with("--") && equals + 1 == argument.size() &&
+                              argument.find_first_of(" \t\n") == std::string::npos;
+    if (!isEmptyValue) {
+        arguments.push_back(argument);
+        return;
+    }
+    arguments.push_back(argument.substr(0, equals));
+    arguments.emplace_back();
+}
+
+/// In the order in which the parser takes them, the last one first.
+std::vector<std::string> ArgumentsOf(int argc, char** argv) {
+    std::vector<std::string> arguments;
+    for (int i = 1; i < argc; ++i)
+        AddGivenArgument(arguments, argv[i]);
+    std::ranges::reverse(arguments);
+    return arguments;
+}
+
 std::string UsageFault(const CLI::App& line, const CLI::ParseError& error) {
     const std::vector<std::string> unknown = line.remaining();
     const std::string fault = unknown.empty() || !line.get_subcommands().empty()
@@ -49,6 +71,7 @@ std::string UsageFault(const CLI::App& line, const CLI::ParseError& error) {
 int Run(int argc, char** argv) {
     CLI::App line("Keeps the books of rental property without a window.", "vestrelctl");
     line.require_subcommand(1);
+    line.set_version_flag("--version", "vestrelctl " VESTREL_VERSION);
 
     vestrelctl::Options options;
     line.add_option("--data", options.data, "The database directory")
@@ -57,6 +80,8 @@ int Run(int argc, char** argv) {
     line.add_option("--today", "The day to take for today")
         ->type_name("MM/DD/YYYY")
         ->check(CLI::Validator(SetToday, "", ""));
+
+    line.add_flag("--read-only", options.readOnly, "Change nothing, even where that is allowed");
 
     vestrelctl::AddInit(line);
     vestrelctl::AddRegister(line);
@@ -69,7 +94,7 @@ int Run(int argc, char** argv) {
     vestrelctl::AddPayMortgage(line, options);
 
     try {
-        line.parse(argc, argv);
+        line.parse(ArgumentsOf(argc, argv));
     } catch (const CLI::Success& help) {
         line.exit(help);
     } catch (const CLI::ParseError& error) {

@@ -76,8 +76,11 @@ TEST_F(Mortgages, LiveThroughTheirYearOfPayments) {
 TEST_F(Mortgages, ArePaidAsTold) {
     Run("--today 02/01/2024 " + OnBooks() + "update");
     EXPECT_EQ(Run(OnBooks() + "pay-mortgage 101 --from 999").errors,
-              "vestrelctl: There is no account 999\n");
+              "vestrelctl: --from: there is no account 999\n");
     EXPECT_EQ(Run(OnBooks() + "pay-mortgage 101 --date 02/30/2024").status, 2);
+    Run(OnBooks() + "sql 'UPDATE Mortgage SET IdLastPmt = 0'");
+    EXPECT_EQ(Run(OnBooks() + "pay-mortgage 101").errors,
+              "vestrelctl: --from: the mortgage doesn't name this account; name it\n");
     const Outcome paid = Run("--today 02/05/2024 " + OnBooks() +
                              "pay-mortgage 101 --date 2/3/2024 --from 106 --to 105 --check 0042");
     EXPECT_EQ(paid.status, 0) << paid.errors;

@@ -125,30 +125,78 @@ TEST_F(PostAndPay, AreDoneByEventsBeforeTheLeasesAreCharged) {
 }
 
 TEST_F(PostAndPay, RefuseWhatMakesNoSense) {
+    Run("--today 01/02/2024 " + OnBooks() + "update");
     const std::string post = "post --debit account:105 --credit ";
+    const std::string rest = " --amount 1 --category Repairs";
     struct Case {
         std::string words;
         int status;
-        const char* errors;
+        std::string errors;
     };
     for (const auto& [words, status, errors] : {
-             Case{post + "account:106 --amount 1x", 1, "vestrelctl: '1x' is no amount of money\n"},
-             {post + "account:999 --amount 1", 1, "vestrelctl: There is no account 999\n"},
-             {post + "bank:105 --amount 1", 1,
-              "vestrelctl: 'bank:105' is no party: account:ID, tenant:ID or name:TEXT\n"},
+             Case{post + "account:106 --category Repairs --amount 1x", 1,
+                  "--amount: '1x' is not an amount\n"},
+             {post + "account:999" + rest, 1, "--credit: there is no account 999\n"},
+             {post + "bank:105" + rest, 1,
+              "--credit: 'bank:105' is not account:ID, tenant:ID or name:TEXT\n"},
+             {post + "account:" + rest, 1,
+              "--credit: 'account:' is not account:ID, tenant:ID or name:TEXT\n"},
              {post + "name:Joe --amount 1 --category Fun", 1,
-              "vestrelctl: There is no category 'Fun'; give its class: 'Fun|0' for income, 1 for "
+              "--category: there is no category 'Fun'; give its class: 'Fun|0' for income, 1 for "
               "expense, 2 for neither\n"},
-             {"pay 999", 1, "vestrelctl: There is no lease 999\n"},
-             {"pay 101 --to 103", 1, "vestrelctl: There is no account 103\n"},
-             {"pay 101 --class 4", 2, nullptr},
-             {"pay 101 --date 02/30/2024", 2, nullptr},
-             {"pay", 2, nullptr},
-             {"post --debit name:A --credit name:B", 2, nullptr},
+             {post + "name:Joe --amount 1", 2, "--category is required"},
+             {post + "name:Joe --amount 1 --category ' '", 1, "--category: name a category\n"},
+             {post + "name:Joe --amount 1 --category 'Fun|7'", 1, "--category: 'Fun|7' ends in no"},
+             {post + "name:Joe --lease 999" + rest, 1, "--lease: there is no lease 999\n"},
+             {post + "name:Joe --unit 101" + rest, 1, "--unit: there is no unit 101\n"},
+             {post + "name:Joe --class 1" + rest, 2, "--class: 1 not in {0,3}"},
+             {post + "name:Joe --class 3 --lease 101" + rest, 1, "--flags: class 3 needs 3 "},
+             {post + "name:Joe --flags 3 --lease 101" + rest, 1, "--flags: only a transaction of "},
+             {post + "name:Joe --class 3 --flags 4" + rest, 1, "--lease: class 3 needs the lease "},
+             {post + "name:Joe --description --check=4" + rest, 2,
+              "--description: a value is missing before --check"},
+             {post + "name:Joe --date=" + rest, 2, "--date: '' is not a valid date (mm/dd/yyyy)"},
+             {"pay 999", 1, "There is no lease 999\n"},
+             {"pay 101 --to 103", 1, "--to: there is no account 103\n"},
+             {"pay 101 --to 0", 1, "--to: there is no account 0\n"},
+             {"pay 101 --from tenant:105", 1, "--from: there is no tenant 105\n"},
+             {"pay 101 --class 4", 2, "--class"},
+             {"pay 101 --date 02/30/2024", 2, "--date"},
+             {"pay 101 --to= --date=01/02/2024", 2, "--to"},
+             {"pay", 2, "lease is required"},
+             {"post --debit name:A --credit name:B", 2, "--amount"},
          }) {
-        const Outcome outcome = Run(OnBooks() + words);
+        const Outcome outcome = Run("--today 01/02/2024 " + OnBooks() + words);
         EXPECT_EQ(outcome.status, status) << words;
-        EXPECT_TRUE(errors == nullptr || outcome.errors == errors) << outcome.errors;
+        EXPECT_TRUE(outcome.errors.starts_with("vestrelctl: " + errors))
+            << words << ": " << outcome.errors;
+    }
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0\n");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog"), "1\n");
+}
+
+TEST_F(PostAndPay, AskForThePartiesThatALeaseDoesNotName) {
+    Run("--today 01/02/2024 " + OnBooks() + "update");
+    Run(OnBooks() + "sql 'UPDATE Lease SET RentAccount = 0, IdTenant = 0'");
+    const std::string pay = "--today 01/02/2024 " + OnBooks() + "pay 101 ";
+    EXPECT_EQ(Run(pay).errors,
+              "vestrelctl: --from: lease 101 doesn't say who pays; name the payor\n");
+    EXPECT_EQ(Run(pay + "--from 'name:Joe Payor'").errors,
+              "vestrelctl: --to: lease 101 has no account that receives its rent; name one\n");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0\n");
+    // An empty number of the check doesn't take the next option for its value.
+    const Outcome paid = Run(pay + "--from 'name:Joe Payor' --to 105 --check= --date=11/01/2024");
+    EXPECT_EQ(paid.status, 0) << paid.errors;
+    EXPECT_EQ(Ask("SELECT DateEffective, CheckNum, DebitId, DebitDesc FROM Transactions"),
+              "\"11/01/2024\",\"\",0,\"Joe Payor\"\n");
+}
+
+TEST_F(PostAndPay, BookNothingWhenTheirOutputIsLost) {
+    Run("--today 01/02/2024 " + OnBooks() + "update");
+    for (const char* work :
+         {"pay 101", "post --debit name:A --credit name:B --amount 1 --category Repairs"}) {
+        const Outcome lost = Run(OnBooks() + work + " >/dev/full 2>/dev/null; exit $? #");
+        EXPECT_EQ(lost.status, 1) << work;
     }
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0\n");
 }

@@ -61,9 +61,57 @@ TEST_F(Vestrelctl, TakesStatementsAsEditorsWriteThem) {
     }
 }
 
-TEST_F(Vestrelctl, SaysWhenItsOutputIsLost) {
+TEST_F(Vestrelctl, PrintsANullThatIsAloneInItsRowSoThatNoResultHoldsAnEmptyLine) {
     ASSERT_EQ(Run("init " + Books()).status, 0);
-    EXPECT_EQ(Run(OnBooks() + "sql 'SELECT 1' >/dev/full 2>/dev/null; exit $? #").status, 1);
+    EXPECT_EQ(Run(OnBooks() + "sql -", "SELECT NULL AS N;\nSELECT NULL AS A, '' AS B;\n").output,
+              "\"N\"\nNULL\n\n\"A\",\"B\"\n,\"\"\n");
+}
+
+TEST_F(Vestrelctl, ChangesNothingWhenItsOutputIsLost) {
+    ASSERT_EQ(Run("init " + Books()).status, 0);
+    for (const char* work :
+         {"sql 'SELECT 1'", "sql \"INSERT INTO Users (IdUser) VALUES (1)\"", "update", "alerts"}) {
+        const Outcome outcome = Run(OnBooks() + work + " >/dev/full 2>/dev/null; exit $? #");
+        EXPECT_EQ(outcome.status, 1) << work;
+    }
+    EXPECT_EQ(Run(OnBooks() + "sql 'SELECT Count(*) AS N FROM Users'").output, "\"N\"\n0\n");
+}
+
+TEST_F(Vestrelctl, ReadsBooksThatCannotBeWrittenTo) {
+    ASSERT_EQ(Run("--today 05/17/2024 init --sample --units 2 " + Books()).status, 0);
+    const std::string before = Run(OnBooks() + "alerts").output;
+    const struct {
+        const char* work;
+        int status;
+        std::string_view fault;
+    } cases[] = {
+        {"alerts", 0, ""},
+        {"sql 'SELECT Count(*) FROM Lease'", 0, ""},
+        {"sql 'DELETE * FROM Lease'", 1, "vestrelctl: These books can only be read.\n"},
+        {"update", 1, "vestrelctl: --read-only: this command writes to the books\n"},
+        {"pay 1", 1, "vestrelctl: --read-only: this command writes to the books\n"},
+    };
+    for (const auto& [work, status, fault] : cases) {
+        const Outcome outcome = Run("--read-only " + OnBooks() + work);
+        EXPECT_EQ(outcome.status, status) << work;
+        EXPECT_EQ(outcome.errors, fault);
+    }
+    EXPECT_EQ(Run("--read-only --today 05/17/2024 " + OnBooks() + "alerts").output,
+              Run("--today 05/17/2024 " + OnBooks() + "alerts").output);
+    EXPECT_FALSE(before.empty());
+}
+
+TEST_F(Vestrelctl, LeavesNothingUnderTheFinalNameWhenItIsKilled) {
+    // Killed when the sample has lived for a part of its two years.
+    Run("init --sample --units 24 " + Books() + " & sleep 0.4; kill -9 $!; wait; exit 0 #");
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "books" / "Vestrel.mdb"));
+    EXPECT_EQ(Run("init --sample --units 2 " + Books()).status, 0);
+    EXPECT_EQ(Run(OnBooks() + "sql 'SELECT Count(*) AS N FROM Unit'").output, "\"N\"\n2\n");
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "books" / "Vestrel.mdb.new"));
+}
+
+TEST_F(Vestrelctl, SaysItsVersion) {
+    EXPECT_TRUE(Run("--version").output.starts_with("vestrelctl 1."));
 }
 
 TEST_F(Vestrelctl, RefusesWhatItCannotDoInOneLine) {
@@ -98,7 +146,7 @@ TEST_F(Vestrelctl, RefusesWhatItCannotDoInOneLine) {
         {"sell", 2, "there is no command sell"},
         {"--datum x alerts", 2, "--datum"},
         {"--data '' alerts", 2, "no directory is named"},
-        {"--today 02/30/2024 update", 2, "'02/30/2024' is no day of the form mm/dd/yyyy"},
+        {"--today 02/30/2024 update", 2, "'02/30/2024' is not a valid date (mm/dd/yyyy)"},
         {"update --today 02/28/2024", 2, "not expected"},
         {"alerts more", 2, "not expected: more"},
         {"sql", 2, "statement is required"},
@@ -142,6 +190,13 @@ TEST_F(Vestrelctl, MakesTheSameSampleTwiceAndFindsNothingLeftToPost) {
 
 TEST_F(Vestrelctl, NamesALeaseThatCannotBeBroughtUpToDate) {
     ASSERT_EQ(Run("init " + Books()).status, 0);
+    // Only an event that has a category is printed by it.
+    Run(OnBooks() +
+        "sql \"INSERT INTO AutoEvent (IdAutoEvent, EventType, Description, Enabled, "
+        "EventAction, IntervalType, IntervalPeriod, LastRun) VALUES (9, 1, 'a', True, "
+        "1, 3, 1, '04/30/2024')\"");
+    EXPECT_EQ(Run("--today 06/01/2024 " + OnBooks() + "update").output,
+              "Auto Event, a, 05/30/2024, 0.0000\n1 row posted.\n");
     Run(OnBooks() +
         "sql \"INSERT INTO Lease (IdLease, Status, DateActive) VALUES (7, 'MTM', 'soon')\"");
     const Outcome outcome = Run(OnBooks() + "update");
