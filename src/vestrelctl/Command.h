@@ -23,6 +23,8 @@ void AddUpdate(CLI::App& line, const Options& options);
 void AddAlerts(CLI::App& line, const Options& options);
 void AddSql(CLI::App& line, const Options& options);
 void AddAmortize(CLI::App& line, const Options& options);
+void AddDepreciation(CLI::App& line, const Options& options);
+void AddReports(CLI::App& line);
 void AddPost(CLI::App& line, const Options& options);
 void AddPay(CLI::App& line, const Options& options);
 void AddPayMortgage(CLI::App& line, const Options& options);

@@ -89,6 +89,8 @@ int Run(int argc, char** argv) {
     vestrelctl::AddAlerts(line, options);
     vestrelctl::AddSql(line, options);
     vestrelctl::AddAmortize(line, options);
+    vestrelctl::AddDepreciation(line, options);
+    vestrelctl::AddReports(line);
     vestrelctl::AddPost(line, options);
     vestrelctl::AddPay(line, options);
     vestrelctl::AddPayMortgage(line, options);

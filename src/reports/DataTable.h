@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/database/Recordset.h"
+#include "platform/printing/PrintSurface.h"
+
+namespace reports {
+
+/// The columns of a table of query rows: their widths follow from the fields' types, not from what
+/// the rows hold, so that the tables of all groups have the same columns.
+struct DataColumns {
+    std::string format; ///< alignment and width in twips of each column, separated by "|"
+    std::vector<std::string> captions;
+};
+
+DataColumns ColumnsOf(platform::Recordset& rows, platform::Twips printWidth);
+
+/// A value of a query as a table shows it: money by the money format, booleans as Yes or No.
+std::string CellText(const platform::Field& field);
+
+/// The rows of an open query as those of a table, from the first on. The query must outlive it.
+class QueryRows : public platform::TableRows {
+  public:
+    explicit QueryRows(platform::Recordset& rows);
+    std::size_t Count() const override;
+    const std::vector<std::string>* Next() override;
+
+  private:
+    platform::Recordset* rows_;
+    std::vector<std::string> cells_;
+};
+
+/// Gives the table that was added last the header row of tables of data: grey, bold and higher.
+void StyleHeader(platform::PrintSurface& page);
+
+/// Prints "No records found." and goes back to the default style.
+void PrintNoRecords(platform::PrintSurface& page);
+
+/// Prints a text in a named style, unless it is empty.
+void PrintIn(platform::PrintSurface& page, std::string_view style, std::string_view text);
+
+} // namespace reports

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace reports {
+
+enum class ExportFormat : std::uint8_t { Html, Pdf, Rtf };
+
+/// What an export's dialog and closing message say.
+struct ExportWords {
+    std::string_view extension;
+    std::string_view filter;
+    std::string_view title;
+    std::string_view done; ///< the file's path follows
+};
+
+const ExportWords& WordsOf(ExportFormat format);
+
+/// The first name "rpt0001.html", "rpt0002.html", ... that `folder` (empty, or with its last
+/// separator) has no file of; the last of 9999 names if all are taken.
+std::string ProposeExportFile(std::string_view folder, ExportFormat format);
+
+} // namespace reports

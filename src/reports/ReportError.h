@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/values/Errors.h"
+
+namespace reports {
+
+/// A fault in a report's definition that ends the run: where it is and why.
+class ReportError : public platform::Error {
+  public:
+    /// `line` counts from 1. The text is one line: "line 12: reason".
+    ReportError(int line, std::string_view reason);
+    /// The same with the file in front: "Owner.rpt, line 12: reason".
+    ReportError(std::string_view file, const ReportError& inFile);
+
+    int Line() const { return line_; }
+    /// Without file and line.
+    const std::string& Reason() const { return reason_; }
+
+  private:
+    int line_;
+    std::string reason_;
+};
+
+} // namespace reports

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/printing/PageSetup.h"
+#include "reports/ReportSection.h"
+
+namespace reports {
+
+/// A definition as it is read to be run.
+struct ReportFile {
+    std::string Title = "Vestrel Report";
+    std::string SubTitle;
+    bool ShowTitle = true;
+    bool ShowHeader = true;
+    bool ShowFooter = true;
+    /// Nothing if the file leaves the orientation to the catalogue.
+    std::optional<platform::PageOrientation> FileOrientation;
+    bool DebugOn = false;
+    std::int32_t ScaleX = 0;
+    std::int32_t ScaleY = 0;
+    std::string LoopQuery;
+    int LoopLine = 0; ///< of the loop query, 0 without one
+    std::vector<std::unique_ptr<ReportSection>> Sections;
+};
+
+/// Reads the page set-up and the sections of a definition; unknown keys are ignored. Throws a
+/// ReportError for a command that the section's class lacks and for a number that is not one.
+ReportFile ReadReport(std::string_view text);
+
+/// The same of a file. One that is missing or can't be read is a report of defaults without
+/// sections; the file's name is in the text of the ReportError.
+ReportFile LoadReportFile(const std::filesystem::path& file);
+
+} // namespace reports

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "reports/ReportDef.h"
+
+namespace reports {
+
+/// The scratch report's place in the catalogue.
+inline constexpr int kScratchReport = 1;
+
+/// Rebuilds the catalogue from the definition files of the reports folder: the scratch report, then
+/// the reports and the receipts, each in the order that the file system gives them. A folder or
+/// file that can't be read is passed over.
+void LoadReportList();
+
+/// Reports are numbered from 1 to ReportCount. The catalogue holds no less than the scratch report
+/// after it was loaded.
+int ReportCount();
+/// The report of a number; null for a number that isn't one.
+ReportDef* FindReport(int index);
+/// The first report of this description, or else of this file name, without regard to case; 0 if
+/// there is none.
+int FindReportNamed(std::string_view name);
+
+} // namespace reports

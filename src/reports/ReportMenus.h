@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "reports/ReportDef.h"
+
+namespace reports {
+
+/// An item of a report menu: its caption, with "&" before its key, and the report's number.
+struct ReportMenuItem {
+    std::string caption;
+    int index = 0;
+};
+
+/// What the menus of a record form offer.
+struct ReportMenu {
+    /// The report that the form's print command prints, 0 for none: then it is disabled.
+    int print = 0;
+    std::vector<ReportMenuItem> items;
+};
+
+/// The reports of a form, numbered "(&1) Rent roll", in catalogue order. `mark` stands between the
+/// number and the description, for a menu that has the reports of several forms.
+ReportMenu ReportsOf(RecordForm form, std::string_view mark = {});
+/// The receipts of a form: "Print Rent receipt".
+std::vector<ReportMenuItem> ReceiptsOf(RecordForm form);
+
+/// The building's and the unit's reports as the main window's menu lists them.
+ReportMenu ReportsOfBuilding();
+ReportMenu ReportsOfSelectedUnit();
+
+} // namespace reports

@@ -1,0 +1,117 @@
+// The modes of a [DATA] section that show a schedule: amortisation and depreciation.
+
+#include <memory>
+
+#include "books/clsDepreciation.h"
+#include "mortgages/clsMortgage.h"
+#include "platform/values/Format.h"
+#include "reports/DataTable.h"
+#include "reports/Queries.h"
+#include "reports/Tags.h"
+#include "reports/clsRptData.h"
+
+namespace reports {
+
+using platform::PrintSurface;
+
+namespace {
+
+std::vector<std::string> SplitHeader(std::string_view header) {
+    auto rows = platform::ParseTableText(header);
+    return rows.empty() ? std::vector<std::string>() : std::move(rows.front());
+}
+
+/// A field that is null or 0 counts as missing.
+double NumberOf(const platform::Field& field) {
+    return field.IsNull() ? 0 : field.AsDouble();
+}
+
+/// Prints what is missing; true if nothing is.
+bool HasAllTerms(PrintSurface& page, platform::Recordset& building) {
+    struct Term {
+        bool isThere;
+        std::string_view fault;
+    };
+    const Term terms[] = {
+        {!building["PurchDate"].IsBlank(), "Property purchase date has not specified."},
+        {NumberOf(building["DeprBasis"]) != 0, "Property depreciation basis has not been entered."},
+        {NumberOf(building["DeprPeriod"]) != 0, "Depreciation term is invalid."},
+        {!building["DeprMethod"].IsBlank(), "Depreciation method has not been specified."},
+    };
+    bool complete = true;
+    for (const Term& term : terms) {
+        if (term.isThere) continue;
+        page.Text(term.fault);
+        complete = false;
+    }
+    return complete;
+}
+
+void PrintTerms(PrintSurface& page, books::clsDepreciation& depreciation, std::string_view year) {
+    const auto money = [](double amount) {
+        return platform::FormatNumber(amount, platform::kMoneyFormat);
+    };
+    std::vector<std::vector<std::string>> rows = {
+        {"Depreciation Basis", money(depreciation.Basis())},
+        {"Depreciation Method", depreciation.Method()},
+        {std::string(year) + " Depreciation",
+         money(static_cast<double>(depreciation.TotalDepreciation(year)))},
+    };
+    page.AddTableArray("<2160|>2160", {}, std::make_unique<platform::HeldRows>(std::move(rows)));
+    page.Table().border = platform::TableBorder::None;
+}
+
+} // namespace
+
+void clsRptData::ShowAmortization(PrintSurface& page) const {
+    mortgages::clsMortgage mortgage;
+    if (!mortgage.LoadMtg(SelectedId)) {
+        PrintNoRecords(page);
+        return;
+    }
+    mortgage.ReCalc();
+    std::vector<std::vector<std::string>> rows;
+    std::string header;
+    std::string format;
+    mortgage.GetAmortization(rows, header, format, true);
+
+    PrintIn(page, "TableGroupHeader", HeadText);
+    page.ApplyStyle("Table");
+    page.StartTable();
+    page.AddTableArray(format, SplitHeader(header),
+                       std::make_unique<platform::HeldRows>(std::move(rows)));
+    StyleHeader(page);
+    ApplyAttributes(page.Table(), Attributes, ColWrap);
+    page.EndTable();
+    PrintIn(page, "TableGroupTotal", FootText);
+}
+
+void clsRptData::ShowDepreciation(PrintSurface& page) const {
+    platform::Recordset building;
+    if (!OpenQuery(building,
+                   "SELECT PurchDate, DeprBasis, DeprPeriod, DeprMethod FROM Building "
+                   "WHERE IdBuilding = " +
+                       std::to_string(SelectedId))) {
+        PrintNoRecords(page);
+        return;
+    }
+    page.ApplyStyle("Table");
+    if (!HasAllTerms(page, building)) return;
+
+    books::clsDepreciation depreciation;
+    depreciation.SetStartDate(building["PurchDate"].AsText());
+    depreciation.SetBasis(building["DeprBasis"].AsDouble());
+    depreciation.SetMethod(building["DeprMethod"].AsText());
+    depreciation.SetLife(building["DeprPeriod"].AsDouble());
+    depreciation.Init();
+
+    page.StartTable();
+    if (Mode == DataMode::DeprTable) {
+        page.AddTable("<20%|>20%|>20%|>20%|<20%", "", depreciation.GetClip());
+    } else {
+        PrintTerms(page, depreciation, ShowYear);
+    }
+    page.EndTable();
+}
+
+} // namespace reports

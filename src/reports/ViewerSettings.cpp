@@ -1,0 +1,67 @@
+#include "reports/ViewerSettings.h"
+
+#include "core/Settings.h"
+
+namespace reports {
+
+using platform::kTwipsPerInch;
+using platform::PageSetup;
+
+namespace {
+
+constexpr std::string_view kKey = R"(SOFTWARE\Vestrel\Global\Settings)";
+/// The last folder has a key of its own, without a backslash in front of "rpt".
+constexpr std::string_view kSaveDirKey = R"(SOFTWARE\Vestrel\Global\Settingsrpt)";
+
+/// Read under one spelling and written under the other: names of values ignore case.
+constexpr std::string_view kOpenExport = R"(rpt\OpenExport)";
+constexpr std::string_view kOpenExportWritten = R"(rpt\Openexport)";
+constexpr std::string_view kPaper = R"(rpt\Paper)";
+constexpr std::string_view kOrientation = R"(rpt\Orientation)";
+
+struct Margin {
+    std::string_view name;
+    platform::Twips PageSetup::*margin;
+};
+constexpr Margin kMargins[] = {
+    {R"(rpt\MarginBottom)", &PageSetup::marginBottom},
+    {R"(rpt\MarginLeft)", &PageSetup::marginLeft},
+    {R"(rpt\MarginRight)", &PageSetup::marginRight},
+    {R"(rpt\MarginTop)", &PageSetup::marginTop},
+};
+
+} // namespace
+
+bool ReadOpenExport() {
+    return core::GetRegFlag(kKey, kOpenExport, true);
+}
+
+void SaveOpenExport(bool open) {
+    core::SetRegFlag(kKey, kOpenExportWritten, open);
+}
+
+PageSetup ReadPageSetup() {
+    PageSetup setup;
+    setup.paper = platform::PaperOfSetting(core::GetRegString(kKey, kPaper, ""));
+    for (const Margin& margin : kMargins)
+        setup.*margin.margin = core::GetRegNumber(kKey, margin.name, kTwipsPerInch);
+    return setup.WithSaneMargins();
+}
+
+void SavePageSetup(const PageSetup& setup) {
+    for (const Margin& margin : kMargins)
+        core::SetRegNumber(kKey, margin.name, setup.*margin.margin);
+    core::SetRegNumber(kKey, kOrientation, static_cast<std::int32_t>(setup.orientation));
+    if (setup.paper != platform::PaperOfSetting(core::GetRegString(kKey, kPaper, "")))
+        core::SetRegString(kKey, kPaper, platform::PaperName(setup.paper));
+}
+
+std::string LastSaveDir() {
+    return core::GetRegString(kSaveDirKey, "LastSaveDir", "");
+}
+
+void SaveLastSaveDir(std::string_view folder) {
+    core::SetRegString(kSaveDirKey, "LastSaveDir", folder);
+}
+
+} // namespace reports

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/printing/PageSetup.h"
+
+namespace reports {
+
+// What the report viewer keeps on this machine.
+
+/// Whether an exported file is opened when it is written.
+bool ReadOpenExport();
+void SaveOpenExport(bool open);
+
+/// The paper and the margins; the orientation is the report's.
+platform::PageSetup ReadPageSetup();
+/// Keeps the margins and the orientation, and the paper once it is another than the machine's own.
+void SavePageSetup(const platform::PageSetup& setup);
+
+/// The folder of the last export with its last separator, empty before the first.
+std::string LastSaveDir();
+void SaveLastSaveDir(std::string_view folder);
+
+} // namespace reports

@@ -1,0 +1,71 @@
+#include <cstdint>
+#include <iostream>
+#include <memory>
+
+#include <fmt/core.h>
+
+#include "books/clsDepreciation.h"
+#include "core/Globals.h"
+#include "platform/database/Recordset.h"
+#include "platform/values/Csv.h"
+#include "platform/values/Errors.h"
+#include "vestrelctl/Command.h"
+#include "vestrelctl/OpenBooks.h"
+
+namespace vestrelctl {
+
+namespace {
+
+books::clsDepreciation ReadBuilding(std::int32_t idBuilding) {
+    platform::Recordset building;
+    building.Open(core::App().Connection,
+                  "SELECT Address, PurchDate, DeprBasis, DeprPeriod, DeprMethod FROM Building "
+                  "WHERE IdBuilding = ?",
+                  platform::CursorMode::ReadOnly, {idBuilding});
+    if (building.Eof()) throw platform::Error(fmt::format("There is no building {}", idBuilding));
+    const auto text = [&](std::string_view field) {
+        return building[field].IsNull() ? std::string() : building[field].AsText();
+    };
+    const auto number = [&](std::string_view field) {
+        return building[field].IsNull() ? 0 : building[field].AsDouble();
+    };
+    books::clsDepreciation depreciation;
+    depreciation.SetDescription(text("Address"));
+    depreciation.SetStartDate(text("PurchDate"));
+    depreciation.SetBasis(number("DeprBasis"));
+    depreciation.SetLife(number("DeprPeriod"));
+    depreciation.SetMethod(text("DeprMethod"));
+    return depreciation;
+}
+
+void PrintSchedule(std::int32_t idBuilding) {
+    books::clsDepreciation depreciation = ReadBuilding(idBuilding);
+    depreciation.Init();
+    std::cout << R"("Period End","Beginning","Loss","Ending","Method")" << '\n';
+    for (const books::DepreciationPeriod& period : depreciation.Schedule()) {
+        std::string line;
+        platform::AppendCsvCell(line, platform::Date::Parse(period.PeriodEnd));
+        for (const platform::Value& value :
+             {platform::Value(period.StartValue), platform::Value(period.Loss),
+              platform::Value(period.EndValue), platform::Value(period.MethodUsed)}) {
+            line += ',';
+            platform::AppendCsvCell(line, value);
+        }
+        std::cout << line << '\n';
+    }
+}
+
+} // namespace
+
+void AddDepreciation(CLI::App& line, const Options& options) {
+    CLI::App* command =
+        line.add_subcommand("depreciation", "A building's depreciation schedule as CSV");
+    auto id = std::make_shared<std::int32_t>(0);
+    command->add_option("id", *id, "The building's IdBuilding")->required();
+    command->callback([id, &options] {
+        OpenDatabase(options);
+        PrintSchedule(*id);
+    });
+}
+
+} // namespace vestrelctl

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace vestrelctl {
+
+/// Makes a folder the one that holds the definition files; an empty name leaves the program's own.
+void UseReportsFolder(const std::string& folder);
+
+} // namespace vestrelctl
