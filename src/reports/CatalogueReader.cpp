@@ -126,6 +126,10 @@ constexpr auto kKeys = std::to_array<CatalogueKey>({
      [](ReportDef& r, std::string_view v) { r.SelectYear = platform::StrToBool(v); }},
 });
 
+bool IsFlag(std::string_view value) {
+    return platform::EqualIgnoringCase(value, "TRUE") || platform::EqualIgnoringCase(value, "FALSE");
+}
+
 constexpr auto kOtherSections =
     std::to_array<std::string_view>({"HEADER", "DATA", "TEXT", "LOOP", "ENDLOOP", "FOOTER"});
 
@@ -147,6 +151,23 @@ void ReadCatalogueKeys(std::string_view text, ReportDef& report) {
         if (known != kKeys.end() && (known->ofReceipts || !isReceipt))
             known->read(report, line->value);
     }
+}
+
+bool IsCatalogueKey(std::string_view key) {
+    return std::ranges::find(kKeys, key, &CatalogueKey::key) != kKeys.end();
+}
+
+bool IsCatalogueValue(std::string_view key, std::string_view value) {
+    if (key == "FORM") return Find(kForms, value).has_value();
+    if (key == "TAB" || key == "TYPE") return Find(kTabs, value).has_value();
+    if (key == "ICON") return Find(kIcons, value).has_value();
+    if (key == "DATERANGE") return Find(kDateRanges, value).has_value();
+    if (key == "PRINT" || key == "SELECTDETAIL" || key == "SELECTYEAR") return IsFlag(value);
+    if (key != "SELECTITEM") return true;
+    ReportDef asked;
+    asked.SelectItem = -1;
+    ReadSelectItem(asked, value);
+    return asked.SelectItem >= 0;
 }
 
 } // namespace reports

@@ -11,4 +11,9 @@ namespace reports {
 /// nothing.
 void ReadCatalogueKeys(std::string_view text, ReportDef& report);
 
+/// Whether a key in upper case is one of the catalogue's.
+bool IsCatalogueKey(std::string_view key);
+/// Whether the value of a catalogue key is one that it knows; true for keys whose value is free.
+bool IsCatalogueValue(std::string_view key, std::string_view value);
+
 } // namespace reports

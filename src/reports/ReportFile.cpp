@@ -9,7 +9,7 @@
 #include "platform/values/Text.h"
 #include "reports/LineGrammar.h"
 #include "reports/ReportError.h"
-#include "reports/SectionCommands.h"
+#include "reports/RunTimeReader.h"
 
 namespace reports {
 
@@ -50,98 +50,91 @@ constexpr auto kPageKeys = std::to_array<PageKey>({
     {"DEBUG", [](ReportFile& r, std::string_view) { r.DebugOn = true; }},
 });
 
-/// Reads a definition line by line; the state says what its lines go to.
-class RunTimeReader {
-  public:
-    ReportFile Read(std::string_view text) {
-        LineReader lines(text, Blanks::Trim);
-        while (const auto line = lines.Next()) {
-            try {
-                ReadLine(*line);
-            } catch (const ReportError&) {
-                throw;
-            } catch (const platform::Error& fault) {
-                throw ReportError(line->number, fmt::format("{}: {}", line->name, fault.what()));
-            }
-        }
-        return std::move(report_);
-    }
-
-  private:
-    enum class State { Other, Text, Data, Loop };
-
-    void ReadLine(const DefinitionLine& line) {
-        if (OpensSection(line)) return;
-        const auto page = std::ranges::find(kPageKeys, line.key, &PageKey::key);
-        if (page != kPageKeys.end()) {
-            page->apply(report_, line.value);
-        } else if (state_ == State::Loop) {
-            if (line.key == "SQLQUERY") {
-                report_.LoopQuery = line.value;
-                report_.LoopLine = line.number;
-            }
-        } else if (const SectionCommand* command = FindSectionCommand(line.key)) {
-            GiveToSection(*command, line);
-        }
-    }
-
-    bool OpensSection(const DefinitionLine& line) {
-        if (line.Opens("TEXT")) {
-            text_ = AddSection<clsRptText>(line.number);
-            state_ = State::Text;
-        } else if (line.Opens("DATA")) {
-            data_ = AddSection<clsRptData>(line.number);
-            state_ = State::Data;
-        } else if (line.Opens("LOOP")) {
-            phase_ = LoopPhase::Inside;
-            state_ = State::Loop;
-        } else if (line.Opens("ENDLOOP")) {
-            phase_ = LoopPhase::After;
-            state_ = State::Other;
-        } else if (line.Opens("GENERAL") || line.Opens("HEADER") || line.Opens("FOOTER")) {
-            state_ = State::Other;
-        } else {
-            return false;
-        }
-        return true;
-    }
-
-    template <typename Section>
-    Section* AddSection(int line) {
-        auto section = std::make_unique<Section>();
-        section->Line = line;
-        section->Sequence = phase_;
-        Section* added = section.get();
-        report_.Sections.push_back(std::move(section));
-        return added;
-    }
-
-    void GiveToSection(const SectionCommand& command, const DefinitionLine& line) {
-        if (state_ == State::Other) return;
-        const bool isText = state_ == State::Text;
-        const bool isThere = isText ? command.ofText != nullptr : command.ofData != nullptr;
-        if (!isThere) {
-            throw ReportError(line.number, fmt::format("{} is not a command of a {} section",
-                                                       line.key, isText ? "[TEXT]" : "[DATA]"));
-        }
-        if (isText) {
-            command.ofText(*text_, line);
-        } else {
-            command.ofData(*data_, line);
-        }
-    }
-
-    ReportFile report_;
-    State state_ = State::Other;
-    LoopPhase phase_ = LoopPhase::Before;
-    clsRptText* text_ = nullptr;
-    clsRptData* data_ = nullptr;
-};
-
 } // namespace
 
+bool IsPageKey(std::string_view key) {
+    return std::ranges::find(kPageKeys, key, &PageKey::key) != kPageKeys.end();
+}
+
+void RunTimeReader::Read(const DefinitionLine& line) {
+    try {
+        ReadLine(line);
+    } catch (const ReportError&) {
+        throw;
+    } catch (const platform::Error& fault) {
+        throw ReportError(line.number, fmt::format("{}: {}", line.name, fault.what()));
+    }
+}
+
+void RunTimeReader::ReadLine(const DefinitionLine& line) {
+    if (OpensSection(line)) return;
+    const auto page = std::ranges::find(kPageKeys, line.key, &PageKey::key);
+    if (page != kPageKeys.end()) {
+        page->apply(report_, line.value);
+    } else if (state_ == State::Loop) {
+        if (line.key == "SQLQUERY") {
+            report_.LoopQuery = line.value;
+            report_.LoopLine = line.number;
+        }
+    } else if (const SectionCommand* command = FindSectionCommand(line.key)) {
+        GiveToSection(*command, line);
+    }
+}
+
+bool RunTimeReader::OpensSection(const DefinitionLine& line) {
+    if (line.Opens("TEXT")) {
+        text_ = AddSection<clsRptText>(line.number);
+        state_ = State::Text;
+    } else if (line.Opens("DATA")) {
+        data_ = AddSection<clsRptData>(line.number);
+        state_ = State::Data;
+    } else if (line.Opens("LOOP")) {
+        phase_ = LoopPhase::Inside;
+        state_ = State::Loop;
+    } else if (line.Opens("ENDLOOP")) {
+        phase_ = LoopPhase::After;
+        state_ = State::Other;
+    } else if (line.Opens("GENERAL")) {
+        state_ = State::General;
+    } else if (line.Opens("HEADER") || line.Opens("FOOTER")) {
+        state_ = State::Other;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+template <typename Section>
+Section* RunTimeReader::AddSection(int line) {
+    auto section = std::make_unique<Section>();
+    section->Line = line;
+    section->Sequence = phase_;
+    Section* added = section.get();
+    report_.Sections.push_back(std::move(section));
+    return added;
+}
+
+void RunTimeReader::GiveToSection(const SectionCommand& command, const DefinitionLine& line) {
+    if (state_ != State::Text && state_ != State::Data) return;
+    const bool isText = state_ == State::Text;
+    const bool isThere = isText ? command.ofText != nullptr : command.ofData != nullptr;
+    if (!isThere) {
+        throw ReportError(line.number, fmt::format("{} is not a command of a {} section", line.key,
+                                                   isText ? "[TEXT]" : "[DATA]"));
+    }
+    if (isText) {
+        command.ofText(*text_, line);
+    } else {
+        command.ofData(*data_, line);
+    }
+}
+
 ReportFile ReadReport(std::string_view text) {
-    return RunTimeReader().Read(text);
+    RunTimeReader reader;
+    LineReader lines(text, Blanks::Trim);
+    while (const auto line = lines.Next())
+        reader.Read(*line);
+    return reader.TakeReport();
 }
 
 ReportFile LoadReportFile(const std::filesystem::path& file) {

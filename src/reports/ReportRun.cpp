@@ -20,13 +20,6 @@ Date YearEarlier(Date day) {
     return platform::DateAdd(platform::Interval::Year, -1, day);
 }
 
-/// A text for the left or the right of a page's header or footer, where "|" separates the parts.
-std::string FramePart(std::string text) {
-    constexpr std::string_view kBrokenBar = "\xC2\xA6";
-    ReplaceTag(text, "|", kBrokenBar);
-    return text;
-}
-
 } // namespace
 
 void ChooseForRecord(ReportDef& report, std::int32_t selectedId) {
@@ -109,10 +102,9 @@ void ReportRun::Start(PrintSurface& page) const {
     page.SetDocName(report_->Description);
     page.SetInformation(core::Config().CompanyName, file_.Title);
     platform::PageFrame frame;
-    frame.header = file_.ShowHeader ? FramePart(core::Config().CompanyName) + "||" +
-                                          platform::Today().ToText()
-                                    : "||";
-    frame.footer = file_.ShowFooter ? FramePart(report_->Description) + "||Page %d" : "||";
+    if (file_.ShowHeader)
+        frame.header = {core::Config().CompanyName, "", platform::Today().ToText()};
+    if (file_.ShowFooter) frame.footer = {report_->Description, "", "Page %d"};
     page.SetFrame(std::move(frame));
     page.ApplyStyle("Default");
     page.StartDoc();

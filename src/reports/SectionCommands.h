@@ -12,6 +12,7 @@ namespace reports {
 /// none; the run ends where a section is given a command that its class lacks.
 struct SectionCommand {
     std::string_view key;
+    bool isAttribute; ///< of a [TEXT] section's last command
     void (*ofText)(clsRptText& section, const DefinitionLine& line);
     void (*ofData)(clsRptData& section, const DefinitionLine& line);
 };

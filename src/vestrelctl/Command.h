@@ -25,6 +25,7 @@ void AddSql(CLI::App& line, const Options& options);
 void AddAmortize(CLI::App& line, const Options& options);
 void AddDepreciation(CLI::App& line, const Options& options);
 void AddReports(CLI::App& line);
+void AddReport(CLI::App& line, const Options& options);
 void AddPost(CLI::App& line, const Options& options);
 void AddPay(CLI::App& line, const Options& options);
 void AddPayMortgage(CLI::App& line, const Options& options);

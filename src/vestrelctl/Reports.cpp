@@ -41,6 +41,10 @@ void UseReportsFolder(const std::string& folder) {
     if (!folder.empty()) core::App().ReportPath = platform::AddBackslash(folder);
 }
 
+std::filesystem::path ReportsFolder() {
+    return core::App().ReportPath;
+}
+
 void AddReports(CLI::App& line) {
     CLI::App* command = line.add_subcommand("reports", "The catalogue of reports as CSV");
     auto folder = std::make_shared<std::string>();

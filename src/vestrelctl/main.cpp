@@ -12,6 +12,7 @@
 #include "platform/values/Errors.h"
 #include "shell/Registrations.h"
 #include "vestrelctl/Command.h"
+#include "vestrelctl/ReportsFolder.h"
 
 namespace {
 
@@ -82,6 +83,9 @@ int Run(int argc, char** argv) {
         ->check(CLI::Validator(SetToday, "", ""));
 
     line.add_flag("--read-only", options.readOnly, "Change nothing, even where that is allowed");
+    line.add_option_function<std::string>("--reports", vestrelctl::UseReportsFolder,
+                                          "The folder of the report definitions")
+        ->type_name("DIR");
 
     vestrelctl::AddInit(line);
     vestrelctl::AddRegister(line);
@@ -91,6 +95,7 @@ int Run(int argc, char** argv) {
     vestrelctl::AddAmortize(line, options);
     vestrelctl::AddDepreciation(line, options);
     vestrelctl::AddReports(line);
+    vestrelctl::AddReport(line, options);
     vestrelctl::AddPost(line, options);
     vestrelctl::AddPay(line, options);
     vestrelctl::AddPayMortgage(line, options);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+
+#include "platform/database/Connection.h"
+
+namespace reports {
+
+/// Empty books of their own, to try statements on; deleted with the object. Throws an Error if they
+/// can't be made.
+class SampleBooks {
+  public:
+    SampleBooks();
+    ~SampleBooks();
+    SampleBooks(const SampleBooks&) = delete;
+    SampleBooks& operator=(const SampleBooks&) = delete;
+
+    platform::Connection& Session() { return session_; }
+
+  private:
+    std::filesystem::path folder_;
+    platform::Connection session_;
+};
+
+} // namespace reports

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+#include "platform/printing/FontMetrics.h"
+#include "platform/printing/PageSink.h"
+#include "reports/ReportRun.h"
+
+namespace reports {
+
+enum class FileFormat : std::uint8_t { Pdf, Html, Rtf, Text };
+
+/// The format that a file's extension asks for, case apart; nothing for any other extension.
+std::optional<FileFormat> FormatOfFile(std::string_view file);
+
+/// Draws a run into a file, which takes its name only when it is whole: after a failure an older
+/// file of the name is as it was. Needs no display. Throws what ReportRun::Draw does, and an Error
+/// if the file can't be written or, for PDF, the fonts are missing.
+void WriteReport(ReportRun& run, FileFormat format, const std::filesystem::path& file);
+
+} // namespace reports

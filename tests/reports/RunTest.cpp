@@ -1,0 +1,158 @@
+#include "core/Configuration.h"
+#include "core/Settings.h"
+#include "platform/printing/PrintedDocument.h"
+#include "reports/Export.h"
+#include "reports/ReportRun.h"
+#include "reports/ReportsFixture.h"
+#include "reports/ViewerSettings.h"
+
+namespace tests {
+
+namespace {
+
+using reports::DateRange;
+using testing::ElementsAre;
+
+class ReportRuns : public Reports {
+  protected:
+    static void Units(std::initializer_list<int> ids) {
+        for (const int id : ids) {
+            CoreBooks::Run("INSERT INTO Unit (IdUnit, Unit) VALUES (" + std::to_string(id) +
+                           ", 'U" + std::to_string(id) + "')");
+        }
+    }
+};
+
+TEST_F(ReportRuns, TakesTheFilesDateRuleBeforeTheChoice) {
+    using enum DateRange;
+    struct Case {
+        DateRange rule;
+        DateRange choice;
+        std::string dates;
+    };
+    const std::string current = "p 01/01/2024 05/17/2024";
+    const std::string trailing = "p 05/17/2023 05/17/2024";
+    const std::string previous = "p 01/01/2023 12/31/2023";
+    const std::string selected = "p 02/03/2020 04/05/2021";
+    report.StartDate = platform::Date(2020, 2, 3);
+    report.EndDate = platform::Date(2021, 4, 5);
+    for (const Case& one : {Case{None, Select, selected}, Case{Select, Select, selected},
+                            Case{None, CurrentYear, current}, Case{Select, TrailingYear, trailing},
+                            Case{None, PreviousYear, previous}, Case{CurrentYear, Select, current},
+                            Case{CurrentYear, PreviousYear, current},
+                            Case{TrailingYear, CurrentYear, trailing},
+                            Case{PreviousYear, Select, previous}, Case{None, None, selected}}) {
+        report.DateRange = one.rule;
+        report.DateChoice = one.choice;
+        EXPECT_THAT(Lines("[TEXT]\nPARAGRAPH=%STARTDATE% %ENDDATE%\n"), ElementsAre(one.dates))
+            << static_cast<int>(one.rule) << " " << static_cast<int>(one.choice);
+    }
+}
+
+TEST_F(ReportRuns, RunsTheSectionsOfEachPhaseAndDetail) {
+    const std::string body =
+        "[TEXT]\nPARAGRAPH=before\n[LOOP]\n%s[TEXT]\nSQLQUERY=SELECT Unit FROM Unit WHERE IdUnit = "
+        "%LOOPID%\nPARAGRAPH=%LOOPID% %UNIT%\n[DATA]\nDETAILLEVEL=SUMMARY\nHEADLINE=sum %LOOPID%\n"
+        "[ENDLOOP]\n[TEXT]\nDETAILLEVEL=FULL\nPARAGRAPH=full%LOOPID%\n[TEXT]\nPARAGRAPH=after\n";
+    const auto with = [&](std::string_view query) {
+        std::string text = body;
+        return text.replace(text.find("%s"), 2, query);
+    };
+    Units({3, 1, 2});
+    const std::string loop = "SQLQUERY=SELECT IdUnit, Unit FROM Unit ORDER BY IdUnit DESC\n";
+    EXPECT_THAT(Lines(with(loop)), ElementsAre("p before", "p 3 U3", "p 2 U2", "p 1 U1", "p full",
+                                               "p after"));
+    report.DetailLevel = reports::Detail::Summary;
+    EXPECT_THAT(Lines(with(loop)),
+                ElementsAre("p before", "p 3 U3", "rule sum 3", "p ", "p 2 U2", "rule sum 2", "p ",
+                            "p 1 U1", "rule sum 1", "p ", "p after"));
+    EXPECT_THAT(Lines(with("SQLQUERY=SELECT IdUnit FROM Unit WHERE IdUnit > 9\n")),
+                ElementsAre("p before", "p after"));
+    EXPECT_THAT(Lines(with("SQLQUERY=SELECT Nonsense\n")), ElementsAre("p before", "p after"));
+    EXPECT_THAT(Lines(with("")), ElementsAre("p before", "p  %UNIT%", "rule sum ", "p ", "p after"))
+        << "without a query every section runs once";
+    report.SelectedId = 2;
+    EXPECT_THAT(Lines(with("SQLQUERY=SELECT IdUnit FROM Unit WHERE IdUnit = %SELECTEDID%\n"))[1],
+                "p 2 U2");
+}
+
+TEST_F(ReportRuns, HeadsThePagesByTheFileAndTheCompany) {
+    core::Config().CompanyName = "Ann | Bob";
+    CoreBooks::Run("INSERT INTO Account (IdAccount, ShowAs) VALUES (4, 'First Bank')");
+    report.SelectItem = 1;
+    report.SelectedId = 4;
+    FlowLines flow = Run("SHOWTITLE=TRUE\nTITLE=Rent %DATE%\nSUBTITLE=Of %selecteddescription% %DATE%\n"
+                         "ORIENTATION=LANDSCAPE\n");
+    EXPECT_THAT(flow.lines, ElementsAre("h1 Rent %DATE%", "p Of First Bank %DATE%"));
+    EXPECT_EQ(flow.info.name, "Test");
+    EXPECT_EQ(flow.info.frame.header.left, "Ann | Bob");
+    EXPECT_EQ(flow.info.frame.header.right, "05/17/2024");
+    EXPECT_EQ(flow.info.frame.footer.left, "Test");
+    EXPECT_EQ(flow.info.frame.footer.right, "Page %d");
+    EXPECT_EQ(report.Orientation, platform::PageOrientation::Landscape) << "kept with the choices";
+    EXPECT_GT(flow.info.setup.PageWidth(), flow.info.setup.PageHeight());
+
+    flow = Run("SHOWHEADER=FALSE\nSHOWFOOTER=0\n");
+    EXPECT_TRUE(flow.lines.empty());
+    EXPECT_TRUE(flow.info.frame.header.IsEmpty());
+    EXPECT_TRUE(flow.info.frame.footer.IsEmpty());
+    EXPECT_GT(flow.info.setup.PageWidth(), flow.info.setup.PageHeight())
+        << "the file doesn't say, so the last orientation stays";
+}
+
+TEST_F(ReportRuns, KeepsAllOfALongTitleInItsBox) {
+    WriteReport("test.rpt", "TITLE=" + std::string(60, 'W') + "\nSUBTITLE=below\n");
+    platform::FixedMetrics metrics;
+    platform::PrintedDocument pages;
+    platform::PrintSurface page(metrics, &pages, nullptr);
+    reports::ReportRun(report).Draw(page);
+    ASSERT_EQ(pages.PageCount(), 1U);
+    const auto& items = pages.Page(0).Items();
+    ASSERT_EQ(items[0].kind, platform::PageItem::Kind::Box);
+    EXPECT_EQ(items[0].fill, 0xE0E0E0U);
+    EXPECT_EQ(items[0].y2 - items[0].y1, 800);
+    for (const platform::PageItem& item : items) {
+        if (item.kind != platform::PageItem::Kind::Text) continue;
+        if (pages.Page(0).TextOf(item).starts_with('W')) {
+            EXPECT_LE(item.x2, items[0].x2);
+            EXPECT_LT(item.y1, items[0].y2);
+        }
+        if (pages.Page(0).TextOf(item) == "below") {
+            EXPECT_EQ(item.x1, 1440);
+            EXPECT_GT(item.y1, items[0].y1 + 900);
+        }
+    }
+}
+
+TEST_F(ReportRuns, KeepsTheViewersSettings) {
+    EXPECT_TRUE(reports::ReadOpenExport());
+    reports::SaveOpenExport(false);
+    EXPECT_FALSE(reports::ReadOpenExport());
+    EXPECT_EQ(core::GetRegString(R"(SOFTWARE\Vestrel\Global\Settings)", R"(rpt\Openexport)", ""),
+              "False");
+
+    platform::PageSetup setup = reports::ReadPageSetup();
+    EXPECT_EQ(setup.marginTop, 1440);
+    setup.marginLeft = 720;
+    setup.paper = setup.paper == platform::Paper::A4 ? platform::Paper::Letter : platform::Paper::A4;
+    reports::SavePageSetup(setup);
+    EXPECT_EQ(reports::ReadPageSetup(), setup);
+    EXPECT_EQ(reports::ReportRun(report).Setup().marginLeft, 720);
+
+    EXPECT_EQ(reports::LastSaveDir(), "");
+    reports::SaveLastSaveDir("/x/");
+    EXPECT_EQ(core::GetRegString(R"(SOFTWARE\Vestrel\Global\Settingsrpt)", "LastSaveDir", ""),
+              "/x/");
+    const std::string folder = Folder().string() + "/";
+    EXPECT_EQ(reports::ProposeExportFile(folder, reports::ExportFormat::Html),
+              folder + "rpt0001.html");
+    MakeFile("rpt0001.html");
+    EXPECT_EQ(reports::ProposeExportFile(folder, reports::ExportFormat::Html),
+              folder + "rpt0002.html");
+    EXPECT_EQ(reports::ProposeExportFile(folder, reports::ExportFormat::Pdf),
+              folder + "rpt0001.pdf");
+}
+
+} // namespace
+
+} // namespace tests

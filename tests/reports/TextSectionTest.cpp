@@ -1,0 +1,135 @@
+#include "core/Configuration.h"
+#include "reports/ReportsFixture.h"
+
+namespace tests {
+
+namespace {
+
+using testing::ElementsAre;
+
+class TextSection : public Reports {
+  protected:
+    TextSection() {
+        Run("INSERT INTO Account (IdAccount, ShowAs, Balance) VALUES (1, 'Ann; Bob | Co', 1000)");
+        Run("INSERT INTO Account (IdAccount, ShowAs, Balance) VALUES (2, 'Carl', -12)");
+    }
+    using Reports::Run;
+    static void Run(const char* sql) { CoreBooks::Run(sql); }
+
+    /// The one paragraph of a section.
+    std::string Paragraph(std::string_view commands) {
+        const auto lines = Lines("[TEXT]\n" + std::string(commands));
+        return lines.size() == 1 ? lines[0].substr(2) : "(" + std::to_string(lines.size()) + ")";
+    }
+};
+
+TEST_F(TextSection, CalculatesBeforeItDraws) {
+    const std::string values =
+        "SQLQUERY=SELECT Balance AS A, 2.5 AS B, 0 AS Z, 'x' AS T, Null AS N FROM Account "
+        "WHERE IdAccount = 1\n";
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"%A%+%B%", "1002.5"},
+        {"%A% - %B%", "997.5"},
+        {"%B%*%B%", "6.25"},
+        {"%A%/%B%", "400"},
+        {"%B%^2", "6.25"},
+        {"-5+3", "-2"},
+        {"5", "0"},
+        {"5--3", "8"},
+        {"5?3", "0"},
+        {"%A%/%Z%", "%T2%"},
+        {"%T%+1", "%T2%"},
+        {"(12.00)+1", "%T2%"},
+        {"1+(12.00)", "%T2%"},
+        {"1+", "%T2%"},
+        {"1.2.3+1", "%T2%"},
+        {"-1^0.5", "%T2%"},
+        {"10^400", "%T2%"},
+        {"", "0"},
+        {"%N%+1", "0"}, // "+1" has no operator
+    };
+    for (const auto& [expression, result] : cases) {
+        EXPECT_EQ(Paragraph("PARAGRAPH=%t2%\n" + values + "CALC=%T2%=" + expression), result)
+            << expression;
+    }
+    EXPECT_EQ(Paragraph(values + "CALC=%T2%=%A%+%B%\nFORMATCURRENCY=t2\nPARAGRAPH=%T2%"),
+              "1,002.50");
+    EXPECT_EQ(Paragraph("SQLQUERY=SELECT '1/5/2024' AS D FROM Account\nFORMATDATE=D\n"
+                        "FORMATDATE=NOBODY\nPARAGRAPH=%D%"),
+              "01/05/2024");
+}
+
+TEST_F(TextSection, FillsTagsInTheirOrder) {
+    core::Config().CompanyName = "Acme";
+    core::Config().DefaultCounty = "Kings";
+    report.SelectedId = 7;
+    report.SelectedYear = "2023";
+    EXPECT_EQ(Paragraph("PARAGRAPH=%selectedid% %SelectedYear% %STARTDATE%-%ENDDATE% %CompanyName%"),
+              "7 2023 05/17/2023-05/17/2024 Acme");
+    EXPECT_EQ(Paragraph("PARAGRAPH=%MONTHNAME% %DAY%, %YEAR% %MONTH% %DATE% %COUNTY% %LOOPID%."),
+              "May 17, 2024 5 05/17/2024 Kings .");
+    EXPECT_EQ(Paragraph("PARAGRAPH=50%, %NOBODY% and %"), "50%, %NOBODY% and %");
+
+    // A value may hold a tag that is filled later, never one that was filled before.
+    EXPECT_EQ(Paragraph("SQLQUERY=SELECT '%COMPANYNAME% %SELECTEDID%' AS V FROM Account\n"
+                        "PARAGRAPH=%V%"),
+              "Acme %SELECTEDID%");
+    // The first variable of a name wins; a query without rows or with a fault gives none.
+    EXPECT_EQ(Paragraph("SQLQUERY=SELECT ShowAs AS V FROM Account WHERE IdAccount=2\n"
+                        "SQLQUERY=SELECT ShowAs AS V FROM Account WHERE IdAccount=1\n"
+                        "SQLQUERY=SELECT ShowAs AS W FROM Account WHERE IdAccount=9\n"
+                        "SQLQUERY=SELECT Nonsense AS X FROM Nowhere\n"
+                        "SQLQUERY=DELETE FROM Account\n"
+                        "PARAGRAPH=%V% %W% %X%"),
+              "Carl %W% %X%");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Account"), "2") << "a report changes nothing";
+    EXPECT_EQ(Paragraph("SQLQUERY=SELECT Balance, Null AS N FROM Account WHERE IdAccount=2\n"
+                        "PARAGRAPH=%BALANCE%%N%."),
+              "(12.00).");
+}
+
+TEST_F(TextSection, GivesAttributesToTheCommandBefore) {
+    const FlowLines flow = Run(
+        "[TEXT]\nFONTBOLD=TRUE\nFONTSIZE=40\nPARAGRAPH=plain\nPARAGRAPH=set\nAPPEND= on\n"
+        "FONTNAME=Liberation Serif\nFONTBOLD=true\nFONTITALIC=TRUE\nFONTSIZE=14\nTEXTCOLOR=255\n"
+        "PARAGRAPH=plain again\nFONTUNDERLINE=YES\n");
+    EXPECT_THAT(flow.lines, ElementsAre("p plain", "p set on", "p plain again"));
+    const platform::PrintStyle& set = flow.styles[1];
+    EXPECT_EQ(set.fontName, "Liberation Serif");
+    EXPECT_TRUE(set.fontBold && set.fontItalic && !set.fontUnderline);
+    EXPECT_EQ(set.fontSize, 14);
+    EXPECT_EQ(set.textColor, 255U);
+    EXPECT_EQ(flow.styles[0], flow.styles[2]);
+    EXPECT_FALSE(flow.styles[0].fontBold);
+}
+
+TEST_F(TextSection, DrawsTablesOfTheDefinitionsOwnText) {
+    const FlowLines flow = Run(
+        "[TEXT]\nSQLQUERY=SELECT ShowAs FROM Account WHERE IdAccount=1\n"
+        "TABLE=Name|%SHOWAS%;Second|\nAPPEND=2\nTABLEFORMAT=<2880|>1440\nTABLEHEADER=A|B\n"
+        "TABLECOLBOLD=1, 9,0,x\nTABLEALIGNCURRENCY=2\nTABLEBORDER= box \n");
+    ASSERT_EQ(flow.tables.size(), 1U);
+    EXPECT_TRUE(flow.tables[0].columns[0].bold);
+    EXPECT_FALSE(flow.tables[0].columns[1].bold);
+    EXPECT_TRUE(flow.tables[0].columns[1].alignCurrency);
+    EXPECT_EQ(flow.tables[0].border, platform::TableBorder::Box);
+    // A tag's value is text of the table like any other: its "|" and ";" make cells and rows.
+    EXPECT_THAT(flow.lines, ElementsAre("table <2880 >1440", "head A|B", "row Name|Ann",
+                                        "row  Bob | Co", "row Second|2"));
+    EXPECT_THAT(Lines("[TEXT]\nTABLE=\nTABLEFORMAT=<100\nTABLEBORDER=BOX\nPARAGRAPH=after\n").back(),
+                "p after");
+}
+
+TEST_F(TextSection, PutsShapesOnTheGridOfThePage) {
+    WriteReport("test.rpt",
+                "SHOWTITLE=FALSE\nSCALE=100,100\n[TEXT]\nLOCATE=50,10\nPARAGRAPH=here\n"
+                "DRAWLINE=0,0,100\nPENCOLOR=255\nPENWIDTH=30\nDRAWBOX=10,20,30,40\nFILLCOLOR=128\n"
+                "SEPLINE=Caption\nSEPLINE= - \n");
+    EXPECT_THAT(Lines("SCALE=100,100\n[TEXT]\nLOCATE=50,10\nPARAGRAPH=here\nSEPLINE=Caption\n"
+                      "SEPLINE= - \nDRAWGRID\n"),
+                ElementsAre("p here", "rule Caption", "rule "));
+}
+
+} // namespace
+
+} // namespace tests
