@@ -127,7 +127,8 @@ constexpr auto kKeys = std::to_array<CatalogueKey>({
 });
 
 bool IsFlag(std::string_view value) {
-    return platform::EqualIgnoringCase(value, "TRUE") || platform::EqualIgnoringCase(value, "FALSE");
+    return platform::EqualIgnoringCase(value, "TRUE") ||
+           platform::EqualIgnoringCase(value, "FALSE");
 }
 
 constexpr auto kOtherSections =

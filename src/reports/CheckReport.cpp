@@ -24,10 +24,9 @@ bool IsSectionHeader(const DefinitionLine& line) {
 }
 
 bool IsKnownSection(const DefinitionLine& line) {
-    return std::ranges::any_of(
-        std::to_array<std::string_view>(
-            {"GENERAL", "HEADER", "DATA", "TEXT", "LOOP", "ENDLOOP", "FOOTER"}),
-        [&](auto section) { return line.Opens(section); });
+    return std::ranges::any_of(std::to_array<std::string_view>({"GENERAL", "HEADER", "DATA", "TEXT",
+                                                                "LOOP", "ENDLOOP", "FOOTER"}),
+                               [&](auto section) { return line.Opens(section); });
 }
 
 bool IsColorKey(std::string_view key) {

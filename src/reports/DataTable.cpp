@@ -67,8 +67,7 @@ std::string CellText(const platform::Field& field) {
         case FieldType::Currency:
             return platform::Format(field.Value(), platform::kMoneyFormat);
         case FieldType::Boolean:
-            return field.IsNull() ? std::string()
-                                  : platform::Format(field.Value(), "Yes/No");
+            return field.IsNull() ? std::string() : platform::Format(field.Value(), "Yes/No");
         case FieldType::Integer:
         case FieldType::Long:
         case FieldType::Double:

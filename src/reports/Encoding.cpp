@@ -22,7 +22,11 @@ std::size_t CharacterLength(std::string_view text) {
     const auto at = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned lead = at(0);
     if (lead < 0x80) return 1;
-    const std::size_t length = lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    const std::size_t length = lead < 0xC2   ? 0
+                               : lead < 0xE0 ? 2
+                               : lead < 0xF0 ? 3
+                               : lead < 0xF5 ? 4
+                                             : 0;
     if (length == 0 || text.size() < length) return 0;
     for (std::size_t i = 1; i < length; ++i) {
         if (!IsTail(text[i])) return 0;

@@ -42,8 +42,7 @@ std::vector<std::string> FilesOf(const fs::path& folder, std::string_view extens
          at.increment(failure)) {
         std::error_code unreadable;
         const std::string name = at->path().filename().string();
-        if (HasExtension(name, extension) && at->is_regular_file(unreadable))
-            names.push_back(name);
+        if (HasExtension(name, extension) && at->is_regular_file(unreadable)) names.push_back(name);
     }
     return names;
 }

@@ -33,8 +33,7 @@ void ChooseForRecord(ReportDef& report, std::int32_t selectedId) {
 }
 
 ReportRun::ReportRun(ReportDef& report)
-    : ReportRun(report, std::filesystem::path(core::App().ReportPath) / report.FileName) {
-}
+    : ReportRun(report, std::filesystem::path(core::App().ReportPath) / report.FileName) {}
 
 ReportRun::ReportRun(ReportDef& report, std::filesystem::path file)
     : report_(&report), path_(std::move(file)), file_(LoadReportFile(path_)) {

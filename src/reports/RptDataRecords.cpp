@@ -55,9 +55,9 @@ void clsRptData::ShowRecord(platform::PrintSurface& page, platform::Recordset& r
     }
     page.ApplyStyle("Table");
     page.StartTable();
-    page.AddTableArray("<" + std::to_string(kLabelWidth) + "|<" +
-                           std::to_string(page.PrintWidth() - kLabelWidth),
-                       {}, std::make_unique<platform::HeldRows>(std::move(lines)));
+    page.AddTableArray(
+        "<" + std::to_string(kLabelWidth) + "|<" + std::to_string(page.PrintWidth() - kLabelWidth),
+        {}, std::make_unique<platform::HeldRows>(std::move(lines)));
     page.Table().border = platform::TableBorder::None;
     ApplyAttributes(page.Table(), Attributes, ColWrap);
     page.EndTable();

@@ -97,8 +97,8 @@ class clsRptData::TableRun {
     }
 
     void ReadTexts() {
-        head_ = IsGrouped() ? "Selected " + section_.GroupDesc + " = %GROUPNAME%"
-                            : section_.HeadText;
+        head_ =
+            IsGrouped() ? "Selected " + section_.GroupDesc + " = %GROUPNAME%" : section_.HeadText;
         if (!section_.TotalField.empty()) {
             foot_ = section_.FootText.empty() ? "Total " + section_.TotalDesc + " = %GROUPTOTAL%"
                                               : section_.FootText;

@@ -166,7 +166,8 @@ class StatementCheck {
         const std::string filter = section.SQLFilter.empty() ? "" : " WHERE " + section.SQLFilter;
         const std::string order = section.SQLOrder.empty() ? "" : " ORDER BY " + section.SQLOrder;
         Try(line("SQLFIELDS"),
-            tags.Fill("SELECT " + section.SQLFields + " FROM " + section.SQLTables + filter + order),
+            tags.Fill("SELECT " + section.SQLFields + " FROM " + section.SQLTables + filter +
+                      order),
             nullptr);
         const bool isGrouped = section.Mode == DataMode::Table && !section.GroupField.empty();
         if (isGrouped) {

@@ -48,8 +48,7 @@ TableBorder BorderOfWord(std::string_view word) {
     return found == kBorders.end() ? TableBorder::All : found->second;
 }
 
-void ApplyAttributes(platform::PrintTable& table, const TableAttributes& attributes,
-                     bool colWrap) {
+void ApplyAttributes(platform::PrintTable& table, const TableAttributes& attributes, bool colWrap) {
     if (table.rowCount == 0 || table.columns.empty()) return;
     for (platform::TableColumn& column : table.columns)
         column.wrap = colWrap ? platform::Wrap::Wrap : platform::Wrap::Ellipsis;

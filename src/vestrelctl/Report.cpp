@@ -59,7 +59,7 @@ FoundReport ReadOutside(const fs::path& file) {
 
 FoundReport Find(const std::string& name) {
     if (name.find_first_of("/\\") != std::string::npos) return ReadOutside(name);
-    reports::LoadReportList();
+    LoadCatalogue();
     const int index = reports::FindReportNamed(name);
     if (index == 0) throw platform::Error(fmt::format("There is no report '{}'", name));
     const reports::ReportDef& report = *reports::FindReport(index);
@@ -128,7 +128,8 @@ void AddChoices(CLI::App& command, ReportWords& words) {
     command.add_option("--range", words.range, "The dates by rule")
         ->check(CLI::IsMember({"current", "trailing", "previous", "selected"}));
     command.add_flag("--summary", words.summary, "Show a summary instead of all details");
-    command.add_flag("--landscape", words.landscape, "Wide pages, unless the report says otherwise");
+    command.add_flag("--landscape", words.landscape,
+                     "Wide pages, unless the report says otherwise");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/Globals.h"
+#include "core/ShippedReports.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Csv.h"
 #include "reports/ReportList.h"
@@ -41,6 +42,13 @@ void UseReportsFolder(const std::string& folder) {
     if (!folder.empty()) core::App().ReportPath = platform::AddBackslash(folder);
 }
 
+void LoadCatalogue() {
+    const core::Globals& app = core::App();
+    if (app.ReportPath == platform::AddBackslash(app.AppPath + "Reports"))
+        core::InstallShippedReports(core::ShippedReportsFolder(), app.ReportPath);
+    reports::LoadReportList();
+}
+
 std::filesystem::path ReportsFolder() {
     return core::App().ReportPath;
 }
@@ -52,7 +60,7 @@ void AddReports(CLI::App& line) {
         ->type_name("DIR");
     command->callback([folder] {
         UseReportsFolder(*folder);
-        reports::LoadReportList();
+        LoadCatalogue();
         PrintCatalogue();
     });
 }

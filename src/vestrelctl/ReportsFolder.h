@@ -9,4 +9,8 @@ namespace vestrelctl {
 void UseReportsFolder(const std::string& folder);
 std::filesystem::path ReportsFolder();
 
+/// Loads the catalogue of that folder; the program's own folder first receives the reports that
+/// come with the program.
+void LoadCatalogue();
+
 } // namespace vestrelctl

@@ -143,7 +143,8 @@ TEST_F(Catalogue, FillsTheMenusOfForms) {
     reports::LoadReportList();
     EXPECT_THAT(Captions(reports::ReportsOf(RecordForm::Lease)),
                 ElementsAre("Lease", "(&1) Ledger"));
-    EXPECT_THAT(Captions(reports::ReportsOfBuilding()), ElementsAre("-", "(&1) [Building] Cash flow"));
+    EXPECT_THAT(Captions(reports::ReportsOfBuilding()),
+                ElementsAre("-", "(&1) [Building] Cash flow"));
     EXPECT_THAT(Captions(reports::ReportsOfSelectedUnit()),
                 ElementsAre("-", "(&1) [Selected Unit] Inventory"));
     ASSERT_EQ(reports::ReceiptsOf(RecordForm::Lease).size(), 1U);

@@ -73,6 +73,15 @@ FlowLines Reports::Run(std::string_view sections) {
     return flow;
 }
 
+platform::PrintedDocument Reports::Pages(std::string_view definition) {
+    WriteReport("test.rpt", definition);
+    platform::FixedMetrics metrics;
+    platform::PrintedDocument pages;
+    platform::PrintSurface page(metrics, &pages, nullptr);
+    reports::ReportRun(report).Draw(page);
+    return pages;
+}
+
 std::string Reports::Fault(std::string_view sections) {
     try {
         Run(sections);

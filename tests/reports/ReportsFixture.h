@@ -6,6 +6,7 @@
 
 #include "core/CoreFixture.h"
 #include "platform/printing/PrintSurface.h"
+#include "platform/printing/PrintedDocument.h"
 #include "reports/ReportDef.h"
 
 namespace tests {
@@ -39,6 +40,8 @@ class Reports : public CoreBooks {
     /// and footer unless the definition asks for them.
     FlowLines Run(std::string_view sections);
     std::vector<std::string> Lines(std::string_view sections) { return Run(sections).lines; }
+    /// The pages of a whole definition.
+    platform::PrintedDocument Pages(std::string_view definition);
     /// The reason and line with which a definition's run ends, empty if it doesn't.
     std::string Fault(std::string_view sections);
 

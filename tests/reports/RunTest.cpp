@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "core/Configuration.h"
 #include "core/Settings.h"
 #include "platform/printing/PrintedDocument.h"
@@ -36,12 +38,12 @@ TEST_F(ReportRuns, TakesTheFilesDateRuleBeforeTheChoice) {
     const std::string selected = "p 02/03/2020 04/05/2021";
     report.StartDate = platform::Date(2020, 2, 3);
     report.EndDate = platform::Date(2021, 4, 5);
-    for (const Case& one : {Case{None, Select, selected}, Case{Select, Select, selected},
-                            Case{None, CurrentYear, current}, Case{Select, TrailingYear, trailing},
-                            Case{None, PreviousYear, previous}, Case{CurrentYear, Select, current},
-                            Case{CurrentYear, PreviousYear, current},
-                            Case{TrailingYear, CurrentYear, trailing},
-                            Case{PreviousYear, Select, previous}, Case{None, None, selected}}) {
+    for (const Case& one :
+         {Case{None, Select, selected}, Case{Select, Select, selected},
+          Case{None, CurrentYear, current}, Case{Select, TrailingYear, trailing},
+          Case{None, PreviousYear, previous}, Case{CurrentYear, Select, current},
+          Case{CurrentYear, PreviousYear, current}, Case{TrailingYear, CurrentYear, trailing},
+          Case{PreviousYear, Select, previous}, Case{None, None, selected}}) {
         report.DateRange = one.rule;
         report.DateChoice = one.choice;
         EXPECT_THAT(Lines("[TEXT]\nPARAGRAPH=%STARTDATE% %ENDDATE%\n"), ElementsAre(one.dates))
@@ -60,8 +62,8 @@ TEST_F(ReportRuns, RunsTheSectionsOfEachPhaseAndDetail) {
     };
     Units({3, 1, 2});
     const std::string loop = "SQLQUERY=SELECT IdUnit, Unit FROM Unit ORDER BY IdUnit DESC\n";
-    EXPECT_THAT(Lines(with(loop)), ElementsAre("p before", "p 3 U3", "p 2 U2", "p 1 U1", "p full",
-                                               "p after"));
+    EXPECT_THAT(Lines(with(loop)),
+                ElementsAre("p before", "p 3 U3", "p 2 U2", "p 1 U1", "p full", "p after"));
     report.DetailLevel = reports::Detail::Summary;
     EXPECT_THAT(Lines(with(loop)),
                 ElementsAre("p before", "p 3 U3", "rule sum 3", "p ", "p 2 U2", "rule sum 2", "p ",
@@ -81,8 +83,9 @@ TEST_F(ReportRuns, HeadsThePagesByTheFileAndTheCompany) {
     CoreBooks::Run("INSERT INTO Account (IdAccount, ShowAs) VALUES (4, 'First Bank')");
     report.SelectItem = 1;
     report.SelectedId = 4;
-    FlowLines flow = Run("SHOWTITLE=TRUE\nTITLE=Rent %DATE%\nSUBTITLE=Of %selecteddescription% %DATE%\n"
-                         "ORIENTATION=LANDSCAPE\n");
+    FlowLines flow =
+        Run("SHOWTITLE=TRUE\nTITLE=Rent %DATE%\nSUBTITLE=Of %selecteddescription% %DATE%\n"
+            "ORIENTATION=LANDSCAPE\n");
     EXPECT_THAT(flow.lines, ElementsAre("h1 Rent %DATE%", "p Of First Bank %DATE%"));
     EXPECT_EQ(flow.info.name, "Test");
     EXPECT_EQ(flow.info.frame.header.left, "Ann | Bob");
@@ -101,27 +104,24 @@ TEST_F(ReportRuns, HeadsThePagesByTheFileAndTheCompany) {
 }
 
 TEST_F(ReportRuns, KeepsAllOfALongTitleInItsBox) {
-    WriteReport("test.rpt", "TITLE=" + std::string(60, 'W') + "\nSUBTITLE=below\n");
-    platform::FixedMetrics metrics;
-    platform::PrintedDocument pages;
-    platform::PrintSurface page(metrics, &pages, nullptr);
-    reports::ReportRun(report).Draw(page);
+    const platform::PrintedDocument pages =
+        Pages("TITLE=" + std::string(60, 'W') + "\nSUBTITLE=below\n");
     ASSERT_EQ(pages.PageCount(), 1U);
     const auto& items = pages.Page(0).Items();
-    ASSERT_EQ(items[0].kind, platform::PageItem::Kind::Box);
-    EXPECT_EQ(items[0].fill, 0xE0E0E0U);
-    EXPECT_EQ(items[0].y2 - items[0].y1, 800);
-    for (const platform::PageItem& item : items) {
-        if (item.kind != platform::PageItem::Kind::Text) continue;
-        if (pages.Page(0).TextOf(item).starts_with('W')) {
-            EXPECT_LE(item.x2, items[0].x2);
-            EXPECT_LT(item.y1, items[0].y2);
-        }
-        if (pages.Page(0).TextOf(item) == "below") {
-            EXPECT_EQ(item.x1, 1440);
-            EXPECT_GT(item.y1, items[0].y1 + 900);
-        }
-    }
+    const auto box =
+        std::ranges::find(items, platform::PageItem::Kind::Box, &platform::PageItem::kind);
+    ASSERT_NE(box, items.end());
+    EXPECT_EQ(box->fill, 0xE0E0E0U);
+    EXPECT_EQ(box->y2 - box->y1, 800);
+    const auto find = [&](std::string_view start) {
+        return *std::ranges::find_if(
+            items, [&](const auto& item) { return pages.Page(0).TextOf(item).starts_with(start); });
+    };
+    EXPECT_EQ(pages.Page(0).TextOf(find("W")).size(), 60U) << "all in one line";
+    EXPECT_LE(find("W").x2, box->x2);
+    EXPECT_LT(find("W").y1, box->y2);
+    EXPECT_EQ(find("below").x1, 1440);
+    EXPECT_GT(find("below").y1, box->y1 + 900);
 }
 
 TEST_F(ReportRuns, KeepsTheViewersSettings) {
@@ -134,7 +134,8 @@ TEST_F(ReportRuns, KeepsTheViewersSettings) {
     platform::PageSetup setup = reports::ReadPageSetup();
     EXPECT_EQ(setup.marginTop, 1440);
     setup.marginLeft = 720;
-    setup.paper = setup.paper == platform::Paper::A4 ? platform::Paper::Letter : platform::Paper::A4;
+    setup.paper =
+        setup.paper == platform::Paper::A4 ? platform::Paper::Letter : platform::Paper::A4;
     reports::SavePageSetup(setup);
     EXPECT_EQ(reports::ReadPageSetup(), setup);
     EXPECT_EQ(reports::ReportRun(report).Setup().marginLeft, 720);

@@ -23,7 +23,8 @@ TEST_F(RunTimeReader, AppliesPageKeysInAnySectionTheLastOneWins) {
     EXPECT_FALSE(defaults.FileOrientation || defaults.DebugOn);
 
     const ReportFile read = ReadReport(
-        " title = First \nSUBTITLE=Of %SELECTEDYEAR%\n[GENERAL]\nSHOWTITLE=yes\nORIENTATION=landscape\n"
+        " title = First \nSUBTITLE=Of "
+        "%SELECTEDYEAR%\n[GENERAL]\nSHOWTITLE=yes\nORIENTATION=landscape\n"
         "[DATA]\nTITLE=Second\nSCALE= 80 , 60 ,9\nDEBUG\n[TEXT]\nSHOWFOOTER=TRUE\nSHOWHEADER=1\n");
     EXPECT_EQ(read.Title, "Second");
     EXPECT_EQ(read.SubTitle, "Of %SELECTEDYEAR%");
@@ -43,9 +44,11 @@ TEST_F(RunTimeReader, AppliesPageKeysInAnySectionTheLastOneWins) {
 
 TEST_F(RunTimeReader, NumbersTheSectionsByTheLoopAndGivesEachItsQuery) {
     const ReportFile read = ReadReport(
-        "SQLQUERY=dropped\n[DATA]\nSQLQUERY=a\n[LOOP]\nSQLQUERY=loop\nPARAGRAPH=no section\n[TEXT]\n"
+        "SQLQUERY=dropped\n[DATA]\nSQLQUERY=a\n[LOOP]\nSQLQUERY=loop\nPARAGRAPH=no "
+        "section\n[TEXT]\n"
         "SQLQUERY=b\nDETAILLEVEL=summary\n[ENDLOOP]\nSQLQUERY=dropped too\nTOTALFIELD=x\n[DATA]\n"
-        "DETAILLEVEL=FULL\nSHOWTABLE=ignored\nSHOWRECORDS\nMAXRECORDS= \n[FOOTER]\nHEADLINE=dropped\n");
+        "DETAILLEVEL=FULL\nSHOWTABLE=ignored\nSHOWRECORDS\nMAXRECORDS= "
+        "\n[FOOTER]\nHEADLINE=dropped\n");
     ASSERT_EQ(read.Sections.size(), 3U);
     EXPECT_EQ(read.LoopQuery, "loop");
     EXPECT_EQ(read.LoopLine, 5);
@@ -79,8 +82,8 @@ TEST_F(RunTimeReader, EndsTheRunAtAFaultWithFileLineAndReason) {
         {"[TEXT]\nPARAGRAPH=a\nTEXTCOLOR=red", "line 4: "},
     };
     for (const auto& [sections, fault] : cases) {
-        EXPECT_TRUE(Fault(sections).starts_with("test.rpt, " + fault))
-            << sections << "\n" << Fault(sections);
+        EXPECT_TRUE(Fault(sections).starts_with("test.rpt, " + fault)) << sections << "\n"
+                                                                       << Fault(sections);
     }
     EXPECT_EQ(Fault("TOTALFIELD=x\n[HEADER]\nPARAGRAPH=x\n[TEXT]\nNOSUCHKEY=x\n"), "");
 }

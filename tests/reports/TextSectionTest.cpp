@@ -10,11 +10,10 @@ using testing::ElementsAre;
 class TextSection : public Reports {
   protected:
     TextSection() {
-        Run("INSERT INTO Account (IdAccount, ShowAs, Balance) VALUES (1, 'Ann; Bob | Co', 1000)");
-        Run("INSERT INTO Account (IdAccount, ShowAs, Balance) VALUES (2, 'Carl', -12)");
+        CoreBooks::Run(
+            "INSERT INTO Account (IdAccount, ShowAs, Balance) VALUES (1, 'Ann; Bob | Co', 1000)");
+        CoreBooks::Run("INSERT INTO Account (IdAccount, ShowAs, Balance) VALUES (2, 'Carl', -12)");
     }
-    using Reports::Run;
-    static void Run(const char* sql) { CoreBooks::Run(sql); }
 
     /// The one paragraph of a section.
     std::string Paragraph(std::string_view commands) {
@@ -37,14 +36,14 @@ TEST_F(TextSection, CalculatesBeforeItDraws) {
         {"5", "0"},
         {"5--3", "8"},
         {"5?3", "0"},
-        {"%A%/%Z%", "%T2%"},
-        {"%T%+1", "%T2%"},
-        {"(12.00)+1", "%T2%"},
-        {"1+(12.00)", "%T2%"},
-        {"1+", "%T2%"},
-        {"1.2.3+1", "%T2%"},
-        {"-1^0.5", "%T2%"},
-        {"10^400", "%T2%"},
+        {"%A%/%Z%", "%t2%"},
+        {"%T%+1", "%t2%"},
+        {"(12.00)+1", "%t2%"},
+        {"1+(12.00)", "%t2%"},
+        {"1+", "%t2%"},
+        {"1.2.3+1", "%t2%"},
+        {"-1^0.5", "%t2%"},
+        {"10^400", "%t2%"},
         {"", "0"},
         {"%N%+1", "0"}, // "+1" has no operator
     };
@@ -64,16 +63,19 @@ TEST_F(TextSection, FillsTagsInTheirOrder) {
     core::Config().DefaultCounty = "Kings";
     report.SelectedId = 7;
     report.SelectedYear = "2023";
-    EXPECT_EQ(Paragraph("PARAGRAPH=%selectedid% %SelectedYear% %STARTDATE%-%ENDDATE% %CompanyName%"),
-              "7 2023 05/17/2023-05/17/2024 Acme");
+    EXPECT_EQ(
+        Paragraph("PARAGRAPH=%selectedid% %SelectedYear% %STARTDATE%-%ENDDATE% %CompanyName%"),
+        "7 2023 05/17/2023-05/17/2024 Acme");
     EXPECT_EQ(Paragraph("PARAGRAPH=%MONTHNAME% %DAY%, %YEAR% %MONTH% %DATE% %COUNTY% %LOOPID%."),
               "May 17, 2024 5 05/17/2024 Kings .");
     EXPECT_EQ(Paragraph("PARAGRAPH=50%, %NOBODY% and %"), "50%, %NOBODY% and %");
 
     // A value may hold a tag that is filled later, never one that was filled before.
-    EXPECT_EQ(Paragraph("SQLQUERY=SELECT '%COMPANYNAME% %SELECTEDID%' AS V FROM Account\n"
-                        "PARAGRAPH=%V%"),
-              "Acme %SELECTEDID%");
+    CoreBooks::Run(
+        "INSERT INTO Account (IdAccount, ShowAs) VALUES (3, '%CompanyName% %SELECTEDID%')");
+    EXPECT_EQ(
+        Paragraph("SQLQUERY=SELECT ShowAs FROM Account WHERE IdAccount=3\nPARAGRAPH=%SHOWAS%"),
+        "Acme %SELECTEDID%");
     // The first variable of a name wins; a query without rows or with a fault gives none.
     EXPECT_EQ(Paragraph("SQLQUERY=SELECT ShowAs AS V FROM Account WHERE IdAccount=2\n"
                         "SQLQUERY=SELECT ShowAs AS V FROM Account WHERE IdAccount=1\n"
@@ -82,7 +84,7 @@ TEST_F(TextSection, FillsTagsInTheirOrder) {
                         "SQLQUERY=DELETE FROM Account\n"
                         "PARAGRAPH=%V% %W% %X%"),
               "Carl %W% %X%");
-    EXPECT_EQ(Ask("SELECT Count(*) FROM Account"), "2") << "a report changes nothing";
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Account"), "3") << "a report changes nothing";
     EXPECT_EQ(Paragraph("SQLQUERY=SELECT Balance, Null AS N FROM Account WHERE IdAccount=2\n"
                         "PARAGRAPH=%BALANCE%%N%."),
               "(12.00).");
@@ -90,10 +92,10 @@ TEST_F(TextSection, FillsTagsInTheirOrder) {
 
 TEST_F(TextSection, GivesAttributesToTheCommandBefore) {
     const FlowLines flow = Run(
-        "[TEXT]\nFONTBOLD=TRUE\nFONTSIZE=40\nPARAGRAPH=plain\nPARAGRAPH=set\nAPPEND= on\n"
+        "[TEXT]\nFONTBOLD=TRUE\nFONTSIZE=40\nPARAGRAPH=plain\nPARAGRAPH=set\nAPPEND= and on\n"
         "FONTNAME=Liberation Serif\nFONTBOLD=true\nFONTITALIC=TRUE\nFONTSIZE=14\nTEXTCOLOR=255\n"
         "PARAGRAPH=plain again\nFONTUNDERLINE=YES\n");
-    EXPECT_THAT(flow.lines, ElementsAre("p plain", "p set on", "p plain again"));
+    EXPECT_THAT(flow.lines, ElementsAre("p plain", "p setand on", "p plain again"));
     const platform::PrintStyle& set = flow.styles[1];
     EXPECT_EQ(set.fontName, "Liberation Serif");
     EXPECT_TRUE(set.fontBold && set.fontItalic && !set.fontUnderline);
@@ -104,10 +106,10 @@ TEST_F(TextSection, GivesAttributesToTheCommandBefore) {
 }
 
 TEST_F(TextSection, DrawsTablesOfTheDefinitionsOwnText) {
-    const FlowLines flow = Run(
-        "[TEXT]\nSQLQUERY=SELECT ShowAs FROM Account WHERE IdAccount=1\n"
-        "TABLE=Name|%SHOWAS%;Second|\nAPPEND=2\nTABLEFORMAT=<2880|>1440\nTABLEHEADER=A|B\n"
-        "TABLECOLBOLD=1, 9,0,x\nTABLEALIGNCURRENCY=2\nTABLEBORDER= box \n");
+    const FlowLines flow =
+        Run("[TEXT]\nSQLQUERY=SELECT ShowAs FROM Account WHERE IdAccount=1\n"
+            "TABLE=Name|%SHOWAS%;Second|\nAPPEND=2\nTABLEFORMAT=<2880|>1440\nTABLEHEADER=A|B\n"
+            "TABLECOLBOLD=1, 9,0,x\nTABLEALIGNCURRENCY=2\nTABLEBORDER= box \n");
     ASSERT_EQ(flow.tables.size(), 1U);
     EXPECT_TRUE(flow.tables[0].columns[0].bold);
     EXPECT_FALSE(flow.tables[0].columns[1].bold);
@@ -116,18 +118,44 @@ TEST_F(TextSection, DrawsTablesOfTheDefinitionsOwnText) {
     // A tag's value is text of the table like any other: its "|" and ";" make cells and rows.
     EXPECT_THAT(flow.lines, ElementsAre("table <2880 >1440", "head A|B", "row Name|Ann",
                                         "row  Bob | Co", "row Second|2"));
-    EXPECT_THAT(Lines("[TEXT]\nTABLE=\nTABLEFORMAT=<100\nTABLEBORDER=BOX\nPARAGRAPH=after\n").back(),
-                "p after");
+    EXPECT_THAT(
+        Lines("[TEXT]\nTABLE=\nTABLEFORMAT=<100\nTABLEBORDER=BOX\nPARAGRAPH=after\n").back(),
+        "p after");
 }
 
 TEST_F(TextSection, PutsShapesOnTheGridOfThePage) {
-    WriteReport("test.rpt",
-                "SHOWTITLE=FALSE\nSCALE=100,100\n[TEXT]\nLOCATE=50,10\nPARAGRAPH=here\n"
-                "DRAWLINE=0,0,100\nPENCOLOR=255\nPENWIDTH=30\nDRAWBOX=10,20,30,40\nFILLCOLOR=128\n"
-                "SEPLINE=Caption\nSEPLINE= - \n");
     EXPECT_THAT(Lines("SCALE=100,100\n[TEXT]\nLOCATE=50,10\nPARAGRAPH=here\nSEPLINE=Caption\n"
                       "SEPLINE= - \nDRAWGRID\n"),
                 ElementsAre("p here", "rule Caption", "rule "));
+
+    // The printable page of 9360 by 12960 twips, or 9026 by 13958 of A4, in 100 by 100 cells.
+    const platform::PrintedDocument pages = Pages(
+        "SHOWTITLE=FALSE\nSHOWHEADER=FALSE\nSHOWFOOTER=FALSE\nSCALE=100,100\n[TEXT]\n"
+        "LOCATE=50,10\nPARAGRAPH=here\nDRAWLINE=0,0,100\nPENCOLOR=255\nPENWIDTH=30\n"
+        "DRAWBOX=10,20,30,40\nFILLCOLOR=128\n");
+    ASSERT_EQ(pages.PageCount(), 1U);
+    const auto& items = pages.Page(0).Items();
+    ASSERT_EQ(items.size(), 3U);
+    const auto& setup = pages.Info().setup;
+    const auto x = [&](int cell) { return 1440 + setup.PrintWidth() * cell / 100; };
+    const auto y = [&](int cell) { return 1440 + setup.PrintHeight() * cell / 100; };
+    EXPECT_NEAR(items[0].x1, x(50), 1);
+    EXPECT_GT(items[0].y1, y(10));
+    EXPECT_EQ(items[1].kind, platform::PageItem::Kind::Line);
+    EXPECT_EQ(items[1].color, 255U);
+    EXPECT_EQ(items[1].pen, 30);
+    EXPECT_NEAR(items[1].x2, x(100), 1);
+    EXPECT_EQ(items[1].y2, 1440) << "a coordinate that is missing is 0";
+    EXPECT_EQ(items[2].kind, platform::PageItem::Kind::Box);
+    EXPECT_EQ(items[2].fill, 128U);
+    EXPECT_TRUE(items[2].filled);
+    EXPECT_NEAR(items[2].x1, x(10), 1);
+    EXPECT_NEAR(items[2].y2, y(40), 1);
+    // Attributes that a command doesn't set are those of the command before: only the brush, the
+    // bold, italic and underline start afresh.
+    EXPECT_EQ(items[2].color, 255U);
+
+    EXPECT_GT(Pages("SCALE=40,40\n[TEXT]\nDRAWGRID\n").Page(0).Items().size(), 82U);
 }
 
 } // namespace

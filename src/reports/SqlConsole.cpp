@@ -1,0 +1,128 @@
+#include "reports/SqlConsole.h"
+
+#include <algorithm>
+#include <exception>
+#include <filesystem>
+
+#include <fmt/core.h>
+
+#include "core/Globals.h"
+#include "core/Session.h"
+#include "platform/system/Paths.h"
+#include "platform/values/Errors.h"
+#include "platform/values/Text.h"
+
+namespace reports {
+
+namespace {
+
+std::string OneLine(std::string_view text) {
+    std::string line(text);
+    std::ranges::replace_if(
+        line, [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
+    return std::string(platform::Trim(line));
+}
+
+ConsoleAnswer Select(const std::string& sql) {
+    ConsoleAnswer answer;
+    answer.message = "Command returned 0 records";
+    try {
+        answer.rows.Open(core::App().Connection, sql);
+        if (answer.rows.RecordCount() > 0) {
+            answer.message = "Command completed successfully";
+            answer.color = ConsoleColor::Good;
+            return answer;
+        }
+    } catch (const std::exception& failure) {
+        answer.reason = failure.what();
+    }
+    core::CloseRecordset(answer.rows);
+    return answer;
+}
+
+ConsoleAnswer Change(const std::string& sql) {
+    ConsoleAnswer answer;
+    try {
+        core::App().Connection.Execute(sql);
+        answer.message = "Command completed successfully";
+        answer.color = ConsoleColor::Good;
+    } catch (const std::exception& failure) {
+        answer.message = "Command returned error";
+        answer.color = ConsoleColor::Bad;
+        answer.reason = failure.what();
+    }
+    return answer;
+}
+
+} // namespace
+
+ConsoleAnswer ExecuteInConsole(std::string_view text) {
+    const std::string sql = OneLine(text);
+    ConsoleAnswer answer;
+    if (sql.empty()) {
+        answer.message = "SQL Command not specified";
+        return answer;
+    }
+    const auto blank = sql.find(' ');
+    if (blank == std::string::npos) {
+        answer.message = "Improper SQL query";
+        return answer;
+    }
+    const std::string word = platform::ToUpper(sql.substr(0, blank));
+    if (word == "SELECT") return Select(sql);
+    if (word == "INSERT" || word == "DELETE" || word == "UPDATE") return Change(sql);
+    answer.message = "Unsupported command: " + word;
+    answer.color = ConsoleColor::Bad;
+    return answer;
+}
+
+ConsoleAnswer ListTablesInConsole() {
+    ConsoleAnswer answer;
+    try {
+        std::string sql;
+        for (const auto& table : core::App().Connection.Tables().Tables()) {
+            sql += fmt::format("{}SELECT '{}' AS [TABLE_NAME], 'TABLE' AS [TABLE_TYPE]",
+                               sql.empty() ? "" : " UNION ALL ", table.name);
+        }
+        answer.rows.Open(core::App().Connection, sql + " ORDER BY 1");
+        answer.message = "Tables retrieved successfully";
+        answer.color = ConsoleColor::Good;
+    } catch (const std::exception& failure) {
+        core::CloseRecordset(answer.rows);
+        answer.message = "Tables retrieval failed";
+        answer.color = ConsoleColor::Bad;
+        answer.reason = failure.what();
+    }
+    return answer;
+}
+
+std::string ConsoleReportText(std::string_view query) {
+    const std::string sql = OneLine(query);
+    return fmt::format(
+        "[GENERAL]\n"
+        "\n"
+        "[HEADER]\n"
+        "Title=Database Browser Query\n"
+        "SubTitle=Query: {}\n"
+        "\n"
+        "[DATA]\n"
+        "SQLQuery={}\n"
+        "ShowTable\n"
+        "\n"
+        "[FOOTER]\n"
+        "\n",
+        sql, sql);
+}
+
+void WriteConsoleReport(std::string_view query) {
+    const core::Globals& app = core::App();
+    std::error_code failure;
+    std::filesystem::create_directories(app.ReportPath, failure);
+    if (failure) {
+        throw platform::Error(
+            fmt::format("{} can't be made: {}", app.ReportPath, failure.message()));
+    }
+    platform::WriteFileAtomically(app.ReportPath + app.SysReportName, ConsoleReportText(query));
+}
+
+} // namespace reports

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/database/Recordset.h"
+
+namespace reports {
+
+/// What the SQL console says about a statement, as a colour in 0xBBGGRR.
+enum class ConsoleColor : std::uint32_t { Plain = 0, Good = 0xFF0000, Bad = 255 };
+
+struct ConsoleAnswer {
+    std::string message;
+    ConsoleColor color = ConsoleColor::Plain;
+    /// Why a statement failed; empty if it didn't.
+    std::string reason;
+    /// The rows to show: open only for a select that gave some, and for the list of tables.
+    platform::Recordset rows;
+};
+
+/// Runs a statement as it was typed. A line end counts as a blank.
+ConsoleAnswer ExecuteInConsole(std::string_view text);
+
+/// The tables of the open database.
+ConsoleAnswer ListTablesInConsole();
+
+/// The definition that prints a query's rows, and writing it as the scratch report.
+/// WriteConsoleReport throws an Error if the file can't be written.
+std::string ConsoleReportText(std::string_view query);
+void WriteConsoleReport(std::string_view query);
+
+} // namespace reports
