@@ -36,8 +36,7 @@ Currency Share(double percent, double basis) {
 void clsDepreciation::Init() {
     if (platform::Trim(startDate_).empty()) startDate_ = platform::Today().ToText();
     const Date start = Date::Parse(startDate_);
-    const int periods =
-        start.Month() <= kLastMonthOfShortSchedule ? kShortSchedule : kLongSchedule;
+    const int periods = start.Month() <= kLastMonthOfShortSchedule ? kShortSchedule : kLongSchedule;
 
     schedule_.clear();
     Date periodEnd(start.Year(), 12, 31);
@@ -66,8 +65,8 @@ float clsDepreciation::TotalDepreciation(std::string_view year) {
     return 0;
 }
 
-std::array<std::string, clsDepreciation::kColumns.size()>
-clsDepreciation::GridRow(std::size_t row) const {
+std::array<std::string, clsDepreciation::kColumns.size()> clsDepreciation::GridRow(
+    std::size_t row) const {
     const DepreciationPeriod& period = schedule_.at(row);
     return {std::to_string(row + 1),
             period.PeriodEnd,
