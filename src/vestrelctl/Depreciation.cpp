@@ -63,7 +63,7 @@ void AddDepreciation(CLI::App& line, const Options& options) {
     auto id = std::make_shared<std::int32_t>(0);
     command->add_option("id", *id, "The building's IdBuilding")->required();
     command->callback([id, &options] {
-        OpenDatabase(options);
+        OpenDatabase(options, Purpose::Read);
         PrintSchedule(*id);
     });
 }

@@ -14,10 +14,10 @@
 #include "reports/ReportList.h"
 #include "reports/ReportRun.h"
 #include "reports/WriteReport.h"
+#include "vestrelctl/Arguments.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
 #include "vestrelctl/ReportsFolder.h"
-#include "vestrelctl/Words.h"
 
 namespace vestrelctl {
 
@@ -88,7 +88,7 @@ void Choose(reports::ReportDef& report, const ReportWords& words) {
 void Write(const ReportWords& words, const Options& options) {
     const auto format = reports::FormatOfFile(words.output);
     FoundReport found = Find(words.name);
-    OpenBooks(options);
+    OpenBooks(options, Purpose::Read);
     core::LoadPreferences();
     Choose(found.report, words);
     reports::ReportRun run(found.report, found.file);
@@ -123,8 +123,8 @@ std::string IsYear(const std::string& text) {
 void AddChoices(CLI::App& command, ReportWords& words) {
     command.add_option("--id", words.id, "The record that the report is about");
     command.add_option("--year", words.year, "The year")->check(CLI::Validator(IsYear, "YYYY", ""));
-    command.add_option("--from", words.from, "The first day")->check(IsDay());
-    command.add_option("--to", words.to, "The last day")->check(IsDay());
+    command.add_option("--from", words.from, "The first day")->check(IsDate());
+    command.add_option("--to", words.to, "The last day")->check(IsDate());
     command.add_option("--range", words.range, "The dates by rule")
         ->check(CLI::IsMember({"current", "trailing", "previous", "selected"}));
     command.add_flag("--summary", words.summary, "Show a summary instead of all details");
