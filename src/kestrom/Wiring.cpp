@@ -12,6 +12,7 @@
 #include "core/forms/OpenForms.h"
 #include "core/forms/frmHelp.h"
 #include "documents/ShowPictures.h"
+#include "documents/screens/frmDocMgmt.h"
 #include "leases/screens/frmLease.h"
 #include "leases/screens/frmLeaseWizard.h"
 #include "leases/screens/frmRentLog.h"
@@ -168,6 +169,8 @@ shell::screens::Commands MenuCommands() {
         const bool isUnit = selection.kind == core::kUnit;
         documents::ShowPictures(isUnit ? core::kUnitWithBuilding : selection.kind, selection.id);
     });
+    for (const char* const item : {"mnuDocMgmt", "mnuPrintDocMgmt"})
+        commands.Add(QString::fromLatin1(item), Opening<documents::screens::frmDocMgmt>());
     commands.Add(QStringLiteral("mnuHelpAbout"), Opening<shell::screens::frmAbout>());
     return commands;
 }

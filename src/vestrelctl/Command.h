@@ -29,5 +29,6 @@ void AddReport(CLI::App& line, const Options& options);
 void AddPost(CLI::App& line, const Options& options);
 void AddPay(CLI::App& line, const Options& options);
 void AddPayMortgage(CLI::App& line, const Options& options);
+void AddMerge(CLI::App& line, const Options& options);
 
 } // namespace vestrelctl

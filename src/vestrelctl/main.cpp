@@ -99,6 +99,7 @@ int Run(int argc, char** argv) {
     vestrelctl::AddPost(line, options);
     vestrelctl::AddPay(line, options);
     vestrelctl::AddPayMortgage(line, options);
+    vestrelctl::AddMerge(line, options);
 
     try {
         line.parse(ArgumentsOf(argc, argv));

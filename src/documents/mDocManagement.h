@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace documents {
+
+/// A template of the list, as a record's menu offers it.
+struct DocTemplate {
+    std::int32_t id = 0; ///< `IdDoc`
+    std::string description;
+    std::string filePath;
+};
+
+/// Returns the templates that apply to a kind of record, by description; none for a kind without
+/// letters. A building offers those of its units too. Throws on failure.
+std::vector<DocTemplate> DocTemplatesOf(std::int16_t kind);
+
+/// Returns the template of this id; nullopt if there is none.
+std::optional<DocTemplate> FindDocTemplate(std::int32_t idDoc);
+
+/// A merged letter that was written.
+struct MergedDocument {
+    std::filesystem::path file;
+    /// The record exists and filled the letter. Without it the template was copied as it is.
+    bool merged = false;
+};
+
+/// Merges a record into a copy of the template's file. Without `output` the copy gets a free name:
+/// "tmp_1.rtf" in the program's directory or, if the settings associate documents with their
+/// records, a name made of both descriptions in the document folder, and it is then attached to the
+/// record. A file named by `output` is replaced. Nothing is opened. Throws platform::Error if the
+/// template can't be read or the copy can't be written.
+MergedDocument MergeDocument(const DocTemplate& letter, std::int16_t kind, std::int32_t id,
+                             const std::optional<std::filesystem::path>& output = {});
+
+/// Merges a record into the template `idDoc` and opens the copy with the program made for its type.
+/// A template whose file is missing is reported in a message; false then, and if there is no such
+/// template.
+bool OpenDoc(std::int16_t kind, std::int32_t id, std::int32_t idDoc);
+
+} // namespace documents

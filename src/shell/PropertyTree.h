@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace shell {
+
+/// A node of the property tree: one of the two top folders, a building or a unit.
+enum class PropertyKind : std::uint8_t { Buildings, Unclaimed, Building, Unit };
+
+struct PropertyNode {
+    PropertyKind kind = PropertyKind::Buildings;
+    std::int32_t id = 0; ///< 0 for a folder
+
+    friend bool operator==(const PropertyNode&, const PropertyNode&) = default;
+};
+
+/// Returns "root", "unclaimed", "b+12" or "u+31".
+std::string KeyOf(const PropertyNode& node);
+
+/// A step that brings a shown tree up to date. Steps are taken in their order.
+struct TreeChange {
+    enum class Action : std::uint8_t {
+        Add,    ///< as the last child of `parent`
+        Rename, ///< to `text`
+        Move,   ///< to the end of `parent`
+        Remove, ///< with all children that it still has
+    };
+    Action action = Action::Add;
+    PropertyNode node;
+    PropertyNode parent;
+    std::string text;
+};
+
+/// The buildings with their units, and the units whose building can't be found, as they were when
+/// last read. It knows no widget: a screen takes the changes.
+class PropertyTree {
+  public:
+    /// Reads the books again and returns the changes, so that what a screen has selected and
+    /// expanded stays. A node that is there isn't moved, even if its unit is in another building
+    /// now; only a unit whose building's node goes moves to "Unclaimed". Throws on failure; the
+    /// tree then is as before.
+    std::vector<TreeChange> Refresh();
+
+    /// Notes that a unit's node was made a child of a building's.
+    void Move(std::int32_t idUnit, std::int32_t idBuilding);
+
+    std::size_t UnitCount() const { return units_.size(); }
+
+  private:
+    struct Building {
+        std::string text;
+        bool isConfirmed = false;
+    };
+    struct Unit {
+        std::string text;
+        std::int32_t idBuilding = 0; ///< whose node is the parent, 0 under "Unclaimed"
+        bool isConfirmed = false;
+    };
+
+    void ReadBuildings(std::vector<TreeChange>& changes);
+    void ReadUnits(std::vector<TreeChange>& changes);
+    void DropTheUnconfirmed(std::vector<TreeChange>& changes);
+
+    std::unordered_map<std::int32_t, Building> buildings_;
+    std::unordered_map<std::int32_t, Unit> units_;
+};
+
+} // namespace shell
