@@ -1,6 +1,6 @@
 #include "platform/printing/PrintedDocument.h"
 
-#include <utility>
+#include "platform/printing/PackPage.h"
 
 namespace platform {
 
@@ -15,8 +15,11 @@ void PrintedDocument::BeginPages(const DocumentInfo& info) {
 }
 
 void PrintedDocument::AddPage(PrintedPage page) {
-    page.Compact();
-    pages_.push_back(std::move(page));
+    pages_.push_back(PackPage(page));
+}
+
+PrintedPage PrintedDocument::Page(std::size_t index) const {
+    return UnpackPage(pages_[index]);
 }
 
 void PrintedDocument::EndPages() {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
+#include <string>
 #include <vector>
 
 #include "platform/printing/DocumentFlow.h"
@@ -15,7 +15,7 @@ class PrintedDocument : public PageSink {
     const DocumentInfo& Info() const { return info_; }
     std::size_t PageCount() const { return pages_.size(); }
     /// Counted from 0.
-    const PrintedPage& Page(std::size_t index) const { return pages_[index]; }
+    PrintedPage Page(std::size_t index) const;
     /// True from EndPages on: no page will be added.
     bool IsComplete() const { return complete_; }
     void Clear();
@@ -29,7 +29,7 @@ class PrintedDocument : public PageSink {
 
   private:
     DocumentInfo info_;
-    std::vector<PrintedPage> pages_;
+    std::vector<std::string> pages_; ///< packed: a long report has ten thousands of them
     DocumentFlow flow_;
     bool complete_ = false;
 };

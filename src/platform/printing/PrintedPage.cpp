@@ -16,11 +16,6 @@ void PrintedPage::AddText(PageItem item, std::string_view text) {
     items_.push_back(item);
 }
 
-void PrintedPage::Compact() {
-    items_.shrink_to_fit();
-    text_.shrink_to_fit();
-}
-
 std::string DescribePage(const PrintedPage& page) {
     std::string out = fmt::format("page {}x{}\n", page.Width(), page.Height());
     for (const PageItem& item : page.Items()) {

@@ -46,8 +46,6 @@ class PrintedPage {
 
     void AddText(PageItem item, std::string_view text);
     void AddShape(PageItem item) { items_.push_back(item); }
-    /// Gives back what the growth of its lists took too much.
-    void Compact();
 
   private:
     Twips width_ = 0;

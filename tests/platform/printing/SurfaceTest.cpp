@@ -7,6 +7,7 @@
 #include "platform/printing/DocumentFlow.h"
 #include "platform/printing/PrintSurface.h"
 #include "platform/printing/PrintedDocument.h"
+#include "platform/printing/SearchPages.h"
 #include "platform/values/Errors.h"
 
 namespace platform {
@@ -26,7 +27,7 @@ class Surface : public ::testing::Test {
     /// Each page's texts as "x,baseline text", the lines and boxes left out.
     std::string Texts(std::size_t index) const {
         std::string out;
-        const PrintedPage& page = document.Page(index);
+        const PrintedPage page = document.Page(index);
         for (const PageItem& item : page.Items()) {
             if (item.kind != PageItem::Kind::Text) continue;
             out += std::to_string(item.x1) + "," + std::to_string(item.y1) + " " +
@@ -36,8 +37,8 @@ class Surface : public ::testing::Test {
     }
 
     std::size_t Shapes(std::size_t index, PageItem::Kind kind) const {
-        return static_cast<std::size_t>(
-            std::ranges::count(document.Page(index).Items(), kind, &PageItem::kind));
+        const PrintedPage page = document.Page(index);
+        return static_cast<std::size_t>(std::ranges::count(page.Items(), kind, &PageItem::kind));
     }
 
     void Table(std::string_view format, std::string_view header,
@@ -231,7 +232,8 @@ TEST_F(Surface, DrawsEachBorder) {
         one.EndTable();
         one.EndDoc();
         std::size_t count = 0;
-        for (const PageItem& item : pages.Page(0).Items())
+        const PrintedPage first = pages.Page(0);
+        for (const PageItem& item : first.Items())
             count += item.kind == PageItem::Kind::Line;
         EXPECT_EQ(count, lines) << "border " << static_cast<int>(border);
     }
@@ -254,12 +256,38 @@ TEST_F(Surface, SurvivesTablesOfEveryShape) {
     surface.Text(std::string(100'000, 'x') + "\xFF\xC3 \x01\x7F");
     surface.EndDoc();
     for (std::size_t i = 0; i < document.PageCount(); ++i) {
-        for (const PageItem& item : document.Page(i).Items()) {
+        const PrintedPage page = document.Page(i);
+        for (const PageItem& item : page.Items()) {
             ASSERT_GE(item.x1, 1'440);
             ASSERT_LE(item.x2, 10'800 + 200) << i; // a letter that is wider than its column
             ASSERT_LE(item.y1, 14'400);
         }
     }
+}
+
+TEST_F(Surface, FindsTextForwardsAndBackwardsRoundTheEnd) {
+    Start();
+    surface.Text("Rent of Elm");
+    surface.Text("no match");
+    surface.NewPage();
+    surface.Text("current RENT");
+    surface.EndDoc();
+    const auto next = [&](const PageMatch& from, SearchDirection direction) {
+        return SearchPages(document, "rent", from, direction).value();
+    };
+    PageMatch start;
+    start.isStart = true;
+    const PageMatch first = next(start, SearchDirection::Forward);
+    EXPECT_EQ(first, (PageMatch{.page = 0, .item = 0, .begin = 0, .length = 4}));
+    const PageMatch second = next(first, SearchDirection::Forward);
+    EXPECT_EQ(second, (PageMatch{.page = 1, .item = 0, .begin = 3, .length = 4}));
+    const PageMatch third = next(second, SearchDirection::Forward);
+    EXPECT_EQ(third, (PageMatch{.page = 1, .item = 0, .begin = 8, .length = 4}));
+    EXPECT_EQ(next(third, SearchDirection::Forward), first);
+    EXPECT_EQ(next(first, SearchDirection::Backward), third);
+    EXPECT_EQ(next(third, SearchDirection::Backward), second);
+    EXPECT_FALSE(SearchPages(document, "absent", first, SearchDirection::Forward));
+    EXPECT_FALSE(SearchPages(document, "", first, SearchDirection::Forward));
 }
 
 TEST_F(Surface, EndsWhenThePagesAreNoLongerWanted) {

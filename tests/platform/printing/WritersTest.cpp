@@ -8,6 +8,7 @@
 #include "SampleReport.h"
 #include "platform/printing/DocumentFlow.h"
 #include "platform/printing/HtmlWriter.h"
+#include "platform/printing/PackPage.h"
 #include "platform/printing/PrintedDocument.h"
 #include "platform/printing/RtfWriter.h"
 #include "platform/printing/TextWriter.h"
@@ -55,6 +56,26 @@ TEST(Writers, MakeThePagesOfTheSample) {
     for (std::size_t i = 0; i < document.PageCount(); ++i)
         pages += DescribePage(document.Page(i));
     ExpectGolden("sample.pages", pages);
+}
+
+TEST(PackPage, GivesBackWhatWasPacked) {
+    struct Check : PageSink {
+        void BeginPages(const DocumentInfo&) override {}
+        void AddPage(PrintedPage page) override {
+            const std::string packed = PackPage(page);
+            EXPECT_EQ(DescribePage(UnpackPage(packed)), DescribePage(page));
+            std::size_t text = 0;
+            for (const PageItem& item : page.Items())
+                text += item.textLength;
+            EXPECT_LT((packed.size() - text) * 4, page.Items().size() * sizeof(PageItem));
+        }
+        void EndPages() override {}
+    } check;
+    FixedMetrics metrics;
+    PrintSurface surface(metrics, &check, nullptr);
+    testing::AddSampleStyles(surface);
+    testing::DrawSample(surface);
+    EXPECT_EQ(DescribePage(UnpackPage(PackPage({}))), "page 0x0\n");
 }
 
 TEST(Writers, WriteAHeldFlowAsTheyWriteALiveOne) {

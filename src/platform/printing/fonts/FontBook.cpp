@@ -100,6 +100,21 @@ const std::vector<FontIndex>& FontBook::Fallbacks(Weight weight) const {
     return entry->second;
 }
 
+std::vector<GlyphRun> FontBook::Glyphs(FaceId face, std::string_view text) const {
+    std::vector<GlyphId> glyphs;
+    if (!ShapePlain(face, text, glyphs)) return Shape(face, text);
+    const FaceEntry& entry = faces_[face];
+    GlyphRun run;
+    run.font = entry.font;
+    run.slanted = entry.slanted;
+    run.text = text;
+    run.isPlain = true;
+    for (const GlyphId glyph : glyphs) {
+        run.glyphs.push_back({.glyph = glyph, .advance = fonts_[entry.font]->GlyphAdvance(glyph)});
+    }
+    return {std::move(run)};
+}
+
 std::vector<GlyphRun> FontBook::Shape(FaceId face, std::string_view text) const {
     const FaceEntry& entry = faces_[face];
     std::vector<FontChoice> fonts{{entry.font, fonts_[entry.font].get()}};

@@ -74,6 +74,7 @@ fs::path FindFontFile(std::string_view name) {
         "/usr/share/wine/fonts",
         "/usr/share/fonts/truetype/dejavu",
         "/usr/share/fonts/truetype/droid",
+        "/usr/share/fonts/truetype/nanum",
         "/usr/share/fonts/truetype"};
     std::error_code failure;
     const auto isThere = [&](const fs::path& path) { return fs::is_regular_file(path, failure); };

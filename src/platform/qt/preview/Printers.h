@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "platform/printing/PrintedDocument.h"
+#include "platform/printing/fonts/FontBook.h"
+
+class QPrinter;
+class QWidget;
+
+namespace platform::qt {
+
+struct PrintQuestion {
+    QString name; ///< of the document
+    PageSetup setup;
+    int pageCount = 0;
+    int currentPage = 0; ///< from 0
+};
+
+/// What is to be printed where; pages count from 0, both ends belong to the range.
+struct PrintOrder {
+    std::unique_ptr<QPrinter> printer;
+    int first = 0;
+    int last = 0;
+};
+
+/// How a printer and the range of pages are chosen.
+class PrinterChooser {
+  public:
+    virtual ~PrinterChooser() = default;
+    /// Asks; nothing when the user cancels.
+    virtual std::optional<PrintOrder> Ask(QWidget* owner, const PrintQuestion& question) = 0;
+    /// The printer that was chosen last, or else the machine's own, for printing without asking;
+    /// nothing if there is none.
+    virtual std::unique_ptr<QPrinter> Usual() = 0;
+};
+
+/// The chooser of this process: the system's print dialog until SetPrinterChooser gives another;
+/// null brings it back.
+PrinterChooser& ThePrinterChooser();
+void SetPrinterChooser(std::unique_ptr<PrinterChooser> chooser);
+
+/// Prints a range of pages. `progress` is called before each page with the number of pages done,
+/// and stops the printing by returning false. Throws an Error if the printer takes no pages.
+void PrintPages(const PrintOrder& order, const PrintedDocument& document, const FontBook& fonts,
+                const std::function<bool(int done)>& progress);
+
+} // namespace platform::qt
