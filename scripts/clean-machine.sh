@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Tries a command in a fresh clone of HEAD on a bare Debian 12, where only git, bash and apt are:
 # clean-machine.sh COMMAND [ARGUMENT]..., for example clean-machine.sh ./test
-# Needs root and debootstrap. The bare system is kept in $VESTREL_BARE (by default /var/tmp/vestrel-bare)
+# Needs root and debootstrap, and takes the packages from where this machine's apt takes its own.
+# The bare system is kept in $VESTREL_BARE (by default /var/tmp/vestrel-bare)
 # and copied for each try; the copy is deleted at the end.
 set -euo pipefail
 
@@ -13,10 +14,21 @@ fi
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 bare=${VESTREL_BARE:-/var/tmp/vestrel-bare}
 
+# The first archive of Debian that apt is set to use here: not the one of security updates.
+mirror() {
+    apt-get indextargets --format '$(REPO_URI) $(CODENAME) $(COMPONENT)' |
+        awk '$2 == "bookworm" && $3 == "main" { sub(/\/$/, "", $1); print $1; exit }'
+}
+
 if [ ! -e "$bare/usr/bin/git" ]; then
-    echo "Making a bare Debian 12 in $bare"
+    archive=$(mirror)
+    if [ -z "$archive" ]; then
+        echo "apt knows no archive of Debian 12; run apt-get update first" >&2
+        exit 1
+    fi
+    echo "Making a bare Debian 12 in $bare from $archive"
     mkdir -p "$bare"
-    debootstrap --variant=minbase --include=git bookworm "$bare" http://deb.debian.org/debian >/dev/null
+    debootstrap --variant=minbase --include=git bookworm "$bare" "$archive" >/dev/null
 fi
 
 machine=$(mktemp -d /var/tmp/vestrel-machine.XXXXXX)

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs those of the named groups of packages.txt that the machine lacks.
+# Installs the packages of the named groups of packages.txt that the machine lacks.
 # Asks nothing and needs no network when all are there.
 set -euo pipefail
 
@@ -14,7 +14,10 @@ packagesOf() {
     awk -v group="[$1]" '
         /^\[/ { inside = ($0 == group); found = found || inside; next }
         inside && NF && !/^#/ { print $1 }
-        END { exit !found }' "$list" || { echo "$list has no group [$1]" >&2; exit 2; }
+        END { exit !found }' "$list" || {
+        echo "$list has no group [$1]" >&2
+        exit 2
+    }
 }
 
 isInstalled() {

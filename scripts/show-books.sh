@@ -42,7 +42,7 @@ echo
 echo "Bringing the books up to date"
 "${vestrelctl[@]}" update </dev/null | sed 's/^/  /'
 
-# Two tables, parted by an empty line; their headings and the records' numbers are for programs.
+# Two tables, separated by an empty line; their headings and the records' numbers are for programs.
 alerts=$("${vestrelctl[@]}" alerts </dev/null)
 echo
 echo "What needs attention"

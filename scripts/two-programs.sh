@@ -77,9 +77,15 @@ copy() {
 together() {
     local pause
     pause=0.0$((RANDOM % 3))$((RANDOM % 10))
-    { run books "${first[@]}" >"$scratch/first.said" 2>&1; echo $? >"$scratch/first.status"; } &
+    {
+        run books "${first[@]}" >"$scratch/first.said" 2>&1
+        echo $? >"$scratch/first.status"
+    } &
     sleep "$pause"
-    { run books "${second[@]}" >"$scratch/second.said" 2>&1; echo $? >"$scratch/second.status"; } &
+    {
+        run books "${second[@]}" >"$scratch/second.said" 2>&1
+        echo $? >"$scratch/second.status"
+    } &
     wait
 }
 

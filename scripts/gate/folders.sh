@@ -8,8 +8,8 @@ page=docs/architecture.md
 told=$(sed -nE 's/^\| `(src[^`]*)` .*/\1/p' "$page" | sort)
 there=$(find src -type f -printf '%h\n' | sort -u)
 faults=$(
-    comm -13 <(echo "$told") <(echo "$there") | sed "s|.*|&: not told of in $page|"
-    comm -23 <(echo "$told") <(echo "$there") | sed "s|.*|&: told of in $page, but not there|"
-    uniq -d <<<"$told" | sed "s|.*|&: told of twice in $page|"
+    comm -13 <(echo "$told") <(echo "$there") | sed "s|.*|&: not listed in $page|"
+    comm -23 <(echo "$told") <(echo "$there") | sed "s|.*|&: listed in $page, but not there|"
+    uniq -d <<<"$told" | sed "s|.*|&: listed twice in $page|"
 )
-verdict "$faults" "$(wc -l <<<"$there") folders" "make the folder list of $page that of the tree"
+verdict "$faults" "$(wc -l <<<"$there") folders" "make the folder list of $page match the tree"

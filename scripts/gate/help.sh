@@ -17,9 +17,9 @@ told=$(sed -E 's/^ +//; /^$/d' "$pages/contents.txt" | sort)
 there=$(find "$pages" -name '*.html' -printf '%f\n' | sed 's/\.html$//' | sort)
 faults=$(
     comm -23 <(echo "$forms") <(echo "$there") | sed "s|.*|&: has no page in $pages|"
-    comm -13 <(echo "$told") <(echo "$there") | sed "s|.*|&.html: not told of in contents.txt|"
-    comm -23 <(echo "$told") <(echo "$there") | sed "s|.*|&: told of in contents.txt, but not there|"
-    uniq -d <<<"$told" | sed "s|.*|&: told of twice in contents.txt|"
+    comm -13 <(echo "$told") <(echo "$there") | sed "s|.*|&.html: not listed in contents.txt|"
+    comm -23 <(echo "$told") <(echo "$there") | sed "s|.*|&: listed in contents.txt, but not there|"
+    uniq -d <<<"$told" | sed "s|.*|&: listed twice in contents.txt|"
 )
 verdict "$faults" "$(wc -l <<<"$forms") forms have their help" \
     "write the pages, and name them in $pages/contents.txt"

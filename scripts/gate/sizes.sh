@@ -4,8 +4,8 @@
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 enterTree "$@"
 
-kLong=500
-kTooLong=600
+kLong=350
+kTooLong=450
 
 sizes=$({
     sourcesOf src tests benchmarks

@@ -3,7 +3,7 @@
 # Changed is what differs from origin/main, or, where that is the same as HEAD, from the commit before
 # it; with --all, everything. A changed header is looked at through
 # one file that includes it. A file that passed is not looked at again until it or a header of it
-# changes. Without --all, no file is begun after five minutes; how many were left is told.
+# changes. Without --all, no file is begun after five minutes; it says how many were left.
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 tidy=clang-tidy-19

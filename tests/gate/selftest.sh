@@ -71,6 +71,14 @@ END
 
 class frmLease : public core::forms::RecordForm {};
 END
+    put src/leases/screens/frmLease.ui <<'END'
+<?xml version="1.0" encoding="UTF-8"?>
+<ui version="4.0">
+<widget class="QDialog" name="frmLease"/>
+</ui>
+END
+    put src/core/CMakeLists.txt <<<'vestrel_room(core USES platform_values)'
+    put scripts/run.sh <<<'echo done'
     put share/help/frmLease.html <<<'<title>Lease</title>'
     put share/help/contents.txt <<<'frmLease'
     local file
@@ -141,7 +149,7 @@ planted() {
 
 makeSoundTree
 freshTree
-for check in format includes clock folders sizes help tidy; do
+for check in format layout includes links clock folders sizes help english tidy; do
     passes "$check"
 done
 
@@ -181,21 +189,56 @@ planted tests/leases/LeaseTest.cpp 'auto t = std::time(nullptr);' tests/leases/L
 plant $lease '// std::time(nullptr) is not for us\nauto t = runtime(0), s = row.time(0);'
 passes clock
 
-planted src/core/inner/New.h '#pragma once' 'src/core/inner: not told of' folders
+planted src/core/inner/New.h '#pragma once' 'src/core/inner: not listed' folders
 freshTree
 rm -r "$scratch/tree/src/leases/screens"
-finds 'src/leases/screens: told of in docs/architecture.md, but not there' folders
+finds 'src/leases/screens: listed in docs/architecture.md, but not there' folders
 # shellcheck disable=SC2016
-planted docs/architecture.md '| `src/core` | again |' 'src/core: told of twice' folders
+planted docs/architecture.md '| `src/core` | again |' 'src/core: listed twice' folders
 
-planted src/core/Big.cpp "$(printf '// x\\n%.0s' {1..600})" 'src/core/Big.cpp: 601 lines' sizes
-plant src/core/Big.cpp "$(printf '// x\\n%.0s' {1..599})"
+planted src/core/Big.cpp "$(printf '// x\\n%.0s' {1..450})" 'src/core/Big.cpp: 451 lines' sizes
+plant src/core/Big.cpp "$(printf '// x\\n%.0s' {1..449})"
 passes sizes
 
 planted src/leases/screens/frmRent.h 'class frmRent : public Form {' 'frmRent: has no page' help
-planted share/help/lost.html '<title>Lost</title>' 'lost.html: not told of in contents.txt' help
-planted share/help/contents.txt ' nowhere' 'nowhere: told of in contents.txt, but not there' help
-planted share/help/contents.txt frmLease 'frmLease: told of twice' help
+planted share/help/lost.html '<title>Lost</title>' 'lost.html: not listed in contents.txt' help
+planted share/help/contents.txt ' nowhere' 'nowhere: listed in contents.txt, but not there' help
+planted share/help/contents.txt frmLease 'frmLease: listed twice' help
+
+form=src/leases/screens/frmLease.ui
+planted $form ' <a/>' "$form:5: indent by 0" layout
+planted $form '<a>\n<b/>\n</a>' "$form:6: indent by 1" layout
+planted $form '<a/> ' "$form:5: a blank at the end" layout
+planted src/core/CMakeLists.txt 'if(TRUE)\nset(A)\nendif()' 'src/core/CMakeLists.txt:3: indent by 2' layout
+planted src/core/CMakeLists.txt 'set(A\nB)' 'src/core/CMakeLists.txt:3: indent by more than 0' layout
+planted src/core/CMakeLists.txt '\tset(A)' 'src/core/CMakeLists.txt:2: a tab' layout
+planted scripts/run.sh 'if true; then\necho\nfi' 'scripts/run.sh: run shfmt' layout
+
+planted src/core/CMakeLists.txt 'vestrel_room(extra USES leases)' 'links leases, which nothing' links
+planted src/core/CMakeLists.txt 'vestrel_room(extra\n  USES platform_values platform_qt\n)' \
+    'links platform_qt, which nothing' links
+
+while IFS='|' read -r line words; do
+    planted $values "$line" "write \"$words\"" english
+done <<'END'
+// The balance is reckoned anew.|again, or recalculate
+// Tells the person that it failed.|the user
+// A failed statement is taken back.|rolled back, or undone
+// Names, parted by blanks.|separated by
+// The charges that hang from a lease.|belongs to, or depends on
+// A lease that failed is passed over.|skipped
+// A name that is none.|say what it is not: isn't valid, doesn't exist
+const char* kFault = "'x' is no date";|is not a ...
+// The row has gone.|was deleted
+// The balance is that of the loan.|repeat the noun
+// Moves as told.|is reported, or is described in
+// The row was changed meanwhile.|in the meantime
+throw Error("The statement yields no rows.");|returns no
+END
+planted src/core/Shared.h '/// What a lease owes today.' 'name the thing instead of "What ..."' english
+planted docs/page.md 'The person chooses a file.' 'write "the user"' english
+plant $values '// There is no account to pay from; null if there is none.\nint meanwhile = 0;'
+passes english
 
 # What hasn't changed for long is looked at with --all alone; what passed is kept as passed.
 freshTree

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Comments, messages and help are plain English: english.sh [TREE]
+# CONTRIBUTING.md has the words to use. A text that must stay as it is can be listed in
+# scripts/gate/english-allowed.txt: FILE, a tab, and a part of the line.
+. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+enterTree "$@"
+
+# The rooms that are written plainly so far; the others follow.
+done='^(src/(platform/(values|database|system|registry|dialogs)|store|removal|vestrelctl)/|src/core/[^/]*$'
+done+='|tests/(core/[^/]*$|store/|support/|platform/(values|database|system|registry|dialogs)/|vestrelctl/)'
+done+='|scripts/|cmake/|docs/|[^/]*$)'
+
+mapfile -t files < <(
+    sourcesOf src tests benchmarks
+    [ ! -d src ] || find src -name '*.ui'
+    find scripts cmake share/help docs -type f \
+        \( -name '*.sh' -o -name '*.awk' -o -name '*.cmake' -o -name '*.html' -o -name '*.md' \) 2>/dev/null
+    find . -maxdepth 1 -name '*.md' | sed 's|^\./||'
+)
+mapfile -t files < <(printf '%s\n' "${files[@]}" | grep -E "$done" || true)
+if [ ${#files[@]} -eq 0 ]; then
+    verdict "no files in $PWD" "" "there is nothing to look at"
+fi
+faults=$(awk -f "$gateFolder/english.awk" "${files[@]}" </dev/null)
+allowed=scripts/gate/english-allowed.txt
+if [ -s "$allowed" ] && [ -n "$faults" ]; then
+    faults=$(awk -F '\t' '
+        NR == FNR { file[NR] = $1; part[NR] = $2; count = NR; next }
+        {
+            for (i = 1; i <= count; i++)
+                if (index($0, file[i] ":") == 1 && index($0, part[i])) next
+            print
+        }' "$allowed" - <<<"$faults")
+fi
+verdict "$faults" "${#files[@]} files" "write these plainly, with the words of CONTRIBUTING.md"
