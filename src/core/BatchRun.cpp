@@ -21,7 +21,7 @@ namespace {
 // stays small in memory.
 constexpr std::size_t kRowsPerCommit = 50'000;
 
-/// A record whose name is empty (its description then begins with the comma behind the name) is
+/// A record whose name is empty (its description then begins with the comma after the name) is
 /// called by its number.
 std::string Describe(std::int16_t kind, std::int32_t id) {
     std::string description = GetDescription(kind, id, 0, false);
@@ -30,7 +30,7 @@ std::string Describe(std::int16_t kind, std::int32_t id) {
     return platform::ToLower(RecordKindName(kind)) + " " + std::to_string(id);
 }
 
-/// What the listener is told once it is kept.
+/// The results of a batch, reported to the listener once the batch is committed.
 class Outcome {
   public:
     explicit Outcome(std::int16_t kind) : kind_(kind) {}

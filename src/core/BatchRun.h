@@ -12,7 +12,7 @@ namespace core {
 
 /// Brings one record, the current row of an updatable row set, up to date, and returns what was
 /// posted for it; the categories must outlive the run. Throws if it fails, and leaves the record as
-/// it was. Whatever it posts must be undone if its write of the row is a ConflictError.
+/// it was. Whatever it posts must be undone if its write of the row throws ConflictError.
 using UpdateOne = std::function<std::vector<PostedRow>(platform::Recordset& row)>;
 
 /// Calls `update` with every row of `select`, in its order, for records of `kind` with the key

@@ -16,8 +16,8 @@ struct Choice {
     friend bool operator==(const Choice&, const Choice&) = default;
 };
 
-/// What a drop-down list offers and shows: rows of a text and an identifier, the selected row, and
-/// the text in its box, which a person may have typed.
+/// The contents of a drop-down list: rows of a text and an identifier, the selected row, and the
+/// text in its box, which the user may have typed.
 class ChoiceList {
   public:
     const std::vector<Choice>& Rows() const { return rows_; }

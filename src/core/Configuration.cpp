@@ -9,7 +9,7 @@ namespace core {
 
 namespace {
 
-// What a field that can't be read counts as is what its member starts with.
+// A field that can't be read counts as its member's initial value.
 template <typename Read>
 auto OrEmpty(Read read) -> decltype(read()) {
     try {

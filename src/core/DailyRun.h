@@ -18,8 +18,8 @@ struct PostedRow {
     platform::Currency amount;
 };
 
-/// Who hears what the bring-up-to-date run did, as it happens. What is told was kept: rows are
-/// told after the unit of work that wrote them is committed.
+/// Receives the results of the daily run as it goes. They are committed when it hears of them: rows
+/// are reported after the unit of work that wrote them is committed.
 class RunListener {
   public:
     virtual ~RunListener() = default;
@@ -27,7 +27,7 @@ class RunListener {
     /// Rows posted for one record: its kind, id and description, and the rows in their order.
     virtual void Posted(int recordKind, std::int32_t id, std::string_view description,
                         const std::vector<PostedRow>& rows) = 0;
-    /// A record that the run passed over, by its description, and why. Its books are as before.
+    /// A record that the run skipped, by its description, and why. Its books are as before.
     virtual void Failed(int recordKind, std::int32_t id, std::string_view description,
                         std::string_view reason) = 0;
 };
@@ -41,7 +41,7 @@ using RunStepFunction = std::function<void(RunListener&)>;
 void RegisterRunStep(RunStep step, RunStepFunction work);
 
 /// Makes the books current: scheduled events, then mortgages, then leases. A step that fails as a
-/// whole is told to the listener (kind 0) and the next one runs.
+/// whole is reported to the listener (kind 0) and the next one runs.
 void UpdateRecords(RunListener& listener);
 /// The same with nobody listening.
 void UpdateRecords();

@@ -11,7 +11,7 @@ namespace core {
 
 namespace {
 
-/// What yields the description of the record whose identifier is the parameter (every one of them).
+/// Selects the description of a record, whose identifier is every parameter.
 std::string_view DescriptionSql(int kind, bool shortForm) {
     switch (kind) {
         case kAccount:

@@ -9,7 +9,7 @@ void WriteDiag(std::ostream* diagFile, std::string_view line) {
     try {
         *diagFile << line << '\n';
     } catch (const std::ios_base::failure&) {
-        // The log must not stop what it tells of.
+        // The log must not stop the work it describes.
     }
 }
 

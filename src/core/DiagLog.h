@@ -6,7 +6,7 @@
 namespace core {
 
 /// Adds a line to the diagnostic log, unless it is off (null). Lines of the normal course begin
-/// with "{ } ", those of a fault with "{*} ". A failure to write is passed over.
+/// with "{ } ", reports of a fault with "{*} ". A failure to write is ignored.
 void WriteDiag(std::ostream* diagFile, std::string_view line);
 
 } // namespace core

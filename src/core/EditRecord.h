@@ -22,7 +22,7 @@ using RecordOpener = std::function<void(const EditRequest& request)>;
 /// Gives a kind the editor that opens its records, all but transactions'.
 void RegisterOpener(std::int16_t kind, RecordOpener opener);
 
-/// The screen that a transaction is edited on: that of the payment which made it, if one did.
+/// The screen that a transaction is edited on: the payment's screen if a payment made it.
 enum class TransactionEditor { Transaction, RentPayment, MortgagePayment };
 
 /// A transaction's editor, with the lease and the mortgage that it is about (0 for none).

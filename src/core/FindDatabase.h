@@ -38,8 +38,8 @@ struct MenderHandover {
     std::function<void()> endProcess;
 };
 
-/// For a database that is missing or too old: tells the person, starts the sibling program that
-/// mends databases (it starts this one again afterwards) and ends this process; says so when there
+/// For a database that is missing or too old: informs the user, starts the sibling program that
+/// mends databases (it starts this one again afterwards) and ends this process; says so if there
 /// is no such program.
 void StartDatabaseMender(const MenderHandover& handover);
 

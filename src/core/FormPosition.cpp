@@ -18,7 +18,7 @@ struct StoredPlace {
     bool hasSize = false;
 };
 
-/// "left,top,width,height"; left and top alone are a place too. Nothing for any other text.
+/// "left,top,width,height"; only left and top are a place too. Empty for any other text.
 std::optional<StoredPlace> ParsePlace(std::string_view text) {
     std::array<std::int32_t, 4> numbers = {};
     std::size_t count = 0;
@@ -61,7 +61,7 @@ FormPlacement RestoreForm(std::string_view formName, FormSizing sizing) {
             placement.appliesSize = stored->hasSize && sizing == FormSizing::Resizable;
         }
     } catch (const std::exception&) {
-        // A number too large for a place is none.
+        // A number too large for a place is not a place.
     }
     return placement;
 }

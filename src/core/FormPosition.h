@@ -24,7 +24,7 @@ enum class FormSizing { Resizable, Fixed };
 /// What a form takes on when it loads.
 struct FormPlacement {
     WindowState state = WindowState::Normal;
-    /// Nothing when the form is not normal, or has no stored place: it opens where it is designed.
+    /// Empty if the form is not normal, or has no stored place: it opens where it is designed.
     std::optional<FormRectangle> place;
     /// Whether the width and height of `place` apply, besides its left and top.
     bool appliesSize = false;

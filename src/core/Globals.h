@@ -10,14 +10,14 @@
 
 namespace core {
 
-/// What the whole process shares, set once by InitGlobals unless told otherwise.
+/// The state that the whole process shares, set once by InitGlobals unless said otherwise.
 struct Globals {
     /// Directory of the program's files, with a trailing separator.
     std::string AppPath;
     std::string ReportPath;
     std::string SysReportName = "SysReport";
     std::string HelpFile;
-    /// Whether the read-only reference tables stand beside the program.
+    /// Whether the read-only reference tables are beside the program.
     bool HasReferences = false;
     std::int32_t SecurityLevel = 1;
     std::string UserName = "Administrator";
@@ -53,14 +53,14 @@ inline constexpr std::array<std::string_view, 3> TaxClasses = {"Income", "Expens
 /// Sets the paths of the program's files, those below `directory`.
 void SetAppPath(std::string_view directory);
 
-/// Sets the paths from where the program stands, then reads the switches of `commandLine` (the text
-/// behind the program's name) and makes the directories.
+/// Sets the paths from the program's place, then reads the switches of `commandLine` (the text
+/// after the program's name) and makes the directories.
 void InitGlobals(std::string_view commandLine);
 
 /// Reads "/name=value" switches; unknown ones are skipped.
 void ParseCommandLine(std::string_view commandLine);
 
-/// Makes the program's directories; one that exists or can't be made is passed over.
+/// Makes the program's directories; one that exists or can't be made is skipped.
 void MakeDirectories();
 
 } // namespace core

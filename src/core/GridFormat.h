@@ -13,14 +13,14 @@ struct ColumnFormat {
 
     Kind kind = Kind::Plain;
     std::string pattern; ///< a format of platform::Format
-    bool right = false;  ///< numbers stand at the right edge
+    bool right = false;  ///< numbers are aligned right
 };
 
 /// The format of a column by its field's type and its caption: money, days, flags and fractions
 /// have one, "I Rate" one of its own; all else is shown as it is.
 ColumnFormat FormatOf(platform::FieldType type, std::string_view caption);
 
-/// A cell's text; one blank for a null. A text that the pattern does not suit stands as it is.
+/// A cell's text; one blank for a null. A text that the pattern doesn't suit is unchanged.
 std::string CellText(const platform::Value& value, const ColumnFormat& format);
 
 } // namespace core

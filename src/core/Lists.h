@@ -26,7 +26,7 @@ struct FillOptions {
 /// be read; without `nameNulls`, a record whose text is null ends the filling with a FieldError.
 void FillList(int kind, ChoiceList& list, const FillOptions& options = {});
 
-/// Adds the pieces between commas, as they stand, that aren't blank.
+/// Adds the pieces between commas, unchanged, that aren't blank.
 void FillFromCommaList(ChoiceList& list, std::string_view text);
 
 /// The identifier of the selected row, 0 without one.
@@ -39,10 +39,10 @@ struct NoMatch {
     bool setText = false;
 };
 
-/// Selects the first row with this identifier; without one, the first row if told so.
+/// Selects the first row with this identifier; without one, the first row if asked to.
 void SelectById(ChoiceList& list, std::int32_t id, NoMatch otherwise = {});
 
-/// Selects the first row of this text, without regard to case; without one, does what it is told.
+/// Selects the first row of this text, ignoring case; without one, does as `otherwise` says.
 void SelectByText(ChoiceList& list, std::string_view text, NoMatch otherwise = {});
 
 } // namespace core

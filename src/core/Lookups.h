@@ -19,7 +19,7 @@ bool GetLeaseParties(std::int32_t idLease, std::int32_t& idUnit, std::int32_t& i
 /// The vehicle that a new trip proposes.
 std::string GetDefaultCar();
 
-// Write the status word and tell all listeners.
+// Write the status and notify all listeners.
 void SetUnitStatus(std::int32_t idUnit, std::string_view status);
 void SetTenantStatus(std::int32_t idTenant, std::string_view status);
 

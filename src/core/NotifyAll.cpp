@@ -44,7 +44,7 @@ NotifyToken::~NotifyToken() {
 
 void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id) {
     if (kind == kConfiguration) LoadConfiguration();
-    // Who comes while the others are told has just read the records, and isn't told.
+    // A listener added during the broadcast has just read the records, and isn't notified.
     const std::vector<Entry> told = Listeners();
     for (const Entry& entry : told) {
         if (!IsListening(entry.id)) continue;

@@ -5,7 +5,7 @@
 
 namespace core {
 
-/// What a broadcast says happened to records of a kind: 1 is "written or removed".
+/// The action of a broadcast about records of a kind: 1 is "written or removed".
 inline constexpr std::int16_t kRecordsChanged = 1;
 
 using NotifyListener = std::function<void(std::int16_t kind, std::int16_t action, std::int32_t id)>;
@@ -22,8 +22,8 @@ class NotifyToken {
     int id_;
 };
 
-/// Tells every listener, at once and in the order they came, that records of `kind` changed; the
-/// settings in memory are read again first when they are the kind. A listener's failure is ignored.
+/// Notifies every listener now, in the order they were added, that records of `kind` changed; for
+/// the settings, those in memory are read again first. A listener's failure is ignored.
 void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id);
 
 } // namespace core

@@ -7,7 +7,7 @@
 namespace core {
 
 // Lists of free text whose items the machine remembers. `tag` is the binding tag of the control: a
-// sigil, and a field name that a table and "." may stand before; the field's name is what the items
+// sigil, and a field name that may follow a table and "."; the field's name is what the items
 // are kept under. A tag without a name loads and saves nothing.
 
 /// Adds the remembered items in their order.

@@ -4,7 +4,7 @@
 
 namespace core {
 
-/// How this person wants the program on this machine; each stands under its name in the registry,
+/// How the user wants the program on this machine; each is stored under its name in the registry,
 /// and starts with its default.
 struct PreferenceValues {
     bool EnableExpert = false;
@@ -42,7 +42,7 @@ struct PreferenceValues {
 PreferenceValues& Preferences();
 
 /// Reads all of them, defaults for those that are missing. EnableExpert makes the process an
-/// expert's; without it the command line's word stands.
+/// expert's; without it the command line decides.
 void LoadPreferences();
 
 /// Writes all of them; false if one couldn't be written.

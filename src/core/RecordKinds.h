@@ -49,7 +49,7 @@ inline constexpr std::int16_t kInsuranceAccount = 35;
 inline constexpr std::int16_t kMortgageeAccount = 36;
 inline constexpr std::int16_t kMultiUnitBuilding = 37;
 inline constexpr std::int16_t kSingleUnitBuilding = 38;
-/// A unit together with its building, for what hangs from both; it has no list.
+/// A unit together with its building, for records that belong to both; it has no list.
 inline constexpr std::int16_t kUnitWithBuilding = 39;
 inline constexpr std::int16_t kUtilityAccount = 40;
 
@@ -89,8 +89,8 @@ inline constexpr std::array<std::string_view, 31> RecordKinds = {"None",
 /// The display name of a kind, empty for one without.
 std::string_view RecordKindName(int kind);
 
-/// The account types that the program knows, in the order in which a list offers them; a person may
-/// type others.
+/// The account types that the program knows, in the order in which a list offers them; the user
+/// may type others.
 inline constexpr std::array<std::string_view, 10> AccountTypes = {
     "Retail", "Credit",    "Bank",      "Utility",          "Other",
     "Vendor", "Insurance", "Mortgagee", "Building Manager", "Building Owner"};

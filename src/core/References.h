@@ -21,7 +21,7 @@ struct ZipPlace {
     std::string county;
 };
 
-/// The place of a zip code, which must be digits alone.
+/// The place of a zip code, which must be all digits.
 std::optional<ZipPlace> ZipLookup(std::string_view zip);
 
 } // namespace core

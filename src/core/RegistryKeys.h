@@ -6,7 +6,7 @@ namespace core {
 
 // Keys of the registry below which more than one routine reads or writes.
 
-/// Database directories, by the name that the person gave them; kDefaultDatabase is the usual one.
+/// Database directories, by the name that the user gave them; kDefaultDatabase is the usual one.
 inline constexpr std::string_view kDatabasesKey = R"(SOFTWARE\Vestrel\Global\Databases)";
 inline constexpr std::string_view kDefaultDatabase = "Default";
 

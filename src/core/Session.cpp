@@ -85,7 +85,7 @@ void CloseRecordset(platform::Recordset& rows) {
     try {
         rows.Close();
     } catch (const std::exception&) {
-        // What can't be closed ends with the row set's life.
+        // A row set that can't be closed ends with its life.
     }
 }
 
@@ -96,7 +96,7 @@ void GetScalar(std::string_view sql, platform::Value& value) {
         platform::Value result = rows["Result"].Value();
         if (!result.IsNull()) value = std::move(result);
     } catch (const std::exception&) {
-        // A statement that failed, or has no such column, tells nothing.
+        // A statement that failed, or has no such column, leaves the value as it was.
     }
 }
 

@@ -14,9 +14,9 @@
 
 namespace core {
 
-// The database session. Every operation here keeps its failures to itself and answers with False,
-// -1, 0 or an unchanged output, unless it says otherwise; whoever must know the reason talks to the
-// connection itself.
+// The database session. Every operation here keeps its failures to itself and returns False, -1, 0
+// or an unchanged output, unless it says otherwise; callers that need the reason use the connection
+// itself.
 
 /// Opens `path`, or the process's database if it is empty (then `path` is set to its file); only to
 /// read if the file can't be written to. What went wrong is kept in App().OpenFault.
@@ -73,8 +73,8 @@ std::int32_t NextIds(std::int32_t count);
 void AddWhere(std::string& sql, std::string_view condition);
 
 /// Gives every null of the current row the empty value of its type (0, False or an empty text;
-/// 16-bit integers and dates stay null); true if there was one. Each is told to `diagFile` unless
-/// that is null. The caller writes the row.
+/// 16-bit integers and dates stay null); true if there was one. Each is written to `diagFile`
+/// unless that is null. The caller writes the row.
 bool RepairNulls(platform::Recordset& rows, std::ostream* diagFile);
 
 } // namespace core

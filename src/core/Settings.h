@@ -7,7 +7,7 @@
 namespace core {
 
 // The machine's settings, kept in the registry. A read that fails is a value that isn't there; a
-// write that fails answers false and changes nothing.
+// write that fails returns false and changes nothing.
 
 /// The text up to its first character 0; `otherwise` when there is no text of that name.
 std::string GetRegString(std::string_view key, std::string_view name, std::string_view otherwise);

@@ -10,10 +10,10 @@ namespace core {
 bool OpenBooks();
 
 /// Gives books that have no settings the default ones, and reads the settings into memory. Failures
-/// are passed over.
+/// are ignored.
 void LoadBooks();
 
-/// Deletes the temporary files in the program's directory; failures are passed over.
+/// Deletes the temporary files in the program's directory; failures are ignored.
 void CleanTmpFiles();
 
 } // namespace core

@@ -17,7 +17,7 @@ namespace removal {
 
 namespace {
 
-/// Told once after a row of children has gone, besides what each of them tells.
+/// Broadcast once after all children of a kind were deleted, besides each one's own broadcast.
 constexpr std::int16_t kChildrenRemoved = 2;
 
 std::vector<std::int32_t> ChildrenOf(std::string_view sql, std::int32_t id) {
@@ -100,7 +100,7 @@ bool AgreedToDelete(std::int16_t kind, std::int32_t id) {
 bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm, Tell tell) {
     if (id == 0) return false;
     if (confirm == Confirm::Ask && !AgreedToDelete(kind, id)) return false;
-    // Asked before the work begins, so that no unit of work stands open while a person thinks.
+    // Asked before the work begins, so that no unit of work is open while the user thinks.
     const Charges charges = AskAboutCharges(kind, id);
     RunRemoval(tell, [&](Removal& removal) {
         RemoveWhatGoesFirst(removal, kind, id);

@@ -4,15 +4,15 @@
 
 namespace removal {
 
-/// Whether the person is asked first. With the preference ConfirmDelete off nobody is, ever.
+/// Whether the user is asked first. Never asks if the preference ConfirmDelete is off.
 enum class Confirm { Ask, DontAsk };
 
-/// Whether the open screens are told of what has gone.
+/// Whether the open screens are notified of what was deleted.
 enum class Tell { Screens, Nobody };
 
 /// Asks, then removes the record with the records that can't be without it: the links of an account
 /// to buildings, the leases of a tenant and of a unit, the units of a building, and the building of
-/// its last unit. True when it was removed, false when the person said No and for id 0.
+/// its last unit. Returns true if it was removed, false if the user said No and for id 0.
 ///
 /// A failure is thrown. What was removed before it stays removed; only when the machine stops
 /// midway are the books as before.
@@ -20,11 +20,11 @@ bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm = Confirm:
                   Tell tell = Tell::Screens);
 
 /// Asks as DeleteRecord does, for a routine that removes the record as a part of its own work; true
-/// when the person agrees, or nobody is to be asked.
+/// if the user agrees, or isn't to be asked.
 bool AgreedToDelete(std::int16_t kind, std::int32_t id);
 
 /// Removes one record, its attached files' links, and what points to it elsewhere, which then
-/// points to nothing; of a kind that isn't removed only the links of files go. Nothing for id 0.
+/// points to nothing; for a kind that isn't removed only the links of files go. Id 0 does nothing.
 /// Failures as of DeleteRecord.
 ///
 /// Nothing is asked, except of a payment: whether its charges go too or are open again.

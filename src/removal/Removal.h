@@ -11,15 +11,15 @@
 
 namespace removal {
 
-/// What becomes of the charges that a payment settled.
+/// Whether the charges that a payment settled are deleted or become open again.
 enum class Charges { OpenAgain, Remove };
 
-/// One removal of records, as one unit of work; the screens are told when it is kept.
+/// One removal of records, as one unit of work; the screens are notified when it is committed.
 class Removal {
   public:
     Removal();
 
-    /// The statements of one record. `charges` matters to payments alone.
+    /// The statements of one record. `charges` matters only for payments.
     void Remove(std::int16_t kind, std::int32_t id, Charges charges = Charges::OpenAgain);
 
     /// Notes that the screens are to hear of a kind; what was noted before isn't noted again.
@@ -43,7 +43,7 @@ class Removal {
     std::vector<Message> messages_;
 };
 
-/// Does `work` as one removal. When it fails, what was done until then is kept and told, and the
+/// Does `work` as one removal. If it fails, what was done until then is kept and broadcast, and the
 /// failure thrown on.
 void RunRemoval(Tell tell, const std::function<void(Removal& removal)>& work);
 

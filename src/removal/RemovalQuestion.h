@@ -11,7 +11,7 @@ struct RemovalQuestion {
     std::string text;
 };
 
-/// What is asked before a record is removed, with the count of what goes with it; nothing for a
+/// The question before a record is removed, with the count of what goes with it; nothing for a
 /// kind that is removed unasked.
 std::optional<RemovalQuestion> QuestionBefore(std::int16_t kind, std::int32_t id);
 

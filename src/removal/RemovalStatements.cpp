@@ -27,7 +27,7 @@ constexpr std::array<std::string_view, 7> kOfTenant = {
     "DELETE * FROM Tenant WHERE IdTenant = ?",
 };
 
-// A posted row of the log stays: it hangs on its transaction.
+// A posted row of the log stays: it belongs to its transaction.
 constexpr std::array<std::string_view, 3> kOfMortgage = {
     "UPDATE AutoEvent SET IdMortgage = 0 WHERE IdMortgage = ?",
     "DELETE * FROM MortgageLog WHERE (IdMortgage = ?) AND (IdTransaction = 0)",
@@ -70,7 +70,7 @@ struct LoneKind {
     std::string_view statement;
 };
 
-// Records that nothing hangs from.
+// Records that nothing depends on.
 constexpr std::array<LoneKind, 14> kLoneKinds = {{
     {core::kIncident, "DELETE * FROM Incident WHERE IdIncident = ?"},
     {core::kRoom, "DELETE * FROM Room WHERE IdRoom = ?"},

@@ -28,7 +28,7 @@ void Removal::RemoveLease(std::int32_t id) {
         Note(core::kTenant, core::kRecordsChanged);
     }
 
-    // Posted rows hang on their transactions, and stay.
+    // Posted rows belong to their transactions, and stay.
     books.Execute("DELETE * FROM RentLog WHERE (IdLease = ?) AND (IdTransaction = 0)", {id});
     books.Execute("DELETE * FROM Lease WHERE IdLease = ?", {id});
 }

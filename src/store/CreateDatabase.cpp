@@ -26,7 +26,8 @@ NewDatabase::NewDatabase(const fs::path& directory)
 }
 
 void NewDatabase::Publish() {
-    // The version first: a database is never seen without it, while a version alone is no database.
+    // The version first: a database is never seen without it, and a version without one is not
+    // taken for one.
     platform::WriteFileAtomically(directory_ / kVersionFile, std::to_string(kDatabaseVersion));
     file_.Publish();
     folder_.Keep();

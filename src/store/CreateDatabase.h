@@ -19,7 +19,7 @@ inline constexpr int kDatabaseVersion = 9;
 class NewDatabase {
   public:
     /// Makes the draft, and `directory` if it is missing. Throws an Error if anything named as the
-    /// database is there already, or the draft can't be made; what was there is as before.
+    /// database already exists, or the draft can't be made; what was there is as before.
     explicit NewDatabase(const std::filesystem::path& directory);
 
     const std::filesystem::path& Draft() const { return file_.Draft(); }

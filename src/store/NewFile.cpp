@@ -18,7 +18,7 @@ void RefuseTaken(const fs::path& file) {
     const fs::file_status status = fs::symlink_status(file, error);
     if (status.type() == fs::file_type::not_found) return;
     if (fs::exists(status)) {
-        throw platform::Error(fmt::format("{} is there already", file.string()));
+        throw platform::Error(fmt::format("{} already exists", file.string()));
     }
     throw platform::Error(fmt::format("{}: {}", file.string(), error.message()));
 }
@@ -77,7 +77,7 @@ NewFolder::NewFolder(const fs::path& folder) {
         fs::permissions(next, fs::perms::owner_all, error);
     }
     if (!fs::is_directory(folder, error)) {
-        throw platform::Error(fmt::format("{} is no directory", folder.string()));
+        throw platform::Error(fmt::format("{} is not a directory", folder.string()));
     }
 }
 

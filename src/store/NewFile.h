@@ -5,11 +5,11 @@
 
 namespace store {
 
-/// A database file in the making: it is built under another name beside its own, and stands under
+/// A database file in the making: it is built under another name beside its own, and gets
 /// its own name only when it is whole.
 class NewFile {
   public:
-    /// An Error when anything of the name `file` is there already.
+    /// An Error when anything of the name `file` already exists.
     explicit NewFile(std::filesystem::path file);
     /// Removes the draft, unless it was published.
     ~NewFile();
@@ -17,7 +17,7 @@ class NewFile {
     NewFile& operator=(const NewFile&) = delete;
 
     const std::filesystem::path& Draft() const { return draft_; }
-    /// Gives the closed draft its name; an Error when that name was taken meanwhile.
+    /// Gives the closed draft its name; throws an Error if that name was taken in the meantime.
     void Publish();
 
   private:

@@ -23,7 +23,7 @@ std::span<const ZipCode> ZipCodes();
 
 /// Makes the reference database in `directory`, which is there: zip codes, and the pages where some
 /// counties show a property's taxes. It is only ever read afterwards. An Error when something of
-/// its name is there already or it can't be made; then nothing is left behind.
+/// its name already exists or it can't be made; then nothing is left.
 void CreateReferences(const std::filesystem::path& directory);
 
 } // namespace store

@@ -30,7 +30,7 @@ struct SampleAccounts {
     std::vector<std::int32_t> managers;
 };
 
-/// What the parts of the sample share while it is written.
+/// The state that the parts of the sample share while it is written.
 struct SampleBooks {
     SampleWriter& rows;
     SampleDice& dice;

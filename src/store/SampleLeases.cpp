@@ -65,7 +65,7 @@ LeaseDates PlanDates(SampleBooks& books, const LeasePlan& plan) {
     return dates;
 }
 
-/// Later rounds of the stories begin in other months and on other days, where nothing hangs on it.
+/// Later rounds of the stories begin in other months and on other days, if nothing depends on it.
 LeasePlan Varied(SampleDice& dice, LeasePlan plan, bool alone) {
     constexpr int kDays[] = {1, 1, 1, 5, 10, 15};
     const bool free = alone && plan.turn == SampleTurn::None && plan.monthsAgo >= 12 &&
@@ -162,7 +162,7 @@ std::int32_t AddLease(SampleBooks& books, const SampleUnit& unit, std::int32_t i
                            {"Residents", std::to_string(books.dice.Between(1, 4))}});
 }
 
-/// Saving a lease for the first time takes its unit and tenant at once, whenever it begins.
+/// Saving a lease for the first time takes its unit and tenant immediately, whenever it begins.
 void TakeUnit(SampleBooks& books, const SampleUnit& unit, std::int32_t idTenant) {
     platform::Connection& connection = books.rows.Books();
     connection.Execute("UPDATE Unit SET Status = 'Leased' WHERE IdUnit = ?", {unit.id});

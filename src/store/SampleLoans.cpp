@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kGraceDays = 15;
 
-/// A loan paid off by equal monthly payments, or by its interest alone.
+/// A loan paid off by equal monthly payments, or by its interest only.
 struct Loan {
     double principal = 0;
     int periods = 360;
@@ -29,7 +29,7 @@ struct Loan {
         return principal * monthly / (1 - std::pow(1 + monthly, -periods));
     }
 
-    /// What is owed once `paid` payments are made.
+    /// The balance that is owed once `paid` payments are made.
     double Balance(int paid) const {
         if (interestOnly) return principal;
         const double growth = std::pow(1 + rate / 12, paid);

@@ -8,7 +8,7 @@
 namespace store {
 
 /// Writes the mortgages of most of the buildings as they stood two years back, paid until then,
-/// and takes them off the buildings' equity. Answers how each is going to be paid.
+/// and takes them off the buildings' equity. Returns how each is going to be paid.
 std::vector<SampleLoan> WriteSampleLoans(SampleBooks& books,
                                          const std::vector<SampleBuilding>& buildings);
 

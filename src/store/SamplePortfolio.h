@@ -28,7 +28,7 @@ enum class PayHabit {
     PaidAhead,     ///< before the due day, early enough for a discount
 };
 
-/// What one lease of the sample is going to live through.
+/// The life that one lease of the sample is going to have.
 struct SampleHabit {
     std::int32_t idLease = 0;
     PayHabit habit = PayHabit::OnTime;

@@ -38,7 +38,7 @@ struct SampleBuilding {
 /// owners, manager, rooms, appliances and contents.
 std::vector<SampleBuilding> WriteSampleProperty(SampleBooks& books, int units);
 
-/// Writes what stands in one unit, which knows its own identifier already.
+/// Writes the furnishing of one unit, which knows its own identifier already.
 void FurnishSampleUnit(SampleBooks& books, SampleUnit& unit, int bedrooms);
 
 } // namespace store

@@ -18,13 +18,13 @@ enum class SampleTurn {
     ExpiringSoon, ///< began so that its term is over in a few weeks
 };
 
-/// What else a lease agrees on.
+/// Further terms of a lease.
 enum class SampleClause {
     None,
     Discount,
     DailyFee,
     AccountSubsidy, ///< an office pays a part
-    TenantSubsidy,  ///< a person pays a part
+    TenantSubsidy,  ///< another tenant pays a part
     Option,         ///< to buy, with a credit for each rent paid
     Pets,
     SubLet,

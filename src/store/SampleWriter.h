@@ -25,7 +25,7 @@ class SampleWriter {
 
     /// Adds a row. Where the table's first field is its key, that takes a new identifier, which is
     /// answered; 0 otherwise. A null given for a day is written as empty. A field that the table
-    /// doesn't have is a FieldError.
+    /// doesn't have throws FieldError.
     std::int32_t Add(std::string_view table, Fields fields);
 
     platform::Connection& Books() { return connection_; }

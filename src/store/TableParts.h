@@ -8,7 +8,7 @@
 
 namespace store {
 
-/// Fields of one kind that follow one another; the names are parted by blanks.
+/// Fields of one kind that follow one another; the names are separated by blanks.
 struct FieldRun {
     FieldKind kind;
     std::string_view names;
@@ -17,8 +17,8 @@ struct FieldRun {
 TableDefinition MakeTable(std::string_view name, std::initializer_list<FieldRun> runs,
                           std::initializer_list<std::string_view> indexes = {});
 
-// The tables of the books by area: what stands and who lives there, what is paid and owed, and what
-// the program itself keeps.
+// The tables of the books by area: the property and who lives there, what is paid and owed, and
+// what the program itself keeps.
 std::vector<TableDefinition> PropertyTables();
 std::vector<TableDefinition> PeopleTables();
 std::vector<TableDefinition> MoneyTables();

@@ -6,7 +6,7 @@
 
 namespace store {
 
-/// What a field of the schema holds.
+/// The kinds of values that a field of the schema holds.
 enum class FieldKind {
     Long,    ///< 32 bits; 0, never null, where nothing is linked
     Counter, ///< a Long that may be null: nothing was counted yet
@@ -24,7 +24,7 @@ struct FieldDefinition {
     FieldKind kind;
 };
 
-/// A table with its fields in order. Each index names its columns, parted by blanks; none is
+/// A table with its fields in order. Each index names its columns, separated by blanks; none is
 /// unique.
 struct TableDefinition {
     std::string name;

@@ -8,7 +8,7 @@
 
 namespace store {
 
-/// What a category of transactions counts as.
+/// The class of a category of transactions.
 enum class CategoryClass : std::int16_t { Income = 0, Expense = 1, Unclassified = 2 };
 
 struct DefaultCategory {

@@ -12,7 +12,7 @@
 
 namespace vestrelctl {
 
-// What the arguments of several commands have in common. The errors name the option at fault.
+// Arguments that several commands have in common. The errors name the option at fault.
 
 /// Rejects, as wrong usage, text that isn't a valid date.
 CLI::Validator IsDate();

@@ -19,7 +19,7 @@ struct InitOptions {
     std::filesystem::path folder;
 };
 
-/// The look-ups of zip codes and tax offices stand beside the program, once for all databases. A
+/// The look-ups of zip codes and tax offices are beside the program, once for all databases. A
 /// database is made without them all the same.
 void MakeReferences() {
     if (core::App().HasReferences) return;

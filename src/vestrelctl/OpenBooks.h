@@ -4,7 +4,7 @@
 
 namespace vestrelctl {
 
-/// What a command does with the books. Books that can't be written to open for reading.
+/// Whether a command only reads the books. Books that can't be written to open for reading.
 enum class Purpose { Read, Write };
 
 /// Finds the database that the options name and opens the session on it. Throws an Error that says

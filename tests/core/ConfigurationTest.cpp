@@ -63,7 +63,7 @@ TEST_F(StartWithoutBooks, GoesOnWhenTheDatabaseCannotBeOpened) {
     EXPECT_FALSE(core::OpenBooks());
     EXPECT_FALSE(std::filesystem::exists(PathTo("none.mdb")));
 
-    MakeFile("text.mdb", "this is no database, however long it is looked at");
+    MakeFile("text.mdb", "this is not a database, however long it is looked at");
     core::App().DbFile = PathTo("text.mdb");
     EXPECT_FALSE(core::OpenBooks());
     EXPECT_EQ(Config().CompanyName, "");

@@ -14,7 +14,7 @@ class Portfolio : public CoreBooks {
   protected:
     Portfolio();
 
-    /// What differs from the portfolio: "Table id" for a row that has gone, "+Table id" for a new
+    /// The differences from the portfolio: "Table id" for a deleted row, "+Table id" for a new
     /// one, "Table id Field=value" for a changed field; in the order of the tables' names.
     std::vector<std::string> Changes() const;
 

@@ -63,7 +63,7 @@ TEST_F(RemovalBroadcast, IsLeftOutSilently) {
     EXPECT_THAT(heard_, IsEmpty());
 }
 
-/// A statement in the middle of a removal fails: the table that the unit's rooms stand in is gone.
+/// A statement in the middle of a removal fails: the table of the unit's rooms doesn't exist.
 class BrokenRemoval : public RemovalBroadcast {
   protected:
     BrokenRemoval() { core::App().Connection.RunScript("ALTER TABLE Room RENAME TO RoomNoMore"); }

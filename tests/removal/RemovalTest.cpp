@@ -126,7 +126,7 @@ const std::vector<RemovalCase>& RemovalCases() {
         {"an analysis", 71, 681, {"Analysis 681"}},
         {"a note analysis", 73, 682, {"DiscNote 682"}},
         {"a kind that isn't removed", core::kDeposit, 650, {}},
-        {"a record that has gone", core::kUnit, 12345, {}},
+        {"a record that was deleted", core::kUnit, 12345, {}},
         {"a number of another kind", core::kTenant, 200, {}},
     };
     return cases;

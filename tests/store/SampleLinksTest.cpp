@@ -17,7 +17,7 @@ struct Relation {
     const char* column;
     const char* parent;
     const char* key;
-    /// What the parent's row must be, "" for anything.
+    /// The condition that the parent's row must meet, "" for any.
     const char* condition = "";
 };
 

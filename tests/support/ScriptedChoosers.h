@@ -11,7 +11,7 @@
 
 namespace support {
 
-/// Stands for the person who chooses files and folders while it lives: keeps what is asked and
+/// Stands for the user who chooses files and folders while it lives: keeps what is asked and
 /// answers from a script, cancelling when the script has run out.
 class ScriptedChoosers {
   public:

@@ -10,7 +10,7 @@
 
 namespace support {
 
-/// What was said to the person, or asked.
+/// A message or question that was shown to the user.
 struct Said {
     std::string title;
     std::string text;
@@ -18,7 +18,7 @@ struct Said {
     bool question = false;
 };
 
-/// Stands for the person while it lives: keeps what is said and answers from a script, No when the
+/// Stands for the user while it lives: keeps what is said and answers from a script, No when the
 /// script has run out.
 class ScriptedDialogs {
   public:

@@ -31,7 +31,7 @@ std::string Join(const Lines& lines) {
     return text;
 }
 
-/// What stands between the separators, the head left out.
+/// The text between the separators, without the head.
 std::vector<Lines> SectionsOf(const Lines& block) {
     std::vector<Lines> sections(1);
     for (std::size_t i = 1; i < block.size(); ++i) {

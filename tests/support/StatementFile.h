@@ -7,7 +7,7 @@
 namespace support {
 
 // Statement files hold SQL statements of the program's dialect with what is expected of each.
-// Blocks are parted by empty lines; a line that starts with '#' outside a block is a comment.
+// Blocks are separated by empty lines; a line that starts with '#' outside a block is a comment.
 //
 //   query NAME              run NAME                error NAME
 //   SELECT ...              UPDATE ...              SELECT ...
@@ -20,11 +20,11 @@ namespace support {
 //                           "a",1
 //
 // A block's name is one word and may be missing. A column's name that holds a comma, a colon or a
-// quote stands in quotes; Table.* stands for all fields of a table; a line of columns that ends in
+// quote is in quotes; Table.* means all fields of a table; a line of columns that ends in
 // a comma goes on in the next. Rows are CSV as the companion program prints them, but a row that is
-// a single null stands as `null`; `...` in place of rows, or of the number of rows that a statement
-// affects, leaves them open. A query behind a statement that is run shows what the statement did,
-// before it is taken back.
+// a single null is written `null`; `...` in place of rows, or of the number of rows that a
+// statement affects, leaves them open. A query after a statement that is run shows what the
+// statement did, before it is rolled back.
 //
 // `run keep` is set-up: such blocks of a file are run before its others, in order, and stay.
 
@@ -47,12 +47,13 @@ struct StatementBlock {
     bool keep = false;
 
     std::string statement;
-    ExpectedQuery query; ///< of a query, or behind a statement that is run
+    ExpectedQuery query; ///< of a query, or after a statement that is run
     bool hasQuery = false;
     std::string expected; ///< the number of rows affected, or the text of the error
 };
 
-/// The blocks of a file in order. A std::runtime_error names the file and line of what is no block.
+/// The blocks of a file in order. Throws std::runtime_error, which names file and line, if one is
+/// malformed.
 std::vector<StatementBlock> ReadStatementFile(const std::filesystem::path& path);
 
 /// The blocks of all files `*.test` below a folder, the files by name.

@@ -26,7 +26,7 @@ struct Cell {
 
 /// What a field of `type` reads from a stored value. What another tool stored in another form is
 /// read as the type would have it where that loses nothing, else as what it is. An amount or a day
-/// that no value holds is an OverflowError.
+/// that no value holds throws OverflowError.
 Value ReadCell(const Cell& cell, FieldType type);
 
 /// A value as a field of `type` stores it; one that doesn't convert throws as Value does. A text

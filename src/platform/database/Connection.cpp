@@ -51,7 +51,7 @@ std::optional<Value> Connection::Scalar(std::string_view sql, std::span<const Va
     CachedStatement& statement = engine.Prepare(sql);
     const dialect::CompiledStatement& compiled = statement.plan->compiled;
     if (compiled.kind != dialect::StatementKind::Select) {
-        throw DatabaseError("The statement yields no rows.");
+        throw DatabaseError("Only a SELECT can be opened.");
     }
     engine.CheckUnit();
     DatabaseEngine::Bind(statement, parameters);

@@ -24,10 +24,10 @@ enum class OpenMode {
 
 class DatabaseEngine;
 
-/// One open database file, spoken to in the program's SQL dialect. Every failure is a DatabaseError
-/// (a DialectError where the statement has a fault), and leaves the data as before the call.
+/// One open database file, used through the program's SQL dialect. A failure throws DatabaseError
+/// (DialectError if the statement has a fault), and leaves the data as before the call.
 ///
-/// Statements are kept compiled, so saying the same text again with other parameters is cheap.
+/// Compiled statements are kept, so that running the same text with other parameters is cheap.
 class Connection {
   public:
     Connection();
@@ -38,27 +38,27 @@ class Connection {
     /// Opens an existing database; Create makes the file (private to the user), and fails if it is
     /// there. An open connection is closed first.
     void Open(const std::filesystem::path& file, OpenMode mode = OpenMode::ReadWrite);
-    /// Nothing when it isn't open.
+    /// Does nothing if it isn't open.
     void Close();
     bool IsOpen() const;
     /// True if it is open and every statement that writes will fail.
     bool IsReadOnly() const;
     const std::filesystem::path& File() const;
 
-    /// Runs one statement, with a value for each `?` in it. The number of rows affected (0 for a
-    /// select, whose rows are dropped). A value that doesn't convert to what its place asks for is
-    /// a DatabaseError too.
+    /// Runs one statement, with a value for each `?` in it. Returns the number of rows affected (0
+    /// for a select, whose rows are dropped). Throws DatabaseError also if a value can't be
+    /// converted to the type that its place needs.
     std::int64_t Execute(std::string_view sql, std::span<const Value> parameters = {});
     std::int64_t Execute(std::string_view sql, std::initializer_list<Value> parameters);
 
-    /// The first column of the first row; nothing without a row.
+    /// Returns the first column of the first row of a select; empty if there is no row.
     std::optional<Value> Scalar(std::string_view sql, std::span<const Value> parameters = {});
     std::optional<Value> Scalar(std::string_view sql, std::initializer_list<Value> parameters);
 
     /// The tables and their fields as the file declares them.
     const dialect::Catalog& Tables();
 
-    /// Runs statements of the engine's own SQL, all or none of them: for the schema alone.
+    /// Runs statements of the engine's own SQL, all or none of them: only for the schema.
     void RunScript(std::string_view script);
 
     /// True between the begin and the end of a unit of work.
@@ -68,18 +68,18 @@ class Connection {
     friend class Recordset;
     friend class UnitOfWork;
 
-    /// A DatabaseError when it isn't open.
+    /// Throws DatabaseError if it isn't open.
     DatabaseEngine& Engine() const;
 
     std::filesystem::path file_;
     std::unique_ptr<DatabaseEngine> engine_;
 };
 
-/// What happens between construction and Commit is kept whole or not at all, also when the machine
-/// stops: without Commit, destruction takes everything back. One inside another is a part of it
-/// that can be taken back by itself. A statement that fails in between is taken back alone and ends
-/// nothing; only where the engine had to give up the whole unit (a full disk) does every further
-/// statement fail, and Commit too.
+/// Statements that are committed together or, without Commit, rolled back, also if the machine
+/// stops. A write from its start: what is read in it stays true until it ends. A unit inside
+/// another can be rolled back by itself, and so is a statement that fails. Only if the engine had
+/// to give up the whole unit (a full disk) does every further statement fail, and Commit too. The
+/// constructor throws DatabaseError if another program goes on writing for longer than we wait.
 class UnitOfWork {
   public:
     explicit UnitOfWork(Connection& connection);
@@ -87,7 +87,7 @@ class UnitOfWork {
     UnitOfWork(const UnitOfWork&) = delete;
     UnitOfWork& operator=(const UnitOfWork&) = delete;
 
-    /// A DatabaseError if it can't be kept; destruction then takes it back.
+    /// Throws DatabaseError if it can't be committed; destruction then rolls it back.
     void Commit();
 
   private:

@@ -126,8 +126,8 @@ CachedStatement& DatabaseEngine::Prepare(std::string_view sql) {
 void DatabaseEngine::Bind(CachedStatement& statement, std::span<const Value> parameters) {
     const std::vector<FieldType>& types = statement.plan->compiled.parameters;
     if (types.size() != parameters.size()) {
-        throw DatabaseError("The statement asks for " + std::to_string(types.size()) +
-                            " parameters, " + std::to_string(parameters.size()) + " were given.");
+        throw DatabaseError("The statement needs " + std::to_string(types.size()) +
+                            " parameters; " + std::to_string(parameters.size()) + " were given.");
     }
     for (std::size_t i = 0; i < types.size(); ++i) {
         try {
@@ -154,7 +154,7 @@ std::int64_t DatabaseEngine::Run(CachedStatement& statement) {
 
 void DatabaseEngine::CheckUnit() const {
     if (level_ > 0 && sqlite3_get_autocommit(Handle()) != 0) {
-        throw DatabaseError("The unit of work was taken back by an earlier failure.");
+        throw DatabaseError("An earlier failure has rolled back everything. Start again.");
     }
 }
 
@@ -187,7 +187,7 @@ int DatabaseEngine::Begin() {
 
 void DatabaseEngine::Commit(int level) {
     if (level == 0 || level != level_)
-        throw DatabaseError("The unit of work has one inside it, or has ended.");
+        throw DatabaseError("This unit of work contains an open one, or has ended.");
     CheckUnit();
     Command(level == 1 ? "COMMIT" : "RELEASE unit_" + std::to_string(level - 1));
     if (--level_ == 0) schemaChangedInUnit_ = false;
@@ -199,7 +199,7 @@ void DatabaseEngine::RollBack(int level) noexcept {
     try {
         ReadPending();
     } catch (const Error&) {
-        // What was begun inside the unit ends with it.
+        // Rows still to be read inside the unit end with it.
     }
     if (sqlite3_get_autocommit(Handle()) == 0) {
         const std::string name = "unit_" + std::to_string(level_);
@@ -211,7 +211,7 @@ void DatabaseEngine::RollBack(int level) noexcept {
     try {
         ReadCatalog();
     } catch (const Error&) {
-        // The tables as they were known last; a statement on one that is gone will say so.
+        // The tables as they were last; a statement on a table that no longer exists will say so.
     }
 }
 

@@ -16,7 +16,7 @@ namespace platform {
 
 class PendingRows;
 
-/// What an open connection is made of.
+/// The engine's side of an open connection.
 class DatabaseEngine {
   public:
     DatabaseEngine(const std::filesystem::path& file, OpenMode mode);
@@ -28,7 +28,7 @@ class DatabaseEngine {
     bool IsReadOnly() const;
     const dialect::Catalog& Tables() const { return catalog_; }
 
-    /// The prepared form of a statement of the dialect; a table's bare name stands for its rows.
+    /// The prepared form of a statement of the dialect; a table's bare name means its rows.
     CachedStatement& Prepare(std::string_view sql);
     /// The prepared form of a statement of the engine's SQL that is known by a key of its own.
     template <typename MakeSql>
@@ -40,8 +40,8 @@ class DatabaseEngine {
     std::int64_t Run(CachedStatement& statement);
     /// The number of the row that was inserted last.
     std::int64_t LastRowNumber() const { return database_->getLastInsertRowid(); }
-    /// Fails inside a unit of work that the engine has given up: what follows would be written by
-    /// itself.
+    /// Throws DatabaseError inside a unit of work that the engine has given up: later statements
+    /// would be written outside it.
     void CheckUnit() const;
 
     void RunScript(std::string_view script);
@@ -54,7 +54,7 @@ class DatabaseEngine {
     // Units of work, one inside another; each has a level counted from 1.
     int Begin();
     void Commit(int level);
-    /// Takes back the unit of this level with all inside it; nothing when it has ended.
+    /// Rolls back the unit of this level with all inside it; does nothing if it has ended.
     void RollBack(int level) noexcept;
     int UnitLevel() const { return level_; }
 

@@ -84,12 +84,12 @@ void MakePrivateFile(const fs::path& file) {
         return;
     }
     const int error = errno;
-    ThrowCannot("make", file, error == EEXIST ? "it is there already" : SystemText(error),
+    ThrowCannot("make", file, error == EEXIST ? "it already exists" : SystemText(error),
                 SQLITE_CANTOPEN);
 }
 
 // The engine would count every piece of memory it takes, under a lock, for figures that nobody asks
-// for. That can be told it only before its first use; later it keeps counting.
+// for. It can be switched off only before its first use.
 void TellEngineNotToCount() {
     static const int told = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
     static_cast<void>(told);

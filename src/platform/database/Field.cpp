@@ -11,7 +11,7 @@ namespace {
     throw FieldError("Field " + field + ": " + std::string(what));
 }
 
-// What `read` answers; where it can't convert, an error that names the field.
+// Returns what `read` returns; if it can't convert, throws an error that names the field.
 template <typename Read>
 auto Guarded(const std::string& field, Read read) {
     try {
@@ -26,7 +26,7 @@ auto Guarded(const std::string& field, Read read) {
 Value Converted(const std::string& field, const Value& value, FieldType type) {
     Value converted = Guarded(field, [&] { return value.ConvertTo(type); });
     const double* number = std::get_if<double>(&converted.Held());
-    if (number != nullptr && std::isnan(*number)) ThrowAt(field, "this is no number.");
+    if (number != nullptr && std::isnan(*number)) ThrowAt(field, "this is not a number.");
     return converted;
 }
 

@@ -10,7 +10,7 @@
 namespace platform {
 
 // Readings of fields that a row may leave unset: 0, False, no day or an empty text then. What is
-// set and can't be read so is a FieldError.
+// set and can't be read so throws FieldError.
 
 inline std::string TextOf(const Field& field) {
     return field.IsNull() ? std::string() : field.AsText();

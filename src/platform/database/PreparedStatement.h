@@ -14,7 +14,7 @@ namespace platform {
 /// read through it: the wrapper's columns each carry a counted pointer and a check.
 class PreparedStatement {
   public:
-    /// A DatabaseError if the engine doesn't take the statement.
+    /// Throws DatabaseError if the engine doesn't accept the statement.
     PreparedStatement(sqlite3* database, std::string_view sql);
     ~PreparedStatement();
     PreparedStatement(PreparedStatement&& other) noexcept
@@ -30,7 +30,7 @@ class PreparedStatement {
     /// Binds the parameter at `index`, counted from 1.
     void Bind(int index, const Cell& cell, TextLife life);
 
-    /// True when there is a row. A DatabaseError on failure.
+    /// Returns true if there is a row. Throws DatabaseError on failure.
     bool Step();
     void Reset();
 

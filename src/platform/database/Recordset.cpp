@@ -83,10 +83,10 @@ void Recordset::Open(Connection& connection, std::string_view sql, CursorMode mo
     CachedStatement& prepared = engine.Prepare(sql);
     const dialect::CompiledStatement& compiled = prepared.plan->compiled;
     if (compiled.kind != dialect::StatementKind::Select) {
-        throw DatabaseError("The statement yields no rows.");
+        throw DatabaseError("Only a SELECT can be opened.");
     }
     if (mode == CursorMode::AppendOnly && compiled.table.empty()) {
-        throw DatabaseError("Rows can be added to a table alone.");
+        throw DatabaseError("Rows can be added only to a table.");
     }
     if (!state_) state_ = std::make_unique<State>();
     State& state = *state_;

@@ -19,7 +19,7 @@ enum class CursorMode {
     AppendOnly, ///< opened to add rows: the statement names a table, whose rows aren't fetched
     /// Only read, and no further than rows are asked for. They are as they were when it was opened
     /// all the same: before anything is written, and before the connection closes, the rest is read
-    /// at once. A failure that comes later is thrown where a row is asked for.
+    /// then. A failure that comes later is thrown when a row is asked for.
     ReadAsNeeded,
 };
 
@@ -39,11 +39,11 @@ class Field {
     /// Null, or an empty text.
     bool IsBlank() const;
     platform::Value Value() const;
-    /// The value as the field's type holds it is kept for Update; one that doesn't convert or fit
-    /// is a FieldError, as is writing a field that the statement computes.
+    /// Keeps the value, converted to the field's type, for Update. Throws FieldError if it doesn't
+    /// convert or fit, or if the statement computes the field.
     void Set(const platform::Value& value);
 
-    // Readings as of Value; what fails is a FieldError that names the field.
+    // The value in one of its types. Throws FieldError, which names the field, if it isn't one.
     bool AsBoolean() const;
     std::int16_t AsInteger() const;
     std::int32_t AsLong() const;
@@ -60,9 +60,9 @@ class Field {
     std::size_t index_;
 };
 
-/// The rows of one select, held by the client: as they were when it was opened. With one current
-/// row; `Eof` when there is none. Failures are thrown as DatabaseError and FieldError. What was set
-/// and not written by Update is dropped when another row becomes current.
+/// The rows of one select as they were when it was opened, with one current row; `Eof` if there is
+/// none. Throws DatabaseError and FieldError on failure. Values that were set and not written by
+/// Update are dropped when another row becomes current.
 class Recordset {
   public:
     Recordset();
@@ -83,31 +83,31 @@ class Recordset {
     bool Eof() const;
     void MoveFirst();
     void MoveNext();
-    /// 1 for the first row in the present order, 0 when there is no current row. A new row stands
-    /// behind all others.
+    /// 1 for the first row in the present order, 0 if there is no current row. A new row comes
+    /// after all others.
     std::int64_t AbsolutePosition() const;
-    /// Where no row stands there is no current row afterwards.
+    /// If there is no row at this position, there is no current row afterwards.
     void SetAbsolutePosition(std::int64_t position);
 
-    /// Orders the rows by "Field [ASC|DESC], ..." (names may stand in square brackets) and moves to
-    /// the first; nulls first, texts without regard to case, equal rows in the order they had. An
-    /// empty text restores the order of the statement. A FieldError for a field that isn't there,
-    /// the order stays.
+    /// Orders the rows by "Field [ASC|DESC], ..." (names may be in square brackets) and moves to
+    /// the first; nulls first, texts ignoring case, equal rows in the order they had. An empty text
+    /// restores the order of the statement. Throws FieldError if a field isn't there; the order
+    /// stays.
     void Sort(std::string_view order);
 
     std::size_t FieldCount() const;
     Field operator[](std::size_t index);
-    /// By name, without regard to case; a FieldError when there is none.
+    /// By name, ignoring case. Throws FieldError if the row set has no such field.
     Field operator[](std::string_view name);
     bool HasField(std::string_view name) const;
 
-    /// Starts a new row, which becomes current; its fields are null until set. A DatabaseError, as
-    /// of Update and Delete, when the rows can't be written: opened to be read, or of a statement
-    /// whose rows aren't those of one table.
+    /// Starts a new row, which becomes current; its fields are null until set. Throws
+    /// DatabaseError, as do Update and Delete, if the rows can't be written: opened to be read, or
+    /// of a statement whose rows don't belong to one table.
     void AddNew();
-    /// Writes the new row, or the changed fields of the current one; nothing when there are none.
-    /// The row then shows what is stored, the table's defaults included. A ConflictError when the
-    /// row has gone or any of the fields read was changed since: the changes stay, unwritten.
+    /// Writes the new row, or the changed fields of the current one, if any. It then shows what is
+    /// stored, the table's defaults included. Throws ConflictError if the row was deleted, or any
+    /// of the fields read was changed, since: the changes stay, unwritten.
     void Update();
     /// Drops what was set; after AddNew the row that was current before is so again.
     void CancelUpdate();
@@ -118,7 +118,7 @@ class Recordset {
     friend class Field;
     struct State;
 
-    /// A DatabaseError when it isn't open.
+    /// Throws DatabaseError if it isn't open.
     State& Opened() const;
 
     std::unique_ptr<State> state_;

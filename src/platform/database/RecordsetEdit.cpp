@@ -2,6 +2,7 @@
 
 #include "platform/database/DatabaseEngine.h"
 #include "platform/database/RecordsetState.h"
+#include "platform/database/dialect/EngineSql.h"
 #include "platform/values/Errors.h"
 
 namespace platform {
@@ -12,16 +13,13 @@ using TextLife = PreparedStatement::TextLife;
 using Edits = std::vector<std::optional<Value>>;
 
 std::string Quoted(std::string_view name) {
-    std::string quoted = "\"";
-    for (const char c : name) {
-        if (c == '"') quoted += c;
-        quoted += c;
-    }
-    return quoted + '"';
+    std::string quoted;
+    dialect::AppendEngineName(quoted, name);
+    return quoted;
 }
 
-// What tells a statement that writes rows from all others: its kind, the select that the rows were
-// read by, the fields that it sets. No statement's text starts with a zero byte.
+// The key of a statement that writes rows: its kind, the select that the rows were read by, the
+// fields that it sets. No statement's text starts with a zero byte.
 std::string KeyOf(char kind, const StatementPlan& plan, const Edits& edits) {
     std::string key{'\0', kind};
     for (unsigned shift = 0; shift < 64; shift += 8)
@@ -107,11 +105,11 @@ int BindEdits(PreparedStatement& statement, const dialect::CompiledStatement& se
 
 void Recordset::State::CheckWritable() const {
     if (IsReadOnly()) {
-        throw DatabaseError("The row set was opened to be read only.");
+        throw DatabaseError("The row set was opened only to be read.");
     }
     if (Compiled().table.empty()) {
         throw DatabaseError(
-            "The rows of this statement can't be written: they are not those of "
+            "The rows of this statement can't be written: they don't belong to "
             "one table.");
     }
 }

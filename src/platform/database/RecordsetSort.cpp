@@ -16,8 +16,9 @@ struct Place {
     std::uint32_t was;    // the row's place before
 };
 
-/// Orders rows by numbers alone: by those of the first key's values, then each run of equal rows by
-/// those of the next letters or the next key. No row is looked at twice for the same letters.
+/// Orders rows by numbers only: by the numbers of the first key's values, then each run of equal
+/// rows by the numbers of the next letters or the next key. No row is looked at twice for the same
+/// letters.
 class Sorter {
   public:
     Sorter(const RowBuffer& rows, const std::vector<dialect::ResultColumn>& columns,
@@ -82,7 +83,7 @@ class Sorter {
         }
     }
 
-    // Many rows of one text are common, and its further letters tell nothing.
+    // Many rows of one text are common, and its further letters don't differ.
     bool HoldsOneText(const Run& run) const {
         const Cell first = CellOf(places_[run.begin], run.key);
         for (std::size_t i = run.begin + 1; i < run.end; ++i) {

@@ -13,8 +13,8 @@
 
 namespace platform {
 
-/// What a row set holds: its rows as they are stored, their present order, and what was set on the
-/// current one.
+/// The contents of a row set: its rows as they are stored, their present order, and what was set on
+/// the current one.
 struct Recordset::State {
     Connection* connection = nullptr;
     CursorMode mode = CursorMode::ReadOnly;
@@ -22,7 +22,7 @@ struct Recordset::State {
 
     RowBuffer rows;
     std::unique_ptr<PendingRows> pending; // what is read as it is asked for; null for most
-    bool ordered = false;                 // otherwise the rows stand as they were read
+    bool ordered = false;                 // otherwise the rows are in the order read
     std::vector<std::uint32_t> order;
     std::size_t current = 0; // a place in the order
 
@@ -49,7 +49,7 @@ struct Recordset::State {
     /// Gives the order a list of its own, to be changed.
     void WriteOutOrder();
 
-    /// The current row's stored value at `index`: of a field, or of the row's number behind them.
+    /// The current row's stored value at `index`: of a field, or of the row's number after them.
     Cell Stored(std::size_t index);
 
     bool IsReadOnly() const {
@@ -63,7 +63,7 @@ struct Recordset::State {
     void WriteNewRow();
     void WriteChanges();
     void DeleteRow();
-    /// Binds what the row was read with, behind the parameter at `index`.
+    /// Binds the values the row was read with, after the parameter at `index`.
     void BindOriginal(PreparedStatement& statement, int index);
 };
 

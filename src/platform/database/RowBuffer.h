@@ -26,7 +26,7 @@ class RowBuffer {
     void Append();
     void Replace(std::size_t row);
 
-    /// Where the first `count` values of a row stand, for Read.
+    /// Finds the offsets of the first `count` values of a row, for Read.
     void Locate(std::size_t row, std::size_t count, std::vector<std::uint32_t>& places) const;
     Cell Read(std::size_t row, std::uint32_t place) const;
     /// The value at `index`, found by passing over those before it.

@@ -32,7 +32,7 @@ bool IsAscii(char c) {
 }
 
 // The letters in lower case, and in the last byte how many there are of them; a text that ended
-// before is told from a null by that.
+// before is distinguished from a null by that.
 std::uint64_t OfText(std::string_view text, std::size_t passed) {
     std::string lower;
     if (!std::ranges::all_of(text.substr(0, passed + kSortLetters), IsAscii)) {
@@ -49,7 +49,7 @@ std::uint64_t OfText(std::string_view text, std::size_t passed) {
     return number << 8 | std::min<std::uint64_t>(text.size() + 1, kMoreLetters);
 }
 
-// Money and truths are whole numbers as they are stored; a day may have a time of day behind it.
+// Money and truths are whole numbers as they are stored; a date may have a time of day after it.
 std::uint64_t OfNumber(const Cell& cell, FieldType type) {
     const bool real = type == FieldType::Double || type == FieldType::Date;
     switch (cell.kind) {
@@ -79,7 +79,7 @@ std::string_view TakeBracketed(std::string_view& text) {
     return name;
 }
 
-// Takes the direction off the end of `item`, if there is one behind a name: true for descending.
+// Takes the direction off the end of `item`, if one follows a name. True for descending.
 bool TakeDirection(std::string_view& item, bool nameTaken) {
     const std::size_t blank = item.find_last_of(" \t\r\n");
     if (blank == std::string_view::npos && !nameTaken) return false;
@@ -107,7 +107,7 @@ std::vector<SortItem> ParseSortText(std::string_view text) {
         const bool descending = TakeDirection(rest, bracketed);
         if (!bracketed) name = rest;
         if (name.empty() || (bracketed && !rest.empty())) {
-            throw FieldError("The order has a place without a field's name.");
+            throw FieldError("A field's name is missing in the order.");
         }
         items.push_back({name, descending});
         text = more ? text.substr(comma + 1) : std::string_view();

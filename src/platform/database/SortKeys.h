@@ -20,18 +20,18 @@ struct SortItem {
     bool descending = false;
 };
 
-/// Takes "Field [ASC|DESC], ..." apart; names may stand in square brackets, and may then hold
-/// commas. A FieldError where there is no name.
+/// Takes "Field [ASC|DESC], ..." apart; names may be in square brackets, and may then hold
+/// commas. Throws FieldError if a name is missing.
 std::vector<SortItem> ParseSortText(std::string_view text);
 
-/// A number that orders values of a field of `type`, nulls first. Of a text it tells the first
-/// letters, without regard to case, that stand behind `passed` others.
+/// A number that orders values of a field of `type`, nulls first. For a text it holds the first
+/// letters, ignoring case, that follow `passed` others.
 std::uint64_t SortNumber(const Cell& cell, FieldType type, std::size_t passed);
 
-/// The letters that a number tells.
+/// The letters that a number holds.
 inline constexpr std::size_t kSortLetters = 7;
 
-/// Whether this number may stand for several texts, which differ in later letters.
+/// Whether this number may belong to several texts, which differ in later letters.
 bool IsUndecided(std::uint64_t sortNumber, FieldType type);
 
 } // namespace platform

@@ -12,7 +12,7 @@
 
 namespace platform {
 
-/// What a statement of the dialect compiled to. Row sets keep it for as long as they are open.
+/// The compiled form of a statement of the dialect. Row sets keep it for as long as they are open.
 struct StatementPlan {
     dialect::CompiledStatement compiled;
     /// Tells this plan from every other of the connection.
@@ -31,7 +31,7 @@ class StatementCache {
   public:
     explicit StatementCache(std::size_t capacity) : capacity_(capacity) {}
 
-    /// Null when there is none. What it points to stays until `capacity` others were added.
+    /// Null if there is none. The statement stays until `capacity` others were added.
     CachedStatement* Find(std::string_view key);
     CachedStatement& Add(std::string_view key, CachedStatement statement);
     void Clear();

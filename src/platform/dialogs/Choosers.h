@@ -21,7 +21,7 @@ struct FileQuestion {
     std::vector<FileFilter> filters;
 };
 
-/// How a file, a folder or a colour is chosen. Nothing when the person cancels.
+/// How a file, a folder or a colour is chosen. Empty if the user cancels.
 class Choosers {
   public:
     virtual ~Choosers() = default;

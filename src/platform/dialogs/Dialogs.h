@@ -8,8 +8,8 @@ namespace platform {
 
 enum class Icon { None, Information, Question, Exclamation, Critical };
 
-/// What the logic may ask of the person before the screen. Under test it answers from a script and
-/// keeps what was said.
+/// The messages and questions that the logic may put to the user. Under test it answers from a
+/// script and keeps what was said.
 class Dialogs {
   public:
     virtual ~Dialogs() = default;

@@ -69,6 +69,8 @@ void OutputFile::Write(std::string_view bytes) {
 void OutputFile::Commit() {
     if (std::fflush(file_) != 0) Fail();
     if (draft_.empty()) return;
+    // On the disk before it takes the name: a power cut must not leave a part of it.
+    if (fdatasync(fileno(file_)) != 0) Fail();
     if (std::fclose(std::exchange(file_, nullptr)) != 0) Fail();
     if (rename(draft_.c_str(), path_.c_str()) != 0) Fail();
     draft_.clear();

@@ -98,7 +98,7 @@ class JsonRegistry : public Registry {
         return values != nullptr ? Member(*values, name) : nullptr;
     }
 
-    // Brings contents_ up to what stands in the file; empty unless the file is sound.
+    // Reads the file into contents_; empty unless the file is sound.
     void Load() {
         struct stat now {};
         if (stat(file_.c_str(), &now) != 0) {
@@ -138,7 +138,7 @@ class JsonRegistry : public Registry {
             Json& values = MemberForWriting(changed, key);
             if (!values.is_object()) values = Json::object();
             MemberForWriting(values, name) = std::move(value);
-            // A text that is no UTF-8 fails here, before anything is touched.
+            // Text that isn't UTF-8 fails here, before anything is touched.
             const std::string text = changed.dump(2) + "\n";
             if (state_ == State::Damaged) {
                 fs::copy_file(file_, file_.string() + ".damaged",

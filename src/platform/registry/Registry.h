@@ -15,7 +15,7 @@ class Registry {
   public:
     virtual ~Registry() = default;
 
-    /// Nothing when the value is missing, of the other type, or the store can't be read.
+    /// Empty if the value is missing, of the other type, or the store can't be read.
     virtual std::optional<std::string> ReadText(std::string_view key, std::string_view name) = 0;
     virtual std::optional<std::int32_t> ReadNumber(std::string_view key, std::string_view name) = 0;
 
@@ -29,7 +29,7 @@ class Registry {
 /// before the first write replaces it.
 std::unique_ptr<Registry> OpenJsonRegistry(std::filesystem::path file);
 
-/// The registry in memory alone, for tests.
+/// A registry that exists only in memory, for tests.
 std::unique_ptr<Registry> MakeMemoryRegistry();
 
 /// The registry of this process: `registry.json` below the configuration home until SetRegistry

@@ -12,7 +12,7 @@ Date Today();
 /// Seconds since midnight, with fractions, local time.
 double SecondOfDay();
 
-/// Sets the day that Today answers from now on; nothing sets it back to the system's.
+/// Sets the day that Today returns from now on; an empty one returns to the system's.
 void SetToday(std::optional<Date> day);
 
 } // namespace platform

@@ -49,7 +49,7 @@ bool WriteAll(int file, std::string_view contents) {
     return true;
 }
 
-// The file that a link stands for, so that the link itself stays.
+// The file that a link points to, so that the link itself stays.
 fs::path Target(const fs::path& file) {
     std::error_code failure;
     if (!fs::is_symlink(file, failure)) return file;
@@ -64,7 +64,7 @@ void WriteFileAtomically(const fs::path& file, std::string_view contents, fs::pe
     std::string draft = target.string() + ".XXXXXX";
     const Descriptor out(mkostemp(draft.data(), O_CLOEXEC));
     if (!out.IsOpen()) Fail("write", file, errno);
-    // On the disk before it takes the name: a power cut must not leave an empty file behind.
+    // On the disk before it takes the name: a power cut must not leave an empty file.
     if (!WriteAll(out.Number(), contents) || fchmod(out.Number(), static_cast<mode_t>(mode)) != 0 ||
         fsync(out.Number()) != 0 || rename(draft.c_str(), target.c_str()) != 0) {
         const int reason = errno;

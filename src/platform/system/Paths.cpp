@@ -29,7 +29,7 @@ fs::path BaseDirectory(const char* variable, const char* standard) {
 }
 
 bool Matches(std::string_view name, std::string_view pattern) {
-    // Where the last `*` stands, and what of the name it has swallowed so far.
+    // The place of the last `*`, and the part of the name that it has matched so far.
     std::size_t star = std::string_view::npos;
     std::size_t swallowed = 0;
     std::size_t n = 0;

@@ -12,7 +12,7 @@ namespace platform {
 /// `path` with the separator appended if its last character isn't one.
 std::string AddBackslash(std::string_view path);
 
-/// The text up to and including the last separator; as it stands if it ends in one, empty if it
+/// The text up to and including the last separator; unchanged if it ends in one, empty if it
 /// holds none.
 std::string PathOf(std::string_view file);
 

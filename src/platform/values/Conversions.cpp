@@ -37,7 +37,7 @@ void PutDecimals(char* place, std::uint64_t decimals) {
 double StrToDouble(std::string_view text) {
     if (const auto number = TryParseNumber(text)) return *number;
     if (Trim(text).empty()) return 0;
-    throw ConversionError("\"" + std::string(text) + "\" is no number.");
+    throw ConversionError("\"" + std::string(text) + "\" is not a number.");
 }
 
 float StrToSingle(std::string_view text) {

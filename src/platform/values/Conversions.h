@@ -11,7 +11,7 @@ namespace platform {
 
 // Conversions that tolerate empty input: a blank text is 0. Any other text converts as numbers are
 // written by people: blanks around it, a sign, thousands commas, a leading "$", parentheses for
-// negative, an exponent. Junk is a ConversionError, a number too large an OverflowError.
+// negative, an exponent. Junk throws ConversionError, a number too large OverflowError.
 // Fractions round half to even where a whole number is asked for.
 double StrToDouble(std::string_view text);
 float StrToSingle(std::string_view text);

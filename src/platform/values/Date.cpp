@@ -43,7 +43,7 @@ void PutDigits(char* place, unsigned number, int digits) {
 
 Date::Date(int year, unsigned month, unsigned day) {
     const auto date = year < 0 ? std::nullopt : FromParts(static_cast<unsigned>(year), month, day);
-    if (!date) throw ConversionError("There is no such day.");
+    if (!date) throw ConversionError("There is no such date.");
     *this = *date;
 }
 
@@ -80,7 +80,7 @@ std::optional<Date> Date::TryParse(std::string_view text) {
 Date Date::Parse(std::string_view text) {
     if (const auto date = TryParse(text)) return *date;
     if (Trim(text).empty()) return {};
-    throw ConversionError("\"" + std::string(text) + "\" is no date.");
+    throw ConversionError("\"" + std::string(text) + "\" is not a valid date.");
 }
 
 Date Date::FromSerial(int serial) {

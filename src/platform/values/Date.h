@@ -13,14 +13,14 @@ class Date {
   public:
     /// Unset.
     constexpr Date() = default;
-    /// The day itself; a day that no calendar holds (2/30) is a ConversionError.
+    /// The day itself. Throws ConversionError if the calendar has no such day (2/30).
     Date(int year, unsigned month, unsigned day);
 
-    /// Reads "mm/dd/yyyy" (leading zeros may be missing, "-" may stand for "/") and "yyyy-mm-dd".
-    /// Years of one or two digits are those of 1930 to 2029. Nothing for a text that is no day; a
-    /// blank text is no day either.
+    /// Reads "mm/dd/yyyy" (leading zeros may be missing, "-" may replace "/") and "yyyy-mm-dd".
+    /// Years of one or two digits are in 1930 to 2029. Empty if the text isn't a valid date; a
+    /// blank text isn't one either.
     static std::optional<Date> TryParse(std::string_view text);
-    /// As TryParse; a blank text is the unset date, any other text that is no day a
+    /// As TryParse; a blank text is the unset date, any other text that isn't a valid date throws
     /// ConversionError.
     static Date Parse(std::string_view text);
     /// The day whose serial number this is; see Serial. Outside the calendar an OverflowError.
@@ -30,7 +30,7 @@ class Date {
     int Year() const { return static_cast<int>(Calendar().year()); }
     unsigned Month() const { return static_cast<unsigned>(Calendar().month()); }
     unsigned Day() const { return static_cast<unsigned>(Calendar().day()); }
-    /// Year, month and day at once.
+    /// Year, month and day together.
     std::chrono::year_month_day Calendar() const {
         return std::chrono::sys_days(std::chrono::days(Serial() - kUnixSerial));
     }
@@ -38,7 +38,7 @@ class Date {
     unsigned Weekday() const;
 
     /// Days since 12/30/1899, the number that the SQL dialect reckons dates by.
-    /// A ConversionError for the unset date, like every reading but IsSet and ToText.
+    /// Throws ConversionError if the date is unset, like every reading but IsSet and ToText.
     int Serial() const {
         if (!IsSet()) ThrowUnset();
         return serial_;

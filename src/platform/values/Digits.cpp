@@ -24,7 +24,7 @@ bool Take(std::string_view& text, char wanted) {
     return true;
 }
 
-// "(", "-", "+" and "$" in front, ")" behind. What is left begins with the number itself.
+// "(", "-", "+" and "$" before it, ")" after it. The rest begins with the number itself.
 bool TakeSigns(std::string_view& text, bool& negative) {
     if (Take(text, '(')) {
         if (text.empty() || text.back() != ')') return false;

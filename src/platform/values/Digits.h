@@ -13,7 +13,7 @@ namespace platform {
 struct Digits {
     bool negative = false;
     std::string digits;       ///< without zeros at either end; empty for 0
-    std::int64_t pointAt = 0; ///< where the point stands, counted from the first digit
+    std::int64_t pointAt = 0; ///< the place of the point, counted from the first digit
 };
 
 /// The digits of a number in its shortest form, and of an amount of money. The number is finite.

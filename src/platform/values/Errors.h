@@ -6,13 +6,13 @@
 
 namespace platform {
 
-/// What every failure that the program foresees is thrown as; `what()` is one line for a person.
+/// The base of every failure that the program foresees; `what()` is one line for the user.
 class Error : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
 
-/// A text that is no number, amount or day, or a value read as what it is not.
+/// Text that isn't a number, an amount or a date, or a value read as a type that it doesn't have.
 class ConversionError : public Error {
   public:
     using Error::Error;
@@ -24,7 +24,7 @@ class OverflowError : public Error {
     using Error::Error;
 };
 
-/// A field that is missing from a row set, or holds what was not asked for; the text names it.
+/// A field that is missing from a row set, or can't be read or written as asked; the text names it.
 class FieldError : public Error {
   public:
     using Error::Error;
@@ -41,7 +41,7 @@ class DatabaseError : public Error {
     int code_;
 };
 
-/// A row that has gone or was changed by somebody else since it was read.
+/// A row that was deleted or changed by somebody else since it was read.
 class ConflictError : public DatabaseError {
   public:
     using DatabaseError::DatabaseError;
@@ -51,7 +51,7 @@ class ConflictError : public DatabaseError {
 class DialectError : public DatabaseError {
   public:
     /// `position` is the 0-based offset of the fault in the statement's text; the text of the error
-    /// already tells the place.
+    /// already says the place.
     DialectError(const std::string& text, std::size_t position)
         : DatabaseError(text), position_(position) {}
     std::size_t Position() const { return position_; }

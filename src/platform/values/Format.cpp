@@ -23,7 +23,7 @@ void PutNumber(std::string& out, unsigned number, std::size_t width) {
     out += digits;
 }
 
-// A run of one letter of a date format; false when it stands for nothing.
+// A run of one letter of a date format; false if it has no meaning.
 bool PutDatePart(std::string& out, Date date, char letter, std::size_t count) {
     if (letter == 'm' && count <= 4) {
         const std::string_view name = kMonths[date.Month() - 1];

@@ -15,10 +15,10 @@ inline constexpr std::string_view kDateFormat = "mm/dd/yyyy";
 
 /// A number by a number format: `0` a digit always shown, `#` one shown where it matters, `,`
 /// between digits groups by thousands, `.` the decimal point (shown even if no decimal follows),
-/// `%` times 100, anything in quotes, after a backslash or not of the format as it stands; sections
-/// for positive, negative, zero and null parted by `;`, an empty one standing for the first. What
-/// rounds to zero is shown as zero is. Halves round away from zero on the exact decimal value, for
-/// a double that of its shortest form. Of the named formats "Currency", "Fixed", "Standard",
+/// `%` times 100, anything in quotes, after a backslash or not of the format unchanged; sections
+/// for positive, negative, zero and null separated by `;`, an empty one standing for the first.
+/// What rounds to zero is shown as zero is. Halves round away from zero on the exact decimal value,
+/// for a double the shortest text. Of the named formats "Currency", "Fixed", "Standard",
 /// "Percent", "Yes/No" and "True/False" are known.
 std::string FormatNumber(double number, std::string_view format);
 std::string FormatNumber(Currency amount, std::string_view format);

@@ -22,8 +22,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 9> kNamed = 
     {"Long Date", "dddd, mmmm dd, yyyy"},
 }};
 
-// Steps through a format, one character at a time; IsLiteral tells of the character at hand whether
-// it stands in quotes or behind a backslash. The quotes and backslashes themselves are passed over.
+// Steps through a format, one character at a time; IsLiteral says of the current character whether
+// it is in quotes or after a backslash. The quotes and backslashes themselves are skipped.
 class FormatReader {
   public:
     explicit FormatReader(std::string_view format) : format_(format) {}
@@ -50,7 +50,7 @@ class FormatReader {
     bool IsLiteral() const { return literal_; }
     bool Is(char c) const { return !literal_ && character_ == c; }
     bool IsPlaceholder() const { return Is('0') || Is('#'); }
-    /// Where the character behind the one at hand begins.
+    /// The place where the next character begins.
     std::size_t Position() const { return at_; }
 
   private:
@@ -65,7 +65,7 @@ class FormatReader {
 struct Layout {
     std::int64_t whole = 0;         // places before the point
     std::int64_t wholeShown = 0;    // of them from the first `0` on
-    std::int64_t decimals = 0;      // places behind the point
+    std::int64_t decimals = 0;      // places after the point
     std::int64_t decimalsShown = 0; // of them up to the last `0`
     std::int64_t percents = 0;
     bool grouped = false;

@@ -7,17 +7,17 @@
 
 namespace platform {
 
-/// The `index`th of the sections that `;` parts, 0 the first; empty where there is none. A `;` in
-/// quotes or after a backslash parts nothing.
+/// The `index`th of the sections that `;` separates, 0 the first; empty if there are fewer. A `;`
+/// in quotes or after a backslash parts nothing.
 std::string_view FormatSection(std::string_view format, int index);
 
-/// The format that a name such as "Fixed" stands for, else the format itself.
+/// The format of a name such as "Fixed", else the format itself.
 std::string_view NamedFormat(std::string_view format);
 
 /// True when the section shows digits, that is, holds `0` or `#` outside quotes.
 bool ShowsDigits(std::string_view section);
 
-/// A number by a number format, as FormatNumber tells.
+/// A number by a number format, as FormatNumber describes.
 std::string FormatDigits(const Digits& number, std::string_view format);
 
 } // namespace platform

@@ -10,7 +10,7 @@ namespace platform {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n\f\v";
-// What a byte that is no UTF-8 counts as: beyond every character, in the order of the bytes.
+// A byte that isn't UTF-8 counts as this: beyond every character, in the order of the bytes.
 constexpr char32_t kStrayByte = 0x11'0000;
 
 bool IsAscii(char c) {
@@ -74,7 +74,7 @@ void PutCharacter(std::string& out, char32_t character) {
     }
 }
 
-// The letters of all scripts, whatever locale the process runs in; ASCII alone where the C library
+// The letters of all scripts, whatever locale the process runs in; only ASCII if the C library
 // lacks them.
 locale_t Letters() {
     static const locale_t letters = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);

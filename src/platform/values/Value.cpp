@@ -17,14 +17,14 @@ concept Whole =
     std::same_as<T, bool> || std::same_as<T, std::int16_t> || std::same_as<T, std::int32_t>;
 
 [[noreturn]] void ThrowNull() {
-    throw ConversionError("A null has no value.");
+    throw ConversionError("The value is empty.");
 }
 
 [[noreturn]] void ThrowJunk(const std::string& text, const char* wanted) {
-    throw ConversionError("\"" + text + "\" is no " + wanted + ".");
+    throw ConversionError("\"" + text + "\" is not " + wanted + ".");
 }
 
-// The number that a value stands for, but for money, which its callers take exactly.
+// The number of a value, except for money, which its callers take exactly.
 struct ToNumber {
     double operator()(std::monostate) const { ThrowNull(); }
     double operator()(Whole auto value) const { return value; }
@@ -33,7 +33,7 @@ struct ToNumber {
     double operator()(Date value) const { return value.Serial(); }
     double operator()(const std::string& text) const {
         if (const auto number = TryParseNumber(text)) return *number;
-        ThrowJunk(text, "number");
+        ThrowJunk(text, "a number");
     }
 };
 
@@ -45,7 +45,7 @@ struct ToMoney {
     Currency operator()(Date value) const { return Currency::FromUnits(value.Serial()); }
     Currency operator()(const std::string& text) const {
         if (const auto amount = TryParseMoney(text)) return *amount;
-        ThrowJunk(text, "amount of money");
+        ThrowJunk(text, "an amount of money");
     }
 };
 

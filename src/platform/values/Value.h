@@ -47,7 +47,7 @@ class Value {
 
     // Readings convert as the field types convert: a number from a text that is one, a text from
     // anything; True counts as 1, a date as its serial number. A null, or a text that does not
-    // convert, is a ConversionError; a number out of range an OverflowError; halves round to even.
+    // convert, throws ConversionError; a number out of range OverflowError; halves round to even.
     /// Any number but 0 is true; of texts only "True", "False" and numbers convert.
     bool AsBoolean() const;
     std::int16_t AsInteger() const;

@@ -78,7 +78,7 @@ TEST_F(ConnectionTest, MakesAPrivateFileAndNeverOverAnother) {
     EXPECT_EQ(fs::status(File()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     AddPerson(1, "Ann");
     EXPECT_EQ(OpenError(File(), OpenMode::Create),
-              "Cannot make " + File().string() + ": it is there already");
+              "Cannot make " + File().string() + ": it already exists");
     EXPECT_EQ(Single("SELECT Name FROM Person"), "Ann");
     EXPECT_NE(OpenError(folder_ / "no" / "where", OpenMode::Create), "no error");
 }
@@ -139,7 +139,7 @@ TEST_F(ConnectionTest, SaysInPlainWordsWhatWentWrong) {
               "The database file can't be read or written: Input/output error."},
              {SQLITE_READONLY_DIRECTORY, 0, "These books can only be read."},
              {SQLITE_CORRUPT_VTAB, 0, "The database file is damaged: the engine's words."},
-             // A stale errno is not the reason of a failure that is none of the disk's.
+             // A stale errno isn't the reason of a failure that has nothing to do with the disk.
              {SQLITE_CONSTRAINT, ENOSPC, "the engine's words"},
          }) {
         EXPECT_EQ(DescribeEngineFailure(each.code, each.systemError, "the engine's words"),

@@ -29,7 +29,7 @@ class DatabaseFixture : public testing::Test {
     Connection connection_;
 };
 
-/// Runs `action`, which must fail as a DatabaseError (or one of its kinds), and answers what the
+/// Runs `action`, which must throw a DatabaseError (or one of its kinds), and returns what the
 /// error says.
 template <typename Action>
 std::string ErrorOf(Action action) {

@@ -111,7 +111,7 @@ TEST_F(RecordsetEditTest, WritesOnlyWhatWasChangedSoThatUnreadFieldsMayDiffer) {
     rows_.Update();
     EXPECT_EQ(Stored(1, "Name"), "Ann");
     EXPECT_EQ(Stored(1, "Age"), "44");
-    // Set back to what is held: nothing to write, even where the row has gone.
+    // Set back to what is held: nothing to write, even if the row was deleted.
     rows_["Name"].Set("Bob");
     rows_["Name"].Set("Ann");
     connection_.Execute("DELETE * FROM Person WHERE Id = 1");
@@ -183,7 +183,7 @@ TEST_F(RecordsetEditTest, ANewRowBelongsToTheRowSetWithTheTablesDefaults) {
     towns.AddNew();
     towns["Name"].Set(Value());
     towns.Update();
-    EXPECT_TRUE(towns["Name"].IsNull()) << "a null that was set is no default";
+    EXPECT_TRUE(towns["Name"].IsNull()) << "a null that was set is not replaced by the default";
     towns.AddNew();
     towns.Update();
     EXPECT_EQ(towns.RecordCount(), 3);
@@ -274,7 +274,7 @@ TEST_F(RecordsetEditTest, AUnitThatIsTakenBackTakesUpdatesWithIt) {
     }
     EXPECT_EQ(Stored(1, "Name"), "Person 1");
     rows_["Name"].Set("Bob");
-    EXPECT_THROW(rows_.Update(), ConflictError) << "the row set still shows what was taken back";
+    EXPECT_THROW(rows_.Update(), ConflictError) << "the row set still shows what was rolled back";
 }
 
 } // namespace

@@ -91,7 +91,7 @@ TEST_F(RecordsetTest, AFieldSpeaksOfTheRowThatIsCurrent) {
     EXPECT_TRUE(name.IsBlank());
 }
 
-// What stands in a file that another tool wrote, field by field.
+// The contents of a file that another tool wrote, field by field.
 TEST_F(RecordsetTest, ReadsValuesThatAreStoredInAnotherForm) {
     connection_.RunScript(
         "INSERT INTO Person (Id, Name, Age, Weight, Balance, Active) "

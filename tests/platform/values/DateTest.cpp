@@ -13,7 +13,7 @@ namespace {
 TEST(Date, ReadsTheWaysADayIsWritten) {
     struct Case {
         const char* text;
-        const char* day; // empty: it is none
+        const char* day; // empty: not a valid date
     };
     const Case cases[] = {
         {"02/29/2024", "02/29/2024"},

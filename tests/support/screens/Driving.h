@@ -30,13 +30,13 @@ void TypeAndTab(QWidget& form, std::string_view text);
 /// Clicks the button whose word ("APPLY", "CLOSE", ...) its tag holds.
 void ClickAction(const QWidget& form, std::string_view word);
 void ClickOn(QWidget& control);
-/// Chooses an item of a combo box as a person does.
+/// Chooses an item of a combo box as a user does.
 void Choose(const QWidget& form, const char* combo, std::string_view text);
 
 /// Lets events run until none is left, deletions among them.
 void SettleEvents();
 
-/// Captions and cells of the columns that show, cells parted by "|", a line each.
+/// Captions and cells of the columns that show, cells separated by "|", a line each.
 std::string GridText(const core::grid::Grid& grid);
 
 } // namespace support

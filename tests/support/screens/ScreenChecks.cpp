@@ -36,7 +36,7 @@ bool IsEntry(const QWidget& control) {
            qobject_cast<const QPlainTextEdit*>(&control);
 }
 
-/// Whether `b` stands before `a` for a reader: higher by more than half a line, or left of it.
+/// Whether `b` comes before `a` for a reader: higher by more than half a line, or left of it.
 bool IsBefore(const QWidget& b, const QWidget& a, const QWidget& screen) {
     const QPoint first = b.mapTo(&screen, QPoint(0, b.height() / 2));
     const QPoint second = a.mapTo(&screen, QPoint(0, a.height() / 2));

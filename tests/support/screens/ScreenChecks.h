@@ -6,9 +6,9 @@
 
 namespace support {
 
-// What holds for every screen; each answers the faults it finds.
+// Rules for every screen; each returns the faults it finds.
 
-/// Two controls that show at once with the same letter to jump to, and letters that jump nowhere.
+/// Two controls that show together with the same letter to jump to, and letters that jump nowhere.
 std::vector<std::string> MnemonicFaults(const QWidget& screen);
 
 /// Controls that the Tab key reaches out of reading order: from top to bottom, then left to right.

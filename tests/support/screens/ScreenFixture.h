@@ -14,7 +14,7 @@ class ScreenTest : public tests::CoreRecords {
 
     /// What was said, "title: text" each, since the last call.
     std::vector<std::string> Heard();
-    /// The person answers the next questions so; No after that.
+    /// The user answers the next questions so; No after that.
     void Answer(std::deque<bool> answers);
 
   private:

@@ -35,7 +35,7 @@ BoundPtr Binder::BindSum(const Expression& expression, BoundPtr left, BoundPtr r
         return value.IsText() && !value.IsTextLiteral();
     };
     if (isField(*left) || isField(*right)) {
-        Fault(expression.position, "'+' can't add a text and what is none; '&' joins them");
+        Fault(expression.position, "'+' can't add text to a number; use '&' to join them");
     }
     return BindArithmetic(expression, std::move(left), std::move(right));
 }
@@ -82,7 +82,8 @@ BoundPtr Binder::BindDateArithmetic(const Expression& expression, BoundPtr left,
     const std::string_view symbol = expression.text;
     const bool both = left->Is(FieldType::Date) && right->Is(FieldType::Date);
     if (!IsSumSymbol(symbol) || (both && symbol == "+")) {
-        Fault(expression.position, "Days can be added to a date, and dates subtracted; no more");
+        Fault(expression.position,
+              "Only days can be added to a date, and only a date or days subtracted from it");
     }
     const FieldType type = both ? FieldType::Long : FieldType::Date;
     left = ToNumber(std::move(left));

@@ -31,7 +31,7 @@ BoundPtr Binder::Bind(const Expression& expression) {
         case ExpressionKind::Column:
             return BindColumn(expression);
         case ExpressionKind::Star:
-            Fault(position, "'*' stands for no single value");
+            Fault(position, "'*' can't be used as a value");
         case ExpressionKind::Function:
             return BindFunction(expression);
         case ExpressionKind::Negate:
@@ -75,7 +75,7 @@ BoundPtr Binder::BindNumber(const Expression& expression) const {
 
 BoundPtr Binder::BindDate(const Expression& expression) const {
     const auto date = Date::TryParse(expression.text);
-    if (!date) Fault(expression.position, fmt::format("#{}# is no date", expression.text));
+    if (!date) Fault(expression.position, fmt::format("#{}# is not a valid date", expression.text));
     return MakeNumber(std::to_string(date->Serial()), FieldType::Date, expression.position);
 }
 

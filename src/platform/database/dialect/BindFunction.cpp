@@ -45,7 +45,8 @@ BoundPtr Binder::BindFunction(const Expression& expression) {
     std::string_view clause = rowClause_;
     if (function->kind == FunctionKind::Aggregate) {
         if (!clause.empty()) {
-            Fault(expression.position, fmt::format("{} can't stand in {}", function->name, clause));
+            Fault(expression.position,
+                  fmt::format("{} is not allowed in {}", function->name, clause));
         }
         scope_->hasAggregate = true;
         clause = function->name;

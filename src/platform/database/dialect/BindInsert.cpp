@@ -14,7 +14,7 @@ void Binder::BindInsert(const Statement& statement, BoundStatement& bound) {
         for (const Assignment& assignment : statement.assignments) {
             const Column& field = FindField(table, assignment);
             if (std::ranges::find(fields, &field) != fields.end()) {
-                Fault(assignment.position, fmt::format("Field '{}' stands twice", field.name));
+                Fault(assignment.position, fmt::format("Field '{}' is given twice", field.name));
             }
             fields.push_back(&field);
         }

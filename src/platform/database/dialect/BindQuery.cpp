@@ -19,7 +19,7 @@ std::unique_ptr<BoundQuery> Binder::BindQuery(const Query& query, Targets target
         scope_ = &scope;
         bound->selects.push_back(BindSelect(select));
         if (bound->selects.back().items.size() != bound->selects[0].items.size()) {
-            Fault(select.position, "The parts of a union need as many columns each");
+            Fault(select.position, "All parts of a UNION must have the same number of columns");
         }
     }
     if (targets.empty()) {
@@ -103,7 +103,7 @@ std::size_t Binder::OrderColumn(const Expression& expression, const BoundQuery& 
 std::unique_ptr<BoundQuery> Binder::BindColumnQuery(const Expression& expression) {
     std::unique_ptr<BoundQuery> query = BindQuery(*expression.query);
     if (query->columns.size() != 1) {
-        Fault(expression.position, "A query that stands for a value needs one column");
+        Fault(expression.position, "A query used as a value must have one column");
     }
     return query;
 }

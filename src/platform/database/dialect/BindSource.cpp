@@ -50,7 +50,7 @@ void Binder::AddToScope(const ScopeSource& source, std::size_t position) {
     const bool known = std::ranges::any_of(scope_->sources, [&](const ScopeSource& other) {
         return EqualIgnoringCase(other.alias, source.alias);
     });
-    if (known) Fault(position, fmt::format("'{}' stands in FROM twice", source.alias));
+    if (known) Fault(position, fmt::format("'{}' appears twice in FROM", source.alias));
     scope_->sources.push_back(source);
 }
 

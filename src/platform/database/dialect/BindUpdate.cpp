@@ -17,7 +17,7 @@ void Binder::BindUpdate(const Statement& statement, BoundStatement& bound) {
     for (const Assignment& assignment : statement.assignments) {
         const Column& field = FindField(table, assignment);
         if (std::ranges::find(bound.columns, field.name) != bound.columns.end()) {
-            Fault(assignment.position, fmt::format("Field '{}' stands twice", field.name));
+            Fault(assignment.position, fmt::format("Field '{}' is given twice", field.name));
         }
         bound.columns.push_back(field.name);
         bound.values.push_back(ToType(Bind(*assignment.value), field.type, field.name));

@@ -19,7 +19,7 @@ struct ScopeSource {
     const std::vector<ResultColumn>* columns = nullptr;
 };
 
-/// The names of one SELECT, within those of the queries around it.
+/// The names of one SELECT, within the names of the queries around it.
 struct Scope {
     std::vector<ScopeSource> sources;
     /// The first of them that names can mean: those before a join are not known to its ON.
@@ -113,7 +113,7 @@ class Binder {
     BoundPtr ToExactMoney(BoundPtr value) const;
     /// Gives a parameter or null its type, where it has none yet.
     void TellType(BoundExpression& value, FieldType type);
-    /// A literal of a number, as a text that may be one; a fault if it is none.
+    /// A literal of a number, from text that may be one. Throws DialectError if it isn't.
     BoundPtr NumberOfLiteral(const BoundExpression& literal, std::string_view field) const;
     [[noreturn]] void CannotHold(const BoundExpression& value, std::string_view field,
                                  std::string_view wanted) const;
@@ -122,7 +122,7 @@ class Binder {
     const Catalog& catalog_;
     std::vector<std::optional<FieldType>> parameters_;
     Scope* scope_ = nullptr;
-    /// Where an aggregate can't stand: the clause that is being bound; empty where it can.
+    /// The clause being bound if it can't hold an aggregate; empty if it can.
     std::string_view rowClause_;
 
     friend class RowClause;

@@ -36,7 +36,7 @@ enum class BoundKind : std::uint8_t {
     InQuery,
     Exists,
     Subquery,
-    Call, ///< function `text` of the operands; the star of Count is no operand
+    Call, ///< function `text` of the operands; the star of Count is not an operand
     Cast, ///< to the engine's type `text`
     Case, ///< conditions and values by turns, then what else
 };
@@ -48,7 +48,7 @@ struct BoundExpression {
     bool ignoresCase = false;
     /// Whole numbers that were reckoned with may have outgrown their type.
     bool isReckoned = false;
-    /// None for NULL, and for a parameter whose place hasn't told its type yet.
+    /// None for NULL, and for a parameter whose type isn't known yet.
     std::optional<FieldType> type;
     /// 0-based number of a parameter.
     std::size_t parameter = 0;
@@ -117,7 +117,7 @@ struct BoundQuery {
     std::vector<bool> keepsEqualRows;
     std::vector<ResultColumn> columns;
     std::vector<BoundOrder> orderBy;
-    /// Whether its rows are those of its one table, so that they can be written back.
+    /// Whether its rows belong to its one table, so that they can be written back.
     bool writable = false;
 };
 
@@ -132,7 +132,7 @@ struct BoundStatement {
 };
 
 /// What the columns of a derived table are called by the engine, counted from 1: their own names
-/// may stand twice.
+/// may appear twice.
 std::string NumberedName(std::size_t column);
 /// What a derived table without a name is called, and the rows of a union where an expression
 /// orders them.

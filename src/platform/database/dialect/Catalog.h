@@ -35,7 +35,7 @@ class Catalog {
     std::unordered_map<std::string, std::size_t> index_;
 };
 
-/// The field type that a declared column type of the schema stands for; text for one it doesn't
+/// The field type of a declared column type of the schema; text for one it doesn't
 /// know. The other way round is the declaration that the schema uses.
 FieldType TypeOfDeclaration(std::string_view declared);
 std::string_view DeclarationOf(FieldType type);

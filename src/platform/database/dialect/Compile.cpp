@@ -6,7 +6,7 @@ namespace platform::dialect {
 
 namespace {
 
-/// What the result columns stand for in the table that the rows are of.
+/// The fields that the result columns stand for in the table that the rows belong to.
 std::vector<std::string> SourcesOf(const BoundSelect& select) {
     std::vector<std::string> sources;
     sources.reserve(select.items.size());

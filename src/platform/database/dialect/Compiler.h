@@ -25,16 +25,16 @@ struct CompiledStatement {
     /// For each `?` in order: the type that its place asks for, which a bound value is converted
     /// to.
     std::vector<FieldType> parameters;
-    /// The one table that the rows of a select stand for, empty when they can't be written back (a
+    /// The one table that the rows of a select belong to, empty if they can't be written back (a
     /// join, a grouping, DISTINCT, UNION). Then the engine's statement yields the row's number as a
-    /// further, last column, and `sources[i]` names the table's column behind result column i
+    /// further, last column, and `sources[i]` names the table's column of result column i
     /// (empty for a computed one).
     std::string table;
     std::vector<std::string> sources;
 };
 
 /// Compiles one statement (a final ';' may follow it) against the tables of `catalog`.
-/// A DialectError that says what and where if it has a fault.
+/// Throws DialectError, which says what is wrong and where.
 ///
 /// Stored forms that the engine's SQL reckons with: money scaled by 10,000 as an integer, booleans
 /// 0 and 1, computed dates as day numbers since 12/30/1899 (`Now` with a fraction), stored dates as

@@ -19,7 +19,7 @@ BoundPtr CallFor(std::string_view field, std::string_view function, FieldType ty
     return MakeCall(function, type, std::move(value), MakeText(std::string(field), 0));
 }
 
-/// Nothing for a number too large either.
+/// Empty also for a number that is too large.
 std::optional<double> ParseNumber(std::string_view text) {
     try {
         return TryParseNumber(text);
@@ -45,7 +45,7 @@ void Binder::CannotHold(const BoundExpression& value, std::string_view field,
                         std::string_view wanted) const {
     const bool quoted = value.IsTextLiteral();
     const std::string shown = quoted ? fmt::format("'{}'", value.text) : value.text;
-    if (field.empty()) Fault(value.position, fmt::format("{} is no {}", shown, wanted));
+    if (field.empty()) Fault(value.position, fmt::format("{} is not {}", shown, wanted));
     Fault(value.position, fmt::format("{} can't hold {}", field, shown));
 }
 
@@ -72,7 +72,7 @@ BoundPtr Binder::ToType(BoundPtr value, FieldType type, std::string_view field) 
 
 BoundPtr Binder::NumberOfLiteral(const BoundExpression& literal, std::string_view field) const {
     const auto number = ParseNumber(literal.text);
-    if (!number) CannotHold(literal, field, "number");
+    if (!number) CannotHold(literal, field, "a number");
     const bool whole = *number == std::trunc(*number) &&
                        std::fabs(*number) <= std::numeric_limits<std::int32_t>::max();
     std::string text = NumberToText(*number);
@@ -146,7 +146,7 @@ BoundPtr Binder::ToMoney(BoundPtr value, std::string_view field) {
     if (value->IsNumberLiteral() || value->IsTextLiteral()) {
         try {
             const auto amount = TryParseMoney(value->text);
-            if (!amount) CannotHold(*value, field, "amount of money");
+            if (!amount) CannotHold(*value, field, "an amount of money");
             return MakeNumber(std::to_string(amount->Scaled()), FieldType::Currency,
                               value->position);
         } catch (const OverflowError& error) {
@@ -196,7 +196,7 @@ BoundPtr Binder::ToDate(BoundPtr value) {
             return MakeBound(BoundKind::Null, FieldType::Date, {}, value->position);
         }
         const auto date = Date::TryParse(value->text);
-        if (!date) CannotHold(*value, {}, "date");
+        if (!date) CannotHold(*value, {}, "a valid date");
         return MakeNumber(std::to_string(date->Serial()), FieldType::Date, value->position);
     }
     if (value->IsText()) return MakeCall("vestrel_date", FieldType::Date, std::move(value));

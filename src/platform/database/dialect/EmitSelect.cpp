@@ -11,7 +11,7 @@ bool IsText(FieldType type) {
     return type == FieldType::Text || type == FieldType::Memo;
 }
 
-/// The engine orders a union by its columns alone.
+/// The engine orders a union only by its columns.
 bool NeedsRowsAround(const BoundQuery& query) {
     if (query.selects.size() == 1) return false;
     for (const BoundOrder& order : query.orderBy) {

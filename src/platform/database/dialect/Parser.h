@@ -83,7 +83,7 @@ class Parser {
     int depth_ = 0;
 };
 
-/// Counts what stands nested, so that nonsense can't exhaust the stack.
+/// Counts the nesting, so that nonsense can't exhaust the stack.
 class Parser::Depth {
   public:
     explicit Depth(Parser& parser);

@@ -51,7 +51,7 @@ void AddToSpread(sqlite3_context* context, int, sqlite3_value** arguments) {
     spread->squares += difference * (number - spread->mean);
 }
 
-/// Of a sample: of fewer than two numbers there is none.
+/// Of a sample: fewer than two numbers have no deviation.
 template <bool Root>
 void AnswerSpread(sqlite3_context* context) {
     const auto* spread = static_cast<const Spread*>(sqlite3_aggregate_context(context, 0));

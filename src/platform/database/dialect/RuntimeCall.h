@@ -13,7 +13,7 @@
 namespace platform::dialect {
 
 /// The arguments of one call of a runtime function, and its answer. A function that throws fails
-/// the statement with the error's text; one that sets nothing answers null.
+/// the statement with the error's text; one that sets nothing returns null.
 class RuntimeCall {
   public:
     RuntimeCall(sqlite3_context* context, int count, sqlite3_value** arguments)
@@ -67,8 +67,8 @@ void RunGuarded(sqlite3_context* context, int count, sqlite3_value** arguments) 
     }
 }
 
-/// Adds a function of `count` arguments; one that answers null as soon as an argument is null can
-/// leave that to RunUnlessNull. All of them answer the same to the same throughout one statement,
+/// Adds a function of `count` arguments; one that returns null if any argument is null can
+/// leave that to RunUnlessNull. All of them return the same for the same throughout one statement,
 /// the clock's included.
 template <RuntimeFunction Function>
 void AddFunction(sqlite3* connection, const char* name, int count) {
@@ -82,7 +82,7 @@ void RunUnlessNull(const RuntimeCall& call) {
 }
 
 /// A conversion that failed: "FIELD can't hold ...", where argument 1 names the field that the
-/// value was for, else "... is no WANTED".
+/// value was for, else "... is not WANTED".
 [[noreturn]] void ThrowUnfit(const RuntimeCall& call, std::string_view wanted);
 
 // The functions by what they are about.

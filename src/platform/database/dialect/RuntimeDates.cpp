@@ -56,7 +56,7 @@ void ReadDate(const RuntimeCall& call) {
     const std::string_view text = call.Text(0);
     if (const auto day = StoredDay(text)) return call.Answer(*day);
     if (const auto date = Date::TryParse(text)) return call.Answer(*date);
-    if (!Trim(text).empty()) throw ConversionError(fmt::format("'{}' is no date", text));
+    if (!Trim(text).empty()) throw ConversionError(fmt::format("'{}' is not a valid date", text));
 }
 
 void DateText(const RuntimeCall& call) {
@@ -96,7 +96,7 @@ IntervalWord ReadInterval(std::string_view word) {
     for (const auto& [name, interval] : kWords) {
         if (EqualIgnoringCase(word, name)) return interval;
     }
-    throw ConversionError(fmt::format("'{}' is no interval", word));
+    throw ConversionError(fmt::format("'{}' is not an interval", word));
 }
 
 void DatePart(const RuntimeCall& call) {

@@ -24,7 +24,7 @@ void ThrowUnfit(const RuntimeCall& call, std::string_view wanted) {
     const bool quoted = call.IsText(0);
     const std::string mark = quoted ? "'" : "";
     const std::string shown = mark + std::string(call.Text(0)) + mark;
-    if (call.Count() < 2) throw ConversionError(fmt::format("{} is no {}", shown, wanted));
+    if (call.Count() < 2) throw ConversionError(fmt::format("{} is not {}", shown, wanted));
     throw ConversionError(fmt::format("{} can't hold {}", call.Text(1), shown));
 }
 

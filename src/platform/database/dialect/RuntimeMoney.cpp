@@ -23,7 +23,7 @@ void ReadMoney(const RuntimeCall& call) {
         }
     }
     if (const auto amount = TryParseMoney(call.Text(0))) return call.Answer(*amount);
-    ThrowUnfit(call, "amount of money");
+    ThrowUnfit(call, "an amount of money");
 }
 
 /// Where whole numbers overflow, the engine goes on in doubles: not with money.

@@ -15,10 +15,10 @@ namespace {
 void ReadNumber(const RuntimeCall& call) {
     if (!call.IsText(0)) return call.AnswerArgument(0);
     if (const auto number = TryParseNumber(call.Text(0))) return call.Answer(*number);
-    ThrowUnfit(call, "number");
+    ThrowUnfit(call, "a number");
 }
 
-/// Null for a text that is no number, so that it equals none.
+/// Null for text that isn't a number, so that it equals no number.
 void ReadNumberIf(const RuntimeCall& call) {
     if (!call.IsText(0)) return call.AnswerArgument(0);
     if (const auto number = TryParseNumber(call.Text(0))) call.Answer(*number);
@@ -60,7 +60,7 @@ void BooleanText(const RuntimeCall& call) {
 
 void Power(const RuntimeCall& call) {
     const double power = std::pow(call.Real(0), call.Real(1));
-    if (!std::isfinite(power)) throw OverflowError("The power has no value.");
+    if (!std::isfinite(power)) throw OverflowError("The result isn't a number, or is too large.");
     call.Answer(power);
 }
 void Single(const RuntimeCall& call) {
@@ -68,7 +68,7 @@ void Single(const RuntimeCall& call) {
 }
 
 void Round(const RuntimeCall& call) {
-    constexpr std::int64_t kMostPlaces = 22; // ten to more is no exact double
+    constexpr std::int64_t kMostPlaces = 22; // 10 to a higher power isn't exact
     const std::int64_t places = call.Whole(1);
     if (places < 0) throw ConversionError("Round needs a number of decimals");
     if (call.IsWhole(0)) return call.AnswerArgument(0);

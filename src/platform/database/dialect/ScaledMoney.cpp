@@ -32,7 +32,7 @@ std::string Scaled(const Digits& number) {
 
 BoundPtr Binder::ToExactMoney(BoundPtr value) const {
     const auto digits = ScanDigits(value->text);
-    if (!digits) CannotHold(*value, {}, "amount of money");
+    if (!digits) CannotHold(*value, {}, "an amount of money");
     return MakeNumber(Scaled(*digits), FieldType::Currency, value->position);
 }
 

@@ -49,7 +49,7 @@ struct Expression {
     std::string_view text;
     /// The table in front of a column or star, empty without one.
     std::string_view table;
-    /// Two of a binary operator; of AND, OR and & all that stand in one row.
+    /// Two for a binary operator; for AND, OR and & all in a sequence.
     std::vector<std::unique_ptr<Expression>> operands;
     std::unique_ptr<Query> query;
 };
@@ -125,7 +125,7 @@ struct Statement {
     std::size_t parameters = 0;
 };
 
-/// Reads one statement; a final ';' may follow. A DialectError that says what was expected where.
+/// Reads one statement; a final ';' may follow. Throws DialectError: what was expected, and where.
 Statement Parse(std::string_view text);
 
 /// The text of a text literal, its doubled quotes made single.

@@ -26,7 +26,7 @@ BoundPtr Mid(FunctionCall& call) {
 }
 
 BoundPtr InStr(FunctionCall& call) {
-    // The place to start from stands first where it is given.
+    // The place to start from comes first if it is given.
     const std::size_t text = call.Count() - 2;
     BoundPtr start = text == 1 ? call.Whole(0) : MakeNumber("1", FieldType::Long, 0);
     BoundPtr whole = call.Text(text);

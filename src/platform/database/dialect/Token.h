@@ -19,7 +19,7 @@ struct Token {
     char quote = '\0';
 };
 
-/// Parts a statement into its words; the last is an End. A DialectError for a text, name or date
+/// Splits a statement into its words; the last is an End. Throws DialectError for a text, name or date
 /// that isn't closed and for a letter that no statement has.
 std::vector<Token> Tokenize(std::string_view statement);
 

@@ -76,7 +76,7 @@ class Tokenizer {
         const std::size_t length = LengthOfNumber();
         const std::size_t end = at_ + length;
         if (end < text_.size() && IsNameStart(text_[end])) {
-            ThrowFault(text_, at_, "A number ends in letters");
+            ThrowFault(text_, at_, "A number contains letters");
         }
         Add(TokenKind::Number, length);
     }
@@ -115,7 +115,7 @@ class Tokenizer {
     void AddEnclosed(TokenKind kind, char close, std::string_view unclosed) {
         const std::size_t end = text_.find(close, at_ + 1);
         if (end == std::string_view::npos) ThrowFault(text_, at_, unclosed);
-        if (end == at_ + 1) ThrowFault(text_, at_, "There is nothing between the marks");
+        if (end == at_ + 1) ThrowFault(text_, at_, "There is nothing between the delimiters");
         tokens_.push_back({kind, text_.substr(at_ + 1, end - at_ - 1), at_, '\0'});
         at_ = end + 1;
     }
@@ -124,7 +124,8 @@ class Tokenizer {
         std::size_t end = at_ + 1;
         for (;; ++end) {
             end = text_.find(quote, end);
-            if (end == std::string_view::npos) ThrowFault(text_, at_, "A text is not closed");
+            if (end == std::string_view::npos)
+                ThrowFault(text_, at_, "A text has no closing quote");
             if (end + 1 == text_.size() || text_[end + 1] != quote) break;
             ++end;
         }

@@ -21,8 +21,8 @@ struct SqlCase {
     const char* sql;
 };
 
-// What the engine's planner must find in its plain form to use an index, and what it must find
-// bracketed to mean the same.
+// The conditions that the engine's planner must find in plain form to use an index, and what it
+// must find bracketed to mean the same.
 TEST(Compile, EmitsPlainConditionsWithNoMoreParenthesesThanNeeded) {
     constexpr SqlCase kCases[] = {
         {"DELETE * FROM Pay WHERE (((Id = 5)))", R"(DELETE FROM "Pay" WHERE "Pay"."Id" = 5)"},

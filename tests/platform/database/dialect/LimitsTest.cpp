@@ -24,7 +24,7 @@ class Engine {
     Engine(const Engine&) = delete;
     Engine& operator=(const Engine&) = delete;
 
-    /// What the engine says to a statement; empty when it takes it.
+    /// The engine's message about a statement; empty if it accepts it.
     std::string Refusal(const std::string& sql) const {
         sqlite3_stmt* statement = nullptr;
         const int code = sqlite3_prepare_v2(connection_, sql.c_str(), -1, &statement, nullptr);

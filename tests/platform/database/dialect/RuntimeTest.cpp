@@ -37,7 +37,7 @@ TEST(LikePattern, KnowsBothFamiliesOfWildcards) {
         EXPECT_EQ(MatchesPattern(text, pattern), matches) << text << " LIKE " << pattern;
 }
 
-// The short way over the stored form tells the same days as the calendar.
+// The short way over the stored form gives the same days as the calendar.
 TEST(RuntimeDates, StoredDaysReadAsTheCalendarReadsThem) {
     sqlite3* connection = nullptr;
     sqlite3_open(":memory:", &connection);

@@ -6,7 +6,7 @@
 
 namespace platform::dialect {
 
-/// The tables that the tests of the dialect speak of: a person of every field type and with fields
+/// The tables of the tests of the dialect: a person of every field type and with fields
 /// named like words of the grammar, and payments of persons.
 const Catalog& TestCatalog();
 
