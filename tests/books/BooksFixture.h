@@ -8,6 +8,7 @@
 #include "core/RecordsFixture.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
+#include "support/Books.h"
 
 namespace tests {
 
@@ -56,18 +57,11 @@ class BooksTest : public CoreRecords {
                      (category == "NULL" ? "NULL" : "'" + std::string(category) + "'"));
     }
 
-    /// The rows that a select finds, cells parted by "|", each row ended by ";".
+    /// The rows that a select finds, cells separated by "|", each row ended by ";".
     static std::string Rows(std::string_view sql) {
-        platform::Recordset rows;
-        rows.Open(core::App().Connection, sql);
         std::string text;
-        for (; !rows.Eof(); rows.MoveNext()) {
-            for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
-                if (i > 0) text += '|';
-                text += rows[i].IsNull() ? "NULL" : rows[i].AsText();
-            }
-            text += ';';
-        }
+        for (const std::string& row : support::Rows(core::App().Connection, sql, "NULL"))
+            text += row + ';';
         return text;
     }
 };

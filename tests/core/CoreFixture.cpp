@@ -8,6 +8,7 @@
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 #include "store/CreateDatabase.h"
+#include "support/Books.h"
 
 namespace tests {
 
@@ -50,9 +51,7 @@ void CoreBooks::Run(std::string_view sql) {
 }
 
 std::string CoreBooks::Ask(std::string_view sql) {
-    const auto value = core::App().Connection.Scalar(sql);
-    if (!value) return "-";
-    return value->IsNull() ? "NULL" : value->AsText();
+    return support::Ask(core::App().Connection, sql, "NULL");
 }
 
 } // namespace tests

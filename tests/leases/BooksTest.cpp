@@ -7,6 +7,7 @@
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Format.h"
+#include "support/Books.h"
 
 namespace tests {
 
@@ -25,9 +26,7 @@ void BooksTest::Run(std::string_view sql) {
 }
 
 std::string BooksTest::Ask(std::string_view sql) {
-    const auto value = core::App().Connection.Scalar(sql);
-    if (!value) return "-";
-    return value->IsNull() ? "null" : value->AsText();
+    return support::Ask(core::App().Connection, sql);
 }
 
 std::int32_t BooksTest::Charge(platform::Date day, int units, leases::RentFlags flags,

@@ -7,6 +7,7 @@
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 #include "store/CreateDatabase.h"
+#include "support/Books.h"
 
 namespace tests {
 
@@ -48,18 +49,7 @@ void SetMortgageField(std::string_view field, std::string_view value) {
 }
 
 std::vector<std::string> Rows(std::string_view statement) {
-    std::vector<std::string> lines;
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, statement);
-    for (; !rows.Eof(); rows.MoveNext()) {
-        std::string line;
-        for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
-            if (i > 0) line += '|';
-            line += rows[i].IsNull() ? "null" : rows[i].AsText();
-        }
-        lines.push_back(line);
-    }
-    return lines;
+    return support::Rows(core::App().Connection, statement);
 }
 
 std::vector<std::string> Log() {

@@ -3,10 +3,10 @@
 
 #include <fstream>
 
-#include "platform/database/Recordset.h"
 #include "platform/system/Paths.h"
 #include "store/CreateDatabase.h"
 #include "store/TransCategories.h"
+#include "support/Books.h"
 #include "support/TemporaryFolder.h"
 
 namespace {
@@ -111,13 +111,7 @@ class Categories : public testing::Test {
     }
 
     std::vector<std::string> Rows() {
-        std::vector<std::string> rows;
-        platform::Recordset all;
-        all.Open(books_, "SELECT * FROM TransCategory");
-        for (; !all.Eof(); all.MoveNext()) {
-            rows.push_back(all["Category"].AsText() + "|" + all["IEN"].Value().AsText());
-        }
-        return rows;
+        return support::Rows(books_, "SELECT Category, IEN FROM TransCategory");
     }
 
     support::TemporaryFolder folder_;

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <set>
 
-#include "platform/values/Csv.h"
 #include "store/SampleFixture.h"
 #include "store/Tables.h"
+#include "support/Books.h"
 
 namespace {
 
@@ -16,31 +16,13 @@ using tests::SampleDatabase;
 
 const Date kToday(2024, 5, 17);
 
-/// All rows of all tables as one text.
-std::string Dump(platform::Connection& books) {
-    std::string text;
-    for (const store::TableDefinition& table : store::BooksTables()) {
-        text += table.name + "\n";
-        platform::Recordset rows;
-        rows.Open(books, "SELECT * FROM " + table.name);
-        for (; !rows.Eof(); rows.MoveNext()) {
-            for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
-                platform::AppendCsvCell(text, rows[i].Value());
-                text += ',';
-            }
-            text += '\n';
-        }
-    }
-    return text;
-}
-
 TEST(SamplePortfolio, IsTheSameInEveryRun) {
     SampleDatabase one(30, kToday);
     SampleDatabase other(30, kToday);
     SampleDatabase dayLater(30, Date(2024, 5, 18));
-    const std::string text = Dump(one.books);
-    EXPECT_EQ(text, Dump(other.books));
-    EXPECT_NE(text, Dump(dayLater.books));
+    const std::vector<std::string> rows = support::Dump(one.books);
+    EXPECT_EQ(rows, support::Dump(other.books));
+    EXPECT_NE(rows, support::Dump(dayLater.books));
     ASSERT_EQ(one.cast.leases.size(), other.cast.leases.size());
     for (std::size_t i = 0; i < one.cast.leases.size(); ++i) {
         EXPECT_EQ(one.cast.leases[i].idLease, other.cast.leases[i].idLease);

@@ -25,11 +25,6 @@ class Mortgages : public Vestrelctl {
                 "'01/31/2024', '01/31/2024', '12/31/2023', 1, 12000, 50, True, 0.01);\n");
         EXPECT_EQ(made.status, 0) << made.errors;
     }
-
-    std::string Ask(const std::string& select) {
-        const std::string rows = Run(OnBooks() + "sql \"" + select + "\"").output;
-        return rows.substr(rows.find('\n') + 1);
-    }
 };
 
 TEST_F(Mortgages, PrintTheirScheduleAsRawNumbers) {

@@ -30,11 +30,6 @@ class PostAndPay : public Vestrelctl {
             "0, 5, 25, 3, 0, 10, 60);\n");
         EXPECT_EQ(made.status, 0) << made.errors;
     }
-
-    std::string Ask(const std::string& select) {
-        const std::string rows = Run(OnBooks() + "sql \"" + select + "\"").output;
-        return rows.substr(rows.find('\n') + 1);
-    }
 };
 
 TEST_F(PostAndPay, LiveThroughAYearOfRent) {

@@ -25,13 +25,13 @@ class TwoPrograms : public Vestrelctl {
     }
 
     /// The first value of a select.
-    std::string Ask(const std::string& select) {
-        const std::string rows = Run(At("books") + "sql \"" + select + "\"").output;
-        const auto line = rows.find('\n') + 1;
-        return rows.substr(line, rows.find('\n', line) - line);
+    std::string AskOne(const std::string& select) {
+        const std::string rows = Ask(select);
+        return rows.substr(0, rows.find('\n'));
     }
 
-    /// What the books say, without the numbers of records, which each program takes for itself.
+    /// The contents of the books, without the numbers of records, which each program takes for
+    /// itself.
     std::string Dump(const std::string& name) {
         return Run(At(name) + "sql -", R"(
 SELECT * FROM Lease;
@@ -53,8 +53,9 @@ SELECT MortgageLog.IdMortgage, MortgageLog.DatePosted, MortgageLog.Category, Mor
 };
 
 TEST_F(TwoPrograms, LeaveTheBooksAsIfOneHadWaitedForTheOther) {
-    const std::string pay = "pay " + Ask("SELECT TOP 1 IdLease FROM Lease WHERE Status = 'MTM'");
-    const std::string payMortgage = "pay-mortgage " + Ask("SELECT TOP 1 IdMortgage FROM Mortgage");
+    const std::string pay = "pay " + AskOne("SELECT TOP 1 IdLease FROM Lease WHERE Status = 'MTM'");
+    const std::string payMortgage =
+        "pay-mortgage " + AskOne("SELECT TOP 1 IdMortgage FROM Mortgage");
     const std::string save = "sql 'UPDATE Lease SET Rent = Rent + 1'";
     const struct {
         std::string before; ///< brings the books to where the two meet

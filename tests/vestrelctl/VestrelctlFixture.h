@@ -24,7 +24,7 @@ inline std::string ReadFile(const std::filesystem::path& file) {
     return {std::istreambuf_iterator<char>(input), {}};
 }
 
-/// Runs the companion as a person at a terminal does, with a folder and a registry of its own.
+/// Runs the companion as a user at a terminal does, with a folder and a registry of its own.
 class Vestrelctl : public testing::Test {
   protected:
     /// Runs the companion with these words of a shell; `input` is its standard input.
@@ -39,6 +39,12 @@ class Vestrelctl : public testing::Test {
 
     std::string Books() const { return "'" + (folder_ / "books").string() + "'"; }
     std::string OnBooks() const { return "--data " + Books() + " "; }
+
+    /// The rows of a select, without the line of names.
+    std::string Ask(const std::string& select) {
+        const std::string rows = Run(OnBooks() + "sql \"" + select + "\"").output;
+        return rows.substr(rows.find('\n') + 1);
+    }
 
     support::TemporaryFolder folder_;
 };

@@ -129,9 +129,9 @@ TEST_F(Vestrelctl, RefusesWhatItCannotDoInOneLine) {
         int status;
         std::string_view fault;
     } cases[] = {
-        {"init " + Books(), 1, "Vestrel.mdb is there already"},
-        {"init --sample --units 2 " + Books(), 1, "Vestrel.mdb is there already"},
-        {"init '" + (folder_ / "file").string() + "'", 1, "file is no directory"},
+        {"init " + Books(), 1, "Vestrel.mdb already exists"},
+        {"init --sample --units 2 " + Books(), 1, "Vestrel.mdb already exists"},
+        {"init '" + (folder_ / "file").string() + "'", 1, "file is not a directory"},
         {at("junk") + "update", 1, ""},
         {at("old") + "update", 1, "has version 8; version 9 is needed"},
         {at("nowhere") + "alerts", 1, "there is no database"},

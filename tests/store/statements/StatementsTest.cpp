@@ -6,7 +6,7 @@
 
 namespace {
 
-// The reference tables stand in a database of their own; here they stand beside the books'.
+// The reference tables are in a database of their own; here they are beside the books'.
 void MakeTables(platform::Connection& connection) {
     store::CreateTables(connection);
     connection.RunScript(store::SchemaScript(store::ReferenceTables()));
