@@ -19,8 +19,8 @@ struct Token {
     char quote = '\0';
 };
 
-/// Splits a statement into its words; the last is an End. Throws DialectError for a text, name or date
-/// that isn't closed and for a letter that no statement has.
+/// Splits a statement into its words; the last is an End. Throws DialectError for a text, name or
+/// date that isn't closed and for a letter that no statement has.
 std::vector<Token> Tokenize(std::string_view statement);
 
 /// A fault in `statement` at `position`, its message ended by "(line L, column C)"; columns count
