@@ -109,7 +109,7 @@ void AddMerge(CLI::App& line, const Options& options) {
         if (allLate->count() == 0 && command->count("id") == 0) {
             throw CLI::RequiredError("id");
         }
-        OpenBooks(options);
+        OpenBooks(options, Purpose::Read);
         Merge(*arguments);
     });
 }
