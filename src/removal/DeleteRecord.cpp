@@ -10,6 +10,7 @@
 #include "core/Session.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
+#include "removal/RecordTitle.h"
 #include "removal/Removal.h"
 #include "removal/RemovalQuestion.h"
 
@@ -87,8 +88,10 @@ void RemoveWhatGoesFirst(Removal& removal, std::int16_t kind, std::int32_t id) {
 
 bool Agreed(std::int16_t kind, std::int32_t id) {
     const auto question = QuestionBefore(kind, id);
-    return !question || platform::TheDialogs().AskYesNo(question->title, question->text,
-                                                        platform::Icon::Question);
+    if (!question) return true;
+    const std::string title = RecordTitle(kind, id);
+    const std::string text = title.empty() ? question->text : question->text + "\n\n" + title;
+    return platform::TheDialogs().AskYesNo(question->title, text, platform::Icon::Question);
 }
 
 } // namespace
