@@ -17,6 +17,8 @@ struct Party {
     std::int16_t type = 0;
     std::int32_t id = 0;
     std::string description;
+
+    friend bool operator==(const Party&, const Party&) = default;
 };
 
 /// A movement of money from the debit side to the credit side.

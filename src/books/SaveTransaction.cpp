@@ -23,6 +23,14 @@ std::int32_t TripOf(std::int32_t idTransaction) {
     return idMileage ? idMileage->AsLong() : 0;
 }
 
+bool IsStored(std::int32_t id) {
+    return id != 0 &&
+           core::App()
+               .Connection
+               .Scalar("SELECT IdTransaction FROM Transactions WHERE IdTransaction = ?", {id})
+               .has_value();
+}
+
 void OpenRow(Recordset& rows, std::int32_t& id) {
     if (id != 0) return OpenTransactionRow(rows, id);
     rows.Open(core::App().Connection, "Transactions", platform::CursorMode::AppendOnly);
@@ -32,7 +40,8 @@ void OpenRow(Recordset& rows, std::int32_t& id) {
 
 } // namespace
 
-std::int32_t SaveTransaction(std::int32_t id, const Transaction& transaction, Trip trip) {
+std::int32_t SaveTransaction(std::int32_t id, const Transaction& transaction, Trip trip,
+                             const Transaction* before) {
     const bool isNew = id == 0;
     const std::int32_t oldTrip = isNew ? 0 : TripOf(id);
     const bool removesTrip =
@@ -40,10 +49,12 @@ std::int32_t SaveTransaction(std::int32_t id, const Transaction& transaction, Tr
 
     platform::UnitOfWork unit(core::App().Connection);
     if (removesTrip) removal::RemoveRecord(core::kMileage, oldTrip);
+    if (!IsStored(id)) before = nullptr;
     Recordset rows;
     OpenRow(rows, id);
-    WriteTransactionFields(rows, transaction);
-    rows["IdMileage"].Set(trip == Trip::Keep ? WriteTrip(oldTrip, transaction) : 0);
+    WriteTransactionFields(rows, transaction, before);
+    const std::int32_t newTrip = trip == Trip::Keep ? WriteTrip(oldTrip, transaction) : 0;
+    if (!before || newTrip != oldTrip) rows["IdMileage"].Set(newTrip);
     if (isNew) RunTriggeredEvents(transaction);
     rows.Update();
     TellTransactionListeners(id, transaction);

@@ -17,6 +17,10 @@ enum class Trip { None, Keep };
 /// the person agrees, and forgotten in any case. Whoever asked to know of transactions is told.
 /// One unit of work, begun when nothing is left to ask; failures are thrown. Answers the row's id;
 /// the open lists are the caller's to tell.
-std::int32_t SaveTransaction(std::int32_t id, const Transaction& transaction, Trip trip);
+///
+/// `before` is a stored transaction as the editor showed it: only what differs from it is written,
+/// unless the row has to come back.
+std::int32_t SaveTransaction(std::int32_t id, const Transaction& transaction, Trip trip,
+                             const Transaction* before = nullptr);
 
 } // namespace books

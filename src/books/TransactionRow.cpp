@@ -21,30 +21,35 @@ void OpenTransactionRow(Recordset& rows, std::int32_t id) {
     if (rows.Eof()) AddTransactionRow(rows, id);
 }
 
-void WriteTransactionFields(Recordset& rows, const Transaction& transaction) {
-    rows["DateEffective"].Set(transaction.dateEffective.ToText());
-    rows["DebitType"].Set(transaction.debit.type);
-    rows["DebitId"].Set(transaction.debit.id);
-    rows["DebitDesc"].Set(transaction.debit.description);
-    rows["CreditType"].Set(transaction.credit.type);
-    rows["CreditId"].Set(transaction.credit.id);
-    rows["CreditDesc"].Set(transaction.credit.description);
+void WriteTransactionFields(Recordset& rows, const Transaction& transaction,
+                            const Transaction* before) {
+    const auto write = [&](std::string_view field, auto read) {
+        if (!before || read(transaction) != read(*before))
+            rows[field].Set(platform::Value(read(transaction)));
+    };
+    write("DateEffective", [](const Transaction& t) { return t.dateEffective.ToText(); });
+    write("DebitType", [](const Transaction& t) { return t.debit.type; });
+    write("DebitId", [](const Transaction& t) { return t.debit.id; });
+    write("DebitDesc", [](const Transaction& t) { return t.debit.description; });
+    write("CreditType", [](const Transaction& t) { return t.credit.type; });
+    write("CreditId", [](const Transaction& t) { return t.credit.id; });
+    write("CreditDesc", [](const Transaction& t) { return t.credit.description; });
     for (const auto* balance : {"DebitPrevBal", "DebitNewBal", "CreditPrevBal", "CreditNewBal"}) {
-        rows[balance].Set(Currency());
+        write(balance, [](const Transaction&) { return Currency(); });
     }
-    rows["CheckNum"].Set(transaction.checkNumber);
-    rows["Amount"].Set(transaction.amount);
-    rows["TaxCategory"].Set(transaction.taxCategory);
-    rows["IEN"].Set(static_cast<std::int16_t>(transaction.ien));
-    rows["Description"].Set(transaction.description);
-    rows["Class"].Set(transaction.transactionClass);
-    rows["Flags"].Set(transaction.flags);
-    rows["IdTenant"].Set(transaction.idTenant);
-    rows["IdBuilding"].Set(transaction.idBuilding);
-    rows["IdUnit"].Set(transaction.idUnit);
-    rows["IdLease"].Set(transaction.idLease);
-    rows["IdMortgage"].Set(transaction.idMortgage);
-    rows["IdWorkOrder"].Set(transaction.idWorkOrder);
+    write("CheckNum", [](const Transaction& t) { return t.checkNumber; });
+    write("Amount", [](const Transaction& t) { return t.amount; });
+    write("TaxCategory", [](const Transaction& t) { return t.taxCategory; });
+    write("IEN", [](const Transaction& t) { return static_cast<std::int16_t>(t.ien); });
+    write("Description", [](const Transaction& t) { return t.description; });
+    write("Class", [](const Transaction& t) { return t.transactionClass; });
+    write("Flags", [](const Transaction& t) { return t.flags; });
+    write("IdTenant", [](const Transaction& t) { return t.idTenant; });
+    write("IdBuilding", [](const Transaction& t) { return t.idBuilding; });
+    write("IdUnit", [](const Transaction& t) { return t.idUnit; });
+    write("IdLease", [](const Transaction& t) { return t.idLease; });
+    write("IdMortgage", [](const Transaction& t) { return t.idMortgage; });
+    write("IdWorkOrder", [](const Transaction& t) { return t.idWorkOrder; });
 }
 
 } // namespace books

@@ -16,7 +16,9 @@ void AddTransactionRow(platform::Recordset& rows, std::int32_t id);
 void OpenTransactionRow(platform::Recordset& rows, std::int32_t id);
 
 /// Date, sides, amount, category, what made it and what it is about. The balances are always 0:
-/// what a party has is always added up from the rows.
-void WriteTransactionFields(platform::Recordset& rows, const Transaction& transaction);
+/// what a party has is always added up from the rows. With `before`, what the transaction was when
+/// it was read, only the fields that differ from it are written.
+void WriteTransactionFields(platform::Recordset& rows, const Transaction& transaction,
+                            const Transaction* before = nullptr);
 
 } // namespace books

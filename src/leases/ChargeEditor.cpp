@@ -2,6 +2,7 @@
 
 #include "core/Globals.h"
 #include "leases/LeaseEditor.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Format.h"
 
@@ -38,19 +39,28 @@ std::vector<std::string> ChargeCategories(RentClass rentClass) {
             "NSF Fee", "Service Fee", "Misc Charge"};
 }
 
-void SaveCharge(platform::Recordset& row, const RentLogEntry& entry) {
+platform::Currency InCents(platform::Currency amount) {
+    return platform::StrToMoney(platform::FormatNumber(amount, "#.00"));
+}
+
+void SaveCharge(platform::Recordset& row) {
     platform::UnitOfWork unit(core::App().Connection);
+    const std::int32_t idLease = platform::IdOf(row["IdLease"]);
+    row.Update();
+    StoreBalances(idLease);
+    unit.Commit();
+}
+
+void SaveCharge(platform::Recordset& row, const RentLogEntry& entry) {
     row["IdLease"].Set(entry.idLease);
     row["IdTransaction"].Set(entry.idTransaction);
     row["DatePosted"].Set(entry.datePosted.ToText());
     row["Class"].Set(static_cast<std::int16_t>(entry.rentClass));
     row["Category"].Set(entry.category);
-    row["Amount"].Set(platform::StrToMoney(platform::FormatNumber(entry.amount, "#.00")));
+    row["Amount"].Set(InCents(entry.amount));
     row["Description"].Set(entry.description);
     row["Flags"].Set(static_cast<std::int16_t>(entry.flags));
-    row.Update();
-    StoreBalances(entry.idLease);
-    unit.Commit();
+    SaveCharge(row);
 }
 
 } // namespace leases

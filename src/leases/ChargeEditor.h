@@ -19,5 +19,9 @@ std::vector<std::string> ChargeCategories(RentClass rentClass);
 /// Writes a row of the ledger as it was entered, also one of zero, with its amount in whole cents,
 /// and the lease's balances with it. One unit of work; failures are thrown.
 void SaveCharge(platform::Recordset& row, const RentLogEntry& entry);
+/// The same for a row that the screen has filled in itself.
+void SaveCharge(platform::Recordset& row);
+/// An amount in whole cents, halves to even.
+platform::Currency InCents(platform::Currency amount);
 
 } // namespace leases

@@ -1,6 +1,8 @@
 #include "records/OwnerLinkRules.h"
 
 #include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
@@ -76,6 +78,7 @@ void CheckOwnership(std::int32_t idBuilding, std::int32_t idOwnerLink, PrimaryMa
         Books().Execute(
             "UPDATE OwnerLink SET IsPrimary = False WHERE IdBuilding = ? AND IdOwnerLink <> ?",
             {idBuilding, idOwnerLink});
+        core::NotifyAll(core::kOwner, core::kRecordsChanged, 0);
         return;
     }
     if (HasPrimary(idBuilding)) return;
@@ -86,6 +89,7 @@ void CheckOwnership(std::int32_t idBuilding, std::int32_t idOwnerLink, PrimaryMa
         "it as primary this will be overridden.",
         platform::Icon::Information);
     Books().Execute("UPDATE OwnerLink SET IsPrimary = True WHERE IdOwnerLink = ?", {idOwnerLink});
+    core::NotifyAll(core::kOwner, core::kRecordsChanged, 0);
 }
 
 } // namespace records

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <regex>
+#include <string>
 #include <vector>
 
 #include "core/Globals.h"
@@ -100,6 +102,13 @@ constexpr RelatedList kApplianceContracts = {
     "FROM SvcContract LEFT JOIN Account ON SvcContract.IdVendor = Account.IdAccount "
     "WHERE SvcContract.IdAppliance = ? ORDER BY Account.ShowAs"};
 
+/// The statement with its dates as they are stored: one text that isn't a date makes DateValue fail
+/// for the whole list.
+std::string WithDatesAsText(std::string_view sql) {
+    static const std::regex kDateValue(R"(DateValue\(([^()]*)\))");
+    return std::regex_replace(std::string(sql), kDateValue, "$1");
+}
+
 std::int32_t BuildingOfAppliance(std::int32_t idAppliance) {
     const auto building = core::LookUp(
         "SELECT Unit.IdBuilding FROM Appliance, Unit "
@@ -135,8 +144,10 @@ platform::Recordset OpenRelated(const RelatedList& list, const RelatedOwner& own
     platform::Recordset rows;
     try {
         rows.Open(core::App().Connection, list.sql, platform::CursorMode::ReadOnly, parameters);
-    } catch (const std::exception&) {
-        return {};
+    } catch (const platform::DatabaseError&) {
+        const std::string asText = WithDatesAsText(list.sql);
+        if (asText == list.sql) throw;
+        rows.Open(core::App().Connection, asText, platform::CursorMode::ReadOnly, parameters);
     }
     return rows;
 }

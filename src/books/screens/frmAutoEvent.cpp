@@ -78,10 +78,7 @@ void frmAutoEvent::FillLists() {
 }
 
 void frmAutoEvent::ShowRow(Recordset& row) {
-    RecordForm::ShowRow(row);
-    trigger_->ShowStored(IdOf(row["TriggerID"]));
-    from_->ShowStored(IdOf(row["DebitId"]));
-    to_->ShowStored(IdOf(row["CreditId"]));
+    // The categories first, so that one that isn't offered joins its list with its class.
     const Ien ien{CountOf(row["IEN"])};
     if (!row["TaxCategory"].IsNull()) {
         ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), ien});
@@ -89,6 +86,10 @@ void frmAutoEvent::ShowRow(Recordset& row) {
     if (!row["TriggerTaxCategory"].IsNull()) {
         ShowCategory(*ui_->cboTriggerCategory, {row["TriggerTaxCategory"].AsText(), Ien::Income});
     }
+    RecordForm::ShowRow(row);
+    trigger_->ShowStored(IdOf(row["TriggerID"]));
+    from_->ShowStored(IdOf(row["DebitId"]));
+    to_->ShowStored(IdOf(row["CreditId"]));
     ui_->lblLastRun->setText(
         row["LastRun"].IsBlank()
             ? tr("Never")
@@ -99,7 +100,8 @@ void frmAutoEvent::ShowRow(Recordset& row) {
 
 void frmAutoEvent::WriteRow(Recordset& row) {
     RecordForm::WriteRow(row);
-    row["IEN"].Set(static_cast<std::int16_t>(ChosenCategory(*ui_->cboCategory).ien));
+    if (WritesNewRow() || IsTouched(*ui_->cboCategory))
+        row["IEN"].Set(static_cast<std::int16_t>(ChosenCategory(*ui_->cboCategory).ien));
     // A screen that has its record's tag edits a stored event.
     if (OpenRecordId() == 0) SeedLastRun(row);
 }

@@ -75,15 +75,17 @@ void frmTransaction::ShowRow(Recordset& row) {
     transactionClass_ = CountOf(row["Class"]);
     flags_ = CountOf(row["Flags"]);
     ui_->chkMileage->setChecked(IdOf(row["IdMileage"]) != 0);
+    shown_ = Entered();
 }
 
 void frmTransaction::ShowFields(Recordset& row) {
-    RecordForm::ShowRow(row);
-    from_->ShowStored(IdOf(row["DebitId"]), TextOf(row["DebitDesc"]));
-    to_->ShowStored(IdOf(row["CreditId"]), TextOf(row["CreditDesc"]));
+    // First, so that a category that isn't offered joins its list with its class.
     if (!row["TaxCategory"].IsNull()) {
         ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), Ien{CountOf(row["IEN"])}});
     }
+    RecordForm::ShowRow(row);
+    from_->ShowStored(IdOf(row["DebitId"]), TextOf(row["DebitDesc"]));
+    to_->ShowStored(IdOf(row["CreditId"]), TextOf(row["CreditDesc"]));
     references_->ShowAvailable();
 }
 
@@ -116,7 +118,8 @@ Transaction frmTransaction::Entered() const {
 
 void frmTransaction::Store() {
     const Transaction entered = Entered();
-    SetId(SaveTransaction(Id(), entered, ui_->chkMileage->isChecked() ? Trip::Keep : Trip::None));
+    SetId(SaveTransaction(Id(), entered, ui_->chkMileage->isChecked() ? Trip::Keep : Trip::None,
+                          Id() == 0 ? nullptr : &shown_));
     cancelled_ = false;
     amount_ = entered.amount;
 }

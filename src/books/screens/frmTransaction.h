@@ -71,6 +71,7 @@ class frmTransaction : public core::forms::RecordForm {
     std::unique_ptr<ReferenceBoxes> references_;
     std::int16_t transactionClass_ = 0;
     std::int16_t flags_ = 0;
+    Transaction shown_; ///< a stored one as the boxes showed it
     bool cancelled_ = true;
     platform::Currency amount_;
 };

@@ -3,13 +3,19 @@
 #include <QComboBox>
 #include <QSignalBlocker>
 
+#include "core/Descriptions.h"
 #include "core/PickLists.h"
+#include "core/RecordKinds.h"
 #include "core/binding/Tags.h"
 #include "platform/qt/Text.h"
 
 namespace core::binding {
 
 namespace {
+
+// What a list was filled with, so that a choice can be named later.
+constexpr const char* kListKind = "listKind";
+constexpr const char* kListParent = "listParent";
 
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
@@ -26,6 +32,37 @@ void ShowSelection(const ChoiceList& list, QComboBox& combo) {
     }
     combo.addItem(text, 0);
     combo.setCurrentIndex(combo.count() - 1);
+}
+
+/// What a list is to be filled with.
+struct Filling {
+    int kind = 0;
+    std::int32_t parentId = 0;
+    std::int32_t selectedId = 0; ///< 0 for the present one
+    bool keepText = false;       ///< nothing is selected
+};
+
+void Fill(const Filling& filling, QComboBox& combo,
+          const std::function<void(ChoiceList& list)>& fill) {
+    const bool isSameList = combo.property(kListKind).toInt() == filling.kind &&
+                            combo.property(kListParent).toInt() == filling.parentId;
+    combo.setProperty(kListKind, filling.kind);
+    combo.setProperty(kListParent, filling.parentId);
+    ChoiceList list = ReadCombo(combo);
+    std::int32_t wanted = filling.selectedId;
+    if (wanted == 0 && isSameList) wanted = core::GetSelectedId(list);
+    try {
+        fill(list);
+    } catch (...) {
+        ShowInCombo(list, combo);
+        throw;
+    }
+    const bool isLost = wanted != 0 && wanted != core::GetSelectedId(list) && !filling.keepText;
+    if (isLost && RecordExists(filling.kind, wanted)) {
+        list.Add(NameOfRecord(filling.kind, wanted), wanted);
+        list.Select(list.Rows().size() - 1);
+    }
+    ShowInCombo(list, combo);
 }
 
 } // namespace
@@ -49,14 +86,33 @@ void ShowInCombo(const ChoiceList& list, QComboBox& combo) {
 }
 
 void FillList(int kind, QComboBox& combo, const FillOptions& options) {
-    ChoiceList list = ReadCombo(combo);
-    try {
-        core::FillList(kind, list, options);
-    } catch (...) {
-        ShowInCombo(list, combo);
-        throw;
-    }
-    ShowInCombo(list, combo);
+    Fill({kind, options.parentId, options.selectedId, options.keepText}, combo,
+         [&](ChoiceList& list) {
+             FillOptions named = options;
+             named.nameNulls = true;
+             core::FillList(kind, list, named);
+         });
+}
+
+void FillListWith(int kind, std::int32_t parentId, QComboBox& combo,
+                  const std::function<void(ChoiceList& list)>& fill) {
+    Fill({kind, parentId}, combo, fill);
+}
+
+void OfferId(QComboBox& combo, std::int32_t id) {
+    if (id == 0 || combo.findData(id) >= 0) return;
+    const QSignalBlocker quiet(combo);
+    const int kind = combo.property(kListKind).toInt();
+    const QString name =
+        kind == kNone ? QComboBox::tr("Unknown (%1)").arg(id) : ToScreen(NameOfRecord(kind, id));
+    combo.addItem(name, id);
+}
+
+void OfferText(QComboBox& combo, std::string_view text) {
+    const QString shown = ToScreen(text);
+    if (text.empty() || combo.findText(shown, Qt::MatchFixedString) >= 0) return;
+    const QSignalBlocker quiet(combo);
+    combo.addItem(shown, 0);
 }
 
 void FillFromCommaList(QComboBox& combo, std::string_view text) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include "core/ChoiceList.h"
@@ -19,8 +20,19 @@ ChoiceList ReadCombo(const QComboBox& combo);
 /// be typed in.
 void ShowInCombo(const ChoiceList& list, QComboBox& combo);
 
-/// As core::FillList; when it throws, the rows filled until then are there.
+/// As core::FillList, but no choice is lost: a record without a text is offered by its number, and
+/// a selected record that the list doesn't offer (an account of another type) stays selected under
+/// its name while it exists. A list whose kind or parent changes keeps nothing. If it throws, the
+/// rows filled until then are there.
 void FillList(int kind, QComboBox& combo, const FillOptions& options = {});
+/// The same with a list that `fill` fills, of records of the kind that belong to a parent.
+void FillListWith(int kind, std::int32_t parentId, QComboBox& combo,
+                  const std::function<void(ChoiceList& list)>& fill);
+/// Makes a record or code selectable that isn't among the rows: a record of the kind that the list
+/// was filled with by its name, anything else by its number. Nothing for 0.
+void OfferId(QComboBox& combo, std::int32_t id);
+/// The same for a text.
+void OfferText(QComboBox& combo, std::string_view text);
 void FillFromCommaList(QComboBox& combo, std::string_view text);
 std::int32_t GetSelectedId(const QComboBox& combo);
 void SelectById(QComboBox& combo, std::int32_t id, NoMatch otherwise = {});

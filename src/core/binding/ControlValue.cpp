@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 #include <array>
 #include <charconv>
 #include <string>
@@ -27,22 +28,7 @@ using platform::Value;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
-void ShowText(QWidget& control, std::string_view text) {
-    const QString shown = ToScreen(text);
-    if (auto* const label = qobject_cast<QLabel*>(&control)) return label->setText(shown);
-    if (auto* const line = qobject_cast<QLineEdit*>(&control)) {
-        line->setText(shown);
-        return line->setCursorPosition(0); // a long text shows from its start
-    }
-    if (auto* const page = qobject_cast<QPlainTextEdit*>(&control)) {
-        return page->setPlainText(shown);
-    }
-    if (auto* const combo = qobject_cast<QComboBox*>(&control)) {
-        SelectByText(*combo, text, {.setText = true});
-    }
-}
-
-/// Nothing for a control that isn't typed in.
+/// Nothing if the control can't be typed in.
 std::optional<std::string> TextOf(const QWidget& control) {
     if (const auto* const line = qobject_cast<const QLineEdit*>(&control)) {
         return FromScreen(line->text());
@@ -54,6 +40,22 @@ std::optional<std::string> TextOf(const QWidget& control) {
         return FromScreen(combo->currentText());
     }
     return std::nullopt;
+}
+
+void ShowText(QWidget& control, std::string_view text) {
+    const QString shown = ToScreen(text);
+    if (TextOf(control) == text) return; // the caret stays
+    if (auto* const label = qobject_cast<QLabel*>(&control)) return label->setText(shown);
+    if (auto* const line = qobject_cast<QLineEdit*>(&control)) {
+        line->setText(shown);
+        return line->setCursorPosition(0); // a long text shows from its start
+    }
+    if (auto* const page = qobject_cast<QPlainTextEdit*>(&control)) {
+        return page->setPlainText(shown);
+    }
+    if (auto* const combo = qobject_cast<QComboBox*>(&control)) {
+        SelectByText(*combo, text, {.setText = true});
+    }
 }
 
 void ShowChoice(QWidget& control, std::int32_t id) {
@@ -179,6 +181,43 @@ std::optional<Value> ReadValue(const QWidget& control, char sigil) {
     const std::optional<std::string> text = TextOf(control);
     if (!text) return std::nullopt;
     return ReadTyped(control, sigil, *text);
+}
+
+void OfferChoice(QWidget& control, char sigil, const Value& value) {
+    auto* const combo = qobject_cast<QComboBox*>(&control);
+    if (!combo || value.IsBlank()) return;
+    if (sigil == '!') OfferId(*combo, value.AsLong());
+    if (sigil == '?') OfferText(*combo, value.AsText());
+}
+
+QVariant ContentOf(const QWidget& control) {
+    if (const auto* const combo = qobject_cast<const QComboBox*>(&control)) {
+        return QVariantList{combo->currentText(), GetSelectedId(*combo)};
+    }
+    if (const auto* const button = qobject_cast<const QAbstractButton*>(&control)) {
+        return button->isChecked();
+    }
+    if (const auto* const label = qobject_cast<const QLabel*>(&control)) return label->text();
+    const std::optional<std::string> text = TextOf(control);
+    return text ? QVariant(ToScreen(*text)) : QVariant();
+}
+
+void ShowContent(QWidget& control, const QVariant& content) {
+    if (auto* const combo = qobject_cast<QComboBox*>(&control)) {
+        const QVariantList parts = content.toList();
+        if (parts.size() != 2) return;
+        const QSignalBlocker quiet(*combo);
+        combo->setCurrentIndex(-1);
+        if (combo->isEditable()) combo->clearEditText();
+        // A list without rows of identifiers has 0 in all of them.
+        SelectByText(*combo, FromScreen(parts[0].toString()));
+        if (GetSelectedId(*combo) != parts[1].toInt()) SelectById(*combo, parts[1].toInt());
+        return;
+    }
+    if (auto* const button = qobject_cast<QAbstractButton*>(&control)) {
+        return button->setChecked(content.toBool());
+    }
+    ShowText(control, FromScreen(content.toString()));
 }
 
 } // namespace core::binding

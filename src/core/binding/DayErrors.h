@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,7 +13,8 @@ class DateEdit;
 /// The line of the error roll for a box whose text is no day.
 std::string NotADay(const DateEdit& box);
 
-/// One such line for each box of the form that holds what is no day.
-std::vector<std::string> DayErrors(const QWidget& form);
+/// One such line for each box of the form that doesn't hold a valid date and that `counts`.
+std::vector<std::string> DayErrors(const QWidget& form,
+                                   const std::function<bool(const QWidget& box)>& counts = {});
 
 } // namespace core::binding

@@ -1,8 +1,10 @@
 #include "core/binding/KeyFilterEvents.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QToolTip>
 
 #include "core/binding/KeyFilter.h"
 #include "core/binding/Tags.h"
@@ -27,6 +29,25 @@ char32_t Filtered(const QLineEdit& edit, char32_t key) {
     return FilterKey(box, key);
 }
 
+constexpr const char* kRefusing = "refusing";
+
+/// An operator or sign in a number box is refused where the user sees it, and what is typed after
+/// it too, until they do something else: "12+3" must not become 123.
+bool RefusesSum(QLineEdit& edit, const QString& text) {
+    constexpr std::string_view kNumbers = "#&$%";
+    const std::string tag = TagOf(edit);
+    if (tag.empty() || kNumbers.find(tag.front()) == std::string_view::npos) return false;
+    const QString operators = QStringLiteral("+-*/=()");
+    const bool isOperator = text.size() == 1 && operators.contains(text);
+    if (isOperator) edit.setProperty(kRefusing, !edit.text().isEmpty());
+    if (!isOperator && !edit.property(kRefusing).toBool()) return false;
+    QApplication::beep();
+    QToolTip::showText(
+        edit.mapToGlobal(QPoint(0, edit.height())),
+        QLineEdit::tr("Only digits and a point can be typed here: no sums and no signs."), &edit);
+    return true;
+}
+
 /// True when none of the text may go in as it stands; a capital goes in instead of its letter.
 bool TakesOver(QLineEdit& edit, const QString& text) {
     const std::u32string keys = text.toStdU32String();
@@ -48,12 +69,18 @@ bool KeyFilterEvents::eventFilter(QObject* watched, QEvent* event) {
         const QString text = press->text();
         const bool isCommand = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier) &&
                                !(press->modifiers() & Qt::GroupSwitchModifier);
-        if (isCommand || text.isEmpty() || !text.front().isPrint()) return false;
-        return TakesOver(*edit, text);
+        if (isCommand || text.isEmpty() || !text.front().isPrint()) {
+            edit->setProperty(kRefusing, false);
+            return false;
+        }
+        return RefusesSum(*edit, text) || TakesOver(*edit, text);
     }
     if (event->type() == QEvent::InputMethod) {
         const QString text = static_cast<QInputMethodEvent*>(event)->commitString();
-        return !text.isEmpty() && TakesOver(*edit, text);
+        return !text.isEmpty() && (RefusesSum(*edit, text) || TakesOver(*edit, text));
+    }
+    if (event->type() == QEvent::FocusOut || event->type() == QEvent::MouseButtonPress) {
+        edit->setProperty(kRefusing, false);
     }
     return false;
 }

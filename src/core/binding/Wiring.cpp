@@ -1,7 +1,9 @@
 #include "core/binding/Wiring.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,6 +24,25 @@ bool HoldsNumber(const QObject& control) {
     return !tag.empty() && kNumbers.find(tag.front()) != std::string_view::npos;
 }
 
+/// The wheel scrolls the page, not a list, date or number that happens to be under the pointer.
+class WheelGuard : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* const control = qobject_cast<QWidget*>(watched);
+        if (event->type() != QEvent::Wheel || !control || control->hasFocus()) return false;
+        event->ignore();
+        return true;
+    }
+};
+
+/// A box that only shows has the colour of the page around it.
+void ShowReadOnly(QWidget& box) {
+    box.setStyleSheet(
+        QStringLiteral("QLineEdit:read-only, QPlainTextEdit:read-only "
+                       "{ background: palette(window); }"));
+}
+
 QString WithoutMarks(QString text) {
     return text.remove(QLatin1Char('&')).remove(QLatin1Char(':')).trimmed();
 }
@@ -30,13 +51,21 @@ QString WithoutMarks(QString text) {
 
 void WireControls(QWidget& form) {
     InstallKeyFilter(form);
+    auto* const wheel = new WheelGuard(&form);
     for (QWidget* const control : ControlsOf(form)) {
         if (auto* const combo = qobject_cast<QComboBox*>(control)) {
             combo->setInsertPolicy(QComboBox::NoInsert);
+            combo->setFocusPolicy(Qt::StrongFocus); // not by the wheel
+            combo->installEventFilter(wheel);
         } else if (auto* const line = qobject_cast<QLineEdit*>(control)) {
             if (HoldsNumber(*line)) line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            if (line->isReadOnly()) ShowReadOnly(*line);
         } else if (auto* const page = qobject_cast<QPlainTextEdit*>(control)) {
             page->setTabChangesFocus(true);
+            if (page->isReadOnly()) ShowReadOnly(*page);
+        } else if (auto* const spin = qobject_cast<QAbstractSpinBox*>(control)) {
+            spin->setFocusPolicy(Qt::StrongFocus);
+            spin->installEventFilter(wheel);
         } else if (const auto* const label = qobject_cast<QLabel*>(control)) {
             QWidget* const named = label->buddy();
             if (named && named->accessibleName().isEmpty()) {

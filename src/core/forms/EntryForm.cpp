@@ -34,7 +34,7 @@ void EntryForm::Begin(const std::function<void()>& fill) {
 
 void EntryForm::Submit() {
     bool kept = false;
-    Guarded([&] {
+    Perform([&] {
         if (!ShowErrorRoll(Errors())) return;
         Store();
         kept = true;

@@ -2,9 +2,13 @@
 
 #include <QCloseEvent>
 #include <QLayout>
+#include <QScopedValueRollback>
 #include <QShortcut>
+#include <QTabWidget>
 
 #include "core/binding/Tags.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/FitScreen.h"
 #include "core/forms/Help.h"
 #include "core/forms/OpenForms.h"
 #include "core/forms/WindowPlace.h"
@@ -22,6 +26,12 @@ Form::Form(QWidget* parent, FormSizing sizing)
     auto* const help = new QShortcut(QKeySequence(QKeySequence::HelpContents), this);
     connect(help, &QShortcut::activated, this, [this] { ShowHelp(*this); });
     AddOpenForm(*this);
+    // A drop-down takes Ctrl+Tab for itself.
+    for (const int step : {1, -1}) {
+        const auto* const keys = step > 0 ? "Ctrl+Tab" : "Ctrl+Shift+Tab";
+        auto* const turn = new QShortcut(QKeySequence(QLatin1String(keys)), this);
+        connect(turn, &QShortcut::activated, this, [this, step] { TurnPage(step); });
+    }
 }
 
 std::int32_t Form::OpenRecordId() const {
@@ -41,25 +51,47 @@ void Form::reject() {
     close();
 }
 
+bool Form::Perform(const std::function<void()>& command) {
+    if (busy_ || closed_) return false;
+    const QScopedValueRollback busy(busy_, true);
+    return Guarded(command);
+}
+
 void Form::Open() {
     Restore();
+    closed_ = false;
     show();
+    FitToScreen(*this);
+    FocusFirstEntry(*this);
 }
 
 void Form::NotifyUpdate(std::int16_t /*kind*/, std::int16_t /*action*/, std::int32_t /*id*/) {}
 
 void Form::closeEvent(QCloseEvent* event) {
-    if (!AskToClose()) {
+    if (busy_ || !AskToClose()) {
         event->ignore();
         return;
     }
+    closed_ = true;
     SaveWindow(*this);
     event->accept();
+}
+
+/// To the next page of the tabs that can be chosen.
+void Form::TurnPage(int step) {
+    auto* const tabs = findChild<QTabWidget*>();
+    if (!tabs || tabs->count() == 0) return;
+    int page = tabs->currentIndex();
+    do {
+        page = (page + step + tabs->count()) % tabs->count();
+    } while (!tabs->isTabEnabled(page) && page != tabs->currentIndex());
+    tabs->setCurrentIndex(page);
 }
 
 void Form::Restore() {
     if (isPlaced_) return;
     isPlaced_ = true;
+    if (sizing_ == FormSizing::Resizable) LetPagesScroll(*this);
     if (sizing_ == FormSizing::Fixed && layout())
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     RestoreWindow(*this, sizing_);

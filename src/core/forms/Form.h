@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <cstdint>
+#include <functional>
 
 #include "core/FormPosition.h"
 #include "core/NotifyAll.h"
@@ -20,10 +21,12 @@ class Form : public QDialog {
     /// "tag" as text.
     std::int32_t OpenRecordId() const;
 
-    /// Asks what there is to ask before the form may close; true when it may.
+    /// Asks the user before the form closes, if there is something to ask; true if it may close.
     bool AskToClose();
-    /// Closes whatever there is to be asked, for the end of the process.
+    /// Closes without asking, for the end of the process.
     void CloseUnasked();
+    /// A command of the form is running.
+    bool IsBusy() const { return busy_; }
 
     /// Escape.
     void reject() override;
@@ -31,19 +34,27 @@ class Form : public QDialog {
   protected:
     /// Shows the form without blocking; on its first time where it stood.
     void Open();
-    /// Whether the form may go; a form with unsaved changes asks.
+    /// Whether the form may close; a form with unsaved changes asks.
     virtual bool MayClose() { return true; }
     /// Records of `kind` changed.
     virtual void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id);
+
+    /// Runs a command of the user's (a button, a menu item) and shows what it throws; true if it
+    /// ran without. While a command runs the form takes no second one and doesn't close, and once
+    /// it has closed it takes none: a double click must not act twice.
+    bool Perform(const std::function<void()>& command);
 
     void closeEvent(QCloseEvent* event) override;
 
   private:
     void Restore();
+    void TurnPage(int step);
 
     FormSizing sizing_;
     bool isPlaced_ = false;
     bool asks_ = true;
+    bool busy_ = false;
+    bool closed_ = false;
     NotifyToken token_;
 };
 

@@ -1,6 +1,7 @@
 #include "core/forms/RecordForm.h"
 
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -8,19 +9,19 @@
 #include "core/Globals.h"
 #include "core/Preferences.h"
 #include "core/Session.h"
-#include "core/binding/Binding.h"
 #include "core/binding/DayErrors.h"
 #include "core/binding/Tags.h"
 #include "core/binding/Wiring.h"
 #include "core/forms/ActionBar.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/Help.h"
+#include "core/forms/RecordBar.h"
 #include "platform/dialogs/Dialogs.h"
 
 namespace core::forms {
 
 RecordForm::RecordForm(RecordPlace place, QWidget* parent, FormSizing sizing)
-    : Form(parent, sizing), place_(std::move(place)) {}
+    : Form(parent, sizing), place_(std::move(place)), fields_(place_.tagTable) {}
 
 void RecordForm::Wire() {
     binding::WireControls(*this);
@@ -30,17 +31,38 @@ void RecordForm::Wire() {
     connect(actions_, &ActionBar::CloseClicked, this, &RecordForm::SaveAndClose);
     connect(actions_, &ActionBar::CancelClicked, this, &QWidget::close);
     connect(actions_, &ActionBar::HelpClicked, this, [this] { ShowHelp(*this); });
+    bar_ = new RecordBar(*this, place_.kind,
+                         {[this] { Apply(); }, [this] { SaveAndClose(); },
+                          [this] {
+                              if (dirty_ || id_ == 0) Apply();
+                              return !dirty_ && id_ != 0;
+                          }});
 }
 
-void RecordForm::OpenRecord(std::int32_t id, const std::function<void()>& fillLists) {
+std::vector<Subject> RecordForm::Subjects() const {
+    return {{place_.kind, id_}};
+}
+
+void RecordForm::ShowSubjects() {
+    if (bar_) bar_->Show(Subjects());
+}
+
+void RecordForm::OpenRecord(std::int32_t id, const std::function<void()>& fillLists,
+                            std::function<void()> propose) {
     const LoadingGuard loading(*this);
     id_ = id;
     dirty_ = false;
+    propose_ = std::move(propose);
+    read_.clear();
+    fields_.Forget();
     binding::SetTag(*this, {});
     // A list that can't be filled to its end is no reason not to open.
     Guarded(fillLists);
+    fields_.KeepBlanks(*this);
     if (id_ != 0) Guarded([this] { Load(); });
+    if (id_ == 0 && propose_ && read_.empty()) Guarded(propose_);
     ShowCaption();
+    ShowSubjects();
     ShowDirty();
     Open();
 }
@@ -52,49 +74,76 @@ void RecordForm::FindRow(platform::Recordset& row) {
 }
 
 void RecordForm::FindRowToWrite(platform::Recordset& row) {
+    writesNewRow_ = false;
     if (id_ != 0) {
         FindRow(row);
         if (!row.Eof()) return;
     } else {
         row.Open(App().Connection, place_.table, platform::CursorMode::AppendOnly);
     }
+    writesNewRow_ = true;
     row.AddNew();
+    for (const auto& [field, value] : read_)
+        row[field].Set(value);
     if (id_ == 0) id_ = NextId();
     row[place_.idField].Set(id_);
 }
 
+void RecordForm::FillListsFor(platform::Recordset& /*row*/) {}
+
 void RecordForm::ShowRow(platform::Recordset& row) {
-    binding::BindFromRecord(*this, row);
+    fields_.Show(*this, row);
 }
 
 void RecordForm::WriteRow(platform::Recordset& row) {
-    binding::BindToRecord(*this, row);
+    fields_.Write(*this, row,
+                  writesNewRow_ ? binding::WriteFields::All : binding::WriteFields::Touched);
 }
 
 void RecordForm::Store() {
+    platform::UnitOfWork unit(App().Connection);
     platform::Recordset row;
     FindRowToWrite(row);
     WriteRow(row);
     row.Update();
+    unit.Commit();
 }
 
 void RecordForm::Load() {
     platform::Recordset row;
     FindRow(row);
     if (row.Eof()) {
+        // The screen goes on with a new record of the same contents.
         id_ = 0;
+        read_.clear();
+        fields_.Forget();
         binding::SetTag(*this, {});
         RowMissing();
     } else {
+        read_ = FieldsOf(row);
+        FillListsFor(row);
         ShowRow(row);
         binding::SetTag(*this, id_ == 0 ? std::string() : std::to_string(id_));
     }
+    ShowDeleted(false);
     ShowCaption();
+    ShowSubjects();
+    fields_.Settle(*this);
 }
 
 bool RecordForm::Save() {
-    if (!ShowErrorRoll(AllErrors()) || !Agreed()) return false;
-    Store();
+    if (!ShowErrorRoll(AllErrors())) return false;
+    const RowState state = FindState();
+    if (state == RowState::Deleted && !AgreedToRestore()) return false;
+    if (!Agreed()) return false;
+    const QScopedValueRollback storing(storing_, true);
+    const std::int32_t idBefore = id_;
+    try {
+        if (dirty_ || state != RowState::Stored) Store();
+    } catch (...) {
+        id_ = idBefore;
+        throw;
+    }
     NotifyAll(place_.kind, kRecordsChanged, 0);
     dirty_ = false;
     AfterSave();
@@ -103,7 +152,7 @@ bool RecordForm::Save() {
 
 void RecordForm::Apply() {
     const LoadingGuard loading(*this);
-    Guarded([this] {
+    Perform([this] {
         if (Save()) Load();
     });
     ShowDirty();
@@ -111,7 +160,7 @@ void RecordForm::Apply() {
 
 void RecordForm::SaveAndClose() {
     bool saved = false;
-    Guarded([&] { saved = Save(); });
+    Perform([&] { saved = Save(); });
     ShowDirty();
     if (saved) close();
 }
@@ -128,21 +177,24 @@ bool RecordForm::MayClose() {
                                            platform::Icon::Question);
 }
 
-void RecordForm::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
-    const LoadingGuard loading(*this);
-    Refresh(kind);
-}
-
 void RecordForm::Refresh(std::int16_t /*kind*/) {}
 
+void RecordForm::FollowOthers(const binding::Controls& /*touched*/) {}
+
 void RecordForm::ShowDirty() {
-    if (actions_) actions_->Apply().setEnabled(dirty_);
+    if (actions_) {
+        actions_->Apply().setEnabled(dirty_);
+        actions_->Apply().setToolTip(dirty_ ? tr("Save and stay") : tr("Nothing was changed"));
+    }
+    if (bar_) bar_->SetCanApply(dirty_);
 }
 
-/// The screen's own lines, and one for each typed day that is none.
+/// The screen's own lines, and one for each typed date that isn't valid. A stored text that isn't a
+/// date keeps nobody from saving the rest.
 std::vector<std::string> RecordForm::AllErrors() {
     std::vector<std::string> lines = Errors();
-    std::ranges::move(binding::DayErrors(*this), std::back_inserter(lines));
+    const auto touched = [this](const QWidget& box) { return IsTouched(box); };
+    std::ranges::move(binding::DayErrors(*this, touched), std::back_inserter(lines));
     return lines;
 }
 

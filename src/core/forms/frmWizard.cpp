@@ -108,13 +108,13 @@ void frmWizard::closeEvent(QCloseEvent* event) {
 /// A button is known by the first four letters of its word.
 void frmWizard::Act(const std::string& tag) {
     const std::string word = tag.substr(0, 4);
-    Guarded([&] {
+    if (word == "CANC") close();
+    if (word == "FINI") FinishAndClose();
+    Perform([&] {
         if (word == "HELP") ShowHelp(*this);
-        if (word == "CANC") close();
         if (word == "BACK") GoTo(Step() - 1);
         if (word == "NEXT") GoTo(Step() + 1);
         if (word == "STEP") GoTo(platform::StrToInt32(tag.substr(4)));
-        if (word == "FINI") FinishAndClose();
     });
 }
 
@@ -139,9 +139,13 @@ void frmWizard::ShowButtons() {
 }
 
 void frmWizard::FinishAndClose() {
-    if (!ShowErrorRoll(StepErrors(Step()))) return;
-    Finish();
-    close();
+    bool finished = false;
+    Perform([&] {
+        if (!ShowErrorRoll(StepErrors(Step()))) return;
+        Finish();
+        finished = true;
+    });
+    if (finished) close();
 }
 
 int frmWizard::LastStep() const {

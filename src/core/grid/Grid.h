@@ -39,6 +39,7 @@ class Grid : public QTableView {
 
     /// What an empty grid says instead.
     void SetEmptyText(const QString& text);
+    const QString& EmptyText() const { return emptyText_; }
     /// The selected rows without the hidden columns, cells parted by tabs, a line each.
     QString SelectedText() const;
     void CopySelection() const;

@@ -23,11 +23,8 @@ RecordList::RecordList(QWidget* parent)
     : QWidget(parent), grid_(new Grid(this)), head_(new QHBoxLayout) {
     setProperty("panel", true);
     add_ = MakeButton("add", tr("Add"), QStringLiteral("cmdAdd"));
-    add_->setToolTip(tr("Add a new one (Insert)"));
     edit_ = MakeButton("edit", tr("Edit"), QStringLiteral("cmdEdit"));
-    edit_->setToolTip(tr("Open the selected one (Enter)"));
     delete_ = MakeButton("delete", tr("Delete"), QStringLiteral("cmdDelete"));
-    delete_->setToolTip(tr("Delete the selected one (Delete)"));
 
     grid_->setObjectName(QStringLiteral("grd"));
     grid_->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -50,7 +47,12 @@ RecordList::RecordList(QWidget* parent)
 }
 
 RecordList::~RecordList() {
-    SaveColumnWidths(*grid_);
+    KeepWidths();
+}
+
+/// The widths of a list that was never seen are nobody's choice.
+void RecordList::KeepWidths() {
+    if (wasSeen_) SaveColumnWidths(*grid_);
 }
 
 void RecordList::SetHead(QWidget* head) {
@@ -66,7 +68,7 @@ void RecordList::SetHead(QWidget* head) {
 void RecordList::ShowRows(platform::Recordset rows, std::string_view gridKey) {
     const std::int32_t id = grid_->SelectedId();
     const int scrolled = grid_->verticalScrollBar()->value();
-    SaveColumnWidths(*grid_);
+    KeepWidths();
     binding::SetTag(*grid_, gridKey);
     LoadGrid(*grid_, std::move(rows));
     SizeColumns(*grid_, kFirstShown);
@@ -80,7 +82,7 @@ void RecordList::ShowRows(platform::Recordset rows, std::string_view gridKey) {
 }
 
 void RecordList::ShowNothing(const QString& reason) {
-    SaveColumnWidths(*grid_);
+    KeepWidths();
     grid_->Model().SetRows({});
     grid_->SetEmptyText(reason);
     ShowAvailable();
@@ -114,6 +116,7 @@ void RecordList::Connect() {
 }
 
 bool RecordList::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == grid_ && event->type() == QEvent::Show) wasSeen_ = true;
     if (watched == grid_ && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         QToolButton* const button = key == Qt::Key_Insert   ? add_
@@ -140,6 +143,13 @@ void RecordList::ShowAvailable() {
     add_->setEnabled(mayAdd_);
     edit_->setEnabled(mayEdit_ && hasRow);
     delete_->setEnabled(mayDelete_ && hasRow);
+    const QString nothing = tr("Select a row first");
+    const QString unsaved = tr("Press Apply to save this record first");
+    add_->setToolTip(mayAdd_ ? tr("Add a new one (Insert)") : unsaved);
+    edit_->setToolTip(!mayEdit_ ? unsaved : hasRow ? tr("Open the selected one (Enter)") : nothing);
+    delete_->setToolTip(!mayDelete_ ? unsaved
+                        : hasRow    ? tr("Delete the selected one (Delete)")
+                                    : nothing);
 }
 
 } // namespace core::grid

@@ -49,12 +49,14 @@ class RecordList : public QWidget {
     void AskToEdit();
     void AskToDelete();
     void ShowAvailable();
+    void KeepWidths();
 
     Grid* grid_;
     QHBoxLayout* head_;
     QToolButton* add_;
     QToolButton* edit_;
     QToolButton* delete_;
+    bool wasSeen_ = false;
     bool mayAdd_ = false;
     bool mayEdit_ = false;
     bool mayDelete_ = false;

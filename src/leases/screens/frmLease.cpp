@@ -3,6 +3,7 @@
 #include <QMenuBar>
 #include <QVBoxLayout>
 
+#include "core/Descriptions.h"
 #include "core/EditRecord.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
@@ -41,10 +42,7 @@ frmLease::frmLease(QWidget* parent)
       terms_(std::make_unique<Ui::frmLeaseTerms>()),
       fees_(std::make_unique<Ui::frmLeaseFees>()),
       more_(std::make_unique<Ui::frmLeaseMore>()),
-      notes_(std::make_unique<Ui::frmLeaseNotes>()),
-      leaseToken_([this](std::int16_t kind, std::int16_t, std::int32_t id) {
-          if (kind == core::kLease && id != 0 && id == Id()) LeaseChanged();
-      }) {
+      notes_(std::make_unique<Ui::frmLeaseNotes>()) {
     ui_->setupUi(this);
     terms_->setupUi(ui_->tabTerms);
     fees_->setupUi(ui_->tabFees);
@@ -125,10 +123,8 @@ void frmLease::Setup(std::int32_t idLease) {
     }
     const bool isStored = idLease != 0 && found;
     age_ = isStored ? LeaseAge::Stored : LeaseAge::New;
-    OpenRecord(isStored ? idLease : 0, [&] {
-        FillLists();
-        if (!isStored) ShowProposal();
-    });
+    OpenRecord(
+        isStored ? idLease : 0, [this] { FillLists(); }, [this] { ShowProposal(); });
 }
 
 void frmLease::FillLists() {
@@ -146,7 +142,11 @@ void frmLease::FillLists() {
 }
 
 void frmLease::FillPayors() {
-    FillList(GetSelectedId(*more_->cboSubsidyType), *more_->cboSubsidy, {.addNone = true});
+    FillPayorsOf(GetSelectedId(*more_->cboSubsidyType));
+}
+
+void frmLease::FillPayorsOf(std::int32_t kind) {
+    FillList(kind, *more_->cboSubsidy, {.addNone = true});
 }
 
 /// What a new lease starts with is shown as a stored one is, and never stored by that.
@@ -157,21 +157,18 @@ void frmLease::ShowProposal() {
     ShowEnabled();
 }
 
+void frmLease::FillListsFor(platform::Recordset& row) {
+    const std::int32_t kind = platform::IdOf(row["SubsidyType"]);
+    FillPayorsOf(kind == 0 ? core::kAccount : kind);
+}
+
 void frmLease::ShowRow(platform::Recordset& row) {
     RecordForm::ShowRow(row);
-    // A word that isn't offered stays the lease's until another is chosen.
-    for (QComboBox* const combo : {terms_->cboTermType, terms_->cboExpireOption}) {
-        const auto word = row[core::binding::FieldOfTag(core::binding::TagOf(*combo))];
-        core::binding::SelectByText(*combo, platform::TextOf(word), {.setText = true});
-    }
-    // The list of payors depends on a field that may be bound after it.
-    FillPayors();
-    SelectById(*more_->cboSubsidy, platform::IdOf(row["SubsidyId"]), {.selectFirst = true});
     ShowEnabled();
 }
 
 void frmLease::WriteRow(platform::Recordset& row) {
-    core::binding::BindToRecord(*this, row);
+    RecordForm::WriteRow(row);
     SaveLease(row, age_);
 }
 
@@ -249,9 +246,12 @@ void frmLease::ShowAvailable() {
     terms_->dpDateVacating->setEnabled(can.dateVacating);
     const LoadingGuard loading(*this);
     if (can.blankVacating) terms_->dpDateVacating->clear();
-    // Where the tenant or the unit has gone another can be chosen, or nothing could be saved.
-    for (QComboBox* const party : {terms_->cboIdTenant, terms_->cboIdUnit})
-        party->setEnabled(can.parties || GetSelectedId(*party) == 0);
+    // Another can be chosen if the tenant or the unit was deleted, or nothing could be saved.
+    const auto isThere = [](std::int16_t kind, const QComboBox& party) {
+        return core::RecordExists(kind, GetSelectedId(party));
+    };
+    terms_->cboIdTenant->setEnabled(can.parties || !isThere(core::kTenant, *terms_->cboIdTenant));
+    terms_->cboIdUnit->setEnabled(can.parties || !isThere(core::kUnit, *terms_->cboIdUnit));
 }
 
 /// What one choice makes another depend on.
@@ -283,19 +283,7 @@ void frmLease::ShowBalances() {
     }
 }
 
-void frmLease::LeaseChanged() {
-    const LoadingGuard loading(*this);
-    if (!Dirty()) return Load();
-    platform::Recordset row;
-    FindRow(row);
-    if (row.Eof()) return;
-    // What the books themselves move must not be overwritten by the next save.
-    for (QWidget* const control : std::initializer_list<QWidget*>{
-             ui_->txtStatus, ui_->txtRentStatus, terms_->dpDateNextDue}) {
-        const std::string tag = core::binding::TagOf(*control);
-        const auto field = row[core::binding::FieldOfTag(tag)];
-        if (!field.IsNull()) core::binding::ShowValue(*control, tag.front(), field.Value());
-    }
+void frmLease::FollowOthers(const core::binding::Controls& /*touched*/) {
     ShowAvailable();
     ShowBalances();
 }

@@ -39,12 +39,14 @@ class frmLease : public core::forms::RecordForm {
     void Setup(std::int32_t idLease);
 
   protected:
+    void FillListsFor(platform::Recordset& row) override;
     void ShowRow(platform::Recordset& row) override;
     void WriteRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
+    void FollowOthers(const core::binding::Controls& touched) override;
 
   private:
     void MakeMenu();
@@ -52,6 +54,7 @@ class frmLease : public core::forms::RecordForm {
     void Connect();
     void FillLists();
     void FillPayors();
+    void FillPayorsOf(std::int32_t kind);
     void ShowProposal();
 
     void DateActiveChanged();
@@ -60,8 +63,6 @@ class frmLease : public core::forms::RecordForm {
     void ShowAvailable();
     void ShowParts();
     void ShowBalances();
-    /// The lease was changed elsewhere: what is typed here and not saved stays.
-    void LeaseChanged();
     void Run(LeaseCommand command);
     void Zoom(std::int16_t kind);
 
@@ -76,7 +77,6 @@ class frmLease : public core::forms::RecordForm {
     /// Until a save has succeeded, also where one failed midway.
     LeaseAge age_ = LeaseAge::New;
     bool saved_ = false;
-    core::NotifyToken leaseToken_;
 };
 
 } // namespace leases::screens

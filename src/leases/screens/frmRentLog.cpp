@@ -46,13 +46,17 @@ frmRentLog::~frmRentLog() = default;
 void frmRentLog::Setup(std::int32_t id, std::int32_t idLease, RentClass rentClass) {
     entry_ = {.idLease = idLease, .rentClass = rentClass};
     const bool isNew = id == 0 || !IsThere(id);
-    OpenRecord(isNew ? 0 : id, [this, rentClass] {
-        for (const std::string& word : ChargeCategories(rentClass))
-            ui_->cboCategory->addItem(ToScreen(word));
-        ui_->cboCategory->setCurrentIndex(ui_->cboCategory->count() - 1);
-        ui_->dpDatePosted->SetDay(platform::Today());
-        ui_->txtAmount->SetAmount({});
-    });
+    OpenRecord(
+        isNew ? 0 : id,
+        [this, rentClass] {
+            for (const std::string& word : ChargeCategories(rentClass))
+                ui_->cboCategory->addItem(ToScreen(word));
+        },
+        [this] {
+            ui_->cboCategory->setCurrentIndex(ui_->cboCategory->count() - 1);
+            ui_->dpDatePosted->SetDay(platform::Today());
+            ui_->txtAmount->SetAmount({});
+        });
     ui_->txtAmount->setFocus();
     ui_->txtAmount->selectAll();
 }
@@ -66,17 +70,15 @@ void frmRentLog::ShowRow(platform::Recordset& row) {
 }
 
 void frmRentLog::WriteRow(platform::Recordset& row) {
-    const auto amount = ui_->txtAmount->Amount();
-    if (!amount) {
-        throw platform::ConversionError("\"" + FromScreen(ui_->txtAmount->text()) +
-                                        "\" is not an amount of money");
+    RecordForm::WriteRow(row);
+    if (IsTouched(*ui_->txtAmount)) row["Amount"].Set(InCents(row["Amount"].AsCurrency()));
+    if (WritesNewRow()) {
+        row["IdLease"].Set(entry_.idLease);
+        row["IdTransaction"].Set(entry_.idTransaction);
+        row["Class"].Set(static_cast<std::int16_t>(entry_.rentClass));
+        row["Flags"].Set(static_cast<std::int16_t>(entry_.flags));
     }
-    RentLogEntry entry = entry_;
-    entry.datePosted = ui_->dpDatePosted->Day().value_or(platform::Date());
-    entry.category = FromScreen(ui_->cboCategory->currentText());
-    entry.amount = *amount;
-    entry.description = FromScreen(ui_->txtDescription->text());
-    SaveCharge(row, entry);
+    SaveCharge(row);
 }
 
 void frmRentLog::ShowCaption() {

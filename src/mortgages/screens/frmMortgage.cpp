@@ -6,7 +6,6 @@
 #include "core/Configuration.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "core/binding/Binding.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/EnableContainer.h"
 #include "core/forms/ErrorRoll.h"
@@ -71,6 +70,7 @@ void frmMortgage::Connect() {
     }
     connect(origin_->cmdMaxRates, &QPushButton::clicked, this, [this] {
         loan_.SetMaxRates();
+        loanChanged_ = true;
         Reckon();
         MarkDirty();
     });
@@ -79,14 +79,19 @@ void frmMortgage::Connect() {
 }
 
 void frmMortgage::Setup(std::int32_t idMortgage, std::int32_t parentBuilding) {
-    OpenRecord(idMortgage, [&] {
-        FillList(core::kBuilding, *general_->cboIdBuilding,
-                 {.selectedId = parentBuilding, .addNone = true});
-        for (const std::int16_t kind : {core::kMortgageeAccount, core::kAccount})
-            FillAccounts(kind);
-        core::binding::SelectById(*general_->cboIdMortgagee, core::Config().DefaultMortgagee);
-        if (idMortgage == 0) ShowTerms();
-    });
+    OpenRecord(
+        idMortgage,
+        [&] {
+            FillList(core::kBuilding, *general_->cboIdBuilding,
+                     {.selectedId = parentBuilding, .addNone = true});
+            for (const std::int16_t kind : {core::kMortgageeAccount, core::kAccount})
+                FillAccounts(kind);
+        },
+        [this] {
+            core::binding::OfferId(*general_->cboIdMortgagee, core::Config().DefaultMortgagee);
+            core::binding::SelectById(*general_->cboIdMortgagee, core::Config().DefaultMortgagee);
+            ShowTerms();
+        });
 }
 
 void frmMortgage::FillAccounts(std::int16_t kind) {
@@ -103,6 +108,7 @@ void frmMortgage::ShowRow(platform::Recordset& row) {
     loan_ = clsMortgage();
     loan_.LoadRS(row);
     storedPeriod_ = loan_.CurrentPeriod();
+    loanChanged_ = false;
     ShowTerms();
 }
 
@@ -130,7 +136,8 @@ void frmMortgage::Store() {
     try {
         platform::Recordset row;
         FindRowToWrite(row);
-        core::binding::BindToRecord(*this, row);
+        WriteRow(row);
+        KeepWhatMoved(row);
         loan_.SetDescription(FromScreen(general_->txtDescription->text()));
         SettleRemainder(loan_);
         SaveMortgage(row, loan_, FromScreen(general_->cboIdMortgagee->currentText()));
@@ -142,6 +149,16 @@ void frmMortgage::Store() {
     }
     storedPeriod_ = loan_.CurrentPeriod();
     storing_ = false;
+}
+
+/// What a payment, or another program, has done to the stored loan since it was read stays done.
+void frmMortgage::KeepWhatMoved(platform::Recordset& row) {
+    if (WritesNewRow()) return;
+    clsMortgage stored;
+    stored.LoadRS(row);
+    if (loanChanged_ && stored.CurrentPeriod() == storedPeriod_) return;
+    loan_ = stored;
+    if (loanChanged_) ReadTerms();
 }
 
 void frmMortgage::AfterSave() {

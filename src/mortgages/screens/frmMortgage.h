@@ -71,6 +71,7 @@ class frmMortgage : public core::forms::RecordForm {
     void OpenRateChange();
     void OpenBalanceChange();
     void FollowPayment();
+    void KeepWhatMoved(platform::Recordset& row);
 
     std::unique_ptr<Ui::frmMortgage> ui_;
     std::unique_ptr<Ui::frmMortgageGeneral> general_;
@@ -85,6 +86,7 @@ class frmMortgage : public core::forms::RecordForm {
     clsMortgage loan_;
     /// The current period as it is stored; a payment moves it behind this screen's back.
     std::int16_t storedPeriod_ = 0;
+    bool loanChanged_ = false; ///< by the user, since it was read
     bool saved_ = false;
     bool storing_ = false;
 };

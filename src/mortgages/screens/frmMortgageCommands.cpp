@@ -64,6 +64,7 @@ void frmMortgage::Run(MortgageCommand command) {
 void frmMortgage::MoveDueDate(int periods) {
     if (!AskToMoveDueDate(periods > 0)) return;
     loan_.SetCurrentPeriod(loan_.CurrentPeriod() + periods);
+    loanChanged_ = true;
     ShowCurrent();
     MarkDirty();
 }
@@ -72,6 +73,7 @@ void frmMortgage::OpenRateChange() {
     auto* const form = new frmMortgageAdjust(this);
     connect(form, &frmMortgageAdjust::RateGiven, this, [this](int period, double rate) {
         loan_.SetRate(period, rate);
+        loanChanged_ = true;
         Reckon();
         MarkDirty();
     });
@@ -83,6 +85,7 @@ void frmMortgage::OpenBalanceChange() {
     connect(form, &frmMortgageAdjust::BalanceGiven, this,
             [this](platform::Date day, platform::Currency balance, double rate) {
                 loan_.BalanceMtg(day, balance.ToDouble(), rate);
+                loanChanged_ = true;
                 Reckon();
                 MarkDirty();
             });

@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <algorithm>
+#include <cmath>
 
 #include "mortgages/screens/AmortPage.h"
 #include "mortgages/screens/frmMortgage.h"
@@ -51,7 +52,8 @@ void ShowAmount(QLineEdit& box, double amount) {
 void frmMortgage::ShowTerms() {
     const LoadingGuard loading(*this);
     ShowAmount(*origin_->txtOrigPV, loan_.OrigPV());
-    ShowNumber(*origin_->txtOrigPer, loan_.OrigPer());
+    // Whole periods: the terms of older books are solved from their payment, as 360.0093213495.
+    ShowNumber(*origin_->txtOrigPer, std::round(loan_.OrigPer()));
     ShowNumber(*origin_->txtOrigRate, loan_.OrigRate());
     origin_->dpDue->SetStoredText(ToScreen(loan_.FirstDue()));
     ShowAmount(*origin_->txtXPriAll, loan_.GetXPRI(0));
@@ -99,6 +101,7 @@ void frmMortgage::ReadTerms() {
 
 void frmMortgage::TermsChanged() {
     if (Loading()) return;
+    loanChanged_ = true;
     ReadTerms();
     Reckon();
 }

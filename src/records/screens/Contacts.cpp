@@ -6,11 +6,9 @@
 #include <QSignalBlocker>
 
 #include "core/binding/AddressBox.h"
-#include "core/binding/Binding.h"
 #include "core/binding/Wiring.h"
 #include "core/forms/ErrorRoll.h"
 #include "platform/qt/Text.h"
-#include "records/screens/ResetFields.h"
 #include "ui_Contacts.h"
 
 namespace records::screens {
@@ -45,9 +43,10 @@ Contacts::~Contacts() = default;
 void Contacts::Wire() {
     using core::binding::AddressKind;
     core::binding::WireControls(*this);
+    fields_.KeepBlanks(*ui_->fields);
     core::binding::FillPlaceByZip(*ui_->txtZip, {ui_->txtCity, ui_->txtState});
-    core::binding::OpenOnClick(*ui_->txtEmail, AddressKind::Mail);
-    core::binding::OpenOnClick(*ui_->txtWeb, AddressKind::Web);
+    core::binding::OpenByIcon(*ui_->txtEmail, AddressKind::Mail);
+    core::binding::OpenByIcon(*ui_->txtWeb, AddressKind::Web);
     core::binding::ConnectChanges(*ui_->fields, *this, [this] {
         if (showing_ || id_ == 0) return;
         changed_ = true;
@@ -72,7 +71,7 @@ void Contacts::SaveCurrent() {
     if (!changed_ || id_ == 0) return;
     platform::Recordset row;
     OpenContact(row, id_, owner_);
-    core::binding::BindToRecord(*ui_->fields, row);
+    fields_.Write(*ui_->fields, row, core::binding::WriteFields::Touched);
     row.Update();
     changed_ = false;
     for (int i = 0; i < ui_->lvwContacts->count(); ++i) {
@@ -125,14 +124,14 @@ void Contacts::FillContacts(std::int32_t idSelected) {
 
 void Contacts::ShowCurrent() {
     showing_ = true;
-    ResetFields(*ui_->fields, {});
+    fields_.ShowBlanks(*ui_->fields);
     ui_->fields->setEnabled(id_ != 0);
     ui_->cmdDelete->setEnabled(id_ != 0);
     Guarded([this] {
         if (id_ == 0) return;
         platform::Recordset row;
         OpenContact(row, id_, owner_);
-        core::binding::BindFromRecord(*ui_->fields, row);
+        fields_.Show(*ui_->fields, row);
     });
     changed_ = false;
     showing_ = false;

@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <memory>
 
+#include "core/binding/ShownFields.h"
 #include "records/ContactRows.h"
 
 class QListWidgetItem;
@@ -40,6 +41,7 @@ class Contacts : public QWidget {
     void ShowCurrent();
 
     std::unique_ptr<Ui::Contacts> ui_;
+    core::binding::ShownFields fields_;
     RelatedOwner owner_;
     std::int32_t id_ = 0; ///< of the contact in the fields
     bool changed_ = false;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/forms/ErrorRoll.h"
+#include "platform/qt/Text.h"
 #include "removal/DeleteRecord.h"
 
 namespace records::screens {
@@ -29,8 +30,13 @@ void RelatedPanel::Reload() {
         return;
     }
     const bool canOpen = core::HasEditor(list_->kind);
-    Allow(canOpen, canOpen, true);
-    ShowRows(OpenRelated(*list_, owner_), list_->gridKey);
+    try {
+        ShowRows(OpenRelated(*list_, owner_), list_->gridKey);
+        Allow(canOpen, canOpen, true);
+    } catch (const std::exception& failure) {
+        Allow(canOpen, false, false);
+        ShowNothing(tr("This list can't be read: %1").arg(platform::qt::ToScreen(failure.what())));
+    }
 }
 
 void RelatedPanel::Open(std::int32_t id) {

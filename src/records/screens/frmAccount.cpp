@@ -1,5 +1,7 @@
 #include "records/screens/frmAccount.h"
 
+#include <algorithm>
+
 #include "books/screens/General_Ledger.h"
 #include "core/Configuration.h"
 #include "core/RecordKinds.h"
@@ -30,8 +32,8 @@ frmAccount::frmAccount(QWidget* parent)
     core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
     details_->cboAccountType->setFocus();
     core::binding::FillPlaceByZip(*details_->txtZip, {details_->txtCity, details_->txtState});
-    core::binding::OpenOnClick(*details_->txtEmail, AddressKind::Mail);
-    core::binding::OpenOnClick(*details_->txtWeb, AddressKind::Web);
+    core::binding::OpenByIcon(*details_->txtEmail, AddressKind::Mail);
+    core::binding::OpenByIcon(*details_->txtWeb, AddressKind::Web);
     connect(details_->cboAccountType, &QComboBox::currentTextChanged, this,
             &frmAccount::ShowSecrets);
 }
@@ -46,13 +48,13 @@ void frmAccount::MakePanels() {
 }
 
 void frmAccount::Setup(std::int32_t id, std::string_view newType) {
-    OpenRecord(id, [this, id, newType] {
-        FillTypes();
-        if (id != 0) return;
-        core::binding::SelectByText(*details_->cboAccountType, newType, {.setText = true});
-        details_->txtState->setText(ToScreen(core::Config().DefaultState));
-        details_->txtBalance->setText(QStringLiteral("0.00"));
-    });
+    OpenRecord(
+        id, [this] { FillTypes(); },
+        [this, newType = std::string(newType)] {
+            core::binding::SelectByText(*details_->cboAccountType, newType, {.setText = true});
+            details_->txtState->setText(ToScreen(core::Config().DefaultState));
+            details_->txtBalance->setText(QStringLiteral("0.00"));
+        });
     ShowSecrets();
 }
 
@@ -63,7 +65,13 @@ void frmAccount::ShowRow(platform::Recordset& row) {
 
 void frmAccount::WriteRow(platform::Recordset& row) {
     RecordForm::WriteRow(row);
-    row["ShowAs"].Set(ShowAs(Name()));
+    const std::initializer_list<const QWidget*> parts = {
+        details_->txtCompany, details_->txtLastName, details_->txtFirstName, details_->txtInitial,
+        details_->chkShowAsIndividual};
+    if (WritesNewRow() ||
+        std::ranges::any_of(parts, [this](const QWidget* part) { return IsTouched(*part); })) {
+        row["ShowAs"].Set(ShowAs(Name()));
+    }
 }
 
 void frmAccount::ShowCaption() {

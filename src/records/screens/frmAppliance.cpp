@@ -9,12 +9,12 @@
 #include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
 #include "records/screens/RelatedDBs.h"
-#include "records/screens/StoredLinks.h"
 #include "ui_frmAppliance.h"
 #include "ui_frmApplianceDetails.h"
 
 namespace records::screens {
 
+using core::binding::FillList;
 using platform::qt::FromScreen;
 
 frmAppliance::frmAppliance(QWidget* parent)
@@ -36,15 +36,9 @@ void frmAppliance::Setup(std::int32_t id, std::int32_t parentUnit) {
         LoadPickFields(*this);
         core::binding::FillFromCommaList(*details_->cboDeprMethod, kStraightLine);
         core::binding::SelectByText(*details_->cboDeprMethod, kStraightLine);
-        FillAccountList(core::kVendorAccount, *details_->cboVendor);
-        FillUnitList(*details_->cboUnit, NoneRow::Yes, parentUnit);
+        FillList(core::kVendorAccount, *details_->cboVendor, {.addNone = true});
+        FillList(core::kUnit, *details_->cboUnit, {.selectedId = parentUnit, .addNone = true});
     });
-}
-
-void frmAppliance::ShowRow(platform::Recordset& row) {
-    OfferStoredAccounts({details_->cboVendor}, row);
-    OfferStoredUnit(*details_->cboUnit, row);
-    RecordForm::ShowRow(row);
 }
 
 void frmAppliance::ShowCaption() {
@@ -67,10 +61,10 @@ void frmAppliance::AfterSave() {
 
 void frmAppliance::Refresh(std::int16_t kind) {
     if (kind == core::kUnit || kind == core::kBuilding) {
-        FillUnitList(*details_->cboUnit, NoneRow::Yes);
+        FillList(core::kUnit, *details_->cboUnit, {.addNone = true});
     }
     if (kind == core::kAccount) {
-        FillAccountList(core::kVendorAccount, *details_->cboVendor);
+        FillList(core::kVendorAccount, *details_->cboVendor, {.addNone = true});
     }
 }
 

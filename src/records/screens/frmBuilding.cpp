@@ -2,22 +2,18 @@
 
 #include "records/screens/frmBuilding.h"
 
-#include <QScopedValueRollback>
-
 #include "core/Configuration.h"
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
-#include "core/binding/Binding.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
 #include "records/BuildingRules.h"
 #include "records/FurnishingRules.h"
 #include "records/screens/PickFields.h"
-#include "records/screens/ResetFields.h"
-#include "records/screens/StoredLinks.h"
 #include "ui_frmBuilding.h"
 #include "ui_frmBuildingFinancial.h"
 #include "ui_frmBuildingPlace.h"
@@ -26,9 +22,10 @@
 
 namespace records::screens {
 
-using core::binding::BindFromRecord;
 using core::binding::FillFromCommaList;
 using core::binding::FillList;
+using core::binding::ShownFields;
+using core::binding::WriteFields;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -46,7 +43,9 @@ void FindById(platform::Recordset& row, std::string_view table, std::int32_t id)
 } // namespace
 
 frmBuilding::frmBuilding(QWidget* parent)
-    : RecordForm({core::kBuilding, std::string(kBuildingTable), "IdBuilding"}, parent),
+    : RecordForm(
+          {core::kBuilding, std::string(kBuildingTable), "IdBuilding", std::string(kBuildingTable)},
+          parent),
       ui_(std::make_unique<Ui::frmBuilding>()),
       place_(std::make_unique<Ui::frmBuildingPlace>()),
       unit_(std::make_unique<Ui::frmBuildingUnit>()),
@@ -69,10 +68,13 @@ frmBuilding::~frmBuilding() = default;
 void frmBuilding::Setup(std::int32_t idBuilding, std::int32_t idUnit, std::int32_t fromUnit) {
     idUnit_ = idUnit;
     if (idBuilding == 0 && idUnit != 0) idBuilding = core::GetUnitBuilding(idUnit);
-    OpenRecord(idBuilding, [&] {
-        FillLists();
-        if (idBuilding == 0) Propose(fromUnit);
-    });
+    OpenRecord(
+        idBuilding,
+        [this] {
+            FillLists();
+            unitFields_.KeepBlanks(*this);
+        },
+        [this, fromUnit] { Propose(fromUnit); });
     place_->txtAddress->setFocus();
 }
 
@@ -90,7 +92,7 @@ void frmBuilding::FillLists() {
 void frmBuilding::FillAccounts() {
     const auto fill = [](std::int16_t kind, std::initializer_list<QComboBox*> lists) {
         for (QComboBox* const list : lists)
-            FillAccountList(kind, *list);
+            FillList(kind, *list, {.addNone = true});
     };
     fill(core::kAccount, {services_->cboHOAAccount, services_->cboSecAccount});
     fill(core::kInsuranceAccount, {services_->cboInsurance});
@@ -113,23 +115,20 @@ void frmBuilding::Propose(std::int32_t fromUnit) {
     place_->txtCounty->setText(ToScreen(core::Config().DefaultCounty));
     place_->txtState->setText(ToScreen(core::Config().DefaultState));
     if (fromUnit == 0) return;
+    // Shown as of a stored building, so that no list loses what it doesn't offer, and then the
+    // contents of a new one.
+    ShownFields building{std::string(kBuildingTable)};
+    ShownFields unit{std::string(kUnitTable)};
     platform::Recordset row;
     FindById(row, kBuildingTable, core::GetUnitBuilding(fromUnit));
-    if (!row.Eof()) BindFromRecord(*this, row, kBuildingTable);
+    if (!row.Eof()) building.Show(*this, row);
     FindById(row, kUnitTable, fromUnit);
-    if (!row.Eof()) BindFromRecord(*this, row, kUnitTable);
+    if (!row.Eof()) unit.Show(*this, row);
 }
 
 void frmBuilding::ShowRow(platform::Recordset& row) {
-    ResetFields(*this, kBuildingTable);
-    financial_->cboDeprMethod->setCurrentIndex(0);
-    OfferStoredAccounts(
-        {services_->cboHOAAccount, services_->cboSecAccount, services_->cboInsurance,
-         services_->cboElectricAccount, services_->cboWaterAccount, services_->cboGasAccount,
-         services_->cboSewageAccount, services_->cboCableAccount, services_->cboTrashAccount},
-        row);
-    BindFromRecord(*this, row, kBuildingTable);
-    multi_ = row["Multi"].AsBoolean();
+    RecordForm::ShowRow(row);
+    multi_ = platform::FlagOf(row["Multi"]);
     ShowUnit();
 }
 
@@ -141,10 +140,8 @@ void frmBuilding::ShowUnit() {
     }
     platform::Recordset row;
     FindById(row, kUnitTable, idUnit_);
-    ResetFields(*this, kUnitTable);
-    unit_->cboUnitStatus->setCurrentIndex(0);
-    if (!row.Eof()) BindFromRecord(*this, row, kUnitTable);
-    storedStatus_ = unit_->cboUnitStatus->currentText();
+    unitFields_.ShowBlanks(*this);
+    if (!row.Eof()) unitFields_.Show(*this, row);
 }
 
 void frmBuilding::RowMissing() {
@@ -160,6 +157,10 @@ void frmBuilding::ShowCaption() {
                                  : tr("Editing Building: %1").arg(address));
     FillUnits();
     ShowPanels();
+}
+
+std::vector<core::forms::Subject> frmBuilding::Subjects() const {
+    return {{core::kBuilding, Id()}, {core::kUnit, Id() == 0 ? 0 : idUnit_}};
 }
 
 std::vector<std::string> frmBuilding::Errors() {
@@ -185,8 +186,8 @@ void frmBuilding::Store() {
 void frmBuilding::StoreBuilding() {
     platform::Recordset row;
     FindRowToWrite(row);
-    core::binding::BindToRecord(*this, row, kBuildingTable);
-    if (row["Multi"].IsNull()) row["Multi"].Set(false);
+    WriteRow(row);
+    if (WritesNewRow() && row["Multi"].IsNull()) row["Multi"].Set(false);
     if (makeMulti_) row["Multi"].Set(true);
     row.Update();
 }
@@ -194,20 +195,20 @@ void frmBuilding::StoreBuilding() {
 void frmBuilding::StoreUnit() {
     platform::Recordset row;
     FindById(row, kUnitTable, idUnit_);
-    if (row.Eof()) {
+    const bool isNew = row.Eof();
+    if (isNew) {
         if (idUnit_ == 0) idUnit_ = core::NextId();
         row.AddNew();
         row["IdUnit"].Set(idUnit_);
         row["Ccount"].Set(std::int32_t{0});
     }
-    core::binding::BindToRecord(*this, row, kUnitTable);
+    unitFields_.Write(*this, row, isNew ? WriteFields::All : WriteFields::Touched);
     row["IdBuilding"].Set(Id());
     row.Update();
 }
 
 void frmBuilding::AfterSave() {
     SavePickFields(*this);
-    const QScopedValueRollback telling(telling_, true);
     core::NotifyAll(core::kUnit, core::kRecordsChanged, 0);
 }
 
@@ -216,25 +217,22 @@ void frmBuilding::Refresh(std::int16_t kind) {
         FillAccounts();
         FillFreeAccounts();
     }
-    const bool concerns = kind == core::kBuilding || kind == core::kUnit;
-    if (!concerns || telling_ || Id() == 0 || !AreStored(Id(), idUnit_)) return;
-    if (Dirty()) {
-        ShowStatus();
-        FillUnits();
-    } else {
-        Load();
-    }
+    if (kind == core::kUnit && Id() != 0) FillUnits();
 }
 
-/// A lease that begins or ends writes its unit's status. What the person has not chosen otherwise
-/// here follows, or the next save would write the old word back.
-void frmBuilding::ShowStatus() {
-    if (unit_->cboUnitStatus->currentText() != storedStatus_) return;
+/// Leases write the status of their unit, other screens its other fields.
+void frmBuilding::FollowOthers(const core::binding::Controls& /*touched*/) {
     platform::Recordset row;
     FindById(row, kUnitTable, idUnit_);
-    if (row.Eof() || row["Status"].IsNull()) return;
-    core::binding::SelectByText(*unit_->cboUnitStatus, row["Status"].AsText(), {.setText = true});
-    storedStatus_ = unit_->cboUnitStatus->currentText();
+    if (row.Eof()) return ShowAnotherUnit();
+    unitFields_.ShowUntouched(*this, row, unitFields_.Touched(*this));
+}
+
+/// The unit was deleted elsewhere. What was entered for it stays until the user decides.
+void frmBuilding::ShowAnotherUnit() {
+    if (Dirty()) return;
+    idUnit_ = 0;
+    Load();
 }
 
 } // namespace records::screens

@@ -55,6 +55,8 @@ class frmBuilding : public core::forms::RecordForm {
     std::vector<std::string> Errors() override;
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
+    std::vector<core::forms::Subject> Subjects() const override;
+    void FollowOthers(const core::binding::Controls& touched) override;
     void changeEvent(QEvent* event) override;
 
   private:
@@ -74,7 +76,7 @@ class frmBuilding : public core::forms::RecordForm {
     void StoreUnit();
     bool SaveChanges();
     void Reload();
-    void ShowStatus();
+    void ShowAnotherUnit();
     void UnitChosen();
     void Convert();
 
@@ -92,9 +94,8 @@ class frmBuilding : public core::forms::RecordForm {
     QTabBar* filesOf_ = nullptr;
     std::int32_t idUnit_ = 0;
     bool multi_ = false;
-    bool makeMulti_ = false; ///< the save makes a building of several units
-    bool telling_ = false;   ///< what is heard now is this form's own save
-    QString storedStatus_;   ///< of the unit, as last read
+    bool makeMulti_ = false; ///< the save makes a building of several units of this one
+    core::binding::ShownFields unitFields_{"Unit"};
 };
 
 /// Opens a building or unit as asked, in the form that has the building open if there is one.

@@ -6,6 +6,7 @@
 #include "core/References.h"
 #include "core/binding/AddressBox.h"
 #include "core/forms/ErrorRoll.h"
+#include "core/forms/RecordBar.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
@@ -40,30 +41,10 @@ double NumberIn(const QLineEdit& box) {
 void frmBuilding::MakeMenus() {
     auto* const bar = new QMenuBar(this);
     layout()->setMenuBar(bar);
-    const auto add = [this](QMenu& menu, const QString& text, const char* name, auto slot,
-                            const QKeySequence& keys = {}) {
-        QAction* const action = menu.addAction(text, this, slot);
-        action->setObjectName(QLatin1String(name));
-        action->setShortcut(keys);
-    };
-    const auto later = [](QMenu& menu, const QString& text, const char* name) {
-        QAction* const action = menu.addAction(text);
-        action->setObjectName(QLatin1String(name));
-        action->setEnabled(false);
-    };
-    QMenu& building = *bar->addMenu(tr("&Building"));
-    add(building, tr("&Apply"), "mnuApply", &frmBuilding::Apply, Qt::CTRL | Qt::Key_S);
-    add(building, tr("Add &Unit"), "mnuAddUnit", &frmBuilding::AddUnit, Qt::CTRL | Qt::Key_N);
-    building.addSeparator();
-    later(building, tr("&Print Building"), "mnuPrintBuilding");
-    later(building, tr("P&rint Unit"), "mnuPrintUnit");
-    building.addSeparator();
-    add(building, tr("&Close"), "mnuClose", &frmBuilding::SaveAndClose);
-    QMenu& reports = *bar->addMenu(tr("&Reports"));
-    later(reports, tr("Of the &Building"), "mnuReportItemB");
-    later(reports, tr("Of the &Unit"), "mnuReportItemU");
-    QMenu& documents = *bar->addMenu(tr("&Documents"));
-    later(documents, tr("&Merge"), "mnuDocItem");
+    QMenu& menu = *bar->addMenu(core::forms::WithFreeMnemonic(*this, tr("Building")));
+    QAction* const addUnit = menu.addAction(tr("Add &Unit"), this, &frmBuilding::AddUnit);
+    addUnit->setObjectName(QStringLiteral("mnuAddUnit"));
+    addUnit->setShortcut(Qt::CTRL | Qt::Key_N);
 }
 
 void frmBuilding::Connect() {

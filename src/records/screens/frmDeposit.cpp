@@ -25,14 +25,18 @@ frmDeposit::frmDeposit(QWidget* parent)
 frmDeposit::~frmDeposit() = default;
 
 void frmDeposit::Setup(std::int32_t id, DepositScope scope, const DepositPlace& place) {
-    OpenRecord(id, [&] {
-        ui_->txtDescription->setText(tr("New Deposit"));
-        ui_->txtAmount->setText(QStringLiteral("0.00"));
-        FillList(core::kBuilding, *ui_->cboBuilding,
-                 {.selectedId = place.idBuilding, .addNone = true});
-        FillList(core::kUnit, *ui_->cboUnit, {.selectedId = place.idUnit, .addNone = true});
-        ShowScope(scope);
-    });
+    OpenRecord(
+        id,
+        [&] {
+            FillList(core::kBuilding, *ui_->cboBuilding,
+                     {.selectedId = place.idBuilding, .addNone = true});
+            FillList(core::kUnit, *ui_->cboUnit, {.selectedId = place.idUnit, .addNone = true});
+        },
+        [this, scope] {
+            ui_->txtDescription->setText(tr("New Deposit"));
+            ui_->txtAmount->setText(QStringLiteral("0.00"));
+            ShowScope(scope);
+        });
 }
 
 void frmDeposit::ShowRow(platform::Recordset& row) {

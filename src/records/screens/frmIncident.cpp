@@ -22,12 +22,16 @@ frmIncident::frmIncident(QWidget* parent)
 frmIncident::~frmIncident() = default;
 
 void frmIncident::Setup(std::int32_t id, std::int32_t parentTenant) {
-    OpenRecord(id, [this, parentTenant] {
-        core::binding::FillFromCommaList(*ui_->cboSeverity, kSeverities);
-        ui_->cboSeverity->setCurrentIndex(0);
-        ui_->dpEntryDate->SetDay(platform::Today());
-        FillList(core::kTenant, *ui_->cboTenant, {.selectedId = parentTenant, .addNone = true});
-    });
+    OpenRecord(
+        id,
+        [this, parentTenant] {
+            core::binding::FillFromCommaList(*ui_->cboSeverity, kSeverities);
+            FillList(core::kTenant, *ui_->cboTenant, {.selectedId = parentTenant, .addNone = true});
+        },
+        [this] {
+            ui_->cboSeverity->setCurrentIndex(0);
+            ui_->dpEntryDate->SetDay(platform::Today());
+        });
 }
 
 void frmIncident::ShowCaption() {

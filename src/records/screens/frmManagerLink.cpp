@@ -3,7 +3,6 @@
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
 #include "records/ManagerLinkRules.h"
-#include "records/screens/StoredLinks.h"
 #include "ui_frmManagerLink.h"
 
 namespace records::screens {
@@ -22,19 +21,18 @@ frmManagerLink::frmManagerLink(QWidget* parent)
 frmManagerLink::~frmManagerLink() = default;
 
 void frmManagerLink::Setup(std::int32_t id, std::int32_t parentBuilding) {
-    OpenRecord(id, [this, parentBuilding] {
-        FillFromCommaList(*ui_->cboFeeType, kFeeTypes);
-        FillFromCommaList(*ui_->cboTermType, kTermTypes);
-        ui_->cboFeeType->setCurrentIndex(0);
-        ui_->cboTermType->setCurrentIndex(0);
-        FillList(core::kBuilding, *ui_->cboBuilding, {.selectedId = parentBuilding});
-        FillAccountList(core::kBuildingManagerAccount, *ui_->cboManager, NoneRow::No);
-    });
-}
-
-void frmManagerLink::ShowRow(platform::Recordset& row) {
-    OfferStoredAccounts({ui_->cboManager}, row);
-    RecordForm::ShowRow(row);
+    OpenRecord(
+        id,
+        [this, parentBuilding] {
+            FillFromCommaList(*ui_->cboFeeType, kFeeTypes);
+            FillFromCommaList(*ui_->cboTermType, kTermTypes);
+            FillList(core::kBuilding, *ui_->cboBuilding, {.selectedId = parentBuilding});
+            FillList(core::kBuildingManagerAccount, *ui_->cboManager);
+        },
+        [this] {
+            ui_->cboFeeType->setCurrentIndex(0);
+            ui_->cboTermType->setCurrentIndex(0);
+        });
 }
 
 void frmManagerLink::ShowCaption() {
@@ -48,8 +46,7 @@ std::vector<std::string> frmManagerLink::Errors() {
 
 void frmManagerLink::Refresh(std::int16_t kind) {
     if (kind == core::kBuilding) FillList(core::kBuilding, *ui_->cboBuilding);
-    if (kind == core::kAccount)
-        FillAccountList(core::kBuildingManagerAccount, *ui_->cboManager, NoneRow::No);
+    if (kind == core::kAccount) FillList(core::kBuildingManagerAccount, *ui_->cboManager);
 }
 
 } // namespace records::screens

@@ -23,7 +23,6 @@ class frmManagerLink : public core::forms::RecordForm {
     void Setup(std::int32_t id, std::int32_t parentBuilding);
 
   protected:
-    void ShowRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;

@@ -4,7 +4,6 @@
 #include "core/binding/ComboList.h"
 #include "platform/qt/Text.h"
 #include "records/OwnerLinkRules.h"
-#include "records/screens/StoredLinks.h"
 #include "ui_frmOwnerLink.h"
 
 namespace records::screens {
@@ -24,13 +23,8 @@ frmOwnerLink::~frmOwnerLink() = default;
 void frmOwnerLink::Setup(std::int32_t id, std::int32_t parentBuilding) {
     OpenRecord(id, [this, parentBuilding] {
         FillList(core::kBuilding, *ui_->cboBuilding, {.selectedId = parentBuilding});
-        FillAccountList(core::kBuildingOwnerAccount, *ui_->cboOwner, NoneRow::No);
+        FillList(core::kBuildingOwnerAccount, *ui_->cboOwner);
     });
-}
-
-void frmOwnerLink::ShowRow(platform::Recordset& row) {
-    OfferStoredAccounts({ui_->cboOwner}, row);
-    RecordForm::ShowRow(row);
 }
 
 void frmOwnerLink::ShowCaption() {
@@ -50,8 +44,7 @@ void frmOwnerLink::AfterSave() {
 
 void frmOwnerLink::Refresh(std::int16_t kind) {
     if (kind == core::kBuilding) FillList(core::kBuilding, *ui_->cboBuilding);
-    if (kind == core::kAccount)
-        FillAccountList(core::kBuildingOwnerAccount, *ui_->cboOwner, NoneRow::No);
+    if (kind == core::kAccount) FillList(core::kBuildingOwnerAccount, *ui_->cboOwner);
 }
 
 } // namespace records::screens

@@ -1,13 +1,13 @@
 #include "records/screens/frmRoom.h"
 
 #include "core/RecordKinds.h"
+#include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/FurnishingRules.h"
 #include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
-#include "records/screens/StoredLinks.h"
 #include "ui_frmRoom.h"
 
 namespace records::screens {
@@ -25,13 +25,8 @@ frmRoom::~frmRoom() = default;
 void frmRoom::Setup(std::int32_t id, std::int32_t parentUnit) {
     OpenRecord(id, [this, parentUnit] {
         LoadPickFields(*this);
-        FillUnitList(*ui_->cboUnit, NoneRow::No, parentUnit);
+        core::binding::FillList(core::kUnit, *ui_->cboUnit, {.selectedId = parentUnit});
     });
-}
-
-void frmRoom::ShowRow(platform::Recordset& row) {
-    OfferStoredUnit(*ui_->cboUnit, row);
-    RecordForm::ShowRow(row);
 }
 
 void frmRoom::ShowCaption() {
@@ -49,7 +44,8 @@ void frmRoom::AfterSave() {
 }
 
 void frmRoom::Refresh(std::int16_t kind) {
-    if (kind == core::kUnit || kind == core::kBuilding) FillUnitList(*ui_->cboUnit, NoneRow::No);
+    if (kind == core::kUnit || kind == core::kBuilding)
+        core::binding::FillList(core::kUnit, *ui_->cboUnit);
 }
 
 } // namespace records::screens

@@ -27,7 +27,6 @@ class frmRoom : public core::forms::RecordForm {
     void Setup(std::int32_t id, std::int32_t parentUnit);
 
   protected:
-    void ShowRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
     void AfterSave() override;

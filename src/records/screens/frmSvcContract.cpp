@@ -5,7 +5,6 @@
 #include "core/forms/ErrorRoll.h"
 #include "platform/database/FieldReadings.h"
 #include "records/SvcContractRules.h"
-#include "records/screens/StoredChoice.h"
 #include "ui_frmSvcContract.h"
 
 namespace records::screens {
@@ -25,36 +24,43 @@ frmSvcContract::frmSvcContract(QWidget* parent)
 frmSvcContract::~frmSvcContract() = default;
 
 void frmSvcContract::Setup(std::int32_t id, std::int32_t idBuilding, std::int32_t idAppliance) {
-    OpenRecord(id, [this, idBuilding, idAppliance] {
-        core::binding::FillFromCommaList(*ui_->cboTermType, kContractPeriods);
-        core::binding::FillFromCommaList(*ui_->cboBillTermType, kContractPeriods);
-        core::binding::FillFromCommaList(*ui_->cboBillType, kBillTypes);
-        for (QComboBox* const combo : {ui_->cboTermType, ui_->cboBillTermType, ui_->cboBillType}) {
-            combo->setCurrentIndex(0);
-        }
-        FillList(core::kBuilding, *ui_->cboBuilding, {.selectedId = idBuilding, .addNone = true});
-        FillVendors();
-        FillAppliances(idAppliance);
-    });
+    OpenRecord(
+        id,
+        [this, idBuilding] {
+            core::binding::FillFromCommaList(*ui_->cboTermType, kContractPeriods);
+            core::binding::FillFromCommaList(*ui_->cboBillTermType, kContractPeriods);
+            core::binding::FillFromCommaList(*ui_->cboBillType, kBillTypes);
+            FillList(core::kBuilding, *ui_->cboBuilding,
+                     {.selectedId = idBuilding, .addNone = true});
+            FillVendors();
+            FillAppliances();
+        },
+        [this, idAppliance] {
+            for (QComboBox* const combo :
+                 {ui_->cboTermType, ui_->cboBillTermType, ui_->cboBillType}) {
+                combo->setCurrentIndex(0);
+            }
+            core::binding::SelectById(*ui_->cboAppliance, idAppliance);
+        });
 }
 
 void frmSvcContract::FillVendors() {
     FillList(core::kVendorAccount, *ui_->cboVendor, {.addNone = true});
 }
 
-void frmSvcContract::FillAppliances(std::int32_t selectedId) {
-    core::ChoiceList appliances = core::binding::ReadCombo(*ui_->cboAppliance);
-    FillAppliancesOfBuilding(appliances, GetSelectedId(*ui_->cboBuilding), selectedId);
-    core::binding::ShowInCombo(appliances, *ui_->cboAppliance);
+void frmSvcContract::FillAppliances() {
+    FillAppliances(GetSelectedId(*ui_->cboBuilding));
 }
 
-void frmSvcContract::ShowRow(platform::Recordset& row) {
-    RecordForm::ShowRow(row);
-    ShowStoredChoice(*ui_->cboTermType, row["SvcTermType"]);
-    ShowStoredChoice(*ui_->cboBillTermType, row["BillTermType"]);
-    ShowStoredChoice(*ui_->cboBillType, row["BillType"]);
-    // The appliances are those of the building before until here.
-    FillAppliances(platform::IdOf(row["IdAppliance"]));
+void frmSvcContract::FillAppliances(std::int32_t idBuilding) {
+    core::binding::FillListWith(core::kAppliance, idBuilding, *ui_->cboAppliance,
+                                [idBuilding](core::ChoiceList& appliances) {
+                                    FillAppliancesOfBuilding(appliances, idBuilding);
+                                });
+}
+
+void frmSvcContract::FillListsFor(platform::Recordset& row) {
+    FillAppliances(platform::IdOf(row["IdBuilding"]));
 }
 
 void frmSvcContract::ShowCaption() {

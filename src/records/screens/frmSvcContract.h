@@ -23,14 +23,15 @@ class frmSvcContract : public core::forms::RecordForm {
     void Setup(std::int32_t id, std::int32_t idBuilding, std::int32_t idAppliance);
 
   protected:
-    void ShowRow(platform::Recordset& row) override;
+    void FillListsFor(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;
 
   private:
     void FillVendors();
-    void FillAppliances(std::int32_t selectedId = 0);
+    void FillAppliances();
+    void FillAppliances(std::int32_t idBuilding);
 
     std::unique_ptr<Ui::frmSvcContract> ui_;
 };

@@ -2,7 +2,6 @@
 
 #include "books/screens/General_Ledger.h"
 #include "core/RecordKinds.h"
-#include "core/Session.h"
 #include "core/binding/AddressBox.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
@@ -13,7 +12,6 @@
 #include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
 #include "records/screens/RelatedDBs.h"
-#include "records/screens/StoredChoice.h"
 #include "ui_frmTenant.h"
 #include "ui_frmTenantHistory.h"
 #include "ui_frmTenantIdentity.h"
@@ -36,8 +34,8 @@ frmTenant::frmTenant(QWidget* parent)
     Wire();
     core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
     person_->txtLastName->setFocus();
-    core::binding::OpenOnClick(*person_->txtEmail, AddressKind::Mail);
-    core::binding::OpenOnClick(*person_->txtWeb, AddressKind::Web);
+    core::binding::OpenByIcon(*person_->txtEmail, AddressKind::Mail);
+    core::binding::OpenByIcon(*person_->txtWeb, AddressKind::Web);
 }
 
 frmTenant::~frmTenant() = default;
@@ -51,21 +49,14 @@ void frmTenant::MakePanels() {
 }
 
 void frmTenant::Setup(std::int32_t id) {
-    OpenRecord(id, [this, id] {
-        core::binding::FillFromCommaList(*person_->cboStatus, kTenantStatuses);
-        person_->cboStatus->setCurrentIndex(id == 0 ? 0 : -1);
-        LoadPickFields(*this);
-    });
-}
-
-void frmTenant::ShowRow(platform::Recordset& row) {
-    RecordForm::ShowRow(row);
-    ShowStoredChoice(*person_->cboStatus, row["Status"]);
-    status_ = StatusShown();
-}
-
-void frmTenant::RowMissing() {
-    person_->cboStatus->setCurrentIndex(0);
+    OpenRecord(
+        id,
+        [this] {
+            core::binding::FillFromCommaList(*person_->cboStatus, kTenantStatuses);
+            person_->cboStatus->setCurrentIndex(-1);
+            LoadPickFields(*this);
+        },
+        [this] { person_->cboStatus->setCurrentIndex(0); });
 }
 
 void frmTenant::ShowCaption() {
@@ -82,20 +73,6 @@ void frmTenant::ShowCaption() {
 
 std::vector<std::string> frmTenant::Errors() {
     return TenantErrors(platform::qt::FromScreen(person_->txtLastName->text()));
-}
-
-/// A lease that begins or ends meanwhile sets the status, which must not be saved away again; what
-/// the person has chosen here stays.
-void frmTenant::Refresh(std::int16_t kind) {
-    if (kind != core::kTenant || Id() == 0 || StatusShown() != status_) return;
-    const auto stored = core::LookUp("SELECT Status FROM Tenant WHERE IdTenant = ?", {Id()});
-    if (!stored) return;
-    core::binding::SelectByText(*person_->cboStatus, stored->AsText(), {.setText = true});
-    status_ = StatusShown();
-}
-
-std::string frmTenant::StatusShown() const {
-    return platform::qt::FromScreen(person_->cboStatus->currentText());
 }
 
 void frmTenant::AfterSave() {

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
 
 #include "core/forms/RecordForm.h"
 
@@ -37,22 +36,17 @@ class frmTenant : public core::forms::RecordForm {
     void Setup(std::int32_t id);
 
   protected:
-    void ShowRow(platform::Recordset& row) override;
-    void RowMissing() override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
     void AfterSave() override;
-    void Refresh(std::int16_t kind) override;
 
   private:
     void MakePanels();
-    std::string StatusShown() const;
 
     std::unique_ptr<Ui::frmTenant> ui_;
     std::unique_ptr<Ui::frmTenantPerson> person_;
     std::unique_ptr<Ui::frmTenantIdentity> identity_;
     std::unique_ptr<Ui::frmTenantHistory> history_;
-    std::string status_; ///< as it was last read
     RelatedDBs* incidents_ = nullptr;
     Contacts* contacts_ = nullptr;
     books::screens::General_Ledger* ledger_ = nullptr;

@@ -19,18 +19,18 @@ frmWoItem::~frmWoItem() = default;
 
 void frmWoItem::Setup(std::int32_t id, std::int32_t idWorkOrder) {
     idWorkOrder_ = idWorkOrder;
-    OpenRecord(id, [this] { ui_->dp->SetDay(platform::Today()); });
+    OpenRecord(
+        id, [] {}, [this] { ui_->dp->SetDay(platform::Today()); });
 }
 
 void frmWoItem::ShowRow(platform::Recordset& row) {
-    ui_->dp->SetDay({});
     RecordForm::ShowRow(row);
     if (!row["IdWorkOrder"].IsNull()) idWorkOrder_ = row["IdWorkOrder"].AsLong();
 }
 
 void frmWoItem::WriteRow(platform::Recordset& row) {
     RecordForm::WriteRow(row);
-    row["IdWorkOrder"].Set(idWorkOrder_);
+    if (WritesNewRow()) row["IdWorkOrder"].Set(idWorkOrder_);
 }
 
 void frmWoItem::ShowCaption() {

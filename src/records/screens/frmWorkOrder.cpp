@@ -12,7 +12,6 @@
 #include "records/WorkOrderRules.h"
 #include "records/screens/Panels.h"
 #include "records/screens/RelatedDBs.h"
-#include "records/screens/StoredChoice.h"
 #include "ui_frmWorkOrder.h"
 #include "ui_frmWorkOrderJob.h"
 
@@ -44,18 +43,21 @@ void frmWorkOrder::MakePanels() {
 }
 
 void frmWorkOrder::Setup(std::int32_t id, std::int32_t idUnit) {
-    OpenRecord(id, [this, idUnit] { FillLists(idUnit); });
+    OpenRecord(
+        id, [this, idUnit] { FillLists(idUnit); },
+        [this] {
+            job_->cboStatus->setCurrentIndex(0);
+            job_->dpDateOpened->SetDay(platform::Today());
+            ShowVendor();
+        });
 }
 
 void frmWorkOrder::FillLists(std::int32_t idUnit) {
     core::binding::FillFromCommaList(*job_->cboStatus, kWorkOrderStatuses);
-    job_->cboStatus->setCurrentIndex(0);
-    job_->dpDateOpened->SetDay(platform::Today());
     FillList(core::kUnit, *job_->cboIdUnit, {.selectedId = idUnit, .addNone = true});
     FillList(core::kTenant, *job_->cboInitiator, {.keepText = true});
     FillVendors();
     FillUnitLists();
-    ShowVendor();
 }
 
 void frmWorkOrder::FillVendors() {
@@ -63,36 +65,33 @@ void frmWorkOrder::FillVendors() {
 }
 
 void frmWorkOrder::FillUnitLists() {
-    FillUnitLists({});
+    FillUnitLists(GetSelectedId(*job_->cboIdUnit));
 }
 
-void frmWorkOrder::FillUnitLists(const UnitChoices& chosen) {
-    const std::int32_t idUnit = GetSelectedId(*job_->cboIdUnit);
-    FillList(core::kRoom, *job_->cboIdRoom,
-             {.selectedId = chosen.idRoom, .addNone = true, .parentId = idUnit});
-    FillList(core::kAppliance, *job_->cboIdAppliance,
-             {.selectedId = chosen.idAppliance, .addNone = true, .parentId = idUnit});
-    core::ChoiceList owners = core::binding::ReadCombo(*job_->cboIdOwner);
-    FillOwnersOfUnit(owners, idUnit, chosen.idOwner);
-    core::binding::ShowInCombo(owners, *job_->cboIdOwner);
+void frmWorkOrder::FillUnitLists(std::int32_t idUnit) {
+    FillList(core::kRoom, *job_->cboIdRoom, {.addNone = true, .parentId = idUnit});
+    FillList(core::kAppliance, *job_->cboIdAppliance, {.addNone = true, .parentId = idUnit});
+    core::binding::FillListWith(
+        core::kOwner, idUnit, *job_->cboIdOwner,
+        [idUnit](core::ChoiceList& owners) { FillOwnersOfUnit(owners, idUnit); });
 }
 
 void frmWorkOrder::ShowVendor() {
     core::binding::EnableContainer(*job_->fraVendor, GetSelectedId(*job_->cboIdVendor) != 0);
 }
 
+void frmWorkOrder::FillListsFor(platform::Recordset& row) {
+    FillUnitLists(platform::IdOf(row["IdUnit"]));
+}
+
 void frmWorkOrder::ShowRow(platform::Recordset& row) {
-    job_->dpDateOpened->SetDay({});
     RecordForm::ShowRow(row);
-    ShowStoredChoice(*job_->cboStatus, row["Status"]);
-    // The lists of the unit are those of the one before until here.
-    FillUnitLists({IdOf(row["IdRoom"]), IdOf(row["IdAppliance"]), IdOf(row["IdOwner"])});
     ShowVendor();
 }
 
 void frmWorkOrder::WriteRow(platform::Recordset& row) {
     RecordForm::WriteRow(row);
-    if (row["IdParent"].IsNull()) row["IdParent"].Set(std::int32_t{0});
+    if (WritesNewRow() && row["IdParent"].IsNull()) row["IdParent"].Set(std::int32_t{0});
 }
 
 void frmWorkOrder::ShowCaption() {

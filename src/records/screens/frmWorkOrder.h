@@ -30,6 +30,7 @@ class frmWorkOrder : public core::forms::RecordForm {
     void Setup(std::int32_t id, std::int32_t idUnit = 0);
 
   protected:
+    void FillListsFor(platform::Recordset& row) override;
     void ShowRow(platform::Recordset& row) override;
     void WriteRow(platform::Recordset& row) override;
     void ShowCaption() override;
@@ -37,17 +38,10 @@ class frmWorkOrder : public core::forms::RecordForm {
     void Refresh(std::int16_t kind) override;
 
   private:
-    /// What is chosen of the lists that depend on the unit; 0 keeps a list's selection.
-    struct UnitChoices {
-        std::int32_t idRoom = 0;
-        std::int32_t idAppliance = 0;
-        std::int32_t idOwner = 0;
-    };
-
     void MakePanels();
     void FillLists(std::int32_t idUnit);
     void FillUnitLists();
-    void FillUnitLists(const UnitChoices& chosen);
+    void FillUnitLists(std::int32_t idUnit);
     void FillVendors();
     void ShowVendor();
 

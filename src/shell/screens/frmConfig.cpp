@@ -39,11 +39,13 @@ frmConfig::frmConfig(QWidget* parent)
 frmConfig::~frmConfig() = default;
 
 void frmConfig::Setup() {
-    OpenRecord(0, [this] {
-        FillLists();
-        ShowProgram();
-        Load();
-    });
+    OpenRecord(
+        0,
+        [this] {
+            FillLists();
+            ShowProgram();
+        },
+        [this] { Load(); });
 }
 
 /// The settings are one row without an id.

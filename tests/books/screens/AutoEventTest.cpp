@@ -154,7 +154,7 @@ TEST_F(AutoEventTest, ShowsAnEventWhosePartiesAreGone) {
     EXPECT_EQ(Find<QComboBox>(*form, "cboIntervalType").currentText(), QStringLiteral("Year"));
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Row("Enabled, DebitId, CreditType, CreditId, TaxCategory, IEN, LastRun", 900),
-              "False|0|5|0|Old Words|2|02/29/2024");
+              "False|0|5|4711|Old Words|2|02/29/2024");
 }
 
 TEST_F(AutoEventTest, TheListOpensAddsAndDeletesEvents) {
@@ -178,7 +178,7 @@ TEST_F(AutoEventTest, TheListOpensAddsAndDeletesEvents) {
     EXPECT_EQ(opened, (std::vector<std::int32_t>{901, 0}));
     Answer({true});
     ClickOn(Find<QToolButton>(*form, "cmdDelete"));
-    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Auto Event?"});
+    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Auto Event?\n\nFee"});
     EXPECT_EQ(support::GridText(grid), "Description|Enabled|Last Ran\nDraw|Yes|02/29/2024\n");
     Run("UPDATE AutoEvent SET LastRun = '03/29/2024'");
     core::NotifyAll(core::kAutoEvent, core::kRecordsChanged, 0);

@@ -157,8 +157,8 @@ TEST_F(GeneralLedgerTest, EditsAndDeletesTheSelectedRow) {
     QTest::keyClick(&grid, Qt::Key_Delete);
     EXPECT_EQ(grid.Model().rowCount(), 2);
     ClickOn(Find<QToolButton>(ledger, "cmdDelete"));
-    EXPECT_EQ(Heard(), (Said{"Confirm Delete: Delete selected transaction?",
-                             "Confirm Delete: Delete selected transaction?"}));
+    EXPECT_EQ(Heard(), (Said{"Confirm Delete: Delete selected transaction?\n\n05/03/2024, No. 1",
+                             "Confirm Delete: Delete selected transaction?\n\n05/03/2024, No. 1"}));
     EXPECT_EQ(Ask("SELECT IdTransaction FROM Transactions"), "1001");
     EXPECT_EQ(grid.Model().rowCount(), 1);
     core::RegisterTransactionOpener(core::TransactionEditor::Transaction, {});
@@ -171,6 +171,7 @@ TEST_F(GeneralLedgerTest, KeepsTheWidthsOfItsColumnsByWhomItShows) {
          {std::tuple{core::kAccount, 60, 111}, {core::kTenant, 30, 122}}) {
         General_Ledger ledger;
         ledger.SetParty(kind, id);
+        ledger.show();
         Find<core::grid::Grid>(ledger, "grd").setColumnWidth(2, width);
     }
     const auto kept = [](std::string_view name) {

@@ -2,8 +2,12 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QTest>
+#include <QToolTip>
+#include <QWheelEvent>
 
 #include "core/binding/DateEdit.h"
 #include "core/binding/MoneyEdit.h"
@@ -28,9 +32,50 @@ class Typing : public testing::Test {
         return *box;
     }
 
+    template <class Control>
+    Control& Add() {
+        auto* const control = new Control(&form_);
+        core::binding::WireControls(form_);
+        form_.show();
+        form_.activateWindow();
+        return *control;
+    }
+
   private:
     QWidget form_;
 };
+
+TEST_F(Typing, ASumIsRefusedAndNeverRunTogether) {
+    QLineEdit& money = Box("$Rent");
+    support::Type(money, "12+3");
+    EXPECT_EQ(money.text(), QStringLiteral("12"));
+    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("no sums")));
+    QTest::keyClick(&money, Qt::Key_Backspace);
+    support::TypeOn(money, "3");
+    EXPECT_EQ(money.text(), QStringLiteral("13")) << "once the user has seen it";
+    QToolTip::hideText();
+    support::Type(money, "-5");
+    EXPECT_EQ(money.text(), QStringLiteral("5"));
+    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("no signs"))) << "a dropped sign is told";
+    QLineEdit& words = Box("_Notes");
+    support::Type(words, "12+3");
+    EXPECT_EQ(words.text(), QStringLiteral("12+3"));
+}
+
+TEST_F(Typing, TheWheelChangesNothingThatHasNoFocus) {
+    QComboBox& list = Add<QComboBox>();
+    list.addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    const auto roll = [&list] {
+        QWheelEvent event(QPointF(3, 3), list.mapToGlobal(QPointF(3, 3)), QPoint(), QPoint(0, -120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&list, &event);
+    };
+    roll();
+    EXPECT_EQ(list.currentIndex(), 0);
+    list.setFocus();
+    roll();
+    EXPECT_EQ(list.currentIndex(), list.hasFocus() ? 1 : 0);
+}
 
 TEST_F(Typing, OnlyWhatTheTagAllowsArrives) {
     QLineEdit& money = Box("$Rent");

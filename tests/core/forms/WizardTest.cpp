@@ -42,6 +42,7 @@ class SampleWizard : public core::forms::frmWizard {
     std::vector<int> shown;
     bool fails = false;
     int* finished = nullptr;
+    std::function<void()> meanwhile;
 
   protected:
     std::vector<std::string> StepErrors(int step) override {
@@ -52,6 +53,7 @@ class SampleWizard : public core::forms::frmWizard {
     void Finish() override {
         if (fails) throw std::runtime_error("no room");
         ++*finished;
+        if (meanwhile) meanwhile();
     }
 };
 
@@ -106,6 +108,21 @@ TEST_F(WizardTest, TestsEveryStepItLeavesForward) {
     ClickAction(*wizard, "FINISH");
     EXPECT_EQ(finished_, 0);
     EXPECT_TRUE(wizard && wizard->isVisible());
+}
+
+TEST_F(WizardTest, ASecondClickOnFinishDoesNothing) {
+    const auto wizard = Open();
+    ClickAction(*wizard, "STEP2");
+    wizard->meanwhile = [&] {
+        ClickAction(*wizard, "FINISH");
+        ClickAction(*wizard, "CANCEL");
+        EXPECT_TRUE(wizard->isVisible()) << "it closes when it has finished";
+    };
+    QWidget* const button = &Find<QPushButton>(*wizard, "cmdNext");
+    ClickOn(*button);
+    EXPECT_FALSE(wizard->isVisible());
+    ClickOn(*button);
+    EXPECT_EQ(finished_, 1);
 }
 
 TEST_F(WizardTest, AFailureAtTheEndKeepsItOpen) {

@@ -155,7 +155,8 @@ TEST_F(FileObjectsTest, AddsOpensAndDeletesAFile) {
     Answer({false, true});
     list.setFocus();
     QTest::keyClick(&list, Qt::Key_Delete);
-    EXPECT_EQ(Heard(), std::vector<std::string>{"Confirm Delete: Delete selected file link?"});
+    EXPECT_EQ(Heard(),
+              std::vector<std::string>{"Confirm Delete: Delete selected file link?\n\nlease"});
     EXPECT_EQ(Listed(panel).size(), 1U) << "No keeps it";
     ClickOn(Find<QToolButton>(panel, "cmdDelete"));
     EXPECT_TRUE(Listed(panel).empty());

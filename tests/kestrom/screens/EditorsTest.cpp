@@ -13,9 +13,9 @@
 #include "platform/database/Recordset.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
-#include "platform/values/Format.h"
 #include "shell/Registrations.h"
 #include "shell/SampleLife.h"
+#include "shell/screens/frmConfig.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
 #include "support/screens/ScreenChecks.h"
@@ -26,6 +26,7 @@ namespace {
 using core::forms::Form;
 using platform::qt::FromScreen;
 using testing::IsEmpty;
+using Said = std::vector<std::string>;
 
 struct Kind {
     std::int16_t kind;
@@ -107,35 +108,53 @@ class Editors : public support::ScreenTest {
         }
         return ids;
     }
-    /// "field = value" of what is set: an empty box saves an empty text, and 0, for null.
+    /// "field = value" of each field.
     static std::vector<std::string> Row(const Kind& kind, std::int32_t id) {
         platform::Recordset row;
         row.Open(core::App().Connection,
                  std::string("SELECT * FROM ") + kind.table + " WHERE " + kind.idField + " = ?",
                  platform::CursorMode::ReadOnly, {id});
         std::vector<std::string> fields;
-        for (std::size_t i = 0; i < row.FieldCount(); ++i) {
-            const platform::Field field = row[i];
-            if (field.IsNull()) continue;
-            // Boxes hold cents.
-            const bool isMoney = field.Type() == platform::FieldType::Currency;
-            const std::string text =
-                isMoney ? platform::FormatMoney(field.AsCurrency()) : field.AsText();
-            if (!text.empty() && text != "0" && text != "0.00" && text != "False")
-                fields.push_back(field.Name() + " = " + text);
-        }
+        for (std::size_t i = 0; i < row.FieldCount(); ++i)
+            fields.push_back(row[i].Name() + (row[i].IsNull() ? "" : " = " + row[i].AsText()));
         return fields;
     }
-    /// What a save changed. A list without a blank row gives what had no type its first.
+    /// What differs of two readings of a row.
     static std::vector<std::string> Changes(const std::vector<std::string>& before,
                                             const std::vector<std::string>& after) {
         std::vector<std::string> changes;
-        for (const std::string& field : before)
-            if (std::ranges::count(after, field) == 0) changes.push_back("was " + field);
-        for (const std::string& field : after)
-            if (std::ranges::count(before, field) == 0 && !field.ends_with("Type = 1"))
-                changes.push_back("is " + field);
+        for (std::size_t i = 0; i < before.size() && i < after.size(); ++i)
+            if (before[i] != after[i]) changes.push_back(before[i] + " -> " + after[i]);
+        if (before.size() != after.size()) changes.emplace_back("the row itself");
         return changes;
+    }
+    /// Changes the first record of a kind as no screen would.
+    static void Spoil(std::int16_t kind, const std::string& assignment) {
+        const auto* const found = std::ranges::find(kKinds, kind, &Kind::kind);
+        Run(std::string("UPDATE ") + found->table + " SET " + assignment + " WHERE " +
+            found->idField + " = " + std::to_string(SomeIds(*found).at(0)));
+    }
+    /// Opens records of every kind and closes them by Close, with nothing changed.
+    static void OpenAndClose(const std::string& state, const std::function<Said()>& heard) {
+        for (const Kind& kind : kKinds) {
+            if (!core::HasEditor(kind.kind)) continue;
+            for (const std::int32_t id : SomeIds(kind)) {
+                const std::string name = state + ": " +
+                                         std::string(core::RecordKindName(kind.kind)) + " " +
+                                         std::to_string(id);
+                const std::vector<std::string> before = Row(kind, id);
+                core::EditRecord(kind.kind, id);
+                ASSERT_EQ(Open().size(), 1U) << name;
+                if (auto* const form = qobject_cast<core::forms::RecordForm*>(Open().front())) {
+                    form->SaveAndClose();
+                    EXPECT_THAT(Open(), IsEmpty()) << name << " doesn't close";
+                }
+                EXPECT_THAT(heard(), IsEmpty()) << name;
+                EXPECT_THAT(Changes(before, Row(kind, id)), IsEmpty()) << name;
+                core::forms::CloseAllForms();
+                support::SettleEvents();
+            }
+        }
     }
     /// What is wrong with how a screen looks and is used, page by page.
     static std::vector<std::string> Faults(Form& form) {
@@ -190,21 +209,58 @@ TEST_F(Editors, OpenRecordsCleanAndOnlyOnce) {
 }
 
 TEST_F(Editors, SaveWhatTheyOpenedAsItWas) {
-    for (const Kind& kind : kKinds) {
-        if (!core::HasEditor(kind.kind)) continue;
-        for (const std::int32_t id : SomeIds(kind)) {
-            const std::string name =
-                std::string(core::RecordKindName(kind.kind)) + " " + std::to_string(id);
-            const std::vector<std::string> before = Row(kind, id);
-            core::EditRecord(kind.kind, id);
-            ASSERT_EQ(Open().size(), 1U) << name;
-            auto* const form = qobject_cast<core::forms::RecordForm*>(Open().front());
-            if (form) form->SaveAndClose();
-            EXPECT_THAT(Changes(before, Row(kind, id)), IsEmpty()) << name;
-            core::forms::CloseAllForms();
-            support::SettleEvents();
-        }
-    }
+    const auto heard = [this] { return Heard(); };
+    OpenAndClose("as it is", heard);
+
+    Spoil(core::kTenant, "FirstName = NULL, Status = NULL");
+    Spoil(core::kAccount, "ShowAs = NULL, FirstName = NULL");
+    Spoil(core::kUnit, "Unit = NULL");
+    Spoil(core::kMortgage, "Description = NULL");
+    OpenAndClose("a name is null", heard);
+
+    Spoil(core::kWorkOrder, "DateOpened = NULL, DateClosed = 'soon'");
+    Spoil(core::kIncident, "EntryDate = NULL");
+    Spoil(core::kTransaction, "DateEffective = NULL");
+    Spoil(core::kSvcContract, "DateStart = NULL, DatePaidThru = '2/30/2024'");
+    Spoil(core::kMortgage, "LastEscrowReview = NULL");
+    Spoil(core::kAppliance, "PurchaseDate = NULL");
+    OpenAndClose("a date is null", heard);
+
+    Spoil(core::kTenant, "Status = 'Away'");
+    Spoil(core::kWorkOrder, "Status = 'Waiting', IdVendor = 7");
+    Spoil(core::kUnit, "Status = 'Odd'");
+    Spoil(core::kLease, "ExpireOption = 'Perhaps', SubsidyType = 9");
+    Spoil(core::kSvcContract, "BillType = 'Barter', IdAppliance = 7");
+    Spoil(core::kAutoEvent, "IntervalType = 9, EventAction = 9");
+    Spoil(core::kTransaction, "DebitType = 9, IdLease = 7");
+    Spoil(core::kManager, "FeeType = 'Thanks', TermType = NULL");
+    Spoil(core::kIncident, "Severity = 'Odd'");
+    OpenAndClose("a code is unknown", heard);
+
+    Run("UPDATE Account SET AccountType = 'Somebody'");
+    OpenAndClose("all accounts have another type", heard);
+}
+
+TEST_F(Editors, TheSettingsSaveAsTheyWere) {
+    const auto settings = [] {
+        platform::Recordset row;
+        row.Open(core::App().Connection, "SELECT * FROM Configuration");
+        std::string text;
+        for (std::size_t i = 0; i < row.FieldCount(); ++i)
+            text += row[i].Name() + (row[i].IsNull() ? " " : "=" + row[i].AsText() + " ");
+        return text;
+    };
+    Run("UPDATE Account SET AccountType = 'Somebody'");
+    Run("UPDATE Configuration SET TermType = 'Moons', Discount = 1.2345, DefaultCar = NULL, "
+        "DefaultMortgagee = " +
+        std::to_string(SomeId(kKinds[0])));
+    const std::string before = settings();
+    auto* const form = new shell::screens::frmConfig;
+    form->Setup();
+    form->SaveAndClose();
+    EXPECT_THAT(Heard(), IsEmpty());
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(settings(), before);
 }
 
 TEST_F(Editors, OpenNewRecordsOfTheirOwn) {

@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include <QLabel>
 #include <QTabBar>
 #include <QTest>
@@ -67,6 +69,22 @@ TEST_F(RelatedPanelTest, ShowsTheTabsOfItsOwner) {
     EXPECT_EQ(panel.List().Model().rowCount(), 2);
 }
 
+TEST_F(RelatedPanelTest, ABadDateHidesNothingAndAListThatCannotBeReadSaysSo) {
+    Run("UPDATE Lease SET DateActive = '2/30/2024', Status = 'Active' WHERE IdLease = 40");
+    Run("INSERT INTO Lease (IdLease, IdUnit, DateActive, Status) "
+        "VALUES (41, 20, '03/01/2024', 'Expired')");
+    RelatedDBm panel;
+    panel.show();
+    panel.Load(core::kUnit, 20);
+    EXPECT_EQ(panel.List().Model().rowCount(), 2);
+    EXPECT_NE(GridText(panel.List()).find("2/30/2024"), std::string::npos);
+    core::App().Connection.RunScript("DROP TABLE Room");
+    ShowTab(panel, "Rooms");
+    EXPECT_THAT(panel.List().EmptyText().toStdString(),
+                testing::StartsWith("This list can't be read: "));
+    EXPECT_FALSE(Find<QToolButton>(panel, "cmdDelete").isEnabled());
+}
+
 TEST_F(RelatedPanelTest, OpensAndAddsWithItsOwnerAsParent) {
     OpenedNote rooms(core::kRoom);
     RelatedDBm panel;
@@ -93,7 +111,7 @@ TEST_F(RelatedPanelTest, DeletesWhatIsSelectedAndShowsWhatIsLeft) {
     ShowTab(panel, "Rooms");
     Answer({false, true});
     QTest::keyClick(&panel.List(), Qt::Key_Delete);
-    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected room?"});
+    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected room?\n\nAttic"});
     EXPECT_EQ(Ask("SELECT Count(*) FROM Room"), "2");
     ClickOn(Find<QToolButton>(panel, "cmdDelete"));
     EXPECT_EQ(Ask("SELECT RoomType FROM Room"), "Kitchen");

@@ -209,7 +209,7 @@ TEST_F(WorkOrderTest, HistoryIsRemovedFromItsList) {
     Find<core::grid::Grid>(*form, "grd").SelectId(511);
     Answer({true});
     support::ClickOn(Find<QToolButton>(Find<QWidget>(*form, "ucHistory"), "cmdDelete"));
-    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Work Order History?"});
+    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Work Order History?\n\nCame"});
     EXPECT_EQ(Ask("SELECT MAX(IdWOItem) FROM WOItem"), "510");
     EXPECT_EQ(support::GridText(Find<core::grid::Grid>(*form, "grd")),
               "Entry Date|Description\n |Called\n");
@@ -224,6 +224,7 @@ TEST_F(WorkOrderTest, ComesBackUnderItsNumberWhenSavedAfterItsRemoval) {
     EXPECT_TRUE(removal::DeleteRecord(core::kWorkOrder, 500, removal::Confirm::DontAsk));
     EXPECT_EQ(Ask("SELECT Count(*) FROM WorkOrder"), "0");
     EXPECT_TRUE(form && form->isVisible());
+    Answer({true}); // to whether it is to be saved again
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Ask("SELECT ShortDesc FROM WorkOrder WHERE IdWorkOrder = 500 AND IdUnit = 20"),
               "Roof");

@@ -45,8 +45,17 @@ bool IsBefore(const QWidget& b, const QWidget& a, const QWidget& screen) {
     return first.x() < second.x();
 }
 
+/// The page that scrolls around a control; null if none does.
+const QWidget* ScrollOf(const QWidget& control) {
+    for (const QWidget* at = control.parentWidget(); at; at = at->parentWidget())
+        if (at->objectName() == QLatin1String("scroll")) return at;
+    return nullptr;
+}
+
 /// Next to each other rather than in different columns: their widths overlap, or they share a line.
+/// What scrolls may lie anywhere relative to what doesn't.
 bool AreComparable(const QWidget& a, const QWidget& b, const QWidget& screen) {
+    if (ScrollOf(a) != ScrollOf(b)) return false;
     const QRect first(a.mapTo(&screen, QPoint(0, 0)), a.size());
     const QRect second(b.mapTo(&screen, QPoint(0, 0)), b.size());
     return a.parentWidget() == b.parentWidget() ||

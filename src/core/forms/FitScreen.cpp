@@ -1,0 +1,98 @@
+#include "core/forms/FitScreen.h"
+
+#include <QComboBox>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace core::forms {
+
+namespace {
+
+constexpr int kTitleHeight = 32; // until the window system has said how high its frame is
+
+/// Wants the room of its page, and makes do with less.
+class PageArea : public QScrollArea {
+  public:
+    explicit PageArea(QWidget* parent) : QScrollArea(parent) {
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        viewport()->setAutoFillBackground(false);
+    }
+    QSize sizeHint() const override { return widget() ? widget()->sizeHint() : QSize(); }
+    QSize minimumSizeHint() const override {
+        if (!widget()) return {};
+        return widget()->minimumSizeHint().boundedTo(QSize(kLeastWidth, kLeastHeight));
+    }
+
+  private:
+    static constexpr int kLeastWidth = 320;
+    static constexpr int kLeastHeight = 160;
+};
+
+void LetScroll(QWidget& page) {
+    if (!page.layout() || page.findChild<PageArea*>(QString(), Qt::FindDirectChildrenOnly)) return;
+    auto* const area = new PageArea(&page);
+    area->setObjectName(QStringLiteral("scroll"));
+    auto* const contents = new QWidget(area);
+    contents->setLayout(page.layout()); // takes the controls along
+    area->setWidget(contents);
+    contents->setAutoFillBackground(false);
+    auto* const outer = new QVBoxLayout(&page);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(area);
+}
+
+bool TakesEntry(const QWidget& widget) {
+    if (!widget.isEnabled() || !widget.isVisible()) return false;
+    if ((widget.focusPolicy() & Qt::TabFocus) == 0) return false;
+    if (const auto* const line = qobject_cast<const QLineEdit*>(&widget))
+        return !line->isReadOnly();
+    if (const auto* const page = qobject_cast<const QPlainTextEdit*>(&widget))
+        return !page->isReadOnly();
+    return qobject_cast<const QComboBox*>(&widget) != nullptr;
+}
+
+} // namespace
+
+void LetPagesScroll(QWidget& form) {
+    auto* const tabs = form.findChild<QTabWidget*>(QStringLiteral("tabs"));
+    for (int page = 0; tabs && page < tabs->count(); ++page)
+        LetScroll(*tabs->widget(page));
+}
+
+void FitToScreen(QWidget& window) {
+    const QScreen* const screen = window.screen();
+    if (!screen || window.isMaximized()) return;
+    const QRect available = screen->availableGeometry();
+    const QSize frame = window.frameGeometry().size() - window.geometry().size();
+    const QSize room =
+        available.size() - QSize(frame.width(), std::max(frame.height(), kTitleHeight));
+    if (window.width() > room.width() || window.height() > room.height())
+        window.resize(window.size().boundedTo(room));
+    const QRect now(window.pos(), window.size() + frame);
+    const QPoint place(
+        std::clamp(now.left(), available.left(),
+                   std::max(available.left(), available.right() + 1 - now.width())),
+        std::clamp(now.top(), available.top(),
+                   std::max(available.top(), available.bottom() + 1 - now.height())));
+    if (place != now.topLeft()) window.move(place);
+}
+
+void FocusFirstEntry(QWidget& form) {
+    const QWidget* const now = form.focusWidget();
+    if (now && TakesEntry(*now)) return;
+    for (QWidget* next = form.nextInFocusChain(); next && next != &form;
+         next = next->nextInFocusChain()) {
+        if (!form.isAncestorOf(next) || !TakesEntry(*next)) continue;
+        return next->setFocus();
+    }
+}
+
+} // namespace core::forms

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QMenu>
+#include <QWidget>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace core::forms {
+
+// What other rooms add to every record form: reports, receipts, documents, files. They register it
+// once, and each form of such a record has it, without the form knowing of them.
+
+/// A record that a form shows; id 0 until it is saved. A building's form shows two: the building,
+/// then the unit.
+struct Subject {
+    std::int16_t kind = 0;
+    std::int32_t id = 0;
+
+    friend bool operator==(const Subject&, const Subject&) = default;
+};
+
+/// The standard menus of a record form, from left to right. The first has the name of the form's
+/// kind, or is the form's own first menu; it begins with Apply and ends with Close.
+enum class RecordMenu { Record, Reports, Documents };
+
+/// What a filler works with. A report or letter shows what is stored, so its action calls `save`
+/// first and does nothing if that returns false: the user kept the form from saving.
+struct MenuFilling {
+    QMenu& menu;
+    const std::vector<Subject>& subjects;
+    std::function<bool()> save;
+};
+
+/// Adds its actions to the menu, none if it has nothing for these records. It is called when a
+/// record is shown and whenever the menu opens; what it added before has been removed then.
+using MenuFiller = std::function<void(const MenuFilling& filling)>;
+
+/// Registers a filler under a name of its own; the same name replaces it and an empty filler
+/// removes it. Fillers of a menu add in the order in which they were registered. A Reports or
+/// Documents menu shows only on forms opened after something was registered for it.
+void RegisterRecordMenu(RecordMenu menu, const std::string& name, MenuFiller filler);
+
+/// A page of the tab bar named "tabs" of the forms of some kinds.
+struct RecordPage {
+    std::string caption;
+    std::vector<std::int16_t> kinds;
+    /// Makes the page for a form, which owns it.
+    std::function<QWidget*(QWidget& form)> make;
+    /// Shows the records of the form; called when a record is loaded, and once for a new one.
+    std::function<void(QWidget& page, const std::vector<Subject>& subjects)> show;
+};
+
+/// Registers a page, as RegisterRecordMenu does a filler; one without `make` is removed.
+void RegisterRecordPage(const std::string& name, RecordPage page);
+
+} // namespace core::forms

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QDialog>
+#include <QObject>
+#include <array>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "core/forms/RecordAdditions.h"
+
+class QMenuBar;
+
+namespace core::forms {
+
+/// The menu bar and the added pages of one record form.
+class RecordBar : public QObject {
+    Q_OBJECT
+
+  public:
+    struct Commands {
+        std::function<void()> apply;
+        std::function<void()> close;
+        /// Saves what was changed; false if it wasn't saved.
+        std::function<bool()> save;
+    };
+
+    /// Adds the standard menus to the form's bar, which is made if it has none, and its pages.
+    RecordBar(QDialog& form, std::int16_t kind, Commands commands);
+
+    /// The records that the form shows now.
+    void Show(std::vector<Subject> subjects);
+    void SetCanApply(bool can);
+
+  private:
+    struct Menu {
+        QMenu* menu = nullptr;
+        RecordMenu which = RecordMenu::Record;
+        QAction* end = nullptr; ///< what is added comes before this
+        std::vector<QAction*> added;
+    };
+
+    void MakeRecordMenu(QDialog& form, QMenuBar& bar, std::int16_t kind);
+    void MakeMenu(QDialog& form, QMenuBar& bar, RecordMenu which, const QString& title);
+    void MakePages(QDialog& form, std::int16_t kind);
+    void Fill(Menu& menu);
+
+    Commands commands_;
+    std::vector<Subject> subjects_;
+    std::array<Menu, 3> menus_;
+    QAction* apply_ = nullptr;
+    std::vector<std::pair<QWidget*, std::string>> pages_;
+};
+
+/// The title with a letter to jump to it that nothing else of the form has; without one if all are
+/// taken.
+QString WithFreeMnemonic(const QWidget& form, const QString& title);
+
+} // namespace core::forms
