@@ -109,7 +109,8 @@ void AddMerge(CLI::App& line, const Options& options) {
         if (allLate->count() == 0 && command->count("id") == 0) {
             throw CLI::RequiredError("id");
         }
-        OpenBooks(options, Purpose::Read);
+        // A letter in the books' own folder is attached to its record.
+        OpenBooks(options, arguments->output.empty() ? Purpose::Write : Purpose::Read);
         Merge(*arguments);
     });
 }
