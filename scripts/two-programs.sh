@@ -75,18 +75,17 @@ copy() {
 # Both at the same time, the second a moment later. A command that is refused is as good as one that
 # is done; its words go to FOLDER.said.
 together() {
-    local pause
-    pause=0.0$((RANDOM % 3))$((RANDOM % 10))
-    {
-        run books "${first[@]}" >"$scratch/first.said" 2>&1
-        echo $? >"$scratch/first.status"
-    } &
-    sleep "$pause"
-    {
-        run books "${second[@]}" >"$scratch/second.said" 2>&1
-        echo $? >"$scratch/second.status"
-    } &
+    runAs first "${first[@]}" &
+    sleep "0.0$((RANDOM % 3))$((RANDOM % 10))"
+    runAs second "${second[@]}" &
     wait
+}
+
+# runAs NAME ARGUMENT...: keeps what the command says and its exit status.
+runAs() {
+    local status=0
+    run books "${@:2}" >"$scratch/$1.said" 2>&1 || status=$?
+    echo "$status" >"$scratch/$1.status"
 }
 
 inTurn() {
