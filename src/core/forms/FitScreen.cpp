@@ -14,7 +14,7 @@ namespace core::forms {
 
 namespace {
 
-constexpr int kTitleHeight = 32; // until the window system has said how high its frame is
+constexpr int kTitleHeight = 40; // until the window system has said how high its frame is
 
 /// Wants the room of its page, and makes do with less.
 class PageArea : public QScrollArea {

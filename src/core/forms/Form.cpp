@@ -91,7 +91,11 @@ void Form::TurnPage(int step) {
 void Form::Restore() {
     if (isPlaced_) return;
     isPlaced_ = true;
-    if (sizing_ == FormSizing::Resizable) LetPagesScroll(*this);
+    if (sizing_ == FormSizing::Resizable) {
+        LetPagesScroll(*this);
+        // A page that scrolls would be content with two thirds of the screen.
+        if (!testAttribute(Qt::WA_Resized)) resize(sizeHint());
+    }
     if (sizing_ == FormSizing::Fixed && layout())
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     RestoreWindow(*this, sizing_);

@@ -172,7 +172,9 @@ void frmMortgage::Refresh(std::int16_t kind) {
         FillAccounts(core::kMortgageeAccount);
         FillAccounts(core::kAccount);
     }
-    if (kind == core::kMortgage && Id() != 0 && !storing_) FollowPayment();
+    // On every broadcast of a payment's, before the base reads the row again: the first of them may
+    // be of its transaction.
+    if (Id() != 0 && !storing_) FollowPayment();
 }
 
 void frmMortgage::UpdateControls() {

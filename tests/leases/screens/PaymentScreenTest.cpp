@@ -174,7 +174,7 @@ TEST_F(PaymentScreen, RemovesChargesTheOneAndTheSeveral) {
     GoTo(*form, 2);
     Answer({false, true, true});
     Trigger(*form, "mnuChargeDelete");
-    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected item?"});
+    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected item?\n\n05/06/2024, Late Fee"});
     EXPECT_EQ(Rows(*form, "lvwCharges").size(), 3U) << "No keeps it";
     Trigger(*form, "mnuChargeDelete");
     EXPECT_EQ(Rows(*form, "lvwCharges").size(), 2U);
