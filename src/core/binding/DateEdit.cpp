@@ -36,6 +36,8 @@ DateEdit::DateEdit(QWidget* parent) : QLineEdit(parent) {
     connect(open_, &QAction::triggered, this, &DateEdit::ShowCalendar);
     // A day that is being typed is no day yet: it is marked when the box is left.
     connect(this, &QLineEdit::textChanged, this, [this] {
+        const auto day = Day();
+        if (day && day->IsSet()) last_ = *day;
         if (IsValid() || !hasFocus()) MarkValidity();
     });
     setPlaceholderText(tr("mm/dd/yyyy"));
@@ -76,7 +78,9 @@ void DateEdit::ShowCalendar() {
     connect(calendar, &QCalendarWidget::activated, this, take);
     connect(menu.addAction(tr("&Today")), &QAction::triggered, this,
             [this] { SetDay(platform::Today()); });
-    connect(menu.addAction(tr("&No date")), &QAction::triggered, this, [this] { clear(); });
+    if (!required_) {
+        connect(menu.addAction(tr("&No date")), &QAction::triggered, this, [this] { clear(); });
+    }
     connect(&menu, &QMenu::aboutToShow, calendar, [calendar] { calendar->setFocus(); });
     menu.exec(mapToGlobal(QPoint(0, height())));
 }
@@ -105,8 +109,9 @@ void DateEdit::changeEvent(QEvent* event) {
 
 /// Typed short forms ("3/7/24") are spelled out when the box is left.
 void DateEdit::Tidy() {
-    const auto day = Day();
-    if (!day) return;
+    const auto typed = Day();
+    if (!typed) return;
+    const auto day = required_ && !typed->IsSet() ? last_ : typed;
     const QString full = platform::qt::ToScreen(day->ToText());
     if (full != text()) setText(full);
 }

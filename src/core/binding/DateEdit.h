@@ -13,9 +13,14 @@ namespace core::binding {
 /// kept as it was typed, and marked.
 class DateEdit : public QLineEdit {
     Q_OBJECT
+    Q_PROPERTY(bool required READ IsRequired WRITE SetRequired)
 
   public:
     explicit DateEdit(QWidget* parent = nullptr);
+
+    /// A required date can't be left blank: the box goes back to the last date it held.
+    bool IsRequired() const { return required_; }
+    void SetRequired(bool required) { required_ = required; }
 
     /// The day shown, unset for a blank box; nothing when the text is no day.
     std::optional<platform::Date> Day() const;
@@ -37,6 +42,8 @@ class DateEdit : public QLineEdit {
     void MarkValidity();
 
     QAction* open_;
+    bool required_ = false;
+    platform::Date last_;
 };
 
 } // namespace core::binding

@@ -128,8 +128,17 @@ void LedgerList::SortBy(int column) {
 }
 
 void LedgerList::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && ticks_) return event->ignore(); // it submits the form
+    if (isEnter || event->key() == Qt::Key_F2) {
         if (CurrentId() != 0) Q_EMIT RowChosen(CurrentId());
+        return;
+    }
+    if (event->key() == Qt::Key_Space && ticks_) {
+        if (QTreeWidgetItem* const row = currentItem()) {
+            const bool ticked = row->checkState(0) == Qt::Checked;
+            row->setCheckState(0, ticked ? Qt::Unchecked : Qt::Checked);
+        }
         return;
     }
     if (event->key() == Qt::Key_Delete) {

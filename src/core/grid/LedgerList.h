@@ -25,7 +25,8 @@ class LedgerList : public QTreeWidget {
     std::int32_t CurrentId() const;
 
   Q_SIGNALS:
-    /// A double click or Enter on a row.
+    /// A double click, F2 or Enter on a row. With ticks Enter is the form's, which it submits, and
+    /// Space ticks the row.
     void RowChosen(std::int32_t id);
     void DeleteAsked();
 
