@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,11 @@ struct Category {
 
     friend bool operator==(const Category&, const Category&) = default;
 };
+
+/// The categories of the payments that the program posts by itself; an event can wait for them.
+inline constexpr std::array<std::string_view, 5> kPaymentCategories = {
+    "Rent Payment", "Partial Rent Payment", "Rent Subsidy Payment", "Deposit Payment",
+    "Mortgage Payment"};
 
 /// Reads the form in which screens hand a category on: the text, "|", its class ("Deposit
 /// Refund|2"). Without a class, or with an unknown one, it is income.

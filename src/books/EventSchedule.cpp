@@ -65,6 +65,19 @@ std::optional<Date> DueRun(const EventSchedule& schedule, Date today) {
     return next;
 }
 
+std::optional<Date> SeedWhileWaiting(const EventSchedule& schedule, Date today) {
+    CheckThatItCanRun(schedule);
+    if (schedule.lastRun.IsSet() || schedule.interval != IntervalType::DayOfMonth) return {};
+    const Date awaited = FirstRun(schedule, today);
+    if (awaited <= today) return {};
+    return DateAdd(Interval::Month, -1, awaited);
+}
+
+Date SeedOf(const EventSchedule& schedule, Date today) {
+    if (schedule.interval != IntervalType::DayOfMonth) return {};
+    return SeedOfDayOfMonth(schedule.period, today);
+}
+
 Date SeedOfDayOfMonth(std::int16_t day, Date today) {
     if (day > static_cast<int>(today.Day())) return DayInMonthOf(today, day);
     return DayInMonthOf(DateAdd(Interval::Month, -1, today), day);

@@ -11,8 +11,8 @@ namespace books {
 /// The class of a category, by which the sums of income and expenses go.
 enum class Ien : std::int16_t { Income = 0, Expense = 1, Unclassified = 2 };
 
-/// One side of a transaction: record kind (account or tenant), id (0 where it is only a name), and
-/// the name as it is at the time of posting.
+/// One side of a transaction: record kind (account or tenant), id (0 if it is only a name), and the
+/// name at the time of posting.
 struct Party {
     std::int16_t type = 0;
     std::int32_t id = 0;
@@ -31,8 +31,8 @@ struct Transaction {
     Ien ien = Ien::Income;
     std::string checkNumber;
     std::string description;
-    /// What produced it (0 ordinary, 1 to 3 as the rent log's classes, 5 a mortgage payment), and
-    /// for deposits the flag of the rent log.
+    /// The kind of posting (0 ordinary, 1 to 3 as the rent log's classes, 5 a mortgage payment),
+    /// and for deposits the flag of the rent log.
     std::int16_t transactionClass = 0;
     std::int16_t flags = 0;
     // Related records, 0 for none.
@@ -47,14 +47,15 @@ struct Transaction {
 /// Whether a new row starts the events that wait for one like it.
 enum class Triggers { Fire, Skip };
 
-/// Adds a row to the transactions: the one way that rows reach the table. Before the row is kept
-/// the events of its debit side run, then those of its credit side, and whoever asked to know is
-/// told; all of it is one unit of work. Open lists are told when it is kept, or by the routine
-/// whose unit of work it is a part of. Answers the new row's id; failures are thrown.
+/// Adds a row to the transactions, the one way that rows reach the table. Before it is committed,
+/// the events of its debit side run, then those of its credit side, and the registered listeners
+/// are called; all of it is one unit of work. Open lists are refreshed after the commit; inside a
+/// larger unit of work that is left to the routine that began it. Returns the new row's id;
+/// failures are thrown.
 std::int32_t PostTransaction(const Transaction& transaction, Triggers triggers = Triggers::Fire);
 
-/// Writes a posted row anew, or again under its id if it has gone; whether its sides were exported
-/// stays as it is. Nothing is triggered or told by it. Failures are thrown.
+/// Rewrites a posted row, or adds it under its id if it was deleted; whether its sides were
+/// exported stays as it is. It triggers nothing and refreshes no list. Failures are thrown.
 void RewriteTransaction(std::int32_t id, const Transaction& transaction);
 
 } // namespace books

@@ -28,32 +28,34 @@ Party PartyOf(Recordset& event, std::string_view typeField, std::string_view idF
 }
 
 Transaction PostingOf(Recordset& event, Date date) {
-    return {.dateEffective = date,
-            .debit = PartyOf(event, "DebitType", "DebitId"),
-            .credit = PartyOf(event, "CreditType", "CreditId"),
-            .amount = MoneyOf(event["Amount"]),
-            .taxCategory = TextOf(event["TaxCategory"]),
-            .ien = Ien{CountOf(event["IEN"])},
-            .checkNumber = std::string(kCheckNumber),
-            .description = TextOf(event["Description"]),
-            .idTenant = IdOf(event["IdTenant"]),
-            .idBuilding = IdOf(event["IdBuilding"]),
-            .idUnit = IdOf(event["IdUnit"]),
-            .idLease = IdOf(event["IdLease"]),
-            .idMortgage = IdOf(event["IdMortgage"]),
-            .idWorkOrder = IdOf(event["IdWorkOrder"])};
+    Transaction posting;
+    posting.dateEffective = date;
+    posting.debit = PartyOf(event, "DebitType", "DebitId");
+    posting.credit = PartyOf(event, "CreditType", "CreditId");
+    posting.amount = MoneyOf(event["Amount"]);
+    posting.taxCategory = TextOf(event["TaxCategory"]);
+    posting.ien = Ien{CountOf(event["IEN"])};
+    posting.checkNumber = kCheckNumber;
+    posting.description = TextOf(event["Description"]);
+    posting.idTenant = IdOf(event["IdTenant"]);
+    posting.idBuilding = IdOf(event["IdBuilding"]);
+    posting.idUnit = IdOf(event["IdUnit"]);
+    posting.idLease = IdOf(event["IdLease"]);
+    posting.idMortgage = IdOf(event["IdMortgage"]);
+    posting.idWorkOrder = IdOf(event["IdWorkOrder"]);
+    return posting;
 }
 
 } // namespace
 
 void RunAutoEvent(std::int32_t idAutoEvent, Date date) {
     if (!date.IsSet()) date = platform::Today();
+    platform::UnitOfWork unit(core::App().Connection);
     Recordset event;
     event.Open(core::App().Connection, "SELECT * FROM AutoEvent WHERE IdAutoEvent = ?",
                platform::CursorMode::ReadOnly, {idAutoEvent});
     if (event.Eof()) return;
 
-    platform::UnitOfWork unit(core::App().Connection);
     const bool posts =
         EventAction{CountOf(event["EventAction"])} == EventAction::ProcessTransaction;
     if (posts) PostTransaction(PostingOf(event, date), Triggers::Skip);

@@ -45,20 +45,24 @@ std::vector<Waiting> EventsOf(const Party& party, std::string_view taxCategory) 
 
 } // namespace
 
-void RunTriggeredEvents(const Party& party, std::string_view taxCategory) {
+bool RunTriggeredEvents(const Party& party, std::string_view taxCategory) {
+    bool ran = false;
     for (const Waiting& event : EventsOf(party, Trim(taxCategory))) {
         try {
             RunAutoEvent(event.id, platform::Date());
+            ran = true;
         } catch (const platform::Error& error) {
             core::AddAlert(
                 fmt::format("Auto Event Failed: {}: {}", event.description, error.what()));
         }
     }
+    return ran;
 }
 
-void RunTriggeredEvents(const Transaction& transaction) {
-    RunTriggeredEvents(transaction.debit, transaction.taxCategory);
-    RunTriggeredEvents(transaction.credit, transaction.taxCategory);
+bool RunTriggeredEvents(const Transaction& transaction) {
+    const bool ofDebit = RunTriggeredEvents(transaction.debit, transaction.taxCategory);
+    const bool ofCredit = RunTriggeredEvents(transaction.credit, transaction.taxCategory);
+    return ofDebit || ofCredit;
 }
 
 } // namespace books

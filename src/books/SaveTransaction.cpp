@@ -2,6 +2,7 @@
 
 #include "books/Mileage.h"
 #include "books/RunTriggeredEvents.h"
+#include "books/TellLists.h"
 #include "books/TransactionListeners.h"
 #include "books/TransactionRow.h"
 #include "core/Globals.h"
@@ -23,43 +24,73 @@ std::int32_t TripOf(std::int32_t idTransaction) {
     return idMileage ? idMileage->AsLong() : 0;
 }
 
-bool IsStored(std::int32_t id) {
-    return id != 0 &&
-           core::App()
-               .Connection
-               .Scalar("SELECT IdTransaction FROM Transactions WHERE IdTransaction = ?", {id})
-               .has_value();
-}
-
-void OpenRow(Recordset& rows, std::int32_t& id) {
-    if (id != 0) return OpenTransactionRow(rows, id);
+void AddRow(Recordset& rows, std::int32_t id) {
     rows.Open(core::App().Connection, "Transactions", platform::CursorMode::AppendOnly);
-    id = core::NextId();
     AddTransactionRow(rows, id);
 }
 
+/// The trip that goes with the row; asked about before the unit of work begins.
+class TripRemoval {
+  public:
+    TripRemoval(std::int32_t idTransaction, Trip trip)
+        : idTransaction_(idTransaction),
+          asked_(trip == Trip::None ? TripOf(idTransaction) : 0),
+          agreed_(asked_ != 0 && removal::AgreedToDelete(core::kMileage, asked_)) {}
+
+    /// True if a trip was deleted.
+    bool Run() const {
+        // Another program may have given the row another trip while the user was being asked.
+        if (!agreed_ || TripOf(idTransaction_) != asked_) return false;
+        removal::RemoveRecord(core::kMileage, asked_, removal::Tell::Nobody);
+        return true;
+    }
+
+  private:
+    std::int32_t idTransaction_;
+    std::int32_t asked_;
+    bool agreed_;
+};
+
 } // namespace
 
-std::int32_t SaveTransaction(std::int32_t id, const Transaction& transaction, Trip trip,
-                             const Transaction* before) {
-    const bool isNew = id == 0;
-    const std::int32_t oldTrip = isNew ? 0 : TripOf(id);
-    const bool removesTrip =
-        trip == Trip::None && oldTrip != 0 && removal::AgreedToDelete(core::kMileage, oldTrip);
-
+std::int32_t AddTransaction(const Transaction& entered, Trip trip) {
     platform::UnitOfWork unit(core::App().Connection);
-    if (removesTrip) removal::RemoveRecord(core::kMileage, oldTrip);
-    if (!IsStored(id)) before = nullptr;
+    const std::int32_t id = core::NextId();
     Recordset rows;
-    OpenRow(rows, id);
-    WriteTransactionFields(rows, transaction, before);
-    const std::int32_t newTrip = trip == Trip::Keep ? WriteTrip(oldTrip, transaction) : 0;
-    if (!before || newTrip != oldTrip) rows["IdMileage"].Set(newTrip);
-    if (isNew) RunTriggeredEvents(transaction);
+    AddRow(rows, id);
+    WriteTransactionFields(rows, entered);
+    rows["IdMileage"].Set(trip == Trip::Keep ? WriteTrip(0, entered) : 0);
+    const bool triggered = RunTriggeredEvents(entered);
     rows.Update();
-    TellTransactionListeners(id, transaction);
+    TellTransactionListeners(id, entered);
     unit.Commit();
+    if (trip == Trip::Keep) TellLists({core::kMileage});
+    if (triggered) TellLists({core::kAutoEvent});
     return id;
+}
+
+void EditTransaction(std::int32_t id, const Transaction& entered, const Transaction& shown,
+                     Trip trip) {
+    const TripRemoval removal(id, trip);
+    platform::UnitOfWork unit(core::App().Connection);
+    const bool removed = removal.Run();
+    Recordset rows;
+    rows.Open(core::App().Connection, "SELECT * FROM Transactions WHERE IdTransaction = ?",
+              platform::CursorMode::Updatable, {id});
+    if (rows.Eof()) {
+        AddRow(rows, id);
+        WriteTransactionFields(rows, entered);
+    } else {
+        WriteChangedFields(rows, entered, shown);
+    }
+    const Transaction saved = ReadTransactionFields(rows);
+    const std::int32_t oldTrip = IdOf(rows["IdMileage"]);
+    const std::int32_t newTrip = trip == Trip::Keep ? WriteTrip(oldTrip, saved) : 0;
+    if (newTrip != oldTrip) rows["IdMileage"].Set(newTrip);
+    rows.Update();
+    TellTransactionListeners(id, saved);
+    unit.Commit();
+    if (removed || trip == Trip::Keep) TellLists({core::kMileage});
 }
 
 } // namespace books

@@ -9,18 +9,19 @@ namespace books {
 /// Whether a transaction has a trip in the mileage log.
 enum class Trip { None, Keep };
 
-/// Writes a transaction as a person edits it. Id 0 is a new row, which triggers events; an edited
-/// one triggers nothing, and comes back under its id if it has gone. What the editor doesn't show
-/// stays: whether the sides were exported, and whether it is reconciled.
+/// Adds the transaction of an editor as a new row, which triggers events; otherwise as
+/// EditTransaction does. Returns the row's id.
+std::int32_t AddTransaction(const Transaction& entered, Trip trip);
+
+/// Stores the changes made on an editor: only the fields in which `entered` differs from `shown`
+/// are written, so that a field that the user left alone keeps a value stored by another program
+/// in the meantime. A row that was deleted is added again under its id with all that was entered.
 ///
-/// With Trip::Keep its trip is made, or made anew. Without, the trip that the row has is removed if
-/// the person agrees, and forgotten in any case. Whoever asked to know of transactions is told.
-/// One unit of work, begun when nothing is left to ask; failures are thrown. Answers the row's id;
-/// the open lists are the caller's to tell.
-///
-/// `before` is a stored transaction as the editor showed it: only what differs from it is written,
-/// unless the row has to come back.
-std::int32_t SaveTransaction(std::int32_t id, const Transaction& transaction, Trip trip,
-                             const Transaction* before = nullptr);
+/// With Trip::Keep its trip is written with the present figures. Without, the trip that the row has
+/// is deleted if the user agrees, and the row forgets it in any case. The registered listeners are
+/// called. One unit of work, begun when nothing is left to ask; failures are thrown. Lists of trips
+/// and events are refreshed; the list of transactions is left to the caller.
+void EditTransaction(std::int32_t id, const Transaction& entered, const Transaction& shown,
+                     Trip trip);
 
 } // namespace books

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "books/AutoEvent.h"
+#include "books/Categories.h"
 #include "books/EventSchedule.h"
 #include "books/TellLists.h"
 #include "core/Globals.h"
@@ -14,6 +15,7 @@
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
+#include "platform/values/Text.h"
 
 namespace books {
 
@@ -23,7 +25,7 @@ using platform::UnitOfWork;
 
 namespace {
 
-/// What became of one event in a pass; told once the pass is kept.
+/// The result of one event in a pass; reported once the pass is committed.
 struct EventOutcome {
     std::int32_t id = 0;
     std::string description;
@@ -38,19 +40,29 @@ EventSchedule ScheduleOf(Recordset& event) {
 }
 
 std::string DescriptionOf(Recordset& event) {
-    const std::string description = TextOf(event["Description"]);
+    const std::string description(platform::Trim(TextOf(event["Description"])));
     return description.empty() ? "event " + std::to_string(event["IdAutoEvent"].AsLong())
                                : description;
 }
 
-/// Nothing when the event isn't due.
+/// Keeps the day that an event waits for which never ran; true if it was kept.
+bool KeepAwaitedDay(Recordset& event) {
+    const std::optional<Date> seed = SeedWhileWaiting(ScheduleOf(event), platform::Today());
+    if (!seed) return false;
+    core::App().Connection.Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
+                                   {seed->ToText(), event["IdAutoEvent"].AsLong()});
+    return true;
+}
+
+/// Returns nothing if the event isn't due.
 std::optional<EventOutcome> RunIfDue(Recordset& event) {
     const std::optional<Date> due = DueRun(ScheduleOf(event), platform::Today());
     if (!due) return std::nullopt;
     EventOutcome outcome;
     outcome.id = event["IdAutoEvent"].AsLong();
     outcome.description = DescriptionOf(event);
-    outcome.category = TextOf(event["TaxCategory"]);
+    outcome.category = platform::Trim(TextOf(event["TaxCategory"]));
+    if (outcome.category.empty()) outcome.category = kNoCategory;
     RunAutoEvent(outcome.id, *due);
     if (EventAction{CountOf(event["EventAction"])} == EventAction::ProcessTransaction) {
         outcome.posted = {*due, {}, MoneyOf(event["Amount"])};
@@ -73,12 +85,14 @@ void Tell(core::RunListener& listener, const std::vector<EventOutcome>& outcomes
 } // namespace
 
 bool ScheduledEvents::RunScheduledEvents() {
+    // The rows are read inside the unit of work: another program may have run them just before.
+    UnitOfWork pass(core::App().Connection);
     Recordset events;
     events.Open(core::App().Connection,
                 "SELECT * FROM AutoEvent WHERE EventType = 1 AND Enabled = True");
     std::vector<EventOutcome> outcomes;
     bool ran = false;
-    UnitOfWork pass(core::App().Connection);
+    bool kept = false;
     for (; !events.Eof(); events.MoveNext()) {
         const std::int32_t id = IdOf(events["IdAutoEvent"]);
         if (passedOver_.contains(id)) continue;
@@ -86,6 +100,8 @@ bool ScheduledEvents::RunScheduledEvents() {
             if (auto outcome = RunIfDue(events)) {
                 ran = true;
                 outcomes.push_back(std::move(*outcome));
+            } else if (KeepAwaitedDay(events)) {
+                kept = true;
             }
         } catch (const platform::Error& error) {
             passedOver_.insert(id);
@@ -96,7 +112,8 @@ bool ScheduledEvents::RunScheduledEvents() {
         }
     }
     pass.Commit();
-    if (ran) TellLists({core::kTransaction, core::kAutoEvent});
+    if (ran) TellLists({core::kTransaction});
+    if (ran || kept) TellLists({core::kAutoEvent});
     Tell(listener_, outcomes);
     return ran;
 }

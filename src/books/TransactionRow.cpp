@@ -1,12 +1,103 @@
 #include "books/TransactionRow.h"
 
 #include "core/Globals.h"
+#include "platform/database/FieldReadings.h"
 
 namespace books {
 
 using platform::Currency;
 using platform::CursorMode;
+using platform::Date;
+using platform::Field;
 using platform::Recordset;
+
+namespace {
+
+void Put(Field field, Date value) {
+    field.Set(value.ToText());
+}
+void Put(Field field, Ien value) {
+    field.Set(static_cast<std::int16_t>(value));
+}
+template <class T>
+void Put(Field field, const T& value) {
+    field.Set(value);
+}
+
+void Get(const Field& field, Date& value) {
+    value = DateOf(field);
+}
+void Get(const Field& field, std::string& value) {
+    value = TextOf(field);
+}
+void Get(const Field& field, Currency& value) {
+    value = MoneyOf(field);
+}
+void Get(const Field& field, Ien& value) {
+    value = Ien{CountOf(field)};
+}
+void Get(const Field& field, std::int16_t& value) {
+    value = CountOf(field);
+}
+void Get(const Field& field, std::int32_t& value) {
+    value = IdOf(field);
+}
+
+/// A field of the row and the member that it stores.
+struct FieldOf {
+    const char* name;
+    bool (*same)(const Transaction&, const Transaction&);
+    void (*write)(Field, const Transaction&);
+    void (*read)(const Field&, Transaction&);
+};
+
+template <auto member>
+constexpr FieldOf Of(const char* name) {
+    return {name, [](const Transaction& a, const Transaction& b) { return a.*member == b.*member; },
+            [](Field field, const Transaction& from) { Put(field, from.*member); },
+            [](const Field& field, Transaction& to) { Get(field, to.*member); }};
+}
+
+/// The same for a member of one side.
+template <auto side, auto member>
+constexpr FieldOf OfSide(const char* name) {
+    return {name,
+            [](const Transaction& a, const Transaction& b) {
+                return a.*side.*member == b.*side.*member;
+            },
+            [](Field field, const Transaction& from) { Put(field, from.*side.*member); },
+            [](const Field& field, Transaction& to) { Get(field, to.*side.*member); }};
+}
+
+constexpr FieldOf kFields[] = {
+    Of<&Transaction::dateEffective>("DateEffective"),
+    OfSide<&Transaction::debit, &Party::type>("DebitType"),
+    OfSide<&Transaction::debit, &Party::id>("DebitId"),
+    OfSide<&Transaction::debit, &Party::description>("DebitDesc"),
+    OfSide<&Transaction::credit, &Party::type>("CreditType"),
+    OfSide<&Transaction::credit, &Party::id>("CreditId"),
+    OfSide<&Transaction::credit, &Party::description>("CreditDesc"),
+    Of<&Transaction::checkNumber>("CheckNum"),
+    Of<&Transaction::amount>("Amount"),
+    Of<&Transaction::taxCategory>("TaxCategory"),
+    Of<&Transaction::ien>("IEN"),
+    Of<&Transaction::description>("Description"),
+    Of<&Transaction::transactionClass>("Class"),
+    Of<&Transaction::flags>("Flags"),
+    Of<&Transaction::idTenant>("IdTenant"),
+    Of<&Transaction::idBuilding>("IdBuilding"),
+    Of<&Transaction::idUnit>("IdUnit"),
+    Of<&Transaction::idLease>("IdLease"),
+    Of<&Transaction::idMortgage>("IdMortgage"),
+    Of<&Transaction::idWorkOrder>("IdWorkOrder"),
+};
+
+void WriteBalances(Recordset& rows) {
+    for (const auto* balance : {"DebitPrevBal", "DebitNewBal", "CreditPrevBal", "CreditNewBal"})
+        rows[balance].Set(Currency());
+}
+
+} // namespace
 
 void AddTransactionRow(Recordset& rows, std::int32_t id) {
     rows.AddNew();
@@ -21,35 +112,27 @@ void OpenTransactionRow(Recordset& rows, std::int32_t id) {
     if (rows.Eof()) AddTransactionRow(rows, id);
 }
 
-void WriteTransactionFields(Recordset& rows, const Transaction& transaction,
-                            const Transaction* before) {
-    const auto write = [&](std::string_view field, auto read) {
-        if (!before || read(transaction) != read(*before))
-            rows[field].Set(platform::Value(read(transaction)));
-    };
-    write("DateEffective", [](const Transaction& t) { return t.dateEffective.ToText(); });
-    write("DebitType", [](const Transaction& t) { return t.debit.type; });
-    write("DebitId", [](const Transaction& t) { return t.debit.id; });
-    write("DebitDesc", [](const Transaction& t) { return t.debit.description; });
-    write("CreditType", [](const Transaction& t) { return t.credit.type; });
-    write("CreditId", [](const Transaction& t) { return t.credit.id; });
-    write("CreditDesc", [](const Transaction& t) { return t.credit.description; });
-    for (const auto* balance : {"DebitPrevBal", "DebitNewBal", "CreditPrevBal", "CreditNewBal"}) {
-        write(balance, [](const Transaction&) { return Currency(); });
+void WriteTransactionFields(Recordset& rows, const Transaction& transaction) {
+    for (const FieldOf& field : kFields)
+        field.write(rows[field.name], transaction);
+    WriteBalances(rows);
+}
+
+void WriteChangedFields(Recordset& rows, const Transaction& entered, const Transaction& shown) {
+    bool isChanged = false;
+    for (const FieldOf& field : kFields) {
+        if (field.same(entered, shown)) continue;
+        field.write(rows[field.name], entered);
+        isChanged = true;
     }
-    write("CheckNum", [](const Transaction& t) { return t.checkNumber; });
-    write("Amount", [](const Transaction& t) { return t.amount; });
-    write("TaxCategory", [](const Transaction& t) { return t.taxCategory; });
-    write("IEN", [](const Transaction& t) { return static_cast<std::int16_t>(t.ien); });
-    write("Description", [](const Transaction& t) { return t.description; });
-    write("Class", [](const Transaction& t) { return t.transactionClass; });
-    write("Flags", [](const Transaction& t) { return t.flags; });
-    write("IdTenant", [](const Transaction& t) { return t.idTenant; });
-    write("IdBuilding", [](const Transaction& t) { return t.idBuilding; });
-    write("IdUnit", [](const Transaction& t) { return t.idUnit; });
-    write("IdLease", [](const Transaction& t) { return t.idLease; });
-    write("IdMortgage", [](const Transaction& t) { return t.idMortgage; });
-    write("IdWorkOrder", [](const Transaction& t) { return t.idWorkOrder; });
+    if (isChanged) WriteBalances(rows);
+}
+
+Transaction ReadTransactionFields(Recordset& rows) {
+    Transaction transaction;
+    for (const FieldOf& field : kFields)
+        field.read(rows[field.name], transaction);
+    return transaction;
 }
 
 } // namespace books

@@ -7,18 +7,24 @@
 
 namespace books {
 
-// What all writers of transactions write of a row. Failures are thrown.
+// The fields of a transaction's row that all its writers share. Failures are thrown.
 
-/// Starts a new row of this id, which no side has been exported of.
+/// Starts a new row of this id, neither side of which has been exported.
 void AddTransactionRow(platform::Recordset& rows, std::int32_t id);
 
-/// Opens the row of this id to write it; a row that has gone is started again under its id.
+/// Opens the row of this id to write it; a deleted row is started again under its id.
 void OpenTransactionRow(platform::Recordset& rows, std::int32_t id);
 
-/// Date, sides, amount, category, what made it and what it is about. The balances are always 0:
-/// what a party has is always added up from the rows. With `before`, what the transaction was when
-/// it was read, only the fields that differ from it are written.
-void WriteTransactionFields(platform::Recordset& rows, const Transaction& transaction,
-                            const Transaction* before = nullptr);
+/// Writes date, sides, amount, category, class and references. The balances are always 0: what a
+/// party has is always the sum of its rows.
+void WriteTransactionFields(platform::Recordset& rows, const Transaction& transaction);
+
+/// Writes only the fields in which `entered` differs from `shown`, and the balances if there is
+/// one.
+void WriteChangedFields(platform::Recordset& rows, const Transaction& entered,
+                        const Transaction& shown);
+
+/// Returns the fields of the current row; unset ones are empty or 0.
+Transaction ReadTransactionFields(platform::Recordset& rows);
 
 } // namespace books

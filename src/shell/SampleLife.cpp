@@ -55,6 +55,8 @@ void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress
         unit.Commit();
         if (progress) progress(day.Serial() - cast.begins.Serial() + 1, days);
     }
+    // The automated events are switched on last: the two years that were made up are not theirs.
+    core::App().Connection.Execute("UPDATE AutoEvent SET Enabled = True");
     core::UpdateRecords();
     platform::UnitOfWork unit(core::App().Connection);
     for (const SampleBorrower& borrower : borrowers)

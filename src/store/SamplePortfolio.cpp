@@ -41,7 +41,14 @@ void AddDepositTemplates(SampleBooks& books, const std::vector<SampleBuilding>& 
     }
 }
 
-/// Disabled, as a newcomer would first want to look at them.
+/// The latest 5th of a month: from there on the event runs on each following one.
+std::string LastFifth(platform::Date today) {
+    constexpr unsigned kFifth = 5;
+    const platform::Date fifth(today.Year(), today.Month(), kFifth);
+    return (fifth <= today ? fifth : DateAdd(Interval::Month, -1, fifth)).ToText();
+}
+
+/// Disabled until the sample has lived its two years.
 void AddEvents(SampleBooks& books, const SampleBuilding& building) {
     const SampleAccounts& accounts = books.accounts;
     const std::string today = books.today.ToText();
@@ -53,7 +60,7 @@ void AddEvents(SampleBooks& books, const SampleBuilding& building) {
                                  {"EventAction", 1},
                                  {"TaxCategory", "Cleaning and Maint"},
                                  {"IEN", 1},
-                                 {"LastRun", today},
+                                 {"LastRun", LastFifth(books.today)},
                                  {"DebitType", kAccountKind},
                                  {"CreditType", kAccountKind},
                                  {"DebitId", accounts.operatingBank},
@@ -84,7 +91,7 @@ void AddEvents(SampleBooks& books, const SampleBuilding& building) {
                                  {"Alert", true},
                                  {"TriggerType", kAccountKind},
                                  {"TriggerID", accounts.housingAid},
-                                 {"TriggerTaxCategory", "Rent Payment"}});
+                                 {"TriggerTaxCategory", "Rent Subsidy Payment"}});
 }
 
 void AddAlerts(SampleBooks& books) {

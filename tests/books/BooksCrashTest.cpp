@@ -29,13 +29,13 @@ TEST_F(BooksCrash, APostingWithItsEventsIsNeverHalf) {
 }
 
 TEST_F(BooksCrash, ASaveWithItsTripIsNeverHalf) {
-    const std::int32_t id = books::SaveTransaction(0, Payment(), books::Trip::None);
+    const std::int32_t id = books::AddTransaction(Payment(), books::Trip::None);
     ExpectWhole(tests::CrashAtEveryStatement(
-                    [&] { books::SaveTransaction(id, Payment(), books::Trip::Keep); }),
+                    [&] { books::EditTransaction(id, Payment(), Payment(), books::Trip::Keep); }),
                 5);
     core::Preferences().ConfirmDelete = false;
     ExpectWhole(tests::CrashAtEveryStatement(
-                    [&] { books::SaveTransaction(id, Payment(), books::Trip::None); }),
+                    [&] { books::EditTransaction(id, Payment(), Payment(), books::Trip::None); }),
                 5);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Mileage"), "0");
 }

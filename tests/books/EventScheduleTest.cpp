@@ -78,6 +78,40 @@ TEST(EventSchedule, NamesTheDayOfTheRunThatIsDue) {
     }
 }
 
+TEST(EventSchedule, KeepsTheFirstDayThatItWaitsFor) {
+    struct Case {
+        int interval;
+        int period;
+        const char* lastRun;
+        const char* today;
+        const char* seed;
+        const char* awaited;
+    };
+    for (const auto& [interval, period, lastRun, today, seed, awaited] : {
+             Case{4, 18, "", "05/17/2024", "04/18/2024", "05/18/2024"},
+             {4, 16, "", "05/17/2024", "05/16/2024", "06/16/2024"},
+             {4, 31, "", "04/29/2024", "03/30/2024", "04/30/2024"},
+             {4, 30, "", "02/28/2024", "01/29/2024", "02/29/2024"},
+             {4, 1, "", "12/31/2024", "12/01/2024", "01/01/2025"},
+             // On its day it runs; an event that ran, or counts intervals, keeps no day.
+             {4, 17, "", "05/17/2024", "-", ""},
+             {4, 18, "04/18/2024", "05/17/2024", "-", ""},
+             {3, 1, "", "05/17/2024", "-", ""},
+         }) {
+        const books::EventSchedule schedule{IntervalType{static_cast<std::int16_t>(interval)},
+                                            static_cast<std::int16_t>(period),
+                                            Date::Parse(lastRun)};
+        const auto kept = books::SeedWhileWaiting(schedule, Date::Parse(today));
+        EXPECT_EQ(kept ? kept->ToText() : "-", seed) << period << " on " << today;
+        if (!kept) continue;
+        const Date day = Date::Parse(awaited);
+        const std::string from = kept->ToText();
+        const std::string before = DateAdd(platform::Interval::Day, -1, day).ToText();
+        EXPECT_EQ(Due(interval, period, from.c_str(), before.c_str()), "-");
+        EXPECT_EQ(Due(interval, period, from.c_str(), "12/31/2029"), awaited);
+    }
+}
+
 TEST(EventSchedule, ANewEventOfADayOfTheMonthStartsFromThisMonthOrTheLast) {
     struct Case {
         int day;

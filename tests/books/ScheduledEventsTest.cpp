@@ -162,6 +162,29 @@ TEST_F(ScheduledEvents, RunAtOnceWhenTheyNeverRanAndAreReckonedFromThenOn) {
               "Event 8|06/16/2024;Event 9|06/20/2024;");
 }
 
+TEST_F(ScheduledEvents, OfADayOfTheMonthLoseNoDayWhenTheProgramIsNotStartedOnIt) {
+    AddScheduled(7, 4, 20, "NULL");
+    AddScheduled(8, 4, 16, "");
+    int refreshed = 0;
+    const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t) {
+        if (kind == 19) ++refreshed;
+    });
+    EXPECT_EQ(RunAll().posted, Lines{});
+    EXPECT_EQ(refreshed, 1) << "the awaited days are stored";
+    EXPECT_EQ(RunAll().posted, Lines{});
+    EXPECT_EQ(refreshed, 1);
+    SetToday(Date(2024, 7, 1));
+    EXPECT_EQ(RunAll().posted,
+              (Lines{"19 7 Event 7: Supplies 05/20/2024 25", "19 8 Event 8: Supplies 06/16/2024 25",
+                     "19 7 Event 7: Supplies 06/20/2024 25"}));
+}
+
+TEST_F(ScheduledEvents, AreReportedByNameAndCategory) {
+    AddScheduled(7, 3, 1, "04/17/2024");
+    Run("UPDATE AutoEvent SET Description = ' ', TaxCategory = NULL");
+    EXPECT_EQ(RunAll().posted, Lines{"19 7 event 7: No Category Selected 05/17/2024 25"});
+}
+
 TEST_F(ScheduledEvents, DoWhatTheyAreToldAndNoMore) {
     struct Case {
         int action;

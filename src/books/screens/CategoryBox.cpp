@@ -1,6 +1,7 @@
 #include "books/screens/CategoryBox.h"
 
 #include <QComboBox>
+#include <algorithm>
 
 #include "core/Lists.h"
 #include "core/RecordKinds.h"
@@ -31,9 +32,24 @@ void FillCategories(QComboBox& box) {
     core::binding::ShowInCombo(Offered(), box);
 }
 
+void FillTriggerCategories(QComboBox& box) {
+    core::ChoiceList list = Offered();
+    for (const std::string_view category : kPaymentCategories) {
+        const auto isIt = [&](const core::Choice& row) { return row.text == category; };
+        if (std::none_of(list.Rows().begin(), list.Rows().end(), isIt)) list.Add(category, 0);
+    }
+    core::binding::ShowInCombo(list, box);
+}
+
 void RefreshCategories(QComboBox& box) {
     const Category chosen = ChosenCategory(box);
     FillCategories(box);
+    ShowCategory(box, chosen);
+}
+
+void RefreshTriggerCategories(QComboBox& box) {
+    const Category chosen = ChosenCategory(box);
+    FillTriggerCategories(box);
     ShowCategory(box, chosen);
 }
 

@@ -11,8 +11,11 @@ namespace books::screens {
 
 /// Fills it; nothing is selected but the words.
 void FillCategories(QComboBox& box);
-/// Fills it again with what is selected kept, offered or not.
+/// Fills the box of an event's trigger, which offers the payments' categories besides.
+void FillTriggerCategories(QComboBox& box);
+/// Fills it again; the selected category stays selected, offered or not.
 void RefreshCategories(QComboBox& box);
+void RefreshTriggerCategories(QComboBox& box);
 
 /// Puts a category before all others, and selects it.
 void PresetCategory(QComboBox& box, const Category& category);

@@ -1,7 +1,8 @@
 #include "books/screens/frmAutoEvent.h"
 
+#include <algorithm>
+
 #include "books/AutoEventRules.h"
-#include "books/EventSchedule.h"
 #include "books/screens/CategoryBox.h"
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
@@ -44,6 +45,10 @@ frmAutoEvent::frmAutoEvent(QWidget* parent)
         this);
     Wire();
     connect(ui_->optScheduled, &QRadioButton::toggled, this, &frmAutoEvent::ShowAvailable);
+    connect(ui_->optScheduled, &QRadioButton::toggled, this, &frmAutoEvent::ShowLastRun);
+    connect(ui_->cboIntervalType, &QComboBox::currentIndexChanged, this,
+            &frmAutoEvent::ShowLastRun);
+    connect(ui_->txtIntervalPeriod, &QLineEdit::textChanged, this, &frmAutoEvent::ShowLastRun);
     connect(ui_->cboEventAction, &QComboBox::currentIndexChanged, this,
             &frmAutoEvent::ShowAvailable);
     core::forms::PutLastInTabOrder(*this, *ui_->cmdAction);
@@ -68,9 +73,11 @@ void frmAutoEvent::FillLists() {
     ui_->chkEnabled->setChecked(true);
     ui_->txtIntervalPeriod->setText(QStringLiteral("1"));
     ui_->txtAmount->SetAmount({});
-    ui_->lblLastRun->setText(tr("Never"));
+    stored_.reset();
+    lastRun_.clear();
+    ShowLastRun();
     ShowAvailable();
-    FillCategories(*ui_->cboTriggerCategory);
+    FillTriggerCategories(*ui_->cboTriggerCategory);
     FillCategories(*ui_->cboCategory);
     for (PartyBoxes* const boxes : {trigger_.get(), from_.get(), to_.get()})
         boxes->Show(core::kAccount, 0);
@@ -90,10 +97,14 @@ void frmAutoEvent::ShowRow(Recordset& row) {
     trigger_->ShowStored(IdOf(row["TriggerID"]));
     from_->ShowStored(IdOf(row["DebitId"]));
     to_->ShowStored(IdOf(row["CreditId"]));
-    ui_->lblLastRun->setText(
-        row["LastRun"].IsBlank()
-            ? tr("Never")
-            : ToScreen(platform::Format(row["LastRun"].Value(), platform::kDateFormat)));
+    stored_.reset();
+    if (EventType{CountOf(row["EventType"])} == EventType::Scheduled) {
+        stored_ = Schedule();
+        lastRun_ = row["LastRun"].IsBlank()
+                       ? QString()
+                       : ToScreen(platform::Format(row["LastRun"].Value(), platform::kDateFormat));
+    }
+    ShowLastRun();
     references_->ShowAvailable();
     ShowAvailable();
 }
@@ -102,17 +113,34 @@ void frmAutoEvent::WriteRow(Recordset& row) {
     RecordForm::WriteRow(row);
     if (WritesNewRow() || IsTouched(*ui_->cboCategory))
         row["IEN"].Set(static_cast<std::int16_t>(ChosenCategory(*ui_->cboCategory).ien));
+    if (Type() != EventType::Scheduled) return;
     // A screen that has its record's tag edits a stored event.
-    if (OpenRecordId() == 0) SeedLastRun(row);
+    const bool isNew = OpenRecordId() == 0;
+    if (isNew || StartsAgain()) {
+        const platform::Date seed = SeedOf(Schedule(), platform::Today());
+        if (seed.IsSet() || !isNew) row["LastRun"].Set(seed.ToText());
+    }
 }
 
-/// So that a new event for a day of the month waits for that day.
-void frmAutoEvent::SeedLastRun(Recordset& row) const {
-    const bool ofDay =
-        GetSelectedId(*ui_->cboIntervalType) == static_cast<std::int32_t>(IntervalType::DayOfMonth);
-    if (Type() != EventType::Scheduled || !ofDay) return;
-    row["LastRun"].Set(
-        SeedOfDayOfMonth(row["IntervalPeriod"].AsInteger(), platform::Today()).ToText());
+EventSchedule frmAutoEvent::Schedule() const {
+    const auto period = platform::TryParseNumber(FromScreen(ui_->txtIntervalPeriod->text()));
+    EventSchedule schedule;
+    schedule.interval =
+        IntervalType{static_cast<std::int16_t>(GetSelectedId(*ui_->cboIntervalType))};
+    constexpr double kMost = 32'767;
+    schedule.period = platform::RoundToInt16(std::clamp(period.value_or(0), -kMost, kMost));
+    return schedule;
+}
+
+bool frmAutoEvent::StartsAgain() const {
+    if (OpenRecordId() == 0 || Type() != EventType::Scheduled) return false;
+    const EventSchedule now = Schedule();
+    return !stored_ || now.interval != stored_->interval || now.period != stored_->period;
+}
+
+void frmAutoEvent::ShowLastRun() {
+    const QString last = lastRun_.isEmpty() ? tr("Never") : lastRun_;
+    ui_->lblLastRun->setText(StartsAgain() ? tr("%1 (starts again when saved)").arg(last) : last);
 }
 
 void frmAutoEvent::ShowCaption() {
@@ -142,7 +170,7 @@ void frmAutoEvent::ShowAvailable() {
 void frmAutoEvent::Refresh(std::int16_t kind) {
     if (kind == core::kTransCategory) {
         RefreshCategories(*ui_->cboCategory);
-        RefreshCategories(*ui_->cboTriggerCategory);
+        RefreshTriggerCategories(*ui_->cboTriggerCategory);
     }
     for (PartyBoxes* const boxes : {trigger_.get(), from_.get(), to_.get()})
         boxes->Refresh(kind);

@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "books/AutoEvent.h"
+#include "books/EventSchedule.h"
 #include "books/screens/PartyBoxes.h"
 #include "books/screens/ReferenceBoxes.h"
 #include "core/forms/RecordForm.h"
@@ -36,13 +38,19 @@ class frmAutoEvent : public core::forms::RecordForm {
     void FillLists();
     void ShowAvailable();
     EventType Type() const;
-    void SeedLastRun(platform::Recordset& row) const;
+    EventSchedule Schedule() const;
+    /// The interval of a stored event was changed: it starts again like a new one.
+    bool StartsAgain() const;
+    void ShowLastRun();
 
     std::unique_ptr<Ui::frmAutoEvent> ui_;
     std::unique_ptr<PartyBoxes> trigger_;
     std::unique_ptr<PartyBoxes> from_;
     std::unique_ptr<PartyBoxes> to_;
     std::unique_ptr<ReferenceBoxes> references_;
+    /// The schedule as it was read, nothing for a new event and for a triggered one.
+    std::optional<EventSchedule> stored_;
+    QString lastRun_;
 };
 
 } // namespace books::screens

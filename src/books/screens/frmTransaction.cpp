@@ -1,11 +1,13 @@
 #include "books/screens/frmTransaction.h"
 
 #include "books/SaveTransaction.h"
+#include "books/TransactionRules.h"
 #include "books/screens/CategoryBox.h"
 #include "core/Globals.h"
 #include "core/binding/Binding.h"
 #include "core/binding/ControlValue.h"
 #include "platform/database/FieldReadings.h"
+#include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "ui_frmTransaction.h"
@@ -98,28 +100,42 @@ Transaction frmTransaction::Entered() const {
     const References references = references_->Chosen();
     const Category category = ChosenCategory(*ui_->cboCategory);
     const platform::Date day = ui_->dpEffectiveDate->Day().value_or(platform::Date());
-    return {.dateEffective = day.IsSet() ? day : platform::Today(),
-            .debit = {from_->Type(), from_->Id(), from_->Name()},
-            .credit = {to_->Type(), to_->Id(), to_->Name()},
-            .amount = ReadValue(*ui_->txtAmount, '$')->AsCurrency(),
-            .taxCategory = category.text,
-            .ien = category.ien,
-            .checkNumber = FromScreen(ui_->txtCheckNumber->text()),
-            .description = FromScreen(ui_->txtDescription->text()),
-            .transactionClass = transactionClass_,
-            .flags = flags_,
-            .idTenant = references.idTenant,
-            .idBuilding = references.idBuilding,
-            .idUnit = references.idUnit,
-            .idLease = references.idLease,
-            .idMortgage = references.idMortgage,
-            .idWorkOrder = references.idWorkOrder};
+    Transaction entered;
+    entered.dateEffective = day.IsSet() ? day : platform::Today();
+    entered.debit = {from_->Type(), from_->Id(), from_->Name()};
+    entered.credit = {to_->Type(), to_->Id(), to_->Name()};
+    entered.amount = ReadValue(*ui_->txtAmount, '$')->AsCurrency();
+    entered.taxCategory = category.text;
+    entered.ien = category.ien;
+    entered.checkNumber = FromScreen(ui_->txtCheckNumber->text());
+    entered.description = FromScreen(ui_->txtDescription->text());
+    entered.transactionClass = transactionClass_;
+    entered.flags = flags_;
+    entered.idTenant = references.idTenant;
+    entered.idBuilding = references.idBuilding;
+    entered.idUnit = references.idUnit;
+    entered.idLease = references.idLease;
+    entered.idMortgage = references.idMortgage;
+    entered.idWorkOrder = references.idWorkOrder;
+    return entered;
+}
+
+bool frmTransaction::Agreed() {
+    const Transaction entered = Entered();
+    if (Id() != 0 && entered.debit == shown_.debit && entered.credit == shown_.credit) return true;
+    const std::string doubt = DoubtAbout(entered);
+    return doubt.empty() ||
+           platform::TheDialogs().AskYesNo("Confirm Save", doubt, platform::Icon::Question);
 }
 
 void frmTransaction::Store() {
     const Transaction entered = Entered();
-    SetId(SaveTransaction(Id(), entered, ui_->chkMileage->isChecked() ? Trip::Keep : Trip::None,
-                          Id() == 0 ? nullptr : &shown_));
+    const Trip trip = ui_->chkMileage->isChecked() ? Trip::Keep : Trip::None;
+    if (Id() == 0) {
+        SetId(AddTransaction(entered, trip));
+    } else {
+        EditTransaction(Id(), entered, shown_, trip);
+    }
     cancelled_ = false;
     amount_ = entered.amount;
 }

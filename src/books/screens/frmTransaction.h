@@ -56,6 +56,7 @@ class frmTransaction : public core::forms::RecordForm {
   protected:
     void ShowRow(platform::Recordset& row) override;
     void ShowCaption() override;
+    bool Agreed() override;
     void Store() override;
     void Refresh(std::int16_t kind) override;
 

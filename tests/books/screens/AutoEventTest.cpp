@@ -111,6 +111,49 @@ TEST_F(AutoEventTest, SeedsANewEventOfADayOfTheMonth) {
     }
 }
 
+TEST_F(AutoEventTest, StartsAStoredEventAgainWhenItsIntervalIsChanged) {
+    struct Case {
+        const char* period;
+        const char* interval;
+        const char* shown;
+        const char* lastRun;
+    };
+    for (const auto& [period, interval, shown, lastRun] : {
+             Case{"1", "Month", "05/01/2024", "05/01/2024"},
+             {"18", "Day of Month", "05/01/2024 (starts again when saved)", "05/18/2024"},
+             {"5", "Day of Month", "05/01/2024 (starts again when saved)", "04/05/2024"},
+             {"2", "Month", "05/01/2024 (starts again when saved)", ""},
+             {"1", "Week", "05/01/2024 (starts again when saved)", ""},
+         }) {
+        Run("DELETE * FROM AutoEvent");
+        Run("INSERT INTO AutoEvent (IdAutoEvent, EventType, Description, Enabled, IntervalType, "
+            "IntervalPeriod, LastRun) VALUES (900, 1, 'Draw', True, 3, 1, '05/01/2024')");
+        const auto form = Open(900);
+        Choose(*form, "cboIntervalType", interval);
+        Type(Find<QLineEdit>(*form, "txtIntervalPeriod"), period);
+        EXPECT_EQ(Find<QLabel>(*form, "lblLastRun").text().toStdString(), shown);
+        Find<QCheckBox>(*form, "chkAlert").click();
+        ClickAction(*form, "APPLY");
+        EXPECT_EQ(Row("LastRun", 900), lastRun) << period << " " << interval;
+        // Once saved it goes on from there.
+        Find<QCheckBox>(*form, "chkAlert").click();
+        ClickAction(*form, "CLOSE");
+        EXPECT_EQ(Row("LastRun", 900), lastRun);
+        support::SettleEvents();
+    }
+}
+
+TEST_F(AutoEventTest, WaitsForThePaymentsThatTheProgramPosts) {
+    Run("DELETE * FROM TransCategory WHERE Category = 'Rent Payment'");
+    const auto form = Open();
+    const auto& box = Find<QComboBox>(*form, "cboTriggerCategory");
+    for (const char* category : {"Rent Payment", "Partial Rent Payment", "Rent Subsidy Payment",
+                                 "Deposit Payment", "Mortgage Payment", "Supplies"}) {
+        EXPECT_GE(box.findText(QLatin1String(category)), 0) << category;
+    }
+    EXPECT_LT(Find<QComboBox>(*form, "cboCategory").findText("Rent Subsidy Payment"), 0);
+}
+
 TEST_F(AutoEventTest, SavesATriggeredEventWhatsoeverItsInterval) {
     const auto form = Open();
     Find<QRadioButton>(*form, "optTriggered").click();

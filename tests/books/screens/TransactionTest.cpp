@@ -55,7 +55,7 @@ class TransactionTest : public support::ScreenTest {
                       " FROM Transactions WHERE IdTransaction = " + std::to_string(id));
         std::string text;
         for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
-            text += (i > 0 ? "|" : "") + rows[i].Value().AsText();
+            text += (i > 0 ? "|" : "") + (rows[i].IsNull() ? "NULL" : rows[i].AsText());
         }
         return text;
     }
@@ -79,13 +79,19 @@ TEST_F(TransactionTest, OpensEmptyOnToday) {
     EXPECT_TRUE(Find<QPushButton>(*form, "cmdApply").isEnabled());
 }
 
-TEST_F(TransactionTest, TakesAnythingAndWritesItAsItStands) {
+TEST_F(TransactionTest, AsksAboutDoubtfulPartiesThenWritesThemAsTheyStand) {
     const auto form = Open();
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{"Confirm Save: From and To are the same: Al Owner would pay the money "
+                            "to itself.\n\nDo you want to save the transaction anyway?"});
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0");
+    EXPECT_TRUE(form->isVisible()) << "No keeps the screen";
+    Answer({true});
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Row("DateEffective, DebitType, DebitId, DebitDesc, CreditId, Amount, TaxCategory, "
                   "IEN, CheckNum, Description, Class, Flags, IdLease, IdUnit, IdMileage"),
               "05/17/2024|1|61|Al Owner|61|0|No Category Selected|0|||0|0|0|0|0");
-    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(Heard().size(), 1U);
     EXPECT_FALSE(form->Cancelled());
 }
 
@@ -133,7 +139,9 @@ TEST_F(TransactionTest, ATypedNameIsARecordOnlyIfItIsTheFirstOne) {
         box.setFocus();
         Type(box, typed);
         QTest::keyClick(&box, Qt::Key_Tab);
+        Answer({true}); // "al owner" is From as well, and the blank one nobody
         ClickAction(*form, "CLOSE");
+        Heard();
         EXPECT_EQ(Ask("SELECT CreditId & '|' & CreditDesc FROM Transactions "
                       "WHERE IdTransaction = (SELECT Max(IdTransaction) FROM Transactions)"),
                   stored)
@@ -195,6 +203,24 @@ TEST_F(TransactionTest, ShowsAStoredRowAndKeepsWhatIsNotOffered) {
               "03/01/2024|0|Gone Plumber|5|31|12.3|Old Words|1|Pipes|9|7|20|10");
 }
 
+TEST_F(TransactionTest, ClosesARowThatNobodyEditedAsItWas) {
+    for (const char* values :
+         {"NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL",
+          "'2/3/2024', 5, 4711, 'Somebody', 1, 60, 'Old Name', 'Old Words', 9, 4711"}) {
+        Run("DELETE * FROM Transactions");
+        AddRow(900,
+               "DateEffective, DebitType, DebitId, DebitDesc, CreditType, CreditId, CreditDesc, "
+               "TaxCategory, IEN, IdLease",
+               values);
+        const std::string before = Row("*", 900);
+        const auto form = OpenId(900);
+        ClickAction(*form, "CLOSE");
+        EXPECT_EQ(Row("*", 900), before);
+        EXPECT_EQ(Heard(), Said{});
+        support::SettleEvents();
+    }
+}
+
 TEST_F(TransactionTest, CopiesATemplateIntoANewRowOfToday) {
     AddRow(900,
            "DateEffective, DebitType, DebitId, DebitDesc, CreditType, CreditId, CreditDesc, "
@@ -233,6 +259,7 @@ TEST_F(TransactionTest, AUnitFixesItsBuilding) {
 
 TEST_F(TransactionTest, MakesATripAndForgetsIt) {
     auto form = Open();
+    Choose(*form, "cboFrom", "River Bank");
     Choose(*form, "cboBuilding", "12 Elm St");
     Find<QCheckBox>(*form, "chkMileage").click();
     ClickAction(*form, "APPLY");
@@ -255,6 +282,7 @@ TEST_F(TransactionTest, TellsWhoAskedOnEverySave) {
     TransactionSetup setup;
     setup.transactionClass = 3;
     setup.flags = 4;
+    setup.fromId = 60;
     const auto form = Open(setup);
     Type(Find<QLineEdit>(*form, "txtAmount"), "4");
     ClickAction(*form, "APPLY");
