@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "books/AutoEvent.h"
-#include "books/Categories.h"
 #include "books/EventSchedule.h"
 #include "books/TellLists.h"
 #include "core/Globals.h"
@@ -61,8 +60,7 @@ std::optional<EventOutcome> RunIfDue(Recordset& event) {
     EventOutcome outcome;
     outcome.id = event["IdAutoEvent"].AsLong();
     outcome.description = DescriptionOf(event);
-    outcome.category = platform::Trim(TextOf(event["TaxCategory"]));
-    if (outcome.category.empty()) outcome.category = kNoCategory;
+    outcome.category = TextOf(event["TaxCategory"]);
     RunAutoEvent(outcome.id, *due);
     if (EventAction{CountOf(event["EventAction"])} == EventAction::ProcessTransaction) {
         outcome.posted = {*due, {}, MoneyOf(event["Amount"])};

@@ -112,8 +112,7 @@ void RegisterEditors() {
     core::RegisterTransactionOpener(
         core::TransactionEditor::MortgagePayment,
         [](const core::EditRequest& request, const core::TransactionPlace& place) {
-            (new mortgages::screens::frmMortgagePayment)
-                ->Setup(request.id, place.idMortgage, mortgages::OpenedFrom::Elsewhere);
+            (new mortgages::screens::frmMortgagePayment)->Setup(request.id, place.idMortgage);
         });
     RegisterChild<mortgages::screens::frmMortgage>(core::kMortgage);
     RegisterChild<mortgages::screens::frmMtgLog>(core::kMortgageLog);
@@ -154,8 +153,7 @@ shell::screens::Commands MenuCommands() {
                  Opening<mortgages::screens::frmMortgageWizard>());
     commands.Add(QStringLiteral("mnuPayMortgage"), [](const shell::screens::Selection& selection) {
         if (selection.id == 0) return;
-        (new mortgages::screens::frmMortgagePayment)
-            ->Setup(0, selection.id, mortgages::OpenedFrom::Elsewhere);
+        (new mortgages::screens::frmMortgagePayment)->Setup(0, selection.id);
     });
     commands.Add(QStringLiteral("mnuPayRent"), [](const shell::screens::Selection& selection) {
         if (selection.id == 0) return;

@@ -13,14 +13,23 @@ inline constexpr std::array<std::string_view, 7> kChargeCategories = {
     "Mortgage Payment", "Late Fee",    "PMI",        "Escrow Payment",
     "NSF Fee",          "Service Fee", "Misc Charge"};
 
-/// A charge of today as it is proposed.
+/// Returns the charge proposed today.
 MortgageLogEntry NewCharge(std::int32_t idMortgage);
 
-/// Reads a row of the log; false, and the person is told, when it isn't there. Of several of the
-/// same id, of which the person is told too, it reads the first.
+/// True for a row of extra principal that a payment booked.
+bool IsExtraPrincipal(const MortgageLogEntry& entry);
+
+/// True for a charge whose category and split the schedule depends on: they can't be edited.
+bool KeepsSplit(const MortgageLogEntry& entry);
+
+/// Reads a row of the log. Returns false, with a message to the user, if there is none; if several
+/// have this id the user gets a message too, and the first is read.
 bool ReadCharge(std::int32_t idMortgageLog, MortgageLogEntry& entry);
 
-/// Writes a charge and tells the open screens; answers its id. Failures are thrown.
-std::int32_t SaveCharge(const MortgageLogEntry& entry, std::int32_t idMortgageLog);
+/// Writes a charge, a new one for id 0, and refreshes the open screens; returns its id. Throws
+/// ConflictError and writes nothing if a stored charge is no longer as it was `read`: another
+/// program has paid, changed or deleted it.
+std::int32_t SaveCharge(const MortgageLogEntry& entry, const MortgageLogEntry& read,
+                        std::int32_t idMortgageLog);
 
 } // namespace mortgages

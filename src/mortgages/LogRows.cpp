@@ -1,5 +1,9 @@
 #include "mortgages/LogRows.h"
 
+#include <algorithm>
+
+#include <fmt/core.h>
+
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
@@ -7,6 +11,7 @@
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/values/Format.h"
 #include "removal/DeleteRecord.h"
 
 namespace mortgages {
@@ -27,7 +32,42 @@ LogRow RowOf(Recordset& rows) {
     row.entry.other = MoneyOf(rows["Other"]);
     row.total = MoneyOf(rows["Total"]);
     row.entry.flags = LogFlags{CountOf(rows["Flags"])};
+    row.entry.idTransaction = IdOf(rows["IdTransaction"]);
     return row;
+}
+
+/// More rows than these would make a question that doesn't fit the screen.
+constexpr std::size_t kMostNamed = 12;
+
+/// The row as the question names it; empty for one that isn't there any more.
+std::string NameOf(std::int32_t idMortgageLog) {
+    Recordset row;
+    row.Open(core::App().Connection,
+             "SELECT DatePosted, Description, Total FROM MortgageLog WHERE IdMortgageLog = ?",
+             platform::CursorMode::ReadOnly, {idMortgageLog});
+    if (row.Eof()) return {};
+    return fmt::format("{}  {}  {}", TextOf(row["DatePosted"]), TextOf(row["Description"]),
+                       platform::FormatMoney(MoneyOf(row["Total"])));
+}
+
+std::string QuestionOf(std::string_view question, const std::vector<ShownCharge>& rows) {
+    std::string text = std::string(question) + "\n";
+    for (std::size_t i = 0; i < std::min(rows.size(), kMostNamed); ++i)
+        text += "\n" + NameOf(rows[i].idMortgageLog);
+    if (rows.size() > kMostNamed) text += fmt::format("\nand {} more", rows.size() - kMostNamed);
+    return text;
+}
+
+void CheckUnchanged(const ShownCharge& shown) {
+    const auto paidBy = core::App().Connection.Scalar(
+        "SELECT IdTransaction FROM MortgageLog WHERE IdMortgageLog = ?", {shown.idMortgageLog});
+    if (!paidBy) return;
+    if ((paidBy->IsNull() ? 0 : paidBy->AsLong()) == shown.idTransaction) return;
+    throw platform::ConflictError(
+        shown.idTransaction == 0
+            ? "One of these charges has been paid in the meantime. Nothing was deleted."
+            : "The payment of one of these charges has been deleted in the meantime. Nothing was "
+              "deleted.");
 }
 
 } // namespace
@@ -37,8 +77,9 @@ std::vector<LogRow> ReadLog(std::int32_t idMortgage, LogPart part) {
         part == LogPart::PaymentDue ? "AND (IdTransaction = 0) " : "AND (IdTransaction <> 0) ";
     Recordset rows;
     rows.Open(core::App().Connection,
-              "SELECT IdMortgageLog, Flags, DatePosted, Category, Description, Principal, Paydown, "
-              "Interest, Other, Total FROM MortgageLog WHERE (IdMortgage = ?) " +
+              "SELECT IdMortgageLog, IdTransaction, Flags, DatePosted, Category, Description, "
+              "Principal, Paydown, Interest, Other, Total FROM MortgageLog "
+              "WHERE (IdMortgage = ?) " +
                   filter + "ORDER BY DateValue(DatePosted) DESC",
               platform::CursorMode::ReadOnly, {idMortgage});
     std::vector<LogRow> log;
@@ -53,15 +94,20 @@ std::int32_t TransactionOfLogRow(std::int32_t idMortgageLog) {
     return id ? id->AsLong() : 0;
 }
 
-bool DeleteLogRows(const std::vector<std::int32_t>& ids, std::string_view question) {
-    if (ids.empty()) return false;
-    if (ids.size() == 1) return removal::DeleteRecord(core::kMortgageLog, ids.front());
-    if (!platform::TheDialogs().AskYesNo("Confirm Delete", question, platform::Icon::Question)) {
-        return false;
-    }
+bool DeleteLogRows(const std::vector<ShownCharge>& rows, std::string_view question,
+                   SingleRow single) {
+    if (rows.empty()) return false;
+    const bool asRecord = rows.size() == 1 && single == SingleRow::AsRecord;
+    const bool agreed =
+        asRecord ? removal::AgreedToDelete(core::kMortgageLog, rows.front().idMortgageLog)
+                 : platform::TheDialogs().AskYesNo("Confirm Delete", QuestionOf(question, rows),
+                                                   platform::Icon::Question);
+    if (!agreed) return false;
     platform::UnitOfWork unit(core::App().Connection);
-    for (const std::int32_t id : ids)
-        removal::RemoveRecord(core::kMortgageLog, id, removal::Tell::Nobody);
+    for (const ShownCharge& row : rows) {
+        CheckUnchanged(row);
+        removal::RemoveRecord(core::kMortgageLog, row.idMortgageLog, removal::Tell::Nobody);
+    }
     unit.Commit();
     core::NotifyAll(core::kMortgageLog, core::kRecordsChanged, 0);
     return true;

@@ -8,7 +8,7 @@
 
 namespace mortgages {
 
-/// Which rows of a mortgage's log are looked at.
+/// Which rows of a mortgage's log to read.
 enum class LogPart { PaymentDue, PaymentHistory };
 
 /// A row of the log with its id.
@@ -18,14 +18,28 @@ struct LogRow {
     platform::Currency total;
 };
 
-/// The rows, the latest first. Failures are thrown.
+/// Returns the rows, the latest first. Failures are thrown.
 std::vector<LogRow> ReadLog(std::int32_t idMortgage, LogPart part);
 
-/// The transaction that settled a row of the log, 0 for an open one or one that isn't there.
+/// Returns the transaction that settled a row of the log; 0 for an open or missing row.
 std::int32_t TransactionOfLogRow(std::int32_t idMortgageLog);
 
-/// Removes rows of the log: one as any record is removed, several after `question` is agreed to,
-/// as one unit of work. The screens are told. True when they were removed; failures are thrown.
-bool DeleteLogRows(const std::vector<std::int32_t>& ids, std::string_view question);
+/// A row of the log as a screen shows it.
+struct ShownCharge {
+    std::int32_t idMortgageLog = 0;
+    /// The transaction that settled it, 0 for an open one.
+    std::int32_t idTransaction = 0;
+};
+
+/// Whether a single row is deleted with the question of its record kind, or with the same one as
+/// several rows.
+enum class SingleRow { AsRecord, AsSeveral };
+
+/// Deletes rows of the log as one unit of work after the user has agreed to `question`, which is
+/// shown with the rows named below it; refreshes the open screens. Returns true if they were
+/// deleted. Throws ConflictError and deletes nothing if a row has been paid, or its payment
+/// deleted, since it was shown.
+bool DeleteLogRows(const std::vector<ShownCharge>& rows, std::string_view question,
+                   SingleRow single = SingleRow::AsRecord);
 
 } // namespace mortgages

@@ -22,6 +22,8 @@ inline constexpr std::string_view kCategoryPayoff = "Mortgage Payoff";
 inline constexpr std::string_view kCategoryPmi = "PMI Payment";
 inline constexpr std::string_view kCategoryLate = "Late Payment";
 inline constexpr std::string_view kCategoryEscrow = "Mortgage Escrow";
+/// Principal paid once beyond the scheduled payments; the row's flags are Ordinary.
+inline constexpr std::string_view kCategoryExtra = "Extra Principal";
 
 /// The class of a transaction that pays a mortgage.
 inline constexpr std::int16_t kMortgagePaymentClass = 5;

@@ -11,7 +11,7 @@
 
 namespace mortgages {
 
-/// A row of the mortgage log as it is written. Positive amounts are owed to the lender.
+/// A row of the mortgage log. Positive amounts are owed to the lender.
 struct MortgageLogEntry {
     std::int32_t idMortgage = 0;
     /// The paying transaction, 0 while the row is open.
@@ -27,10 +27,12 @@ struct MortgageLogEntry {
     LogFlags flags = LogFlags::Ordinary;
 
     platform::Currency Total() const { return principal + payDown + interest + other; }
+
+    friend bool operator==(const MortgageLogEntry&, const MortgageLogEntry&) = default;
 };
 
-/// Writes the row `idMortgageLog`, or a new one if that is 0 or the row has gone; answers the row's
-/// id. Failures are thrown.
+/// Writes the row `idMortgageLog`, or a new one if that is 0 or the row was deleted; returns the
+/// row's id. Failures are thrown.
 std::int32_t WriteMortgageLog(const MortgageLogEntry& entry, std::int32_t idMortgageLog = 0);
 
 /// Adds the charges of a walk to the log of a mortgage, in their order. Failures are thrown.

@@ -21,7 +21,7 @@ std::string AccountName(std::int32_t idAccount) {
     return core::GetDescription(core::kAccount, idAccount, 0, false);
 }
 
-/// A stored side: the account's id, or a name that is none.
+/// Reads one side: the account's id and present name, or a stored name without an account.
 void ReadParty(Recordset& row, std::string_view idField, std::string_view nameField,
                std::int32_t& id, std::string& name) {
     id = IdOf(row[idField]);
@@ -30,15 +30,18 @@ void ReadParty(Recordset& row, std::string_view idField, std::string_view nameFi
 }
 
 PaymentCharge ChargeOf(Recordset& rows) {
-    return {.idMortgageLog = rows["IdMortgageLog"].AsLong(),
-            .datePosted = rows["DatePosted"].AsDate(),
-            .period = CountOf(rows["Period"]),
-            .category = TextOf(rows["Category"]),
-            .payDown = MoneyOf(rows["PayDown"]),
-            .total = MoneyOf(rows["Total"]),
-            .description = TextOf(rows["Description"]),
-            .selected = rows["Selected"].AsText() == "True",
-            .flags = LogFlags{CountOf(rows["Flags"])}};
+    PaymentCharge charge;
+    charge.idMortgageLog = rows["IdMortgageLog"].AsLong();
+    charge.idTransaction = IdOf(rows["IdTransaction"]);
+    charge.datePosted = DateOf(rows["DatePosted"]);
+    charge.period = CountOf(rows["Period"]);
+    charge.category = TextOf(rows["Category"]);
+    charge.payDown = MoneyOf(rows["PayDown"]);
+    charge.total = MoneyOf(rows["Total"]);
+    charge.description = TextOf(rows["Description"]);
+    charge.selected = rows["Selected"].AsText() == "True";
+    charge.flags = LogFlags{CountOf(rows["Flags"])};
+    return charge;
 }
 
 bool WasSelected(const std::vector<PaymentCharge>& charges, std::int32_t id, bool otherwise) {
@@ -50,7 +53,7 @@ bool WasSelected(const std::vector<PaymentCharge>& charges, std::int32_t id, boo
 } // namespace
 
 Currency MortgagePayment::PaidAmount() const {
-    Currency total;
+    Currency total = extraPrincipal;
     for (const PaymentCharge& charge : charges) {
         if (charge.selected) total += charge.total;
     }
@@ -97,7 +100,7 @@ MortgagePayment ReadMortgagePayment(std::int32_t idTransaction) {
     MortgagePayment payment;
     payment.idTransaction = idTransaction;
     payment.idMortgage = IdOf(row["IdMortgage"]);
-    payment.dateEffective = row["DateEffective"].AsDate();
+    payment.dateEffective = DateOf(row["DateEffective"]);
     ReadParty(row, "DebitId", "DebitDesc", payment.fromAccount, payment.fromName);
     ReadParty(row, "CreditId", "CreditDesc", payment.toAccount, payment.toName);
     payment.checkNumber = TextOf(row["CheckNum"]);

@@ -14,6 +14,8 @@ namespace mortgages {
 /// One charge of the log that a payment can settle.
 struct PaymentCharge {
     std::int32_t idMortgageLog = 0;
+    /// The transaction that settled it, 0 for an open one.
+    std::int32_t idTransaction = 0;
     platform::Date datePosted;
     std::int16_t period = 0;
     std::string category;
@@ -26,7 +28,7 @@ struct PaymentCharge {
     bool IsBasePayment() const { return flags == LogFlags::BasePayment; }
 };
 
-/// A payment of a mortgage, as it stands before it is submitted.
+/// A payment of a mortgage before it is submitted.
 struct MortgagePayment {
     std::int32_t idMortgage = 0;
     /// 0 for a new payment.
@@ -34,7 +36,7 @@ struct MortgagePayment {
     /// The log row that a stored payment left, 0 for none.
     std::int32_t idPaymentRow = 0;
     platform::Date dateEffective;
-    /// The paying and the receiving account; a name alone has id 0.
+    /// The paying and the receiving account; id 0 if only a name was typed.
     std::int32_t fromAccount = 0;
     std::string fromName;
     std::int32_t toAccount = 0;
@@ -43,43 +45,49 @@ struct MortgagePayment {
     /// The category that the transaction carries.
     std::string paymentType;
     std::string description;
-    /// By the day they were posted on.
+    /// Ordered by the day they were posted on.
     std::vector<PaymentCharge> charges;
+    /// Principal that a new payment pays beyond the selected charges.
+    platform::Currency extraPrincipal;
 
-    /// The sum of the selected charges.
+    /// The selected charges and the extra principal.
     platform::Currency PaidAmount() const;
     /// The lowest period among the base payments listed, 0 without one.
     std::int16_t FromPeriod() const;
 };
 
-/// The payment as it is proposed today, with all open charges and none of them selected: from the
-/// account that paid last to the lender. A mortgage that isn't there is a DatabaseError.
+/// Returns the payment proposed today: from the account that paid last to the lender, with all open
+/// charges and none of them selected. Throws DatabaseError if there is no such mortgage.
 MortgagePayment ProposeMortgagePayment(std::int32_t idMortgage);
 
-/// A stored payment with the charges it settled, selected, and those still open. A DatabaseError
-/// when it isn't there.
+/// Returns a stored payment with the charges it settled, which are selected, and the open ones.
+/// Throws DatabaseError if there is no such transaction.
 MortgagePayment ReadMortgagePayment(std::int32_t idTransaction);
 
-/// Reads the charges again; what was selected by id stays so.
+/// Reads the charges again; those selected before stay selected.
 void ReadCharges(MortgagePayment& payment);
 
-/// Selects a charge or takes it out. Base payments are paid in the order they fell due: one that
-/// would leave a gap stays as it is, and the answer is what to tell the person; otherwise empty.
+/// Selects or deselects a charge. Base payments are paid in the order they fell due: a change that
+/// would leave a gap isn't made, and the return value says why; otherwise it is empty.
 std::string_view Select(MortgagePayment& payment, std::size_t charge, bool selected);
 
 enum class ChargeChoice { All, BasePayments };
 
-/// The same for all charges, or for the base payments alone.
+/// Selects or deselects all charges, or only the base payments.
 void SelectAll(MortgagePayment& payment, ChargeChoice choice, bool selected);
 
-/// Where a payment was opened from. The mortgage's own screen reckons the mortgage anew when it is
-/// closed; a payment made elsewhere does the same itself, once it has ended.
-enum class OpenedFrom { MortgageScreen, Elsewhere };
+/// Returns what is wrong with a payment before it is submitted, a line each.
+std::vector<std::string> PaymentErrors(const MortgagePayment& payment);
 
-/// Posts a payment: the transaction, its row in the log, the selected charges settled by it and the
-/// others open; a new one moves the current period on by each base payment settled, whose extra
-/// principal enters the schedule. The screens are told. One unit of work; failures are thrown, and
-/// a selected charge that has gone meanwhile is one. Answers the transaction's id.
-std::int32_t SubmitMortgagePayment(const MortgagePayment& payment, OpenedFrom from);
+/// Posts a payment as one unit of work: the transaction and its log row; the selected charges are
+/// settled by it and the ones it settled before are open again. Each base payment that a new
+/// payment settles moves the current period on. Extra principal enters the schedule in the period
+/// of the last base payment settled, or in the current one. The mortgage's stored figures are then
+/// recalculated, and open screens refreshed.
+///
+/// Throws ConflictError and changes nothing if another program has meanwhile paid, changed or
+/// deleted a selected charge, the payment or the mortgage; throws Error if PaymentErrors names a
+/// fault. Returns the transaction's id.
+std::int32_t SubmitMortgagePayment(const MortgagePayment& payment);
 
 } // namespace mortgages

@@ -11,7 +11,7 @@ using platform::Recordset;
 
 namespace {
 
-/// What becomes of a field that can't be read.
+/// Whether a field that can't be read throws or is skipped.
 enum class Fault { Thrown, PassedOver };
 
 void Read(const Field& field, double& value) {
@@ -112,7 +112,7 @@ void WriteTerms(Recordset& row, const LoanTerms& terms, const std::vector<double
     row["ARMPerCap"].Set(terms.ARMPerCap);
 }
 
-/// The fields that tell of the current period; `at` is null where it lies outside the schedule.
+/// Writes the fields of the current period; `at` is null if it lies outside the schedule.
 void WriteCurrent(Recordset& row, const AmortPeriod* at, double AmortPeriod::*balance,
                   int remaining) {
     row["NextDue"].Set(at == nullptr ? std::string_view() : at->Due.View());
@@ -137,18 +137,27 @@ bool clsMortgage::LoadMtg(std::int32_t idMortgage) {
     ReadTerms(read, terms_);
     read("BalloonMtg", terms_.Balloon);
     read.List("xPri", xPri_);
-    if (const auto count = read.List("xRate", xRate_)) arraySize_ = static_cast<int>(*count);
+    if (const auto count = read.List("xRate", xRate_)) {
+        arraySize_ = static_cast<int>(*count);
+    } else {
+        ClearRate();
+    }
     return true;
 }
 
 bool clsMortgage::LoadRS(Recordset& row) {
     TermsReader read(row, Fault::PassedOver);
     ReadTerms(read, terms_);
-    // Not the name that the books give the flag. The run and the screens rest on it: a loan whose
+    // The books have no field of this name. The run and the screens depend on that: a loan whose
     // balloon isn't paid goes on being charged.
     read("Balloon", terms_.Balloon);
     if (const auto count = read.List("xPri", xPri_)) arraySize_ = static_cast<int>(*count);
-    if (const auto count = read.List("xRate", xRate_)) arraySize_ = static_cast<int>(*count);
+    if (const auto count = read.List("xRate", xRate_)) {
+        arraySize_ = static_cast<int>(*count);
+    } else {
+        // Without a list every rate is the loan's own, not the one of the object loaded into.
+        ClearRate();
+    }
     return true;
 }
 

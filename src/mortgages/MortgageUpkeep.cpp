@@ -3,8 +3,10 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "mortgages/ExtraPrincipal.h"
 #include "mortgages/MortgageLog.h"
 #include "mortgages/mMortgage.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/system/Clock.h"
 
 namespace mortgages {
@@ -13,7 +15,6 @@ using platform::Currency;
 using platform::CursorMode;
 using platform::Recordset;
 using platform::UnitOfWork;
-using platform::Value;
 
 namespace {
 
@@ -26,12 +27,14 @@ double NumberOr0(const platform::Field& field) {
 } // namespace
 
 void StoreLoan(const clsMortgage& mortgage, Recordset& row) {
-    const Value balloon = row["BalloonMtg"].Value();
-    const Value balloonPayment = row["BalloonPmt"].Value();
+    const bool keepsBalloon = FlagOf(row["BalloonMtg"]) && !mortgage.Balloon();
     mortgage.SaveRS(row);
-    if (!balloon.IsNull() && balloon.AsBoolean() && !mortgage.Balloon()) {
-        row["BalloonMtg"].Set(balloon);
-        row["BalloonPmt"].Set(balloonPayment);
+    if (keepsBalloon) {
+        clsMortgage withBalloon = mortgage;
+        withBalloon.SetBalloon(true);
+        withBalloon.ReCalc();
+        row["BalloonMtg"].Set(true);
+        row["BalloonPmt"].Set(withBalloon.BalloonPmt());
     }
     row["CurrentPPmt"].Set(mortgage.GetPPMT(0).ToDouble());
     row["CurrentIPmt"].Set(mortgage.GetIPMT(0).ToDouble());
@@ -48,12 +51,12 @@ void SettleRemainder(clsMortgage& mortgage) {
 }
 
 void RefreshMortgage(std::int32_t idMortgage) {
+    UnitOfWork unit(core::App().Connection);
     Recordset row;
     row.Open(core::App().Connection, "SELECT * FROM Mortgage WHERE IdMortgage = ?",
              CursorMode::Updatable, {idMortgage});
     if (row.Eof()) return;
 
-    UnitOfWork unit(core::App().Connection);
     clsMortgage mortgage;
     mortgage.LoadRS(row);
     mortgage.ReCalc();
@@ -77,16 +80,18 @@ PayoffResult PostPayoff(std::int32_t idMortgage) {
     }
     const double balance = row["CurrentPV"].AsDouble();
     const double principal = NumberOr0(row["CurrentPPmt"]);
-    WriteMortgageLog({.idMortgage = idMortgage,
-                      .period = row["CurrentPeriod"].AsInteger(),
-                      .datePosted = platform::Today(),
-                      .category = std::string(kCategoryPayoff),
-                      .principal = Currency::FromDouble(principal),
-                      .payDown = Currency::FromDouble(balance - principal),
-                      .interest = Currency::FromDouble(NumberOr0(row["CurrentIpmt"])),
-                      .other = {},
-                      .description = std::string(kCategoryPayoff),
-                      .flags = LogFlags::BasePayment});
+    MortgageLogEntry payoff;
+    payoff.idMortgage = idMortgage;
+    payoff.period = row["CurrentPeriod"].AsInteger();
+    payoff.datePosted = platform::Today();
+    payoff.category = kCategoryPayoff;
+    payoff.principal = Currency::FromDouble(principal);
+    payoff.payDown =
+        Currency::FromDouble(balance - principal) - BookedExtra(idMortgage, payoff.period);
+    payoff.interest = Currency::FromDouble(NumberOr0(row["CurrentIpmt"]));
+    payoff.description = kCategoryPayoff;
+    payoff.flags = LogFlags::BasePayment;
+    WriteMortgageLog(payoff);
     unit.Commit();
     core::NotifyAll(core::kMortgageLog, core::kRecordsChanged, 0);
     return PayoffResult::Posted;

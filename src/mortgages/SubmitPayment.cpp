@@ -1,75 +1,155 @@
+#include <algorithm>
+#include <optional>
+
+#include <fmt/core.h>
+
 #include "books/PostTransaction.h"
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "mortgages/ExtraPrincipal.h"
 #include "mortgages/MortgageLog.h"
 #include "mortgages/MortgagePayment.h"
 #include "mortgages/MortgageUpkeep.h"
-#include "mortgages/clsMortgage.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 
 namespace mortgages {
 
+using platform::ConflictError;
+using platform::Currency;
 using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
 
+bool Exists(std::string_view countById, std::int32_t id) {
+    const auto count = core::App().Connection.Scalar(countById, {id});
+    return count && count->AsLong() > 0;
+}
+
+bool MortgageExists(std::int32_t idMortgage) {
+    return Exists("SELECT Count(*) FROM Mortgage WHERE IdMortgage = ?", idMortgage);
+}
+
+[[noreturn]] void ThrowConflict(const PaymentCharge& charge, std::string_view fate) {
+    throw ConflictError(fmt::format("The charge \"{}\" of {} {}. Nothing was paid.",
+                                    charge.description, charge.datePosted.ToText(), fate));
+}
+
+/// What the screen offered was read before this unit of work began.
+void CheckCharge(const MortgagePayment& payment, const PaymentCharge& charge) {
+    Recordset row;
+    row.Open(core::App().Connection,
+             "SELECT IdTransaction, Total, PayDown, Period, Flags FROM MortgageLog "
+             "WHERE IdMortgageLog = ?",
+             CursorMode::ReadOnly, {charge.idMortgageLog});
+    if (row.Eof()) ThrowConflict(charge, "has been deleted");
+    const std::int32_t paidBy = IdOf(row["IdTransaction"]);
+    if (paidBy != 0 && paidBy != payment.idTransaction) {
+        ThrowConflict(charge, "has already been paid");
+    }
+    if (MoneyOf(row["Total"]) != charge.total || MoneyOf(row["PayDown"]) != charge.payDown ||
+        CountOf(row["Period"]) != charge.period ||
+        LogFlags{CountOf(row["Flags"])} != charge.flags) {
+        ThrowConflict(charge, "has been changed");
+    }
+}
+
+void CheckStoredPayment(const MortgagePayment& payment) {
+    if (!Exists("SELECT Count(*) FROM Transactions WHERE IdTransaction = ?",
+                payment.idTransaction)) {
+        throw ConflictError("This payment has been deleted. Nothing was saved.");
+    }
+    Recordset rows;
+    rows.Open(core::App().Connection,
+              "SELECT IdMortgageLog FROM MortgageLog WHERE IdTransaction = ? AND Flags <> 2",
+              CursorMode::ReadOnly, {payment.idTransaction});
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const std::int32_t id = rows["IdMortgageLog"].AsLong();
+        const bool known = std::any_of(payment.charges.begin(), payment.charges.end(),
+                                       [id](const auto& at) { return at.idMortgageLog == id; });
+        if (!known) throw ConflictError("This payment has been changed. Nothing was saved.");
+    }
+}
+
+void CheckUnchanged(const MortgagePayment& payment) {
+    if (payment.idTransaction != 0) {
+        CheckStoredPayment(payment);
+    } else if (!MortgageExists(payment.idMortgage)) {
+        throw ConflictError("The mortgage has been deleted. Nothing was paid.");
+    }
+    for (const PaymentCharge& charge : payment.charges) {
+        if (charge.selected) CheckCharge(payment, charge);
+    }
+    const std::vector<std::string> errors = PaymentErrors(payment);
+    if (!errors.empty()) throw platform::Error(errors.front());
+}
+
+/// A payment of a mortgage that was deleted keeps the building it was booked for.
+std::int32_t BuildingOf(const MortgagePayment& payment) {
+    if (payment.idTransaction == 0 || MortgageExists(payment.idMortgage)) {
+        return core::GetMortgageBuilding(payment.idMortgage);
+    }
+    const auto stored = core::App().Connection.Scalar(
+        "SELECT IdBuilding FROM Transactions WHERE IdTransaction = ?", {payment.idTransaction});
+    return stored && !stored->IsNull() ? stored->AsLong() : 0;
+}
+
 books::Transaction TransactionOf(const MortgagePayment& payment) {
-    return {.dateEffective = payment.dateEffective,
-            .debit = {core::kAccount, payment.fromAccount, payment.fromName},
-            .credit = {core::kAccount, payment.toAccount, payment.toName},
-            .amount = payment.PaidAmount(),
-            .taxCategory = payment.paymentType,
-            .ien = books::Ien::Expense,
-            .checkNumber = payment.checkNumber,
-            .description = payment.description,
-            .transactionClass = kMortgagePaymentClass,
-            .idBuilding = core::GetMortgageBuilding(payment.idMortgage),
-            .idMortgage = payment.idMortgage};
+    books::Transaction transaction;
+    transaction.dateEffective = payment.dateEffective;
+    transaction.debit = {core::kAccount, payment.fromAccount, payment.fromName};
+    transaction.credit = {core::kAccount, payment.toAccount, payment.toName};
+    transaction.amount = payment.PaidAmount();
+    transaction.taxCategory = payment.paymentType;
+    transaction.ien = books::Ien::Expense;
+    transaction.checkNumber = payment.checkNumber;
+    transaction.description = payment.description;
+    transaction.transactionClass = kMortgagePaymentClass;
+    transaction.idBuilding = BuildingOf(payment);
+    transaction.idMortgage = payment.idMortgage;
+    return transaction;
+}
+
+std::int32_t WriteTransaction(const MortgagePayment& payment) {
+    if (payment.idTransaction == 0) return books::PostTransaction(TransactionOf(payment));
+    books::RewriteTransaction(payment.idTransaction, TransactionOf(payment));
+    return payment.idTransaction;
 }
 
 MortgageLogEntry PaymentRowOf(const MortgagePayment& payment, std::int32_t idTransaction) {
     const bool isNew = payment.idTransaction == 0;
-    return {.idMortgage = payment.idMortgage,
-            .idTransaction = idTransaction,
-            .datePosted = payment.dateEffective,
-            .category = isNew ? std::string(kCategoryPayment) : payment.paymentType,
-            .principal = {},
-            .payDown = {},
-            .interest = {},
-            .other = -payment.PaidAmount(),
-            .description = isNew ? std::string(kCategoryPayment) : payment.description,
-            .flags = LogFlags::Payment};
+    MortgageLogEntry entry;
+    entry.idMortgage = payment.idMortgage;
+    entry.idTransaction = idTransaction;
+    entry.datePosted = payment.dateEffective;
+    entry.category = isNew ? std::string(kCategoryPayment) : payment.paymentType;
+    entry.other = -payment.PaidAmount();
+    entry.description = isNew ? std::string(kCategoryPayment) : payment.description;
+    entry.flags = LogFlags::Payment;
+    return entry;
 }
 
-/// The schedule isn't rebuilt: what the row says of due date and balance is wrong from here on,
-/// until the mortgage is reckoned anew.
+/// The schedule isn't rebuilt here: until the mortgage is recalculated, its row has a wrong due
+/// date and balance.
 void ApplyBasePayment(std::int32_t idMortgage, const PaymentCharge& charge, bool isNew) {
     clsMortgage mortgage;
-    if (!mortgage.LoadMtg(idMortgage)) return;
-    if (charge.period > mortgage.ArraySize()) {
-        // A row that came without lists as long as its loan: the schedule lengthens them.
-        clsMortgage whole = mortgage;
-        whole.ReCalc();
-        whole.SaveMtg(idMortgage);
-        mortgage = clsMortgage();
-        mortgage.LoadMtg(idMortgage);
-    }
-    mortgage.SetXPri(charge.period, charge.payDown.ToDouble());
+    if (!LoadWithEntry(mortgage, idMortgage, charge.period)) return;
+    EnterExtra(mortgage, idMortgage, charge.period, charge.payDown);
     if (isNew) mortgage.AdvanceCurrentPeriod();
     mortgage.SaveMtg(idMortgage);
 }
 
+/// Only charges that this payment settled before are opened again.
 void SettleCharges(const MortgagePayment& payment, std::int32_t idTransaction) {
     for (const PaymentCharge& charge : payment.charges) {
-        const auto rows = core::App().Connection.Execute(
-            "UPDATE MortgageLog SET IdTransaction = ? WHERE IdMortgageLog = ?",
-            {charge.selected ? idTransaction : 0, charge.idMortgageLog});
-        if (!charge.selected) continue;
-        if (rows == 0) throw platform::Error("A charge that was selected isn't there any more.");
-        if (charge.IsBasePayment())
+        core::App().Connection.Execute(
+            "UPDATE MortgageLog SET IdTransaction = ? WHERE IdMortgageLog = ? "
+            "AND (IdTransaction = 0 OR IdTransaction IS NULL OR IdTransaction = ?)",
+            {charge.selected ? idTransaction : 0, charge.idMortgageLog, idTransaction});
+        if (charge.selected && charge.IsBasePayment())
             ApplyBasePayment(payment.idMortgage, charge, payment.idTransaction == 0);
     }
 }
@@ -95,22 +175,29 @@ void RefreshSplits(const MortgagePayment& payment) {
 
 } // namespace
 
-std::int32_t SubmitMortgagePayment(const MortgagePayment& payment, OpenedFrom from) {
+std::vector<std::string> PaymentErrors(const MortgagePayment& payment) {
+    std::vector<std::string> errors;
+    if (!payment.dateEffective.IsSet()) errors.emplace_back("A payment date must be entered.");
+    std::string extra = ExtraFault(payment);
+    if (!extra.empty()) errors.push_back(std::move(extra));
+    return errors;
+}
+
+std::int32_t SubmitMortgagePayment(const MortgagePayment& payment) {
     platform::UnitOfWork unit(core::App().Connection);
-    std::int32_t idTransaction = payment.idTransaction;
-    if (idTransaction == 0) {
-        idTransaction = books::PostTransaction(TransactionOf(payment));
-    } else {
-        books::RewriteTransaction(idTransaction, TransactionOf(payment));
-    }
+    CheckUnchanged(payment);
+    const std::int32_t idTransaction = WriteTransaction(payment);
     WriteMortgageLog(PaymentRowOf(payment, idTransaction), payment.idPaymentRow);
     core::App().Connection.Execute("UPDATE Mortgage SET IdLastPmt = ? WHERE IdMortgage = ?",
                                    {payment.fromAccount, payment.idMortgage});
     SettleCharges(payment, idTransaction);
+    BookExtra(payment, idTransaction);
     RefreshSplits(payment);
-    if (from == OpenedFrom::Elsewhere) RefreshMortgage(payment.idMortgage);
+    RefreshMortgage(payment.idMortgage);
     unit.Commit();
-    for (const std::int16_t kind : {core::kTransaction, core::kMortgageLog, core::kMortgage})
+    // The payment may have started events that wait for one like it.
+    for (const std::int16_t kind :
+         {core::kTransaction, core::kMortgageLog, core::kMortgage, core::kAutoEvent})
         core::NotifyAll(kind, core::kRecordsChanged, 0);
     return idTransaction;
 }

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/Globals.h"
+#include "mortgages/ExtraPrincipal.h"
 #include "mortgages/MortgageLog.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/system/Clock.h"
@@ -44,6 +45,7 @@ std::vector<Charge> UpdateMortgage(Recordset& row, RunMode mode) {
         mortgage.LoadRS(row);
         mortgage.ReCalc();
         charges = WalkMortgage(mortgage, terms, from, to);
+        LeaveOutBooked(row["IdMortgage"].AsLong(), charges);
     }
 
     std::optional<UnitOfWork> unit;
@@ -57,10 +59,13 @@ std::vector<Charge> UpdateMortgage(Recordset& row, RunMode mode) {
 }
 
 void UpdateMortgageById(std::int32_t idMortgage, RunMode mode) {
+    UnitOfWork unit(core::App().Connection);
     Recordset row;
     row.Open(core::App().Connection, "SELECT * FROM Mortgage WHERE IdMortgage = ?",
              CursorMode::Updatable, {idMortgage});
-    if (!row.Eof()) UpdateMortgage(row, mode);
+    if (row.Eof()) return;
+    UpdateMortgage(row, mode);
+    unit.Commit();
 }
 
 void SetMortgageStatus(Recordset& row) {

@@ -28,7 +28,7 @@ void SampleBorrower::Pay() const {
     mortgages::MortgagePayment payment = mortgages::ProposeMortgagePayment(plan_.idMortgage);
     mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
     if (payment.PaidAmount() > Currency()) {
-        mortgages::SubmitMortgagePayment(payment, mortgages::OpenedFrom::Elsewhere);
+        mortgages::SubmitMortgagePayment(payment);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <fmt/core.h>
 
 #include "mortgages/MortgagePayment.h"
+#include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Text.h"
 #include "vestrelctl/Arguments.h"
@@ -23,7 +24,18 @@ struct PayMortgageArguments {
     std::optional<std::int32_t> from;
     std::optional<std::int32_t> to;
     std::string check;
+    std::string extra;
 };
+
+/// Rejects, as wrong usage, text that isn't an amount above 0.
+CLI::Validator IsPositiveAmount() {
+    return {[](const std::string& text) {
+                const auto amount = platform::TryParseMoney(text);
+                if (amount && *amount > platform::Currency()) return std::string();
+                return "'" + text + "' is not an amount above 0";
+            },
+            "", ""};
+}
 
 void SetAccount(std::string_view option, std::optional<std::int32_t> given, std::int32_t& account,
                 std::string& name) {
@@ -39,15 +51,16 @@ void SetAccount(std::string_view option, std::optional<std::int32_t> given, std:
 
 void Pay(const PayMortgageArguments& given) {
     mortgages::MortgagePayment payment = mortgages::ProposeMortgagePayment(given.mortgage);
-    if (payment.charges.empty()) throw platform::Error("There is no open charge to pay");
+    if (!given.extra.empty()) payment.extraPrincipal = *platform::TryParseMoney(given.extra);
+    if (payment.charges.empty() && payment.extraPrincipal.IsZero())
+        throw platform::Error("There is no open charge to pay");
     SetAccount("--from", given.from, payment.fromAccount, payment.fromName);
     SetAccount("--to", given.to, payment.toAccount, payment.toName);
     if (!given.date.empty()) payment.dateEffective = platform::Date::Parse(given.date);
     payment.checkNumber = given.check;
     payment.description = platform::Trim(payment.description);
     mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
-    const std::int32_t id =
-        mortgages::SubmitMortgagePayment(payment, mortgages::OpenedFrom::Elsewhere);
+    const std::int32_t id = mortgages::SubmitMortgagePayment(payment);
     PrintPaid(id, payment.charges.size(), payment.PaidAmount());
 }
 
@@ -70,6 +83,11 @@ void AddPayMortgage(CLI::App& line, const Options& options) {
     command->add_option("--check", given->check, "The check's number")
         ->type_name("N")
         ->check(IsValue());
+    command
+        ->add_option("--extra", given->extra,
+                     "Principal to pay beyond the charges, booked on the current period")
+        ->type_name("AMOUNT")
+        ->check(IsPositiveAmount());
     command->callback([given, &options] {
         OpenBooks(options, Purpose::Write);
         BookAndPrint([&] { Pay(*given); });

@@ -179,10 +179,10 @@ TEST_F(ScheduledEvents, OfADayOfTheMonthLoseNoDayWhenTheProgramIsNotStartedOnIt)
                      "19 7 Event 7: Supplies 06/20/2024 25"}));
 }
 
-TEST_F(ScheduledEvents, AreReportedByNameAndCategory) {
+TEST_F(ScheduledEvents, AreReportedByNumberWithoutAName) {
     AddScheduled(7, 3, 1, "04/17/2024");
-    Run("UPDATE AutoEvent SET Description = ' ', TaxCategory = NULL");
-    EXPECT_EQ(RunAll().posted, Lines{"19 7 event 7: No Category Selected 05/17/2024 25"});
+    Run("UPDATE AutoEvent SET Description = ' '");
+    EXPECT_EQ(RunAll().posted, Lines{"19 7 event 7: Supplies 05/17/2024 25"});
 }
 
 TEST_F(ScheduledEvents, DoWhatTheyAreToldAndNoMore) {

@@ -6,6 +6,7 @@
 
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
+#include "leases/Crashes.h"
 #include "mortgages/MortgageFixture.h"
 #include "mortgages/MortgagePayment.h"
 #include "mortgages/MortgageUpkeep.h"
@@ -19,7 +20,6 @@ namespace {
 
 using mortgages::ChargeChoice;
 using mortgages::MortgagePayment;
-using mortgages::OpenedFrom;
 using platform::Currency;
 using platform::Date;
 using platform::DateAdd;
@@ -30,13 +30,12 @@ using testing::IsEmpty;
 
 class MortgagePaying : public testing::Test {
   protected:
-    /// Pays everything open, and does what follows where it was opened.
-    std::int32_t PayAll(OpenedFrom from) {
+    /// Pays everything open, and this much beyond it.
+    static std::int32_t PayAll(Currency extra = {}) {
         MortgagePayment payment = mortgages::ProposeMortgagePayment(kMortgageId);
         SelectAll(payment, ChargeChoice::All, true);
-        const std::int32_t id = SubmitMortgagePayment(payment, from);
-        if (from == OpenedFrom::MortgageScreen) mortgages::RefreshMortgage(kMortgageId);
-        return id;
+        payment.extraPrincipal = extra;
+        return SubmitMortgagePayment(payment);
     }
 
     support::TemporaryFolder folder_;
@@ -89,7 +88,7 @@ TEST_F(MortgagePaying, WritesTransactionLogAndMortgage) {
     payment.fromName = "Somebody";
     Select(payment, 0, true);
     const core::NotifyToken token([&](std::int16_t kind, auto, auto) { told.push_back(kind); });
-    const std::int32_t id = SubmitMortgagePayment(payment, OpenedFrom::Elsewhere);
+    const std::int32_t id = SubmitMortgagePayment(payment);
     const std::string key = std::to_string(id);
     EXPECT_THAT(Rows("SELECT DateEffective, DebitType, DebitId, DebitDesc, CheckNum, CreditType, "
                      "CreditId, CreditDesc, Amount, TaxCategory, IEN, Description, Flags, Class, "
@@ -116,7 +115,7 @@ TEST_F(MortgagePaying, RefreshesTheSplitAndKeepsTheTotal) {
         "UPDATE MortgageLog SET PayDown = 1000, Total = Total + 1000 WHERE Period = 1");
     MortgagePayment payment = mortgages::ProposeMortgagePayment(kMortgageId);
     Select(payment, 0, true);
-    SubmitMortgagePayment(payment, OpenedFrom::Elsewhere);
+    SubmitMortgagePayment(payment);
     EXPECT_THAT(Rows("SELECT Principal, PayDown, Interest, Total FROM MortgageLog "
                      "WHERE Flags = 1 ORDER BY Period"),
                 ElementsAre("99.5505|1000|500|1599.5505", "105.0483|0|494.5022|599.5505"));
@@ -129,7 +128,7 @@ TEST_F(MortgagePaying, AStoredPaymentShowsTheSameAmountAndNeverMovesThePeriodAga
     RunMortgagesOn(Date(2024, 2, 20));
     MortgagePayment payment = mortgages::ProposeMortgagePayment(kMortgageId);
     Select(payment, 0, true);
-    const std::int32_t id = SubmitMortgagePayment(payment, OpenedFrom::Elsewhere);
+    const std::int32_t id = SubmitMortgagePayment(payment);
 
     MortgagePayment stored = mortgages::ReadMortgagePayment(id);
     EXPECT_EQ(stored.PaidAmount(), payment.PaidAmount());
@@ -137,7 +136,7 @@ TEST_F(MortgagePaying, AStoredPaymentShowsTheSameAmountAndNeverMovesThePeriodAga
     Select(stored, 1, true); // the escrow joins it
     Select(stored, 2, true);
     stored.description = "Both months";
-    EXPECT_EQ(SubmitMortgagePayment(stored, OpenedFrom::Elsewhere), id);
+    EXPECT_EQ(SubmitMortgagePayment(stored), id);
     EXPECT_THAT(Rows("SELECT Amount, Description FROM Transactions"),
                 ElementsAre("1449.101|Both months"));
     EXPECT_THAT(Rows("SELECT Total, Category, Description FROM MortgageLog WHERE Flags = 2"),
@@ -146,7 +145,7 @@ TEST_F(MortgagePaying, AStoredPaymentShowsTheSameAmountAndNeverMovesThePeriodAga
 
     stored = mortgages::ReadMortgagePayment(id);
     SelectAll(stored, ChargeChoice::All, false);
-    SubmitMortgagePayment(stored, OpenedFrom::Elsewhere);
+    SubmitMortgagePayment(stored);
     EXPECT_THAT(Rows("SELECT Count(*) FROM MortgageLog WHERE IdTransaction = 0"), ElementsAre("4"));
     EXPECT_THAT(Rows("SELECT CurrentPeriod FROM Mortgage"), ElementsAre("2"));
     EXPECT_THROW(mortgages::ReadMortgagePayment(12345), platform::DatabaseError);
@@ -158,21 +157,19 @@ TEST_F(MortgagePaying, AChargeThatHasGoneLeavesTheBooksAsTheyWere) {
     Select(payment, 0, true);
     core::App().Connection.Execute("DELETE * FROM MortgageLog");
     const auto before = Rows("SELECT * FROM Mortgage");
-    EXPECT_THROW(SubmitMortgagePayment(payment, OpenedFrom::Elsewhere), platform::Error);
+    EXPECT_THROW(SubmitMortgagePayment(payment), platform::Error);
     EXPECT_EQ(Rows("SELECT * FROM Mortgage"), before);
     EXPECT_THAT(Rows("SELECT * FROM Transactions"), IsEmpty());
     EXPECT_THAT(Log(), IsEmpty());
 }
 
-class PaidFrom : public MortgagePaying, public testing::WithParamInterface<OpenedFrom> {};
-
-TEST_P(PaidFrom, TwelvePaymentsInARowLeaveTwelveMonthsCharged) {
+TEST_F(MortgagePaying, TwelvePaymentsInARowLeaveTwelveMonthsCharged) {
     std::vector<std::string> expected;
     for (int month = 0; month < 12; ++month) {
         const Date due = DateAdd(Interval::Month, month, Date(2024, 1, 15));
         // Paid now on the day, now before the next one falls due.
         RunMortgagesOn(DateAdd(Interval::Day, month % 3 * 9, due));
-        PayAll(GetParam());
+        PayAll();
         expected.push_back(due.ToText() + "|Mortgage Payment|" + std::to_string(month + 1) +
                            "|599.55");
     }
@@ -184,7 +181,7 @@ TEST_P(PaidFrom, TwelvePaymentsInARowLeaveTwelveMonthsCharged) {
                 ElementsAre("13|01/15/2025|348|Current|OK"));
 }
 
-TEST_P(PaidFrom, APaidPayoffClosesTheMortgage) {
+TEST_F(MortgagePaying, APaidPayoffClosesTheMortgage) {
     // Amounts whose fourth decimal rounds up and down, early, interest alone, in the last period,
     // and past the 360th.
     const struct {
@@ -216,7 +213,7 @@ TEST_P(PaidFrom, APaidPayoffClosesTheMortgage) {
         EXPECT_THAT(Rows("SELECT Category, Flags, Period, Total - Principal - PayDown - Interest "
                          "FROM MortgageLog"),
                     ElementsAre("Mortgage Payoff|1|" + std::to_string(payoff.period) + "|0"));
-        PayAll(GetParam());
+        PayAll();
         EXPECT_THAT(Rows("SELECT Status, PmtStatus, CurrentPV, NextDue FROM Mortgage"),
                     ElementsAre("Closed|n/a|0|"));
         const auto log = Log();
@@ -226,15 +223,12 @@ TEST_P(PaidFrom, APaidPayoffClosesTheMortgage) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Places, PaidFrom,
-                         testing::Values(OpenedFrom::MortgageScreen, OpenedFrom::Elsewhere));
-
 TEST_F(MortgagePaying, APayoffOfARowWithoutListsClosesToo) {
     for (const char* field : {"xPri", "xRate"})
         SetMortgageField(field, "");
     SetMortgageField("CurrentPPmt", "99.55");
     ASSERT_EQ(mortgages::PostPayoff(kMortgageId), mortgages::PayoffResult::Posted);
-    PayAll(OpenedFrom::Elsewhere);
+    PayAll();
     EXPECT_THAT(Rows("SELECT Status, CurrentPV FROM Mortgage"), ElementsAre("Closed|0"));
 }
 
@@ -245,14 +239,130 @@ TEST_F(MortgagePaying, APayoffWithoutFiguresRemovesNothing) {
     EXPECT_EQ(Log().size(), 1U);
 }
 
-TEST_F(MortgagePaying, APaymentKeepsTheBalloonOnRecord) {
+TEST_F(MortgagePaying, APaymentKeepsTheBalloonAndItsAmount) {
     SetMortgageField("BalloonMtg", "True");
     SetMortgageField("BalloonPer", "24");
-    SetMortgageField("BalloonPmt", "97456.25");
     RunMortgagesOn(Date(2024, 1, 20));
-    PayAll(OpenedFrom::Elsewhere);
-    EXPECT_THAT(Rows("SELECT BalloonMtg, BalloonPer, BalloonPmt, CurrentPeriod FROM Mortgage"),
-                ElementsAre("True|24|97456.25|2"));
+    PayAll();
+    EXPECT_THAT(Rows("SELECT BalloonMtg, BalloonPer, Format(BalloonPmt, '0.00'), CurrentPeriod "
+                     "FROM Mortgage"),
+                ElementsAre("True|24|97468.24|2"));
+    RunMortgagesOn(Date(2024, 2, 20));
+    PayAll(Currency::FromUnits(1000));
+    EXPECT_THAT(Rows("SELECT Format(BalloonPmt, '0.00') FROM Mortgage"), ElementsAre("96352.26"));
+}
+
+TEST_F(MortgagePaying, IsRefusedWithoutADateOrWithAnExtraThatCannotBe) {
+    RunMortgagesOn(Date(2024, 1, 20));
+    MortgagePayment payment = mortgages::ProposeMortgagePayment(kMortgageId);
+    const auto fault = [&] {
+        const auto errors = mortgages::PaymentErrors(payment);
+        EXPECT_THROW(SubmitMortgagePayment(payment), platform::Error);
+        return errors.empty() ? std::string() : errors.front();
+    };
+    payment.dateEffective = {};
+    EXPECT_EQ(fault(), "A payment date must be entered.");
+    payment.dateEffective = Date(2024, 1, 20);
+    payment.extraPrincipal = -Currency::FromUnits(1);
+    EXPECT_EQ(fault(), "Extra principal cannot be negative.");
+    payment.extraPrincipal = Currency::FromUnits(99901);
+    EXPECT_EQ(fault(),
+              "Extra principal cannot be more than what is then left of the loan, 99,900.45.");
+    SetMortgageField("CurrentPeriod", "361");
+    EXPECT_EQ(fault(), "Nothing is owed on this mortgage: no extra principal can be paid.");
+    EXPECT_THAT(Rows("SELECT * FROM Transactions"), IsEmpty());
+}
+
+class ExtraPrincipal : public MortgagePaying {
+  protected:
+    static std::vector<std::string> Loan() {
+        return Rows(
+            "SELECT CurrentPeriod, NextDue, Format(CurrentPV, '0.00'), Left(xPri, 11) "
+            "FROM Mortgage");
+    }
+    static std::vector<std::string> ChargesOf(int period) {
+        return Rows(
+            "SELECT Category, PayDown, Total, IdTransaction <> 0 FROM MortgageLog "
+            "WHERE Period = " +
+            std::to_string(period) + " ORDER BY IdMortgageLog");
+    }
+};
+
+TEST_F(ExtraPrincipal, PaidWithABasePaymentLowersTheLoanFromItsPeriodOn) {
+    RunMortgagesOn(Date(2024, 2, 20));
+    const std::int32_t id = PayAll(Currency::FromUnits(1000));
+    EXPECT_THAT(Rows("SELECT Amount FROM Transactions"), ElementsAre("2199.101"));
+    EXPECT_THAT(Rows("SELECT Total FROM MortgageLog WHERE Flags = 2"), ElementsAre("-2199.101"));
+    EXPECT_THAT(ChargesOf(2),
+                ElementsAre("Mortgage Payment|0|599.5505|True", "Extra Principal|1000|1000|True"));
+    EXPECT_THAT(Loan(), ElementsAre("3|03/15/2024|98800.40|0,1000,0,0,"));
+    EXPECT_EQ(mortgages::ReadMortgagePayment(id).PaidAmount(), Currency::FromScaled(21991010));
+    EXPECT_THAT(Rows("SELECT Sum(Total) FROM MortgageLog"), ElementsAre("0"));
+}
+
+TEST_F(ExtraPrincipal, PaidAheadIsNotAskedForAgain) {
+    SetMortgageField("xPri", "0,100");
+    SetMortgageField("xRate", "");
+    RunMortgagesOn(Date(2024, 1, 20));
+    PayAll();
+    PayAll(Currency::FromUnits(300)); // nothing is open: the payment is only extra principal
+    PayAll(Currency::FromUnits(200));
+    EXPECT_THAT(Loan(), ElementsAre("2|02/15/2024|99900.45|0,600,0,0,0"));
+    RunMortgagesOn(Date(2024, 2, 20));
+    EXPECT_THAT(ChargesOf(2),
+                ElementsAre("Extra Principal|300|300|True", "Extra Principal|200|200|True",
+                            "Mortgage Payment|100|699.5505|False"));
+    PayAll();
+    EXPECT_THAT(Loan(), ElementsAre("3|03/15/2024|99200.40|0,600,0,0,0"));
+}
+
+TEST_F(ExtraPrincipal, ComesOnTopOfWhatIsPaidEveryMonth) {
+    SetMortgageField("xPriAll", "50");
+    RunMortgagesOn(Date(2024, 1, 20));
+    PayAll(Currency::FromUnits(1000));
+    EXPECT_THAT(Loan(), ElementsAre("2|02/15/2024|98850.45|1050,0,0,0,"));
+    PayAll(Currency::FromUnits(10));
+    RunMortgagesOn(Date(2024, 2, 20));
+    PayAll();
+    EXPECT_THAT(Rows("SELECT Left(xPri, 8) FROM Mortgage"), ElementsAre("1050,60,"));
+}
+
+TEST_F(ExtraPrincipal, OfAllThatIsLeftEndsTheLoan) {
+    RunMortgagesOn(Date(2024, 1, 20));
+    PayAll(Currency::FromScaled(999004495));
+    EXPECT_THAT(Rows("SELECT Status, CurrentPV, NextDue FROM Mortgage"), ElementsAre("Closed|0|"));
+}
+
+TEST_F(ExtraPrincipal, IsLeftOutOfAPayoff) {
+    RunMortgagesOn(Date(2024, 1, 20));
+    PayAll();
+    PayAll(Currency::FromUnits(900));
+    ASSERT_EQ(mortgages::PostPayoff(kMortgageId), mortgages::PayoffResult::Posted);
+    EXPECT_THAT(Rows("SELECT Principal + PayDown FROM MortgageLog WHERE IdTransaction = 0"),
+                ElementsAre("99000.4495"));
+    PayAll();
+    EXPECT_THAT(Rows("SELECT Status, CurrentPV, NextDue FROM Mortgage"), ElementsAre("Closed|0|"));
+}
+
+TEST_F(MortgagePaying, IsWholeOrNotAtAllWithTheRefreshOfTheMortgage) {
+    SetMortgageField("EscrowAmount", "250");
+    RunMortgagesOn(Date(2024, 2, 20));
+    const Crashes crashes = CrashAtEveryStatement([] { PayAll(Currency::FromUnits(100)); });
+    EXPECT_THAT(crashes.faults, IsEmpty());
+    EXPECT_GE(crashes.statements, 12);
+    EXPECT_EQ(crashes.asBefore + crashes.asAfter, crashes.statements);
+    EXPECT_THAT(Rows("SELECT CurrentPeriod, NextDue FROM Mortgage"), ElementsAre("3|03/15/2024"));
+}
+
+TEST_F(MortgagePaying, OfADeletedMortgageKeepsItsBuildingWhenItIsEdited) {
+    RunMortgagesOn(Date(2024, 1, 20));
+    const std::int32_t id = PayAll();
+    core::App().Connection.Execute("DELETE * FROM Mortgage");
+    MortgagePayment payment = mortgages::ReadMortgagePayment(id);
+    payment.checkNumber = "5";
+    SubmitMortgagePayment(payment);
+    EXPECT_THAT(Rows("SELECT IdBuilding, IdMortgage, CheckNum, Amount FROM Transactions"),
+                ElementsAre("202|201|5|599.5505"));
 }
 
 } // namespace

@@ -80,6 +80,23 @@ TEST_F(MortgageStore, TheTwoWaysOfLoadingDifferInTheBalloonAndTheLists) {
     EXPECT_EQ(again.GetXPRI(4), 4);
 }
 
+TEST_F(MortgageStore, ALoanWithoutAListOfRatesHasItsOwnThroughout) {
+    SetMortgageField("ARM", "True");
+    SetMortgageField("xRate", "NULL");
+    platform::Recordset row;
+    row.Open(core::App().Connection, "SELECT * FROM Mortgage");
+    clsMortgage byRow;
+    byRow.LoadRS(row);
+    clsMortgage byId;
+    ASSERT_TRUE(byId.LoadMtg(kMortgageId));
+    for (clsMortgage* loan : {&byRow, &byId}) {
+        loan->ReCalc();
+        EXPECT_EQ(loan->GetRate(1), 6);
+        EXPECT_EQ(loan->GetRate(360), 6);
+        EXPECT_NEAR(loan->Schedule().front().Pmt, 599.55, 0.005);
+    }
+}
+
 TEST_F(MortgageStore, ReadsARowThatLacksFields) {
     Recordset row;
     row.Open(core::App().Connection, "SELECT IdMortgage, OrigRate FROM Mortgage");

@@ -145,17 +145,78 @@ TEST_F(Wizard, CorrectsNeitherTheFirstPeriodNorUpwards) {
     EXPECT_EQ(loan.Description(), "Ann's Loans L-7");
 }
 
-TEST(MortgageAdjust, ToldFaultsAreThoseOfTheEntries) {
-    using mortgages::BalanceErrors;
-    using mortgages::RateErrors;
-    const Currency old = Currency::FromUnits(100);
-    EXPECT_THAT(BalanceErrors(Currency::FromScaled(999'999), old, 0), IsEmpty());
-    EXPECT_THAT(BalanceErrors(old, old, -1),
-                ElementsAre("New balance must be lower than previous balance.",
-                            "Interest rate cannot be a negative value."));
-    EXPECT_THAT(RateErrors(1, 0), IsEmpty());
-    EXPECT_THAT(RateErrors(0, -0.5), ElementsAre("Interest rate cannot be a negative value.",
-                                                 "Period number cannot be zero (or less than)."));
+class MortgageAdjust : public testing::Test {
+  protected:
+    /// 100,000.00 at 6 percent over 360 months from 01/15/2024, adjustable.
+    MortgageAdjust() {
+        double periods = 360;
+        double payment = 0;
+        loan_.CreateMtg("01/15/2024", 100'000, periods, 0.06, payment, false, true);
+    }
+
+    clsMortgage loan_;
+};
+
+TEST_F(MortgageAdjust, SaysWhyItWouldBeRefusedOrChangeNothing) {
+    using mortgages::AdjustErrors;
+    using mortgages::ExtraFrom;
+    using mortgages::LenderBalance;
+    using mortgages::RateFrom;
+    EXPECT_THAT(AdjustErrors(loan_, RateFrom{2, 0}), IsEmpty());
+    EXPECT_THAT(AdjustErrors(loan_, RateFrom{360, 0.3}), IsEmpty());
+    EXPECT_THAT(AdjustErrors(loan_, RateFrom{0, -0.005}),
+                ElementsAre("Interest rate cannot be a negative value.",
+                            "Period number cannot be zero (or less than)."));
+    EXPECT_THAT(AdjustErrors(loan_, RateFrom{1, 0.05}),
+                ElementsAre("The first payment always has the first rate: enter a period from 2 "
+                            "on."));
+    EXPECT_THAT(AdjustErrors(loan_, RateFrom{361, 0.31}),
+                ElementsAre("Interest rate cannot be above 30 percent.",
+                            "The loan has only 360 payments."));
+
+    const auto balance = [&](Date day, std::int64_t amount) {
+        return AdjustErrors(loan_, LenderBalance{day, Currency::FromUnits(amount), 0.06});
+    };
+    EXPECT_THAT(balance(Date(2024, 2, 1), 99'900), IsEmpty());
+    EXPECT_THAT(balance(Date(2024, 2, 1), 99'901),
+                ElementsAre("New balance must be lower than previous balance."));
+    EXPECT_EQ(balance(Date(2024, 1, 1), 5).size(), 1U);
+    EXPECT_THAT(balance(Date(2023, 12, 31), 5),
+                ElementsAre("No payment of the loan is due in the month of this date."));
+    EXPECT_THAT(balance(Date(2053, 12, 15), 5),
+                ElementsAre("The last payment is due on this date: use Pay Off instead."));
+    EXPECT_THAT(balance(Date(2053, 11, 15), 5), IsEmpty());
+    EXPECT_EQ(balance(Date(2054, 1, 15), 5).size(), 1U);
+    EXPECT_THAT(AdjustErrors(loan_, ExtraFrom{1, Currency()}), IsEmpty());
+    EXPECT_EQ(AdjustErrors(loan_, ExtraFrom{400, -Currency::FromUnits(1)}).size(), 2U);
+}
+
+TEST_F(MortgageAdjust, ChangesWhatIsPaidEveryMonthFromAPeriodOnAndKeepsWhatWasPaid) {
+    loan_.SetXPri(0, 100);
+    loan_.SetXPri(2, 900);
+    loan_.ReCalc();
+    const auto before = loan_.Schedule();
+    mortgages::Adjust(loan_, mortgages::ExtraFrom{4, Currency::FromUnits(250)});
+    const auto extras = [&] {
+        std::vector<double> list;
+        for (std::size_t i = 0; i < 6; ++i)
+            list.push_back(loan_.Schedule()[i].XPri);
+        return list;
+    };
+    EXPECT_THAT(extras(), ElementsAre(100, 900, 100, 250, 250, 250));
+    EXPECT_EQ(loan_.Schedule()[3].BeginBal, before[3].BeginBal);
+    mortgages::Adjust(loan_, mortgages::ExtraFrom{5, Currency()});
+    EXPECT_THAT(extras(), ElementsAre(100, 900, 100, 250, 0, 0));
+    mortgages::Adjust(loan_, mortgages::WithoutExtra{2});
+    EXPECT_THAT(extras(), ElementsAre(100, 0, 100, 250, 0, 0));
+    std::vector<int> periods;
+    for (const mortgages::ExtraEntry& entry : mortgages::ExtraEntries(loan_))
+        periods.push_back(entry.period);
+    EXPECT_THAT(periods, ElementsAre(1, 3, 4));
+    mortgages::Adjust(loan_, mortgages::MovePeriod{7});
+    EXPECT_EQ(loan_.CurrentPeriod(), 8);
+    mortgages::Adjust(loan_, mortgages::MovePeriod{-100});
+    EXPECT_EQ(loan_.CurrentPeriod(), 1);
 }
 
 } // namespace

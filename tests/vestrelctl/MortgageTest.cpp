@@ -85,6 +85,33 @@ TEST_F(Mortgages, ArePaidAsTold) {
               "106,\"02/29/2024\",\"OK\",\"02/05/2024\"\n");
 }
 
+TEST_F(Mortgages, TakeExtraPrincipal) {
+    for (const char* wrong : {"0", "-5", "much", ""}) {
+        EXPECT_EQ(Run(OnBooks() + "pay-mortgage 101 --extra '" + wrong + "'").status, 2) << wrong;
+    }
+    // Nothing is charged yet: the payment is only extra principal, of the first period.
+    const Outcome ahead = Run("--today 01/15/2024 " + OnBooks() + "pay-mortgage 101 --extra 100");
+    EXPECT_EQ(ahead.status, 0) << ahead.errors;
+    Run("--today 02/01/2024 " + OnBooks() + "update");
+    const Outcome paid =
+        Run("--today 02/01/2024 " + OnBooks() + "pay-mortgage 101 --extra 1,000.00");
+    EXPECT_EQ(paid.status, 0) << paid.errors;
+    EXPECT_NE(paid.output.find(": 2 charges, 2116.1855"), std::string::npos) << paid.output;
+    EXPECT_EQ(Ask("SELECT Category, PayDown, Total FROM MortgageLog WHERE Period = 1 "
+                  "ORDER BY IdMortgageLog"),
+              "\"Extra Principal\",100.0000,100.0000\n"
+              "\"Mortgage Payment\",0.0000,1066.1855\n"
+              "\"Mortgage Escrow\",0.0000,50.0000\n"
+              "\"Extra Principal\",1000.0000,1000.0000\n");
+    EXPECT_EQ(Ask("SELECT CurrentPeriod, Format(CurrentPV, '0.00') FROM Mortgage"),
+              "2,\"9953.81\"\n");
+    const Outcome much =
+        Run("--today 02/01/2024 " + OnBooks() + "pay-mortgage 101 --extra 9953.82");
+    EXPECT_EQ(much.status, 1);
+    EXPECT_NE(much.errors.find("Extra principal cannot be more than"), std::string::npos);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "2\n");
+}
+
 } // namespace
 
 } // namespace tests

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
 #include <algorithm>
@@ -27,7 +28,9 @@ AmortPage::AmortPage(QWidget* parent)
       model_(new AmortModel(this)),
       table_(new QTableView(this)),
       chart_(new YearChart(this)),
-      fault_(new QLabel(this)) {
+      fault_(new QLabel(this)),
+      instead_(new QWidget(this)),
+      caption_(new QLabel(instead_)) {
     setProperty("panel", true);
     table_->setObjectName(QStringLiteral("grdAmort"));
     table_->setAccessibleName(tr("Schedule"));
@@ -47,7 +50,9 @@ AmortPage::AmortPage(QWidget* parent)
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     MakeOptions();
+    MakeCaption();
     column->addWidget(fault_);
+    column->addWidget(instead_);
     auto* const halves = new QSplitter(Qt::Vertical, this);
     halves->addWidget(table_);
     halves->addWidget(chart_);
@@ -95,8 +100,34 @@ void AmortPage::MakeOptions() {
     static_cast<QVBoxLayout*>(layout())->addLayout(row);
 }
 
+void AmortPage::MakeCaption() {
+    instead_->setObjectName(QStringLiteral("fraInstead"));
+    instead_->hide();
+    caption_->setObjectName(QStringLiteral("lblCaption"));
+    caption_->setWordWrap(true);
+    QFont bold = caption_->font();
+    bold.setBold(true);
+    caption_->setFont(bold);
+    auto* const own = new QPushButton(tr("Show O&wn Schedule"), instead_);
+    own->setObjectName(QStringLiteral("cmdOwnSchedule"));
+    own->setAutoDefault(false);
+    connect(own, &QPushButton::clicked, this, &AmortPage::OwnScheduleAsked);
+    auto* const row = new QHBoxLayout(instead_);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(caption_, 1);
+    row->addWidget(own);
+}
+
 void AmortPage::Show(const clsMortgage& mortgage) {
     mortgage_ = mortgage;
+    instead_->hide();
+    ShowAll();
+}
+
+void AmortPage::ShowInstead(const clsMortgage& mortgage, const QString& caption) {
+    mortgage_ = mortgage;
+    caption_->setText(caption);
+    instead_->show();
     ShowAll();
 }
 

@@ -16,8 +16,8 @@ namespace mortgages::screens {
 class AmortModel;
 class YearChart;
 
-/// The page of a loan's schedule: its rows as a table, its years as a chart, and what of both is
-/// looked at, which is remembered.
+/// The page of a loan's schedule: its rows as a table, its years as a chart, and the options of
+/// both, which are remembered.
 class AmortPage : public QWidget {
     Q_OBJECT
 
@@ -25,8 +25,15 @@ class AmortPage : public QWidget {
     explicit AmortPage(QWidget* parent = nullptr);
 
     void Show(const clsMortgage& mortgage);
-    /// Why there is no schedule, or only a part of it; empty when all is well.
+    /// Shows another schedule of the loan under a caption that says what it is, with a button that
+    /// asks for the loan's own.
+    void ShowInstead(const clsMortgage& mortgage, const QString& caption);
+    /// Shows why there is no schedule, or only a part of it; an empty reason hides the line.
     void ShowFault(std::string_view reason);
+
+  Q_SIGNALS:
+    /// The user wants to see the loan's own schedule again.
+    void OwnScheduleAsked();
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -34,6 +41,7 @@ class AmortPage : public QWidget {
 
   private:
     void FitColumns();
+    void MakeCaption();
     void MakeOptions();
     QCheckBox* MakeCheck(const QString& text, const QString& hint, const char* name, bool on);
     void Choose();
@@ -46,6 +54,8 @@ class AmortPage : public QWidget {
     QTableView* table_;
     YearChart* chart_;
     QLabel* fault_;
+    QWidget* instead_;
+    QLabel* caption_;
     QCheckBox* detail_ = nullptr;
     QCheckBox* yearToDate_ = nullptr;
     QCheckBox* cumulative_ = nullptr;

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabBar>
+#include <algorithm>
 
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
@@ -117,17 +118,17 @@ void MtgLog::Load(std::int32_t idMortgage) {
 }
 
 void MtgLog::ShowRows() {
+    rows_ = idMortgage_ == 0 ? std::vector<LogRow>() : ReadLog(idMortgage_, Part());
     std::vector<LogLine> lines;
-    if (idMortgage_ != 0) {
-        for (const LogRow& row : ReadLog(idMortgage_, Part())) {
-            const MortgageLogEntry& entry = row.entry;
-            lines.push_back({.idMortgageLog = row.idMortgageLog,
-                             .flags = entry.flags,
-                             .date = entry.datePosted,
-                             .texts = {ToScreen(entry.category), ToScreen(entry.description)},
-                             .amounts = {entry.principal, entry.payDown, entry.interest,
-                                         entry.other, row.total}});
-        }
+    lines.reserve(rows_.size());
+    for (const LogRow& row : rows_) {
+        const MortgageLogEntry& entry = row.entry;
+        lines.push_back(
+            {.idMortgageLog = row.idMortgageLog,
+             .flags = entry.flags,
+             .date = entry.datePosted,
+             .texts = {ToScreen(entry.category), ToScreen(entry.description)},
+             .amounts = {entry.principal, entry.payDown, entry.interest, entry.other, row.total}});
     }
     list_->ShowLines(lines);
     ShowAvailable();
@@ -155,11 +156,17 @@ void MtgLog::Edit(std::int32_t id) {
 }
 
 void MtgLog::Delete() {
-    DeleteLogRows(list_->SelectedIds(), "Delete all selected items?");
+    std::vector<ShownCharge> selected;
+    for (const std::int32_t id : list_->SelectedIds()) {
+        const auto row = std::find_if(rows_.begin(), rows_.end(),
+                                      [id](const LogRow& at) { return at.idMortgageLog == id; });
+        if (row != rows_.end()) selected.push_back({id, row->entry.idTransaction});
+    }
+    DeleteLogRows(selected, "Delete all selected items?");
 }
 
 void MtgLog::Pay() {
-    (new frmMortgagePayment)->Setup(0, idMortgage_, OpenedFrom::MortgageScreen);
+    (new frmMortgagePayment)->Setup(0, idMortgage_);
 }
 
 } // namespace mortgages::screens

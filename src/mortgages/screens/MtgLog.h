@@ -41,6 +41,8 @@ class MtgLog : public QWidget {
     void Pay();
 
     std::int32_t idMortgage_ = 0;
+    /// The rows shown, as they were read.
+    std::vector<LogRow> rows_;
     QTabBar* tabs_;
     LogList* list_;
     QMenu* menu_;

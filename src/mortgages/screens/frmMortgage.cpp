@@ -68,12 +68,8 @@ void frmMortgage::Connect() {
             TermsChanged();
         });
     }
-    connect(origin_->cmdMaxRates, &QPushButton::clicked, this, [this] {
-        loan_.SetMaxRates();
-        loanChanged_ = true;
-        Reckon();
-        MarkDirty();
-    });
+    connect(origin_->cmdMaxRates, &QPushButton::clicked, this, &frmMortgage::ShowWorstCase);
+    connect(amort_, &AmortPage::OwnScheduleAsked, this, &frmMortgage::Reckon);
     connect(general_->cmdIncDueDate, &QPushButton::clicked, this, [this] { MoveDueDate(1); });
     connect(general_->cmdDecDueDate, &QPushButton::clicked, this, [this] { MoveDueDate(-1); });
 }
@@ -105,10 +101,9 @@ void frmMortgage::FillAccounts(std::int16_t kind) {
 
 void frmMortgage::ShowRow(platform::Recordset& row) {
     RecordForm::ShowRow(row);
-    loan_ = clsMortgage();
-    loan_.LoadRS(row);
-    storedPeriod_ = loan_.CurrentPeriod();
-    loanChanged_ = false;
+    stored_ = clsMortgage();
+    stored_.LoadRS(row);
+    adjustments_.clear();
     ShowTerms();
 }
 
@@ -130,35 +125,22 @@ bool frmMortgage::Agreed() {
 }
 
 void frmMortgage::Store() {
-    storing_ = true;
     platform::UnitOfWork unit(core::App().Connection);
-    const std::int32_t idBefore = Id();
-    try {
-        platform::Recordset row;
-        FindRowToWrite(row);
-        WriteRow(row);
-        KeepWhatMoved(row);
-        loan_.SetDescription(FromScreen(general_->txtDescription->text()));
-        SettleRemainder(loan_);
-        SaveMortgage(row, loan_, FromScreen(general_->cboIdMortgagee->currentText()));
-        unit.Commit();
-    } catch (...) {
-        SetId(idBefore);
-        storing_ = false;
-        throw;
+    platform::Recordset row;
+    FindRowToWrite(row);
+    if (!WritesNewRow()) {
+        // The loan may have moved on since it was read: a payment, or another program.
+        stored_ = clsMortgage();
+        stored_.LoadRS(row);
+        loan_ = stored_;
+        MakeChangesOn(loan_);
     }
-    storedPeriod_ = loan_.CurrentPeriod();
-    storing_ = false;
-}
-
-/// What a payment, or another program, has done to the stored loan since it was read stays done.
-void frmMortgage::KeepWhatMoved(platform::Recordset& row) {
-    if (WritesNewRow()) return;
-    clsMortgage stored;
-    stored.LoadRS(row);
-    if (loanChanged_ && stored.CurrentPeriod() == storedPeriod_) return;
-    loan_ = stored;
-    if (loanChanged_) ReadTerms();
+    WriteRow(row);
+    loan_.SetDescription(FromScreen(general_->txtDescription->text()));
+    SettleRemainder(loan_);
+    SaveMortgage(row, loan_, FromScreen(general_->cboIdMortgagee->currentText()));
+    unit.Commit();
+    adjustments_.clear();
 }
 
 void frmMortgage::AfterSave() {
@@ -172,9 +154,6 @@ void frmMortgage::Refresh(std::int16_t kind) {
         FillAccounts(core::kMortgageeAccount);
         FillAccounts(core::kAccount);
     }
-    // On every broadcast of a payment's, before the base reads the row again: the first of them may
-    // be of its transaction.
-    if (Id() != 0 && !storing_) FollowPayment();
 }
 
 void frmMortgage::UpdateControls() {
@@ -182,8 +161,11 @@ void frmMortgage::UpdateControls() {
     for (QAction* const command : commands_)
         command->setEnabled(isSaved);
     changeBalance_->setEnabled(isSaved);
+    changeTerms_->setEnabled(isSaved);
     core::binding::EnableContainer(*origin_->fraRequired, !isSaved);
-    origin_->dpDue->setEnabled(!isSaved);
+    for (QWidget* const term : std::initializer_list<QWidget*>{
+             origin_->dpDue, origin_->txtXPriAll, origin_->chkIntOnly, origin_->chkARM})
+        term->setEnabled(!isSaved);
     ucMtgLog_->Load(Id());
     ucFOB_->SetRecord(core::kMortgage, Id());
     UpdateOptions();

@@ -2,9 +2,12 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <memory>
 
 #include "core/forms/RecordForm.h"
+#include "mortgages/MortgageAdjust.h"
 #include "mortgages/MortgageEditor.h"
 #include "mortgages/clsMortgage.h"
 
@@ -25,9 +28,10 @@ namespace mortgages::screens {
 
 class AmortPage;
 class MtgLog;
+class frmMortgageAdjust;
 
-/// A mortgage: its parties and terms, its log, its schedule, and what moves it by hand. The
-/// origination of a saved one stays as it is.
+/// A mortgage: its parties and terms, its log, its schedule, and the commands on it. The
+/// origination of a saved one can't be changed.
 class frmMortgage : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -47,6 +51,7 @@ class frmMortgage : public core::forms::RecordForm {
     void Store() override;
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
+    void FollowOthers(const core::binding::Controls& touched) override;
 
   private:
     void MakePanels();
@@ -57,7 +62,10 @@ class frmMortgage : public core::forms::RecordForm {
 
     void ShowTerms();
     void ShowPenaltyAndRates();
-    void ReadTerms();
+    void KeepShownTerms();
+    bool IsChanged(const QWidget& control) const;
+    void ReadTerms(clsMortgage& loan) const;
+    void ReadSavedTerms(clsMortgage& loan) const;
     void TermsChanged();
     void Reckon();
     void ShowLoan();
@@ -68,10 +76,10 @@ class frmMortgage : public core::forms::RecordForm {
     void Run(MortgageCommand command);
     bool SaveFirst();
     void MoveDueDate(int periods);
-    void OpenRateChange();
-    void OpenBalanceChange();
-    void FollowPayment();
-    void KeepWhatMoved(platform::Recordset& row);
+    void OpenAdjustment(void (frmMortgageAdjust::*setup)(const clsMortgage& loan));
+    void AdjustLoan(const Adjustment& adjustment);
+    void MakeChangesOn(clsMortgage& loan) const;
+    void ShowWorstCase();
 
     std::unique_ptr<Ui::frmMortgage> ui_;
     std::unique_ptr<Ui::frmMortgageGeneral> general_;
@@ -83,12 +91,16 @@ class frmMortgage : public core::forms::RecordForm {
     std::array<QAction*, 3> commands_{};
     QAction* changeRate_ = nullptr;
     QAction* changeBalance_ = nullptr;
+    QAction* changeTerms_ = nullptr;
+    QAction* takeBack_ = nullptr;
+    /// The loan as it was read, and with the changes that aren't saved yet: the terms entered, and
+    /// adjustments.
+    clsMortgage stored_;
     clsMortgage loan_;
-    /// The current period as it is stored; a payment moves it behind this screen's back.
-    std::int16_t storedPeriod_ = 0;
-    bool loanChanged_ = false; ///< by the user, since it was read
+    std::vector<Adjustment> adjustments_;
+    /// What the boxes and ticks of the terms showed when the loan was read.
+    std::map<const QWidget*, QString> shownTerms_;
     bool saved_ = false;
-    bool storing_ = false;
 };
 
 } // namespace mortgages::screens

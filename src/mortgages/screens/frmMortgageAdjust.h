@@ -3,8 +3,7 @@
 #include <memory>
 
 #include "core/forms/EntryForm.h"
-#include "platform/values/Currency.h"
-#include "platform/values/Date.h"
+#include "mortgages/MortgageAdjust.h"
 
 namespace Ui {
 class frmMortgageAdjust;
@@ -12,8 +11,8 @@ class frmMortgageAdjust;
 
 namespace mortgages::screens {
 
-/// Asks for a new rate of a mortgage, or for the balance that its lender states. It changes nothing
-/// itself: what was given is told.
+/// Asks for one adjustment of a mortgage: a rate or extra principal from a period on, the balance
+/// that the lender states, or an entry to take back. It changes nothing itself.
 class frmMortgageAdjust : public core::forms::EntryForm {
     Q_OBJECT
 
@@ -21,23 +20,28 @@ class frmMortgageAdjust : public core::forms::EntryForm {
     explicit frmMortgageAdjust(QWidget* parent = nullptr);
     ~frmMortgageAdjust() override;
 
-    // Rates are percent here.
-    void SetupInt(int period, double rate);
-    void SetupBalance(platform::Currency balance, platform::Date nextDue, double rate);
+    // Each opens the screen with one of its frames, for a loan as it is shown now.
+    void SetupInt(const clsMortgage& loan);
+    void SetupBalance(const clsMortgage& loan);
+    void SetupTerms(const clsMortgage& loan);
+    void SetupTakeBack(const clsMortgage& loan);
 
   Q_SIGNALS:
-    // Rates are fractions.
-    void RateGiven(int period, double rate);
-    void BalanceGiven(platform::Date day, platform::Currency balance, double rate);
+    void Given(const Adjustment& adjustment);
 
   protected:
     void Store() override;
     std::vector<std::string> Errors() override;
 
   private:
+    enum class Mode { Rate, Balance, Terms, TakeBack };
+
+    void Prepare(Mode mode, const clsMortgage& loan);
+    Adjustment Entered() const;
+
     std::unique_ptr<Ui::frmMortgageAdjust> ui_;
-    bool ofBalance_ = false;
-    platform::Currency oldBalance_;
+    Mode mode_ = Mode::Rate;
+    clsMortgage loan_;
 };
 
 } // namespace mortgages::screens

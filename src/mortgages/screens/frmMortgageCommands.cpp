@@ -3,7 +3,6 @@
 #include <QMenuBar>
 
 #include "core/forms/ErrorRoll.h"
-#include "mortgages/MortgageUpkeep.h"
 #include "mortgages/screens/MtgLog.h"
 #include "mortgages/screens/frmMortgage.h"
 #include "mortgages/screens/frmMortgageAdjust.h"
@@ -33,9 +32,19 @@ void frmMortgage::MakeMenu() {
         const char* name;
         QString text;
     };
-    changeRate_ = AddAction("mnuChangeRate", tr("Change &Rate..."), [this] { OpenRateChange(); });
+    menu->setToolTipsVisible(true);
+    changeRate_ = AddAction("mnuChangeRate", tr("Change &Rate..."),
+                            [this] { OpenAdjustment(&frmMortgageAdjust::SetupInt); });
+    changeRate_->setToolTip(tr("A new rate of an adjustable loan, from a payment on"));
+    changeTerms_ = AddAction("mnuChangeTerms", tr("Change the &Terms from a Period on..."),
+                             [this] { OpenAdjustment(&frmMortgageAdjust::SetupTerms); });
+    changeTerms_->setToolTip(tr("Another extra principal every month, from a payment on"));
     changeBalance_ = AddAction("mnuChangeBalance", tr("Adjust to Lender's &Balance..."),
-                               [this] { OpenBalanceChange(); });
+                               [this] { OpenAdjustment(&frmMortgageAdjust::SetupBalance); });
+    changeBalance_->setToolTip(tr("When the lender's balance is lower than the schedule's"));
+    takeBack_ = AddAction("mnuTakeBack", tr("Take Back &Extra Principal..."),
+                          [this] { OpenAdjustment(&frmMortgageAdjust::SetupTakeBack); });
+    takeBack_->setToolTip(tr("Takes an entry out of the schedule, a mistyped balance for one"));
     menu->addSeparator();
     for (const Item& item :
          {Item{MortgageCommand::RollForward, "mnuRollFOrward", tr("Roll &Forward...")},
@@ -62,52 +71,38 @@ void frmMortgage::Run(MortgageCommand command) {
 }
 
 void frmMortgage::MoveDueDate(int periods) {
-    if (!AskToMoveDueDate(periods > 0)) return;
-    loan_.SetCurrentPeriod(loan_.CurrentPeriod() + periods);
-    loanChanged_ = true;
-    ShowCurrent();
+    if (AskToMoveDueDate(periods > 0)) AdjustLoan(MovePeriod{periods});
+}
+
+void frmMortgage::OpenAdjustment(void (frmMortgageAdjust::*setup)(const clsMortgage& loan)) {
+    auto* const form = new frmMortgageAdjust(this);
+    connect(form, &frmMortgageAdjust::Given, this, &frmMortgage::AdjustLoan);
+    (form->*setup)(loan_);
+}
+
+/// Kept until the save, which makes it on the loan as it is stored then.
+void frmMortgage::AdjustLoan(const Adjustment& adjustment) {
+    adjustments_.push_back(adjustment);
+    Reckon();
     MarkDirty();
 }
 
-void frmMortgage::OpenRateChange() {
-    auto* const form = new frmMortgageAdjust(this);
-    connect(form, &frmMortgageAdjust::RateGiven, this, [this](int period, double rate) {
-        loan_.SetRate(period, rate);
-        loanChanged_ = true;
-        Reckon();
-        MarkDirty();
-    });
-    form->SetupInt(loan_.CurrentPeriod(), loan_.GetRate(0));
+void frmMortgage::MakeChangesOn(clsMortgage& loan) const {
+    ReadTerms(loan);
+    loan.ReCalc();
+    for (const Adjustment& adjustment : adjustments_)
+        Adjust(loan, adjustment);
 }
 
-void frmMortgage::OpenBalanceChange() {
-    auto* const form = new frmMortgageAdjust(this);
-    connect(form, &frmMortgageAdjust::BalanceGiven, this,
-            [this](platform::Date day, platform::Currency balance, double rate) {
-                loan_.BalanceMtg(day, balance.ToDouble(), rate);
-                loanChanged_ = true;
-                Reckon();
-                MarkDirty();
-            });
-    form->SetupBalance(platform::Currency::FromDouble(loan_.GetPV(0)), loan_.NextDue(),
-                       loan_.OrigRate());
-}
-
-/// A payment has moved the stored period on, here or elsewhere: the stored mortgage is reckoned
-/// anew at once, so that it is right however this screen ends, and what is shown follows it.
-void frmMortgage::FollowPayment() {
+/// The stored mortgage may have been changed, by a payment for one: what is shown follows it, and
+/// changes that aren't saved yet stay. Without such changes the form loads the row again.
+void frmMortgage::FollowOthers(const core::binding::Controls& /*touched*/) {
+    if (!Dirty()) return;
     platform::Recordset row;
     FindRow(row);
     if (row.Eof()) return;
-    clsMortgage stored;
-    stored.LoadRS(row);
-    if (stored.CurrentPeriod() == storedPeriod_) return;
-    RefreshMortgage(Id());
-    if (!Dirty()) return Load();
-    FindRow(row);
-    loan_.LoadRS(row);
-    storedPeriod_ = loan_.CurrentPeriod();
-    ReadTerms();
+    stored_ = clsMortgage();
+    stored_.LoadRS(row);
     Reckon();
     ucMtgLog_->Load(Id());
 }

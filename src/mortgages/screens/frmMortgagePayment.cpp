@@ -37,6 +37,8 @@ frmMortgagePayment::frmMortgagePayment(QWidget* parent)
     Wire(tr("&Submit"), tr("Post the payment and close (Enter)"), "SUBMIT");
     connect(ui_->lvwCharges, &LogList::Ticked, this,
             [this](std::size_t charge, bool on) { Guarded([&] { TickOne(charge, on); }); });
+    connect(ui_->txtExtraPrincipal, &QLineEdit::textChanged, this,
+            [this] { Guarded([this] { ShowTotal(); }); });
     connect(ui_->lvwCharges, &LogList::DeleteAsked, this,
             [this] { Guarded([this] { RemoveCharges(); }); });
     connect(ui_->lvwCharges, &LogList::RowChosen, this, [this](std::int32_t id) {
@@ -71,9 +73,7 @@ void frmMortgagePayment::MakeMenu() {
     });
 }
 
-void frmMortgagePayment::Setup(std::int32_t idTransaction, std::int32_t idMortgage,
-                               OpenedFrom from) {
-    from_ = from;
+void frmMortgagePayment::Setup(std::int32_t idTransaction, std::int32_t idMortgage) {
     const bool found = Guarded([&] {
         payment_ = idTransaction == 0 ? ProposeMortgagePayment(idMortgage)
                                       : ReadMortgagePayment(idTransaction);
@@ -100,6 +100,7 @@ void frmMortgagePayment::ShowPayment() {
     ui_->txtCheckNumber->setText(ToScreen(payment_.checkNumber));
     ui_->txtDescription->setText(ToScreen(payment_.description));
     ui_->txtDescription->setCursorPosition(0);
+    ui_->txtExtraPrincipal->setEnabled(payment_.idTransaction == 0);
     ShowCharges();
 }
 
@@ -133,6 +134,11 @@ void frmMortgagePayment::ShowTicks() {
     for (const PaymentCharge& charge : payment_.charges)
         ticks.push_back(charge.selected);
     ui_->lvwCharges->ShowTicks(ticks);
+    ShowTotal();
+}
+
+void frmMortgagePayment::ShowTotal() {
+    payment_.extraPrincipal = ui_->txtExtraPrincipal->Amount().value_or(platform::Currency());
     ui_->txtTotalDue->setText(ToScreen(platform::FormatNumber(payment_.PaidAmount(), "#.00")));
 }
 
@@ -150,10 +156,19 @@ void frmMortgagePayment::TickAll(ChargeChoice choice, bool on) {
 }
 
 void frmMortgagePayment::RemoveCharges() {
-    DeleteLogRows(ui_->lvwCharges->SelectedIds(), "Delete all selected charges?");
+    std::vector<ShownCharge> ticked;
+    for (const PaymentCharge& charge : payment_.charges) {
+        if (charge.selected) ticked.push_back({charge.idMortgageLog, charge.idTransaction});
+    }
+    if (ticked.empty()) {
+        platform::TheDialogs().ShowMessage("Note", "Tick the charges that are to be deleted.",
+                                           platform::Icon::Information);
+        return;
+    }
+    DeleteLogRows(ticked, "Delete all selected charges?", SingleRow::AsSeveral);
 }
 
-void frmMortgagePayment::Store() {
+void frmMortgagePayment::ReadEntries() {
     payment_.dateEffective = ui_->dpEffectiveDate->Day().value_or(platform::Date());
     payment_.fromAccount = GetSelectedId(*ui_->cboFrom);
     payment_.fromName = FromScreen(ui_->cboFrom->currentText());
@@ -162,7 +177,18 @@ void frmMortgagePayment::Store() {
     payment_.checkNumber = FromScreen(ui_->txtCheckNumber->text());
     payment_.paymentType = FromScreen(ui_->cboPaymentType->currentText());
     payment_.description = platform::Trim(FromScreen(ui_->txtDescription->text()));
-    SubmitMortgagePayment(payment_, from_);
+}
+
+std::vector<std::string> frmMortgagePayment::Errors() {
+    std::vector<std::string> errors = EntryForm::Errors();
+    if (!errors.empty()) return errors;
+    ReadEntries();
+    if (!ui_->txtExtraPrincipal->Amount()) return {"The extra principal is not a valid amount."};
+    return PaymentErrors(payment_);
+}
+
+void frmMortgagePayment::Store() {
+    SubmitMortgagePayment(payment_);
 }
 
 void frmMortgagePayment::Refresh(std::int16_t kind) {

@@ -23,10 +23,11 @@ class frmMortgagePayment : public core::forms::EntryForm {
     ~frmMortgagePayment() override;
 
     /// Opens a stored payment, or a new one (0) of the mortgage.
-    void Setup(std::int32_t idTransaction, std::int32_t idMortgage, OpenedFrom from);
+    void Setup(std::int32_t idTransaction, std::int32_t idMortgage);
 
   protected:
     void Store() override;
+    std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;
 
   private:
@@ -35,6 +36,8 @@ class frmMortgagePayment : public core::forms::EntryForm {
     void FillAccounts();
     void ShowCharges();
     void ShowTicks();
+    void ShowTotal();
+    void ReadEntries();
     void TickOne(std::size_t charge, bool on);
     void TickAll(ChargeChoice choice, bool on);
     void RemoveCharges();
@@ -42,7 +45,6 @@ class frmMortgagePayment : public core::forms::EntryForm {
     std::unique_ptr<Ui::frmMortgagePayment> ui_;
     QMenu* chargeMenu_;
     MortgagePayment payment_;
-    OpenedFrom from_ = OpenedFrom::Elsewhere;
 };
 
 } // namespace mortgages::screens

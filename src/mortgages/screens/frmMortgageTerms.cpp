@@ -1,7 +1,10 @@
+#include <QAbstractButton>
 #include <QCheckBox>
+#include <QLineEdit>
 #include <algorithm>
 #include <cmath>
 
+#include "core/forms/ErrorRoll.h"
 #include "mortgages/screens/AmortPage.h"
 #include "mortgages/screens/frmMortgage.h"
 #include "platform/qt/Text.h"
@@ -37,10 +40,18 @@ double AmountIn(const core::binding::MoneyEdit& box) {
     return box.Amount().value_or(Currency()).ToDouble();
 }
 
-/// All the digits that a person may have typed, and none that only the reckoning made.
+/// Shows all digits that a user may have typed, and none that only the calculation made.
 void ShowNumber(QLineEdit& box, double number) {
     box.setText(ToScreen(platform::FormatNumber(number, "0.##########")));
     if (box.text().endsWith(QLatin1Char('.'))) box.setText(box.text().chopped(1));
+}
+
+/// What a control of the terms holds, to tell later whether it was changed.
+QString TermText(const QWidget& control) {
+    if (const auto* const box = qobject_cast<const QLineEdit*>(&control)) return box->text();
+    if (const auto* const tick = qobject_cast<const QAbstractButton*>(&control))
+        return tick->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
+    return {};
 }
 
 void ShowAmount(QLineEdit& box, double amount) {
@@ -51,6 +62,7 @@ void ShowAmount(QLineEdit& box, double amount) {
 
 void frmMortgage::ShowTerms() {
     const LoadingGuard loading(*this);
+    loan_ = stored_;
     ShowAmount(*origin_->txtOrigPV, loan_.OrigPV());
     // Whole periods: the terms of older books are solved from their payment, as 360.0093213495.
     ShowNumber(*origin_->txtOrigPer, std::round(loan_.OrigPer()));
@@ -60,6 +72,7 @@ void frmMortgage::ShowTerms() {
     origin_->chkIntOnly->setChecked(loan_.IntOnly());
     ShowNumber(*origin_->txtBalloonPer, loan_.BalloonPer());
     ShowPenaltyAndRates();
+    KeepShownTerms();
     Reckon();
 }
 
@@ -75,41 +88,72 @@ void frmMortgage::ShowPenaltyAndRates() {
     ShowNumber(*origin_->txtPPMPct, loan_.PPMPct());
 }
 
-/// What can be changed here; the origination of a saved loan can't, and its stored digits stay.
-void frmMortgage::ReadTerms() {
-    if (Id() == 0) {
-        loan_.SetOrigPV(AmountIn(*origin_->txtOrigPV));
-        loan_.SetOrigPer(NumberIn(*origin_->txtOrigPer));
-        loan_.SetOrigRate(NumberIn(*origin_->txtOrigRate));
-        loan_.SetBalloon(origin_->chkBalloon->isChecked());
-        const auto due = origin_->dpDue->Day();
-        if (due && due->IsSet()) loan_.SetFirstDue(due->ToText());
-    }
-    loan_.SetXPri(0, AmountIn(*origin_->txtXPriAll));
-    loan_.SetIntOnly(origin_->chkIntOnly->isChecked());
-    loan_.SetBalloonPer(CountIn(*origin_->txtBalloonPer));
-    loan_.SetARM(origin_->chkARM->isChecked());
-    loan_.SetARMLockedPer(CountIn(*origin_->txtARMLockedPer));
-    loan_.SetARMAdjPer(CountIn(*origin_->txtARMAdjPer));
-    loan_.SetARMPerCap(NumberIn(*origin_->txtARMPerCap));
-    loan_.SetARMLifeCap(NumberIn(*origin_->txtARMLifeCap));
-    loan_.SetPPM(origin_->chkPPM->isChecked());
-    loan_.SetPPMPer(CountIn(*origin_->txtPPMPer));
-    loan_.SetPPMTrigger(NumberIn(*origin_->txtPPMTrigger));
-    loan_.SetPPMPct(NumberIn(*origin_->txtPPMPct));
+void frmMortgage::KeepShownTerms() {
+    shownTerms_.clear();
+    for (const QWidget* const control : ui_->tabOrigination->findChildren<QWidget*>())
+        shownTerms_[control] = TermText(*control);
+}
+
+bool frmMortgage::IsChanged(const QWidget& control) const {
+    const auto shown = shownTerms_.find(&control);
+    return shown == shownTerms_.end() || shown->second != TermText(control);
+}
+
+/// Only a new loan takes all terms; the origination of a saved one can't be changed, and of the
+/// rest what the user left alone keeps its stored digits.
+void frmMortgage::ReadTerms(clsMortgage& loan) const {
+    if (Id() != 0) return ReadSavedTerms(loan);
+    loan.SetOrigPV(AmountIn(*origin_->txtOrigPV));
+    loan.SetOrigPer(NumberIn(*origin_->txtOrigPer));
+    loan.SetOrigRate(NumberIn(*origin_->txtOrigRate));
+    loan.SetBalloon(origin_->chkBalloon->isChecked());
+    const auto due = origin_->dpDue->Day();
+    if (due && due->IsSet()) loan.SetFirstDue(due->ToText());
+    loan.SetXPri(0, AmountIn(*origin_->txtXPriAll));
+    loan.SetIntOnly(origin_->chkIntOnly->isChecked());
+    loan.SetARM(origin_->chkARM->isChecked());
+    ReadSavedTerms(loan);
+}
+
+void frmMortgage::ReadSavedTerms(clsMortgage& loan) const {
+    const auto count = [&](const QLineEdit& box, void (clsMortgage::*set)(std::int16_t)) {
+        if (IsChanged(box)) (loan.*set)(CountIn(box));
+    };
+    const auto number = [&](const QLineEdit& box, void (clsMortgage::*set)(double)) {
+        if (IsChanged(box)) (loan.*set)(NumberIn(box));
+    };
+    count(*origin_->txtBalloonPer, &clsMortgage::SetBalloonPer);
+    count(*origin_->txtARMLockedPer, &clsMortgage::SetARMLockedPer);
+    count(*origin_->txtARMAdjPer, &clsMortgage::SetARMAdjPer);
+    number(*origin_->txtARMPerCap, &clsMortgage::SetARMPerCap);
+    number(*origin_->txtARMLifeCap, &clsMortgage::SetARMLifeCap);
+    if (IsChanged(*origin_->chkPPM)) loan.SetPPM(origin_->chkPPM->isChecked());
+    count(*origin_->txtPPMPer, &clsMortgage::SetPPMPer);
+    number(*origin_->txtPPMTrigger, &clsMortgage::SetPPMTrigger);
+    number(*origin_->txtPPMPct, &clsMortgage::SetPPMPct);
 }
 
 void frmMortgage::TermsChanged() {
-    if (Loading()) return;
-    loanChanged_ = true;
-    ReadTerms();
-    Reckon();
+    if (!Loading()) Reckon();
 }
 
-/// Terms that can't be reckoned, while they are typed for one, are told beside the schedule.
+/// The most that an adjustable loan can come to, shown on a copy: the loan keeps its rates.
+void frmMortgage::ShowWorstCase() {
+    clsMortgage worst = loan_;
+    worst.SetMaxRates();
+    core::forms::Guarded([&] { worst.ReCalc(); });
+    amort_->ShowInstead(worst,
+                        tr("Worst case: the highest rates that the terms allow. The mortgage "
+                           "itself is not changed."));
+    ui_->tabs->setCurrentWidget(ui_->tabAmortization);
+}
+
+/// Terms that can't be calculated, while they are being typed for one, are reported beside the
+/// schedule.
 void frmMortgage::Reckon() {
     try {
-        loan_.ReCalc();
+        loan_ = stored_;
+        MakeChangesOn(loan_);
         amort_->ShowFault({});
     } catch (const platform::Error& error) {
         amort_->ShowFault(error.what());
@@ -125,7 +169,7 @@ void frmMortgage::ShowLoan() {
         balloon.ReCalc();
         ShowAmount(*origin_->txtBalloonPmt, balloon.BalloonPmt());
     } catch (const platform::Error&) {
-        origin_->txtBalloonPmt->clear(); // told beside the schedule
+        origin_->txtBalloonPmt->clear(); // reported beside the schedule
     }
     amort_->Show(loan_);
     ShowCurrent();
@@ -142,6 +186,9 @@ void frmMortgage::ShowCurrent() {
                                     .arg(ToScreen(platform::FormatMoney(loan_.GetPPMT(0))),
                                          ToScreen(platform::FormatMoney(loan_.GetIPMT(0)))));
     ShowAmount(*ui_->txtBalance, loan_.GetPV(0));
+    general_->cmdIncDueDate->setEnabled(loan_.CurrentPeriod() < loan_.GetPeriods());
+    general_->cmdDecDueDate->setEnabled(loan_.CurrentPeriod() > 1);
+    takeBack_->setEnabled(Id() != 0 && !ExtraEntries(loan_).empty());
 }
 
 } // namespace mortgages::screens

@@ -55,10 +55,10 @@ void frmMtgLog::ShowEntry() {
     ui_->txtInterest->SetAmount(entry_.interest);
     ui_->txtOther->SetAmount(entry_.other);
     ui_->txtDescription->setText(ToScreen(entry_.description));
-    const bool isBase = entry_.flags == LogFlags::BasePayment;
     for (QWidget* const split : std::initializer_list<QWidget*>{ui_->cboCategory, ui_->txtPrincipal,
                                                                 ui_->txtPayDown, ui_->txtInterest})
-        split->setEnabled(!isBase);
+        split->setEnabled(!KeepsSplit(entry_));
+    ui_->txtPeriod->setEnabled(!IsExtraPrincipal(entry_));
     ShowTotal();
 }
 
@@ -68,7 +68,7 @@ MortgageLogEntry frmMtgLog::Entered() const {
     entry.period = platform::StrToInt16(FromScreen(ui_->txtPeriod->text()));
     entry.description = FromScreen(ui_->txtDescription->text());
     entry.other = platform::StrToMoney(FromScreen(ui_->txtOther->text()));
-    if (entry.flags == LogFlags::BasePayment) return entry;
+    if (KeepsSplit(entry)) return entry;
     entry.category = FromScreen(ui_->cboCategory->currentText());
     entry.principal = platform::StrToMoney(FromScreen(ui_->txtPrincipal->text()));
     entry.payDown = platform::StrToMoney(FromScreen(ui_->txtPayDown->text()));
@@ -82,7 +82,7 @@ void frmMtgLog::ShowTotal() {
 }
 
 void frmMtgLog::Store() {
-    SaveCharge(Entered(), id_);
+    SaveCharge(Entered(), entry_, id_);
 }
 
 } // namespace mortgages::screens

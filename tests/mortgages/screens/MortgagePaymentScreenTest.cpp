@@ -1,7 +1,9 @@
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
@@ -17,7 +19,6 @@ namespace tests {
 
 namespace {
 
-using mortgages::OpenedFrom;
 using mortgages::screens::frmMortgage;
 using mortgages::screens::frmMortgageAdjust;
 using mortgages::screens::frmMortgagePayment;
@@ -28,7 +29,7 @@ class MortgagePaymentScreen : public MortgageScreenTest {
   protected:
     static QPointer<frmMortgagePayment> Open(std::int32_t id = 0) {
         QPointer<frmMortgagePayment> form(new frmMortgagePayment);
-        form->Setup(id, kLoan, OpenedFrom::Elsewhere);
+        form->Setup(id, kLoan);
         return form;
     }
 };
@@ -82,6 +83,109 @@ TEST_F(MortgagePaymentScreen, SubmitsAndShowsTheStoredPaymentAgain) {
     EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "969.4606");
     EXPECT_EQ(Ask("SELECT Count(*) FROM MortgageLog WHERE Flags = 2"), "1");
     EXPECT_EQ(Loan("CurrentPeriod"), "2");
+}
+
+TEST_F(MortgagePaymentScreen, IsDrivenByKeys) {
+    const auto form = Open();
+    auto& list = Find<QTreeWidget>(*form, "lvwCharges");
+    list.setFocus();
+    list.setCurrentItem(list.topLevelItem(0), 3); // whatever column the caret is in
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_EQ(Text(*form, "txtTotalDue"), "719.46");
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_EQ(Text(*form, "txtTotalDue"), ".00");
+    QTest::keyClick(&list, Qt::Key_Space);
+    QTest::keyClick(&list, Qt::Key_F2);
+    auto charge = Opened<frmMtgLog>();
+    ASSERT_TRUE(charge);
+    EXPECT_EQ(Text(*charge, "txtTotal"), "719.46");
+    charge->CloseUnasked();
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0");
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_FALSE(form && form->isVisible()) << "Enter submits";
+    EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "719.4606");
+}
+
+TEST_F(MortgagePaymentScreen, AlwaysHoldsADate) {
+    const auto form = Open();
+    auto& date = Find<core::binding::DateEdit>(*form, "dpEffectiveDate");
+    date.clear();
+    QFocusEvent left(QEvent::FocusOut);
+    QApplication::sendEvent(&date, &left);
+    EXPECT_EQ(date.text(), QStringLiteral("05/17/2024"));
+    Type(date, "3/7/24");
+    date.clear();
+    Tick(*form, 0, true);
+    ClickAction(*form, "SUBMIT");
+    EXPECT_EQ(Heard(), Said{"Whoa!: The following errors have occured:\n\nA payment date must be "
+                            "entered.\n"});
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0");
+}
+
+TEST_F(MortgagePaymentScreen, DeletesTheTickedChargesAndNamesThem) {
+    const auto form = Open();
+    auto& list = Find<QTreeWidget>(*form, "lvwCharges");
+    list.setCurrentItem(list.topLevelItem(0));
+    Trigger(*form, "mnuChargeDelete");
+    EXPECT_EQ(Heard(), Said{"Note: Tick the charges that are to be deleted."});
+    Tick(*form, 1, true);
+    Tick(*form, 2, true);
+    Answer({false, true});
+    for (const int left : {9, 7}) {
+        QTest::keyClick(&list, Qt::Key_Delete);
+        EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete all selected charges?\n\n"
+                                "03/01/2024  Mortgage Escrow Payment  250.00\n"
+                                "03/16/2024  Late Payment  35.00"});
+        EXPECT_EQ(Lines(*form, "lvwCharges").size(), static_cast<std::size_t>(left));
+    }
+    EXPECT_EQ(Lines(*form, "lvwCharges").front(),
+              "03/01/2024|3|Mortgage Payment|Mortgage P & I Payment Due|719.46");
+    EXPECT_EQ(Text(*form, "txtTotalDue"), ".00");
+}
+
+TEST_F(MortgagePaymentScreen, BooksExtraPrincipal) {
+    const auto form = Open();
+    Tick(*form, 0, true);
+    Type(Find<QLineEdit>(*form, "txtExtraPrincipal"), "200000");
+    EXPECT_EQ(Text(*form, "txtTotalDue"), "200719.46");
+    ClickAction(*form, "SUBMIT");
+    EXPECT_EQ(Heard(),
+              Said{"Whoa!: The following errors have occured:\n\nExtra principal cannot be "
+                   "more than what is then left of the loan, 119,639.82.\n"});
+    Type(Find<QLineEdit>(*form, "txtExtraPrincipal"), "1500");
+    ClickAction(*form, "SUBMIT");
+    EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "2219.4606");
+    EXPECT_EQ(Ask("SELECT Category + '|' + Description FROM MortgageLog WHERE PayDown = 1500 AND "
+                  "Period = 3 AND Flags = 0"),
+              "Extra Principal|Extra Principal Payment");
+    core::EditRecord(core::kTransaction, std::stoi(Ask("SELECT IdTransaction FROM Transactions")));
+    const auto stored = Opened<frmMortgagePayment>();
+    ASSERT_TRUE(stored);
+    EXPECT_EQ(Text(*stored, "txtTotalDue"), "2219.46");
+    EXPECT_FALSE(Find<QWidget>(*stored, "txtExtraPrincipal").isEnabled());
+
+    auto* const row = new frmMtgLog;
+    row->Setup(std::stoi(Ask("SELECT IdMortgageLog FROM MortgageLog WHERE PayDown = 1500")), kLoan);
+    for (const char* locked : {"cboCategory", "txtPeriod", "txtPayDown"})
+        EXPECT_FALSE(Find<QWidget>(*row, locked).isEnabled()) << locked;
+    row->CloseUnasked();
+}
+
+TEST_F(MortgagePaymentScreen, SaysWhatAnotherProgramDidAndChangesNothing) {
+    const auto form = Open();
+    Tick(*form, 0, true);
+    Run("UPDATE MortgageLog SET IdTransaction = 77 WHERE Flags = 1 AND Period = 3");
+    ClickAction(*form, "SUBMIT");
+    const Said heard = Heard();
+    ASSERT_EQ(heard.size(), 1U);
+    EXPECT_NE(heard[0].find("The charge \"Mortgage P & I Payment Due\" of 03/01/2024 has already "
+                            "been paid. Nothing was paid."),
+              std::string::npos)
+        << heard[0];
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0");
+    EXPECT_EQ(Loan("CurrentPeriod"), "1");
 }
 
 TEST_F(MortgagePaymentScreen, AChargeKeepsABasePaymentsSplit) {
@@ -148,12 +252,21 @@ TEST_F(MortgagePaymentScreen, LookRight) {
     auto* const charge = new frmMtgLog;
     charge->Setup(0, kLoan);
     EXPECT_EQ(Faults(*charge, "frmMtgLog"), Said{});
-    auto* const rate = new frmMortgageAdjust;
-    rate->SetupInt(5, 6.25);
-    EXPECT_EQ(Faults(*rate, "frmMortgageAdjust-rate"), Said{});
-    auto* const balance = new frmMortgageAdjust;
-    balance->SetupBalance(platform::Currency::FromUnits(100), platform::Date(2024, 6, 1), 6);
-    EXPECT_EQ(Faults(*balance, "frmMortgageAdjust-balance"), Said{});
+    mortgages::clsMortgage loan;
+    loan.SetARM(true);
+    loan.SetXPri(3, 12345.67);
+    loan.ReCalc();
+    using Adjust = frmMortgageAdjust;
+    const std::pair<const char*, void (Adjust::*)(const mortgages::clsMortgage&)> kModes[] = {
+        {"rate", &Adjust::SetupInt},
+        {"balance", &Adjust::SetupBalance},
+        {"terms", &Adjust::SetupTerms},
+        {"back", &Adjust::SetupTakeBack}};
+    for (const auto& [name, setup] : kModes) {
+        auto* const adjust = new Adjust;
+        (adjust->*setup)(loan);
+        EXPECT_EQ(Faults(*adjust, std::string("frmMortgageAdjust-") + name), Said{}) << name;
+    }
     auto* const wizard = new frmMortgageWizard;
     wizard->Setup();
     EXPECT_EQ(Faults(*wizard, "frmMortgageWizard"), Said{});

@@ -45,8 +45,7 @@ MortgageScreenTest::MortgageScreenTest() {
     core::RegisterTransactionOpener(
         core::TransactionEditor::MortgagePayment,
         [](const core::EditRequest& request, const core::TransactionPlace& place) {
-            (new mortgages::screens::frmMortgagePayment)
-                ->Setup(request.id, place.idMortgage, mortgages::OpenedFrom::Elsewhere);
+            (new mortgages::screens::frmMortgagePayment)->Setup(request.id, place.idMortgage);
         });
 }
 
