@@ -13,6 +13,7 @@
 #include "core/forms/frmHelp.h"
 #include "documents/ShowPictures.h"
 #include "documents/screens/frmDocMgmt.h"
+#include "kestrom/Reports.h"
 #include "leases/screens/frmLease.h"
 #include "leases/screens/frmLeaseWizard.h"
 #include "leases/screens/frmRentLog.h"
@@ -34,6 +35,7 @@
 #include "records/screens/frmTenant.h"
 #include "records/screens/frmWoItem.h"
 #include "records/screens/frmWorkOrder.h"
+#include "reports/screens/frmReports.h"
 #include "shell/screens/frmAbout.h"
 #include "shell/screens/frmConfig.h"
 #include "shell/screens/frmPreferences.h"
@@ -147,6 +149,8 @@ shell::screens::Commands MenuCommands() {
     shell::screens::Commands commands;
     commands.Add(QStringLiteral("mnuConfig"), Opening<shell::screens::frmConfig>());
     commands.Add(QStringLiteral("mnuGlobalConfig"), Opening<shell::screens::frmConfig>());
+    commands.Add(QStringLiteral("mnuGeneralReports"), Opening<reports::screens::frmReports>());
+    AddReportCommands(commands);
     commands.Add(QStringLiteral("mnuPreferences"), Opening<shell::screens::frmPreferences>());
     commands.Add(QStringLiteral("mnuLeaseWizard"), Opening<leases::screens::frmLeaseWizard>());
     commands.Add(QStringLiteral("mnuMortgageWizard"),

@@ -9,6 +9,7 @@
 #include "core/Session.h"
 #include "core/Startup.h"
 #include "kestrom/Application.h"
+#include "kestrom/Reports.h"
 #include "kestrom/Start.h"
 #include "kestrom/Wiring.h"
 #include "platform/qt/Appearance.h"
@@ -16,6 +17,8 @@
 #include "platform/qt/QuitRequests.h"
 #include "platform/qt/SingleInstance.h"
 #include "platform/system/Clock.h"
+#include "reports/PrintReport.h"
+#include "reports/ReportList.h"
 #include "shell/CommandLine.h"
 #include "shell/Registrations.h"
 #include "shell/screens/BooksRun.h"
@@ -30,6 +33,12 @@ shell::screens::WindowServices Services() {
     shell::screens::WindowServices services;
     services.commands = kestrom::MenuCommands();
     services.hasEditor = core::HasEditor;
+    if (reports::HasReportViewer()) {
+        // The list's definition is the scratch report.
+        services.viewReport = [](const std::filesystem::path&) {
+            reports::RunReport(reports::kScratchReport);
+        };
+    }
     services.end.endProcess = [] { QCoreApplication::quit(); };
     return services;
 }
@@ -68,6 +77,7 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
     shell::RunDigest digest;
     shell::screens::RunBooks(digest);
     core::CleanTmpFiles();
+    kestrom::LoadReports();
     if (endAsked) {
         core::CloseDatabase(core::App().Connection);
         return 0;

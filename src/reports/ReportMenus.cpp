@@ -2,9 +2,35 @@
 
 #include <fmt/core.h>
 
+#include "core/RecordKinds.h"
 #include "reports/ReportList.h"
 
 namespace reports {
+
+RecordForm FormOfKind(std::int16_t recordKind) {
+    switch (recordKind) {
+        case core::kAccount:
+            return RecordForm::Account;
+        case core::kBuilding:
+            return RecordForm::Building;
+        case core::kLease:
+            return RecordForm::Lease;
+        case core::kMileage:
+            return RecordForm::Mileage;
+        case core::kMortgage:
+            return RecordForm::Mortgage;
+        case core::kTenant:
+            return RecordForm::Tenant;
+        case core::kTransaction:
+            return RecordForm::Transaction;
+        case core::kUnit:
+            return RecordForm::Unit;
+        case core::kWorkOrder:
+            return RecordForm::WorkOrder;
+        default:
+            return RecordForm::None;
+    }
+}
 
 ReportMenu ReportsOf(RecordForm form, std::string_view mark) {
     ReportMenu menu;

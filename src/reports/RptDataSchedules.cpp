@@ -1,5 +1,7 @@
 // The modes of a [DATA] section that show a schedule: amortisation and depreciation.
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 
 #include "books/clsDepreciation.h"
@@ -19,6 +21,24 @@ namespace {
 std::vector<std::string> SplitHeader(std::string_view header) {
     auto rows = platform::ParseTableText(header);
     return rows.empty() ? std::vector<std::string>() : std::move(rows.front());
+}
+
+/// A schedule of sixteen columns is set in a font and with margins small enough that no amount goes
+/// on in a second line.
+void FitFont(PrintSurface& page, const std::vector<std::vector<std::string>>& rows) {
+    constexpr platform::Twips kNarrowInset = 40;
+    constexpr double kSmallestFont = 4;
+    if (rows.empty()) return;
+    const auto columns = static_cast<platform::Twips>(rows.front().size());
+    page.Style().cellInset = kNarrowInset;
+    const platform::Twips room = page.PrintWidth() / columns - 2 * kNarrowInset;
+    platform::Twips widest = 1;
+    for (const auto& row : rows) {
+        for (const std::string& cell : row)
+            widest = std::max(widest, page.TextWidth(cell));
+    }
+    double& size = page.Style().fontSize;
+    if (widest > room) size = std::max(kSmallestFont, std::floor(2 * size * room / widest) / 2);
 }
 
 /// A field that is null or 0 counts as missing.
@@ -77,6 +97,7 @@ void clsRptData::ShowAmortization(PrintSurface& page) const {
 
     PrintIn(page, "TableGroupHeader", HeadText);
     page.ApplyStyle("Table");
+    FitFont(page, rows);
     page.StartTable();
     page.AddTableArray(format, SplitHeader(header),
                        std::make_unique<platform::HeldRows>(std::move(rows)));

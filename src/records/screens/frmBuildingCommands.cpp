@@ -83,8 +83,19 @@ void frmBuilding::CalculateEquity() {
 void frmBuilding::ShowDepreciation() {
     const auto basis = financial_->txtDeprBasis->Amount().value_or(platform::Currency());
     const auto fault = DepreciationFault(basis, NumberIn(*financial_->txtDeprPeriod));
-    // The schedule itself has no window yet.
-    if (fault) platform::TheDialogs().ShowMessage("Error", *fault, platform::Icon::Exclamation);
+    if (fault) {
+        platform::TheDialogs().ShowMessage("Error", *fault, platform::Icon::Exclamation);
+        return;
+    }
+    using books::screens::frmDepreciation;
+    if (Id() != 0 && frmDepreciation::BringToFront(Id())) return;
+    auto schedule = std::make_unique<frmDepreciation>();
+    schedule->Setup(Id(), FromScreen(place_->txtAddress->text()), basis.ToDouble(),
+                    FromScreen(financial_->dpPurchDate->text()),
+                    FromScreen(financial_->cboDeprMethod->currentText()),
+                    NumberIn(*financial_->txtDeprPeriod));
+    // It destroys itself when it closes.
+    static_cast<void>(schedule.release());
 }
 
 void frmBuilding::OpenTaxPage() {

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "shell/screens/Commands.h"
+
+namespace kestrom {
+
+/// Puts the shipped report files where the program reads them, and loads the catalogue.
+void LoadReports();
+
+/// The main window's printing of the selected record.
+void AddReportCommands(shell::screens::Commands& commands);
+
+} // namespace kestrom
