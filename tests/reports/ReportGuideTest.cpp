@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include "platform/system/Paths.h"
 #include "reports/CheckReport.h"
 #include "reports/ReportsFixture.h"
@@ -8,13 +10,13 @@ namespace {
 
 /// The definitions that the page on report files shows: the blocks after "```rpt".
 std::vector<std::string> Examples() {
-    const std::string page =
-        platform::ReadWholeFile(std::string(VESTREL_TEST_DATA) + "/../../docs/report-files.md");
+    const std::string page = platform::ReadWholeFile(std::filesystem::path(VESTREL_TEST_DATA) /
+                                                     "../../docs/report-files.md");
     std::vector<std::string> examples;
     const std::string opening = "```rpt\n";
     for (auto at = page.find(opening); at != std::string::npos; at = page.find(opening, at)) {
         at += opening.size();
-        examples.push_back(page.substr(at, page.find("```", at) - at));
+        examples.emplace_back(page, at, page.find("```", at) - at);
     }
     return examples;
 }

@@ -107,7 +107,8 @@ TEST_F(ReportRuns, KeepsAllOfALongTitleInItsBox) {
     const platform::PrintedDocument pages =
         Pages("TITLE=" + std::string(60, 'W') + "\nSUBTITLE=below\n");
     ASSERT_EQ(pages.PageCount(), 1U);
-    const auto& items = pages.Page(0).Items();
+    const platform::PrintedPage first = pages.Page(0);
+    const auto& items = first.Items();
     const auto box =
         std::ranges::find(items, platform::PageItem::Kind::Box, &platform::PageItem::kind);
     ASSERT_NE(box, items.end());
@@ -115,9 +116,9 @@ TEST_F(ReportRuns, KeepsAllOfALongTitleInItsBox) {
     EXPECT_EQ(box->y2 - box->y1, 800);
     const auto find = [&](std::string_view start) {
         return *std::ranges::find_if(
-            items, [&](const auto& item) { return pages.Page(0).TextOf(item).starts_with(start); });
+            items, [&](const auto& item) { return first.TextOf(item).starts_with(start); });
     };
-    EXPECT_EQ(pages.Page(0).TextOf(find("W")).size(), 60U) << "all in one line";
+    EXPECT_EQ(first.TextOf(find("W")).size(), 60U) << "all in one line";
     EXPECT_LE(find("W").x2, box->x2);
     EXPECT_LT(find("W").y1, box->y2);
     EXPECT_EQ(find("below").x1, 1440);

@@ -24,6 +24,12 @@ namespace {
 const Date kToday(2026, 6, 15);
 constexpr int kUnits = 12;
 
+fs::path ShippedFolder() {
+    fs::path folder = VESTREL_TEST_DATA;
+    folder /= "../../share/Reports";
+    return folder;
+}
+
 std::vector<std::string> Cells(std::string_view line) {
     std::vector<std::string> cells;
     while (true) {
@@ -60,15 +66,14 @@ Shipped::Shipped() {
 
 std::vector<fs::path> Shipped::Files() {
     std::vector<fs::path> files;
-    for (const auto& entry :
-         fs::directory_iterator(std::string(VESTREL_TEST_DATA) + "/../../share/Reports"))
+    for (const auto& entry : fs::directory_iterator(ShippedFolder()))
         files.push_back(entry.path());
     std::ranges::sort(files);
     return files;
 }
 
 FlowLines Shipped::Run(const std::string& file) {
-    const fs::path path = fs::path(VESTREL_TEST_DATA) / "../../share/Reports" / file;
+    const fs::path path = ShippedFolder() / file;
     const auto text = reports::ReadDefinition(path);
     if (!text) throw std::runtime_error("no shipped report " + file);
     report.Kind =

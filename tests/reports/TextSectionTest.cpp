@@ -134,7 +134,8 @@ TEST_F(TextSection, PutsShapesOnTheGridOfThePage) {
         "LOCATE=50,10\nPARAGRAPH=here\nDRAWLINE=0,0,100\nPENCOLOR=255\nPENWIDTH=30\n"
         "DRAWBOX=10,20,30,40\nFILLCOLOR=128\n");
     ASSERT_EQ(pages.PageCount(), 1U);
-    const auto& items = pages.Page(0).Items();
+    const platform::PrintedPage first = pages.Page(0);
+    const auto& items = first.Items();
     ASSERT_EQ(items.size(), 3U);
     const auto& setup = pages.Info().setup;
     const auto x = [&](int cell) { return 1440 + setup.PrintWidth() * cell / 100; };

@@ -17,6 +17,8 @@
 #include "platform/qt/Text.h"
 #include "platform/values/Format.h"
 #include "platform/values/Text.h"
+#include "reports/PrintReport.h"
+#include "reports/ReportMenus.h"
 #include "ui_frmRentPayment.h"
 
 namespace leases::screens {
@@ -63,12 +65,33 @@ void frmRentPayment::MakeMenu() {
     QAction* const submit = payment->addAction(tr("&Submit"));
     submit->setObjectName(QStringLiteral("mnuSubmit"));
     connect(submit, &QAction::triggered, this, &frmRentPayment::Submit);
-    QAction* const receipt = payment->addAction(tr("Print &Receipt"));
-    receipt->setObjectName(QStringLiteral("mnuReceiptItem"));
-    receipt->setEnabled(false); // until there are receipts
+    receiptMenu_ = payment->addMenu(tr("Print &Receipt"));
+    receiptMenu_->setObjectName(QStringLiteral("mnuReceipts"));
+    receiptMenu_->setToolTipsVisible(true);
     bar->addMenu(chargeMenu_);
     AddChargeItems(*chargeMenu_);
     layout()->setMenuBar(bar);
+}
+
+/// The receipts of the catalogue, for a payment that has been posted.
+void frmRentPayment::FillReceipts() {
+    receiptMenu_->clear();
+    const auto items = reports::ReceiptsOf(reports::RecordForm::Lease);
+    for (const reports::ReportMenuItem& item : items) {
+        QAction* const action =
+            receiptMenu_->addAction(ToScreen(item.caption).replace(u'&', QLatin1String("&&")));
+        action->setObjectName(QStringLiteral("mnuReceiptItem"));
+        action->setEnabled(payment_.idTransaction != 0 && reports::HasReportViewer());
+        if (payment_.idTransaction == 0)
+            action->setToolTip(tr("Submit the payment first, then open it again"));
+        connect(action, &QAction::triggered, this, [this, index = item.index] {
+            Guarded([&] { reports::PrintReport(payment_.idTransaction, index); });
+        });
+    }
+    if (!items.empty()) return;
+    QAction* const none = receiptMenu_->addAction(tr("(no receipts)"));
+    none->setEnabled(false);
+    none->setToolTip(tr("The reports folder has no receipt for leases"));
 }
 
 void frmRentPayment::AddChargeItems(QMenu& menu) {
@@ -146,6 +169,7 @@ void frmRentPayment::ShowPayment() {
     ui_->txtCheckNumber->setText(ToScreen(payment_.checkNumber));
     ui_->txtDescription->setText(ToScreen(payment_.description));
     ui_->txtDescription->setCursorPosition(0);
+    FillReceipts();
     ShowCharges();
 }
 

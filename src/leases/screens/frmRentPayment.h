@@ -33,6 +33,7 @@ class frmRentPayment : public core::forms::EntryForm {
 
   private:
     void MakeMenu();
+    void FillReceipts();
     void AddChargeItems(QMenu& menu);
     void Connect();
     void ShowPayment();
@@ -50,6 +51,7 @@ class frmRentPayment : public core::forms::EntryForm {
 
     std::unique_ptr<Ui::frmRentPayment> ui_;
     QMenu* chargeMenu_;
+    QMenu* receiptMenu_ = nullptr;
     RentPayment payment_;
     LeaseUpdate update_ = LeaseUpdate::Yes;
 };

@@ -1,3 +1,4 @@
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
@@ -6,7 +7,10 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
+#include <filesystem>
+#include <fstream>
 
+#include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/binding/DateEdit.h"
@@ -14,6 +18,8 @@
 #include "leases/screens/frmRentLog.h"
 #include "leases/screens/frmRentPayment.h"
 #include "leases/screens/frmRentSplit.h"
+#include "reports/PrintReport.h"
+#include "reports/ReportList.h"
 
 namespace tests {
 
@@ -259,6 +265,28 @@ TEST_F(PaymentScreen, SortsDaysAsDaysAndMoneyAsMoney) {
     ClickCaption(list, 0);
     core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);
     EXPECT_EQ(Rows(*form, "lvwCharges").back().substr(0, 12), "x 12/31/2023");
+}
+
+TEST_F(PaymentScreen, PrintsTheReceiptOfAPostedPayment) {
+    std::filesystem::create_directories(core::App().ReportPath);
+    std::ofstream(core::App().ReportPath + "slip.rcpt")
+        << "[GENERAL]\nFORM=LEASE\nDESCRIPTION=Rent & more\n";
+    reports::LoadReportList();
+    int run = 0;
+    reports::SetReportViewer([&run](int index) { run = index; });
+    auto form = Open();
+    const auto receipt = [&] { return &Find<QAction>(*form, "mnuReceiptItem"); };
+    EXPECT_EQ(receipt()->text(), "Print Rent && more");
+    EXPECT_FALSE(receipt()->isEnabled()) << "nothing is posted yet";
+    EXPECT_FALSE(receipt()->toolTip().isEmpty());
+    support::ClickAction(*form, "SUBMIT");
+    support::SettleEvents();
+    const std::int32_t id = std::stoi(Transaction("IdTransaction"));
+    form = Open(id);
+    receipt()->trigger();
+    EXPECT_EQ(run, 2);
+    EXPECT_EQ(reports::FindReport(2)->SelectedId, id);
+    reports::SetReportViewer(nullptr);
 }
 
 TEST_F(PaymentScreen, LooksAndReadsRight) {
