@@ -6,6 +6,7 @@
 #include "reports/PrintReport.h"
 #include "reports/ReportList.h"
 #include "reports/ReportMenus.h"
+#include "reports/screens/RecordReports.h"
 
 namespace kestrom {
 
@@ -28,6 +29,7 @@ void PrintSelected(const shell::screens::Selection& selection) {
 void LoadReports() {
     core::InstallShippedReports(core::ShippedReportsFolder(), core::App().ReportPath);
     reports::LoadReportList();
+    reports::screens::RegisterReportMenus();
 }
 
 void AddReportCommands(shell::screens::Commands& commands) {

@@ -4,7 +4,8 @@
 
 namespace kestrom {
 
-/// Puts the shipped report files where the program reads them, and loads the catalogue.
+/// Puts the shipped report files where the program reads them, loads the catalogue, and gives the
+/// record forms their report menus.
 void LoadReports();
 
 /// The main window's printing of the selected record.
