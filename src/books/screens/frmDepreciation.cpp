@@ -9,6 +9,7 @@
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/Help.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/charts/SeriesChart.h"
 #include "platform/values/Date.h"
 #include "ui_frmDepreciation.h"
 
