@@ -9,6 +9,7 @@
 #include "platform/values/Format.h"
 #include "reports/DataTable.h"
 #include "reports/Queries.h"
+#include "reports/ReportError.h"
 #include "reports/Tags.h"
 #include "reports/clsRptData.h"
 
@@ -89,7 +90,11 @@ void clsRptData::ShowAmortization(PrintSurface& page) const {
         PrintNoRecords(page);
         return;
     }
-    mortgage.ReCalc();
+    try {
+        mortgage.ReCalc();
+    } catch (const platform::Error& fault) {
+        throw ReportError(Line, fault.what());
+    }
     std::vector<std::vector<std::string>> rows;
     std::string header;
     std::string format;

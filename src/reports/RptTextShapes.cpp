@@ -38,7 +38,8 @@ class CellMap {
 
   private:
     static float CellSize(Twips length, int scale) {
-        if (scale == 0) throw platform::Error("division by zero: SCALE gives the page no cells");
+        if (scale == 0)
+            throw platform::ConversionError("division by zero: SCALE gives the page no cells");
         return static_cast<float>(length) / static_cast<float>(scale);
     }
     static Twips Place(Twips margin, int cell, float size) {
@@ -55,11 +56,12 @@ class CellMap {
 int GridStep(int scale) {
     const int step = scale / kGridParts;
     if (step == 0) {
-        throw platform::Error(
+        throw platform::ConversionError(
             fmt::format("division by zero: DRAWGRID needs a SCALE of at least {}", kGridParts));
     }
     if (scale > kFinestGrid) {
-        throw platform::Error(fmt::format("a grid of {} lines is finer than the page", scale));
+        throw platform::OverflowError(
+            fmt::format("a grid of {} lines is finer than the page", scale));
     }
     return step;
 }

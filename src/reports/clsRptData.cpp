@@ -59,7 +59,9 @@ void clsRptData::ShowData(platform::PrintSurface& page) {
             page.Text("");
             DrawLine(page, FootLine);
         }
-    } catch (const platform::Error& fault) {
+    } catch (const platform::ConversionError& fault) {
+        throw ReportError(Line, fault.what());
+    } catch (const platform::OverflowError& fault) {
         throw ReportError(Line, fault.what());
     }
 }

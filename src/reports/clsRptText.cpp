@@ -88,11 +88,12 @@ void clsRptText::ShowData(platform::PrintSurface& page) {
     }
     ApplyTagFormats();
     for (const TextCommand& command : commands_) {
+        // What the pages are written to may fail as well, which is not the definition's fault.
         try {
             Draw(command, page);
-        } catch (const ReportError&) {
-            throw;
-        } catch (const platform::Error& fault) {
+        } catch (const platform::ConversionError& fault) {
+            throw ReportError(command.FileLine, fault.what());
+        } catch (const platform::OverflowError& fault) {
             throw ReportError(command.FileLine, fault.what());
         }
     }
