@@ -66,6 +66,7 @@ class Connection {
 
   private:
     friend class Recordset;
+    friend class RowWriter;
     friend class UnitOfWork;
 
     /// Throws DatabaseError if it isn't open.

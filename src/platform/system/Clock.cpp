@@ -1,5 +1,9 @@
 #include "platform/system/Clock.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <array>
 #include <chrono>
 #include <ctime>
 
@@ -18,13 +22,16 @@ std::tm LocalTime(std::time_t time) {
     return local;
 }
 
+Date DayOf(const std::tm& local) {
+    return {local.tm_year + 1900, static_cast<unsigned>(local.tm_mon + 1),
+            static_cast<unsigned>(local.tm_mday)};
+}
+
 } // namespace
 
 Date Today() {
     if (SetDay()) return *SetDay();
-    const std::tm now = LocalTime(std::time(nullptr));
-    return {now.tm_year + 1900, static_cast<unsigned>(now.tm_mon + 1),
-            static_cast<unsigned>(now.tm_mday)};
+    return DayOf(LocalTime(std::time(nullptr)));
 }
 
 double SecondOfDay() {
@@ -34,6 +41,26 @@ double SecondOfDay() {
     const std::tm local = LocalTime(system_clock::to_time_t(second));
     return local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec +
            duration<double>(now - second).count();
+}
+
+Moment ChangedAt(const std::filesystem::path& file) {
+    struct stat status {};
+    if (stat(file.c_str(), &status) != 0) return {};
+    const std::tm local = LocalTime(status.st_mtim.tv_sec);
+    return {DayOf(local), (local.tm_hour * 60 + local.tm_min) * 60 + local.tm_sec};
+}
+
+void SetChangedAt(const std::filesystem::path& file, const Moment& moment) {
+    if (!moment.day.IsSet()) return;
+    std::tm local{};
+    local.tm_year = moment.day.Year() - 1900;
+    local.tm_mon = static_cast<int>(moment.day.Month()) - 1;
+    local.tm_mday = static_cast<int>(moment.day.Day());
+    local.tm_sec = moment.second;
+    local.tm_isdst = -1;
+    const timespec time{std::mktime(&local), 0};
+    const std::array<timespec, 2> times{time, time};
+    static_cast<void>(utimensat(AT_FDCWD, file.c_str(), times.data(), 0));
 }
 
 void SetToday(std::optional<Date> day) {

@@ -16,16 +16,10 @@ namespace {
 
 constexpr std::string_view kSeparators = "/\\";
 
-fs::path Home() {
-    if (const char* home = std::getenv("HOME"); home != nullptr && *home != '\0') return home;
-    const passwd* user = getpwuid(getuid());
-    return user != nullptr ? user->pw_dir : "/";
-}
-
 // A base directory that isn't absolute counts as not given.
 fs::path BaseDirectory(const char* variable, const char* standard) {
     if (const char* given = std::getenv(variable); given != nullptr && *given == '/') return given;
-    return Home() / standard;
+    return HomeFolder() / standard;
 }
 
 bool Matches(std::string_view name, std::string_view pattern) {
@@ -74,6 +68,12 @@ bool FileExists(std::string_view path) {
 
 fs::path ExecutablePath() {
     return fs::read_symlink("/proc/self/exe");
+}
+
+fs::path HomeFolder() {
+    if (const char* home = std::getenv("HOME"); home != nullptr && *home != '\0') return home;
+    const passwd* user = getpwuid(getuid());
+    return user != nullptr ? user->pw_dir : "/";
 }
 
 fs::path ConfigHome() {

@@ -23,6 +23,9 @@ bool FileExists(std::string_view path);
 /// The full path of the running executable.
 std::filesystem::path ExecutablePath();
 
+/// The user's own folder.
+std::filesystem::path HomeFolder();
+
 /// `$XDG_CONFIG_HOME` or its default, and `$XDG_DATA_HOME` or its default.
 std::filesystem::path ConfigHome();
 std::filesystem::path DataHome();

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "platform/system/OutputFile.h"
+
+namespace SQLite {
+class Database;
+}
+
+namespace platform {
+
+/// Copies a database while other connections use it: the copy is the database as it was at one
+/// moment, made by the engine. Every failure is an Error with the reason.
+class DatabaseCopy {
+  public:
+    /// Fixes the moment.
+    explicit DatabaseCopy(const std::filesystem::path& database);
+    ~DatabaseCopy();
+    DatabaseCopy(const DatabaseCopy&) = delete;
+    DatabaseCopy& operator=(const DatabaseCopy&) = delete;
+
+    /// The length of the copy in bytes.
+    std::int64_t Size() const { return size_; }
+
+    using Progress = std::function<void(std::int64_t bytesDone)>;
+    /// Writes the copy into `out`, from `offset` on, which is the file's end. `progress` may be
+    /// empty; it is called every few megabytes, and what it throws ends the copying.
+    void WriteTo(OutputFile& out, std::int64_t offset, const Progress& progress) const;
+
+  private:
+    std::unique_ptr<SQLite::Database> source_;
+    std::int64_t pageSize_ = 0;
+    std::int64_t size_ = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+#include "platform/system/OutputFile.h"
+
+namespace platform {
+
+/// Lets the engine write a database into the middle of a file: byte 0 of the database is byte
+/// `offset` of `out`. While it lives the engine knows it as a file system by the name Name(), whose
+/// every file is this one.
+class OffsetFile {
+  public:
+    OffsetFile(OutputFile& out, std::int64_t offset);
+    ~OffsetFile();
+    OffsetFile(const OffsetFile&) = delete;
+    OffsetFile& operator=(const OffsetFile&) = delete;
+
+    const char* Name() const { return name_.c_str(); }
+
+    /// Writes what is still collected, and throws what went wrong while the engine wrote.
+    void Finish();
+
+    // What the engine asks of the file; false on failure.
+    bool Read(void* bytes, int count, std::int64_t at, int& got);
+    bool Write(const void* bytes, int count, std::int64_t at);
+    std::int64_t Size() const { return size_; }
+
+  private:
+    bool Flush();
+
+    OutputFile& out_;
+    std::int64_t offset_;
+    std::int64_t size_ = 0;
+    /// Pages that follow one another are written together.
+    std::string collected_;
+    std::int64_t collectedAt_ = 0;
+    std::exception_ptr failure_;
+    std::string name_;
+    sqlite3_vfs system_{};
+};
+
+} // namespace platform

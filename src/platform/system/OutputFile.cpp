@@ -1,0 +1,99 @@
+#include "platform/system/OutputFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <functional>
+#include <string>
+#include <system_error>
+
+#include "platform/system/FileProbe.h"
+#include "platform/values/Errors.h"
+
+namespace platform {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::function<void()>& Probe() {
+    static std::function<void()> probe;
+    return probe;
+}
+
+[[noreturn]] void FailToWrite(const fs::path& file) {
+    throw Error("Can't write " + file.string() + ": " + std::generic_category().message(errno) +
+                ".");
+}
+
+int OpenFor(const fs::path& file, OutputFile::Start start) {
+    const int flags = start == OutputFile::Start::New ? O_CREAT | O_EXCL : 0;
+    const int descriptor = open(file.c_str(), O_RDWR | O_CLOEXEC | flags, S_IRUSR | S_IWUSR);
+    if (descriptor < 0) FailToWrite(file);
+    return descriptor;
+}
+
+} // namespace
+
+void SetFileProbe(std::function<void()> probe) {
+    Probe() = std::move(probe);
+}
+
+void ProbeFile() {
+    if (Probe()) Probe()();
+}
+
+OutputFile::OutputFile(fs::path file, Start start)
+    : OutputFile(file, (ProbeFile(), OpenFor(file, start))) {
+    if (start == Start::Append && lseek(descriptor_, 0, SEEK_END) < 0) FailToWrite(file_);
+}
+
+OutputFile::OutputFile(fs::path file, int descriptor)
+    : file_(std::move(file)), descriptor_(descriptor) {}
+
+OutputFile::~OutputFile() {
+    if (descriptor_ >= 0) close(descriptor_);
+}
+
+std::int64_t OutputFile::Size() const {
+    struct stat status {};
+    if (fstat(descriptor_, &status) != 0) FailToWrite(file_);
+    return status.st_size;
+}
+
+void OutputFile::Write(std::string_view bytes) {
+    ProbeFile();
+    while (!bytes.empty()) {
+        const ssize_t written = write(descriptor_, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) FailToWrite(file_);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+void OutputFile::WriteAt(std::int64_t offset, std::string_view bytes) {
+    ProbeFile();
+    while (!bytes.empty()) {
+        const ssize_t written = pwrite(descriptor_, bytes.data(), bytes.size(), offset);
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) FailToWrite(file_);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+        offset += written;
+    }
+}
+
+void OutputFile::Sync() {
+    ProbeFile();
+    if (fsync(descriptor_) != 0) FailToWrite(file_);
+}
+
+void SyncFolder(const fs::path& folder) {
+    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) return;
+    fsync(descriptor);
+    close(descriptor);
+}
+
+} // namespace platform
