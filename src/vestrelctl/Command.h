@@ -30,5 +30,11 @@ void AddPost(CLI::App& line, const Options& options);
 void AddPay(CLI::App& line, const Options& options);
 void AddPayMortgage(CLI::App& line, const Options& options);
 void AddMerge(CLI::App& line, const Options& options);
+void AddExport(CLI::App& line, const Options& options);
+void AddExportText(CLI::App& line, const Options& options);
+void AddImportText(CLI::App& line, const Options& options);
+void AddBackup(CLI::App& line, const Options& options);
+void AddRestore(CLI::App& line);
+void AddCheck(CLI::App& line, const Options& options);
 
 } // namespace vestrelctl

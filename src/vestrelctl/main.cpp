@@ -100,6 +100,12 @@ int Run(int argc, char** argv) {
     vestrelctl::AddPay(line, options);
     vestrelctl::AddPayMortgage(line, options);
     vestrelctl::AddMerge(line, options);
+    vestrelctl::AddExport(line, options);
+    vestrelctl::AddExportText(line, options);
+    vestrelctl::AddImportText(line, options);
+    vestrelctl::AddBackup(line, options);
+    vestrelctl::AddRestore(line);
+    vestrelctl::AddCheck(line, options);
 
     try {
         line.parse(ArgumentsOf(argc, argv));

@@ -5,6 +5,7 @@
 #include <sqlite3.h>
 
 #include "platform/database/DatabaseFile.h"
+#include "platform/database/EngineFailure.h"
 #include "platform/database/OffsetFile.h"
 #include "platform/database/PreparedStatement.h"
 #include "platform/values/Errors.h"
@@ -40,7 +41,8 @@ DatabaseCopy::~DatabaseCopy() = default;
 void DatabaseCopy::WriteTo(OutputFile& out, std::int64_t offset, const Progress& progress) const {
     OffsetFile place(out, offset);
     try {
-        SQLite::Database copy("copy", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, 0, place.Name());
+        SQLite::Database copy("copy", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, 0,
+                              place.Name());
         copy.exec("PRAGMA page_size = " + std::to_string(pageSize_));
         copy.exec("PRAGMA journal_mode = OFF");
         copy.exec("PRAGMA synchronous = OFF");
@@ -55,7 +57,8 @@ void DatabaseCopy::WriteTo(OutputFile& out, std::int64_t offset, const Progress&
         }
         if (result != SQLITE_DONE) {
             place.Finish(); // the reason is there, if it was the writing
-            throw DatabaseError(sqlite3_errstr(result), result & 0xFF);
+            throw DatabaseError(DescribeEngineFailure(result, 0, sqlite3_errstr(result)),
+                                result & 0xFF);
         }
     } catch (const SQLite::Exception& error) {
         throw DatabaseError(error.what(), error.getErrorCode() & 0xFF);

@@ -27,9 +27,9 @@ class DatabaseReader {
     std::int64_t CountRows(std::string_view table);
 
     using Row = std::span<const Cell>;
-    /// Calls `work` with each row of a table, in the order of the table, with the cells in the order
-    /// of its fields. A row's bytes stay only until the call returns: the memory needed doesn't grow
-    /// with the table.
+    /// Calls `work` with each row of a table, in the order of the table, with the cells in the
+    /// order of its fields. A row's bytes stay only until the call returns: the memory needed
+    /// doesn't grow with the table.
     void ReadRows(std::string_view table, const std::function<void(Row row)>& work);
 
   private:

@@ -118,9 +118,8 @@ bool OffsetFile::Read(void* bytes, int count, std::int64_t at, int& got) {
 }
 
 bool OffsetFile::Write(const void* bytes, int count, std::int64_t at) {
-    const bool follows =
-        at == collectedAt_ + static_cast<std::int64_t>(collected_.size()) &&
-        collected_.size() < kWriteSize;
+    const bool follows = at == collectedAt_ + static_cast<std::int64_t>(collected_.size()) &&
+                         collected_.size() < kWriteSize;
     if (!follows) {
         if (!Flush()) return false;
         collectedAt_ = at;

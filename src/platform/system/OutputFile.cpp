@@ -90,7 +90,8 @@ void OutputFile::Sync() {
 }
 
 void SyncFolder(const fs::path& folder) {
-    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int descriptor =
+        open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0) return;
     fsync(descriptor);
     close(descriptor);

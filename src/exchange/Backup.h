@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "exchange/BackupConfig.h"
+
+namespace exchange {
+
+/// A step of a backup and what came of it.
+struct BackupLine {
+    std::string action;
+    std::string result; ///< "Success", "Warning", "Failed", or what a file's packing answered
+};
+
+enum class BackupOutcome {
+    Success, ///< everything is in the container
+    Partial, ///< the database is, another file is not
+    Failed,  ///< the database is not
+};
+
+struct BackupReport {
+    BackupOutcome outcome = BackupOutcome::Failed;
+    /// The word of the outcome and the sentence that says it.
+    std::string result;
+    std::string text;
+};
+
+/// What one run does otherwise than the configuration says; that stays as it is.
+struct BackupChoice {
+    std::optional<std::string> folder = {};
+    std::optional<bool> allFiles = {};
+};
+
+using BackupListener = std::function<void(const BackupLine& line)>;
+
+/// The configuration of a run with these choices.
+BackupConfig Chosen(const BackupConfig& config, const BackupChoice& choice);
+
+/// Makes a backup of the process's database as `config` and `choice` say: packs it into a new
+/// container in the folder, with the related files if wanted, deletes expired containers, and keeps
+/// today as the day of the last backup. The listener hears of each step; messages run in between.
+/// When the database can't be packed, no container is deleted and the day of the last backup stays
+/// as it was.
+BackupReport RunBackup(BackupConfig& config, const BackupChoice& choice,
+                       const BackupListener& listener);
+
+/// How many containers a backup would leave behind; 0 when it would delete even its own.
+std::size_t ContainersLeft(const BackupConfig& config);
+
+} // namespace exchange

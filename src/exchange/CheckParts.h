@@ -1,0 +1,32 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "exchange/CheckBooks.h"
+
+namespace exchange {
+
+// The parts of the check; each adds what it finds.
+void CheckFile(platform::Connection& books, std::vector<Finding>& findings);
+void CheckIds(platform::Connection& books, std::vector<Finding>& findings);
+void CheckLinks(platform::Connection& books, std::vector<Finding>& findings);
+void CheckBalances(platform::Connection& books, std::vector<Finding>& findings);
+void CheckPayments(platform::Connection& books, std::vector<Finding>& findings);
+
+/// The first few ids that a statement yields in its first column, and how many there are in all.
+struct FoundIds {
+    std::vector<std::string> first;
+    std::int64_t count = 0;
+
+    bool Any() const { return count > 0; }
+    /// "4711, 4712 and 5 more"
+    std::string List() const;
+};
+FoundIds FindIds(platform::Connection& books, std::string_view sql);
+
+/// "1 record" or "3 records", of whatever word is given.
+std::string Counted(std::int64_t count, std::string_view word);
+
+} // namespace exchange

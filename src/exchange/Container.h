@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/system/OutputFile.h"
+
+namespace exchange {
+
+// A backup container: entries one behind the other, each a header of fixed length and the file's
+// bytes.
+
+inline constexpr std::size_t kHeaderSize = 500;
+inline constexpr std::size_t kFilePathSize = 260;
+
+// The numbers are kept in the container.
+enum class FileType : std::int16_t { Database = 1, Document = 2, FileObject = 3 };
+
+struct EntryHeader {
+    std::string filePath;
+    std::int16_t fileType = 0;
+    std::int16_t format = 0;
+    std::int32_t fileSize = 0;
+    /// Of the first byte, counted from 1.
+    std::int32_t dataPosition = 0;
+    std::string fileDate;
+};
+
+/// The header's bytes; an Error for a path that is too long for its field.
+std::string HeaderBytes(const EntryHeader& header);
+EntryHeader ReadHeader(std::string_view bytes);
+
+/// The date and time of a file's last change as a header holds it.
+std::string FileDateText(const std::filesystem::path& file);
+
+/// Appends an entry with the bytes of `source` to the container, which is made if it is missing.
+/// False when that fails; `result` says why ("File not found", "Error 28, ..."), and "Success"
+/// otherwise. What was written of a failed entry stays.
+bool PackFile(const std::filesystem::path& container, const std::filesystem::path& source,
+              FileType type, std::string& result);
+
+/// The same for a database that may be in use: what goes in is the database as it is at one moment.
+/// `progress` hears of every few megabytes.
+bool PackDatabase(const std::filesystem::path& container, const std::filesystem::path& database,
+                  const std::function<void()>& progress, std::string& result);
+
+/// Waits until the container is on the disk; an Error when it can't be brought there.
+void SyncContainer(const std::filesystem::path& container);
+
+} // namespace exchange

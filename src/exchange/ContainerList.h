@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "exchange/Container.h"
+
+namespace exchange {
+
+/// What a reader finds of an entry.
+enum class EntryState {
+    Whole,
+    Cut,     ///< the container ends before the entry does
+    Damaged, ///< the header makes no sense; where the next entry begins isn't known
+};
+std::string_view StateWord(EntryState state);
+
+struct ContainerEntry {
+    EntryHeader header;
+    EntryState state = EntryState::Whole;
+    /// Where the header begins, counted from 0.
+    std::int64_t position = 0;
+};
+
+/// The entries of a container in order, each header held against the file's length. A cut or
+/// damaged one is the last. An Error when the container can't be read, or has no entry at all.
+std::vector<ContainerEntry> ListContainer(const std::filesystem::path& container);
+
+} // namespace exchange

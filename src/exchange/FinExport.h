@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "exchange/FinExportSettings.h"
+
+namespace exchange {
+
+/// How many transactions the export of an account takes; 0 on failure.
+std::int32_t CountForExport(std::int32_t idAccount, const ExportRange& range);
+
+struct FinExportRequest {
+    FinType type = FinType::Csv;
+    ExportRange range = {};
+    MarkExported mark = MarkExported::No;
+    LimitLength limit = LimitLength::No;
+    /// The accounts in the order in which they are written.
+    std::vector<std::int32_t> accounts = {};
+};
+
+/// What keeps a request from being carried out, with the title it is told under; both empty when
+/// nothing does.
+struct FinExportObjection {
+    std::string title;
+    std::string text;
+};
+FinExportObjection ObjectionTo(const FinExportRequest& request);
+
+/// Writes the entries of the accounts to `file`; an account whose transactions can't be read is
+/// skipped. Answers how many transactions were found, each counted once for each account.
+///
+/// The marks are one unit of work, committed when the file is whole and on the disk. On failure,
+/// which is thrown, there are neither marks nor a file; one that had the name before is kept.
+std::int64_t RunFinExport(const FinExportRequest& request, const std::filesystem::path& file);
+
+/// What is said after an export of `count` transactions.
+std::string ExportedText(std::int64_t count);
+
+} // namespace exchange

@@ -1,0 +1,184 @@
+#include <memory>
+#include <set>
+
+#include <fmt/core.h>
+
+#include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "exchange/ImportCheck.h"
+#include "exchange/KeepCopy.h"
+#include "exchange/Port.h"
+#include "exchange/PortFile.h"
+#include "platform/database/Connection.h"
+#include "platform/database/RowWriter.h"
+#include "platform/database/dialect/Compiler.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/values/Errors.h"
+#include "platform/values/Text.h"
+
+namespace exchange {
+
+namespace {
+
+constexpr int kRowsBetweenProgress = 1000;
+constexpr std::string_view kLatin1Note =
+    "Note: the file is not UTF-8; its letters are read as Latin-1.\n";
+
+/// Adds the records of a checked file to the database.
+class Importer {
+  public:
+    Importer(ImportRows rows, const ImportCheck& check, const PortWatcher& watcher)
+        : rows_(rows), check_(check), watcher_(watcher) {}
+
+    void WriteLine(const PortReader& reader) {
+        switch (reader.Marker()) {
+            case PortMarker::Table:
+                OpenTable(reader.Items().front().text);
+                break;
+            case PortMarker::Fields:
+                writer_ = std::make_unique<platform::RowWriter>(core::App().Connection, table_,
+                                                                names_ = TextsOf(reader.Items()));
+                break;
+            case PortMarker::Record:
+                WriteRecord(reader.Items());
+                break;
+            case PortMarker::None:
+                break;
+        }
+    }
+
+  private:
+    void OpenTable(std::string_view name) {
+        writer_.reset();
+        table_ = name;
+        const bool isConfiguration = platform::EqualIgnoringCase(table_, kConfigurationTable);
+        // A table that comes twice in the file keeps the records of both its groups; only of the
+        // settings there must be no second row.
+        const bool isFirst = emptied_.insert(platform::ToUpper(table_)).second;
+        if (isConfiguration || (rows_ == ImportRows::Overwrite && isFirst)) {
+            core::App().Connection.Execute("DELETE * FROM " + platform::dialect::QuoteName(table_));
+        }
+    }
+
+    void WriteRecord(const std::vector<PortItem>& items) {
+        cells_.resize(items.size());
+        scratch_.resize(std::max(scratch_.size(), items.size()));
+        for (std::size_t i = 0; i < items.size(); ++i)
+            cells_[i] = CellOf(items[i], i);
+        writer_->Add(cells_);
+        if (++records_ % kRowsBetweenProgress == 0) watcher_.Progress(records_, check_.records);
+    }
+
+    platform::Cell CellOf(const PortItem& item, std::size_t field) {
+        try {
+            return CellOfItem(item, writer_->Types()[field], scratch_[field]);
+        } catch (const platform::Error& failure) {
+            throw platform::FieldError(
+                fmt::format("the field {} of {} can't hold '{}': {}", names_[field], table_,
+                            platform::LeftCharacters(item.text, 50), failure.what()));
+        }
+    }
+
+    ImportRows rows_;
+    const ImportCheck& check_;
+    const PortWatcher& watcher_;
+    std::string table_;
+    std::vector<std::string> names_;
+    std::set<std::string> emptied_;
+    std::unique_ptr<platform::RowWriter> writer_;
+    std::vector<platform::Cell> cells_;
+    std::vector<std::string> scratch_;
+    std::int64_t records_ = 0;
+};
+
+/// Writes all records, or those before the first one that can't be written.
+ImportOutcome WriteRecords(const std::filesystem::path& file, ImportRows rows,
+                           const ImportCheck& check, const PortWatcher& watcher) {
+    ImportOutcome outcome;
+    platform::UnitOfWork unit(core::App().Connection);
+    PortReader reader(file, check.letters);
+    {
+        Importer importer(rows, check, watcher);
+        try {
+            while (reader.NextLine())
+                importer.WriteLine(reader);
+        } catch (const platform::Error& failure) {
+            outcome = {failure.what(), reader.Number()};
+        }
+    }
+    try {
+        unit.Commit();
+    } catch (const platform::Error&) {
+        // The engine gave the unit up with the failure that is told already.
+        if (outcome.Succeeded()) throw;
+        outcome.error += " Nothing was imported.";
+    }
+    return outcome;
+}
+
+/// Any record may have come in, and the settings too.
+void TellScreens() {
+    for (std::int16_t kind = core::kAccount; kind <= core::kRentLog; ++kind)
+        core::NotifyAll(kind, core::kRecordsChanged, 0);
+}
+
+void TellError(const ImportOutcome& outcome, ImportMessages messages, const PortWatcher& watcher,
+               const std::string& note) {
+    if (messages == ImportMessages::Show) {
+        platform::TheDialogs().ShowMessage(
+            "Import Error", "An error occured while reading the import file, " + outcome.error,
+            platform::Icon::Exclamation);
+    }
+    watcher.Status(fmt::format("Status: An error occured with the import file at line {}\n{}",
+                               outcome.line, note));
+}
+
+std::string TestText(const ImportCheck& check, const std::string& note) {
+    return fmt::format(
+        "Status: Import test succeeded ...\nTotal Tables  = {}\n"
+        "Total Records  = {}\nInvalid lines  = {}\n{}",
+        check.tables, check.records, check.invalidLines, note);
+}
+
+std::string EndText(const ImportCheck& check, const std::string& note) {
+    return fmt::format("Status: Import completed.\nTotal Tables  = {}\nTotal Records  = {}\n{}",
+                       check.tables, check.records, note);
+}
+
+} // namespace
+
+ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode, ImportRows rows,
+                             ImportMessages messages, const PortWatcher& watcher) {
+    watcher.Status("Starting Import ...");
+    watcher.Progress(0, 0);
+    const ImportCheck check = CheckImport(file, watcher);
+    std::string note(check.letters == PortReader::Letters::Latin1 ? kLatin1Note : "");
+    ImportOutcome outcome = check.outcome;
+    if (outcome.Succeeded() && mode == ImportMode::Test) {
+        watcher.Progress(1, 1);
+        watcher.Status(TestText(check, note));
+        return outcome;
+    }
+    if (outcome.Succeeded()) {
+        try {
+            if (rows == ImportRows::Overwrite || check.hasConfiguration) {
+                note += fmt::format("The database as it was is kept in {}\n",
+                                    KeepCopy(CopyReason::Import).string());
+            }
+            outcome = WriteRecords(file, rows, check, watcher);
+        } catch (const platform::Error& failure) {
+            outcome.error = failure.what();
+        }
+        TellScreens();
+    }
+    if (!outcome.Succeeded()) {
+        TellError(outcome, messages, watcher, note);
+        return outcome;
+    }
+    watcher.Progress(1, 1);
+    watcher.Status(EndText(check, note));
+    return outcome;
+}
+
+} // namespace exchange
