@@ -1,5 +1,7 @@
 #include "core/Startup.h"
 
+#include <exception>
+
 #include "core/Configuration.h"
 #include "core/Globals.h"
 #include "core/Session.h"
@@ -7,9 +9,24 @@
 
 namespace core {
 
-bool OpenBooks() {
+namespace {
+
+bool OpenToRead() {
+    App().OpenFault.clear();
+    try {
+        App().Connection.Open(App().DbFile, platform::OpenMode::ReadOnly);
+        return true;
+    } catch (const std::exception& error) {
+        App().OpenFault = error.what();
+        return false;
+    }
+}
+
+} // namespace
+
+bool OpenBooks(BooksUse use) {
     std::string path;
-    const bool isOpen = OpenDatabase(App().Connection, path);
+    const bool isOpen = use == BooksUse::Read ? OpenToRead() : OpenDatabase(App().Connection, path);
     LoadBooks();
     return isOpen;
 }

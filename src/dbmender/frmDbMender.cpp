@@ -6,6 +6,7 @@
 #include <array>
 
 #include "core/RegistryKeys.h"
+#include "exchange/screens/frmRestore.h"
 #include "platform/dialogs/Choosers.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Icons.h"
@@ -50,6 +51,7 @@ frmDbMender::frmDbMender(MenderLine line, StartProgram start, QWidget* parent)
     connect(ui_->txtFolder, &QLineEdit::textChanged, this, &frmDbMender::ShowObjection);
     connect(ui_->cmdBrowse, &QPushButton::clicked, this, &frmDbMender::Browse);
     connect(ui_->cmdMend, &QPushButton::clicked, this, &frmDbMender::Mend);
+    connect(ui_->cmdRestore, &QPushButton::clicked, this, &frmDbMender::Restore);
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmDbMender::reject);
 }
 
@@ -135,11 +137,30 @@ void frmDbMender::Mend() {
     StartAgain();
 }
 
-void frmDbMender::StartAgain() {
-    std::string program = line_.appStart;
-    if (program.empty()) {
-        program = (platform::ExecutablePath().parent_path() / "kestrom").string();
+std::string frmDbMender::Program() const {
+    if (!line_.appStart.empty()) return line_.appStart;
+    return (platform::ExecutablePath().parent_path() / "kestrom").string();
+}
+
+void frmDbMender::Restore() {
+    (new exchange::screens::frmRestore(this))->Setup([this](const std::filesystem::path& folder) {
+        OpenRestored(folder);
+    });
+}
+
+void frmDbMender::OpenRestored(const std::filesystem::path& folder) {
+    ui_->optUseExisting->setChecked(true);
+    ui_->txtFolder->setText(ToScreen(folder.string()));
+    const std::string program = Program();
+    if (!platform::FileExists(program) ||
+        !start_(program, {"--data", folder.string(), "--read-only"})) {
+        platform::TheDialogs().ShowMessage(kTitle, program + " can't be started.",
+                                           platform::Icon::Exclamation);
     }
+}
+
+void frmDbMender::StartAgain() {
+    const std::string program = Program();
     std::vector<std::string> arguments;
     if (line_.dbName != core::kDefaultDatabase) arguments.push_back("/altdb=" + line_.dbName);
     if (!platform::FileExists(program) || !start_(program, arguments)) {

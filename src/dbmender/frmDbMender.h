@@ -47,8 +47,12 @@ class frmDbMender : public QDialog {
     void ShowObjection();
     void MakeRoom();
     void Browse();
+    void Restore();
+    /// Opens what was restored to be read only, and proposes to use it.
+    void OpenRestored(const std::filesystem::path& folder);
     void Mend();
     void StartAgain();
+    std::string Program() const;
     void SetWorking(bool working);
     Choice Chosen() const;
     QRadioButton& ButtonOf(Remedy remedy) const;

@@ -98,6 +98,13 @@ bool IsBackupDue() {
     }
 }
 
+std::string BackupNotice() {
+    if (!IsBackupDue()) return {};
+    BackupConfig config;
+    LoadBackupConfig(config);
+    return "Backup overdue. " + LastBackupText(config);
+}
+
 std::string LastBackupText(const BackupConfig& config) {
     return "Last Backup: " +
            (config.lastBackup.IsSet() ? config.lastBackup.ToText() : std::string("Never"));

@@ -44,6 +44,10 @@ bool SaveBackupConfig(const BackupConfig& config);
 /// makes it false.
 bool IsBackupDue();
 
+/// What the user is reminded of while a backup is overdue: when the last one was made. Empty when
+/// none is due.
+std::string BackupNotice();
+
 /// "Last Backup: 05/01/2024", or "Last Backup: Never".
 std::string LastBackupText(const BackupConfig& config);
 

@@ -126,9 +126,7 @@ bool ExportDatabase(std::span<const std::string> tables, const PortWatcher& watc
         return false;
     }
     const auto file = platform::TheChoosers().SaveFile(
-        {"Select Export File",
-         "database.csv",
-         {{"Database Export File (database.csv)", "database.csv"}}});
+        {"Select Export File", "database.csv", {{"Database Export File", "database.csv"}}});
     if (!file || file->empty()) {
         SayError("The export was cancelled due to no file name being specified.");
         return false;

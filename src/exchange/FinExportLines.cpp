@@ -15,10 +15,9 @@ namespace {
 constexpr std::size_t kLimit = 15;
 
 constexpr std::array<FinFormat, 3> kFormats = {
-    {{"csv", "CSV - Comma Delimited (*.csv)",
-      "Date,CheckNum,Account,Name,Category,Description,Amount\r\n"},
-     {"qif", "QIF - Quicken Interchange Format (*.qif)", "\r\n"},
-     {"iif", "IIF - QuickBooks Import/Export Interchange File (*.iif)",
+    {{"csv", "CSV - Comma Delimited", "Date,CheckNum,Account,Name,Category,Description,Amount\r\n"},
+     {"qif", "QIF - Quicken Interchange Format", "\r\n"},
+     {"iif", "IIF - QuickBooks Import/Export Interchange File",
       "!TRNS\tTRNSTYPE\tDATE\tACCNT\tNAME\tCLASS\tAMOUNT\tDOCNUM\tMEMO\tCLEAR\r\n"
       "!SPL\tTRNSTYPE\tDATE\tACCNT\tCLASS\tAMOUNT\tMEMO\r\n"
       "!ENDTRNS\r\n"}}};

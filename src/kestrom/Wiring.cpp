@@ -13,6 +13,9 @@
 #include "core/forms/frmHelp.h"
 #include "documents/ShowPictures.h"
 #include "documents/screens/frmDocMgmt.h"
+#include "exchange/screens/frmCheck.h"
+#include "exchange/screens/frmFinExport.h"
+#include "exchange/screens/frmPort.h"
 #include "kestrom/Reports.h"
 #include "leases/screens/frmLease.h"
 #include "leases/screens/frmLeaseWizard.h"
@@ -164,6 +167,9 @@ shell::screens::Commands MenuCommands() {
         (new leases::screens::frmRentPayment)
             ->Setup(0, selection.id, leases::RentClass::Rent, leases::LeaseUpdate::Yes);
     });
+    commands.Add(QStringLiteral("mnuFinExport"), Opening<exchange::screens::frmFinExport>());
+    commands.Add(QStringLiteral("mnuPort"), Opening<exchange::screens::frmPort>());
+    commands.Add(QStringLiteral("mnuCheck"), Opening<exchange::screens::frmCheck>());
     commands.Add(QStringLiteral("mnuAutoEvents"), Opening<books::screens::frmAutoEventList>());
     commands.Add(QStringLiteral("mnuTransCategory"), Opening<books::screens::frmTransCategory>());
     commands.Add(QStringLiteral("mnuPhotoReel"), [](const shell::screens::Selection& selection) {

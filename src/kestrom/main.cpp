@@ -8,6 +8,8 @@
 #include "core/Preferences.h"
 #include "core/Session.h"
 #include "core/Startup.h"
+#include "exchange/BackupConfig.h"
+#include "exchange/screens/frmBackup.h"
 #include "kestrom/Application.h"
 #include "kestrom/Reports.h"
 #include "kestrom/Start.h"
@@ -29,7 +31,7 @@ namespace {
 
 constexpr int kWrongUsage = 2;
 
-shell::screens::WindowServices Services() {
+shell::screens::WindowServices Services(const shell::CommandLine& line) {
     shell::screens::WindowServices services;
     services.commands = kestrom::MenuCommands();
     services.hasEditor = core::HasEditor;
@@ -39,6 +41,14 @@ shell::screens::WindowServices Services() {
             reports::RunReport(reports::kScratchReport);
         };
     }
+    // Books that are only looked at aren't backed up either.
+    if (!line.readOnly) {
+        services.backupNotice = exchange::BackupNotice;
+        services.end.isBackupWanted = exchange::IsBackupDue;
+    }
+    services.end.startBackup = [] {
+        (new exchange::screens::frmBackup)->Setup([] { QCoreApplication::quit(); });
+    };
     services.end.endProcess = [] { QCoreApplication::quit(); };
     return services;
 }
@@ -61,12 +71,15 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
     const platform::qt::QuitRequests requests;
     QObject::connect(&requests, &platform::qt::QuitRequests::QuitAsked, &application, [&] {
         endAsked = true;
-        if (window) window->EndUnasked();
+        if (!window) return;
+        // The backup screen may stand there after the window has ended.
+        if (window->HasEnded()) QCoreApplication::quit();
+        window->EndUnasked();
     });
 
     core::LoadPreferences();
     kestrom::FindBooks(line);
-    core::OpenBooks();
+    core::OpenBooks(line.readOnly ? core::BooksUse::Read : core::BooksUse::Keep);
 
     std::optional<shell::screens::frmSplash> splash;
     if (core::Preferences().ShowSplash) {
@@ -83,7 +96,7 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
         return 0;
     }
 
-    window = std::make_unique<shell::screens::frmKestrom>(Services());
+    window = std::make_unique<shell::screens::frmKestrom>(Services(line));
     QObject::connect(&instance, &platform::qt::SingleInstance::ShowAsked, window.get(),
                      &shell::screens::frmKestrom::ComeToFront);
     window->Setup(std::move(digest));

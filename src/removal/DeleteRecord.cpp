@@ -1,6 +1,7 @@
 #include "removal/DeleteRecord.h"
 
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/Globals.h"
@@ -51,15 +52,20 @@ void RemoveUnitsOfBuilding(Removal& removal, std::int32_t idBuilding) {
     removal.Note(core::kUnit, kChildrenRemoved);
 }
 
-/// A building can't be without a unit.
-void RemoveBuildingOfLastUnit(Removal& removal, std::int32_t idUnit) {
+/// The building that can't be without this unit, 0 if it has others.
+std::int32_t BuildingOfLastUnit(std::int32_t idUnit) {
     const std::int32_t idBuilding = core::GetUnitBuilding(idUnit);
-    if (idBuilding == 0) return;
+    if (idBuilding == 0) return 0;
     const auto others = core::LookUp(
         "SELECT Count(*) AS [Result] FROM Unit "
         "WHERE (IdBuilding = ?) AND (IdUnit <> ?) ",
         {idBuilding, idUnit});
-    if (!others || others->AsLong() == 0) removal.Remove(core::kBuilding, idBuilding);
+    return !others || others->AsLong() == 0 ? idBuilding : 0;
+}
+
+void RemoveBuildingOfLastUnit(Removal& removal, std::int32_t idUnit) {
+    const std::int32_t idBuilding = BuildingOfLastUnit(idUnit);
+    if (idBuilding != 0) removal.Remove(core::kBuilding, idBuilding);
 }
 
 void RemoveWhatGoesFirst(Removal& removal, std::int16_t kind, std::int32_t id) {
@@ -86,6 +92,17 @@ void RemoveWhatGoesFirst(Removal& removal, std::int16_t kind, std::int32_t id) {
     }
 }
 
+BeforeBuilding& StepBeforeBuilding() {
+    static BeforeBuilding step;
+    return step;
+}
+
+bool MayGo(std::int16_t kind, std::int32_t id) {
+    const bool isBuilding =
+        kind == core::kBuilding || (kind == core::kUnit && BuildingOfLastUnit(id) != 0);
+    return !isBuilding || !StepBeforeBuilding() || StepBeforeBuilding()();
+}
+
 bool Agreed(std::int16_t kind, std::int32_t id) {
     const auto question = QuestionBefore(kind, id);
     if (!question) return true;
@@ -96,6 +113,10 @@ bool Agreed(std::int16_t kind, std::int32_t id) {
 
 } // namespace
 
+void SetBeforeBuilding(BeforeBuilding step) {
+    StepBeforeBuilding() = std::move(step);
+}
+
 bool AgreedToDelete(std::int16_t kind, std::int32_t id) {
     return !core::Preferences().ConfirmDelete || Agreed(kind, id);
 }
@@ -105,6 +126,7 @@ bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm, Tell tell
     if (confirm == Confirm::Ask && !AgreedToDelete(kind, id)) return false;
     // Asked before the work begins, so that no unit of work is open while the user thinks.
     const Charges charges = AskAboutCharges(kind, id);
+    if (!MayGo(kind, id)) return false;
     RunRemoval(tell, [&](Removal& removal) {
         RemoveWhatGoesFirst(removal, kind, id);
         removal.Remove(kind, id, charges);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 namespace removal {
 
@@ -18,6 +19,11 @@ enum class Tell { Screens, Nobody };
 /// midway are the books as before.
 bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm = Confirm::Ask,
                   Tell tell = Tell::Screens);
+
+/// Called before a building is removed, after the user has agreed; false keeps the building.
+using BeforeBuilding = std::function<bool()>;
+/// Gives the process this step; an empty one takes it away.
+void SetBeforeBuilding(BeforeBuilding step);
 
 /// Asks as DeleteRecord does, for a routine that removes the record as a part of its own work; true
 /// if the user agrees, or isn't to be asked.

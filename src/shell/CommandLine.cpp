@@ -8,6 +8,10 @@ CommandLine ReadCommandLine(std::span<const char* const> words) {
     CommandLine line;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::string_view word = words[i];
+        if (word == "--read-only") {
+            line.readOnly = true;
+            continue;
+        }
         if (word != "--data" && word != "--today") {
             if (!line.rest.empty()) line.rest += ' ';
             line.rest += word;

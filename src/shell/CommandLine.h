@@ -14,13 +14,16 @@ struct CommandLine {
     std::optional<std::string> data;
     /// The day to take for today.
     std::optional<platform::Date> today;
+    /// Whether the books are opened to be read only.
+    bool readOnly = false;
     /// All else as it was written, which is where the "/name=value" switches stand.
     std::string rest;
     /// What is wrong with it; empty when it can be used.
     std::string fault;
 };
 
-/// Reads the words behind the program's name: "--data DIR", "--today mm/dd/yyyy", and the rest.
+/// Reads the words behind the program's name: "--data DIR", "--today mm/dd/yyyy",
+/// "--read-only", and the rest.
 CommandLine ReadCommandLine(std::span<const char* const> words);
 
 } // namespace shell

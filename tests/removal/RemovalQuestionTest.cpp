@@ -119,4 +119,25 @@ TEST_F(RemovalQuestions, AreNotAskedAgainstThePreferenceButAPaymentAsksItsOwn) {
     EXPECT_EQ("Confirm Removal", dialogs.Heard()[0].title);
 }
 
+TEST_F(RemovalQuestions, TakeTheirStepBeforeABuildingGoes) {
+    int steps = 0;
+    bool mayGo = false;
+    removal::SetBeforeBuilding([&] {
+        ++steps;
+        return mayGo;
+    });
+    // Unit 200 has a neighbour, 202 is the only one of its building.
+    EXPECT_FALSE(DeleteRecord(core::kBuilding, 100, Confirm::DontAsk));
+    EXPECT_FALSE(DeleteRecord(core::kUnit, 202, Confirm::DontAsk));
+    EXPECT_EQ(steps, 2);
+    EXPECT_THAT(Changes(), IsEmpty());
+    EXPECT_TRUE(DeleteRecord(core::kUnit, 200, Confirm::DontAsk));
+    EXPECT_EQ(steps, 2);
+    mayGo = true;
+    EXPECT_TRUE(DeleteRecord(core::kBuilding, 100, Confirm::DontAsk));
+    EXPECT_EQ(steps, 3);
+    removal::SetBeforeBuilding({});
+    EXPECT_TRUE(DeleteRecord(core::kBuilding, 101, Confirm::DontAsk));
+}
+
 } // namespace

@@ -98,6 +98,8 @@ TEST(CommandLine, PartsTheOptionsFromTheSwitches) {
     EXPECT_EQ(line.data, "/home/me/books");
     EXPECT_EQ(line.today, platform::Date(2024, 2, 29));
     EXPECT_EQ(line.rest, "/expert /altdb=second house");
+    EXPECT_FALSE(line.readOnly);
+    EXPECT_TRUE(read({"--data", "/restored", "--read-only"}).readOnly);
     EXPECT_EQ(read({}).rest, "");
     EXPECT_EQ(read({"--data"}).fault, "--data needs a value");
     EXPECT_EQ(read({"--today", "02/30/2024"}).fault,

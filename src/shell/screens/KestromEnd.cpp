@@ -42,6 +42,7 @@ void frmKestrom::closeEvent(QCloseEvent* event) {
 
 void frmKestrom::EndUnasked() {
     if (hasEnded_) return;
+    endsUnasked_ = true;
     if (IsBusy()) {
         QTimer::singleShot(kTryAgainMs, this, &frmKestrom::EndUnasked);
         return;
@@ -64,7 +65,8 @@ void frmKestrom::End() {
     };
     steps.unloadForms = [] { core::forms::CloseAllForms(); };
     steps.isBackupWanted = [this, isDue = services_.end.isBackupWanted] {
-        return IsBackupOnExit() || (isDue && isDue());
+        // Nobody may be there to press Start when the session of the desktop ends.
+        return !endsUnasked_ && (IsBackupOnExit() || (isDue && isDue()));
     };
     ShutDown(steps);
 }

@@ -37,6 +37,7 @@ frmKestrom::frmKestrom(WindowServices services)
       ui_(std::make_unique<Ui::frmKestrom>()),
       categories_(new QActionGroup(this)),
       narrowed_(new QLabel(this)),
+      backup_(new QLabel(this)),
       tmr_(new QTimer(this)),
       homeRefresh_(new QTimer(this)),
       selectedDb_(core::kAlert),
@@ -50,6 +51,8 @@ frmKestrom::frmKestrom(WindowServices services)
     ConnectCategories();
     ConnectCommands();
     ui_->statusBar->addPermanentWidget(narrowed_);
+    backup_->setObjectName(QStringLiteral("lblBackup"));
+    ui_->statusBar->addPermanentWidget(backup_);
     tmr_->setObjectName(QStringLiteral("tmr"));
     connect(tmr_, &QTimer::timeout, this, &frmKestrom::Tick);
     homeRefresh_->setSingleShot(true);
@@ -88,6 +91,7 @@ void frmKestrom::Setup(RunDigest digest) {
 void frmKestrom::Initialise() {
     ui_->mnuRestoreTransCategories->setVisible(core::App().Expert);
     home_->ShowDigest(digest_);
+    ShowBackupNotice();
 }
 
 void frmKestrom::SetSelectedDb(std::int16_t kind) {
@@ -169,6 +173,12 @@ void frmKestrom::ShowStatus() {
     narrowed_->setText(isList ? view_->NarrowedStatus() : QString());
 }
 
+void frmKestrom::ShowBackupNotice() {
+    const std::string notice = services_.backupNotice ? services_.backupNotice() : std::string();
+    backup_->setText(ToScreen(notice));
+    backup_->setVisible(!notice.empty());
+}
+
 void frmKestrom::RefreshHome() {
     if (hasEnded_) return;
     core::forms::Guarded([this] { home_->Refresh(); });
@@ -180,6 +190,7 @@ void frmKestrom::Tick() {
         const QScopedValueRollback updating(updating_, true);
         RunBooks(digest_);
         home_->ShowDigest(digest_);
+        ShowBackupNotice();
         if (selectedDb_ == core::kAlert) RefreshHome();
     });
 }

@@ -32,6 +32,8 @@ struct WindowServices {
     std::function<bool(std::int16_t kind)> hasEditor;
     /// Opens a report definition in the viewer; without it nothing can be printed.
     std::function<void(const std::filesystem::path& definition)> viewReport;
+    /// What the status bar says of an overdue backup; empty for nothing. May be missing.
+    std::function<std::string()> backupNotice;
     /// The steps of the end that aren't the window's own. Without startBackup there is no backup.
     ShutDownSteps end;
 };
@@ -80,6 +82,7 @@ class frmKestrom : public QMainWindow {
     void Initialise();
     void ShowExtraItems();
     void ShowStatus();
+    void ShowBackupNotice();
     void RefreshHome();
     bool IsBusy() const;
     void End();
@@ -97,6 +100,7 @@ class frmKestrom : public QMainWindow {
     HomePage* home_;
     ViewPanel* view_;
     QLabel* narrowed_;
+    QLabel* backup_;
     QTimer* tmr_;
     QTimer* homeRefresh_;
     RunDigest digest_;
@@ -105,6 +109,7 @@ class frmKestrom : public QMainWindow {
     bool loading_ = false;
     bool updating_ = false;
     bool hasEnded_ = false;
+    bool endsUnasked_ = false;
     core::NotifyToken token_;
 };
 

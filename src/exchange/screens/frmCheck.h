@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+
+#include "core/forms/Form.h"
+#include "exchange/CheckBooks.h"
+
+namespace Ui {
+class frmCheck;
+}
+
+namespace exchange::screens {
+
+/// Checks the database and the books, and shows what was found.
+class frmCheck : public core::forms::Form {
+    Q_OBJECT
+
+  public:
+    explicit frmCheck(QWidget* parent = nullptr);
+    ~frmCheck() override;
+
+    /// Shows the screen and checks.
+    void Setup();
+
+  protected:
+    bool MayClose() override { return !busy_; }
+
+  private:
+    void Check();
+    void Show(const std::vector<Finding>& findings);
+
+    std::unique_ptr<Ui::frmCheck> ui_;
+    bool busy_ = false;
+};
+
+} // namespace exchange::screens

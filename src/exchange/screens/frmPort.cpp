@@ -1,0 +1,167 @@
+#include "exchange/screens/frmPort.h"
+
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScopedValueRollback>
+
+#include "core/Globals.h"
+#include "core/Session.h"
+#include "core/binding/Tags.h"
+#include "core/binding/Wiring.h"
+#include "core/forms/ErrorRoll.h"
+#include "core/forms/Help.h"
+#include "platform/dialogs/Choosers.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/qt/Text.h"
+#include "ui_frmPort.h"
+
+namespace exchange::screens {
+
+using platform::qt::FromScreen;
+using platform::qt::ToScreen;
+
+frmPort::frmPort(QWidget* parent) : Form(parent), ui_(std::make_unique<Ui::frmPort>()) {
+    ui_->setupUi(this);
+    core::binding::WireControls(*this);
+    ui_->optAppend->setChecked(true);
+    core::binding::SetTag(*ui_->cmdSelectAll, "SELALL");
+    core::binding::SetTag(*ui_->cmdSelectNone, "SELNONE");
+    core::binding::SetTag(*ui_->cmdTest, "TEST");
+    Connect();
+}
+
+frmPort::~frmPort() = default;
+
+void frmPort::Connect() {
+    ui_->txtImportFile->installEventFilter(this);
+    connect(ui_->cmdSelectAll, &QPushButton::clicked, ui_->lstTables, &QListWidget::selectAll);
+    connect(ui_->cmdSelectNone, &QPushButton::clicked, ui_->lstTables,
+            &QListWidget::clearSelection);
+    connect(ui_->cmdBrowse, &QPushButton::clicked, this, &frmPort::ChooseFile);
+    connect(ui_->cmdTest, &QPushButton::clicked, this, [this] { Import(ImportMode::Test); });
+    connect(ui_->tabPort, &QTabWidget::currentChanged, this, &frmPort::TabChanged);
+    core::forms::ActionBar& bar = *ui_->cmdAction;
+    bar.Cancel().hide();
+    bar.Close().setToolTip(tr("Close (Esc)"));
+    bar.Close().setDefault(false);
+    connect(&bar, &core::forms::ActionBar::ApplyClicked, this, &frmPort::Execute);
+    connect(&bar, &core::forms::ActionBar::CloseClicked, this, &QWidget::close);
+    connect(&bar, &core::forms::ActionBar::HelpClicked, this,
+            [this] { core::forms::ShowHelp(*this); });
+}
+
+void frmPort::Setup() {
+    ui_->tabPort->setCurrentIndex(0);
+    TabChanged();
+    core::forms::Guarded([this] { ShowTables(); });
+    Open();
+}
+
+void frmPort::ShowTables() {
+    const core::TableTotals totals = core::ListTables(core::App().Connection);
+    ui_->lstTables->clear();
+    for (const std::string& name : totals.names)
+        ui_->lstTables->addItem(ToScreen(name));
+    ui_->txtStatus->setPlainText(
+        tr("Status: Database configuration read.\nTotal Tables = %1\nTotal Fields = %2\n"
+           "Total Records = %3\n")
+            .arg(totals.tables)
+            .arg(totals.fields)
+            .arg(totals.records));
+}
+
+void frmPort::TabChanged() {
+    const bool isExport = ui_->tabPort->currentIndex() == 0;
+    QPushButton& execute = ui_->cmdAction->Apply();
+    core::binding::SetTag(execute, isExport ? "EXPORT" : "IMPORT");
+    execute.setText(isExport ? tr("Ex&port") : tr("Im&port"));
+    execute.setToolTip(isExport ? tr("Choose a file and write the selected tables to it")
+                                : tr("Check the file, then write its records to the database"));
+}
+
+/// The box is filled by choosing a file.
+bool frmPort::eventFilter(QObject* watched, QEvent* event) {
+    const bool isClick = event->type() == QEvent::MouseButtonRelease &&
+                         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (watched == ui_->txtImportFile && isClick) {
+        ChooseFile();
+        return true;
+    }
+    return Form::eventFilter(watched, event);
+}
+
+void frmPort::ChooseFile() {
+    const auto file = platform::TheChoosers().OpenFile(
+        {"Select Import File",
+         FromScreen(ui_->txtImportFile->text()),
+         {{"Database Export File", "*.csv"}, {"All Files", "*.*"}}});
+    if (file) ui_->txtImportFile->setText(ToScreen(*file));
+}
+
+bool frmPort::MayClose() {
+    return !busy_;
+}
+
+void frmPort::RunAlone(const std::function<void()>& work) {
+    if (busy_) return;
+    const QScopedValueRollback busy(busy_, true);
+    const auto enable = [this](bool on) {
+        ui_->tabPort->setEnabled(on);
+        ui_->cmdAction->setEnabled(on);
+    };
+    enable(false);
+    core::forms::Guarded(work);
+    enable(true);
+}
+
+// While records are written no window messages run, so what is shown is painted at once.
+PortWatcher frmPort::Watcher() {
+    return {.status =
+                [this](std::string_view lines) {
+                    ui_->txtStatus->setPlainText(ToScreen(std::string(lines)));
+                    ui_->txtStatus->repaint();
+                },
+            .progress =
+                [this](int percent) {
+                    if (ui_->prgPort->value() == percent) return;
+                    ui_->prgPort->setValue(percent);
+                    ui_->prgPort->repaint();
+                }};
+}
+
+void frmPort::Execute() {
+    if (ui_->tabPort->currentIndex() == 0) {
+        RunAlone([this] { Export(); });
+    } else {
+        Import(ImportMode::Write);
+    }
+}
+
+/// In the order of the list, in whatever order they were selected.
+void frmPort::Export() {
+    std::vector<std::string> tables;
+    for (int row = 0; row < ui_->lstTables->count(); ++row) {
+        const QListWidgetItem& item = *ui_->lstTables->item(row);
+        if (item.isSelected()) tables.push_back(FromScreen(item.text()));
+    }
+    ExportDatabase(tables, Watcher());
+}
+
+void frmPort::Import(ImportMode mode) {
+    const bool overwrites = mode == ImportMode::Write && ui_->optOverwrite->isChecked();
+    if (overwrites &&
+        !platform::TheDialogs().AskYesNo(
+            "Confirm Import",
+            "The rows of each table in the file replace those in the database. A copy of the "
+            "database is kept.\n\nDo you wish to continue?",
+            platform::Icon::Question)) {
+        return;
+    }
+    RunAlone([this, mode, overwrites] {
+        ImportDatabase(FromScreen(ui_->txtImportFile->text()), mode,
+                       overwrites ? ImportRows::Overwrite : ImportRows::Append,
+                       ImportMessages::Show, Watcher());
+    });
+}
+
+} // namespace exchange::screens

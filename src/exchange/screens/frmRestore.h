@@ -1,0 +1,48 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "core/forms/Form.h"
+#include "exchange/Restore.h"
+
+namespace Ui {
+class frmRestore;
+}
+
+namespace exchange::screens {
+
+/// Shows what a backup holds and extracts it into a new folder.
+class frmRestore : public core::forms::Form {
+    Q_OBJECT
+
+  public:
+    /// Opens the database of a folder to be looked at.
+    using OpenBooks = std::function<void(const std::filesystem::path& folder)>;
+
+    explicit frmRestore(QWidget* parent = nullptr);
+    ~frmRestore() override;
+
+    /// What was restored is offered to `open`, which may be empty.
+    void Setup(OpenBooks open = {});
+
+  protected:
+    bool MayClose() override { return !busy_; }
+
+  private:
+    void Connect();
+    void ChooseContainer();
+    void ChooseFolder();
+    void ShowEntries();
+    void Restore();
+    void Run();
+    void Tell(const RestoreReport& report);
+
+    std::unique_ptr<Ui::frmRestore> ui_;
+    OpenBooks open_;
+    QString proposed_; // the folder that nobody typed
+    bool busy_ = false;
+};
+
+} // namespace exchange::screens
