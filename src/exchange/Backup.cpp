@@ -32,7 +32,7 @@ constexpr std::string_view kObjectMark = "[f]";
 constexpr std::size_t kMarkSize = 3;
 constexpr std::size_t kOwnFiles = 3; // database, version and configuration
 
-/// A file of this name that somebody keeps there is neither changed nor deleted.
+/// A file of this name that a user keeps there is neither changed nor deleted.
 bool CanWriteTo(const fs::path& folder) {
     if (folder.empty()) return false;
     const fs::path test = folder / "test.vbk";

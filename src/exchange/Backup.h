@@ -13,7 +13,7 @@ namespace exchange {
 /// A step of a backup and what came of it.
 struct BackupLine {
     std::string action;
-    std::string result; ///< "Success", "Warning", "Failed", or what a file's packing answered
+    std::string result; ///< "Success", "Warning", "Failed", or what the packing of a file returned
 };
 
 enum class BackupOutcome {
@@ -42,9 +42,9 @@ BackupConfig Chosen(const BackupConfig& config, const BackupChoice& choice);
 
 /// Makes a backup of the process's database as `config` and `choice` say: packs it into a new
 /// container in the folder, with the related files if wanted, deletes expired containers, and keeps
-/// today as the day of the last backup. The listener hears of each step; messages run in between.
-/// When the database can't be packed, no container is deleted and the day of the last backup stays
-/// as it was.
+/// today as the day of the last backup. The listener hears of each step; window messages run in
+/// between. When the database can't be packed, no container is deleted and the day of the last
+/// backup stays as it was.
 BackupReport RunBackup(BackupConfig& config, const BackupChoice& choice,
                        const BackupListener& listener);
 

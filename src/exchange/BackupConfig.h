@@ -33,11 +33,11 @@ std::filesystem::path BackupConfigPath();
 /// The interval of a stored number; days for one that means nothing.
 platform::Interval IntervalOf(std::int32_t stored);
 
-/// Reads the configuration; the defaults hold when there is no file. An Error when the file can't
-/// be read or is cut.
+/// Reads the configuration; the defaults hold when there is no file. Throws an Error if the file
+/// can't be read or is cut.
 void LoadBackupConfig(BackupConfig& config);
 
-/// Writes it; true. An Error when it can't be written, or the path is too long for its field.
+/// Writes it; true. Throws an Error if it can't be written, or the path is too long for its field.
 bool SaveBackupConfig(const BackupConfig& config);
 
 /// Whether it is time for a backup: there was none yet, or the last one is old enough. Any error

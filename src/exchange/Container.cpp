@@ -79,7 +79,7 @@ platform::OutputFile OpenContainer(const fs::path& container) {
             fs::exists(container, ignored) ? OutputFile::Start::Append : OutputFile::Start::New};
 }
 
-/// Writes the header of an entry that begins at the container's end; answers where its bytes begin,
+/// Writes the header of an entry that begins at the container's end; returns where its bytes begin,
 /// counted from 0.
 std::int64_t WriteHeader(platform::OutputFile& container, const fs::path& source, FileType type,
                          std::int64_t size) {

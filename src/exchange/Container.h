@@ -30,7 +30,7 @@ struct EntryHeader {
     std::string fileDate;
 };
 
-/// The header's bytes; an Error for a path that is too long for its field.
+/// The header's bytes; throws an Error for a path that is too long for its field.
 std::string HeaderBytes(const EntryHeader& header);
 EntryHeader ReadHeader(std::string_view bytes);
 
@@ -48,7 +48,7 @@ bool PackFile(const std::filesystem::path& container, const std::filesystem::pat
 bool PackDatabase(const std::filesystem::path& container, const std::filesystem::path& database,
                   const std::function<void()>& progress, std::string& result);
 
-/// Waits until the container is on the disk; an Error when it can't be brought there.
+/// Waits until the container is on the disk; throws an Error if it can't be brought there.
 void SyncContainer(const std::filesystem::path& container);
 
 } // namespace exchange

@@ -26,7 +26,7 @@ struct ContainerEntry {
 };
 
 /// The entries of a container in order, each header held against the file's length. A cut or
-/// damaged one is the last. An Error when the container can't be read, or has no entry at all.
+/// damaged one is the last. Throws an Error if the container can't be read, or has no entry at all.
 std::vector<ContainerEntry> ListContainer(const std::filesystem::path& container);
 
 } // namespace exchange

@@ -31,7 +31,7 @@ struct FinExportObjection {
 FinExportObjection ObjectionTo(const FinExportRequest& request);
 
 /// Writes the entries of the accounts to `file`; an account whose transactions can't be read is
-/// skipped. Answers how many transactions were found, each counted once for each account.
+/// skipped. Returns how many transactions were found, each counted once for each account.
 ///
 /// The marks are one unit of work, committed when the file is whole and on the disk. On failure,
 /// which is thrown, there are neither marks nor a file; one that had the name before is kept.

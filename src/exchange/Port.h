@@ -29,8 +29,8 @@ bool ExportDatabase(std::span<const std::string> tables, const PortWatcher& watc
 
 /// Writes the rows of these tables of the process's database to a text file, which appears under
 /// its name when it is whole. The rows are those of one moment, whatever is written meanwhile;
-/// tables without rows are left out. Messages run in between. An Error says what went wrong; then
-/// there is no file, and one that was there before is kept.
+/// tables without rows are left out. Window messages run in between. Throws an Error that says what
+/// went wrong; then there is no file, and one that was there before is kept.
 void WriteTables(std::span<const std::string> tables, const std::filesystem::path& file,
                  const PortWatcher& watcher);
 

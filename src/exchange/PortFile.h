@@ -36,7 +36,7 @@ class PortReader {
   public:
     enum class Letters { Utf8, Latin1 };
 
-    /// An Error when the file can't be read. `letters` is what Latin-1 texts are turned from.
+    /// Throws an Error if the file can't be read. `letters` is what Latin-1 texts are turned from.
     PortReader(const std::filesystem::path& file, Letters letters);
     ~PortReader();
     PortReader(const PortReader&) = delete;

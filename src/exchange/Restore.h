@@ -38,8 +38,8 @@ using RestoreListener = std::function<void(const RestoredFile& file)>;
 std::filesystem::path PlaceOf(const EntryHeader& header);
 
 /// Extracts the whole entries of a container into a folder, which is made and must not exist, or be
-/// empty; never over anything. Then checks the database. Messages run in between. An Error when
-/// nothing could be restored; a folder that was made is then removed again.
+/// empty; never over anything. Then checks the database. Window messages run in between. Throws an
+/// Error if nothing could be restored; a folder made here is removed again then.
 RestoreReport RestoreContainer(const std::filesystem::path& container,
                                const std::filesystem::path& folder, RestoreScope scope,
                                const RestoreListener& listener);

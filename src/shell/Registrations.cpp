@@ -15,7 +15,7 @@ namespace shell {
 
 namespace {
 
-/// What goes with a building is more than anybody enters again.
+/// What goes with a building is more than a user wants to enter again.
 bool KeepCopyBeforeRemoval() {
     try {
         exchange::KeepCopy(exchange::CopyReason::Removal);

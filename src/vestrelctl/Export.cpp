@@ -1,13 +1,13 @@
 #include <iostream>
 #include <map>
 
-#include "core/RecordKinds.h"
 #include "exchange/FinExport.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
+#include "vestrelctl/Arguments.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
-#include "vestrelctl/Words.h"
+#include "vestrelctl/Output.h"
 
 namespace vestrelctl {
 
@@ -47,7 +47,9 @@ void Export(const ExportWords& words) {
     const exchange::FinExportObjection objection = exchange::ObjectionTo(request);
     if (!objection.text.empty()) throw platform::Error(objection.text);
     for (const std::int32_t id : request.accounts)
-        NameOf(core::kAccount, id);
+        AccountName("--account", id);
+    // A script that sees the export fail runs it again, when its marks are made already.
+    CheckOutput();
     std::cout << exchange::RunFinExport(request, words.file) << '\n';
 }
 
@@ -77,7 +79,7 @@ void AddExport(CLI::App& line, const Options& options) {
     const auto day = [&](const char* name, std::string& text, const char* what) {
         command->add_option(name, text, what)
             ->type_name("MM/DD/YYYY")
-            ->check(IsDay())
+            ->check(IsDate())
             ->excludes(isNew)
             ->excludes(all);
     };

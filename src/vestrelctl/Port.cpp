@@ -8,6 +8,7 @@
 #include "platform/values/Errors.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
+#include "vestrelctl/Output.h"
 
 namespace vestrelctl {
 
@@ -69,6 +70,7 @@ void AddImportText(CLI::App& line, const Options& options) {
     command->add_option("file", words->file, "The file to read")->required();
     command->callback([words, &options] {
         OpenDatabase(options, words->test ? Purpose::Read : Purpose::Write);
+        CheckOutput();
         Import(*words);
     });
 }

@@ -9,7 +9,7 @@ namespace tests {
 /// Runs `work` on the process's books again and again, each time in a process of its own that is
 /// killed before another step that writes to the database or to a file, and at last without being
 /// killed. After each, `check` looks at what is there, with the books closed; the folder is then
-/// put back as it was. Answers the number of steps.
+/// put back as it was. Returns the number of steps.
 int StopAtEveryStep(const std::filesystem::path& folder, const std::function<void()>& work,
                     const std::function<void(bool wasStopped)>& check);
 

@@ -40,7 +40,7 @@ TEST_F(Exchange, ExportsTransactionsAndMarksThem) {
               "vestrelctl: Quicken can only export one account at a time, please just check one "
               "account.\n");
     EXPECT_EQ(Do("export --format csv --account 1 " + At("export.txt")).errors,
-              "vestrelctl: There is no account 1\n");
+              "vestrelctl: --account: there is no account 1\n");
     EXPECT_EQ(Do("export --format csv --all --from 01/01/2024" + to).status, 2);
     EXPECT_EQ(Do("export --format txt" + to).status, 2);
     EXPECT_EQ(Do("export --format csv --account " + account + " /nowhere/out").status, 1);

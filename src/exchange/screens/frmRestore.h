@@ -41,7 +41,7 @@ class frmRestore : public core::forms::Form {
 
     std::unique_ptr<Ui::frmRestore> ui_;
     OpenBooks open_;
-    QString proposed_; // the folder that nobody typed
+    QString proposed_; // the folder that the user didn't type
     bool busy_ = false;
 };
 

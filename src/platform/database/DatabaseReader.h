@@ -15,7 +15,7 @@ namespace platform {
 class DatabaseEngine;
 
 /// Reads whole tables of a database, all of them as they were when this was opened, whatever other
-/// connections write meanwhile. Every failure is a DatabaseError.
+/// connections write in the meantime. Every failure is a DatabaseError.
 class DatabaseReader {
   public:
     explicit DatabaseReader(const std::filesystem::path& database);

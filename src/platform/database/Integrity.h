@@ -12,7 +12,7 @@ enum class CheckDepth {
 };
 
 /// The engine's own check of a database file: what is wrong, a line each, at most a hundred; none
-/// for a sound file. A DatabaseError when it can't be opened or read at all.
+/// for a sound file. Throws a DatabaseError if it can't be opened or read at all.
 std::vector<std::string> CheckIntegrity(const std::filesystem::path& database, CheckDepth depth);
 
 } // namespace platform

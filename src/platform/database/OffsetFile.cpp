@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kWriteSize = 1 << 18;
 
-/// What the engine holds of an open file.
+/// An open file as the engine holds it.
 struct OpenFile {
     sqlite3_file base;
     OffsetFile* file;

@@ -17,7 +17,7 @@ struct CachedStatement;
 /// table's default. `connection` must outlive it.
 class RowWriter {
   public:
-    /// A FieldError for a table or field that isn't there.
+    /// Throws a FieldError for a table or field that isn't there.
     RowWriter(Connection& connection, std::string_view table, std::span<const std::string> fields);
     ~RowWriter();
     RowWriter(const RowWriter&) = delete;
@@ -26,8 +26,8 @@ class RowWriter {
     /// The types of the fields, in the order they were named.
     const std::vector<FieldType>& Types() const { return types_; }
 
-    /// Adds a row, with a cell for each field as its type is stored. A DatabaseError on failure; no
-    /// row is added then.
+    /// Adds a row, with a cell for each field as its type is stored. Throws a DatabaseError on
+    /// failure; no row is added then.
     void Add(std::span<const Cell> cells);
 
   private:

@@ -21,7 +21,7 @@ struct Moment {
 
 /// When a file was changed last; an unset day if it can't be told.
 Moment ChangedAt(const std::filesystem::path& file);
-/// Gives a file the moment of its last change; a failure is passed over.
+/// Gives a file the moment of its last change; a failure is skipped.
 void SetChangedAt(const std::filesystem::path& file, const Moment& moment);
 
 /// Sets the day that Today returns from now on; an empty one returns to the system's.

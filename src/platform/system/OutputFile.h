@@ -42,7 +42,7 @@ class OutputFile {
     int descriptor_ = -1;
 };
 
-/// Waits until the names in a folder are on the disk; a failure is passed over.
+/// Waits until the names in a folder are on the disk; a failure is skipped.
 void SyncFolder(const std::filesystem::path& folder);
 
 } // namespace platform
