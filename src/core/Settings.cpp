@@ -1,7 +1,5 @@
 #include "core/Settings.h"
 
-#include "platform/registry/Registry.h"
-
 namespace core {
 
 std::string GetRegString(std::string_view key, std::string_view name, std::string_view otherwise) {
@@ -12,6 +10,10 @@ std::string GetRegString(std::string_view key, std::string_view name, std::strin
 
 bool SetRegString(std::string_view key, std::string_view name, std::string_view value) {
     return platform::TheRegistry().WriteText(key, name, value);
+}
+
+bool SetRegStrings(std::span<const platform::RegistryText> texts) {
+    return platform::TheRegistry().WriteTexts(texts);
 }
 
 bool GetRegFlag(std::string_view key, std::string_view name, bool otherwise) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
+
+#include "platform/registry/Registry.h"
 
 namespace core {
 
@@ -12,6 +15,8 @@ namespace core {
 /// The text up to its first character 0; `otherwise` when there is no text of that name.
 std::string GetRegString(std::string_view key, std::string_view name, std::string_view otherwise);
 bool SetRegString(std::string_view key, std::string_view name, std::string_view value);
+/// Writes several texts in one step.
+bool SetRegStrings(std::span<const platform::RegistryText> texts);
 
 /// True only for the text "True", letter by letter; `otherwise` when it is missing or empty.
 bool GetRegFlag(std::string_view key, std::string_view name, bool otherwise);

@@ -80,11 +80,23 @@ class JsonRegistry : public Registry {
     }
 
     bool WriteText(std::string_view key, std::string_view name, std::string_view value) override {
-        return Write(key, name, std::string(value));
+        return Write([&](Json& contents) { Put(contents, key, name, std::string(value)); });
     }
 
     bool WriteNumber(std::string_view key, std::string_view name, std::int32_t value) override {
-        return Write(key, name, value);
+        return Write([&](Json& contents) { Put(contents, key, name, value); });
+    }
+
+    bool WriteTexts(std::span<const RegistryText> texts) override {
+        return Write([&](Json& contents) {
+            for (const RegistryText& text : texts)
+                Put(contents, text.key, text.name, text.value);
+        });
+    }
+
+    bool IsDamaged() override {
+        Load();
+        return state_ == State::Damaged || state_ == State::Unreadable;
     }
 
   private:
@@ -127,7 +139,14 @@ class JsonRegistry : public Registry {
         state_ = state;
     }
 
-    bool Write(std::string_view key, std::string_view name, Json value) {
+    static void Put(Json& contents, std::string_view key, std::string_view name, Json value) {
+        Json& values = MemberForWriting(contents, key);
+        if (!values.is_object()) values = Json::object();
+        MemberForWriting(values, name) = std::move(value);
+    }
+
+    template <class Change>
+    bool Write(Change&& change) {
         try {
             MakeFolder();
             const FolderLock lock(file_.parent_path());
@@ -135,9 +154,8 @@ class JsonRegistry : public Registry {
             Load();
             if (state_ == State::Unreadable) return false;
             Json changed = contents_;
-            Json& values = MemberForWriting(changed, key);
-            if (!values.is_object()) values = Json::object();
-            MemberForWriting(values, name) = std::move(value);
+            change(changed);
+            if (state_ == State::Sound && changed == contents_) return true;
             // Text that isn't UTF-8 fails here, before anything is touched.
             const std::string text = changed.dump(2) + "\n";
             if (state_ == State::Damaged) {

@@ -34,6 +34,11 @@ class MemoryRegistry : public Registry {
         values_.insert_or_assign({std::string(key), std::string(name)}, value);
         return true;
     }
+    bool WriteTexts(std::span<const RegistryText> texts) override {
+        for (const RegistryText& text : texts)
+            WriteText(text.key, text.name, text.value);
+        return true;
+    }
 
   private:
     template <typename T>

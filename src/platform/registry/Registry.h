@@ -4,10 +4,18 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace platform {
+
+/// One text to write.
+struct RegistryText {
+    std::string key;
+    std::string name;
+    std::string value;
+};
 
 /// The machine's settings: values of text or 32-bit number under keys such as
 /// "SOFTWARE\Vestrel\Global\Preferences". Keys and names compare without regard to case.
@@ -22,6 +30,11 @@ class Registry {
     /// False when the store can't be written; it is then as before.
     virtual bool WriteText(std::string_view key, std::string_view name, std::string_view value) = 0;
     virtual bool WriteNumber(std::string_view key, std::string_view name, std::int32_t value) = 0;
+    /// Writes several texts in one step, all or none of them.
+    virtual bool WriteTexts(std::span<const RegistryText> texts) = 0;
+
+    /// Whether there is a store that can't be understood, so that everything in it is missing.
+    virtual bool IsDamaged() { return false; }
 };
 
 /// The registry kept as JSON in `file`: read afresh before each write, replaced in one step,

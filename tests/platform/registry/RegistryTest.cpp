@@ -4,6 +4,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <array>
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <iterator>
@@ -44,6 +46,26 @@ TEST_P(AnyRegistry, KeepsTextsAndNumbersUnderNamesOfAnyCase) {
 
     EXPECT_TRUE(registry_->WriteText(kKey, R"(REPORTS\COLWRAP)", "False"));
     EXPECT_EQ(registry_->ReadText(kKey, R"(Reports\ColWrap)"), "False");
+}
+
+TEST_P(AnyRegistry, WritesSeveralTextsInOneStep) {
+    registry_->WriteText("a", "one", "old");
+    EXPECT_TRUE(registry_->WriteTexts(
+        std::array{RegistryText{"A", "ONE", "1"}, RegistryText{"b", "two", "2"}}));
+    EXPECT_EQ(registry_->ReadText("a", "one"), "1");
+    EXPECT_EQ(registry_->ReadText("b", "two"), "2");
+    EXPECT_FALSE(registry_->IsDamaged());
+}
+
+TEST(JsonRegistryFile, IsWrittenOnceForSeveralTextsAndNotAtAllForNoChange) {
+    const support::TemporaryFolder folder;
+    const auto registry = OpenJsonRegistry(folder / "registry.json");
+    const std::array texts{RegistryText{"a", "one", "1"}, RegistryText{"b", "two", "2"}};
+    EXPECT_TRUE(registry->WriteTexts(texts));
+    const auto written = fs::last_write_time(folder / "registry.json");
+    fs::last_write_time(folder / "registry.json", written - std::chrono::hours(1));
+    EXPECT_TRUE(registry->WriteTexts(texts));
+    EXPECT_LT(fs::last_write_time(folder / "registry.json"), written);
 }
 
 TEST_P(AnyRegistry, ANumberIsNoTextAndATextNoNumber) {
