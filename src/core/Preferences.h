@@ -36,6 +36,9 @@ struct PreferenceValues {
     bool ColWrap = true;
     bool ViewNavbar = true;
     bool ViewToolbar = true;
+
+    /// The colours: 0 the system's, 1 light, 2 dark.
+    std::int32_t Appearance = 0;
 };
 
 /// The preferences as last loaded or changed.

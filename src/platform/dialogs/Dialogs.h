@@ -8,15 +8,14 @@ namespace platform {
 
 enum class Icon { None, Information, Question, Exclamation, Critical };
 
-/// The messages and questions that the logic may put to the user. Under test it answers from a
-/// script and keeps what was said.
+/// Messages and questions to the user. Under test they are answered from a script and recorded.
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
 
-    /// A message with one OK button.
+    /// Shows a message with one OK button.
     virtual void ShowMessage(std::string_view title, std::string_view text, Icon icon) = 0;
-    /// A question with Yes and No; true for Yes.
+    /// Asks a question with Yes and No, of which No is the default; returns true for Yes.
     virtual bool AskYesNo(std::string_view title, std::string_view text, Icon icon) = 0;
 };
 

@@ -14,7 +14,7 @@ namespace platform::qt {
 namespace {
 
 constexpr uint kPreferDark = 1;
-constexpr int kPatienceMs = 500; // a desktop that does not answer must not hold up the start
+constexpr int kPatienceMs = 500; // a desktop that does not answer must not delay the start
 
 QString Service() {
     return QStringLiteral("org.freedesktop.portal.Desktop");
@@ -67,13 +67,43 @@ QPalette DarkPalette() {
     return palette;
 }
 
+struct State {
+    Appearance chosen = Appearance::System;
+    bool desktopPrefersDark = false;
+};
+
+State& Present() {
+    static State state;
+    return state;
+}
+
+/// Uses the system's palette as it is, coloured and high-contrast ones too. Only if it is light
+/// although the desktop prefers dark, our dark one replaces it: that platform theme ignores the
+/// preference.
+void ApplySystemPalette() {
+    QApplication::setPalette(QPalette());
+    const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    if (Present().desktopPrefersDark && !isDark) QApplication::setPalette(DarkPalette());
+}
+
 } // namespace
 
 void ApplyAppearance(Appearance appearance) {
+    Present().chosen = appearance;
     if (QApplication::style()->name().compare(QLatin1String("fusion"), Qt::CaseInsensitive) != 0) {
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     }
-    QApplication::setPalette(appearance == Appearance::Dark ? DarkPalette() : LightPalette());
+    switch (appearance) {
+        case Appearance::Light:
+            QApplication::setPalette(LightPalette());
+            return;
+        case Appearance::Dark:
+            QApplication::setPalette(DarkPalette());
+            return;
+        case Appearance::System:
+            break;
+    }
+    ApplySystemPalette();
 }
 
 DesktopAppearance::DesktopAppearance() {
@@ -91,15 +121,15 @@ DesktopAppearance::DesktopAppearance() {
         bus.connect(Service(), Path(), Interface(), QStringLiteral("SettingChanged"), this,
                     SLOT(SettingChanged(QString, QString, QDBusVariant)));
     }
-    const bool platformIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
-    ApplyAppearance(preference == kPreferDark || platformIsDark ? Appearance::Dark
-                                                                : Appearance::Light);
+    Present().desktopPrefersDark = preference == kPreferDark;
+    ApplyAppearance(Appearance::System);
 }
 
 void DesktopAppearance::SettingChanged(const QString& group, const QString& key,
                                        const QDBusVariant& value) {
     if (group != Group() || key != Key()) return;
-    ApplyAppearance(value.variant().toUInt() == kPreferDark ? Appearance::Dark : Appearance::Light);
+    Present().desktopPrefersDark = value.variant().toUInt() == kPreferDark;
+    if (Present().chosen == Appearance::System) ApplyAppearance(Appearance::System);
 }
 
 } // namespace platform::qt

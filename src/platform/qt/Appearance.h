@@ -6,17 +6,23 @@ class QDBusVariant;
 
 namespace platform::qt {
 
-enum class Appearance { Light, Dark };
+/// Which colours the program uses, with the values that the preference stores.
+enum class Appearance {
+    System = 0, ///< the system's palette; dark if the desktop prefers dark and its palette is light
+    Light = 1,
+    Dark = 2,
+};
 
-/// The look of the whole program: one style, and a palette that is ours or the desktop's.
+/// Sets the look of the whole program: one style, and the chosen palette. Any other number than
+/// those of Appearance means System.
 void ApplyAppearance(Appearance appearance);
 
-/// Keeps the look in step with the desktop's light or dark setting, as it is and as it changes.
+/// Follows the desktop's preference for light or dark while Appearance::System is chosen.
 class DesktopAppearance : public QObject {
     Q_OBJECT
 
   public:
-    /// Takes over the present setting; light where the desktop has none.
+    /// Reads the present preference and applies Appearance::System.
     DesktopAppearance();
 
   private Q_SLOTS:

@@ -8,7 +8,7 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
-// The resources stand in a static library, so they must be asked for by name, outside a namespace.
+// The resources are in a static library, so they must be initialised by name, outside a namespace.
 static void LoadIconResources() {
     Q_INIT_RESOURCE(icons);
 }

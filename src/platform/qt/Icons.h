@@ -5,9 +5,9 @@
 
 namespace platform::qt {
 
-/// The picture `name` of share/icons, at any size. What is drawn in "currentColor" takes the
-/// palette's text colour when it is painted, so it suits light and dark windows alike. A null icon
-/// when there is no such picture.
+/// Returns the picture `name` of share/icons, for any size. "currentColor" in it becomes the
+/// palette's text colour when it is painted, which suits light and dark windows. Returns a null
+/// icon if there is no such picture.
 QIcon LoadIcon(const QString& name);
 
 } // namespace platform::qt

@@ -12,7 +12,7 @@ namespace {
 QString Filters(const FileQuestion& question) {
     QStringList filters;
     for (const FileFilter& filter : question.filters) {
-        // Here "*.*" would leave out the files without an ending.
+        // Qt's "*.*" would leave out files without an extension.
         const std::string patterns = filter.patterns == "*.*" ? "*" : filter.patterns;
         filters << QStringLiteral("%1 (%2)").arg(ToScreen(filter.name), ToScreen(patterns));
     }

@@ -9,6 +9,8 @@ namespace platform::qt {
 
 namespace {
 
+bool isDismissed = false;
+
 QMessageBox::Icon Picture(Icon icon) {
     switch (icon) {
         case Icon::Information:
@@ -37,7 +39,8 @@ class MessageBoxes : public Dialogs {
   private:
     static int Ask(std::string_view title, std::string_view text, Icon icon,
                    QMessageBox::StandardButtons buttons) {
-        // A wait cursor of the work that asks must not stay over its question.
+        if (isDismissed) return QMessageBox::NoButton;
+        // The wait cursor of the work that asks must not cover its question.
         const QCursor* const busy = QApplication::overrideCursor();
         if (busy) QApplication::setOverrideCursor(Qt::ArrowCursor);
         QMessageBox box(Picture(icon), ToScreen(title),
@@ -56,6 +59,14 @@ class MessageBoxes : public Dialogs {
 };
 
 } // namespace
+
+void DismissDialogs() {
+    isDismissed = true;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        auto* const dialog = qobject_cast<QDialog*>(window);
+        if (dialog != nullptr && dialog->isModal() && dialog->isVisible()) dialog->reject();
+    }
+}
 
 std::unique_ptr<Dialogs> MakeDialogs() {
     return std::make_unique<MessageBoxes>();

@@ -8,11 +8,15 @@
 
 namespace platform::qt {
 
-// What stands behind the seams of platform/dialogs in the window program. Each stands over the
-// window that is active when it is asked.
+// The interfaces of platform/dialogs for the window program. Each dialog belongs to the window that
+// is active when it is opened.
 
 std::unique_ptr<Dialogs> MakeDialogs();
 std::unique_ptr<Choosers> MakeChoosers();
 std::unique_ptr<Desktop> MakeDesktop();
+
+/// Closes the dialogs that are open, and shows no more messages and questions: from now on each
+/// question is answered No. For a program that is told to end.
+void DismissDialogs();
 
 } // namespace platform::qt

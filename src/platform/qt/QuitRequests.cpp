@@ -26,7 +26,7 @@ struct Pipe {
     }
 };
 
-// Lives to the end of the process, as a signal may come at any time.
+// Lives until the process ends, since a signal may come at any time.
 Pipe& SignalPipe() {
     static Pipe pipe;
     return pipe;

@@ -5,19 +5,19 @@
 
 namespace platform::qt {
 
-/// Turns what ends a program from outside into one signal in the event loop: SIGTERM, SIGINT,
-/// SIGHUP and the end of the desktop session. One at a time in a process.
+/// Turns requests from outside to end the program into one signal in the event loop: SIGTERM,
+/// SIGINT, SIGHUP and the end of the desktop session. A process has one of these at a time.
 class QuitRequests : public QObject {
     Q_OBJECT
 
   public:
-    /// Needs the application object.
+    /// The application object must exist.
     QuitRequests();
-    /// Gives the signals their old meaning.
+    /// Restores the default handling of the signals.
     ~QuitRequests() override;
 
   Q_SIGNALS:
-    /// The program is to end now and in order, without asking anything.
+    /// The program must end now and in order, without any question.
     void QuitAsked();
 
   private:

@@ -27,7 +27,7 @@ SingleInstance::SingleInstance(const QString& name)
     lock_.setStaleLockTime(0);
     isFirst_ = lock_.tryLock(0);
     if (!isFirst_) return;
-    // The lock is ours, so a socket of this name can only be what a crash left.
+    // The lock is ours, so a socket of this name can only be left over from a crash.
     QLocalServer::removeServer(name_);
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&server_, &QLocalServer::newConnection, this, [this] {

@@ -7,20 +7,21 @@
 
 namespace platform::qt {
 
-/// Lets only one process of a user hold a name. A second one asks the first to come to the front.
+/// Lets only one process of a user hold a name. A second process asks the first to come to the
+/// front.
 class SingleInstance : public QObject {
     Q_OBJECT
 
   public:
-    /// Takes the name if it is free, also after a holder that died.
+    /// Takes the name if it is free, also if its last holder crashed.
     explicit SingleInstance(const QString& name);
 
     bool IsFirst() const { return isFirst_; }
-    /// From a second process: asks the first to show itself; false when it does not listen.
+    /// In a second process: asks the first to show itself; returns false if it doesn't respond.
     bool AskFirstToShow() const;
 
   Q_SIGNALS:
-    /// To the first: somebody started the program again.
+    /// In the first process: the program was started again.
     void ShowAsked();
 
   private:
@@ -30,7 +31,7 @@ class SingleInstance : public QObject {
     bool isFirst_ = false;
 };
 
-/// A name that is the same for every process of this executable and user.
+/// Returns a name that is the same for every process of this executable and user.
 QString InstanceName();
 
 } // namespace platform::qt

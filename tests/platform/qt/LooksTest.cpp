@@ -69,6 +69,17 @@ TEST_P(LooksTest, PicturesTakeTheColourOfTheText) {
 
 INSTANTIATE_TEST_SUITE_P(Both, LooksTest, testing::Values(Appearance::Light, Appearance::Dark));
 
+TEST(SystemColours, ComeBackAfterAChoice) {
+    ApplyAppearance(Appearance::System);
+    const QPalette system = QApplication::palette();
+    ApplyAppearance(Appearance::Dark);
+    EXPECT_NE(QApplication::palette().color(QPalette::Window), system.color(QPalette::Window));
+    ApplyAppearance(Appearance::System);
+    EXPECT_EQ(QApplication::palette(), system);
+    ApplyAppearance(Appearance::Light);
+    EXPECT_NE(QApplication::palette(), system) << "the system's palette is not ours";
+}
+
 TEST(Pictures, EachOneDrawsSomethingAtEverySize) {
     LoadIcon(QStringLiteral("help"));
     const QStringList names = QDir(QStringLiteral(":/icons")).entryList();
