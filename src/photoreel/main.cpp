@@ -5,16 +5,22 @@
 #include <string>
 #include <vector>
 
+#include "core/Preferences.h"
 #include "photoreel/frmPhotoReel.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/Icons.h"
+#include "platform/system/Version.h"
 
 int main(int argc, char** argv) {
+    const std::span all(argv, static_cast<std::size_t>(argc));
+    if (platform::PrintVersionIfAsked("PhotoReel", all)) return 0;
     try {
         const QApplication application(argc, argv);
         QApplication::setApplicationName(QStringLiteral("PhotoReel"));
         QApplication::setWindowIcon(platform::qt::LoadIcon(QStringLiteral("picture")));
         const platform::qt::DesktopAppearance appearance;
+        core::LoadPreferences();
+        platform::qt::ApplyAppearance(platform::qt::Appearance{core::Preferences().Appearance});
         const std::span words(argv, static_cast<std::size_t>(argc));
         const std::vector<std::string> arguments(words.begin() + 1, words.end());
 

@@ -5,10 +5,12 @@
 #include <string>
 #include <vector>
 
+#include <fmt/core.h>
 #include <CLI/CLI.hpp>
 
 #include "core/Globals.h"
 #include "platform/system/Clock.h"
+#include "platform/system/Version.h"
 #include "platform/values/Errors.h"
 #include "shell/Registrations.h"
 #include "vestrelctl/Command.h"
@@ -72,7 +74,7 @@ std::string UsageFault(const CLI::App& line, const CLI::ParseError& error) {
 int Run(int argc, char** argv) {
     CLI::App line("Keeps the books of rental property without a window.", "vestrelctl");
     line.require_subcommand(1);
-    line.set_version_flag("--version", "vestrelctl " VESTREL_VERSION);
+    line.set_version_flag("--version", fmt::format("vestrelctl {}", platform::Version()));
 
     vestrelctl::Options options;
     line.add_option("--data", options.data, "The database directory")
