@@ -4,9 +4,11 @@
 #include <map>
 #include <utility>
 
+#include "core/Codes.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
+#include "platform/database/FieldReadings.h"
 
 namespace core {
 
@@ -23,27 +25,15 @@ Openers& Registered() {
     return openers;
 }
 
-// Classes of transactions, and the flags of those that take a deposit back out of a lease.
-constexpr std::int32_t kRentClass = 1;
-constexpr std::int32_t kSubsidyClass = 2;
-constexpr std::int32_t kDepositClass = 3;
-constexpr std::int32_t kMortgageClass = 5;
-constexpr std::int32_t kRefunded = 3;
-constexpr std::int32_t kChargedOff = 4;
-
-TransactionEditor EditorOf(std::int32_t transactionClass, std::int32_t flags) {
-    switch (transactionClass) {
-        case kRentClass:
-        case kSubsidyClass:
-            return TransactionEditor::RentPayment;
-        case kDepositClass:
-            return flags == kRefunded || flags == kChargedOff ? TransactionEditor::Transaction
-                                                              : TransactionEditor::RentPayment;
-        case kMortgageClass:
-            return TransactionEditor::MortgagePayment;
-        default:
-            return TransactionEditor::Transaction;
-    }
+/// Returns the screen that made a payment. The refund of a deposit, and a charge against one, are
+/// not payments.
+TransactionEditor EditorOf(TransactionClass transactionClass, DepositFlags flags) {
+    const bool isDepositReturn = transactionClass == TransactionClass::Deposit &&
+                                 (flags == DepositFlags::Refund || flags == DepositFlags::Charge);
+    const Ledger ledger = isDepositReturn ? Ledger::None : LedgerOf(transactionClass);
+    if (ledger == Ledger::Rent) return TransactionEditor::RentPayment;
+    return ledger == Ledger::Mortgage ? TransactionEditor::MortgagePayment
+                                      : TransactionEditor::Transaction;
 }
 
 void Open(const EditRequest& request) {
@@ -89,12 +79,10 @@ TransactionPlace FindTransactionPlace(std::int32_t id) {
                                  Access::ReadOnly, {id}) < 1) {
         return {};
     }
-    const auto orZero = [&](std::string_view field) {
-        return rows[field].IsNull() ? 0 : rows[field].AsLong();
-    };
     try {
-        return {EditorOf(orZero("Class"), orZero("Flags")), orZero("IdLease"),
-                orZero("IdMortgage")};
+        return {EditorOf(TransactionClass{platform::CountOf(rows["Class"])},
+                         DepositFlags{platform::CountOf(rows["Flags"])}),
+                platform::IdOf(rows["IdLease"]), platform::IdOf(rows["IdMortgage"])};
     } catch (const std::exception&) {
         return {};
     }

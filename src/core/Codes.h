@@ -1,0 +1,80 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace core {
+
+// The codes and statuses that the books store. They never change, misspellings included: rows,
+// reports and statements compare with them.
+
+/// The class of a transaction, and of a row of the rent log.
+enum class TransactionClass : std::int16_t {
+    Ordinary = 0,
+    Rent = 1,
+    Subsidy = 2,
+    Deposit = 3,
+    OptionCredit = 4,
+    Mortgage = 5,
+};
+
+/// The flags of a transaction that refunds a deposit, or charges something against it.
+enum class DepositFlags : std::int16_t { Refund = 3, Charge = 4 };
+
+/// The ledger whose charges a payment settles.
+enum class Ledger { None, Rent, Mortgage };
+
+/// Returns the ledger that a transaction of this class settles charges of; any number is valid.
+constexpr Ledger LedgerOf(TransactionClass transactionClass) {
+    switch (transactionClass) {
+        case TransactionClass::Rent:
+        case TransactionClass::Subsidy:
+        case TransactionClass::Deposit:
+            return Ledger::Rent;
+        case TransactionClass::Mortgage:
+            return Ledger::Mortgage;
+        case TransactionClass::Ordinary:
+        case TransactionClass::OptionCredit:
+            break;
+    }
+    return Ledger::None;
+}
+
+// Lease.Status
+inline constexpr std::string_view kLeasePending = "Pending";
+inline constexpr std::string_view kLeaseWeekToWeek = "WTW";
+inline constexpr std::string_view kLeaseMonthToMonth = "MTM";
+inline constexpr std::string_view kLeaseContracted = "Contracted";
+inline constexpr std::string_view kLeaseNotice = "Notice";
+inline constexpr std::string_view kLeaseExpired = "Expired";
+inline constexpr std::string_view kLeaseBroken = "Broken";
+inline constexpr std::array kLeaseStatuses = {
+    kLeasePending, kLeaseWeekToWeek, kLeaseMonthToMonth, kLeaseContracted,
+    kLeaseNotice,  kLeaseExpired,    kLeaseBroken};
+
+// Lease.RentStatus and Mortgage.PmtStatus
+inline constexpr std::string_view kPaymentDue = "Due";
+inline constexpr std::string_view kPaymentLate = "Late";
+inline constexpr std::string_view kRentWarning = "Warning";
+inline constexpr std::string_view kRentEviction = "Eviction";
+
+// Unit.Status
+inline constexpr std::string_view kUnitHold = "Hold";
+inline constexpr std::string_view kUnitAvailable = "Avaliable";
+inline constexpr std::string_view kUnitLeased = "Leased";
+inline constexpr std::array kUnitStatuses = {kUnitHold, kUnitAvailable, kUnitLeased};
+
+// Tenant.Status
+inline constexpr std::string_view kTenantArchived = "Archived";
+inline constexpr std::array<std::string_view, 5> kTenantStatuses = {
+    "Pending", "Approved", "Rejected", "Current", kTenantArchived};
+
+// WorkOrder.Status
+inline constexpr std::array<std::string_view, 4> kWorkOrderStatuses = {"Open", "Vendor",
+                                                                       "Completed", "Closed"};
+
+// Mortgage.Status, as far as lists offer it
+inline constexpr std::array<std::string_view, 2> kMortgageStatuses = {"Current", "Closed"};
+
+} // namespace core
