@@ -1,13 +1,15 @@
 #include <cstdint>
 #include <iostream>
 #include <string>
+#include <utility>
 
 #include <fmt/core.h>
 
 #include "core/Globals.h"
+#include "core/RowsetTable.h"
+#include "core/TableCsv.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/dialect/Compiler.h"
-#include "platform/values/Csv.h"
 #include "platform/values/Text.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
@@ -24,22 +26,8 @@ using Separator = std::string_view;
 void PrintRows(std::string_view statement, Separator separator) {
     platform::Recordset rows;
     rows.Open(core::App().Connection, statement);
-    std::string line(separator);
-    for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
-        if (i > 0) line += ',';
-        line += platform::CsvText(rows[i].Name());
-    }
-    std::cout << line << '\n';
-    for (; !rows.Eof(); rows.MoveNext()) {
-        line.clear();
-        // An empty line would end the result.
-        if (rows.FieldCount() == 1 && rows[0].IsNull()) line = "NULL";
-        for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
-            if (i > 0) line += ',';
-            line += platform::CsvCell(rows[i].Value());
-        }
-        std::cout << line << '\n';
-    }
+    std::cout << separator;
+    core::WriteCsv(core::RowsetTable(std::move(rows)), std::cout);
 }
 
 void RunStatement(std::string_view statement, Separator separator = {}) {

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/GridFormat.h"
+#include "platform/values/Value.h"
+
+namespace core {
+
+struct TableColumn {
+    std::string caption{};
+    platform::FieldType type = platform::FieldType::Text;
+    ColumnFormat format{};
+};
+
+/// Rows to show, print or export: the rows of a row set, a schedule, what a run has posted. A value
+/// is worked out when it is asked for, so a table of a million rows costs what is shown of it.
+class Table {
+  public:
+    Table() = default;
+    virtual ~Table() = default;
+    Table(const Table&) = delete;
+    Table& operator=(const Table&) = delete;
+
+    virtual const std::vector<TableColumn>& Columns() const = 0;
+    virtual std::int64_t RowCount() const = 0;
+    /// Returns a cell; both numbers count from 0 and must be inside the table.
+    virtual platform::Value ValueAt(std::int64_t row, std::size_t column) const = 0;
+};
+
+} // namespace core
