@@ -10,6 +10,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "core/RowsetTable.h"
 #include "core/binding/Tags.h"
 #include "platform/qt/Text.h"
 
@@ -36,8 +37,9 @@ Grid::Grid(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setSectionsClickable(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int column) { Q_EMIT HeaderClicked(model_.Caption(column)); });
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &Grid::ColumnResized);
     connect(&model_, &GridModel::AllRead, this, [this] { Fit(firstColumn_, sizing_); });
-    connect(this, &QTableView::doubleClicked, this, [this] { Q_EMIT RowChosen(SelectedId()); });
+    connect(this, &QTableView::doubleClicked, this, &Grid::ChooseRow);
 
     auto* const copy = new QAction(tr("&Copy"), this);
     copy->setShortcut(QKeySequence::Copy);
@@ -46,10 +48,22 @@ Grid::Grid(QWidget* parent) : QTableView(parent) {
     addAction(copy);
 }
 
+int Grid::SelectedCount() const {
+    int rows = 0;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        rows += range.height();
+    return rows;
+}
+
+int Grid::SelectedRow() const {
+    const QItemSelection rows = selectionModel()->selection();
+    return rows.size() == 1 && rows.front().height() == 1 ? rows.front().top() : -1;
+}
+
 std::int32_t Grid::SelectedId() const {
-    const QModelIndex current = currentIndex();
-    if (!current.isValid()) return 0;
-    const platform::Value id = model_.CellValue(current.row(), 0);
+    const int row = SelectedRow();
+    if (row < 0) return 0;
+    const platform::Value id = model_.CellValue(row, 0);
     if (id.IsBlank()) return 0;
     try {
         return id.AsLong();
@@ -70,6 +84,18 @@ bool Grid::SelectId(std::int32_t id) {
     return false;
 }
 
+void Grid::SelectNone(int row) {
+    clearSelection();
+    const int last = model_.rowCount() - 1;
+    const int column = std::max(0, horizontalHeader()->logicalIndexAt(0));
+    selectionModel()->setCurrentIndex(model_.index(std::min(row, last), column),
+                                      QItemSelectionModel::NoUpdate);
+}
+
+void Grid::ChooseRow() {
+    if (SelectedRow() >= 0) Q_EMIT RowChosen(SelectedId());
+}
+
 void Grid::SetEmptyText(const QString& text) {
     emptyText_ = text;
     viewport()->update();
@@ -83,7 +109,7 @@ QString Grid::SelectedText() const {
         QStringList cells;
         for (int column = 0; column < model_.columnCount(); ++column) {
             if (isColumnHidden(column)) continue;
-            // What parts cells and rows can't stand inside a cell.
+            // Tabs and line ends inside a cell would read as separators.
             cells << model_.CellText(row.row(), column).simplified();
         }
         text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
@@ -103,14 +129,20 @@ QString Grid::StoreName() const {
 
 void Grid::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && currentIndex().isValid()) {
-        Q_EMIT RowChosen(SelectedId());
+    if (isEnter && SelectedRow() >= 0) {
+        ChooseRow();
+        return;
+    }
+    // Without a selection the first step is onto the current row, not over it.
+    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (isArrow && SelectedCount() == 0 && currentIndex().isValid()) {
+        setCurrentIndex(currentIndex());
         return;
     }
     QTableView::keyPressEvent(event);
 }
 
-/// A text that its column cuts off shows whole under the pointer.
+/// Shows the whole text under the pointer if its column cuts it off.
 bool Grid::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QTableView::viewportEvent(event);
     const auto* const help = static_cast<QHelpEvent*>(event);
@@ -138,9 +170,14 @@ void Grid::resizeEvent(QResizeEvent* event) {
     if (sharing_) ShareWidth();
 }
 
-void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
-    if (current.row() != previous.row()) Q_EMIT SelectionMoved();
+void Grid::showEvent(QShowEvent* event) {
+    QTableView::showEvent(event);
+    wasSeen_ = true;
+}
+
+void Grid::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTableView::selectionChanged(selected, deselected);
+    Q_EMIT SelectionMoved();
 }
 
 void SetupGrid(Grid& grid) {
@@ -151,10 +188,15 @@ void SetupGrid(Grid& grid) {
 }
 
 platform::FieldType LoadGrid(Grid& grid, platform::Recordset rows, HeaderFont header) {
+    return LoadGrid(grid, std::make_unique<core::RowsetTable>(std::move(rows)), header);
+}
+
+platform::FieldType LoadGrid(Grid& grid, std::unique_ptr<core::Table> table, HeaderFont header) {
     const bool updated = grid.updatesEnabled();
     grid.setUpdatesEnabled(false);
     grid.Model().SetBoldHeader(header == HeaderFont::Bold);
-    grid.Model().SetRows(std::move(rows));
+    grid.Model().SetTable(std::move(table));
+    grid.ColumnsLoaded();
     grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
     grid.setUpdatesEnabled(updated);
     return grid.Model().IsLoaded() ? grid.Model().TypeOf(0) : platform::FieldType::Text;

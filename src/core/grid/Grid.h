@@ -2,9 +2,12 @@
 
 #include <QTableView>
 #include <cstdint>
+#include <map>
+#include <optional>
 #include <vector>
 
 #include "core/grid/GridModel.h"
+#include "platform/registry/Registry.h"
 
 namespace core::grid {
 
@@ -13,16 +16,16 @@ namespace core::grid {
 inline constexpr QRgb kPaleYellow = 0xFFFFFF80;
 inline constexpr QRgb kPaleRed = 0xFFFF8080;
 
-/// How columns get their widths, numbered as the preference stores it.
+/// How columns get their widths, with the values that the preference stores.
 enum class Sizing {
-    Manual = 0,  ///< as the person left them
+    Manual = 0,  ///< as the user left them
     FitGrid = 1, ///< all columns share the grid's width
     FitText = 2, ///< each as wide as its widest text
 };
 
-/// A table of a row set's rows, to look at and choose from. Its first column usually holds the
-/// records' ids and is hidden. Its property "tag", or else its object name, names what is stored
-/// about it.
+/// A table of a row set's rows, to read and to choose from. Its first column usually holds the
+/// records' ids and is hidden. Its settings are stored under its property "tag", or else under its
+/// object name.
 class Grid : public QTableView {
     Q_OBJECT
 
@@ -32,26 +35,41 @@ class Grid : public QTableView {
     GridModel& Model() { return model_; }
     const GridModel& Model() const { return model_; }
 
-    /// The number in the current row's first column; 0 without a row.
+    /// Returns the number in the first column of the selected row; 0 unless exactly one row is
+    /// selected.
     std::int32_t SelectedId() const;
-    /// Makes the row with this id current; false when there is none.
+    int SelectedCount() const;
+    /// Selects the row with this id; returns false if there is none.
     bool SelectId(std::int32_t id);
+    /// Selects no row. The arrow keys go on from `row`, or from the last row if there are fewer.
+    void SelectNone(int row);
 
-    /// What an empty grid says instead.
+    /// Sets the text that an empty grid shows.
     void SetEmptyText(const QString& text);
     const QString& EmptyText() const { return emptyText_; }
-    /// The selected rows without the hidden columns, cells parted by tabs, a line each.
+    /// Returns the selected rows without the hidden columns: a line per row, cells separated by
+    /// tabs.
     QString SelectedText() const;
     void CopySelection() const;
 
-    /// The widths that the texts want, with their margins; many rows are judged by samples.
+    /// Returns the widths of the texts with their margins, measured on samples if there are many
+    /// rows.
     std::vector<int> WantedWidths() const;
     void Fit(int firstColumn, Sizing sizing);
+    /// Gives the columns that the user has resized their widths back.
+    void ApplyOwnWidths();
+    /// Forgets the widths that the user has set if other columns are shown now.
+    void ColumnsLoaded();
+    /// Sets widths that are not the user's doing; a width of 0 hides the column.
+    void SetWidths(const std::vector<int>& widths, int firstColumn);
+    /// Whether the grid has been visible. Widths of one that hasn't mean nothing.
+    bool WasSeen() const { return wasSeen_; }
     QString StoreName() const;
 
   Q_SIGNALS:
+    /// Other rows are selected than before.
     void SelectionMoved();
-    /// A double click or Enter on a row.
+    /// A double click or Enter on the only selected row.
     void RowChosen(std::int32_t id);
     void HeaderClicked(const QString& caption);
 
@@ -60,10 +78,16 @@ class Grid : public QTableView {
     bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void showEvent(QShowEvent* event) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
 
   private:
+    int SelectedRow() const;
+    void ChooseRow();
+    void ColumnResized(int column, int before, int now);
     void ShareWidth();
+    std::vector<int> SharedWidths(int width) const;
 
     GridModel model_;
     QString emptyText_;
@@ -71,33 +95,44 @@ class Grid : public QTableView {
     int firstColumn_ = 0;
     Sizing sizing_ = Sizing::Manual;
     bool sharing_ = false;
+    bool sizingColumns_ = false;
+    bool wasSeen_ = false;
+    QString columns_;              ///< the store name and the captions
+    std::map<int, int> ownWidths_; ///< by column, of those that the user has resized
 };
 
-/// The standard look: whole rows, no resizing before something is loaded.
+/// Sets the standard look: whole rows, no resizing before rows are loaded.
 void SetupGrid(Grid& grid);
 
 enum class HeaderFont { Plain, Bold };
 
-/// Shows the rows of an open row set, which the grid keeps, and answers the first column's type.
+/// Shows the rows of an open row set, which the grid keeps, and returns the first column's type.
 /// Columns may be resized from now on; a narrowed view shows all its rows again.
 platform::FieldType LoadGrid(Grid& grid, platform::Recordset rows,
                              HeaderFont header = HeaderFont::Bold);
+/// The same with any table.
+platform::FieldType LoadGrid(Grid& grid, std::unique_ptr<core::Table> table,
+                             HeaderFont header = HeaderFont::Bold);
 
-/// The background of one cell; a cell outside the grid is passed over.
+/// Sets the background of one cell; ignores a cell outside the grid.
 void SetCellColor(Grid& grid, int column, int row, QColor color);
 
 /// Shows a column by another format than its type's, or as Yes and No.
 void FormatColumn(Grid& grid, int column, std::string_view pattern);
 void FormatColumnYesNo(Grid& grid, int column);
 
-/// Hides the columns before `firstColumn` and gives the others their widths; nothing for
-/// Sizing::Manual or an empty grid. FitGrid stays in force when the grid changes its size.
+/// Hides the columns before `firstColumn` and sizes the others; does nothing for Sizing::Manual or
+/// an empty grid. FitGrid stays in force when the grid changes its size. A column that the user has
+/// resized keeps its width.
 void AutoSizeGrid(Grid& grid, int firstColumn, Sizing sizing);
 /// The same by counting characters.
 void AutoSizeByLength(Grid& grid, int firstColumn);
 
 /// Restores the widths stored under the grid's name, if there is one for each column.
 void LoadColumnWidths(Grid& grid);
+/// Stores the widths; does nothing if the grid was never visible or has no columns.
 void SaveColumnWidths(const Grid& grid);
+/// Returns what SaveColumnWidths stores, nothing if it stores nothing.
+std::optional<platform::RegistryText> ColumnWidthsText(const Grid& grid);
 
 } // namespace core::grid

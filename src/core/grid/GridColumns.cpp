@@ -11,9 +11,10 @@ void SizeColumns(Grid& grid, int firstColumn) {
         grid.setColumnHidden(column, true);
     const auto sizing = static_cast<Sizing>(Preferences().AutoSize);
     if (sizing == Sizing::Manual) {
-        // What was never set by hand starts from the texts.
+        // Columns that were never set by hand start with the widths of their texts.
         AutoSizeGrid(grid, firstColumn, Sizing::FitText);
         LoadColumnWidths(grid);
+        grid.ApplyOwnWidths();
     } else {
         AutoSizeGrid(grid, firstColumn, sizing);
     }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/RowsetTable.h"
 #include "platform/qt/Text.h"
 
 namespace core::grid {
@@ -17,9 +18,13 @@ std::int64_t CellKey(std::int64_t row, int column) {
 } // namespace
 
 void GridModel::SetRows(platform::Recordset rows) {
+    SetTable(std::make_unique<core::RowsetTable>(std::move(rows)));
+}
+
+void GridModel::SetTable(std::unique_ptr<core::Table> table) {
     beginResetModel();
-    rows_ = std::move(rows);
-    rowCount_ = rows_.IsOpen() ? rows_.RecordCount() : 0;
+    table_ = std::move(table);
+    rowCount_ = table_ ? table_->RowCount() : 0;
     atHand_ = rowCount_;
     nextRead_.stop();
     columns_.clear();
@@ -28,13 +33,11 @@ void GridModel::SetRows(platform::Recordset rows) {
     shown_.clear();
     search_.reset();
     nextSlice_.stop();
-    const std::size_t fields = rows_.IsOpen() ? rows_.FieldCount() : 0;
-    for (std::size_t i = 0; i < fields; ++i) {
-        const platform::Field field = rows_[i];
-        columns_.push_back({platform::qt::ToScreen(field.Name()),
-                            field.Type(),
-                            FormatOf(field.Type(), field.Name()),
-                            {}});
+    if (table_) {
+        for (const core::TableColumn& column : table_->Columns()) {
+            columns_.push_back(
+                {platform::qt::ToScreen(column.caption), column.type, column.format, {}});
+        }
     }
     endResetModel();
 }
@@ -76,8 +79,11 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     switch (role) {
         case Qt::DisplayRole:
             return Caption(section);
-        case Qt::TextAlignmentRole:
-            return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+        case Qt::TextAlignmentRole: {
+            // A caption is aligned like the cells below it.
+            const bool right = columns_[static_cast<std::size_t>(section)].format.right;
+            return QVariant(Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft));
+        }
         case Qt::FontRole: {
             QFont font;
             font.setBold(boldHeader_);
@@ -89,8 +95,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 }
 
 platform::Value GridModel::CellValue(int row, int column) const {
-    rows_.SetAbsolutePosition(Source(row) + 1);
-    return rows_[static_cast<std::size_t>(column)].Value();
+    return table_->ValueAt(Source(row), static_cast<std::size_t>(column));
 }
 
 QString GridModel::CellText(int row, int column) const {
@@ -133,8 +138,8 @@ std::int64_t GridModel::Source(int row) const {
 }
 
 QString GridModel::SourceText(std::int64_t source, std::size_t column) const {
-    rows_.SetAbsolutePosition(source + 1);
-    return platform::qt::ToScreen(core::CellText(rows_[column].Value(), columns_[column].format));
+    return platform::qt::ToScreen(
+        core::CellText(table_->ValueAt(source, column), columns_[column].format));
 }
 
 std::optional<QColor> GridModel::ColorOf(const QModelIndex& index) const {

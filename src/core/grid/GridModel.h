@@ -4,11 +4,13 @@
 #include <QColor>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <unordered_map>
 #include <vector>
 
 #include "core/GridFormat.h"
+#include "core/Table.h"
 #include "core/grid/RowSearch.h"
 #include "platform/database/Recordset.h"
 
@@ -17,23 +19,25 @@ namespace core::grid {
 /// The colour of a cell by its value; nothing for a plain cell.
 using ColorRule = std::function<std::optional<QColor>(const platform::Value&)>;
 
-/// The rows of a row set as text. A cell is formatted when it is shown, so a view of a million rows
-/// costs what it shows.
+/// The rows of any table as text. A cell is formatted when it is shown, so a view of a million rows
+/// costs what is shown of it.
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
     explicit GridModel(QObject* parent = nullptr);
 
-    /// Takes over a row set; every column gets the format of its field's type. One that isn't open
-    /// leaves nothing to show.
+    /// Takes over a table; every column starts with the table's format. Null leaves nothing to
+    /// show.
+    void SetTable(std::unique_ptr<core::Table> table);
+    /// The same with the rows of a row set, which may be closed.
     void SetRows(platform::Recordset rows);
     /// Reads the rows of a row set that is read as it is needed, some at a time while the person
     /// goes on, until AllRead. What is shown meanwhile is read at once.
     void ReadOn();
     /// How many rows show without being waited for.
     int RowsAtHand() const;
-    /// Whether SetRows was called.
+    /// Whether there is a table with columns.
     bool IsLoaded() const { return !columns_.empty(); }
 
     /// Shows only the rows that have `text` in any column but the hidden first ones, without regard
@@ -79,8 +83,7 @@ class GridModel : public QAbstractTableModel {
     QString SourceText(std::int64_t source, std::size_t column) const;
     std::optional<QColor> ColorOf(const QModelIndex& index) const;
 
-    // Reading a row makes it current, which is all that reading changes.
-    mutable platform::Recordset rows_;
+    std::unique_ptr<core::Table> table_;
     std::int64_t rowCount_ = 0;
     std::int64_t atHand_ = 0;
     QTimer nextRead_;

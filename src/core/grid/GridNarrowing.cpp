@@ -32,10 +32,7 @@ void GridModel::Narrow(const QString& text, int firstColumn) {
         shown_.clear();
     } else if (continues) {
         const RowSearch search = MakeSearch(text, firstColumn);
-        std::erase_if(shown_, [&](std::int32_t row) {
-            rows_.SetAbsolutePosition(row + 1);
-            return !search.Matches(rows_);
-        });
+        std::erase_if(shown_, [&](std::int32_t row) { return !search.Matches(*table_, row); });
     } else {
         search_.emplace(MakeSearch(text, firstColumn));
         shown_ = SearchOn();
@@ -60,8 +57,7 @@ std::vector<std::int32_t> GridModel::SearchOn() {
     const auto end = static_cast<std::int32_t>(
         std::min<std::int64_t>(rowCount_, std::int64_t{nextSearched_} + kSlice));
     for (; nextSearched_ < end; ++nextSearched_) {
-        rows_.SetAbsolutePosition(nextSearched_ + 1);
-        if (search_->Matches(rows_)) found.push_back(nextSearched_);
+        if (search_->Matches(*table_, nextSearched_)) found.push_back(nextSearched_);
     }
     if (nextSearched_ < rowCount_) {
         nextSlice_.start();

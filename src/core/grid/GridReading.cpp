@@ -23,8 +23,8 @@ int GridModel::RowsAtHand() const {
 
 void GridModel::ReadSlice() {
     atHand_ = std::min(rowCount_, atHand_ + kSlice);
-    rows_.SetAbsolutePosition(atHand_);
-    (void)rows_[std::size_t{0}].IsNull(); // asking for the last of them reads those before it
+    // Asking for the last of them reads those before it.
+    if (atHand_ > 0) (void)table_->ValueAt(atHand_ - 1, 0);
     if (atHand_ < rowCount_) return;
     nextRead_.stop();
     Q_EMIT AllRead();

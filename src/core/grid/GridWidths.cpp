@@ -1,4 +1,5 @@
 #include <QHeaderView>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 #include <numeric>
@@ -13,6 +14,7 @@ namespace core::grid {
 namespace {
 
 constexpr int kMargin = 17;       // 250 twips, a sixth of an inch
+constexpr int kLeastWidth = 24;   // of a column beside those that the user has resized
 constexpr int kSamples = 500;     // rows that are measured; up to so many, all of them
 constexpr int kFirstSamples = 60; // while rows are still read, after which the widths come anew
 
@@ -78,16 +80,35 @@ std::vector<int> Share(const std::vector<int>& weights, int first, int total) {
     return shares;
 }
 
-void Apply(Grid& grid, const std::vector<int>& widths, int firstColumn) {
-    for (int column = 0; column < grid.Model().columnCount(); ++column) {
-        grid.setColumnHidden(column, column < firstColumn);
-        if (column >= firstColumn) {
-            grid.setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
-        }
+} // namespace
+
+void Grid::SetWidths(const std::vector<int>& widths, int firstColumn) {
+    const QScopedValueRollback sizing(sizingColumns_, true);
+    for (int column = 0; column < model_.columnCount(); ++column) {
+        const int width = column < firstColumn ? 0 : widths[static_cast<std::size_t>(column)];
+        setColumnHidden(column, width == 0);
+        if (width > 0) setColumnWidth(column, width);
     }
 }
 
-} // namespace
+void Grid::ColumnResized(int column, int before, int now) {
+    // To and from 0 a column is hidden and shown.
+    if (!sizingColumns_ && before > 0 && now > 0) ownWidths_[column] = now;
+}
+
+void Grid::ColumnsLoaded() {
+    QString columns = StoreName();
+    for (int column = 0; column < model_.columnCount(); ++column)
+        columns += QLatin1Char('\n') + model_.Caption(column);
+    if (columns != columns_) ownWidths_.clear();
+    columns_ = columns;
+}
+
+void Grid::ApplyOwnWidths() {
+    for (const auto& [column, width] : ownWidths_) {
+        if (column < model_.columnCount() && !isColumnHidden(column)) setColumnWidth(column, width);
+    }
+}
 
 std::vector<int> Grid::WantedWidths() const {
     const QFontMetrics body(font());
@@ -121,22 +142,49 @@ void Grid::Fit(int firstColumn, Sizing sizing) {
     wanted_ = WantedWidths();
     firstColumn_ = std::min(firstColumn, model_.columnCount());
     if (sizing == Sizing::FitText) {
-        Apply(*this, wanted_, firstColumn_);
+        SetWidths(wanted_, firstColumn_);
+        ApplyOwnWidths();
         return;
     }
     sharing_ = true;
     ShareWidth();
 }
 
-/// The room that the columns have once the vertical scroll bar is there, if it has to be.
+/// Shares a width out; a column that the user has resized keeps its own if that leaves the others
+/// something.
+std::vector<int> Grid::SharedWidths(int width) const {
+    std::vector<int> weights = wanted_;
+    int own = 0;
+    int others = 0;
+    for (int column = firstColumn_; column < std::ssize(weights); ++column) {
+        const auto found = ownWidths_.find(column);
+        if (found == ownWidths_.end()) {
+            ++others;
+            continue;
+        }
+        own += found->second;
+        weights[static_cast<std::size_t>(column)] = 0;
+    }
+    if (own == 0 || others == 0 || width - own < others * kLeastWidth) {
+        return Share(Capped(wanted_, firstColumn_, width), firstColumn_, width);
+    }
+    const int left = width - own;
+    std::vector<int> widths = Share(Capped(weights, firstColumn_, left), firstColumn_, left);
+    for (const auto& [column, ownWidth] : ownWidths_) {
+        if (column < std::ssize(widths)) widths[static_cast<std::size_t>(column)] = ownWidth;
+    }
+    return widths;
+}
+
+/// Shares out what is left beside the vertical scroll bar, if there has to be one.
 void Grid::ShareWidth() {
     if (static_cast<int>(wanted_.size()) != model_.columnCount()) return;
     const int rowsHeight = model_.rowCount() * verticalHeader()->defaultSectionSize();
     const int room = height() - 2 * frameWidth() - horizontalHeader()->sizeHint().height();
     const int bar = rowsHeight > room ? verticalScrollBar()->sizeHint().width() : 0;
     const int width = QTableView::width() - 2 * frameWidth() - bar;
-    Apply(*this, Share(Capped(wanted_, firstColumn_, width), firstColumn_, width), firstColumn_);
-    updateGeometries(); // the scroll bars go by the new widths at once
+    SetWidths(SharedWidths(width), firstColumn_);
+    updateGeometries(); // updates the scroll bars now
 }
 
 void AutoSizeGrid(Grid& grid, int firstColumn, Sizing sizing) {
@@ -157,7 +205,7 @@ void AutoSizeByLength(Grid& grid, int firstColumn) {
             longest = std::max(longest, model.CellText(row, column).size());
         lengths.push_back(static_cast<int>(longest));
     }
-    Apply(grid, Share(lengths, firstColumn, grid.viewport()->width()), firstColumn);
+    grid.SetWidths(Share(lengths, firstColumn, grid.viewport()->width()), firstColumn);
 }
 
 void LoadColumnWidths(Grid& grid) {
@@ -173,21 +221,23 @@ void LoadColumnWidths(Grid& grid) {
         widths.push_back(width);
     }
     if (static_cast<int>(widths.size()) != grid.Model().columnCount()) return;
-    for (int column = 0; column < grid.Model().columnCount(); ++column) {
-        const int width = widths[static_cast<std::size_t>(column)];
-        grid.setColumnHidden(column, width == 0);
-        if (width > 0) grid.setColumnWidth(column, width);
-    }
+    grid.SetWidths(widths, 0);
 }
 
-void SaveColumnWidths(const Grid& grid) {
-    if (!grid.Model().IsLoaded()) return;
+std::optional<platform::RegistryText> ColumnWidthsText(const Grid& grid) {
+    if (!grid.Model().IsLoaded() || !grid.WasSeen()) return std::nullopt;
     QStringList widths;
     for (int column = 0; column < grid.Model().columnCount(); ++column) {
         widths << QString::number(grid.columnWidth(column));
     }
-    SetRegString(WidthsKey(grid), WidthsName(grid),
-                 platform::qt::FromScreen(widths.join(QLatin1Char(','))));
+    return platform::RegistryText{WidthsKey(grid), WidthsName(grid),
+                                  platform::qt::FromScreen(widths.join(QLatin1Char(',')))};
+}
+
+void SaveColumnWidths(const Grid& grid) {
+    if (const auto widths = ColumnWidthsText(grid)) {
+        SetRegString(widths->key, widths->name, widths->value);
+    }
 }
 
 } // namespace core::grid

@@ -50,9 +50,9 @@ RowSearch::RowSearch(std::string_view text, const std::vector<ColumnFormat>& for
     }
 }
 
-bool RowSearch::Matches(platform::Recordset& rows) const {
+bool RowSearch::Matches(const core::Table& table, std::int64_t row) const {
     return std::ranges::any_of(places_, [&](const Place& place) {
-        return IsIn(CellText(rows[place.column].Value(), place.format));
+        return IsIn(CellText(table.ValueAt(row, place.column), place.format));
     });
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "core/GridFormat.h"
-#include "platform/database/Recordset.h"
+#include "core/Table.h"
 
 namespace core::grid {
 
@@ -17,8 +17,8 @@ class RowSearch {
     RowSearch(std::string_view text, const std::vector<ColumnFormat>& formats,
               const std::vector<platform::FieldType>& types, std::size_t firstColumn);
 
-    /// Whether any column of the current row has the text.
-    bool Matches(platform::Recordset& rows) const;
+    /// Returns whether any column of a row, counted from 0, contains the text.
+    bool Matches(const core::Table& table, std::int64_t row) const;
 
   private:
     struct Place {

@@ -74,6 +74,11 @@ TEST_F(GridTest, NumbersStandAtTheRightAndCaptionsAreBold) {
     LoadUnits();
     EXPECT_TRUE(Look(0, 3, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
     EXPECT_TRUE(Look(0, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
+    const auto alignment = [&](int column) {
+        return grid_.Model().headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
+    };
+    EXPECT_TRUE(alignment(3) & Qt::AlignRight) << "a caption is aligned like its cells";
+    EXPECT_TRUE(alignment(1) & Qt::AlignLeft);
     const auto caption = [&] {
         return grid_.Model().headerData(1, Qt::Horizontal, Qt::FontRole).value<QFont>();
     };
@@ -225,6 +230,34 @@ TEST_F(GridTest, TellsWhichRecordIsChosen) {
     QTest::keyClick(&grid_, Qt::Key_Return);
     ASSERT_EQ(chosen.count(), 1);
     EXPECT_EQ(chosen.front().front().toInt(), 20);
+}
+
+TEST_F(GridTest, ChoosesOnlyWhatIsHighlighted) {
+    LoadUnits();
+    QSignalSpy chosen(&grid_, &Grid::RowChosen);
+    grid_.setFocus();
+    EXPECT_EQ(grid_.SelectedId(), 0) << "the row in focus isn't highlighted";
+    QTest::keyClick(&grid_, Qt::Key_Return);
+    EXPECT_EQ(chosen.count(), 0);
+    grid_.SelectNone(7);
+    QTest::keyClick(&grid_, Qt::Key_Up);
+    EXPECT_EQ(grid_.currentIndex().row(), 2) << "the first step is onto the row, not over it";
+    EXPECT_EQ(grid_.SelectedCount(), 1);
+    QTest::keyClick(&grid_, Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(grid_.SelectedCount(), 2);
+    EXPECT_EQ(grid_.SelectedId(), 0) << "several rows are no record";
+    QTest::keyClick(&grid_, Qt::Key_Return);
+    EXPECT_EQ(chosen.count(), 0);
+}
+
+TEST_F(GridTest, StoresNoWidthsThatNobodySaw) {
+    Grid unseen;
+    unseen.setObjectName(QStringLiteral("unseen"));
+    platform::Recordset rows;
+    rows.Open(core::App().Connection, "SELECT IdUnit, Unit FROM Unit");
+    LoadGrid(unseen, std::move(rows));
+    SaveColumnWidths(unseen);
+    EXPECT_EQ(core::GetRegString(kGridInfo, "ColData_unseen", "-"), "-");
 }
 
 TEST_F(GridTest, CopiesTheSelectedRowsWithoutHiddenColumns) {

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "core/RecordsFixture.h"
+#include "core/RowsetTable.h"
 
 namespace {
 
 using core::ColumnFormat;
-using core::FormatOf;
 using core::grid::RowSearch;
 using platform::FieldType;
 
@@ -16,21 +16,23 @@ class RowSearchTest : public tests::CoreRecords {
     RowSearchTest() {
         Run("UPDATE Unit SET Unit = 'Zo\u00cb & Co', Bedrooms = 3, SqFt = 812.25, Rent = 1950.5, "
             "Hide = True WHERE IdUnit = 20");
-        rows_.Open(core::App().Connection,
-                   "SELECT IdUnit, Unit, Bedrooms, SqFt, Rent, Hide, "
-                   "DateValue('3/7/2024') AS [Day], Bathrooms FROM Unit WHERE IdUnit = 20");
+        platform::Recordset rows;
+        rows.Open(core::App().Connection,
+                  "SELECT IdUnit, Unit, Bedrooms, SqFt, Rent, Hide, "
+                  "DateValue('3/7/2024') AS [Day], Bathrooms FROM Unit WHERE IdUnit = 20");
+        table_ = std::make_unique<core::RowsetTable>(std::move(rows));
     }
     bool Has(std::string_view text) {
         std::vector<ColumnFormat> formats;
         std::vector<FieldType> types;
-        for (std::size_t i = 0; i < rows_.FieldCount(); ++i) {
-            types.push_back(rows_[i].Type());
-            formats.push_back(FormatOf(rows_[i].Type(), rows_[i].Name()));
+        for (const core::TableColumn& column : table_->Columns()) {
+            types.push_back(column.type);
+            formats.push_back(column.format);
         }
-        return RowSearch(text, formats, types, 1).Matches(rows_);
+        return RowSearch(text, formats, types, 1).Matches(*table_, 0);
     }
 
-    platform::Recordset rows_;
+    std::unique_ptr<core::RowsetTable> table_;
 };
 
 TEST_F(RowSearchTest, FindsWhatTheColumnsShow) {
