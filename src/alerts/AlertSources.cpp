@@ -8,6 +8,7 @@
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
@@ -27,11 +28,10 @@ constexpr std::string_view kBuildingPicture = "PROPERTY";
 constexpr std::string_view kMessagePicture = "AUTOEVENT";
 
 std::string TextOf(Recordset& row, std::string_view field) {
-    const auto value = row[field];
-    return value.IsNull() ? std::string() : value.AsText();
+    return platform::TextOf(row[field]);
 }
 
-/// Where a lease is: "Smith at 12 Elm Street", and its unit where that has a name.
+/// Returns a lease's tenant and place: "Smith at 12 Elm Street", with the unit if it has a name.
 std::string LeasePlace(Recordset& row) {
     std::string place = fmt::format("{} at {}", TextOf(row, "LastName"), TextOf(row, "Address"));
     const std::string unit = TextOf(row, "Unit");
@@ -39,35 +39,61 @@ std::string LeasePlace(Recordset& row) {
     return place;
 }
 
-/// Days until `due` where it lies ahead within the window: a day that is today or past is none.
+/// Returns the days until `due` if it is in the future and within the window, otherwise nothing.
 std::optional<int> DaysWithin(Date due, int window) {
     const int days = DateDiff(Interval::Day, platform::Today(), due);
     if (days < 1 || days > window) return std::nullopt;
     return days;
 }
 
-/// The unit of a contracted lease's term; the words of leases without an end don't occur here.
+/// Returns the unit of a contracted lease's term. Open-ended leases never get here.
 Interval TermUnit(std::string_view termType) {
     if (termType == "Weekly" || termType == "Week(s)") return Interval::Week;
     if (termType == "Yearly" || termType == "Year(s)") return Interval::Year;
     return Interval::Month;
 }
 
-/// Calls `add` for each row of a statement; for none if it can't be opened.
-template <class Add>
-void ForEachRow(std::string_view sql, Add add) {
+/// Calls `add` for each row of a statement; skips a statement that can't be opened. Throws Error
+/// with the record's name, as `name` gives it, in front of the reason if a row can't be read.
+template <class Name, class Add>
+void ForEachRow(std::string_view sql, Name name, Add add) {
     Recordset rows;
     core::OpenRecordset(rows, sql, core::Access::ReadOnly);
     if (!rows.IsOpen()) return;
-    for (; !rows.Eof(); rows.MoveNext())
-        add(rows);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        try {
+            add(rows);
+        } catch (const platform::Error& failure) {
+            throw platform::Error(fmt::format("{}: {}", name(rows), failure.what()));
+        }
+    }
+}
+
+std::string LeaseName(Recordset& row) {
+    return "Lease " + LeasePlace(row);
+}
+
+std::string MortgageName(Recordset& row) {
+    return "Mortgage account # " + TextOf(row, "AccountNumber");
+}
+
+std::string BuildingName(Recordset& row) {
+    return "Building " + TextOf(row, "Address");
+}
+
+std::string WorkOrderName(Recordset& row) {
+    return "Work Order " + TextOf(row, "ShortDesc");
+}
+
+std::string MessageName(Recordset& /*row*/) {
+    return "Message";
 }
 
 void AddBuildingDates(std::vector<AlertItem>& items, std::string_view field, int window,
                       std::string_view what) {
     const std::string sql =
         fmt::format("SELECT IdBuilding, Address, {0} FROM Building WHERE {0} <> ''", field);
-    ForEachRow(sql, [&](Recordset& row) {
+    ForEachRow(sql, BuildingName, [&](Recordset& row) {
         if (const auto days = DaysWithin(row[field].AsDate(), window)) {
             items.push_back({core::kBuilding, row["IdBuilding"].AsLong(),
                              fmt::format("{} renewal due in {} days for Building {}", what, *days,
@@ -86,7 +112,7 @@ void AddLateRent(std::vector<AlertItem>& items) {
         "WHERE (Lease.IdUnit=Unit.IdUnit) AND (Unit.IdBuilding=Building.IdBuilding) "
         "AND (Lease.IdTenant=Tenant.IdTenant) "
         "AND (Lease.RentStatus IN ('Due', 'Late', 'Warning', 'Eviction'))",
-        [&](Recordset& row) {
+        LeaseName, [&](Recordset& row) {
             items.push_back({core::kLease, row["IdLease"].AsLong(),
                              fmt::format("Rent Notice: {} for Lease {}", TextOf(row, "RentStatus"),
                                          LeasePlace(row)),
@@ -99,7 +125,7 @@ void AddLateMortgages(std::vector<AlertItem>& items) {
         "SELECT Mortgage.IdMortgage, Mortgage.AccountNumber, Mortgage.PmtStatus, Account.ShowAs "
         "FROM Mortgage LEFT JOIN Account ON Mortgage.idMortgagee = Account.idAccount "
         "WHERE (Mortgage.PmtStatus = 'Due') OR (Mortgage.PmtStatus = 'Late')",
-        [&](Recordset& row) {
+        MortgageName, [&](Recordset& row) {
             const std::string lender = row["ShowAs"].IsNull() ? "" : " " + row["ShowAs"].AsText();
             items.push_back({core::kMortgage, row["IdMortgage"].AsLong(),
                              fmt::format("Mortgage Payment for{} account # {} is {}", lender,
@@ -112,7 +138,7 @@ void AddOpenWorkOrders(std::vector<AlertItem>& items) {
     ForEachRow(
         "SELECT IdWorkOrder, ShortDesc FROM WorkOrder "
         "WHERE (Status = 'Open') OR (Status = 'Vendor')",
-        [&](Recordset& row) {
+        WorkOrderName, [&](Recordset& row) {
             items.push_back({core::kWorkOrder, row["IdWorkOrder"].AsLong(),
                              "Open Work Order: " + TextOf(row, "ShortDesc"), kWorkOrderPicture});
         });
@@ -122,7 +148,7 @@ void AddEscrowReviews(std::vector<AlertItem>& items) {
     ForEachRow(
         "SELECT IdMortgage, AccountNumber, LastEscrowReview FROM Mortgage "
         "WHERE LastEscrowReview <> ''",
-        [&](Recordset& row) {
+        MortgageName, [&](Recordset& row) {
             const Date due = DateAdd(Interval::Year, 1, row["LastEscrowReview"].AsDate());
             if (const auto days = DaysWithin(due, core::Preferences().MtgEscrowDays)) {
                 items.push_back(
@@ -141,7 +167,7 @@ void AddExpiringLeases(std::vector<AlertItem>& items) {
         "FROM Lease,Building,Unit,Tenant "
         "WHERE (Lease.IdUnit=Unit.IdUnit) AND (Unit.IdBuilding=Building.IdBuilding) "
         "AND (Lease.IdTenant=Tenant.IdTenant) AND (Lease.Status = 'Contracted')",
-        [&](Recordset& row) {
+        LeaseName, [&](Recordset& row) {
             const Interval interval = TermUnit(TextOf(row, "TermType"));
             const Date due =
                 DateAdd(interval, row["Term"].AsInteger(), row["DateRenewed"].AsDate());
@@ -163,7 +189,7 @@ void AddAssociationPayments(std::vector<AlertItem>& items) {
 }
 
 void AddStoredMessages(std::vector<AlertItem>& items) {
-    ForEachRow("SELECT Description FROM Alerts", [&](Recordset& row) {
+    ForEachRow("SELECT Description FROM Alerts", MessageName, [&](Recordset& row) {
         items.push_back({core::kNone, 0, TextOf(row, "Description"), kMessagePicture});
     });
 }

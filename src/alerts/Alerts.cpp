@@ -1,10 +1,12 @@
 #include "alerts/Alerts.h"
 
+#include <optional>
+#include <string>
+
 #include "alerts/AlertSources.h"
 #include "core/Globals.h"
 #include "core/Preferences.h"
-#include "core/Session.h"
-#include "platform/database/dialect/Compiler.h"
+#include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
 namespace alerts {
@@ -15,12 +17,29 @@ using platform::Interval;
 
 namespace {
 
-/// Messages without a date were listed once and go; the others stay for their days.
+/// Deletes the messages that have been kept for their days, and those without a valid date, which
+/// are listed once. Each date is read here: one invalid date must not fail the deletion of all.
 void PurgeMessages() {
-    core::ExecuteSql("DELETE * FROM Alerts WHERE EntryDate IS NULL");
+    platform::Connection& books = core::App().Connection;
+    books.Execute("DELETE * FROM Alerts WHERE EntryDate IS NULL");
     const Date last = DateAdd(Interval::Day, -core::Preferences().KeepDays, platform::Today());
-    core::ExecuteSql("DELETE * FROM Alerts WHERE DateValue(EntryDate) <= " +
-                     platform::dialect::QuoteDate(last));
+    platform::Recordset dates;
+    dates.Open(books, "SELECT DISTINCT EntryDate FROM Alerts", platform::CursorMode::ReadOnly);
+    for (; !dates.Eof(); dates.MoveNext()) {
+        const std::string text = dates[std::size_t{0}].AsText();
+        const std::optional<Date> date = Date::TryParse(text);
+        if (date && *date > last) continue;
+        books.Execute("DELETE * FROM Alerts WHERE EntryDate = ?", {text});
+    }
+}
+
+/// The list is complete without the purge, which the next refresh repeats.
+void TryToPurgeMessages() {
+    try {
+        PurgeMessages();
+    } catch (const platform::Error&) {
+        return;
+    }
 }
 
 } // namespace
@@ -36,7 +55,7 @@ std::vector<AlertItem> GetAlerts() {
     if (wanted.InsRenew) AddInsuranceRenewals(items);
     if (wanted.HOAPmt) AddAssociationPayments(items);
     AddStoredMessages(items);
-    PurgeMessages();
+    TryToPurgeMessages();
     return items;
 }
 

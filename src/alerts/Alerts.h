@@ -7,8 +7,8 @@
 
 namespace alerts {
 
-/// One line of what needs attention: the record that it is about (kind and id, 0 for none), the
-/// line, and the word of its picture.
+/// One line of what needs attention: its record (kind and id, 0 for none), its text, and the name
+/// of its picture.
 struct AlertItem {
     std::int16_t recordKind = 0;
     std::int32_t recordId = 0;
@@ -16,10 +16,10 @@ struct AlertItem {
     std::string_view picture;
 };
 
-/// What needs attention today, worked out anew from the records in a fixed order of causes, each
-/// only if its preference is on. A cause whose query fails is left out. Messages of automatic
-/// events that have been kept for their days are removed after they are listed. A due date that is
-/// no date is a ConversionError or FieldError.
+/// Returns what needs attention today, found in the records in a fixed order of causes, each only
+/// if its preference is on. A cause whose query fails is left out. Messages of automated events
+/// that have been kept for their days, or that have no valid date, are deleted after they are
+/// listed. Throws Error, which names the record, if a due date is not a valid date.
 std::vector<AlertItem> GetAlerts();
 
 } // namespace alerts

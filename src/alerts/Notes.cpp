@@ -14,7 +14,7 @@ std::string NotesFile() {
 } // namespace
 
 std::string LoadNotes() {
-    if (!platform::FileExists(NotesFile())) return std::string(kNotesHint);
+    if (!platform::FileExists(NotesFile())) return {};
     return platform::ReadWholeFile(NotesFile());
 }
 

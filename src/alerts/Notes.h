@@ -5,15 +5,15 @@
 
 namespace alerts {
 
-/// What the note pad shows before anything was written.
+/// Shown in the note pad while it is empty.
 inline constexpr std::string_view kNotesHint = "Type here to enter notes or reminders.";
 
-/// The text of the note pad, the file beside the database; the hint when there is none. A file that
-/// can't be read is an Error.
+/// Returns the notes, which are kept in a file beside the database; empty without a file. Throws
+/// Error if the file can't be read.
 std::string LoadNotes();
 
-/// Replaces the file by this text in one step. An Error that says why when it can't be written; the
-/// old notes are then still there.
+/// Replaces the file with this text in one step. Throws Error if it can't be written; the old notes
+/// are kept then.
 void SaveNotes(std::string_view text);
 
 } // namespace alerts

@@ -3,29 +3,32 @@
 #include <string>
 
 #include "core/Globals.h"
-#include "core/Session.h"
-#include "platform/database/Recordset.h"
 #include "platform/database/dialect/Compiler.h"
 #include "platform/system/Clock.h"
+#include "platform/values/Errors.h"
 
 namespace alerts {
 
-using platform::Currency;
 using platform::Date;
 
 namespace {
 
-Currency Total(std::string_view sql) {
-    platform::Recordset rows;
-    if (core::OpenRecordset(rows, sql, core::Access::ReadOnly) < 1) return {};
-    const auto total = rows["Total"];
-    return total.IsNull() ? Currency() : total.AsCurrency();
+SummaryItem Sum(std::string_view name, std::string_view sql) {
+    SummaryItem item{name, {}, {}};
+    try {
+        const auto total = core::App().Connection.Scalar(sql);
+        if (total && !total->IsNull()) item.total = total->AsCurrency();
+    } catch (const platform::Error& failure) {
+        item.fault = failure.what();
+    }
+    return item;
 }
 
-Currency TransactionsSince(std::string_view ien, Date first) {
-    return Total(
-        "SELECT Sum(Amount) AS [Total] FROM Transactions WHERE (IEN = " + std::string(ien) +
-        ") AND (DateValue(DateEffective) >= " + platform::dialect::QuoteDate(first) + ")");
+SummaryItem TransactionsSince(std::string_view name, std::string_view ien, Date first) {
+    return Sum(name,
+               "SELECT Sum(Amount) AS [Total] FROM Transactions WHERE (IEN = " + std::string(ien) +
+                   ") AND (DateValue(DateEffective) >= " + platform::dialect::QuoteDate(first) +
+                   ")");
 }
 
 constexpr std::string_view kIncome = "0";
@@ -39,26 +42,27 @@ std::vector<SummaryGroup> GetPortfolioSummary() {
     const Date firstOfYear(today.Year(), 1, 1);
     return {
         {"Financial Information",
-         {{"Income - Month to Date", TransactionsSince(kIncome, firstOfMonth)},
-          {"Income - Year to Date", TransactionsSince(kIncome, firstOfYear)},
-          {"Expenses - Month to Date", TransactionsSince(kExpense, firstOfMonth)},
-          {"Expenses - Year to Date", TransactionsSince(kExpense, firstOfYear)}}},
+         {TransactionsSince("Income - Month to Date", kIncome, firstOfMonth),
+          TransactionsSince("Income - Year to Date", kIncome, firstOfYear),
+          TransactionsSince("Expenses - Month to Date", kExpense, firstOfMonth),
+          TransactionsSince("Expenses - Year to Date", kExpense, firstOfYear)}},
         {"Lease Information",
-         {{"Total Rent Due", Total("SELECT Sum(Amount) AS [Total] FROM RentLog WHERE (Class = 1) "
-                                   "AND (IdTransaction = 0)")},
-          {"Total Rent Subsidy Due",
-           Total("SELECT Sum(Amount) AS [Total] FROM RentLog WHERE (Class = 2) "
-                 "AND (IdTransaction = 0)")},
-          {"Lease Option Credits",
-           Total("SELECT Sum(Amount) AS [Total] FROM RentLog WHERE (Class = 4)")},
-          {"Total Deposits Held", Total("SELECT Sum(DepositBalance) AS [Total] FROM Lease")}}},
+         {Sum("Total Rent Due",
+              "SELECT Sum(Amount) AS [Total] FROM RentLog WHERE (Class = 1) "
+              "AND (IdTransaction = 0)"),
+          Sum("Total Rent Subsidy Due",
+              "SELECT Sum(Amount) AS [Total] FROM RentLog WHERE (Class = 2) "
+              "AND (IdTransaction = 0)"),
+          Sum("Lease Option Credits",
+              "SELECT Sum(Amount) AS [Total] FROM RentLog WHERE (Class = 4)"),
+          Sum("Total Deposits Held", "SELECT Sum(DepositBalance) AS [Total] FROM Lease")}},
         {"Mortgage Information",
-         {{"Total Mortgage Balances", Total("SELECT Sum(CurrentPV) AS [Total] FROM Mortgage")},
-          {"Mortgage Payments Due",
-           Total("SELECT Sum(Total) AS [Total] FROM MortgageLog WHERE (IdTransaction = 0)")}}},
+         {Sum("Total Mortgage Balances", "SELECT Sum(CurrentPV) AS [Total] FROM Mortgage"),
+          Sum("Mortgage Payments Due",
+              "SELECT Sum(Total) AS [Total] FROM MortgageLog WHERE (IdTransaction = 0)")}},
         {"Building Information",
-         {{"Total Market Value", Total("SELECT Sum(MktValue) AS [Total] FROM Building")},
-          {"Total Equity", Total("SELECT Sum(Equity) AS [Total] FROM Building")}}},
+         {Sum("Total Market Value", "SELECT Sum(MktValue) AS [Total] FROM Building"),
+          Sum("Total Equity", "SELECT Sum(Equity) AS [Total] FROM Building")}},
     };
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -10,6 +11,8 @@ namespace alerts {
 struct SummaryItem {
     std::string_view name;
     platform::Currency total;
+    /// Why the sum can't be made; empty if it was made. The total is then 0 and means nothing.
+    std::string fault;
 };
 
 struct SummaryGroup {
@@ -17,7 +20,7 @@ struct SummaryGroup {
     std::vector<SummaryItem> items;
 };
 
-/// The figures of the portfolio as they stand today. A sum without rows, or one that fails, is 0.
+/// Returns the figures of the portfolio as of today. A sum over no rows is 0.
 std::vector<SummaryGroup> GetPortfolioSummary();
 
 } // namespace alerts

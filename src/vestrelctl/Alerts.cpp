@@ -1,10 +1,14 @@
 #include "alerts/Alerts.h"
 
 #include <iostream>
+#include <string>
+
+#include <fmt/core.h>
 
 #include "alerts/PortfolioSummary.h"
 #include "core/Preferences.h"
 #include "platform/values/Csv.h"
+#include "platform/values/Errors.h"
 #include "platform/values/Format.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
@@ -21,14 +25,23 @@ void PrintAlerts() {
     }
 }
 
+/// Throws Error after the last figure if some could not be worked out.
 void PrintSummary() {
+    std::string faults;
     std::cout << "\"Item\",\"Data\"\n";
     for (const alerts::SummaryGroup& group : alerts::GetPortfolioSummary()) {
         for (const alerts::SummaryItem& item : group.items) {
+            if (!item.fault.empty()) {
+                faults +=
+                    fmt::format("{}{}: {}", faults.empty() ? "" : "; ", item.name, item.fault);
+                std::cout << platform::CsvText(item.name) << ",\n";
+                continue;
+            }
             std::cout << platform::CsvText(item.name) << ','
                       << platform::CsvText(platform::FormatMoney(item.total)) << '\n';
         }
     }
+    if (!faults.empty()) throw platform::Error(faults);
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "core/Globals.h"
 #include "core/Preferences.h"
 #include "platform/system/Clock.h"
+#include "platform/values/Errors.h"
 #include "platform/values/Format.h"
 #include "store/CreateDatabase.h"
 #include "support/TemporaryFolder.h"
@@ -141,6 +142,39 @@ TEST_F(HomePage, ShowsAMessageForItsDaysAndOneWithoutADayOnce) {
     EXPECT_TRUE(Texts().empty());
 }
 
+TEST_F(HomePage, DeletesMessagesWhoseDateIsBlankOrInvalidAndStillTheOldOnes) {
+    Run("INSERT INTO Alerts (EntryDate, Description) VALUES ('', 'blank')");
+    Run("INSERT INTO Alerts (EntryDate, Description) VALUES ('soon', 'invalid')");
+    Run("INSERT INTO Alerts (EntryDate, Description) VALUES ('01/01/2024', 'old')");
+    Run("INSERT INTO Alerts (EntryDate, Description) VALUES ('03/10/2024', 'new')");
+    EXPECT_EQ(Texts().size(), 4U);
+    EXPECT_EQ(Texts(), Lines{"new"});
+}
+
+TEST_F(HomePage, NamesTheRecordWhoseDateStopsIt) {
+    Run("INSERT INTO Mortgage (IdMortgage, AccountNumber, LastEscrowReview) "
+        "VALUES (5, 'A-1', 'soon')");
+    try {
+        alerts::GetAlerts();
+        FAIL();
+    } catch (const platform::Error& failure) {
+        EXPECT_TRUE(std::string(failure.what()).starts_with("Mortgage account # A-1: "))
+            << failure.what();
+    }
+}
+
+TEST_F(HomePage, MarksASumThatCannotBeMade) {
+    Run("INSERT INTO Transactions (DateEffective, Amount, IEN) VALUES ('soon', 1, 0)");
+    int faults = 0;
+    for (const auto& group : alerts::GetPortfolioSummary()) {
+        for (const auto& item : group.items) {
+            if (!item.fault.empty()) ++faults;
+            EXPECT_EQ(item.fault.empty(), !item.name.starts_with("Income")) << item.fault;
+        }
+    }
+    EXPECT_EQ(faults, 2);
+}
+
 TEST_F(HomePage, SumsUpThePortfolio) {
     for (const char* row : {"'03/01/2024', 100.10, 0", "'02/29/2024', 20, 0", "'12/31/2023', 7, 0",
                             "'03/09/2024', 30, 1", "'03/09/2024', 5, 2"}) {
@@ -175,7 +209,7 @@ TEST_F(HomePage, SumsUpThePortfolio) {
 }
 
 TEST_F(HomePage, KeepsTheNotesBesideTheDatabase) {
-    EXPECT_EQ(alerts::LoadNotes(), alerts::kNotesHint);
+    EXPECT_EQ(alerts::LoadNotes(), "");
     alerts::SaveNotes("call the plumber\n\xC3\xA9");
     EXPECT_EQ(alerts::LoadNotes(), "call the plumber\n\xC3\xA9");
     core::App().DbPath = (folder_ / "nowhere").string();

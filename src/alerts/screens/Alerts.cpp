@@ -7,11 +7,12 @@
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QSplitter>
+#include <QTextDocument>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <exception>
-#include <map>
 
 #include "alerts/Alerts.h"
 #include "alerts/Notes.h"
@@ -30,12 +31,13 @@ using platform::qt::ToScreen;
 
 namespace {
 
-constexpr int kNarrow = 640; // less than this has no room for two columns
+constexpr int kNarrow = 640; // below this width there is no room for two columns
+constexpr int kTypingPauseMs = 1000;
 constexpr int kPictureSize = 20;
 constexpr int kSideWidth = 340;
 constexpr int kFewestInfoLines = 6;
 
-/// A record's picture is that of its category, where it has no picture of its own.
+/// Returns a record's picture, or the picture of its category if it has none of its own.
 QIcon PictureOf(std::string_view word) {
     const QString name = ToScreen(word).toLower();
     const QIcon own = LoadIcon(name);
@@ -51,7 +53,8 @@ Alerts::Alerts(QWidget* parent)
       list_(new QListWidget(this)),
       smnu_(new SideMenu(this)),
       info_(new QTreeWidget(this)),
-      notes_(new QPlainTextEdit(this)) {
+      notes_(new QPlainTextEdit(this)),
+      saving_(new QTimer(this)) {
     SetUpAlerts();
     SetUpSide();
     parts_->setChildrenCollapsible(false);
@@ -98,13 +101,20 @@ void Alerts::SetUpSide() {
     info_->header()->setSectionsMovable(false);
     info_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     info_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    // As high as its lines, and no higher; where there is less room it scrolls.
+    // As high as its lines, and no higher; it scrolls if there is less room.
     info_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     info_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     info_->setMinimumHeight(kFewestInfoLines * info_->fontMetrics().lineSpacing());
     notes_->setObjectName(QStringLiteral("mtxtNotes"));
     notes_->setAccessibleName(tr("Notes"));
     notes_->setTabChangesFocus(true);
+    notes_->setPlaceholderText(ToScreen(kNotesHint));
+    saving_->setSingleShot(true);
+    saving_->setInterval(kTypingPauseMs);
+    connect(saving_, &QTimer::timeout, this, &Alerts::TryToSaveNotes);
+    connect(notes_, &QPlainTextEdit::textChanged, this, [this] {
+        if (notes_->document()->isModified()) saving_->start();
+    });
 
     smnu_->AddGroup(tr("Database Summary"), info_);
     QWidget* const wizards = smnu_->AddGroup(tr("Wizards"));
@@ -127,7 +137,10 @@ void Alerts::SetUpSide() {
 void Alerts::BindItem(const QString& key, QAction& action) {
     auto* const item = smnu_->findChild<QToolButton*>(key);
     Q_ASSERT(item != nullptr);
-    const auto follow = [item, &action] { item->setEnabled(action.isEnabled()); };
+    const auto follow = [item, &action] {
+        item->setEnabled(action.isEnabled());
+        item->setToolTip(action.toolTip());
+    };
     connect(&action, &QAction::changed, item, follow);
     connect(item, &QToolButton::clicked, &action, &QAction::trigger);
     follow();
@@ -135,14 +148,19 @@ void Alerts::BindItem(const QString& key, QAction& action) {
 
 void Alerts::Refresh() {
     std::exception_ptr failure;
+    std::string fault;
     try {
         ShowInfo();
         ShowAlerts();
-    } catch (...) {
+    } catch (const std::exception& error) {
         failure = std::current_exception();
+        fault = error.what();
+        ShowAlertsFault(ToScreen(fault));
     }
     LoadNotes();
-    if (failure) std::rethrow_exception(failure);
+    const bool isTold = fault == toldFault_;
+    toldFault_ = fault;
+    if (failure && !isTold) std::rethrow_exception(failure);
 }
 
 void Alerts::ShowInfo() {
@@ -156,48 +174,75 @@ void Alerts::ShowInfo() {
         auto* const heading = new QTreeWidgetItem(info_, {ToScreen(group.heading)});
         heading->setFont(0, bold);
         for (const SummaryItem& item : group.items) {
-            auto* const row = new QTreeWidgetItem(
-                info_, {ToScreen(item.name), ToScreen(platform::FormatMoney(item.total))});
+            auto* const row = new QTreeWidgetItem(info_, {ToScreen(item.name)});
             row->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+            if (item.fault.empty()) {
+                row->setText(1, ToScreen(platform::FormatMoney(item.total)));
+                continue;
+            }
+            row->setText(1, tr("not available"));
+            row->setIcon(1, LoadIcon(QStringLiteral("warning")));
+            row->setToolTip(0, ToScreen(item.fault));
+            row->setToolTip(1, ToScreen(item.fault));
         }
     }
 }
 
 void Alerts::ShowAlerts() {
+    const std::vector<AlertItem> alerts = GetAlerts();
     list_->clear();
     records_.clear();
-    count_->clear();
-    std::map<std::string_view, QIcon> pictures;
-    const auto add = [&](const QString& text, std::string_view picture) {
-        auto [found, isNew] = pictures.try_emplace(picture);
-        if (isNew) found->second = PictureOf(picture);
-        auto* const row = new QListWidgetItem(found->second, text, list_);
-        row->setToolTip(text);
-    };
-    for (const AlertItem& alert : GetAlerts()) {
-        add(ToScreen(alert.text), alert.picture);
+    for (const AlertItem& alert : alerts) {
+        AddRow(ToScreen(alert.text), alert.picture);
         records_.emplace_back(alert.recordKind, alert.recordId);
     }
-    if (records_.empty()) add(tr("No Active Alerts."), "WARNING");
+    if (records_.empty()) AddRow(tr("No Active Alerts."), "WARNING");
     count_->setText(tr("(%1) Active Alerts").arg(list_->count()));
     list_->setCurrentRow(0);
 }
 
+void Alerts::ShowAlertsFault(const QString& reason) {
+    list_->clear();
+    records_.clear();
+    count_->setText(tr("Alerts are not available"));
+    AddRow(reason, "WARNING");
+}
+
+void Alerts::AddRow(const QString& text, std::string_view picture) {
+    auto* const row = new QListWidgetItem(PictureOf(picture), text, list_);
+    row->setToolTip(text);
+}
+
 void Alerts::LoadNotes() {
-    // What was typed and not written yet is newer than the file.
+    // Unsaved changes are newer than the file.
     if (notes_->document()->isModified()) return;
     const QString text = ToScreen(alerts::LoadNotes());
     if (text != notes_->toPlainText()) notes_->setPlainText(text);
 }
 
+/// Notes that can't be saved now are tried again after the next change, and at the end, which says
+/// why they can't be.
+void Alerts::TryToSaveNotes() {
+    try {
+        SaveNotes();
+    } catch (const std::exception&) {
+        return;
+    }
+}
+
 void Alerts::SaveNotes() {
     if (!notes_->document()->isModified()) return;
+    saving_->stop();
     alerts::SaveNotes(NotesText());
     notes_->document()->setModified(false);
 }
 
 std::string Alerts::NotesText() const {
-    return platform::qt::FromScreen(notes_->toPlainText());
+    // The plain text would turn no-break spaces into spaces.
+    QString text = notes_->document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    text.replace(QChar::LineSeparator, QLatin1Char('\n'));
+    return platform::qt::FromScreen(text);
 }
 
 void Alerts::OpenAlert() const {

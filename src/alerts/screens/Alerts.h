@@ -8,6 +8,7 @@
 
 class QAction;
 class QLabel;
+class QTimer;
 class QListWidget;
 class QPlainTextEdit;
 class QSplitter;
@@ -25,14 +26,15 @@ class Alerts : public QWidget {
   public:
     explicit Alerts(QWidget* parent = nullptr);
 
-    /// Works out everything anew. What fails in the figures or the alerts is thrown when the notes
-    /// have been read, so that nothing is typed over them.
+    /// Reads the figures, the alerts and the notes again. If the alerts can't be listed, the list
+    /// shows why, and the Error is thrown, after the notes were read; the same failure is not
+    /// thrown again before a refresh has succeeded.
     void Refresh();
-    /// Writes the notes if they were changed. An Error that says why when they can't be written.
+    /// Writes the notes if they were changed. Throws Error if they can't be written.
     void SaveNotes();
     std::string NotesText() const;
 
-    /// An item of the side menu does what the action does, and can be chosen when that can.
+    /// Makes an item of the side menu trigger the action; it is enabled while the action is.
     void BindItem(const QString& key, QAction& action);
 
   protected:
@@ -43,7 +45,10 @@ class Alerts : public QWidget {
     void SetUpSide();
     void ShowInfo();
     void ShowAlerts();
+    void ShowAlertsFault(const QString& reason);
+    void AddRow(const QString& text, std::string_view picture);
     void LoadNotes();
+    void TryToSaveNotes();
     void OpenAlert() const;
 
     QSplitter* parts_;
@@ -52,6 +57,8 @@ class Alerts : public QWidget {
     SideMenu* smnu_;
     QTreeWidget* info_;
     QPlainTextEdit* notes_;
+    QTimer* saving_; ///< runs from the last change of the notes until they are saved
+    std::string toldFault_;
     std::vector<std::pair<std::int16_t, std::int32_t>> records_; ///< kind and id, a pair each row
 };
 

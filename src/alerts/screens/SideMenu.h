@@ -8,19 +8,20 @@ class QVBoxLayout;
 
 namespace alerts::screens {
 
-/// Groups below one another, each of which a click on its heading folds away. A group holds a
-/// widget, or items to choose.
+/// Groups in a column, each of which a click on its heading collapses. A group holds a widget, or
+/// items to choose.
 class SideMenu : public QWidget {
     Q_OBJECT
 
   public:
     explicit SideMenu(QWidget* parent = nullptr);
 
-    /// A group around a widget, which it takes over; one that may grow takes what room is left.
+    /// Adds a group with a widget, which it owns; a widget that can expand takes the remaining
+    /// room.
     void AddGroup(const QString& title, QWidget* content);
-    /// A group of items, to be filled by AddItem.
+    /// Adds a group of items, to be filled by AddItem.
     QWidget* AddGroup(const QString& title);
-    /// An item is found by its key, which is its object name.
+    /// Adds an item, whose object name is its key.
     QToolButton* AddItem(QWidget* group, const QString& key, const QString& text);
     /// Keeps the groups together at the top.
     void EndGroups();

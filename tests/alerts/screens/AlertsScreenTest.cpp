@@ -146,7 +146,8 @@ TEST_F(AlertsPage, SumsUpUnderBoldHeadings) {
 TEST_F(AlertsPage, KeepsTheNotes) {
     const std::string file = PathTo("Notes.txt");
     Show();
-    EXPECT_EQ(page_.NotesText(), "Type here to enter notes or reminders.");
+    EXPECT_EQ(page_.NotesText(), "") << "the hint is no text";
+    EXPECT_EQ(FromScreen(Notes().placeholderText()), "Type here to enter notes or reminders.");
     support::Type(Notes(), "Ring O'Brien");
     page_.Refresh();
     EXPECT_EQ(page_.NotesText(), "Ring O'Brien") << "what isn't written yet stays";
@@ -157,12 +158,41 @@ TEST_F(AlertsPage, KeepsTheNotes) {
     EXPECT_EQ(page_.NotesText(), "From elsewhere\nTwo");
 }
 
+TEST_F(AlertsPage, SavesTheNotesByItselfLetterByLetter) {
+    const std::string file = PathTo("Notes.txt");
+    Show();
+    Notes().insertPlainText(QStringLiteral("12\u00a0Elm\n  two\n\n"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return platform::FileExists(file); }));
+    EXPECT_EQ(platform::ReadWholeFile(file),
+              "12\xC2\xA0"
+              "Elm\n  two\n\n");
+}
+
 TEST_F(AlertsPage, ReadsTheNotesThoughADateIsNone) {
     platform::WriteFileAtomically(PathTo("Notes.txt"), "Keep me");
     Run("UPDATE Building SET HOANextDue = 'soon' WHERE IdBuilding = 11");
     EXPECT_THROW(page_.Refresh(), platform::Error);
     EXPECT_EQ(page_.NotesText(), "Keep me");
-    EXPECT_EQ(Count(), "");
+    EXPECT_EQ(Count(), "Alerts are not available");
+    EXPECT_THAT(FromScreen(List().item(0)->text()), testing::HasSubstr("Building Oak Rd: "));
+    page_.Refresh(); // the same again is not thrown again
+    Run("UPDATE Building SET HOANextDue = '' WHERE IdBuilding = 11");
+    page_.Refresh();
+    EXPECT_EQ(Count(), "(1) Active Alerts");
+    Run("UPDATE Building SET HOANextDue = 'soon' WHERE IdBuilding = 11");
+    EXPECT_THROW(page_.Refresh(), platform::Error);
+}
+
+TEST_F(AlertsPage, MarksASumThatCannotBeMade) {
+    Run("INSERT INTO Transactions (IdTransaction, DateEffective, Amount, IEN) "
+        "VALUES (90, 'soon', 1, 0)");
+    Show();
+    const auto& info = Find<QTreeWidget>(page_, "lvwInfo");
+    const QTreeWidgetItem& income = *info.topLevelItem(1);
+    EXPECT_EQ(FromScreen(income.text(1)), "not available");
+    EXPECT_THAT(FromScreen(income.toolTip(1)), testing::HasSubstr("soon"));
+    EXPECT_FALSE(income.icon(1).isNull());
+    EXPECT_EQ(FromScreen(info.topLevelItem(3)->text(1)), "0.00");
 }
 
 TEST_F(AlertsPage, OffersTheWizardsThatThereAre) {

@@ -1,0 +1,40 @@
+#include "alerts/FirstSteps.h"
+
+#include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "platform/values/Errors.h"
+
+namespace alerts {
+
+namespace {
+
+constexpr FirstStep kBuilding = {
+    "These books are empty. Begin with a building and its units; then come the tenants and their "
+    "leases.",
+    "Add a Building", core::kBuilding};
+constexpr FirstStep kTenant = {
+    "Next come your tenants. With a unit and a tenant you can write a lease.", "Add a Tenant",
+    core::kTenant};
+constexpr FirstStep kLease = {
+    "Next come your leases: from then on the rent is charged by itself, day by day.", "Add a Lease",
+    core::kLease};
+
+bool HasRows(const char* sql) {
+    return core::App().Connection.Scalar(sql).has_value();
+}
+
+} // namespace
+
+const FirstStep* NextFirstStep() {
+    try {
+        if (HasRows("SELECT IdLease FROM Lease") || HasRows("SELECT IdMortgage FROM Mortgage")) {
+            return nullptr;
+        }
+        if (!HasRows("SELECT IdUnit FROM Unit")) return &kBuilding;
+        return HasRows("SELECT IdTenant FROM Tenant") ? &kLease : &kTenant;
+    } catch (const platform::Error&) {
+        return nullptr;
+    }
+}
+
+} // namespace alerts

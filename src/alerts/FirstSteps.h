@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace alerts {
+
+/// The next thing to do in books that are still being set up.
+struct FirstStep {
+    std::string_view text;
+    /// The text of the command that does it, and the kind of record that it adds.
+    std::string_view command;
+    std::int16_t kind = 0;
+};
+
+/// Returns the next step in books without a lease and without a mortgage: a building, then a
+/// tenant, then a lease. Returns null once there is a lease or a mortgage, and if the books can't
+/// be read.
+const FirstStep* NextFirstStep();
+
+} // namespace alerts
