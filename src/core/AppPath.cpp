@@ -2,6 +2,9 @@
 
 #include <unistd.h>
 
+#include "core/Globals.h"
+#include "platform/system/Paths.h"
+
 namespace core {
 
 std::string ChooseAppPath(const std::filesystem::path& executableDirectory,
@@ -11,6 +14,12 @@ std::string ChooseAppPath(const std::filesystem::path& executableDirectory,
     std::error_code ignored;
     std::filesystem::create_directories(ours, ignored);
     return ours.string();
+}
+
+std::filesystem::path SiblingProgram(std::string_view name) {
+    std::filesystem::path own = App().AppPath + std::string(name);
+    if (platform::FileExists(own.string())) return own;
+    return platform::ExecutablePath().parent_path() / name;
 }
 
 } // namespace core

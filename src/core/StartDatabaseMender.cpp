@@ -1,3 +1,4 @@
+#include "core/AppPath.h"
 #include "core/FindDatabase.h"
 #include "core/Globals.h"
 #include "core/RegistryKeys.h"
@@ -25,12 +26,12 @@ constexpr std::string_view kNoMender =
 void StartDatabaseMender(const MenderHandover& handover) {
     platform::TheDialogs().ShowMessage("Database Notice", kNotice, platform::Icon::Information);
 
-    const std::string mender = App().AppPath + "dbmender.exe";
+    const std::filesystem::path mender = SiblingProgram("dbmender.exe");
     std::vector<std::string> arguments = {"/nowarning",
                                           "/appstart=" + platform::ExecutablePath().string()};
     if (App().DbName != kDefaultDatabase) arguments.push_back("/altdb=" + App().DbName);
 
-    if (platform::FileExists(mender)) {
+    if (platform::FileExists(mender.string())) {
         handover.start(mender, arguments);
     } else {
         platform::TheDialogs().ShowMessage("Error", kNoMender, platform::Icon::Critical);

@@ -5,6 +5,8 @@
 #include "core/FindDatabase.h"
 #include "core/Globals.h"
 #include "platform/database/Connection.h"
+#include "platform/database/FileDamage.h"
+#include "platform/registry/Registry.h"
 #include "platform/values/Errors.h"
 #include "store/CreateDatabase.h"
 #include "store/Tables.h"
@@ -15,7 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The first table or field that the books have and this database hasn't; empty for none.
+/// Returns the first table or field of the books that this database lacks; empty if it has all.
 std::string MissingPart(const platform::dialect::Catalog& tables) {
     for (const store::TableDefinition& wanted : store::BooksTables()) {
         const auto* const table = tables.Find(wanted.name);
@@ -31,7 +33,7 @@ std::string MissingPart(const platform::dialect::Catalog& tables) {
 
 } // namespace
 
-Diagnosis Examine(const fs::path& folder) {
+Diagnosis Examine(const fs::path& folder, Depth depth) {
     Diagnosis found;
     found.folder = folder;
     std::error_code ignored;
@@ -49,6 +51,13 @@ Diagnosis Examine(const fs::path& folder) {
         platform::Connection database;
         database.Open(folder / store::kDatabaseFile, platform::OpenMode::ReadOnly);
         found.detail = MissingPart(database.Tables());
+        if (depth == Depth::WholeFile) {
+            std::string damage = platform::FileDamage(folder / store::kDatabaseFile);
+            if (!damage.empty()) {
+                found.detail = std::move(damage);
+                return as(Condition::Damaged);
+            }
+        }
     } catch (const platform::Error& failure) {
         found.detail = failure.what();
         return as(Condition::NotADatabase);
@@ -63,9 +72,10 @@ Diagnosis ExamineRegistered(const std::string& dbName) {
     core::App().DbName = dbName;
     core::FindDatabase(nullptr);
     const std::string& folder = core::App().DbPath;
-    if (!folder.empty()) return Examine(folder);
+    if (!folder.empty()) return Examine(folder, Depth::WholeFile);
     Diagnosis unknown;
-    unknown.condition = Condition::NotRegistered;
+    unknown.condition =
+        platform::TheRegistry().IsDamaged() ? Condition::SettingsDamaged : Condition::NotRegistered;
     return unknown;
 }
 
@@ -83,6 +93,9 @@ std::string Explain(const Diagnosis& diagnosis) {
                        : fmt::format("The database {} is in order.", file);
         case Condition::NotRegistered:
             return "Vestrel does not know yet where your database is.";
+        case Condition::SettingsDamaged:
+            return "The settings of this computer are damaged, so Vestrel no longer knows where "
+                   "your database is. The database itself is not affected: choose its folder.";
         case Condition::NoFolder:
             return fmt::format("The folder {} is missing.", folder);
         case Condition::NoFile:
@@ -92,13 +105,11 @@ std::string Explain(const Diagnosis& diagnosis) {
                                diagnosis.detail);
         case Condition::NoVersion:
             return fmt::format(
-                "The database {} has all its tables, but the file that tells its "
-                "version is missing.",
-                file);
+                "The database {} has all its tables, but its version file is missing.", file);
         case Condition::TooOld:
             return diagnosis.version == 0
                        ? fmt::format(
-                             "The database {} does not tell its version, and {} is missing "
+                             "The version of the database {} is not known, and {} is missing "
                              "in it.",
                              file, diagnosis.detail)
                        : fmt::format(
@@ -108,6 +119,10 @@ std::string Explain(const Diagnosis& diagnosis) {
         case Condition::Incomplete:
             return fmt::format("The database {} is damaged: {} is missing.", file,
                                diagnosis.detail);
+        case Condition::Damaged:
+            return fmt::format(
+                "The database {} is damaged: {}. Restore a backup of it if you have one.", file,
+                diagnosis.detail);
     }
     return {};
 }

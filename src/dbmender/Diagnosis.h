@@ -8,30 +8,35 @@ namespace dbmender {
 
 enum class Condition {
     Ready,
-    NotRegistered, ///< no folder has the database's name
+    NotRegistered,   ///< no folder is registered under the database's name
+    SettingsDamaged, ///< what is registered can't be read
     NoFolder,
     NoFile,
-    NotADatabase, ///< it can't be opened, or is something else
-    NoVersion,    ///< all tables are there, and only the file that tells its version is missing
+    NotADatabase, ///< it can't be opened, or isn't a database
+    NoVersion,    ///< all tables are there; only the version file is missing
     TooOld,
     Incomplete, ///< tables or fields are missing though its version is right
+    Damaged,    ///< the engine's check finds faults in the file
 };
 
 /// What is known of a database.
 struct Diagnosis {
     Condition condition = Condition::Ready;
-    std::filesystem::path folder; ///< empty when it isn't registered
-    std::int16_t version = 0;     ///< 0 when it isn't told
-    std::string detail;           ///< what is missing, or why it can't be opened
+    std::filesystem::path folder; ///< empty if it isn't registered
+    std::int16_t version = 0;     ///< 0 if it isn't known
+    std::string detail;           ///< what is missing or damaged, or why it can't be opened
 };
 
-/// The database in a folder. It is only read.
-Diagnosis Examine(const std::filesystem::path& folder);
+/// Whether the engine checks the whole file, which takes a while for large books.
+enum class Depth { Tables, WholeFile };
 
-/// The database that the registry has under this name.
+/// Examines the database in a folder, which is only read.
+Diagnosis Examine(const std::filesystem::path& folder, Depth depth = Depth::Tables);
+
+/// Examines the whole database that is registered under this name.
 Diagnosis ExamineRegistered(const std::string& dbName);
 
-/// What is wrong, in one sentence and with its place, for a person.
+/// Returns what is wrong, with its place, in a sentence for the user.
 std::string Explain(const Diagnosis& diagnosis);
 
 } // namespace dbmender

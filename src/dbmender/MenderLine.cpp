@@ -7,7 +7,7 @@ namespace dbmender {
 
 using platform::EqualIgnoringCase;
 
-// A path holds "/" itself, so a switch is a whole word here and its value the rest of it.
+// Paths contain "/", so here a switch is a whole argument and its value the rest of it.
 MenderLine ReadMenderLine(std::span<const char* const> words) {
     MenderLine line;
     line.dbName = core::kDefaultDatabase;

@@ -5,19 +5,19 @@
 
 namespace dbmender {
 
-/// What the window program hands over on the command line.
+/// The repair tool's command line.
 struct MenderLine {
-    /// Whether to ask that the other programs be shut down; the caller may have done so.
+    /// Whether to ask the user to close the other programs; the caller may have done so.
     bool warns = true;
-    /// The program to start afterwards; empty when nobody asked for one.
+    /// The program to start afterwards; empty for none.
     std::string appStart;
     /// The registered name of the database.
     std::string dbName;
 };
 
-/// Reads the switches "/nowarning", "/appstart=PROGRAM" and "/altdb=NAME", a word each; their names
-/// are compared without regard to case. Others are skipped. A database's name is taken in lower
-/// case, as the window program takes it.
+/// Reads the switches "/nowarning", "/appstart=PROGRAM" and "/altdb=NAME", an argument each, whose
+/// names are compared without regard to case. Others are ignored. A database's name is converted to
+/// lower case, as in the window program.
 MenderLine ReadMenderLine(std::span<const char* const> words);
 
 } // namespace dbmender

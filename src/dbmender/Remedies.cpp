@@ -21,9 +21,21 @@ bool HasDatabase(const fs::path& folder) {
     return fs::exists(folder / store::kDatabaseFile, ignored);
 }
 
-/// The program's own "db", or the first of "db2", "db3", ... without a database.
+/// A build folder may be deleted at any time, with the books in it.
+bool IsInBuildFolder(fs::path folder) {
+    std::error_code ignored;
+    for (; folder.has_relative_path(); folder = folder.parent_path()) {
+        if (fs::exists(folder / "CMakeCache.txt", ignored)) return true;
+    }
+    return false;
+}
+
+/// Returns "db" in the program's directory, or in the user's data directory if the program runs
+/// from a build folder; or the first of "db2", "db3", ... without a database.
 fs::path FreeFolder() {
-    const std::string usual = core::App().AppPath + "db";
+    const fs::path program = core::App().AppPath;
+    const std::string usual =
+        ((IsInBuildFolder(program) ? platform::DataHome() / "Vestrel" : program) / "db").string();
     fs::path folder = usual;
     for (int number = 2; HasDatabase(folder); ++number)
         folder = usual + std::to_string(number);
@@ -36,14 +48,14 @@ std::string ObjectionToMaking(const fs::path& folder) {
         return fmt::format("{} is a file, not a folder.", folder.string());
     }
     if (HasDatabase(folder)) {
-        return "There is a database in this folder already. It would not be touched: use it, or "
-               "choose another folder.";
+        return "There is a database in this folder already, which is never overwritten: use it, "
+               "or choose another folder.";
     }
     return {};
 }
 
-/// Zip codes and tax offices stand beside the program, once for all databases; the books do
-/// without.
+/// Makes the zip codes and tax offices, which lie beside the program once for all databases. The
+/// books can do without them.
 void MakeReferences() {
     if (core::App().HasReferences) return;
     try {
@@ -64,27 +76,30 @@ std::vector<Remedy> RemediesFor(const Diagnosis& diagnosis) {
                     Remedy::MakeSample};
         case Condition::NotRegistered:
             return {Remedy::MakeEmpty, Remedy::MakeSample, Remedy::UseExisting};
+        case Condition::SettingsDamaged:
         case Condition::NoFolder:
         case Condition::NoFile:
         case Condition::NotADatabase:
         case Condition::TooOld:
         case Condition::Incomplete:
+        case Condition::Damaged:
             break;
     }
-    // Where there were books once, they are more likely to have moved than to be begun anew.
+    // Books that existed once are more likely to have been moved than to be started again.
     return {Remedy::UseExisting, Remedy::MakeEmpty, Remedy::MakeSample};
 }
 
 fs::path ProposedFolder(const Diagnosis& diagnosis, Remedy remedy) {
     const bool isMaking = remedy == Remedy::MakeEmpty || remedy == Remedy::MakeSample;
     if (!isMaking) return diagnosis.folder;
-    if (!diagnosis.folder.empty() && !HasDatabase(diagnosis.folder)) return diagnosis.folder;
+    const bool isFree = !diagnosis.folder.empty() && !HasDatabase(diagnosis.folder);
+    if (isFree && !IsInBuildFolder(diagnosis.folder)) return diagnosis.folder;
     return FreeFolder();
 }
 
 std::string Objection(const Choice& choice) {
     if (choice.folder.empty()) return "Choose a folder.";
-    if (choice.folder.is_relative()) return "Give the whole path of the folder.";
+    if (choice.folder.is_relative()) return "Enter the full path of the folder.";
     if (choice.remedy == Remedy::MakeEmpty || choice.remedy == Remedy::MakeSample) {
         return ObjectionToMaking(choice.folder);
     }
@@ -97,6 +112,10 @@ std::string Objection(const Choice& choice) {
 void Apply(const Choice& choice, const std::string& dbName, const shell::SampleProgress& progress) {
     if (const std::string objection = Objection(choice); !objection.empty()) {
         throw platform::Error(objection);
+    }
+    if (choice.remedy == Remedy::UseExisting || choice.remedy == Remedy::WriteVersion) {
+        const Diagnosis found = Examine(choice.folder, Depth::WholeFile);
+        if (found.condition == Condition::Damaged) throw platform::Error(Explain(found));
     }
     switch (choice.remedy) {
         case Remedy::WriteVersion:

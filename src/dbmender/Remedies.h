@@ -10,30 +10,30 @@
 namespace dbmender {
 
 enum class Remedy {
-    WriteVersion, ///< the database is used as it is, once its version is told
+    WriteVersion, ///< writes the version file and uses the database as it is
     MakeEmpty,
     MakeSample,
     UseExisting,
 };
 
-/// What helps, and where.
+/// A remedy and its folder.
 struct Choice {
     Remedy remedy = Remedy::MakeEmpty;
     std::filesystem::path folder;
 };
 
-/// What can be offered, the best first.
+/// Returns the remedies to offer, the best first.
 std::vector<Remedy> RemediesFor(const Diagnosis& diagnosis);
 
-/// A folder to propose: that of the database itself where it helps to use that, else one beside the
-/// program in which no database stands.
+/// Returns the folder to propose: the database's own if it can be used, otherwise one without a
+/// database. Never proposes to make a database inside a build folder.
 std::filesystem::path ProposedFolder(const Diagnosis& diagnosis, Remedy remedy);
 
-/// Why the choice can't be followed; empty when it can.
+/// Returns why the choice isn't possible; empty if it is.
 std::string Objection(const Choice& choice);
 
-/// Does it, and registers the folder under the name. An Error when that fails; a database that was
-/// made by then stays. What `progress` throws ends the making of the sample.
+/// Applies the remedy and registers the folder under the name. Throws Error if that fails; a
+/// database that was made by then stays. What `progress` throws ends the making of the sample.
 void Apply(const Choice& choice, const std::string& dbName,
            const shell::SampleProgress& progress = {});
 

@@ -26,7 +26,7 @@ constexpr std::array kRemedies = {Remedy::WriteVersion, Remedy::UseExisting, Rem
                                   Remedy::MakeSample};
 constexpr std::string_view kTitle = "Database Mender";
 
-/// Ends the making of a sample on the person's wish.
+/// Thrown to end the making of a sample when the user cancels it.
 struct Cancelled {};
 
 } // namespace
@@ -64,9 +64,9 @@ void frmDbMender::Setup() {
     show();
     MakeRoom();
     if (line_.warns) {
-        platform::TheDialogs().ShowMessage(
-            kTitle, "All other Vestrel programs should be shut down before you go on.",
-            platform::Icon::Information);
+        platform::TheDialogs().ShowMessage(kTitle,
+                                           "Close all other Vestrel programs before you go on.",
+                                           platform::Icon::Information);
     }
 }
 
@@ -81,7 +81,7 @@ void frmDbMender::OfferRemedies() {
     ButtonOf(offered.front()).setChecked(true);
 }
 
-/// A folder that the person gave stays; a proposal gives way to the next.
+/// Keeps a folder that the user has given; replaces a proposal by the next one.
 void frmDbMender::RemedyChosen() {
     const Remedy remedy = Chosen().remedy;
     const bool isOwn = !ui_->txtFolder->text().isEmpty() && ui_->txtFolder->text() != proposed_;
@@ -101,7 +101,7 @@ void frmDbMender::ShowObjection() {
     MakeRoom();
 }
 
-/// Long paths wrap into more lines than the window was made for.
+/// Makes room for long paths, which wrap into more lines.
 void frmDbMender::MakeRoom() {
     const int wanted = layout()->totalHeightForWidth(width());
     if (height() < wanted) resize(width(), wanted);
@@ -165,7 +165,7 @@ void frmDbMender::StartAgain() {
     if (line_.dbName != core::kDefaultDatabase) arguments.push_back("/altdb=" + line_.dbName);
     if (!platform::FileExists(program) || !start_(program, arguments)) {
         platform::TheDialogs().ShowMessage(
-            kTitle, "The database can be used now, but " + program + " can't be started.",
+            kTitle, "The database is ready, but " + program + " can't be started.",
             platform::Icon::Exclamation);
     }
     accept();

@@ -19,12 +19,12 @@ class frmDbMender;
 
 namespace dbmender {
 
-/// Starts a program that lives on without us; false when it can't be started.
+/// Starts a program that outlives this one; returns false if it can't be started.
 using StartProgram = std::function<bool(const std::filesystem::path& program,
                                         const std::vector<std::string>& arguments)>;
 
-/// Tells what is wrong with a registered database, offers what helps, does it and starts the window
-/// program again.
+/// Shows what is wrong with a registered database, offers remedies, applies one and starts the
+/// window program again.
 class frmDbMender : public QDialog {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ class frmDbMender : public QDialog {
 
     void Setup();
 
-    /// Escape and Cancel: ends the making of a sample first.
+    /// Escape and Cancel: first ends the making of a sample.
     void reject() override;
 
   protected:

@@ -4,14 +4,18 @@
 #include <span>
 
 #include "core/Globals.h"
+#include "core/Preferences.h"
 #include "dbmender/frmDbMender.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/system/Process.h"
+#include "platform/system/Version.h"
 #include "shell/Registrations.h"
 
 int main(int argc, char** argv) {
+    const std::span all(argv, static_cast<std::size_t>(argc));
+    if (platform::PrintVersionIfAsked("dbmender", all)) return 0;
     try {
         const QApplication application(argc, argv);
         QApplication::setApplicationName(QStringLiteral("dbmender"));
@@ -19,6 +23,8 @@ int main(int argc, char** argv) {
         QApplication::setWindowIcon(platform::qt::LoadIcon(QStringLiteral("vestrel")));
         core::InitGlobals({});
         const platform::qt::DesktopAppearance appearance;
+        core::LoadPreferences();
+        platform::qt::ApplyAppearance(platform::qt::Appearance{core::Preferences().Appearance});
         platform::SetDialogs(platform::qt::MakeDialogs());
         platform::SetChoosers(platform::qt::MakeChoosers());
         shell::RegisterLogic();

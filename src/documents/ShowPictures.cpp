@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/AppPath.h"
 #include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/Lookups.h"
@@ -52,13 +53,6 @@ std::vector<ShowPicture> PicturesOf(std::int16_t kind, std::int32_t id) {
     return pictures;
 }
 
-/// In the program's directory; beside the program itself where that directory is another.
-std::filesystem::path FindShowProgram() {
-    std::filesystem::path own = core::App().AppPath + std::string(kShowProgram);
-    if (platform::FileExists(own.string())) return own;
-    return platform::ExecutablePath().parent_path() / kShowProgram;
-}
-
 void Sorry(std::string_view text) {
     platform::TheDialogs().ShowMessage("Sorry", text, platform::Icon::Information);
 }
@@ -75,7 +69,7 @@ void ShowPictures(std::int16_t kind, std::int32_t id, std::string title,
     }
     const std::string listFile = core::App().AppPath + std::string(kShowListFile);
     platform::WriteFileAtomically(listFile, ShowListText(list));
-    const std::filesystem::path program = FindShowProgram();
+    const std::filesystem::path program = core::SiblingProgram(kShowProgram);
     const bool started = platform::FileExists(program.string()) &&
                          start(program, {std::string(kLoadFileSwitch), listFile});
     if (!started) Sorry("PhotoReel application not found.");

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <cstdlib>
 #include <fstream>
 
 #include "core/CoreFixture.h"
@@ -8,6 +9,8 @@
 #include "dbmender/Diagnosis.h"
 #include "dbmender/MenderLine.h"
 #include "dbmender/Remedies.h"
+#include "platform/database/Connection.h"
+#include "platform/registry/Registry.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
 #include "shell/Registrations.h"
@@ -72,7 +75,7 @@ TEST_F(Mender, TellsWhatIsWrong) {
     };
     for (const auto& [text, condition, says] :
          {Version{"8", Condition::TooOld, "has version 8, and this Vestrel needs version 9"},
-          Version{"nine", Condition::TooOld, "does not tell its version"},
+          Version{"nine", Condition::TooOld, "The version of the database"},
           Version{"9", Condition::Ready, "in order"},
           Version{"10", Condition::Ready, "made for a newer Vestrel, with version 10"}}) {
         WriteVersion(text);
@@ -116,6 +119,49 @@ TEST_F(Mender, ProposesTheDatabasesOwnFolderWhereNothingIsLost) {
                             Remedy::MakeSample));
 }
 
+TEST_F(Mender, NeverProposesBooksInsideABuildFolder) {
+    ::setenv("XDG_DATA_HOME", PathTo("data").c_str(), 1);
+    std::filesystem::create_directories(Folder() / "build/bin/db");
+    MakeFile("build/CMakeCache.txt");
+    core::App().AppPath = PathTo("build/bin/");
+    const std::filesystem::path ours = Folder() / "data/Vestrel/db";
+    EXPECT_EQ(dbmender::ProposedFolder(Found(Condition::NotRegistered), Remedy::MakeEmpty), ours);
+    EXPECT_EQ(dbmender::ProposedFolder(Found(Condition::NoFile, Folder() / "build/bin/db"),
+                                       Remedy::MakeSample),
+              ours);
+    ::unsetenv("XDG_DATA_HOME");
+}
+
+TEST_F(Mender, LooksForBooksFirstWhenTheSettingsAreDamaged) {
+    MakeFile("registry.json", "{\"SOFTWARE");
+    platform::SetRegistry(platform::OpenJsonRegistry(Folder() / "registry.json"));
+    const auto found = dbmender::ExamineRegistered("Default");
+    EXPECT_EQ(found.condition, Condition::SettingsDamaged);
+    EXPECT_THAT(dbmender::Explain(found), HasSubstr("settings of this computer are damaged"));
+    EXPECT_EQ(dbmender::RemediesFor(found).front(), Remedy::UseExisting);
+}
+
+TEST_F(Mender, FindsDamageInsideTheFile) {
+    store::CreateDatabase(Books());
+    {
+        platform::Connection database;
+        database.Open(Books() / store::kDatabaseFile);
+        for (int i = 0; i < 2000; ++i)
+            database.Execute("INSERT INTO Alerts (Description) VALUES (?)",
+                             {"a message of some length, number " + std::to_string(i)});
+    }
+    {
+        std::fstream file(Books() / store::kDatabaseFile, std::ios::in | std::ios::out);
+        file.seekp(-20'000, std::ios::end);
+        file << std::string(8'000, 'x');
+    }
+    core::SetRegString(core::kDatabasesKey, "Default", Books().string());
+    const auto found = dbmender::ExamineRegistered("Default");
+    EXPECT_EQ(found.condition, Condition::Damaged);
+    EXPECT_THAT(dbmender::Explain(found), HasSubstr("is damaged: "));
+    EXPECT_THROW(dbmender::Apply({Remedy::UseExisting, Books()}, "Default"), platform::Error);
+}
+
 TEST_F(Mender, RefusesWhatCannotBeDone) {
     store::CreateDatabase(Books());
     MakeFile("letter");
@@ -126,7 +172,7 @@ TEST_F(Mender, RefusesWhatCannotBeDone) {
     };
     for (const auto& [remedy, folder, says] :
          {Case{Remedy::MakeEmpty, "", "Choose a folder"},
-          Case{Remedy::MakeEmpty, "db", "the whole path"},
+          Case{Remedy::MakeEmpty, "db", "the full path"},
           Case{Remedy::MakeSample, Books(), "a database in this folder already"},
           Case{Remedy::MakeEmpty, PathTo("letter"), "is a file"},
           Case{Remedy::UseExisting, PathTo("nowhere"), "is missing"},

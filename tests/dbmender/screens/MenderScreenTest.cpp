@@ -62,9 +62,8 @@ class MenderScreen : public support::ScreenTest {
 
 TEST_F(MenderScreen, MakesAnEmptyDatabaseForANewcomer) {
     Open(true);
-    EXPECT_EQ(Heard(),
-              std::vector<std::string>{"Database Mender: All other Vestrel programs should "
-                                       "be shut down before you go on."});
+    EXPECT_EQ(Heard(), std::vector<std::string>{"Database Mender: Close all other Vestrel programs "
+                                                "before you go on."});
     EXPECT_EQ(Finding(), "Vestrel does not know yet where your database is.");
     EXPECT_EQ(FromScreen(FolderBox().text()), PathTo("db"));
     EXPECT_FALSE(Find<QRadioButton>(*window_, "optWriteVersion").isVisible());
