@@ -36,7 +36,7 @@ void Removal::Remove(std::int16_t kind, std::int32_t id, Charges charges) {
 }
 
 void Removal::RemoveStatements(std::int16_t kind, std::int32_t id) {
-    for (const std::string_view statement : StatementsToRemove(kind)) {
+    for (const std::string& statement : StatementsToRemove(kind)) {
         core::App().Connection.Execute(statement, {id});
     }
 }

@@ -58,55 +58,43 @@ std::string CountedText(std::string_view thing, std::string_view referred,
         thing, list, referred);
 }
 
+struct PlainQuestion {
+    std::int16_t kind;
+    std::string_view text;
+};
+
+constexpr std::array<PlainQuestion, 21> kPlainQuestions = {{
+    {core::kLease, "Delete selected Lease?"},
+    {core::kMortgage, "Delete selected Mortgage?"},
+    {core::kWorkOrder, "Delete selected work order?"},
+    {core::kIncident, "Delete selected Incident?"},
+    {core::kAppliance, "Delete selected Appliance?"},
+    {core::kRoom, "Delete selected room?"},
+    {core::kTransaction, "Delete selected transaction?"},
+    {core::kMileage, "Delete selected Mileage entry?"},
+    {core::kOwner, "Delete selected Owner?"},
+    {core::kManager, "Delete selected Manager?"},
+    {core::kAutoEvent, "Delete selected Auto Event?"},
+    {core::kContent, "Delete selected Content?"},
+    {core::kSvcContract, "Delete selected service contract?"},
+    {core::kMortgageLog, "Delete selected Mortgage charge?"},
+    {core::kWorkOrderHistory, "Delete selected Work Order History?"},
+    {core::kFileObject, "Delete selected file link?"},
+    {core::kDocument, "Delete selected Document?"},
+    {core::kRentLog, "Delete selected item?"},
+    {core::kBuilding,
+     "Removing a building will also remove all units associated to the building, and all\n"
+     "leases for these units and related records.\n\n"
+     "Do you wish to continue?"},
+    {kAnalysis, "Delete selected Analysis?"},
+    {kNoteAnalysis, "Delete selected Note Analysis?"},
+}};
+
 std::string_view PlainText(std::int16_t kind) {
-    switch (kind) {
-        case core::kLease:
-            return "Delete selected Lease?";
-        case core::kMortgage:
-            return "Delete selected Mortgage?";
-        case core::kWorkOrder:
-            return "Delete selected work order?";
-        case core::kIncident:
-            return "Delete selected Incident?";
-        case core::kAppliance:
-            return "Delete selected Appliance?";
-        case core::kRoom:
-            return "Delete selected room?";
-        case core::kTransaction:
-            return "Delete selected transaction?";
-        case core::kMileage:
-            return "Delete selected Mileage entry?";
-        case core::kOwner:
-            return "Delete selected Owner?";
-        case core::kManager:
-            return "Delete selected Manager?";
-        case core::kAutoEvent:
-            return "Delete selected Auto Event?";
-        case core::kContent:
-            return "Delete selected Content?";
-        case core::kSvcContract:
-            return "Delete selected service contract?";
-        case core::kMortgageLog:
-            return "Delete selected Mortgage charge?";
-        case core::kWorkOrderHistory:
-            return "Delete selected Work Order History?";
-        case core::kFileObject:
-            return "Delete selected file link?";
-        case core::kDocument:
-            return "Delete selected Document?";
-        case core::kRentLog:
-            return "Delete selected item?";
-        case core::kBuilding:
-            return "Removing a building will also remove all units associated to the building, "
-                   "and all\nleases for these units and related records.\n\n"
-                   "Do you wish to continue?";
-        case kAnalysis:
-            return "Delete selected Analysis?";
-        case kNoteAnalysis:
-            return "Delete selected Note Analysis?";
-        default:
-            return {};
+    for (const PlainQuestion& question : kPlainQuestions) {
+        if (question.kind == kind) return question.text;
     }
+    return {};
 }
 
 } // namespace

@@ -11,8 +11,8 @@ struct RemovalQuestion {
     std::string text;
 };
 
-/// The question before a record is removed, with the count of what goes with it; nothing for a
-/// kind that is removed unasked.
+/// Returns the question before a record is removed, with the count of what goes with it; nothing
+/// for a kind that is removed without a question.
 std::optional<RemovalQuestion> QuestionBefore(std::int16_t kind, std::int32_t id);
 
 } // namespace removal

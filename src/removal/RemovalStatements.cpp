@@ -1,7 +1,12 @@
 #include "removal/RemovalStatements.h"
 
+#include <algorithm>
 #include <array>
+#include <span>
 
+#include <fmt/core.h>
+
+#include "core/KindTable.h"
 #include "core/RecordKinds.h"
 
 namespace removal {
@@ -65,54 +70,42 @@ constexpr std::array<std::string_view, 7> kOfUnit = {
     "DELETE * FROM Unit WHERE IdUnit = ?",
 };
 
-struct LoneKind {
+struct Statements {
     std::int16_t kind;
-    std::string_view statement;
+    std::span<const std::string_view> sql;
 };
 
-// Records that nothing depends on.
-constexpr std::array<LoneKind, 14> kLoneKinds = {{
-    {core::kIncident, "DELETE * FROM Incident WHERE IdIncident = ?"},
-    {core::kRoom, "DELETE * FROM Room WHERE IdRoom = ?"},
-    {core::kMileage, "DELETE * FROM Mileage WHERE IdMileage = ?"},
-    {core::kManager, "DELETE * FROM ManagerLink WHERE IdManagerLink = ?"},
-    {core::kAutoEvent, "DELETE * FROM AutoEvent WHERE IdAutoEvent = ?"},
-    {core::kContent, "DELETE * FROM Content WHERE IdContent = ?"},
-    {core::kSvcContract, "DELETE * FROM SvcContract WHERE IdSvcContract = ?"},
-    {core::kMortgageLog, "DELETE * FROM MortgageLog WHERE IdMortgageLog = ?"},
-    {core::kWorkOrderHistory, "DELETE * FROM WOItem WHERE IdWOItem = ?"},
-    {core::kFileObject, "DELETE * FROM FileObject WHERE IdFileObject = ?"},
-    {core::kDocument, "DELETE * FROM Doc WHERE IdDoc = ?"},
-    {core::kRentLog, "DELETE * FROM RentLog WHERE IdRentLog = ?"},
-    {kAnalysis, "DELETE * FROM Analysis WHERE IdAnalysis = ?"},
-    {kNoteAnalysis, "DELETE * FROM DiscNote WHERE IdDiscNote = ?"},
+constexpr std::array<Statements, 7> kStatements = {{
+    {core::kAccount, kOfAccount},
+    {core::kTenant, kOfTenant},
+    {core::kMortgage, kOfMortgage},
+    {core::kWorkOrder, kOfWorkOrder},
+    {core::kAppliance, kOfAppliance},
+    {core::kBuilding, kOfBuilding},
+    {core::kUnit, kOfUnit},
 }};
+
+/// Kinds whose records are removed by deleting their own row.
+constexpr std::array<std::int16_t, 12> kLoneKinds = {
+    core::kIncident,         core::kRoom,       core::kMileage,     core::kManager,
+    core::kAutoEvent,        core::kContent,    core::kSvcContract, core::kMortgageLog,
+    core::kWorkOrderHistory, core::kFileObject, core::kDocument,    core::kRentLog};
+
+std::string DeleteRow(std::string_view table, std::string_view key) {
+    return fmt::format("DELETE * FROM {} WHERE {} = ?", table, key);
+}
 
 } // namespace
 
-std::span<const std::string_view> StatementsToRemove(std::int16_t kind) {
-    switch (kind) {
-        case core::kAccount:
-            return kOfAccount;
-        case core::kTenant:
-            return kOfTenant;
-        case core::kMortgage:
-            return kOfMortgage;
-        case core::kWorkOrder:
-            return kOfWorkOrder;
-        case core::kAppliance:
-            return kOfAppliance;
-        case core::kBuilding:
-            return kOfBuilding;
-        case core::kUnit:
-            return kOfUnit;
-        default:
-            break;
+std::vector<std::string> StatementsToRemove(std::int16_t kind) {
+    for (const Statements& statements : kStatements) {
+        if (statements.kind == kind) return {statements.sql.begin(), statements.sql.end()};
     }
-    for (const LoneKind& lone : kLoneKinds) {
-        if (lone.kind == kind) return {&lone.statement, 1};
-    }
-    return {};
+    if (kind == kAnalysis) return {DeleteRow("Analysis", "IdAnalysis")};
+    if (kind == kNoteAnalysis) return {DeleteRow("DiscNote", "IdDiscNote")};
+    if (std::ranges::find(kLoneKinds, kind) == kLoneKinds.end()) return {};
+    const core::KindInfo& info = core::InfoOf(kind);
+    return {DeleteRow(info.table, info.key)};
 }
 
 } // namespace removal

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
-#include <string_view>
+#include <string>
+#include <vector>
 
 namespace removal {
 
@@ -10,9 +10,9 @@ namespace removal {
 inline constexpr std::int16_t kAnalysis = 71;
 inline constexpr std::int16_t kNoteAnalysis = 73;
 
-/// The statements that remove a record of the kind, in order, each with its id as the only
-/// parameter; none for a kind that isn't removed, or not only by statements (leases, owners,
+/// Returns the statements that remove a record of the kind, in order, each with its id as the only
+/// parameter; none for a kind that isn't removed, or not by statements only (leases, owners,
 /// transactions).
-std::span<const std::string_view> StatementsToRemove(std::int16_t kind);
+std::vector<std::string> StatementsToRemove(std::int16_t kind);
 
 } // namespace removal

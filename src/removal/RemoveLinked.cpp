@@ -1,5 +1,6 @@
 #include <string>
 
+#include "core/Codes.h"
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
@@ -19,12 +20,12 @@ void Removal::RemoveLease(std::int32_t id) {
                platform::CursorMode::ReadOnly, {id});
     const std::string status = lease.Eof() ? std::string() : platform::TextOf(lease["Status"]);
     // The unit of a lease that has ended may have been let again, and its tenant moved on.
-    if (!lease.Eof() && status != "Expired" && status != "Broken") {
-        core::ExecuteSql("UPDATE Unit SET Status = 'Avaliable' WHERE IdUnit = ?",
-                         {lease["IdUnit"].Value()});
+    if (!lease.Eof() && status != core::kLeaseExpired && status != core::kLeaseBroken) {
+        core::ExecuteSql("UPDATE Unit SET Status = ? WHERE IdUnit = ?",
+                         {core::kUnitAvailable, lease["IdUnit"].Value()});
         Note(core::kUnit, core::kRecordsChanged);
-        core::ExecuteSql("UPDATE Tenant SET Status = 'Archived' WHERE IdTenant = ?",
-                         {lease["IdTenant"].Value()});
+        core::ExecuteSql("UPDATE Tenant SET Status = ? WHERE IdTenant = ?",
+                         {core::kTenantArchived, lease["IdTenant"].Value()});
         Note(core::kTenant, core::kRecordsChanged);
     }
 

@@ -1,6 +1,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/Codes.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
@@ -10,24 +11,14 @@
 
 namespace removal {
 
+using core::Ledger;
+
 namespace {
 
-/// The ledger that a payment settles charges of.
-enum class Ledger { None, Rent, Mortgage };
-
 Ledger LedgerOf(std::int32_t idTransaction) {
-    const auto transactionClass =
+    const auto code =
         core::LookUp("SELECT Class FROM Transactions WHERE IdTransaction = ?", {idTransaction});
-    switch (transactionClass ? transactionClass->AsInteger() : 0) {
-        case 1:
-        case 2:
-        case 3:
-            return Ledger::Rent;
-        case 5:
-            return Ledger::Mortgage;
-        default:
-            return Ledger::None;
-    }
+    return code ? core::LedgerOf(core::TransactionClass{code->AsInteger()}) : Ledger::None;
 }
 
 struct LedgerStatements {
