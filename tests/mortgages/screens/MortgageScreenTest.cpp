@@ -1,11 +1,13 @@
 #include <QAbstractItemModel>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolTip>
 #include <QtCharts/QBarCategoryAxis>
 #include <QtCharts/QChartView>
 #include <QtCharts/QLegend>
@@ -154,6 +156,14 @@ TEST_F(MortgageScreen, ShowsTheScheduleAndItsYears) {
     const auto* balance = qobject_cast<QLineSeries*>(chart.series().front());
     EXPECT_EQ(balance->at(0).y(), 120'000);
     EXPECT_NEAR(balance->at(1).y(), 118'652.6, 0.1); // the twelfth period's first balance
+
+    auto& view = Find<QChartView>(*form, "chtYears");
+    const QPointF place = view.chart()->mapToPosition({1, 1000}, view.chart()->series().front());
+    const QPoint under = view.mapFromScene(view.chart()->mapToScene(place));
+    QHelpEvent hover(QEvent::ToolTip, under, view.viewport()->mapToGlobal(under));
+    QApplication::sendEvent(view.viewport(), &hover);
+    EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Year 2\nBalance: 118,652.6")))
+        << QToolTip::text().toStdString();
 
     Choose(*form, "cboChartType", "Bars");
     Find<QCheckBox>(*form, "chkViewLegend").setChecked(false);

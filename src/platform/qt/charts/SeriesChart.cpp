@@ -1,7 +1,9 @@
 #include "platform/qt/charts/SeriesChart.h"
 
 #include <QEvent>
+#include <QHelpEvent>
 #include <QLocale>
+#include <QToolTip>
 #include <QtCharts/QAreaSeries>
 #include <QtCharts/QBarCategoryAxis>
 #include <QtCharts/QBarSeries>
@@ -13,6 +15,10 @@
 #include <QtCharts/QValueAxis>
 #include <algorithm>
 #include <array>
+#include <cmath>
+
+#include "platform/qt/Text.h"
+#include "platform/values/Format.h"
 
 namespace platform::qt {
 
@@ -73,6 +79,7 @@ SeriesChart::SeriesChart(QWidget* parent) : QChartView(parent) {
 void SeriesChart::Show(const QStringList& labels, std::vector<ChartSeries> series, ChartShape shape,
                        ChartDepth depth, bool legend) {
     if (labels.isEmpty()) return;
+    labels_ = labels;
     series_ = std::move(series);
     chart()->removeAllSeries();
     for (QAbstractAxis* const axis : chart()->axes()) {
@@ -190,6 +197,31 @@ void SeriesChart::TakeColors() {
         axis->setGridLineColor(faint);
         axis->setLinePenColor(faint);
     }
+}
+
+QString SeriesChart::TextAt(QPoint position) const {
+    if (labels_.isEmpty() || chart()->series().isEmpty()) return {};
+    const QPointF inChart = chart()->mapFromScene(mapToScene(position));
+    if (!chart()->plotArea().contains(inChart)) return {};
+    // The middle of a category has the category's number.
+    const double across = chart()->mapToValue(inChart, chart()->series().front()).x();
+    const auto label = std::clamp<qsizetype>(std::lround(across), 0, labels_.size() - 1);
+    QString text = labels_[label];
+    for (const ChartSeries& series : series_) {
+        if (label >= static_cast<qsizetype>(series.values.size())) continue;
+        const double value = series.values[static_cast<std::size_t>(label)];
+        text +=
+            QStringLiteral("\n%1: %2")
+                .arg(series.name, ToScreen(platform::FormatNumber(value, platform::kMoneyFormat)));
+    }
+    return text;
+}
+
+bool SeriesChart::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QChartView::viewportEvent(event);
+    const auto* const help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), TextAt(help->pos()), viewport());
+    return true;
 }
 
 void SeriesChart::changeEvent(QEvent* event) {

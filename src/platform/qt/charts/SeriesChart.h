@@ -30,14 +30,19 @@ class SeriesChart : public QChartView {
 
   protected:
     void changeEvent(QEvent* event) override;
+    /// Shows the values of the label under the pointer.
+    bool viewportEvent(QEvent* event) override;
 
   private:
+    /// Returns the label under a position of the view, with its values, or an empty text.
+    QString TextAt(QPoint position) const;
     void AddBars(std::size_t first, std::size_t last, ChartDepth depth);
     void AddLine(std::size_t index, ChartShape shape, ChartDepth depth);
     void AddShapes(ChartShape shape, ChartDepth depth);
     void AddAxes(const QStringList& labels);
     void TakeColors();
 
+    QStringList labels_;
     std::vector<ChartSeries> series_;
 };
 
