@@ -110,8 +110,8 @@ void NameCompany(SampleBooks& books) {
         "UPDATE Configuration SET CompanyName = ?, Address = ?, City = ?, State = ?, Zip = ?, "
         "DefaultCounty = ?, DefaultState = ?, DefaultRentAccount = ?, DefaultDepositAccount = ?, "
         "DefaultMortgageAccount = ?, DefaultMortgagee = ?, DefaultCar = ?",
-        {"Marchetti Rentals", "210 Prospect Hill Road", "Eugene", "OR", "97401", "Lane", "OR",
-         accounts.operatingBank, accounts.depositBank, accounts.operatingBank,
+        {"Marchetti Rentals (Sample Books)", "210 Prospect Hill Road", "Eugene", "OR", "97401",
+         "Lane", "OR", accounts.operatingBank, accounts.depositBank, accounts.operatingBank,
          accounts.mortgagees.front(), kSampleCar});
 }
 
