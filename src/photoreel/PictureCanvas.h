@@ -5,7 +5,7 @@
 
 namespace photoreel {
 
-/// One picture on a dark ground, as large as there is room; or a text.
+/// One picture on a dark background, as large as possible; or a text.
 class PictureCanvas : public QWidget {
     Q_OBJECT
 
@@ -18,9 +18,9 @@ class PictureCanvas : public QWidget {
     const QString& Text() const { return text_; }
 
   Q_SIGNALS:
-    /// A click with the left button, or the wheel turned down.
+    /// A left click, or the wheel turned down.
     void NextAsked();
-    /// A click with the right button, or the wheel turned up.
+    /// A right click, or the wheel turned up.
     void PreviousAsked();
 
   protected:

@@ -9,16 +9,16 @@
 
 namespace photoreel {
 
-/// Why a picture can't be shown; empty when it can.
+/// Returns why a picture can't be shown; empty if it can.
 using Obstacle = std::function<std::string(const documents::ShowPicture& picture)>;
 
-/// A row of pictures to go through in both directions, over the ends too. Pictures that can't be
-/// shown are passed over.
+/// A sequence of pictures to go through in both directions, around the ends too. Pictures that
+/// can't be shown are skipped.
 class Reel {
   public:
     explicit Reel(documents::ShowList list) : list_(std::move(list)) {}
 
-    // Each asks about one picture after the other until one can be shown; false when none can.
+    // Each tries one picture after another until one can be shown; returns false if none can.
     bool First(const Obstacle& obstacle);
     bool Last(const Obstacle& obstacle);
     bool Next(const Obstacle& obstacle);
@@ -27,8 +27,8 @@ class Reel {
     const std::string& Title() const { return list_.title; }
     bool IsEmpty() const { return list_.pictures.empty(); }
 
-    /// What stands below the present picture: its description and its place in the row, and a line
-    /// for each picture that was just passed over, with the reason.
+    /// Returns the caption of the present picture: its description and its number, and a line for
+    /// each picture that was just skipped, with the reason.
     std::string Caption() const;
 
   private:
@@ -43,8 +43,8 @@ class Reel {
     std::vector<std::string> skipped_;
 };
 
-/// The list file among the words of the command line ("/loadfile FILE" or "/loadfile=FILE"); empty
-/// without one.
+/// Returns the list file of the command line ("/loadfile FILE" or "/loadfile=FILE"); empty without
+/// one.
 std::string ListFileOf(std::span<const std::string> words);
 
 } // namespace photoreel

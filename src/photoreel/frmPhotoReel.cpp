@@ -83,7 +83,7 @@ void frmPhotoReel::Go(Step step) {
     ui_->picShow->setAccessibleName(ui_->lblCaption->text());
 }
 
-/// While it plays, a picture that was chosen by hand stays as long as any other.
+/// Restarts the interval: while it plays, a picture that the user chose stays as long as any other.
 void frmPhotoReel::StepByHand(Step step) {
     if (IsPlaying()) player_.start();
     Go(step);

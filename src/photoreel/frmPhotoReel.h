@@ -12,8 +12,8 @@ class frmPhotoReel;
 
 namespace photoreel {
 
-/// The window of the picture show: one picture at a time, forwards and backwards by buttons, keys
-/// and mouse, by itself while it plays, and over the whole screen.
+/// The window of the slide show: one picture at a time, forwards and backwards with buttons, keys
+/// and mouse, automatically while it plays, and on the full screen.
 class frmPhotoReel : public QWidget {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ class frmPhotoReel : public QWidget {
     frmPhotoReel();
     ~frmPhotoReel() override;
 
-    /// Reads the list file and shows its first picture; says so where there is none.
+    /// Reads the list file and shows its first picture, or a message if there is none.
     void Setup(const std::string& listFile);
 
     bool IsPlaying() const { return player_.isActive(); }
