@@ -20,8 +20,8 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     return false;
 }
 
-/// What fails while its window is painted would fail again behind the box, without end; so only
-/// one box stands at a time.
+/// Shows one box at a time: a window that fails while it is painted would fail again behind the
+/// box, without end.
 void Application::Show(const std::exception& failure) {
     std::fprintf(stderr, "kestrom: %s\n", failure.what());
     if (showing_) return;

@@ -4,8 +4,7 @@
 
 namespace kestrom {
 
-/// The event loop's owner. An error that reaches it from an event is shown, and the program goes
-/// on.
+/// Owns the event loop. Shows an error that an event handler lets through, and goes on.
 class Application : public QApplication {
     Q_OBJECT
 

@@ -10,14 +10,15 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
+#include "platform/system/Process.h"
 #include "shell/SplashTime.h"
 
 namespace kestrom {
 
 namespace {
 
-/// The mender knows databases by their registered names, so it can't help with a folder that
-/// somebody named.
+/// The repair tool knows databases by their registered names, so it can't help with a folder that
+/// was given on the command line.
 void FindBooksIn(const std::string& folder) {
     core::Globals& app = core::App();
     app.DbPath = platform::AddBackslash(folder);
@@ -36,13 +37,19 @@ void FindBooksIn(const std::string& folder) {
 
 } // namespace
 
-void FindBooks(const shell::CommandLine& line) {
+void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEnding) {
     if (line.data) {
         FindBooksIn(*line.data);
         return;
     }
     if (core::FindDatabase(nullptr) == core::DatabaseState::Ready) return;
-    core::StartDatabaseMender({.endProcess = [] { throw ProcessEnd{0}; }});
+    core::StartDatabaseMender({
+        .start =
+            [&](const std::filesystem::path& program, const std::vector<std::string>& arguments) {
+                return isEnding() || platform::StartDetached(program, arguments);
+            },
+        .endProcess = [] { throw ProcessEnd{0}; },
+    });
 }
 
 void LetSplashBeSeen() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "shell/CommandLine.h"
 
 namespace kestrom {
@@ -9,11 +11,12 @@ struct ProcessEnd {
     int code = 0;
 };
 
-/// Finds the database: that of the command line, or the registered one. One that is missing or too
-/// old is handed over to the mender, and ProcessEnd thrown.
-void FindBooks(const shell::CommandLine& line);
+/// Finds the database: the one of the command line, or the registered one. If it is missing or too
+/// old, starts the repair tool, unless `isEnding` says that the program was told to end meanwhile,
+/// and throws ProcessEnd.
+void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEnding);
 
-/// Lets window messages run until the splash has been seen.
+/// Lets window messages run for as long as the splash must be visible.
 void LetSplashBeSeen();
 
 } // namespace kestrom

@@ -47,7 +47,7 @@ namespace kestrom {
 
 namespace {
 
-/// Opens a screen of which there is only one; brings it to the front when it is open.
+/// Opens a screen of which there is only one; brings it to the front if it is open.
 template <class Screen>
 void OpenOnce() {
     for (QWidget* const window : QApplication::topLevelWidgets()) {
@@ -60,7 +60,7 @@ void OpenOnce() {
     (new Screen)->Setup();
 }
 
-/// The editor of a record that hangs from one other.
+/// Registers the editor of a record that belongs to one other.
 template <class Screen>
 void RegisterChild(std::int16_t kind) {
     core::RegisterOpener(kind, [](const core::EditRequest& request) {
@@ -173,7 +173,7 @@ shell::screens::Commands MenuCommands() {
     commands.Add(QStringLiteral("mnuAutoEvents"), Opening<books::screens::frmAutoEventList>());
     commands.Add(QStringLiteral("mnuTransCategory"), Opening<books::screens::frmTransCategory>());
     commands.Add(QStringLiteral("mnuPhotoReel"), [](const shell::screens::Selection& selection) {
-        // A unit's show begins with what the house looks like.
+        // A unit's slide show includes the pictures of its building.
         const bool isUnit = selection.kind == core::kUnit;
         documents::ShowPictures(isUnit ? core::kUnitWithBuilding : selection.kind, selection.id);
     });

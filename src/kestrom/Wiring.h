@@ -4,13 +4,13 @@
 
 namespace kestrom {
 
-/// Gives the process its windows' side: dialogs, help, the open records and the message pump.
+/// Registers what needs windows: dialogs, help, the open records and the message pump.
 void RegisterPlatform();
 
-/// Gives each record kind its editor.
+/// Registers the editor of each record kind.
 void RegisterEditors();
 
-/// The menu items that other rooms' screens stand behind.
+/// Returns the menu items that open screens of other rooms.
 shell::screens::Commands MenuCommands();
 
 } // namespace kestrom

@@ -16,9 +16,11 @@
 #include "kestrom/Wiring.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/Icons.h"
+#include "platform/qt/QtDialogs.h"
 #include "platform/qt/QuitRequests.h"
 #include "platform/qt/SingleInstance.h"
 #include "platform/system/Clock.h"
+#include "platform/system/Version.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportList.h"
 #include "shell/CommandLine.h"
@@ -53,7 +55,7 @@ shell::screens::WindowServices Services(const shell::CommandLine& line) {
     return services;
 }
 
-/// From the instance that is already there to the end of the event loop.
+/// Runs the program, from the check for another instance to the end of the event loop.
 int Run(kestrom::Application& application, const shell::CommandLine& line) {
     platform::qt::SingleInstance instance(platform::qt::InstanceName());
     if (!instance.IsFirst()) {
@@ -71,6 +73,7 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
     const platform::qt::QuitRequests requests;
     QObject::connect(&requests, &platform::qt::QuitRequests::QuitAsked, &application, [&] {
         endAsked = true;
+        platform::qt::DismissDialogs();
         if (!window) return;
         // The backup screen may stand there after the window has ended.
         if (window->HasEnded()) QCoreApplication::quit();
@@ -78,7 +81,8 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
     });
 
     core::LoadPreferences();
-    kestrom::FindBooks(line);
+    platform::qt::ApplyAppearance(platform::qt::Appearance{core::Preferences().Appearance});
+    kestrom::FindBooks(line, [&] { return endAsked; });
     core::OpenBooks(line.readOnly ? core::BooksUse::Read : core::BooksUse::Keep);
 
     std::optional<shell::screens::frmSplash> splash;
@@ -105,13 +109,15 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
         kestrom::LetSplashBeSeen();
         splash.reset();
     }
-    // The window may have been closed while the splash stood before it.
+    // The window may have been closed behind the splash.
     return window->HasEnded() ? 0 : kestrom::Application::exec();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
+    const std::span words(argv, static_cast<std::size_t>(argc));
+    if (platform::PrintVersionIfAsked("kestrom", words)) return 0;
     kestrom::Application application(argc, argv);
     kestrom::Application::setApplicationName(QStringLiteral("kestrom"));
     kestrom::Application::setApplicationDisplayName({});
@@ -119,8 +125,9 @@ int main(int argc, char** argv) {
     kestrom::Application::setQuitOnLastWindowClosed(false);
     kestrom::Application::setWindowIcon(platform::qt::LoadIcon(QStringLiteral("vestrel")));
 
-    const std::span words(argv, static_cast<std::size_t>(argc));
-    const shell::CommandLine line = shell::ReadCommandLine(words.subspan(1));
+    // The application has removed its own options.
+    const std::span own = words.first(static_cast<std::size_t>(argc));
+    const shell::CommandLine line = shell::ReadCommandLine(own.subspan(1));
     if (!line.fault.empty()) {
         std::fprintf(stderr, "kestrom: %s\n", line.fault.c_str());
         return kWrongUsage;

@@ -69,6 +69,22 @@ class Process : public testing::Test {
         }
     }
 
+    /// Waits until the program handles SIGTERM, or has ended.
+    static void WaitForHandler(pid_t pid) {
+        constexpr unsigned long kTerm = 1UL << (SIGTERM - 1);
+        const std::string status = "/proc/" + std::to_string(pid) + "/status";
+        siginfo_t ended{};
+        while (::waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+               ended.si_pid == 0) {
+            std::ifstream file(status);
+            std::string word;
+            while (file >> word && word != "SigCgt:") {
+            }
+            if (!(file >> word) || (std::stoul(word, nullptr, 16) & kTerm) != 0) return;
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        }
+    }
+
     support::TemporaryFolder folder_;
 
   private:
@@ -106,6 +122,18 @@ TEST_F(Process, EndsCleanlyOnTheSignalsThatAskForIt) {
                 HasSubstr("frmKestrom"));
 }
 
+TEST_F(Process, EndsOnASignalWhileANoticeIsShown) {
+    const pid_t pid = Start({});
+    WaitForHandler(pid);
+    ::kill(pid, SIGTERM);
+    EXPECT_EQ(Wait(pid), 0) << Said();
+}
+
+TEST_F(Process, TellsItsVersionWithoutAScreen) {
+    const pid_t pid = Start({"--version", "-platform", "none-such"});
+    EXPECT_EQ(Wait(pid), 0) << Said();
+}
+
 TEST_F(Process, LeavesTheFieldToTheInstanceThatIsThere) {
     Register("second", folder_ / "books");
     const pid_t first = Start({"/altdb=Second"});
@@ -117,7 +145,7 @@ TEST_F(Process, LeavesTheFieldToTheInstanceThatIsThere) {
 
 TEST_F(Process, RefusesACommandLineItCannotRead) {
     EXPECT_EQ(Wait(Start({"--today", "02/30/2024"})), 2);
-    EXPECT_THAT(Said(), HasSubstr("'02/30/2024' is no day"));
+    EXPECT_THAT(Said(), HasSubstr("'02/30/2024' is not a valid date"));
 }
 
 } // namespace
