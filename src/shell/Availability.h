@@ -1,40 +1,49 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace shell {
 
-/// What the main window stands on, for its commands.
+/// The state of the main window that its commands depend on.
 struct WindowState {
     std::int16_t kind = 0;
-    /// The id in the selected row, 0 for none.
+    /// The id in the selected row; 0 unless exactly one row is selected.
     std::int32_t selectedId = 0;
+    int selectedRows = 0;
     /// Whether the records of the kind have an editor.
     bool hasEditor = false;
+    /// Whether the books are open only to be read.
+    bool readOnly = false;
 };
 
-/// Which commands can be given.
+/// Why commands are disabled, in a sentence for their tooltips; empty for those that are enabled.
 struct Availability {
-    bool add = false;
-    /// Print the list.
-    bool printGrid = false;
-    bool edit = false;
-    /// Delete, copy, print and pay: whatever needs a record.
-    bool record = false;
+    std::string_view add;
+    /// For commands on the whole list: print, find.
+    std::string_view list;
+    std::string_view edit;
+    /// For commands that need one record and don't change it: print, pictures.
+    std::string_view record;
+    /// For commands that need one record and change the books: delete, pay.
+    std::string_view change;
+    /// For copying the selected rows.
+    std::string_view copyRows;
 };
 
-/// The home page has no records, so none of them; a list can be added to and printed, and the rest
-/// needs a selected record. Opening a record also needs an editor for its kind.
+/// Returns which commands are available. The home page has no records, so none of them; a list can
+/// be added to and printed; the others need one selected record. Opening a record also needs an
+/// editor for its kind, and books that can only be read can't be changed.
 Availability EnableEditButtons(const WindowState& state);
 
-/// Which menu items a view shows besides those that all views do.
+/// The menu items that only some views show.
 struct ExtraItems {
     bool refreshSummary = false;
     bool payRent = false;
     bool payMortgage = false;
     bool copy = false;
 
-    /// The line above the payments.
+    /// The separator above the payments.
     bool Separator() const { return payRent || payMortgage; }
 };
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/Codes.h"
 #include "core/RecordKinds.h"
 
 namespace shell {
@@ -18,12 +19,12 @@ struct MarkedWord {
 };
 
 constexpr std::array<MarkedWord, 6> kMarkedWords = {{
-    {core::kMortgage, "Due", Mark::Yellow},
-    {core::kMortgage, "Late", Mark::Red},
-    {core::kLease, "Due", Mark::Yellow},
-    {core::kLease, "Late", Mark::Yellow},
-    {core::kLease, "Warning", Mark::Red},
-    {core::kLease, "Eviction", Mark::Red},
+    {core::kMortgage, core::kPaymentDue, Mark::Yellow},
+    {core::kMortgage, core::kPaymentLate, Mark::Red},
+    {core::kLease, core::kPaymentDue, Mark::Yellow},
+    {core::kLease, core::kPaymentLate, Mark::Yellow},
+    {core::kLease, core::kRentWarning, Mark::Red},
+    {core::kLease, core::kRentEviction, Mark::Red},
 }};
 
 } // namespace

@@ -5,13 +5,13 @@
 
 namespace shell {
 
-/// How a status cell stands out: what is due, and what is worse.
+/// How a status cell is coloured: yellow for what is due, red for what is worse.
 enum class Mark { None, Yellow, Red };
 
-/// The column of a view whose cells are marked, counted from the id column; -1 for none.
+/// Returns the column of a view whose cells are marked, counted from the id column; -1 for none.
 int MarkedColumn(std::int16_t kind);
 
-/// The mark of a status word in that column. A mortgage turns red when it is late, a lease only
+/// Returns the mark of a status in that column. A mortgage turns red when it is late, a lease only
 /// with a warning or an eviction.
 Mark MarkOf(std::int16_t kind, std::string_view word);
 

@@ -28,7 +28,7 @@ CommandLine ReadCommandLine(std::span<const char* const> words) {
         }
         line.today = platform::Date::TryParse(value);
         if (!line.today) {
-            line.fault = "'" + std::string(value) + "' is no day of the form mm/dd/yyyy";
+            line.fault = "'" + std::string(value) + "' is not a valid date (mm/dd/yyyy)";
             return line;
         }
     }

@@ -6,11 +6,11 @@
 
 namespace shell {
 
-/// A report definition that prints the rows of a statement as one table.
+/// Returns a report definition that prints the rows of a statement as one table.
 std::string GridReportText(std::string_view sql);
 
-/// Writes it to the scratch report among the report files, which is replaced, and answers its path.
-/// An Error that says why when it can't be written.
+/// Replaces the scratch report among the report files with such a definition and returns its path.
+/// Throws Error if it can't be written.
 std::filesystem::path WriteGridReport(std::string_view sql);
 
 } // namespace shell

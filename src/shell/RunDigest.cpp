@@ -22,8 +22,8 @@ constexpr std::array<Noun, 8> kNouns = {{
     {"Rent Subsidy", "subsidy charge", "subsidy charges"},
     {"Rent Discount", "discount", "discounts"},
     {"Late Fee", "late fee", "late fees"},
-    {"Mortgage Payment", "mortgage payment", "mortgage payments"},
-    {"Mortgage Escrow", "escrow payment", "escrow payments"},
+    {"Mortgage Payment", "mortgage charge", "mortgage charges"},
+    {"Mortgage Escrow", "escrow charge", "escrow charges"},
     {"PMI Payment", "mortgage insurance charge", "mortgage insurance charges"},
     {"Late Payment", "mortgage late fee", "mortgage late fees"},
 }};

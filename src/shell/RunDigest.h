@@ -8,7 +8,7 @@
 
 namespace shell {
 
-/// One row that a run posted, with the record that it was posted for.
+/// A row that a run has posted, and the record that it was posted for.
 struct DigestRow {
     std::int16_t recordKind = 0;
     std::int32_t recordId = 0;
@@ -19,8 +19,7 @@ struct DigestRow {
     std::size_t description = 0;
 };
 
-/// Remembers what a bring-up-to-date run posted and what it had to pass over, for whoever comes
-/// back to the program.
+/// The rows that a daily run has posted and the records that it skipped, for the user's return.
 class RunDigest : public core::RunListener {
   public:
     void Posted(int recordKind, std::int32_t id, std::string_view description,
@@ -32,13 +31,13 @@ class RunDigest : public core::RunListener {
     const std::string& DescriptionOf(const DigestRow& row) const {
         return descriptions_[row.description];
     }
-    /// A line a record that was passed over, with the reason.
+    /// Returns a line for each record that was skipped, with the reason.
     const std::vector<std::string>& Faults() const { return faults_; }
 
-    /// "Since 10/03/2026: 12 rent charges, 3 late fees"; empty when nothing was posted. The day is
-    /// the earliest that a row was posted on.
+    /// Returns "Since 10/03/2026: 12 rent charges, 3 late fees" with the earliest date of a posted
+    /// row; empty if nothing was posted.
     std::string Line() const;
-    /// "2 records could not be brought up to date"; empty when there were none.
+    /// Returns "2 records could not be brought up to date"; empty if there were none.
     std::string FaultLine() const;
 
   private:

@@ -5,15 +5,15 @@
 
 namespace shell {
 
-/// One mortgage of the sample portfolio, and what its owner pays on which day.
+/// One mortgage of the sample portfolio, with its owner's payments.
 class SampleBorrower {
   public:
     explicit SampleBorrower(const store::SampleLoan& plan);
 
-    /// Pays what is open, on the days for that. Days are lived in their order, the clock standing
-    /// at each.
+    /// Pays the open charges if this is a day of payment. To be called for each day in order, with
+    /// the clock set to it.
     void LiveThrough(platform::Date day);
-    /// Writes what of the building is the owner's by now.
+    /// Writes the owner's present equity in the building.
     void NoteEquity() const;
 
   private:
@@ -21,7 +21,7 @@ class SampleBorrower {
     void PlanNextPayment();
 
     store::SampleLoan plan_;
-    /// The next day on which is paid; unset once nothing will be paid any more.
+    /// Returns the next day of payment; unset once nothing more will be paid.
     platform::Date nextPayment_;
 };
 

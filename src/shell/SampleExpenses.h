@@ -8,7 +8,7 @@
 
 namespace shell {
 
-/// What the owner of the sample portfolio pays for its buildings.
+/// The expenses of the sample portfolio's owner for the buildings.
 class SampleExpenses {
   public:
     /// Reads buildings and accounts from the process's database.

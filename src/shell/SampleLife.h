@@ -10,7 +10,7 @@ namespace shell {
 
 inline constexpr int kSampleUnits = store::kSampleUnits;
 
-/// Told of each day that the sample has lived through.
+/// Called for each day of the sample that is done.
 using SampleProgress = std::function<void(int daysDone, int days)>;
 
 /// Makes a database in `folder` with a sample portfolio of this many units and lives through its

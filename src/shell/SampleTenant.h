@@ -7,13 +7,13 @@
 
 namespace shell {
 
-/// One lease of the sample portfolio, and what its tenant does on which day.
+/// One lease of the sample portfolio, with its tenant's doings.
 class SampleTenant {
   public:
     explicit SampleTenant(const store::SampleHabit& habit);
 
-    /// What happens to the lease on this day, which the clock stands at: deposits are charged,
-    /// charges paid, notice given. Days are lived in their order; most pass without anything.
+    /// Does what happens to the lease on this day, which the clock is set to: charges deposits,
+    /// pays charges, gives notice. To be called for each day in order; nothing happens on most.
     void LiveThrough(platform::Date day);
 
   private:
@@ -22,7 +22,7 @@ class SampleTenant {
     void PlanNextPayment(platform::Date day);
 
     store::SampleHabit habit_;
-    /// The next day on which the tenant pays; unset once nothing will be paid any more.
+    /// Returns the next day on which the tenant pays; unset once nothing more will be paid.
     platform::Date nextPayment_;
     bool depositPaid_ = false;
 };

@@ -4,7 +4,7 @@
 
 namespace shell {
 
-/// What the end of the program consists of. A step that is empty is passed over.
+/// The steps of shutting down. An empty step is skipped.
 struct ShutDownSteps {
     std::function<void()> saveWindow;
     std::function<void()> saveHomePage;
@@ -12,13 +12,12 @@ struct ShutDownSteps {
     std::function<void()> releaseDialogs;
     std::function<void()> unloadForms;
     std::function<bool()> isBackupWanted;
-    /// Ends the process itself.
+    /// Ends the process.
     std::function<void()> startBackup;
     std::function<void()> endProcess;
 };
 
-/// Runs the steps in their order. One that fails doesn't keep the program from ending: the others
-/// run all the same. Without a backup the process ends.
+/// Runs the steps in order. If one fails, the others still run. Without a backup the process ends.
 void ShutDown(const ShutDownSteps& steps);
 
 } // namespace shell

@@ -2,14 +2,14 @@
 
 namespace shell {
 
-/// How long the splash stays at least: until the clock's second has gone by more than one beyond
-/// the rounded second of its start, which is between half a second and one and a half.
+/// The shortest time that the splash is shown: until the clock's second exceeds the rounded second
+/// of its start by more than one, which takes between half a second and one and a half.
 class SplashTime {
   public:
-    /// `secondOfDay` as the clock tells it.
+    /// `secondOfDay` is the clock's time of day in seconds.
     explicit SplashTime(double secondOfDay);
 
-    /// Also after midnight, when the clock starts again from 0.
+    /// Returns whether the time is over, also after midnight, when the clock starts again from 0.
     bool IsOver(double secondOfDay) const;
 
   private:

@@ -1,5 +1,6 @@
 #include <array>
 
+#include "core/Codes.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "platform/database/Recordset.h"
@@ -23,21 +24,18 @@ constexpr std::array<std::string_view, 10> kFilterFields = {
     "None", "To",     "From",  "Category", "Building",
     "Unit", "Tenant", "Lease", "Mortgage", "Work Order"};
 
-struct FixedWords {
+struct Statuses {
     std::int16_t kind;
-    std::vector<std::string> words;
+    std::span<const std::string_view> statuses;
 };
 
-const std::vector<FixedWords>& StatusWords() {
-    static const std::vector<FixedWords> words = {
-        {core::kLease, {"Pending", "WTW", "MTM", "Contracted", "Notice", "Expired", "Broken"}},
-        {core::kMortgage, {"Current", "Closed"}},
-        {core::kTenant, {"Pending", "Approved", "Rejected", "Current", "Archived"}},
-        {core::kWorkOrder, {"Open", "Vendor", "Completed", "Closed"}},
-        {core::kUnit, {"Hold", "Avaliable", "Leased"}},
-    };
-    return words;
-}
+constexpr std::array<Statuses, 5> kStatuses = {{
+    {core::kLease, core::kLeaseStatuses},
+    {core::kMortgage, core::kMortgageStatuses},
+    {core::kTenant, core::kTenantStatuses},
+    {core::kWorkOrder, core::kWorkOrderStatuses},
+    {core::kUnit, core::kUnitStatuses},
+}};
 
 struct ItemSource {
     std::string_view field;
@@ -86,8 +84,8 @@ std::vector<std::string> ViewWords(std::int16_t kind) {
     std::vector<std::string> own;
     if (kind == core::kAccount) own = ColumnOf("SELECT DISTINCT AccountType FROM Account");
     if (kind == core::kMileage) own = ColumnOf("SELECT DISTINCT Vehicle FROM Mileage");
-    for (const FixedWords& fixed : StatusWords()) {
-        if (fixed.kind == kind) own = fixed.words;
+    for (const Statuses& fixed : kStatuses) {
+        if (fixed.kind == kind) own.assign(fixed.statuses.begin(), fixed.statuses.end());
     }
     words.insert(words.end(), own.begin(), own.end());
     return words;

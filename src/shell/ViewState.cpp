@@ -27,7 +27,8 @@ constexpr std::array<Tag, 7> kTags = {{
 constexpr std::string_view kAscending = "ASC";
 constexpr std::string_view kDescending = "DESC";
 
-/// Where each part of a view's state is kept: a key, below which each view has a value of its tag.
+/// The registry key of each part of a view's state; each view has a value named after its tag
+/// there.
 struct Place {
     std::string_view key;
     std::string ViewState::*part;
@@ -69,9 +70,15 @@ ViewState LoadViewState(std::string_view tag) {
     return state;
 }
 
-void SaveViewState(std::string_view tag, const ViewState& state) {
+std::vector<platform::RegistryText> ViewStateTexts(std::string_view tag, const ViewState& state) {
+    std::vector<platform::RegistryText> texts;
     for (const Place& place : kPlaces)
-        core::SetRegString(place.key, tag, state.*place.part);
+        texts.push_back({std::string(place.key), std::string(tag), state.*place.part});
+    return texts;
+}
+
+void SaveViewState(std::string_view tag, const ViewState& state) {
+    core::SetRegStrings(ViewStateTexts(tag, state));
 }
 
 void ClickHeader(ViewState& state, std::string_view caption) {

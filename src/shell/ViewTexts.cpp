@@ -4,32 +4,32 @@
 
 #include <fmt/core.h>
 
+#include "core/KindTable.h"
 #include "core/RecordKinds.h"
 
 namespace shell {
 
 namespace {
 
-struct Plural {
+struct Need {
     std::int16_t kind;
-    std::string_view word;
+    std::string_view text;
 };
 
-constexpr std::array<Plural, 7> kPlurals = {{
-    {core::kAccount, "accounts"},
-    {core::kLease, "leases"},
-    {core::kMortgage, "mortgages"},
-    {core::kTenant, "tenants"},
-    {core::kWorkOrder, "work orders"},
-    {core::kTransaction, "transactions"},
-    {core::kUnit, "units"},
+/// The records that one of a kind needs first.
+constexpr std::array<Need, 5> kNeeds = {{
+    {core::kLease, " A lease needs a unit and a tenant."},
+    {core::kMortgage, " A mortgage needs a building."},
+    {core::kWorkOrder, " A work order needs a unit."},
+    {core::kTransaction, " A transaction needs an account or a tenant."},
+    {core::kUnit, " A building comes with its first unit."},
 }};
 
-std::string_view PluralOf(std::int16_t kind) {
-    for (const Plural& plural : kPlurals) {
-        if (plural.kind == kind) return plural.word;
+std::string_view NeedsOf(std::int16_t kind) {
+    for (const Need& need : kNeeds) {
+        if (need.kind == kind) return need.text;
     }
-    return "records";
+    return {};
 }
 
 bool IsFiltered(const EmptyView& view) {
@@ -54,7 +54,10 @@ std::string NarrowedText(std::int64_t shown, std::int64_t count) {
 }
 
 std::string EmptyText(const EmptyView& view) {
-    const std::string_view plural = PluralOf(view.kind);
+    const std::string_view plural = core::InfoOf(view.kind).plural;
+    if (view.count < 0 && !view.fault.empty()) {
+        return fmt::format("The {} can't be read: {}", plural, view.fault);
+    }
     if (view.count < 0) {
         return fmt::format("The {} can't be read. Choose \"All\" above, or press F5 to try again.",
                            plural);
@@ -66,7 +69,8 @@ std::string EmptyText(const EmptyView& view) {
     if (IsFiltered(view)) {
         return fmt::format("No {} meet the choice above. Choose \"All\" to see more.", plural);
     }
-    std::string text = fmt::format("There are no {} yet. Press Ctrl+N to add the first.", plural);
+    std::string text = fmt::format("There are no {} yet.{} Press Ctrl+N to add the first.", plural,
+                                   NeedsOf(view.kind));
     if (view.kind != core::kTransaction && !view.filter.showHidden) {
         text += " Hidden ones appear with \"Show Hidden Items\".";
     }

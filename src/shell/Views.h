@@ -10,10 +10,10 @@
 
 namespace shell {
 
-/// One entry of a list beside the grid: what it shows, and the number behind it.
+/// One entry of a filter: its text and its number.
 using core::Choice;
 
-/// What the filter controls of the main window say. "All" and "None" mean no filter.
+/// The filters of the main window. "All" and "None" mean no filter.
 struct ViewFilter {
     std::string status = "All";
     bool showHidden = false;
@@ -25,19 +25,19 @@ struct ViewFilter {
 
 enum class IdColumn { First, Omitted };
 
-/// The statement of the main view of a record kind, empty for a kind that has none. Records marked
-/// hidden are left out unless asked for; transactions can't be hidden.
+/// Returns the statement of the main view of a record kind, empty for a kind that has none. Hidden
+/// records are left out unless asked for; transactions can't be hidden.
 std::string BuildViewSql(std::int16_t kind, const ViewFilter& filter, IdColumn idColumn);
 
-/// The words of the view list of a record kind, "All" first. Those that come from the records are
-/// read from the database.
+/// Returns the entries of the view list of a record kind, "All" first. Those that come from the
+/// records are read from the database.
 std::vector<std::string> ViewWords(std::int16_t kind);
 
-/// The periods and the filter fields that the transactions offer.
+/// Return the periods and the filter fields for transactions.
 std::span<const Choice> Periods();
 std::span<const std::string_view> FilterFields();
 
-/// The items of one filter field, "All" first, read from the database.
+/// Returns the items of one filter field, "All" first, read from the database.
 std::vector<Choice> FilterItems(std::string_view field);
 
 } // namespace shell

@@ -1,12 +1,15 @@
 #include <gmock/gmock.h>
 
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "core/CoreFixture.h"
+#include "core/TableCsv.h"
 #include "platform/system/Paths.h"
 #include "shell/CommandLine.h"
+#include "shell/DigestTable.h"
 #include "shell/GridReport.h"
 #include "shell/RunDigest.h"
 #include "shell/ShutDown.h"
@@ -103,7 +106,7 @@ TEST(CommandLine, PartsTheOptionsFromTheSwitches) {
     EXPECT_EQ(read({}).rest, "");
     EXPECT_EQ(read({"--data"}).fault, "--data needs a value");
     EXPECT_EQ(read({"--today", "02/30/2024"}).fault,
-              "'02/30/2024' is no day of the form mm/dd/yyyy");
+              "'02/30/2024' is not a valid date (mm/dd/yyyy)");
 }
 
 class GridReports : public tests::CoreProcess {};
@@ -130,9 +133,36 @@ TEST(RunDigest, CountsWhatWasPostedSinceTheFirstDay) {
                    {platform::Date(2026, 10, 9), "Cleaning", amount}});
     EXPECT_EQ(digest.Line(), "Since 10/03/2026: 2 rent charges, 1 late fee, 1 Cleaning");
     EXPECT_EQ(digest.DescriptionOf(digest.Rows().back()), "O'Brien");
+    digest.Posted(3, 50, "Loan",
+                  {{platform::Date(2026, 11, 1), "Mortgage Payment", amount},
+                   {platform::Date(2026, 11, 1), "Mortgage Escrow", amount}});
+    EXPECT_THAT(digest.Line(), testing::EndsWith("1 mortgage charge, 1 escrow charge"))
+        << "the run charges; it pays nothing";
     digest.Failed(2, 42, "Zu", "no date");
     EXPECT_EQ(digest.FaultLine(), "1 record could not be brought up to date");
     EXPECT_THAT(digest.Faults(), ElementsAre("Zu: no date"));
+}
+
+TEST(DigestTable, ListsWhatWasSkippedAndThenWhatWasPosted) {
+    shell::RunDigest digest;
+    std::ostringstream empty;
+    core::WriteCsv(shell::DigestTable(digest), empty);
+    EXPECT_EQ(empty.str(), "\"No.\",\"Date\",\"Posted\",\"For\",\"Amount\"\n");
+    digest.Posted(
+        2, 41, "O'Brien",
+        {{platform::Date(2026, 10, 3), "Rent Subsidy ", platform::Currency::FromUnits(70)}});
+    digest.Failed(2, 42, "Zu", "no date");
+    const shell::DigestTable table(digest);
+    std::ostringstream text;
+    core::WriteCsv(table, text);
+    EXPECT_EQ(text.str(), empty.str() +
+                              "1,,\"Not updated\",\"Zu: no date\",\n"
+                              "2,10/03/2026,\"Rent Subsidy\",\"O'Brien\",70.0000\n");
+    EXPECT_EQ(table.PostedRow(1), nullptr);
+    ASSERT_NE(table.PostedRow(2), nullptr);
+    EXPECT_EQ(table.PostedRow(2)->recordId, 41);
+    for (const int outside : {0, -1, 3})
+        EXPECT_EQ(table.PostedRow(outside), nullptr) << outside;
 }
 
 } // namespace

@@ -15,19 +15,36 @@ using shell::Mark;
 TEST(Availability, NeedsAListARecordAndAnEditor) {
     struct Case {
         shell::WindowState state;
-        std::array<bool, 4> can; // add, print the list, edit, record
+        const char* add;
+        const char* list;
+        const char* edit;
+        const char* record;
+        const char* change;
+        const char* copyRows;
     };
+    const char* const noList = "Choose a list of records first.";
+    const char* const noRecord = "Select a record first.";
+    const char* const many = "Select only one record.";
+    const char* const noEditor = "These records can't be edited in this version.";
+    const char* const readOnly = "These books are open for reading only.";
     for (const Case& c : std::vector<Case>{
-             {{core::kAlert, 0, false}, {false, false, false, false}},
-             {{core::kAlert, 7, true}, {false, false, false, false}},
-             {{core::kLease, 0, true}, {true, true, false, false}},
-             {{core::kLease, 7, true}, {true, true, true, true}},
-             {{core::kLease, 7, false}, {false, true, false, true}},
-             {{core::kTransaction, -7, true}, {true, true, true, true}},
+             {{core::kAlert, 0, 0, false}, noList, noList, noList, noList, noList, noList},
+             {{core::kAlert, 7, 1, true}, noList, noList, noList, noList, noList, noList},
+             {{core::kLease, 0, 0, true}, "", "", noRecord, noRecord, noRecord, noRecord},
+             {{core::kLease, 7, 1, true}, "", "", "", "", "", ""},
+             {{core::kLease, 0, 3, true}, "", "", many, many, many, ""},
+             {{core::kLease, 7, 1, false}, noEditor, "", noEditor, "", "", ""},
+             {{core::kTransaction, -7, 1, true}, "", "", "", "", "", ""},
+             {{core::kLease, 7, 1, true, true}, readOnly, "", "", "", readOnly, ""},
          }) {
-        const shell::Availability can = shell::EnableEditButtons(c.state);
-        EXPECT_EQ((std::array{can.add, can.printGrid, can.edit, can.record}), c.can)
-            << c.state.kind << " " << c.state.selectedId;
+        const shell::Availability why = shell::EnableEditButtons(c.state);
+        const auto told = std::to_string(c.state.kind) + " " + std::to_string(c.state.selectedId);
+        EXPECT_EQ(why.add, c.add) << told;
+        EXPECT_EQ(why.list, c.list) << told;
+        EXPECT_EQ(why.edit, c.edit) << told;
+        EXPECT_EQ(why.record, c.record) << told;
+        EXPECT_EQ(why.change, c.change) << told;
+        EXPECT_EQ(why.copyRows, c.copyRows) << told;
     }
 }
 
@@ -97,7 +114,10 @@ TEST(EmptyText, SaysWhyNothingIsThereAndWhatToDo) {
     const shell::ViewFilter ofItem{.days = 0, .field = "Building", .item = {"Elm", 3}};
     const shell::ViewFilter ofAllItems{.days = 0, .field = "Building"};
     for (const Case& c : std::vector<Case>{
-             {{core::kLease, -1, "", {}}, "The leases can't be read"},
+             {{core::kLease, -1, "", {}}, "The leases can't be read. Choose"},
+             {{core::kLease, -1, "", {}, "No disk."}, "The leases can't be read: No disk."},
+             {{core::kLease, 0, "", {}},
+              "There are no leases yet. A lease needs a unit and a tenant. Press Ctrl+N"},
              {{core::kLease, 4, "smith", {}}, "None of the 4 leases has \"smith\""},
              {{core::kLease, 0, "smith", pending}, "No leases meet the choice"},
              {{core::kTenant, 0, "", {}}, "There are no tenants yet. Press Ctrl+N"},

@@ -4,7 +4,7 @@
 
 namespace shell::screens {
 
-/// Brings the books up to date under the hourglass. What was posted is added to `digest`.
+/// Brings the books up to date with the wait cursor shown. Adds what was posted to `digest`.
 void RunBooks(RunDigest& digest);
 
 } // namespace shell::screens

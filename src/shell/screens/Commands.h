@@ -7,7 +7,7 @@
 
 namespace shell::screens {
 
-/// What a command is given on: the kind of the view, and the id in its selected row, 0 for none.
+/// What a command works on: the kind of the view, and the id in its selected row, 0 for none.
 struct Selection {
     std::int16_t kind = 0;
     std::int32_t id = 0;
@@ -15,8 +15,8 @@ struct Selection {
 
 using Command = std::function<void(const Selection& selection)>;
 
-/// The work of those menu items that other rooms do, by the items' names. An item without work
-/// stands in its menu and can't be chosen.
+/// The work of menu items that other rooms do, by the items' names. An item without work is
+/// disabled.
 class Commands {
   public:
     void Add(const QString& item, Command command) { commands_[item] = std::move(command); }

@@ -1,12 +1,19 @@
 #include "shell/screens/HomePage.h"
 
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <exception>
 
 #include <fmt/core.h>
 
+#include "alerts/FirstSteps.h"
 #include "alerts/screens/Alerts.h"
+#include "core/EditRecord.h"
+#include "core/Globals.h"
+#include "core/forms/ErrorRoll.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
@@ -17,7 +24,7 @@ namespace shell::screens {
 
 namespace {
 
-/// Where notes go that can't be written beside their database.
+/// Returns the file for notes that can't be written beside their database.
 std::filesystem::path RescueFile() {
     return platform::DataHome() / "Vestrel" / "Notes that were not saved.txt";
 }
@@ -25,21 +32,77 @@ std::filesystem::path RescueFile() {
 } // namespace
 
 HomePage::HomePage(QWidget* parent)
-    : QWidget(parent), posted_(new QToolButton(this)), alerts_(new alerts::screens::Alerts(this)) {
+    : QWidget(parent),
+      books_(new QLabel(this)),
+      firstStep_(new QWidget(this)),
+      firstStepText_(new QLabel(firstStep_)),
+      firstStepCommand_(new QPushButton(firstStep_)),
+      posted_(new QToolButton(this)),
+      alerts_(new alerts::screens::Alerts(this)) {
+    SetUpNotices();
     alerts_->setObjectName(QStringLiteral("ucAlerts"));
     posted_->setObjectName(QStringLiteral("btnPosted"));
     posted_->setIcon(platform::qt::LoadIcon(QStringLiteral("calendar")));
-    posted_->setToolTip(tr("Shows the rows that were posted while you were away"));
+    posted_->setToolTip(tr("Show the rows that were posted while you were away"));
     posted_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     posted_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     posted_->setFocusPolicy(Qt::StrongFocus);
     posted_->hide();
     auto* const rows = new QVBoxLayout(this);
+    rows->addWidget(books_);
+    rows->addWidget(firstStep_);
     rows->addWidget(posted_);
     rows->addWidget(alerts_, 1);
     connect(posted_, &QToolButton::clicked, this, [this] {
         if (digest_ != nullptr) (new frmPosted)->Setup(*digest_);
     });
+}
+
+void HomePage::SetUpNotices() {
+    books_->setObjectName(QStringLiteral("lblBooks"));
+    books_->setTextFormat(Qt::PlainText);
+    books_->setWordWrap(true);
+    books_->setFrameShape(QFrame::StyledPanel);
+    books_->setMargin(6);
+    books_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    books_->hide();
+    firstStep_->setObjectName(QStringLiteral("firstStep"));
+    firstStepText_->setObjectName(QStringLiteral("lblFirstStep"));
+    firstStepText_->setWordWrap(true);
+    firstStepCommand_->setObjectName(QStringLiteral("cmdFirstStep"));
+    auto* const line = new QHBoxLayout(firstStep_);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(firstStepText_, 1);
+    line->addWidget(firstStepCommand_);
+    firstStep_->hide();
+    connect(firstStepCommand_, &QPushButton::clicked, this, [this] {
+        if (step_ != nullptr) core::forms::Guarded([this] { core::EditRecord(step_->kind, 0); });
+    });
+}
+
+void HomePage::ShowBooksNotice() {
+    const std::string& fault = core::App().OpenFault;
+    if (!fault.empty()) {
+        books_->setText(
+            tr("The books %1 can't be opened, so the lists are empty: %2")
+                .arg(platform::qt::ToScreen(core::App().DbFile), platform::qt::ToScreen(fault)));
+    }
+    const bool isReadOnly = fault.empty() && core::App().Connection.IsReadOnly();
+    if (isReadOnly) {
+        books_->setText(
+            tr("The books %1 can't be written to, so they are open for reading only and "
+               "nothing is charged.")
+                .arg(platform::qt::ToScreen(core::App().DbFile)));
+    }
+    books_->setVisible(!fault.empty() || isReadOnly);
+}
+
+void HomePage::ShowFirstStep() {
+    step_ = alerts::NextFirstStep();
+    firstStep_->setVisible(step_ != nullptr);
+    if (step_ == nullptr) return;
+    firstStepText_->setText(platform::qt::ToScreen(step_->text));
+    firstStepCommand_->setText(platform::qt::ToScreen(step_->command));
 }
 
 void HomePage::BindWizards(QAction& lease, QAction& mortgage) {
@@ -48,6 +111,8 @@ void HomePage::BindWizards(QAction& lease, QAction& mortgage) {
 }
 
 void HomePage::Refresh() {
+    ShowBooksNotice();
+    ShowFirstStep();
     alerts_->Refresh();
 }
 

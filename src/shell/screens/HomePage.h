@@ -5,35 +5,49 @@
 #include "shell/RunDigest.h"
 
 class QAction;
+class QLabel;
+class QPushButton;
 class QToolButton;
 
+namespace alerts {
+struct FirstStep;
+}
 namespace alerts::screens {
 class Alerts;
 }
 
 namespace shell::screens {
 
-/// The page that the program opens on: what needs attention, and above it one line of what the
-/// bring-up-to-date run posted, if it posted anything.
+/// The page that the program opens on: what needs attention, and above it one line each about books
+/// that can't be used as usual, the first steps in empty books, and what the daily run has posted.
 class HomePage : public QWidget {
     Q_OBJECT
 
   public:
     explicit HomePage(QWidget* parent = nullptr);
 
-    /// The page's side menu offers the two wizards as these actions do.
+    /// Makes the side menu's wizard items trigger these actions.
     void BindWizards(QAction& lease, QAction& mortgage);
-    /// Works out anew what needs attention.
+    /// Finds again what needs attention.
     void Refresh();
-    /// Writes the notes; asks whether to go on without them when they can't be written.
+    /// Writes the notes; asks whether to go on if they can't be written.
     bool AskToClose();
-    /// Writes the notes, if need be into another file, so that they aren't lost.
+    /// Writes the notes, to another file if necessary, so that they aren't lost.
     void SaveNotesOrRescue();
-    /// The line over the page; it leads to the list of what was posted. `digest` must outlive the
+    /// Shows the line about what was posted, which opens the list of it. `digest` must outlive the
     /// page.
     void ShowDigest(const RunDigest& digest);
 
   private:
+    void SetUpNotices();
+    void ShowBooksNotice();
+    void ShowFirstStep();
+
+    QLabel* books_;
+    QWidget* firstStep_;
+    QLabel* firstStepText_;
+    QPushButton* firstStepCommand_;
+    const alerts::FirstStep* step_ = nullptr;
     QToolButton* posted_;
     alerts::screens::Alerts* alerts_;
     const RunDigest* digest_ = nullptr;

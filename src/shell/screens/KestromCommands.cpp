@@ -1,7 +1,8 @@
-// What the buttons and menu items of the main window do.
+// The work of the main window's buttons and menu items.
 
 #include <QActionGroup>
 #include <QMenu>
+#include <QStandardPaths>
 #include <array>
 
 #include "core/EditRecord.h"
@@ -20,6 +21,7 @@
 #include "removal/DeleteRecord.h"
 #include "shell/GridReport.h"
 #include "shell/screens/HomePage.h"
+#include "shell/screens/MenuItems.h"
 #include "shell/screens/ViewPanel.h"
 #include "shell/screens/frmKestrom.h"
 #include "store/TransCategories.h"
@@ -34,7 +36,7 @@ struct Category {
     std::int16_t kind;
 };
 
-// MILEAGE has no button: trips are kept on a screen of their own.
+// MILEAGE has no button: trips have a screen of their own.
 constexpr std::array<Category, 9> kCategories = {{{"ALERTS", core::kAlert},
                                                   {"ACCOUNTS", core::kAccount},
                                                   {"FINANCIAL", core::kTransaction},
@@ -48,6 +50,27 @@ constexpr std::array<Category, 9> kCategories = {{{"ALERTS", core::kAlert},
 constexpr std::string_view kDownloads = "https://www.vestrel.example/downloads";
 constexpr std::string_view kForum = "https://forum.vestrel.example/";
 
+std::string CalculatorFile() {
+    return core::App().AppPath + "SumDesk.exe";
+}
+
+// The settings may name a tool; otherwise one of those that come with desktops.
+std::string SystemInformationTool() {
+    const std::string_view tools = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
+    const std::string_view location = R"(SOFTWARE\Microsoft\Shared Tools Location)";
+    std::string tool = core::GetRegString(tools, "PATH", "");
+    if (tool.empty()) {
+        tool = core::GetRegString(location, "MSINFO", "");
+        if (!tool.empty()) tool = platform::AddBackslash(tool) + "MSINFO32.EXE";
+    }
+    if (!tool.empty() && platform::FileExists(tool)) return tool;
+    for (const char* const known : {"kinfocenter", "hardinfo"}) {
+        const QString found = QStandardPaths::findExecutable(QString::fromLatin1(known));
+        if (!found.isEmpty()) return platform::qt::FromScreen(found);
+    }
+    return {};
+}
+
 } // namespace
 
 void frmKestrom::SetUpActions() {
@@ -56,14 +79,10 @@ void frmKestrom::SetUpActions() {
         const QString picture = action->property("picture").toString();
         if (!picture.isEmpty()) action->setIcon(platform::qt::LoadIcon(picture));
         action->setIconVisibleInMenu(false);
-        // The bar shows the plain word; what it does and its key stand in the tip.
-        const QString key = action->shortcut().toString(QKeySequence::NativeText);
-        if (!picture.isEmpty() && !key.isEmpty()) {
-            action->setToolTip(QStringLiteral("%1 (%2)").arg(action->toolTip(), key));
-        }
+        SetTip(*action);
     }
     for (QMenu* const menu : menuBar()->findChildren<QMenu*>())
-        menu->setToolTipsVisible(false);
+        ShowReasons(*menu);
 }
 
 void frmKestrom::ConnectCategories() {
@@ -83,19 +102,19 @@ void frmKestrom::ConnectCategories() {
 void frmKestrom::On(const QString& item, const std::function<void()>& work) {
     auto* const action = findChild<QAction*>(item);
     Q_ASSERT(action != nullptr);
-    action->setEnabled(true);
+    SetAvailable(*action, {});
     connect(action, &QAction::triggered, this, [work] { core::forms::Guarded(work); });
 }
 
 void frmKestrom::ConnectCommands() {
-    // What other rooms do; an item that nobody does yet can't be chosen.
+    // An item whose work no room does yet is disabled.
     for (QAction* const action : findChildren<QAction*>()) {
         const QString item = action->objectName();
         if (!item.startsWith(QLatin1String("mnu")) || action->menu() != nullptr) continue;
         if (services_.commands.Has(item)) {
             On(item, [this, item] { services_.commands.Run(item, Selected()); });
         } else if (!action->isSeparator()) {
-            action->setEnabled(false);
+            SetAvailable(*action, kNotInThisVersion);
         }
     }
     ConnectOwnCommands();
@@ -119,17 +138,26 @@ void frmKestrom::ConnectOwnCommands() {
     On(name("mnuCopyRows"), [this] { view_->CopyRows(); });
     On(name("mnuPrintGrid"), [this] { PrintGrid(); });
     On(name("mnuExit"), [this] { close(); });
-    On(name("mnuCalculator"), StartCalculator);
+    if (platform::FileExists(CalculatorFile())) {
+        On(name("mnuCalculator"), [] { platform::StartDetached(CalculatorFile()); });
+    } else {
+        SetAvailable(*ui_->mnuCalculator, "The calculator SumDesk is not installed.");
+    }
     if (!services_.commands.Has(name("mnuRestoreTransCategories"))) {
         On(name("mnuRestoreTransCategories"), RestoreTransCategories);
     }
-    On(name("mnuSysInfo"), StartSystemInformation);
+    if (const auto tool = SystemInformationTool(); !tool.empty()) {
+        On(name("mnuSysInfo"), [tool] { platform::StartDetached(tool); });
+    } else {
+        SetAvailable(*ui_->mnuSysInfo, "No system information program is installed.");
+    }
     On(name("mnuHelpGettingStarted"), [this] { OpenHelp(QStringLiteral("gettingstarted")); });
     On(name("mnuHelpContents"), [this] { OpenHelp(QStringLiteral("contents")); });
     On(name("mnuHelpSearch"), [this] { OpenHelp(QString::fromLatin1(core::forms::kHelpSearch)); });
     On(name("mnuHelpDownloads"), [] { platform::TheDesktop().OpenWebPage(kDownloads); });
     On(name("mnuHelpUserForum"), [] { platform::TheDesktop().OpenWebPage(kForum); });
-    ui_->mnuBackup->setEnabled(static_cast<bool>(services_.end.startBackup));
+    SetAvailable(*ui_->mnuBackup,
+                 services_.end.startBackup ? std::string_view() : kNotInThisVersion);
 }
 
 void frmKestrom::EditSelected() {
@@ -153,29 +181,6 @@ void frmKestrom::RestoreTransCategories() {
     platform::TheDialogs().ShowMessage("Success",
                                        "Default Transaction Categories have been restored.",
                                        platform::Icon::Information);
-}
-
-void frmKestrom::StartCalculator() {
-    const std::string calculator = core::App().AppPath + "SumDesk.exe";
-    if (platform::FileExists(calculator)) platform::StartDetached(calculator);
-}
-
-// The settings may name a tool; else one of those that desktops bring along.
-void frmKestrom::StartSystemInformation() {
-    const std::string_view tools = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
-    const std::string_view location = R"(SOFTWARE\Microsoft\Shared Tools Location)";
-    std::string tool = core::GetRegString(tools, "PATH", "");
-    if (tool.empty()) {
-        tool = core::GetRegString(location, "MSINFO", "");
-        if (!tool.empty()) tool = platform::AddBackslash(tool) + "MSINFO32.EXE";
-    }
-    if (!tool.empty() && platform::FileExists(tool)) {
-        platform::StartDetached(tool);
-        return;
-    }
-    for (const char* const known : {"kinfocenter", "hardinfo"}) {
-        if (platform::StartDetached(known)) return;
-    }
 }
 
 void frmKestrom::OpenHelp(const QString& topic) {

@@ -1,4 +1,4 @@
-// How the main window, and with it the program, ends.
+// Closes the main window and ends the program.
 
 #include <QCloseEvent>
 #include <QTimer>
@@ -20,7 +20,7 @@ constexpr int kTryAgainMs = 50;
 
 } // namespace
 
-/// The books are in the middle of something that lets window messages run.
+/// Returns whether the books are busy with something that lets window messages run.
 bool frmKestrom::IsBusy() const {
     return loading_ || updating_ || core::App().Connection.InUnitOfWork();
 }

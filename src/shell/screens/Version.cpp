@@ -1,9 +1,12 @@
 #include "shell/screens/Version.h"
 
+#include "platform/qt/Text.h"
+#include "platform/system/Version.h"
+
 namespace shell::screens {
 
 QString VersionText() {
-    return QStringLiteral(" v" VESTREL_VERSION);
+    return QStringLiteral(" v") + platform::qt::ToScreen(platform::Version());
 }
 
 } // namespace shell::screens

@@ -4,7 +4,7 @@
 
 namespace shell::screens {
 
-/// " v" and the program's version, major, minor and revision.
+/// Returns " v" and the program's version: major, minor and revision.
 QString VersionText();
 
 } // namespace shell::screens

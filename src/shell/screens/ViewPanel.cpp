@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "core/RecordKinds.h"
+#include "core/Settings.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/grid/Grid.h"
@@ -70,6 +71,8 @@ void ViewPanel::Connect() {
     connect(ui_->grd, &core::grid::Grid::HeaderClicked, this, &ViewPanel::Sort);
     connect(ui_->grd, &core::grid::Grid::SelectionMoved, this, [this] {
         selectedId_ = ui_->grd->SelectedId();
+        const QItemSelection rows = ui_->grd->selectionModel()->selection();
+        if (!rows.isEmpty()) selectedRow_ = rows.front().top();
         Q_EMIT SelectionMoved();
     });
     connect(ui_->grd, &core::grid::Grid::RowChosen, this, &ViewPanel::RecordChosen);
@@ -106,8 +109,9 @@ void ViewPanel::Remember() const {
     if (ViewTag(kind_).empty()) return;
     ViewState left = state_;
     left.view = FromScreen(ui_->cboView->currentText());
-    SaveViewState(ViewTag(kind_), left);
-    core::grid::SaveColumnWidths(*ui_->grd);
+    std::vector<platform::RegistryText> texts = ViewStateTexts(ViewTag(kind_), left);
+    if (auto widths = core::grid::ColumnWidthsText(*ui_->grd)) texts.push_back(*widths);
+    core::SetRegStrings(texts);
 }
 
 void ViewPanel::Release() {

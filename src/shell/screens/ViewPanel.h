@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/database/Recordset.h"
 #include "shell/ViewState.h"
 #include "shell/Views.h"
 
@@ -19,8 +20,8 @@ class ViewPanel;
 
 namespace shell::screens {
 
-/// The list of one kind of records: what it shows can be chosen above it, searched, and sorted by a
-/// click on a caption. It remembers for each kind how it was left.
+/// The list of one kind of records, with filters and a search above it, sorted by a click on a
+/// caption. The state of each kind's list is kept.
 class ViewPanel : public QWidget {
     Q_OBJECT
 
@@ -28,26 +29,27 @@ class ViewPanel : public QWidget {
     explicit ViewPanel(QWidget* parent = nullptr);
     ~ViewPanel() override;
 
-    /// Shows the records of a kind, as that kind was left.
+    /// Shows the records of a kind, with the state of that kind's list.
     void ShowKind(std::int16_t kind);
-    /// Remembers how the present kind is left; nothing before ShowKind, or for a kind without a
-    /// view.
+    /// Stores the state of the present kind's list; does nothing before ShowKind, and for a kind
+    /// without a view.
     void Remember() const;
-    /// Lets go of the rows, which end with the session.
+    /// Releases the rows, which end with the session.
     void Release();
 
-    /// What reads the rows again: the person's choice, or a broadcast. After a broadcast the
-    /// selected id stays as it was though its record may be gone.
+    /// Why the rows are read again: the user's choice, or a broadcast. After a broadcast SelectedId
+    /// stays as it was even if its record was deleted; no row is selected then.
     enum class Cause { Choice, Broadcast };
     void Reload(Cause cause);
 
     void FindText();
     void CopyRows() const;
 
+    /// Returns the id of the row that was selected last.
     std::int32_t SelectedId() const { return selectedId_; }
-    /// The statement of the present view without the id column, for printing.
+    /// Returns the statement of the present view without the id column, for printing.
     std::string PrintSql() const;
-    /// What the status bar says of the list.
+    /// Returns the status bar's text about the list.
     QString Status() const;
     QString NarrowedStatus() const;
     core::grid::Grid& List() const;
@@ -69,6 +71,7 @@ class ViewPanel : public QWidget {
     void FilterFieldChanged();
     void Sort(const QString& caption);
     void ReadRows();
+    void OpenRows(platform::Recordset& rows, platform::CursorMode mode);
     void ReadTransactions();
     void ColorCells();
     void ShowSortArrow();
@@ -81,7 +84,9 @@ class ViewPanel : public QWidget {
     QTimer* search_;
     std::int16_t kind_ = 0;
     std::int32_t selectedId_ = 0;
-    std::int64_t count_ = 0; ///< -1 when the statement failed
+    int selectedRow_ = 0;    ///< of the row that was selected last
+    std::int64_t count_ = 0; ///< -1 if the statement failed
+    std::string fault_;      ///< why it failed
     ViewState state_;
     bool loading_ = false;
 };

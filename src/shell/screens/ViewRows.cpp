@@ -1,11 +1,10 @@
-// How the rows of a view come into its list.
+// Reads the rows of a view into its list.
 
 #include <QHeaderView>
 #include <QScrollBar>
 
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "core/Session.h"
 #include "core/grid/Grid.h"
 #include "core/grid/GridColumns.h"
 #include "platform/qt/Text.h"
@@ -22,7 +21,7 @@ using platform::qt::ToScreen;
 
 namespace {
 
-constexpr int kFirstShown = 1; // behind the id column
+constexpr int kFirstShown = 1; // after the id column
 
 std::optional<QColor> ColorOf(Mark mark) {
     switch (mark) {
@@ -42,11 +41,14 @@ void ViewPanel::Reload(Cause cause) {
     if (kind_ == 0) return;
     const std::int32_t id = selectedId_;
     const int scrolled = ui_->grd->verticalScrollBar()->value();
+    const int row = selectedRow_;
     ReadRows();
     ColorCells();
     ui_->grd->Model().Narrow(ui_->txtSearch->text(), kFirstShown);
     core::grid::SizeColumns(*ui_->grd, kFirstShown);
     ShowSortArrow();
+    selectedId_ = id;
+    selectedRow_ = row;
     Select(id, cause);
     if (cause == Cause::Broadcast) ui_->grd->verticalScrollBar()->setValue(scrolled);
     ShowEmptyText();
@@ -60,11 +62,8 @@ void ViewPanel::ReadRows() {
         return;
     }
     platform::Recordset rows;
-    count_ = core::OpenRecordset(rows, BuildViewSql(kind_, Filter(), IdColumn::First),
-                                 core::Access::ReadOnly);
+    OpenRows(rows, platform::CursorMode::ReadOnly);
     if (rows.IsOpen()) {
-        // More rows than the session counts to are shown all the same.
-        count_ = rows.RecordCount();
         const std::string order =
             SortText(state_, [&](std::string_view caption) { return rows.HasField(caption); });
         if (!order.empty()) rows.Sort(order);
@@ -72,16 +71,22 @@ void ViewPanel::ReadRows() {
     core::grid::LoadGrid(*ui_->grd, std::move(rows));
 }
 
-/// There may be a million of them, whose first page need not wait for the others.
+void ViewPanel::OpenRows(platform::Recordset& rows, platform::CursorMode mode) {
+    fault_.clear();
+    try {
+        rows.Open(core::App().Connection, BuildViewSql(kind_, Filter(), IdColumn::First), mode);
+        count_ = rows.RecordCount();
+    } catch (const platform::Error& failure) {
+        rows.Close();
+        count_ = -1;
+        fault_ = failure.what();
+    }
+}
+
+/// Shows the first page before the other rows are read: there may be a million.
 void ViewPanel::ReadTransactions() {
     platform::Recordset rows;
-    try {
-        rows.Open(core::App().Connection, BuildViewSql(kind_, Filter(), IdColumn::First),
-                  platform::CursorMode::ReadAsNeeded);
-        count_ = rows.RecordCount();
-    } catch (const platform::Error&) {
-        count_ = -1;
-    }
+    OpenRows(rows, platform::CursorMode::ReadAsNeeded);
     core::grid::LoadGrid(*ui_->grd, std::move(rows));
     ui_->grd->Model().ReadOn();
 }
@@ -106,12 +111,16 @@ void ViewPanel::ShowSortArrow() {
     header.setSortIndicator(sorted, order);
 }
 
-/// The row that was selected stays so, otherwise the first one becomes so; but what a broadcast
-/// took away leaves its id standing until the person moves on.
+/// Selects the row with this id, or else the first one. After a broadcast that deleted the record
+/// no row is selected, so that the next command can't reach another record; the id stays as it was
+/// until the user selects a row, and the arrow keys go on from where the row was.
 void ViewPanel::Select(std::int32_t id, Cause cause) {
     Grid& grid = *ui_->grd;
     if (id != 0 && grid.SelectId(id)) return;
-    if (id != 0 && cause == Cause::Broadcast) return;
+    if (id != 0 && cause == Cause::Broadcast) {
+        grid.SelectNone(selectedRow_);
+        return;
+    }
     selectedId_ = 0;
     if (grid.Model().rowCount() > 0) grid.setCurrentIndex(grid.Model().index(0, kFirstShown));
 }
@@ -127,8 +136,8 @@ void ViewPanel::Narrow() {
 
 void ViewPanel::ShowEmptyText() {
     const std::string search = FromScreen(ui_->txtSearch->text());
-    ui_->grd->SetEmptyText(ToScreen(
-        EmptyText({.kind = kind_, .count = count_, .search = search, .filter = Filter()})));
+    ui_->grd->SetEmptyText(ToScreen(EmptyText(
+        {.kind = kind_, .count = count_, .search = search, .filter = Filter(), .fault = fault_})));
 }
 
 } // namespace shell::screens

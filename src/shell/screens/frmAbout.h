@@ -10,7 +10,7 @@ class frmAbout;
 
 namespace shell::screens {
 
-/// What this program is, and which version.
+/// The program's name and version.
 class frmAbout : public core::forms::Form {
     Q_OBJECT
 
@@ -21,6 +21,9 @@ class frmAbout : public core::forms::Form {
     void Setup();
 
   private:
+    /// Returns the text to copy: the name, the version, and what a report of a fault needs besides.
+    QString Text() const;
+
     std::unique_ptr<Ui::frmAbout> ui_;
 };
 

@@ -94,7 +94,7 @@ void frmConfig::FillAccounts() {
     core::binding::FillList(core::kAccount, *other_->cboDefaultMortgageAccount, {.addNone = true});
 }
 
-/// A lease that runs on from month to month or week to week has no end.
+/// A lease from month to month or week to week has no end.
 void frmConfig::OfferExpiry() {
     const QString type = leases_->cboTermType->currentText();
     const bool ends = type != QLatin1String("MTM") && type != QLatin1String("WTW");

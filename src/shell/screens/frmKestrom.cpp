@@ -15,10 +15,10 @@
 #include "core/forms/WindowPlace.h"
 #include "core/grid/Grid.h"
 #include "platform/qt/Text.h"
-#include "shell/Availability.h"
 #include "shell/ViewTexts.h"
 #include "shell/screens/BooksRun.h"
 #include "shell/screens/HomePage.h"
+#include "shell/screens/MenuItems.h"
 #include "shell/screens/ViewPanel.h"
 #include "ui_frmKestrom.h"
 
@@ -28,7 +28,7 @@ using platform::qt::ToScreen;
 
 namespace {
 
-constexpr int kTickMs = 60'000; // soon enough after midnight, and after a sleep
+constexpr int kTickMs = 60'000; // soon enough after midnight, and after the machine has slept
 
 } // namespace
 
@@ -36,6 +36,7 @@ frmKestrom::frmKestrom(WindowServices services)
     : services_(std::move(services)),
       ui_(std::make_unique<Ui::frmKestrom>()),
       categories_(new QActionGroup(this)),
+      status_(new QLabel(this)),
       narrowed_(new QLabel(this)),
       backup_(new QLabel(this)),
       tmr_(new QTimer(this)),
@@ -45,11 +46,15 @@ frmKestrom::frmKestrom(WindowServices services)
           NotifyUpdate(kind, action, id);
       }) {
     ui_->setupUi(this);
-    setWindowTitle(ToScreen(WindowTitle(core::Config().CompanyName)));
+    ShowTitle();
     SetUpPages();
     SetUpActions();
     ConnectCategories();
     ConnectCommands();
+    // Labels stay when a menu shows its own text in the status bar.
+    status_->setObjectName(QStringLiteral("lblStatus"));
+    status_->setTextFormat(Qt::PlainText);
+    ui_->statusBar->addPermanentWidget(status_, 1);
     ui_->statusBar->addPermanentWidget(narrowed_);
     backup_->setObjectName(QStringLiteral("lblBackup"));
     ui_->statusBar->addPermanentWidget(backup_);
@@ -83,7 +88,7 @@ void frmKestrom::Setup(RunDigest digest) {
     core::forms::RestoreWindow(*this, core::FormSizing::Resizable);
     show();
     repaint();
-    // The run has just been done, so the first tick only remembers its day.
+    // The run has just been done: the first tick only remembers the day.
     dayChange_.Tick([] {});
     tmr_->start(kTickMs);
 }
@@ -104,7 +109,7 @@ void frmKestrom::SetSelectedDb(std::int16_t kind) {
     const bool isHome = kind == core::kAlert;
     ui_->pages->setCurrentWidget(isHome ? static_cast<QWidget*>(home_) : view_);
     core::LetMessagesRun();
-    // The messages may have brought another view.
+    // Another view may have been chosen in the meantime.
     if (selectedDb_ != kind || hasEnded_) return;
     if (isHome) {
         RefreshHome();
@@ -118,12 +123,12 @@ void frmKestrom::SetSelectedDb(std::int16_t kind) {
 
 void frmKestrom::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
     if (hasEnded_) return;
-    if (kind == core::kConfiguration) {
-        setWindowTitle(ToScreen(WindowTitle(core::Config().CompanyName)));
-    }
+    if (kind == core::kConfiguration) ShowTitle();
     if (selectedDb_ == core::kAlert) {
-        // A save broadcasts several kinds in a row; the page is worked out once for all of them.
-        homeRefresh_->start(0);
+        // A save broadcasts several kinds in a row, which take one refresh. During a run of the
+        // books there is none: each deletes the messages that it has listed, and those of the run
+        // would be gone before anybody has seen them.
+        if (!updating_) homeRefresh_->start(0);
     } else if (kind == selectedDb_) {
         view_->Reload(ViewPanel::Cause::Broadcast);
     }
@@ -138,20 +143,32 @@ Selection frmKestrom::Selected() const {
 }
 
 void frmKestrom::EnableEditButtons() {
-    const bool hasEditor = services_.hasEditor && services_.hasEditor(selectedDb_);
-    const Availability can = shell::EnableEditButtons({selectedDb_, SelectedId(), hasEditor});
-    ui_->mnuAdd->setEnabled(can.add);
-    ui_->mnuEdit->setEnabled(can.edit);
-    ui_->mnuCopy->setEnabled(can.edit);
-    ui_->mnuPrintGrid->setEnabled(can.printGrid && services_.viewReport);
-    ui_->mnuDelete->setEnabled(can.record);
-    for (QAction* const item : {ui_->mnuPrint, ui_->mnuPayRent, ui_->mnuPayMortgage,
-                                ui_->mnuPhotoReel, ui_->mnuPrintDoc, ui_->mnuPrintDocMgmt}) {
-        item->setEnabled(can.record && services_.commands.Has(item->objectName()));
-    }
+    const Availability why = shell::EnableEditButtons(State());
+    SetAvailable(*ui_->mnuAdd, why.add);
+    SetAvailable(*ui_->mnuEdit, why.edit);
+    SetAvailable(*ui_->mnuCopy, why.edit.empty() ? why.change : why.edit);
+    SetAvailable(*ui_->mnuPrintGrid, services_.viewReport ? why.list : kNotInThisVersion);
+    SetAvailable(*ui_->mnuDelete, why.change);
+    const auto offer = [this](QAction* item, std::string_view reason) {
+        SetAvailable(*item,
+                     services_.commands.Has(item->objectName()) ? reason : kNotInThisVersion);
+    };
+    for (QAction* const item : {ui_->mnuPayRent, ui_->mnuPayMortgage})
+        offer(item, why.change);
+    for (QAction* const item :
+         {ui_->mnuPrint, ui_->mnuPhotoReel, ui_->mnuPrintDoc, ui_->mnuPrintDocMgmt})
+        offer(item, why.record);
+    SetAvailable(*ui_->mnuFind, why.list);
+    SetAvailable(*ui_->mnuCopyRows, why.copyRows);
+}
+
+WindowState frmKestrom::State() const {
     const bool isList = selectedDb_ != core::kAlert;
-    ui_->mnuFind->setEnabled(isList);
-    ui_->mnuCopyRows->setEnabled(can.record);
+    return {.kind = selectedDb_,
+            .selectedId = isList ? view_->List().SelectedId() : 0,
+            .selectedRows = isList ? view_->List().SelectedCount() : 0,
+            .hasEditor = services_.hasEditor && services_.hasEditor(selectedDb_),
+            .readOnly = core::App().Connection.IsReadOnly()};
 }
 
 void frmKestrom::ShowExtraItems() {
@@ -163,13 +180,13 @@ void frmKestrom::ShowExtraItems() {
     ui_->mnuCopy->setVisible(extra.copy);
 }
 
+void frmKestrom::ShowTitle() {
+    setWindowTitle(ToScreen(WindowTitle(core::Config().CompanyName)));
+}
+
 void frmKestrom::ShowStatus() {
     const bool isList = selectedDb_ != core::kAlert;
-    if (isList) {
-        ui_->statusBar->showMessage(view_->Status());
-    } else {
-        ui_->statusBar->clearMessage();
-    }
+    status_->setText(isList ? view_->Status() : QString());
     narrowed_->setText(isList ? view_->NarrowedStatus() : QString());
 }
 
@@ -181,14 +198,17 @@ void frmKestrom::ShowBackupNotice() {
 
 void frmKestrom::RefreshHome() {
     if (hasEnded_) return;
+    homeRefresh_->stop();
     core::forms::Guarded([this] { home_->Refresh(); });
 }
 
 void frmKestrom::Tick() {
     if (loading_ || updating_ || hasEnded_) return;
     dayChange_.Tick([this] {
-        const QScopedValueRollback updating(updating_, true);
-        RunBooks(digest_);
+        {
+            const QScopedValueRollback updating(updating_, true);
+            RunBooks(digest_);
+        }
         home_->ShowDigest(digest_);
         ShowBackupNotice();
         if (selectedDb_ == core::kAlert) RefreshHome();

@@ -8,6 +8,7 @@
 
 #include "core/DayChange.h"
 #include "core/NotifyAll.h"
+#include "shell/Availability.h"
 #include "shell/RunDigest.h"
 #include "shell/ShutDown.h"
 #include "shell/screens/Commands.h"
@@ -25,16 +26,17 @@ namespace shell::screens {
 class HomePage;
 class ViewPanel;
 
-/// What stands around the main window.
+/// What the main window needs from the program around it.
 struct WindowServices {
     Commands commands;
-    /// Whether the records of a kind have an editor.
+    /// Returns whether the records of a kind have an editor.
     std::function<bool(std::int16_t kind)> hasEditor;
     /// Opens a report definition in the viewer; without it nothing can be printed.
     std::function<void(const std::filesystem::path& definition)> viewReport;
     /// What the status bar says of an overdue backup; empty for nothing. May be missing.
     std::function<std::string()> backupNotice;
-    /// The steps of the end that aren't the window's own. Without startBackup there is no backup.
+    /// The steps of shutting down that aren't the window's own. Without startBackup there is no
+    /// backup.
     ShutDownSteps end;
 };
 
@@ -47,13 +49,13 @@ class frmKestrom : public QMainWindow {
     explicit frmKestrom(WindowServices services);
     ~frmKestrom() override;
 
-    /// Opens on the home page. `digest` is what the run before it posted.
+    /// Opens on the home page. `digest` holds what the daily run has posted.
     void Setup(RunDigest digest);
     /// Changes the view: to a kind of records, or to the home page (the kind of alerts).
     void SetSelectedDb(std::int16_t kind);
     void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id);
     void EnableEditButtons();
-    /// The day-change timer's work.
+    /// Does the work of the day-change timer.
     void Tick();
 
     std::int16_t SelectedDb() const { return selectedDb_; }
@@ -75,14 +77,16 @@ class frmKestrom : public QMainWindow {
     void ConnectCategories();
     void ConnectCommands();
     void ConnectOwnCommands();
-    /// Gives an item work, whose failures are shown.
+    /// Makes a menu item do this work; failures are shown.
     void On(const QString& item, const std::function<void()>& work);
     Selection Selected() const;
 
     void Initialise();
     void ShowExtraItems();
+    void ShowTitle();
     void ShowStatus();
     void ShowBackupNotice();
+    WindowState State() const;
     void RefreshHome();
     bool IsBusy() const;
     void End();
@@ -90,8 +94,6 @@ class frmKestrom : public QMainWindow {
     void EditSelected();
     void PrintGrid();
     static void RestoreTransCategories();
-    static void StartCalculator();
-    static void StartSystemInformation();
     void OpenHelp(const QString& topic);
 
     WindowServices services_;
@@ -99,6 +101,7 @@ class frmKestrom : public QMainWindow {
     QActionGroup* categories_;
     HomePage* home_;
     ViewPanel* view_;
+    QLabel* status_;
     QLabel* narrowed_;
     QLabel* backup_;
     QTimer* tmr_;

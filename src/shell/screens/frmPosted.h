@@ -3,27 +3,28 @@
 #include "core/forms/Form.h"
 #include "shell/RunDigest.h"
 
-class QModelIndex;
-class QTreeView;
+namespace core::grid {
+class Grid;
+}
 
 namespace shell::screens {
 
-/// What a bring-up-to-date run posted, row by row, and what it had to pass over. A row opens the
-/// record that it was posted for.
+/// The rows that a daily run has posted, and the records that it skipped. A row opens the record
+/// that it was posted for.
 class frmPosted : public core::forms::Form {
     Q_OBJECT
 
   public:
     explicit frmPosted(QWidget* parent = nullptr);
 
-    /// Shows a copy of what the run left.
+    /// Shows a copy of the digest.
     void Setup(RunDigest digest);
 
   private:
-    void OpenRow(const QModelIndex& row) const;
+    void OpenRow(std::int32_t number) const;
 
     RunDigest digest_;
-    QTreeView* list_;
+    core::grid::Grid* list_;
 };
 
 } // namespace shell::screens

@@ -9,6 +9,7 @@
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/Help.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/qt/Appearance.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
 #include "ui_frmPreferences.h"
@@ -20,7 +21,8 @@ frmPreferences::frmPreferences(QWidget* parent)
       ui_(std::make_unique<Ui::frmPreferences>()) {
     ui_->setupUi(this);
     core::binding::WireControls(*this);
-    core::binding::FillFromCommaList(*ui_->cboAutosize, "Manual,Fit core::grid::Grid,Fit Text");
+    core::binding::FillFromCommaList(*ui_->cboAutosize, "Manual,Fit Grid,Fit Text");
+    core::binding::FillFromCommaList(*ui_->cboAppearance, "System,Light,Dark");
     ui_->cmdAction->Apply().hide();
     connect(ui_->cmdAction, &core::forms::ActionBar::CloseClicked, this,
             &frmPreferences::SaveAndClose);
@@ -31,7 +33,7 @@ frmPreferences::frmPreferences(QWidget* parent)
 
 frmPreferences::~frmPreferences() = default;
 
-/// Names each control beside the preference that it shows.
+/// Calls `flag` and `days` with each control and its preference.
 template <class Flag, class Days>
 void frmPreferences::ForEach(Flag flag, Days days) {
     core::PreferenceValues& values = core::Preferences();
@@ -57,6 +59,7 @@ void frmPreferences::ForEach(Flag flag, Days days) {
 
 void frmPreferences::Setup() {
     ui_->cboAutosize->setCurrentIndex(core::Preferences().AutoSize);
+    ui_->cboAppearance->setCurrentIndex(core::Preferences().Appearance);
     const auto* const digits =
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), this);
     ForEach([](QCheckBox& box, bool value) { box.setChecked(value); },
@@ -71,16 +74,18 @@ void frmPreferences::SaveAndClose() {
     const bool taken = core::forms::Guarded([this] {
         const int sizing = ui_->cboAutosize->currentIndex();
         if (sizing >= 0) core::Preferences().AutoSize = sizing;
+        const int appearance = ui_->cboAppearance->currentIndex();
+        if (appearance >= 0) core::Preferences().Appearance = appearance;
         ForEach([](const QCheckBox& box, bool& value) { value = box.isChecked(); },
                 [](const QLineEdit& box, std::int32_t& value) {
                     value = platform::StrToInt16(platform::qt::FromScreen(box.text()));
                 });
     });
     if (!taken) return;
+    platform::qt::ApplyAppearance(platform::qt::Appearance{core::Preferences().Appearance});
     if (!core::SavePreferences()) {
         platform::TheDialogs().ShowMessage(
-            "Preferences",
-            "The preferences could not be written. They are in force until the program ends.",
+            "Preferences", "The preferences could not be saved. They apply until the program ends.",
             platform::Icon::Exclamation);
     }
     close();

@@ -13,8 +13,7 @@ class frmPreferences;
 
 namespace shell::screens {
 
-/// How this person wants the program on this machine. Closing takes the entries over, cancelling
-/// drops them.
+/// The preferences of this machine. Closing takes the entries over, cancelling drops them.
 class frmPreferences : public core::forms::Form {
     Q_OBJECT
 

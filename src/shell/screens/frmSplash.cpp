@@ -27,7 +27,7 @@ void frmSplash::Setup() {
     }
     show();
     repaint();
-    // The window system has to have put it up before the program gets busy.
+    // The window system must show it before the program gets busy.
     QCoreApplication::processEvents();
 }
 

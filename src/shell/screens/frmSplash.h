@@ -9,7 +9,7 @@ class frmSplash;
 
 namespace shell::screens {
 
-/// What stands on the screen while the program starts.
+/// Shown while the program starts.
 class frmSplash : public QWidget {
     Q_OBJECT
 
@@ -17,7 +17,7 @@ class frmSplash : public QWidget {
     frmSplash();
     ~frmSplash() override;
 
-    /// Shows it in the middle of the screen and paints it at once.
+    /// Shows it in the middle of the screen and paints it immediately.
     void Setup();
 
   private:

@@ -1,3 +1,5 @@
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -29,6 +31,11 @@ TEST_F(AboutTest, TellsTheVersionAndGoesWithOk) {
     form->Setup();
     EXPECT_TRUE(ShowsVersion(*form));
     EXPECT_EQ(support::Portray(*form, "frmAbout"), Said{});
+    support::ClickOn(Find<QPushButton>(*form, "cmdCopy"));
+    static const QRegularExpression copied(QStringLiteral("^Vestrel v\\d+\\.\\d+\\.\\d+\n"));
+    EXPECT_TRUE(copied.match(QApplication::clipboard()->text()).hasMatch())
+        << QApplication::clipboard()->text().toStdString();
+    EXPECT_TRUE(form->isVisible());
     support::ClickOn(Find<QPushButton>(*form, "cmdOk"));
     EXPECT_FALSE(form->isVisible());
 }

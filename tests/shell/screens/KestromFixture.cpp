@@ -2,7 +2,7 @@
 
 #include <QAction>
 #include <QHeaderView>
-#include <QStatusBar>
+#include <QLabel>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
@@ -98,7 +98,7 @@ QAction& KestromTest::Item(const char* name) {
 }
 
 std::string KestromTest::Status() {
-    return FromScreen(Window().statusBar()->currentMessage());
+    return FromScreen(support::Find<QLabel>(Window(), "lblStatus").text());
 }
 
 void KestromTest::ClickCaption(const char* caption) {

@@ -1,14 +1,25 @@
 #include <gmock/gmock.h>
 
 #include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QStatusTipEvent>
 #include <QTest>
 #include <QToolButton>
 #include <set>
 
+#include "core/DailyRun.h"
+#include "core/EditRecord.h"
+#include "core/MessagePump.h"
 #include "core/NotifyAll.h"
+#include "core/Preferences.h"
+#include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
+#include "core/Session.h"
 #include "core/forms/Form.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
@@ -19,7 +30,9 @@
 namespace {
 
 using platform::qt::FromScreen;
+using support::Find;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 class Kestrom : public tests::KestromTest {
@@ -113,9 +126,124 @@ TEST_F(Kestrom, DeletesTheSelectedRecordOfThoseWhoAgree) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM Tenant WHERE IdTenant = 32"), "0");
     EXPECT_EQ(Heard().size(), 2U);
     EXPECT_EQ(Status(), "Selected 2 Tenant records");
-    EXPECT_EQ(Window().SelectedId(), 32) << "until the person moves on";
+    EXPECT_EQ(Window().SelectedId(), 32) << "until another row is selected";
     QTest::keyClick(&Grid(), Qt::Key_Down);
-    EXPECT_EQ(Window().SelectedId(), 30);
+    EXPECT_EQ(Window().SelectedId(), 31) << "the row next to it";
+}
+
+TEST_F(Kestrom, ActsOnHighlightedRowsOnly) {
+    Answer({true, true, true});
+    Go("TENANTS");
+    Grid().SelectId(31);
+    QTest::keyClick(&Grid(), Qt::Key_Delete);
+    ASSERT_EQ(Ask("SELECT Count(*) FROM Tenant"), "2");
+    // A question takes the focus away, and the list gets it back.
+    Find<QLineEdit>(Window(), "txtSearch").setFocus();
+    Grid().setFocus();
+    EXPECT_TRUE(Grid().selectionModel()->selection().isEmpty());
+    EXPECT_THAT(Enabled({"mnuEdit", "mnuDelete", "mnuCopy", "mnuCopyRows"}), IsEmpty());
+    QTest::keyClick(&Grid(), Qt::Key_Delete);
+    QTest::keyClick(&Grid(), Qt::Key_Return);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Tenant"), "2") << "nothing is highlighted";
+    EXPECT_THAT(log_, IsEmpty());
+
+    Grid().selectAll();
+    EXPECT_THAT(Enabled({"mnuEdit", "mnuDelete", "mnuCopyRows"}), ElementsAre("mnuCopyRows"));
+    EXPECT_THAT(FromScreen(Item("mnuDelete").toolTip()), HasSubstr("Select only one record."));
+    QTest::keyClick(&Grid(), Qt::Key_Delete);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Tenant"), "2") << "not the last row of several";
+}
+
+TEST_F(Kestrom, SaysWhyAnItemIsDisabledAndOffersNoneThatDoesNothing) {
+    for (QAction* const item : Window().findChildren<QAction*>()) {
+        if (!item->objectName().startsWith(QLatin1String("mnu")) || item->menu()) continue;
+        if (item->isSeparator() || item->isEnabled() || !item->isVisible()) continue;
+        EXPECT_TRUE(item->toolTip().contains(QLatin1Char('\n'))) << FromScreen(item->objectName());
+    }
+    EXPECT_THAT(FromScreen(Item("mnuEdit").toolTip()), HasSubstr("Choose a list"));
+    EXPECT_FALSE(Item("mnuCalculator").isEnabled()) << "it isn't installed";
+    Go("LEASES");
+    EXPECT_EQ(FromScreen(Item("mnuEdit").toolTip()), "Open the selected record (Ctrl+E)");
+}
+
+TEST_F(Kestrom, KeepsItsStatusWhenMenusShowTheirs) {
+    Go("LEASES");
+    QStatusTipEvent tip(QStringLiteral("of a menu"));
+    QApplication::sendEvent(&Window(), &tip);
+    QStatusTipEvent none{QString()};
+    QApplication::sendEvent(&Window(), &none);
+    EXPECT_EQ(Status(), "Selected 3 Lease records");
+    EXPECT_TRUE(Find<QLabel>(Window(), "lblStatus").isVisible());
+}
+
+TEST_F(Kestrom, KeepsTheMessagesOfAllEventsOfADay) {
+    core::Preferences().KeepDays = 0;
+    int passes = 0;
+    core::RegisterRunStep(core::RunStep::ScheduledEvents, [&](core::RunListener&) {
+        for (; passes < 2; ++passes) {
+            core::AddAlert("Message " + std::to_string(passes), {});
+            core::NotifyAll(core::kAutoEvent, core::kRecordsChanged, 0);
+            core::LetMessagesRun();
+        }
+    });
+    Window().Tick();
+    core::SetMessagePump([] { support::SettleEvents(); });
+    platform::SetToday(platform::Date(2024, 5, 18));
+    Window().Tick();
+    support::SettleEvents();
+    core::SetMessagePump(nullptr);
+    core::RegisterRunStep(core::RunStep::ScheduledEvents, nullptr);
+    const auto& list = Find<QListWidget>(Window(), "lvwAlerts");
+    std::vector<std::string> messages;
+    for (int row = 0; row < list.count(); ++row) {
+        const std::string text = FromScreen(list.item(row)->text());
+        if (text.starts_with("Message")) messages.push_back(text);
+    }
+    EXPECT_THAT(messages, ElementsAre("Message 0", "Message 1"));
+}
+
+TEST_F(Kestrom, SaysWhatToDoFirstInEmptyBooks) {
+    for (const char* const table : {"Lease", "Mortgage", "Unit", "Building"})
+        Run(std::string("DELETE FROM ") + table);
+    core::RegisterOpener(core::kBuilding, [this](const core::EditRequest& request) {
+        log_.push_back("28 " + std::to_string(request.id));
+    });
+    auto& step = Find<QWidget>(Window(), "firstStep");
+    EXPECT_TRUE(step.isVisible());
+    Find<QPushButton>(Window(), "cmdFirstStep").click();
+    core::RegisterOpener(core::kBuilding, nullptr);
+    EXPECT_THAT(log_, ElementsAre("28 0"));
+    Run("INSERT INTO Unit (IdUnit) VALUES (20)");
+    Item("mnuRefreshSummary").trigger();
+    EXPECT_EQ(FromScreen(Find<QPushButton>(Window(), "cmdFirstStep").text()), "Add a Lease");
+    Run("INSERT INTO Lease (IdLease) VALUES (40)");
+    Item("mnuRefreshSummary").trigger();
+    EXPECT_FALSE(step.isVisible());
+}
+
+TEST_F(Kestrom, ShowsBooksThatItMayOnlyRead) {
+    core::App().Connection.Open(Folder() / "Vestrel.mdb", platform::OpenMode::ReadOnly);
+    Go("LEASES");
+    EXPECT_EQ(Status(), "Selected 3 Lease records");
+    EXPECT_THAT(Enabled({"mnuAdd", "mnuEdit", "mnuDelete", "mnuCopyRows"}),
+                ElementsAre("mnuEdit", "mnuCopyRows"));
+    EXPECT_THAT(FromScreen(Item("mnuDelete").toolTip()), HasSubstr("open for reading only"));
+    Go("ALERTS");
+    EXPECT_THAT(FromScreen(Find<QLabel>(Window(), "lblBooks").text()), HasSubstr("reading only"));
+    EXPECT_TRUE(Find<QLabel>(Window(), "lblBooks").isVisible());
+}
+
+TEST_F(Kestrom, NamesTheReasonWhyTheBooksCannotBeOpened) {
+    core::App().Connection.Close();
+    MakeFile("letter", "a letter to my tenant, not a database");
+    std::string file = PathTo("letter");
+    ASSERT_FALSE(core::OpenDatabase(core::App().Connection, file));
+    auto& notice = Find<QLabel>(Window(), "lblBooks");
+    EXPECT_TRUE(notice.isVisible());
+    EXPECT_THAT(FromScreen(notice.text()), HasSubstr(core::App().OpenFault));
+    core::App().OpenFault.clear();
+    Item("mnuRefreshSummary").trigger();
+    EXPECT_FALSE(notice.isVisible());
 }
 
 TEST_F(Kestrom, PrintsTheViewThroughTheScratchReport) {
@@ -182,6 +310,7 @@ TEST_F(Kestrom, RunsTheBooksWhenTheDayChanges) {
     ASSERT_NE(list, nullptr);
     QTest::keyClick(&support::Find<QWidget>(*list, "lvwPosted"), Qt::Key_Return);
     EXPECT_THAT(log_, ElementsAre("2 40"));
+    EXPECT_TRUE(list->isVisible()) << "Enter opens the record and leaves the list open";
 }
 
 /// A record screen with unsaved changes.

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -111,6 +112,19 @@ TEST_F(PreferencesTest, CloseWritesThemAndCancelDropsThem) {
     EXPECT_EQ(core::GetRegString(core::kPreferencesKey, "LateRent", ""), "False");
 }
 
+TEST_F(PreferencesTest, TheColoursChangeWhenItCloses) {
+    auto form = Open();
+    EXPECT_EQ(Find<QComboBox>(*form, "cboAppearance").currentText(), QStringLiteral("System"));
+    support::Choose(*form, "cboAppearance", "Dark");
+    ClickAction(*form, "CLOSE");
+    EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
+    EXPECT_EQ(core::GetRegNumber(core::kPreferencesKey, "Appearance", -1), 2);
+    form = Open();
+    support::Choose(*form, "cboAppearance", "Light");
+    ClickAction(*form, "CLOSE");
+    EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 128);
+}
+
 TEST_F(PreferencesTest, AnEmptyBoxIsNoDaysAndOnlyDigitsGoIn) {
     const auto form = Open();
     Days(*form, "txtKeepDays").clear();
@@ -137,6 +151,7 @@ class LockedRegistry : public platform::Registry {
     }
     bool WriteText(std::string_view, std::string_view, std::string_view) override { return false; }
     bool WriteNumber(std::string_view, std::string_view, std::int32_t) override { return false; }
+    bool WriteTexts(std::span<const platform::RegistryText>) override { return false; }
 };
 
 TEST_F(PreferencesTest, SaysWhenTheyCannotBeWritten) {
@@ -144,8 +159,8 @@ TEST_F(PreferencesTest, SaysWhenTheyCannotBeWritten) {
     const auto form = Open();
     Flag(*form, "chkLateRent").click();
     ClickAction(*form, "CLOSE");
-    EXPECT_EQ(Heard(), Said{"Preferences: The preferences could not be written. They are in force "
-                            "until the program ends."});
+    EXPECT_EQ(Heard(), Said{"Preferences: The preferences could not be saved. They apply until "
+                            "the program ends."});
     EXPECT_FALSE(Preferences().LateRent);
 }
 

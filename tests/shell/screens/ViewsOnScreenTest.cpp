@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -138,6 +139,63 @@ TEST_F(ViewsOnScreen, KeepColumnWidthsSetByHand) {
     Go("LEASES");
     EXPECT_EQ(Grid().columnWidth(2), 211);
     EXPECT_TRUE(Grid().isColumnHidden(0));
+}
+
+TEST_F(ViewsOnScreen, KeepColumnWidthsSetByHandOverASort) {
+    for (const int sizing : {0, 1, 2}) {
+        core::Preferences().AutoSize = sizing;
+        Go("LEASES");
+        Grid().setColumnWidth(2, 143);
+        ClickCaption("Rent");
+        EXPECT_EQ(Grid().columnWidth(2), 143) << sizing;
+        if (sizing == 1) {
+            EXPECT_EQ(Grid().horizontalHeader()->length(), Grid().viewport()->width());
+        }
+        Go("UNITS");
+        EXPECT_NE(Grid().columnWidth(2), 143) << sizing;
+    }
+}
+
+/// Counts the times that it is written.
+class CountingRegistry : public platform::Registry {
+  public:
+    explicit CountingRegistry(int& writes) : writes_(writes) {}
+    std::optional<std::string> ReadText(std::string_view key, std::string_view name) override {
+        return values_->ReadText(key, name);
+    }
+    std::optional<std::int32_t> ReadNumber(std::string_view key, std::string_view name) override {
+        return values_->ReadNumber(key, name);
+    }
+    bool WriteText(std::string_view key, std::string_view name, std::string_view value) override {
+        ++writes_;
+        return values_->WriteText(key, name, value);
+    }
+    bool WriteNumber(std::string_view key, std::string_view name, std::int32_t value) override {
+        ++writes_;
+        return values_->WriteNumber(key, name, value);
+    }
+    bool WriteTexts(std::span<const platform::RegistryText> texts) override {
+        ++writes_;
+        return values_->WriteTexts(texts);
+    }
+
+  private:
+    int& writes_;
+    std::unique_ptr<platform::Registry> values_ = platform::MakeMemoryRegistry();
+};
+
+TEST_F(ViewsOnScreen, WriteTheRegistryOnceForAChange) {
+    int writes = 0;
+    platform::SetRegistry(std::make_unique<CountingRegistry>(writes));
+    Go("LEASES");
+    ClickCaption("Rent");
+    EXPECT_EQ(writes, 0);
+    Go("UNITS");
+    EXPECT_EQ(writes, 1);
+    EXPECT_EQ(core::GetRegString(R"(SOFTWARE\Vestrel\Kestrom\SortField)", "frmKestrom.Lease", ""),
+              "Rent");
+    EXPECT_NE(core::GetRegString(R"(SOFTWARE\Vestrel\GridInfo)", "ColData_frmKestrom.Lease", ""),
+              "");
 }
 
 TEST_F(ViewsOnScreen, ColourWhatIsDue) {
