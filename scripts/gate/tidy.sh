@@ -73,7 +73,8 @@ export work tidy build deadline=$(($(date +%s) + kSeconds))
 xargs -r -P "$(nproc)" -L 1 bash -c '
     if [ "$(date +%s)" -ge "$deadline" ]; then
         echo "$1" >>"$work/left"
-    elif $tidy -p "$build" --quiet --extra-arg=-Wno-unknown-warning-option "$1" \
+    elif $tidy -p "$build" --quiet --extra-arg=-Wno-unknown-warning-option \
+        --extra-arg=-Wno-ignored-gch "$1" \
         >"$work/said.$$" 2>"$work/errors.$$"; then
         touch "$2"
     else
