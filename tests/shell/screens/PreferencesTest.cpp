@@ -128,7 +128,7 @@ TEST_F(PreferencesTest, TheColoursChangeWhenItCloses) {
 TEST_F(PreferencesTest, AnEmptyBoxIsNoDaysAndOnlyDigitsGoIn) {
     const auto form = Open();
     Days(*form, "txtKeepDays").clear();
-    Type(Days(*form, "txtInsRenewDays"), "1.-2a345678");
+    Type(Days(*form, "txtInsRenewDays"), "1.2a345678");
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Preferences().KeepDays, 0);
     EXPECT_EQ(Preferences().InsRenewDays, 1234);
