@@ -49,9 +49,8 @@ enum class Triggers { Fire, Skip };
 
 /// Adds a row to the transactions, the one way that rows reach the table. Before it is committed,
 /// the events of its debit side run, then those of its credit side, and the registered listeners
-/// are called; all of it is one unit of work. Open lists are refreshed after the commit; inside a
-/// larger unit of work that is left to the routine that began it. Returns the new row's id;
-/// failures are thrown.
+/// are called; all of it is one unit of work. Open lists are refreshed after the commit of
+/// the whole unit. Returns the new row's id; failures are thrown.
 std::int32_t PostTransaction(const Transaction& transaction, Triggers triggers = Triggers::Fire);
 
 /// Rewrites a posted row, or adds it under its id if it was deleted; whether its sides were

@@ -6,6 +6,7 @@
 #include "books/TransactionListeners.h"
 #include "books/TransactionRow.h"
 #include "core/Globals.h"
+#include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
@@ -60,12 +61,11 @@ std::int32_t AddTransaction(const Transaction& entered, Trip trip) {
     AddRow(rows, id);
     WriteTransactionFields(rows, entered);
     rows["IdMileage"].Set(trip == Trip::Keep ? WriteTrip(0, entered) : 0);
-    const bool triggered = RunTriggeredEvents(entered);
+    RunTriggeredEvents(entered);
     rows.Update();
     TellTransactionListeners(id, entered);
-    unit.Commit();
     if (trip == Trip::Keep) TellLists({core::kMileage});
-    if (triggered) TellLists({core::kAutoEvent});
+    unit.Commit();
     return id;
 }
 

@@ -7,7 +7,6 @@
 
 #include "books/AutoEvent.h"
 #include "books/EventSchedule.h"
-#include "books/TellLists.h"
 #include "core/Globals.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
@@ -109,9 +108,8 @@ bool ScheduledEvents::RunScheduledEvents() {
             outcome.fault = error.what();
         }
     }
+    if (kept) TellLists({core::kAutoEvent});
     pass.Commit();
-    if (ran) TellLists({core::kTransaction});
-    if (ran || kept) TellLists({core::kAutoEvent});
     Tell(listener_, outcomes);
     return ran;
 }

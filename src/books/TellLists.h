@@ -5,8 +5,7 @@
 
 namespace books {
 
-/// Tells the open screens that records of these kinds changed, unless a unit of work is open: what
-/// isn't kept yet is told by the routine that keeps it.
+/// Tells the open screens that records of these kinds changed; in a unit of work, once it is kept.
 void TellLists(std::initializer_list<std::int16_t> kinds);
 
 } // namespace books

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/Configuration.h"
+#include "core/Globals.h"
 #include "core/RecordKinds.h"
 
 namespace core {
@@ -32,6 +33,47 @@ bool IsListening(int id) {
     return std::ranges::any_of(Listeners(), [id](const Entry& entry) { return entry.id == id; });
 }
 
+struct Message {
+    std::int16_t kind;
+    std::int16_t action;
+    std::int32_t id;
+    friend bool operator==(const Message&, const Message&) = default;
+};
+
+void Tell(const Message& message) {
+    if (message.kind == kConfiguration) LoadConfiguration();
+    // A listener added during the broadcast has just read the records, and isn't notified.
+    const std::vector<Entry> told = Listeners();
+    for (const Entry& entry : told) {
+        if (!IsListening(entry.id)) continue;
+        try {
+            (*entry.listener)(message.kind, message.action, message.id);
+        } catch (...) {
+            // A screen that can't refresh must not stop the one that saved.
+        }
+    }
+}
+
+/// Messages of the unit of work that is open.
+std::vector<Message>& HeldBack() {
+    static std::vector<Message> messages;
+    return messages;
+}
+
+void TellHeldBack(platform::UnitEnd end) {
+    const std::vector<Message> messages = std::exchange(HeldBack(), {});
+    if (end == platform::UnitEnd::RolledBack) return;
+    for (const Message& message : messages)
+        Tell(message);
+}
+
+void HoldBack(const Message& message) {
+    std::vector<Message>& messages = HeldBack();
+    if (messages.empty()) App().Connection.AfterUnitOfWork(TellHeldBack);
+    std::erase(messages, message);
+    messages.push_back(message);
+}
+
 } // namespace
 
 NotifyToken::NotifyToken(NotifyListener listener) : id_(NewEntryId()) {
@@ -43,16 +85,11 @@ NotifyToken::~NotifyToken() {
 }
 
 void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id) {
-    if (kind == kConfiguration) LoadConfiguration();
-    // A listener added during the broadcast has just read the records, and isn't notified.
-    const std::vector<Entry> told = Listeners();
-    for (const Entry& entry : told) {
-        if (!IsListening(entry.id)) continue;
-        try {
-            (*entry.listener)(kind, action, id);
-        } catch (...) {
-            // A screen that can't refresh must not stop the one that saved.
-        }
+    const Message message{kind, action, id};
+    if (App().Connection.InUnitOfWork()) {
+        HoldBack(message);
+    } else {
+        Tell(message);
     }
 }
 

@@ -22,8 +22,11 @@ class NotifyToken {
     int id_;
 };
 
-/// Notifies every listener now, in the order they were added, that records of `kind` changed; for
-/// the settings, those in memory are read again first. A listener's failure is ignored.
+/// Notifies every listener, in the order they were added, that records of `kind` changed; for the
+/// settings, those in memory are read again first. A listener's failure is ignored.
+///
+/// Inside a unit of work the messages wait until the whole unit is committed. Each then goes out
+/// once, in the order of its last announcement; if the unit is rolled back, none does.
 void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id);
 
 } // namespace core

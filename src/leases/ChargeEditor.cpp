@@ -51,7 +51,24 @@ void SaveCharge(platform::Recordset& row) {
     unit.Commit();
 }
 
+namespace {
+
+/// Written back with the payment that the screen knew, a charge paid since would be owed again.
+void CheckUnpaid(const RentLogEntry& entry, std::int32_t idRentLog) {
+    const auto now = core::App().Connection.Scalar(
+        "SELECT IdTransaction FROM RentLog WHERE IdRentLog = ?", {idRentLog});
+    if (!now || (now->IsNull() ? 0 : now->AsLong()) == entry.idTransaction) return;
+    throw platform::ConflictError(
+        entry.idTransaction == 0
+            ? "The charge was paid after it was opened. It was not saved."
+            : "The payment of the charge was changed after it was opened. It was not saved.");
+}
+
+} // namespace
+
 void SaveCharge(platform::Recordset& row, const RentLogEntry& entry) {
+    platform::UnitOfWork unit(core::App().Connection);
+    CheckUnpaid(entry, row["IdRentLog"].AsLong());
     row["IdLease"].Set(entry.idLease);
     row["IdTransaction"].Set(entry.idTransaction);
     row["DatePosted"].Set(entry.datePosted.ToText());

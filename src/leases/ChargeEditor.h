@@ -17,7 +17,8 @@ std::string_view ChargeCaption(RentClass rentClass);
 std::vector<std::string> ChargeCategories(RentClass rentClass);
 
 /// Writes a row of the ledger as it was entered, also one of zero, with its amount in whole cents,
-/// and the lease's balances with it. One unit of work; failures are thrown.
+/// and the lease's balances with it. One unit of work. Throws ConflictError if the row was paid, or
+/// its payment changed, since `entry` was read.
 void SaveCharge(platform::Recordset& row, const RentLogEntry& entry);
 /// The same for a row that the screen has filled in itself.
 void SaveCharge(platform::Recordset& row);

@@ -81,26 +81,27 @@ void RunCommand(LeaseCommand command, std::int32_t idLease, int noticeDays) {
         case LeaseCommand::RenewLease:
             return ChangeStatus(idLease, status::kPending, Date());
         case LeaseCommand::Reprocess:
-            return UpdateLeaseById(idLease, WalkMode::Reprocess);
+            UpdateLeaseById(idLease, WalkMode::Reprocess);
+            return;
         case LeaseCommand::RollForward:
-            return UpdateLeaseById(idLease, WalkMode::RollForward);
+            UpdateLeaseById(idLease, WalkMode::RollForward);
+            return;
     }
 }
 
 void ChangeStatus(std::int32_t idLease, std::string_view newStatus, platform::Date vacating) {
+    platform::UnitOfWork unit(core::App().Connection);
     platform::Recordset row;
     row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?",
              platform::CursorMode::Updatable, {idLease});
     if (row.Eof()) return;
-
-    platform::UnitOfWork unit(core::App().Connection);
     row["Status"].Set(newStatus);
     row["DateVacating"].Set(vacating.ToText());
     SetLeaseStatus(row, platform::Today(), StatusChange::Force);
     SetRentStatus(row);
     row.Update();
-    unit.Commit();
     core::NotifyAll(core::kLease, core::kRecordsChanged, 0);
+    unit.Commit();
 }
 
 } // namespace leases

@@ -2,6 +2,8 @@
 
 #include "core/Configuration.h"
 #include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "leases/ChargeDeposits.h"
 #include "leases/LeaseStatus.h"
 #include "leases/RentCodes.h"
@@ -66,6 +68,8 @@ std::vector<std::string> LeaseErrors(const LeaseEntry& entry) {
     if (entry.idUnit == 0) lines.emplace_back("A unit must be specified.");
     if (entry.idTenant == 0) lines.emplace_back("A tenant must be specified.");
     if (entry.rent.IsZero()) lines.emplace_back("Rent rate should not be zero.");
+    // Nothing could be charged, and nothing would fall due.
+    if (!entry.hasNextDue) lines.emplace_back("A next due date must be specified.");
     return lines;
 }
 
@@ -120,7 +124,8 @@ void ReadBalances(Recordset& row, std::int32_t idLease) {
 void StoreBalances(std::int32_t idLease) {
     Recordset row;
     ReadBalances(row, idLease);
-    if (!row.Eof()) row.Update();
+    if (row.Eof()) return;
+    if (row.Update()) core::NotifyAll(core::kLease, core::kRecordsChanged, idLease);
 }
 
 } // namespace leases

@@ -23,6 +23,7 @@ struct LeaseEntry {
     std::int32_t idUnit = 0;
     std::int32_t idTenant = 0;
     platform::Currency rent;
+    bool hasNextDue = false;
 };
 
 /// What is wrong with it, a line each.
@@ -64,8 +65,8 @@ bool HasEnd(std::string_view termType);
 /// to show. No current row when the lease has gone.
 void ReadBalances(platform::Recordset& row, std::int32_t idLease);
 
-/// Stores the balances of a lease after a change of its ledger; nothing when it has gone. Failures
-/// are thrown.
+/// Stores the balances of a lease after a change of its ledger and tells the screens; does nothing
+/// for a lease that was deleted. Failures are thrown.
 void StoreBalances(std::int32_t idLease);
 
 } // namespace leases

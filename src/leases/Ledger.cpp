@@ -6,6 +6,7 @@
 #include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "leases/LeaseEditor.h"
 #include "leases/RentLog.h"
 #include "leases/mLease.h"
 #include "platform/database/FieldReadings.h"
@@ -108,8 +109,15 @@ books::Transaction ProposeDepositCharge(std::int32_t idLease) {
 void WriteDepositRow(std::int32_t idTransaction, const books::Transaction& transaction) {
     const RentFlags flags{transaction.flags};
     if (flags != RentFlags::DepositRefund && flags != RentFlags::DepositCharge) return;
-    const auto row = core::App().Connection.Scalar(
-        "SELECT IdRentLog FROM RentLog WHERE IdTransaction = ?", {idTransaction});
+    // An ordinary transaction has no class, and never a row in a ledger.
+    if (transaction.transactionClass == 0) return;
+    platform::UnitOfWork unit(core::App().Connection);
+    Recordset row;
+    row.Open(core::App().Connection,
+             "SELECT IdRentLog, IdLease FROM RentLog WHERE IdTransaction = ?", CursorMode::ReadOnly,
+             {idTransaction});
+    const std::int32_t idRow = row.Eof() ? 0 : row["IdRentLog"].AsLong();
+    const std::int32_t idLeaseBefore = row.Eof() ? 0 : IdOf(row["IdLease"]);
     WriteRentLog({.idLease = transaction.idLease,
                   .idTransaction = idTransaction,
                   .datePosted = transaction.dateEffective,
@@ -118,7 +126,10 @@ void WriteDepositRow(std::int32_t idTransaction, const books::Transaction& trans
                   .amount = transaction.amount,
                   .description = transaction.description,
                   .flags = flags},
-                 row && !row->IsNull() ? row->AsLong() : 0);
+                 idRow);
+    StoreBalances(transaction.idLease);
+    if (idLeaseBefore != transaction.idLease) StoreBalances(idLeaseBefore);
+    unit.Commit();
 }
 
 } // namespace leases

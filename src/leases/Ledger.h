@@ -53,8 +53,9 @@ std::vector<LedgerRow> ReadLedger(std::int32_t idLease, const LedgerTab& tab);
 books::Transaction ProposeDepositRefund(std::int32_t idLease);
 books::Transaction ProposeDepositCharge(std::int32_t idLease);
 
-/// Keeps the ledger row that belongs to such a transaction whenever it is saved; nothing for other
-/// transactions. Failures are thrown.
+/// Keeps the ledger row that belongs to such a transaction whenever it is saved, and the balances
+/// of its lease (of both leases if it was moved to another); does nothing for other transactions.
+/// Failures are thrown.
 void WriteDepositRow(std::int32_t idTransaction, const books::Transaction& transaction);
 
 } // namespace leases

@@ -35,9 +35,20 @@ std::string DescribeCredit(platform::Recordset& lease, int periods) {
     return credit.IsZero() ? "" : ", option credit " + platform::FormatMoney(credit);
 }
 
-} // namespace
+bool IsStored(std::int32_t idTransaction) {
+    return core::App()
+        .Connection
+        .Scalar("SELECT IdTransaction FROM Transactions WHERE IdTransaction = ?", {idTransaction})
+        .has_value();
+}
 
-std::string DescribeOutlook(const RentPayment& payment) {
+std::string DescribeReceiver(const RentPayment& payment) {
+    if (payment.toAccount != 0) return {};
+    if (payment.toName.empty()) return ". No account is chosen to receive it";
+    return fmt::format(". \"{}\" receives it, which is not one of your accounts", payment.toName);
+}
+
+std::string DescribeCharges(const RentPayment& payment) {
     const auto count = std::ranges::count_if(payment.charges, &PaymentCharge::selected);
     if (count == 0) return "Nothing is ticked: a payment of 0.00 will be posted";
     std::string line = fmt::format("{} charge{}", count, count == 1 ? "" : "s");
@@ -49,6 +60,14 @@ std::string DescribeOutlook(const RentPayment& payment) {
     if (lease.Eof()) return line;
     const int periods = PeriodsPaid(payment);
     return line + ", " + DescribeDueDate(lease, periods) + DescribeCredit(lease, periods);
+}
+
+} // namespace
+
+std::string DescribeOutlook(const RentPayment& payment) {
+    if (payment.idTransaction != 0 && !IsStored(payment.idTransaction))
+        return "This payment was deleted. Submit stores it again under its number";
+    return DescribeCharges(payment) + DescribeReceiver(payment);
 }
 
 } // namespace leases

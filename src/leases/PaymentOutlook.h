@@ -6,9 +6,9 @@
 
 namespace leases {
 
-/// What submitting the payment will bring about, in one line for the person who is about to: how
-/// many charges it settles, where the next due date goes, and the option credit that is earned.
-/// Failures are thrown; of a lease that has gone only the charges are told.
+/// Describes in one line what submitting the payment will do: how many charges it settles, where
+/// the next due date moves, the option credit that is earned, and whether no account of the books
+/// receives the money. Of a lease that was deleted, only the charges. Failures are thrown.
 std::string DescribeOutlook(const RentPayment& payment);
 
 } // namespace leases

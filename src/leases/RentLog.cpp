@@ -1,6 +1,8 @@
 #include "leases/RentLog.h"
 
 #include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "core/Session.h"
 
 namespace leases {
@@ -33,6 +35,11 @@ void Insert(std::int32_t idRentLog, const RentLogEntry& entry) {
                        Code(entry.flags)});
 }
 
+/// Every writer announces what it wrote, so that no routine built on it can forget to.
+void Announce() {
+    core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);
+}
+
 void CopyFields(Recordset& from, Recordset& to) {
     for (std::size_t i = 0; i < from.FieldCount(); ++i) {
         const Value value = from[i].Value();
@@ -43,10 +50,12 @@ void CopyFields(Recordset& from, Recordset& to) {
 } // namespace
 
 bool RewriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
-    return core::App().Connection.Execute(
-               kUpdateEntry, {entry.idLease, entry.idTransaction, entry.datePosted.ToText(),
-                              Code(entry.rentClass), entry.category, entry.amount,
-                              entry.description, Code(entry.flags), idRentLog}) > 0;
+    const auto rows = core::App().Connection.Execute(
+        kUpdateEntry,
+        {entry.idLease, entry.idTransaction, entry.datePosted.ToText(), Code(entry.rentClass),
+         entry.category, entry.amount, entry.description, Code(entry.flags), idRentLog});
+    if (rows > 0) Announce();
+    return rows > 0;
 }
 
 std::int32_t WriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
@@ -54,6 +63,7 @@ std::int32_t WriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
     if (idRentLog != 0 && RewriteRentLog(entry, idRentLog)) return idRentLog;
     const std::int32_t id = core::NextId();
     Insert(id, entry);
+    Announce();
     return id;
 }
 
@@ -66,6 +76,7 @@ void WriteCharges(std::int32_t idLease, std::span<const Charge> charges) {
                            Code(ClassOf(charge.kind)), CategoryOf(charge.kind), charge.amount,
                            DescriptionOf(charge), Code(FlagsOf(charge.kind))});
     }
+    Announce();
 }
 
 void SetLeaseBalances(Recordset& row) {

@@ -26,14 +26,16 @@ struct RentLogEntry {
     RentFlags flags = RentFlags::Ordinary;
 };
 
-/// Writes the row `idRentLog`, or a new one if that is 0 or the row has gone; answers the row's id.
-/// An amount of zero writes nothing and answers `idRentLog` as it came. Failures are thrown.
+// Each of these writers tells the screens of the rows it wrote. Failures are thrown.
+
+/// Writes the row `idRentLog`, or a new one if that is 0 or the row was deleted; returns the row's
+/// id. An amount of zero writes nothing and returns `idRentLog` as it came.
 std::int32_t WriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog = 0);
 
-/// Writes all fields of the row `idRentLog`, whatever the amount; false when it has gone.
+/// Writes all fields of the row `idRentLog`, whatever the amount; returns false if it was deleted.
 bool RewriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog);
 
-/// Adds the charges of a walk to the ledger of a lease, in their order. Failures are thrown.
+/// Adds the charges of a walk to the ledger of a lease, in their order.
 void WriteCharges(std::int32_t idLease, std::span<const Charge> charges);
 
 /// Puts the sums of the ledger into the balances of the open lease row, which the caller writes.

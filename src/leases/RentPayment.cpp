@@ -161,6 +161,7 @@ RentPayment ReadPayment(std::int32_t idTransaction) {
 
 void ReadCharges(RentPayment& payment, OpenCharges open) {
     payment.charges.clear();
+    payment.idPaymentRow = 0;
     const bool isNew = payment.idTransaction == 0;
     if (!isNew) AddOwnRows(payment);
     if (isNew || open == OpenCharges::Offer) AddOpenRows(payment, isNew);

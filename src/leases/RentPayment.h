@@ -75,9 +75,10 @@ int PeriodsPaid(const RentPayment& payment);
 enum class LeaseUpdate { No, Yes };
 
 /// Posts a payment: the transaction, the payment row, the selected charges settled by it and the
-/// others open; a new one moves the next due date once for each period's rent among them. Then the
-/// lease is brought up to date, and the screens are told. One unit of work; failures are thrown,
-/// and a selected charge that has gone meanwhile is one. Answers the transaction's id.
+/// others released; a new one moves the next due date once for each period's rent among them. Then
+/// the lease is brought up to date, and the screens are told. One unit of work that reads the
+/// charges again. Throws ConflictError, and changes nothing, if one of them was paid, changed or
+/// deleted since the payment was read. Returns the transaction's id.
 std::int32_t SubmitPayment(const RentPayment& payment, LeaseUpdate update = LeaseUpdate::Yes);
 
 } // namespace leases

@@ -51,6 +51,10 @@ void CheckUnchanged(const RentSplit& split) {
 
 } // namespace
 
+bool RentSplit::LosesRent() const {
+    return IsPeriodRent() && parts[rentPart].amount.IsZero();
+}
+
 Currency RentSplit::Missing() const {
     return charge.amount - (parts[0].amount + parts[1].amount);
 }
@@ -87,25 +91,27 @@ std::optional<RentSplit> ReadSplit(std::int32_t idRentLog) {
     return split;
 }
 
-void SaveSplit(const RentSplit& split) {
+std::array<std::int32_t, 2> SaveSplit(const RentSplit& split) {
     platform::UnitOfWork unit(core::App().Connection);
     CheckUnchanged(split);
+    std::array<std::int32_t, 2> parts = {};
     for (std::size_t i = 0; i < split.parts.size(); ++i) {
         const SplitPart& part = split.parts[i];
         const bool isRent = split.IsPeriodRent() && split.rentPart == i;
-        WriteRentLog({.idLease = split.charge.idLease,
-                      .idTransaction = split.charge.idTransaction,
-                      .datePosted = part.date,
-                      .rentClass = split.charge.rentClass,
-                      .category = part.category,
-                      .amount = part.amount,
-                      .description = part.description,
-                      .flags = isRent ? RentFlags::PeriodRent : RentFlags::Ordinary});
+        parts[i] = WriteRentLog({.idLease = split.charge.idLease,
+                                 .idTransaction = split.charge.idTransaction,
+                                 .datePosted = part.date,
+                                 .rentClass = split.charge.rentClass,
+                                 .category = part.category,
+                                 .amount = part.amount,
+                                 .description = part.description,
+                                 .flags = isRent ? RentFlags::PeriodRent : RentFlags::Ordinary});
     }
     removal::RemoveRecord(core::kRentLog, split.idRentLog, removal::Tell::Nobody);
     StoreBalances(split.charge.idLease);
-    unit.Commit();
     core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);
+    unit.Commit();
+    return parts;
 }
 
 } // namespace leases

@@ -30,6 +30,9 @@ struct RentSplit {
     bool IsPeriodRent() const { return charge.flags == RentFlags::PeriodRent; }
     /// What the other part is to be, if this one is to be `part`.
     platform::Currency Rest(platform::Currency part) const { return charge.amount - part; }
+    /// True if the part that stays the period's rent is zero: then no payment of the parts moves
+    /// the next due date.
+    bool LosesRent() const;
     /// What the parts are short of the charge; negative when they are more.
     platform::Currency Missing() const;
 };
@@ -41,8 +44,9 @@ std::vector<std::string> SplitCategories(RentClass rentClass);
 /// amounts still to be given. Nothing when it isn't there. Failures are thrown.
 std::optional<RentSplit> ReadSplit(std::int32_t idRentLog);
 
-/// Puts the parts in the place of the charge, a part of zero not at all. One unit of work; failures
-/// are thrown, and a charge that was changed or removed since it was read is one.
-void SaveSplit(const RentSplit& split);
+/// Puts the parts in the place of the charge, a part of zero not at all. One unit of work. Throws
+/// ConflictError if the charge was changed or deleted since it was read. Returns the ids of the
+/// parts, 0 for one that was not written.
+std::array<std::int32_t, 2> SaveSplit(const RentSplit& split);
 
 } // namespace leases

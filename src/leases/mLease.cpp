@@ -42,6 +42,13 @@ std::string_view RentStatusOf(Recordset& row) {
     return late < 0 ? "OK" : "Due";
 }
 
+std::vector<Charge> UpdateStored(std::int32_t idLease, WalkMode mode) {
+    Recordset row;
+    row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?", CursorMode::Updatable,
+             {idLease});
+    return row.Eof() ? std::vector<Charge>() : UpdateLease(row, mode);
+}
+
 } // namespace
 
 std::vector<Charge> UpdateLease(Recordset& row, WalkMode mode) {
@@ -58,17 +65,22 @@ std::vector<Charge> UpdateLease(Recordset& row, WalkMode mode) {
     if (walk.renewed) row["DateRenewed"].Set(walk.terms.dateRenewed.Get().ToText());
     SetLeaseBalances(row);
     SetRentStatus(row);
-    row.Update();
+    if (row.Update()) core::NotifyAll(core::kLease, core::kRecordsChanged, 0);
     if (unit) unit->Commit();
     return std::move(walk.charges);
 }
 
-void UpdateLeaseById(std::int32_t idLease, WalkMode mode) {
-    if (idLease == 0) return;
-    Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?", CursorMode::Updatable,
-             {idLease});
-    if (!row.Eof()) UpdateLease(row, mode);
+std::vector<Charge> UpdateLeaseById(std::int32_t idLease, WalkMode mode) {
+    if (idLease == 0) return {};
+    try {
+        return UpdateStored(idLease, mode);
+    } catch (const platform::ConflictError&) {
+        // Another program wrote the lease after it was read. Inside the unit of work none can.
+        UnitOfWork unit(core::App().Connection);
+        std::vector<Charge> charges = UpdateStored(idLease, mode);
+        unit.Commit();
+        return charges;
+    }
 }
 
 bool SetLeaseStatus(Recordset& row, Date onDate, StatusChange change) {
@@ -91,14 +103,13 @@ void SetRentStatus(Recordset& row) {
 }
 
 void AdvanceNextDue(std::int32_t idLease, OptionCredit credit, Broadcast broadcast) {
+    UnitOfWork unit(core::App().Connection);
     Recordset row;
     row.Open(core::App().Connection,
              "SELECT IdLease, TermType, DateNextDue, Option, OptionCredit FROM Lease "
              "WHERE IdLease = ?",
              CursorMode::Updatable, {idLease});
     if (row.Eof()) return;
-
-    UnitOfWork unit(core::App().Connection);
     const std::string termType = TextOf(row["TermType"]);
     const Date nextDue = DateAdd(TermInterval(termType), 1, row["DateNextDue"].AsDate());
     row["DateNextDue"].Set(nextDue.ToText());

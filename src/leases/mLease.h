@@ -14,12 +14,13 @@ namespace leases {
 // `Lease`. Failures are thrown; what one of them wrote until then is taken back.
 
 /// Brings a lease up to date: walks it by the calendar, posts its charges, sets unit and tenant,
-/// computes balances and rent status and writes the row. One unit of work. Answers the charges
-/// posted.
+/// computes balances and rent status, writes the row and tells the screens. One unit of work.
+/// Returns the charges posted. Throws ConflictError if the row was written since it was read.
 std::vector<Charge> UpdateLease(platform::Recordset& row, WalkMode mode);
 
-/// The same for the lease of this id; nothing for id 0 or a lease that isn't there.
-void UpdateLeaseById(std::int32_t idLease, WalkMode mode);
+/// The same for the lease of this id, read again if another program writes it in between. Does
+/// nothing for id 0 or a lease that doesn't exist.
+std::vector<Charge> UpdateLeaseById(std::int32_t idLease, WalkMode mode);
 
 enum class StatusChange { IfDifferent, Force };
 

@@ -194,11 +194,9 @@ std::int32_t SubmitMortgagePayment(const MortgagePayment& payment) {
     BookExtra(payment, idTransaction);
     RefreshSplits(payment);
     RefreshMortgage(payment.idMortgage);
-    unit.Commit();
-    // The payment may have started events that wait for one like it.
-    for (const std::int16_t kind :
-         {core::kTransaction, core::kMortgageLog, core::kMortgage, core::kAutoEvent})
+    for (const std::int16_t kind : {core::kTransaction, core::kMortgageLog, core::kMortgage})
         core::NotifyAll(kind, core::kRecordsChanged, 0);
+    unit.Commit();
     return idTransaction;
 }
 

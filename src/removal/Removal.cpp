@@ -3,12 +3,27 @@
 #include <algorithm>
 
 #include "core/Globals.h"
+#include "core/KindOfTable.h"
 #include "core/MessagePump.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "removal/RemovalStatements.h"
 
 namespace removal {
+
+namespace {
+
+/// The table that a statement of a removal deletes from or updates.
+std::string_view WrittenTable(std::string_view statement) {
+    for (const std::string_view before : {"DELETE * FROM ", "UPDATE "}) {
+        if (!statement.starts_with(before)) continue;
+        statement.remove_prefix(before.size());
+        return statement.substr(0, statement.find(' '));
+    }
+    return {};
+}
+
+} // namespace
 
 Removal::Removal() : unit_(core::App().Connection) {}
 
@@ -30,15 +45,22 @@ void Removal::Remove(std::int16_t kind, std::int32_t id, Charges charges) {
     }
     if (kind == core::kBuilding) Note(core::kUnit, core::kRecordsChanged);
     if (kind == core::kUnit) Note(core::kBuilding, core::kRecordsChanged);
-    core::App().Connection.Execute("DELETE * FROM FileObject WHERE (dbType = ? ) AND (IdOwner = ?)",
-                                   {kind, id});
+    Execute("DELETE * FROM FileObject WHERE (dbType = ? ) AND (IdOwner = ?)", {kind, id});
     Note(kind, core::kRecordsChanged);
 }
 
 void Removal::RemoveStatements(std::int16_t kind, std::int32_t id) {
     for (const std::string& statement : StatementsToRemove(kind)) {
-        core::App().Connection.Execute(statement, {id});
+        Execute(statement, {id});
     }
+}
+
+std::int64_t Removal::Execute(std::string_view statement,
+                              std::initializer_list<platform::Value> parameters) {
+    const std::int64_t rows = core::App().Connection.Execute(statement, parameters);
+    const std::int16_t kind = core::KindOfTable(WrittenTable(statement));
+    if (rows > 0 && kind != core::kNone) Note(kind, core::kRecordsChanged);
+    return rows;
 }
 
 void Removal::Note(std::int16_t kind, std::int16_t action) {
@@ -49,11 +71,9 @@ void Removal::Note(std::int16_t kind, std::int16_t action) {
 void Removal::Keep(Tell tell) {
     unit_.Commit();
     if (tell == Tell::Nobody) return;
-    for (const Message& message : messages_) {
+    for (const Message& message : messages_)
         core::NotifyAll(message.kind, message.action, 0);
-    }
-    // A timer must not post into the larger unit of work that this removal may be a part of.
-    if (!core::App().Connection.InUnitOfWork()) core::LetMessagesRun();
+    core::LetMessagesRun();
 }
 
 void RunRemoval(Tell tell, const std::function<void(Removal& removal)>& work) {

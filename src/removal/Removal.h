@@ -11,6 +11,8 @@
 
 namespace removal {
 
+struct LedgerStatements;
+
 /// Whether the charges that a payment settled are deleted or become open again.
 enum class Charges { OpenAgain, Remove };
 
@@ -34,9 +36,13 @@ class Removal {
         friend bool operator==(const Message&, const Message&) = default;
     };
 
+    /// Runs a statement, and notes the kind of the rows that it wrote; returns how many.
+    std::int64_t Execute(std::string_view statement,
+                         std::initializer_list<platform::Value> parameters);
     void RemoveLease(std::int32_t id);
     void RemoveOwner(std::int32_t id);
     void RemoveTransaction(std::int32_t id, Charges charges);
+    void FreeCharges(const LedgerStatements& ledger, std::int32_t idTransaction);
     void RemoveStatements(std::int16_t kind, std::int32_t id);
 
     platform::UnitOfWork unit_;

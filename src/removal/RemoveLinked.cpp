@@ -12,11 +12,11 @@
 namespace removal {
 
 void Removal::RemoveLease(std::int32_t id) {
-    platform::Connection& books = core::App().Connection;
-    books.Execute("UPDATE AutoEvent SET IdLease = 0 WHERE IdLease = ?", {id});
+    Execute("UPDATE AutoEvent SET IdLease = 0 WHERE IdLease = ?", {id});
 
     platform::Recordset lease;
-    lease.Open(books, "SELECT Status, IdTenant, IdUnit FROM Lease WHERE IdLease = ?",
+    lease.Open(core::App().Connection,
+               "SELECT Status, IdTenant, IdUnit FROM Lease WHERE IdLease = ?",
                platform::CursorMode::ReadOnly, {id});
     const std::string status = lease.Eof() ? std::string() : platform::TextOf(lease["Status"]);
     // The unit of a lease that has ended may have been let again, and its tenant moved on.
@@ -30,14 +30,14 @@ void Removal::RemoveLease(std::int32_t id) {
     }
 
     // Posted rows belong to their transactions, and stay.
-    books.Execute("DELETE * FROM RentLog WHERE (IdLease = ?) AND (IdTransaction = 0)", {id});
-    books.Execute("DELETE * FROM Lease WHERE IdLease = ?", {id});
+    Execute("DELETE * FROM RentLog WHERE (IdLease = ?) AND (IdTransaction = 0)", {id});
+    Execute("DELETE * FROM Lease WHERE IdLease = ?", {id});
 }
 
 void Removal::RemoveOwner(std::int32_t id) {
     const auto building =
         core::LookUp("SELECT IdBuilding AS [Result] FROM OwnerLink WHERE IdOwnerLink = ?", {id});
-    core::App().Connection.Execute("DELETE * FROM OwnerLink WHERE IdOwnerLink = ?", {id});
+    Execute("DELETE * FROM OwnerLink WHERE IdOwnerLink = ?", {id});
     const std::int32_t idBuilding = building ? building->AsLong() : 0;
     if (idBuilding == 0) return;
     // The number counted by is the link's own and not the building's. That is meant: some owner
@@ -47,7 +47,7 @@ void Removal::RemoveOwner(std::int32_t id) {
         "WHERE (IdBuilding = ?) AND (IsPrimary = TRUE)",
         {id});
     if (primaries && primaries->AsLong() != 0) return;
-    core::App().Connection.Execute(
+    Execute(
         "UPDATE OwnerLink SET IsPrimary = TRUE WHERE IdOwnerLink = "
         "(SELECT TOP 1 IdOwnerlink FROM Ownerlink WHERE (IdBuilding = ?)) ",
         {idBuilding});

@@ -13,14 +13,7 @@ namespace removal {
 
 using core::Ledger;
 
-namespace {
-
-Ledger LedgerOf(std::int32_t idTransaction) {
-    const auto code =
-        core::LookUp("SELECT Class FROM Transactions WHERE IdTransaction = ?", {idTransaction});
-    return code ? core::LedgerOf(core::TransactionClass{code->AsInteger()}) : Ledger::None;
-}
-
+/// The statements that remove a payment from the ledger whose charges it settled.
 struct LedgerStatements {
     std::string_view removeAll;
     std::string_view removePayment; ///< the rows that the payment itself made
@@ -28,6 +21,14 @@ struct LedgerStatements {
     std::string_view removeOrphan;
     std::string_view openAgain;
 };
+
+namespace {
+
+Ledger LedgerOf(std::int32_t idTransaction) {
+    const auto code =
+        core::LookUp("SELECT Class FROM Transactions WHERE IdTransaction = ?", {idTransaction});
+    return code ? core::LedgerOf(core::TransactionClass{code->AsInteger()}) : Ledger::None;
+}
 
 constexpr LedgerStatements kRentLedger = {
     "DELETE * FROM RentLog WHERE idTransaction = ?",
@@ -48,17 +49,6 @@ constexpr LedgerStatements kMortgageLedger = {
     "UPDATE MortgageLog SET IdTransaction = 0 WHERE IdTransaction = ?",
 };
 
-void FreeCharges(const LedgerStatements& ledger, std::int32_t idTransaction) {
-    platform::Connection& books = core::App().Connection;
-    books.Execute(ledger.removePayment, {idTransaction});
-    platform::Recordset orphans;
-    orphans.Open(books, ledger.findOrphans, platform::CursorMode::ReadOnly, {idTransaction});
-    for (; !orphans.Eof(); orphans.MoveNext()) {
-        books.Execute(ledger.removeOrphan, {orphans[0].Value()});
-    }
-    books.Execute(ledger.openAgain, {idTransaction});
-}
-
 } // namespace
 
 Charges AskAboutCharges(std::int16_t kind, std::int32_t id) {
@@ -74,17 +64,28 @@ Charges AskAboutCharges(std::int16_t kind, std::int32_t id) {
                : Charges::OpenAgain;
 }
 
+void Removal::FreeCharges(const LedgerStatements& ledger, std::int32_t idTransaction) {
+    Execute(ledger.removePayment, {idTransaction});
+    platform::Recordset orphans;
+    orphans.Open(core::App().Connection, ledger.findOrphans, platform::CursorMode::ReadOnly,
+                 {idTransaction});
+    for (; !orphans.Eof(); orphans.MoveNext()) {
+        Execute(ledger.removeOrphan, {orphans[0].Value()});
+    }
+    Execute(ledger.openAgain, {idTransaction});
+}
+
 void Removal::RemoveTransaction(std::int32_t id, Charges charges) {
     const Ledger ledger = LedgerOf(id);
     if (ledger != Ledger::None) {
         const LedgerStatements& statements = ledger == Ledger::Rent ? kRentLedger : kMortgageLedger;
         if (charges == Charges::Remove) {
-            core::App().Connection.Execute(statements.removeAll, {id});
+            Execute(statements.removeAll, {id});
         } else {
             FreeCharges(statements, id);
         }
     }
-    core::App().Connection.Execute("DELETE * FROM Transactions WHERE IdTransaction = ?", {id});
+    Execute("DELETE * FROM Transactions WHERE IdTransaction = ?", {id});
 }
 
 } // namespace removal

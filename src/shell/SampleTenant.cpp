@@ -7,6 +7,8 @@
 #include "leases/ChargeDeposits.h"
 #include "leases/LeaseCommands.h"
 #include "leases/LeaseStatus.h"
+#include "leases/LeaseTerms.h"
+#include "leases/RentCodes.h"
 #include "leases/RentPayment.h"
 #include "leases/mLease.h"
 #include "platform/database/Recordset.h"
@@ -26,19 +28,33 @@ namespace {
 struct LeaseDates {
     bool over = false;
     Date nextDue;
+    /// The first day on which the lease is over, unset if it runs on.
+    Date ends;
     int oneTimeDays = 0;
     int discountDays = 0;
     int noticeDays = 0;
 };
 
+Date FirstDayOver(Recordset& lease) {
+    Date last;
+    if (lease["Status"].AsText() == leases::status::kNotice) {
+        last = lease["DateVacating"].AsDate();
+    } else if (lease["ExpireOption"].AsText() == leases::kOptionExpire) {
+        last = DateAdd(leases::TermInterval(lease["TermType"].AsText()), lease["Term"].AsInteger(),
+                       lease["DateRenewed"].AsDate());
+    }
+    return last.IsSet() ? DateAdd(Interval::Day, 1, last) : last;
+}
+
 LeaseDates ReadLease(std::int32_t idLease) {
     Recordset row;
-    row.Open(core::App().Connection,
-             "SELECT Status, DateNextDue, OneTimeDays, DiscountDays, NoticeDays FROM Lease "
-             "WHERE IdLease = ?",
+    row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?",
              platform::CursorMode::ReadOnly, {idLease});
-    return {leases::IsOver(row["Status"].AsText()), row["DateNextDue"].AsDate(),
-            row["OneTimeDays"].AsInteger(), row["DiscountDays"].AsInteger(),
+    return {leases::IsOver(row["Status"].AsText()),
+            row["DateNextDue"].AsDate(),
+            FirstDayOver(row),
+            row["OneTimeDays"].AsInteger(),
+            row["DiscountDays"].AsInteger(),
             row["NoticeDays"].AsInteger()};
 }
 
@@ -78,7 +94,9 @@ void SampleTenant::LiveThrough(Date day) {
         leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
         leases::ChangeStatus(habit_.idLease, leases::status::kNotice,
                              DateAdd(Interval::Day, noticeDays, day));
+        ends_ = ReadLease(habit_.idLease).ends;
     }
+    if (day == ends_) leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
     if (day == habit_.breaks) {
         leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
         leases::ChangeStatus(habit_.idLease, leases::status::kBroken, day);
@@ -107,6 +125,7 @@ void SampleTenant::PayOpenCharges() {
 void SampleTenant::PlanNextPayment(Date day) {
     const LeaseDates lease = ReadLease(habit_.idLease);
     const Date wanted = DateAdd(Interval::Day, DaysAfterDue(habit_, lease), lease.nextDue);
+    ends_ = lease.ends;
     nextPayment_ = std::max(wanted, DateAdd(Interval::Day, 1, day));
     const bool stops = habit_.stopsPaying.IsSet() && nextPayment_ >= habit_.stopsPaying;
     if (lease.over || stops) nextPayment_ = Date();

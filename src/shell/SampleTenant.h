@@ -24,6 +24,8 @@ class SampleTenant {
     store::SampleHabit habit_;
     /// Returns the next day on which the tenant pays; unset once nothing more will be paid.
     platform::Date nextPayment_;
+    /// The day on which the lease is over: its unit is free from then on, whoever lets it next.
+    platform::Date ends_;
     bool depositPaid_ = false;
 };
 

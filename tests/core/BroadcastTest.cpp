@@ -51,6 +51,40 @@ TEST_F(Broadcast, ListenersComeAndGoWhileItRuns) {
     EXPECT_THAT(heard, ElementsAre("first", "failing", "last", "late"));
 }
 
+TEST_F(Broadcast, OfAUnitOfWorkComesOnceAndWhenItIsKept) {
+    std::vector<std::int16_t> heard;
+    const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t) {
+        EXPECT_FALSE(core::App().Connection.InUnitOfWork());
+        heard.push_back(kind);
+        // A listener may write too.
+        platform::UnitOfWork own(core::App().Connection);
+        own.Commit();
+    });
+    const auto announce = [](std::initializer_list<std::int16_t> kinds) {
+        for (const std::int16_t kind : kinds)
+            core::NotifyAll(kind, core::kRecordsChanged, 0);
+    };
+    {
+        platform::UnitOfWork unit(core::App().Connection);
+        announce({core::kLease, core::kUnit});
+        {
+            platform::UnitOfWork inner(core::App().Connection);
+            announce({core::kRentLog, core::kLease});
+            inner.Commit();
+        }
+        EXPECT_THAT(heard, ElementsAre());
+        unit.Commit();
+    }
+    EXPECT_THAT(heard, ElementsAre(core::kUnit, core::kRentLog, core::kLease));
+    {
+        const platform::UnitOfWork rolledBack(core::App().Connection);
+        announce({core::kTenant});
+    }
+    announce({core::kAccount});
+    EXPECT_EQ(heard.size(), 4U);
+    EXPECT_EQ(heard.back(), core::kAccount);
+}
+
 TEST_F(Broadcast, SettingsAreReadAgainBeforeAnyoneHearsOfThem) {
     Run("INSERT INTO Configuration (CompanyName) VALUES ('New name')");
     Words heard;

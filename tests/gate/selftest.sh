@@ -149,7 +149,7 @@ planted() {
 
 makeSoundTree
 freshTree
-for check in format layout includes links clock folders sizes help english tidy; do
+for check in format layout includes links clock braces folders sizes help english tidy; do
     passes "$check"
 done
 
@@ -188,6 +188,13 @@ done
 planted tests/leases/LeaseTest.cpp 'auto t = std::time(nullptr);' tests/leases/LeaseTest.cpp: clock
 plant $lease '// std::time(nullptr) is not for us\nauto t = runtime(0), s = row.time(0);'
 passes clock
+
+for list in 'return {.day = 1, .debit = {1, 2}};' '    .debit = {kAccount,' 'f({.debit = {' \
+    '    .debit={1, "a"}};'; do
+    planted src/core/Shared.h "$list" src/core/Shared.h: braces
+done
+plant src/core/Shared.h '// .debit = {1, 2}\n    .debit = Party{1, 2}, .none = {},\nrow.debit = {1, 2};'
+passes braces
 
 planted src/core/inner/New.h '#pragma once' 'src/core/inner: not listed' folders
 freshTree

@@ -117,7 +117,7 @@ TEST_F(Crash, AChargesSaveOrRemovalIsNeverHalf) {
                              leases::ReadLedger(kLeaseId, leases::kLedgerTabs[0])) {
                             if (ids.size() < count) ids.push_back(charge.idRentLog);
                         }
-                        leases::DeleteCharges(kLeaseId, ids, "All?");
+                        leases::DeleteCharges(kLeaseId, ids, "All?", leases::ShownAs::Open);
                     }),
                     5);
     }

@@ -62,9 +62,9 @@ TEST_F(LeaseEditor, ProposesTheFirstOfTheNextMonthAndTheSettings) {
 TEST_F(LeaseEditor, TellsAllThatIsWrong) {
     EXPECT_EQ(leases::LeaseErrors({}),
               (Lines{"A unit must be specified.", "A tenant must be specified.",
-                     "Rent rate should not be zero."}));
-    EXPECT_EQ(leases::LeaseErrors({1, 2, Currency::FromScaled(1)}), Lines{});
-    EXPECT_EQ(leases::LeaseErrors({1, 0, Currency::FromUnits(-5)}),
+                     "Rent rate should not be zero.", "A next due date must be specified."}));
+    EXPECT_EQ(leases::LeaseErrors({1, 2, Currency::FromScaled(1), true}), Lines{});
+    EXPECT_EQ(leases::LeaseErrors({1, 0, Currency::FromUnits(-5), true}),
               Lines{"A tenant must be specified."});
 }
 

@@ -1,11 +1,17 @@
 #include "leases/Ledger.h"
 
+#include <algorithm>
+
 #include <fmt/core.h>
 
+#include "books/SaveTransaction.h"
+#include "books/TransactionListeners.h"
 #include "core/Globals.h"
+#include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "leases/BooksTest.h"
 #include "leases/ChargeEditor.h"
+#include "leases/RentPayment.h"
 #include "leases/RentSplit.h"
 #include "platform/values/Format.h"
 
@@ -92,7 +98,34 @@ TEST_F(LedgerTest, ATransactionThatTakesADepositOutHasOneRowInTheLedger) {
     EXPECT_EQ(Ledger(), Lines{"03/05/2024 3 130.00 +"});
     refund.flags = 0;
     leases::WriteDepositRow(51, refund);
+    refund.flags = 3;
+    refund.transactionClass = 0;
+    leases::WriteDepositRow(52, refund);
     EXPECT_EQ(Ledger().size(), 1U) << "an ordinary transaction has none";
+}
+
+TEST_F(LedgerTest, ADepositIsOfferedForRefundOnce) {
+    Charge(Date(2024, 1, 1), 300, RentFlags::Ordinary, RentClass::Deposit);
+    leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Deposit));
+    books::RegisterTransactionListener(leases::WriteDepositRow);
+    Lines told;
+    const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t id) {
+        told.push_back(fmt::format("{} {}", kind, id));
+    });
+    const auto refund = leases::ProposeDepositRefund(kLeaseId);
+    EXPECT_EQ(refund.amount, Currency::FromUnits(300));
+    const auto id = books::PostTransaction(refund);
+    EXPECT_EQ(told, (Lines{"30 0", "2 101", "10 0"}));
+    EXPECT_EQ(leases::ProposeDepositRefund(kLeaseId).amount, Currency());
+    EXPECT_EQ(Ask("SELECT DepositRefunded FROM Lease"), "300");
+
+    // Given to another lease, it is no refund of this one any more.
+    Run("INSERT INTO Lease (IdLease, IdTenant, IdUnit) VALUES (199, 103, 102)");
+    auto moved = refund;
+    moved.idLease = 199;
+    books::SaveTransaction(id, moved, books::Trip::None);
+    EXPECT_EQ(Ask("SELECT DepositBalance FROM Lease WHERE IdLease = 101"), "300");
+    EXPECT_EQ(Ask("SELECT DepositBalance FROM Lease WHERE IdLease = 199"), "-300");
 }
 
 TEST_F(LedgerTest, AChargeIsSavedInWholeCentsAndTheBalancesFollow) {
@@ -158,6 +191,7 @@ TEST_F(Split, PutsThePartsInThePlaceOfTheCharge) {
         std::int64_t first;
         std::int64_t second;
         Lines ledger;
+        bool losesRent = false;
     };
     for (const Case& c :
          {Case{RentFlags::PeriodRent,
@@ -176,6 +210,7 @@ TEST_F(Split, PutsThePartsInThePlaceOfTheCharge) {
                9'999'999,
                {"02/01/2024 0 0.00 -", "02/01/2024 0 1,000.00 -"}},
           Case{RentFlags::PeriodRent, 0, 10'000'000, 0, {"02/01/2024 1 1,000.00 -"}},
+          Case{RentFlags::PeriodRent, 0, 0, 10'000'000, {"02/01/2024 0 1,000.00 -"}, true},
           Case{RentFlags::Ordinary,
                0,
                12'000'000,
@@ -191,8 +226,10 @@ TEST_F(Split, PutsThePartsInThePlaceOfTheCharge) {
         const auto id = Charge(Date(2024, 2, 1), 1000, c.flags);
         RentSplit split = Of(id, c.first, c.second);
         split.rentPart = c.rentPart;
-        leases::SaveSplit(split);
+        EXPECT_EQ(split.LosesRent(), c.losesRent);
+        const auto parts = leases::SaveSplit(split);
         EXPECT_EQ(Ledger(), c.ledger);
+        EXPECT_EQ(std::ranges::count(parts, 0), 2 - static_cast<int>(c.ledger.size()));
         EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE IdRentLog = " + std::to_string(id)), "0");
         EXPECT_EQ(Ask("SELECT RentDue FROM Lease"), Ask("SELECT Sum(Amount) FROM RentLog"));
     }

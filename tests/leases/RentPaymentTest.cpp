@@ -1,6 +1,7 @@
 #include "leases/RentPayment.h"
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <fmt/core.h>
@@ -244,17 +245,27 @@ TEST_F(Payment, ATypedPayerIsANameWithoutARecord) {
               "Ann's uncle");
 }
 
-TEST_F(Payment, AChargeRemovedMeanwhileStopsItWhole) {
+TEST_F(Payment, SaysBeforeThatNoAccountReceivesIt) {
     Rent(Date(2024, 1, 1));
-    const std::int32_t gone = Charge(Date(2024, 1, 2), 5);
-    RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
-    core::App().Connection.Execute("DELETE * FROM RentLog WHERE IdRentLog = ?", {gone});
-    const Lines before = DumpBooks();
-    EXPECT_THROW(leases::SubmitPayment(payment), platform::DatabaseError);
-    EXPECT_EQ(DumpBooks(), before);
-    payment.charges[1].selected = false;
+    RentPayment payment = Ticking({true});
+    for (const auto& [id, name, added] :
+         {std::tuple{105, "First Bank", ""},
+          {0, "", ". No account is chosen to receive it"},
+          {0, "Cash box", ". \"Cash box\" receives it, which is not one of your accounts"}}) {
+        payment.toAccount = id;
+        payment.toName = name;
+        EXPECT_EQ(
+            leases::DescribeOutlook(payment),
+            std::string("1 charge, next due date moves from 01/01/2024 to 02/01/2024") + added);
+    }
+}
+
+TEST_F(Payment, TrimsItsDescription) {
+    Rent(Date(2024, 1, 1));
+    RentPayment payment = Ticking({true});
+    payment.description = "  For January ";
     leases::SubmitPayment(payment);
-    EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "1000");
+    EXPECT_EQ(Ask("SELECT Description FROM Transactions"), "For January");
 }
 
 TEST_F(Payment, TellsTheScreensWhenAllIsKept) {
@@ -362,6 +373,16 @@ TEST_F(EditedPayment, RewritesWhatIsEnteredAndKeepsWhatWasExported) {
               "1");
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE Flags = 2 AND DatePosted = '03/31/2024' "
                   "AND Category = 'Partial Rent Payment'"),
+              "1");
+}
+
+TEST_F(EditedPayment, OfARemovedLeaseKeepsItsUnitAndBuilding) {
+    Run("DELETE * FROM Lease");
+    RentPayment payment = Read();
+    payment.checkNumber = "18";
+    leases::SubmitPayment(payment);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE CheckNum = '18' AND IdUnit = 102 "
+                  "AND IdBuilding = 104 AND IdLease = 101"),
               "1");
 }
 

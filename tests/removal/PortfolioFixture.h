@@ -14,6 +14,9 @@ class Portfolio : public CoreBooks {
   protected:
     Portfolio();
 
+    /// Takes the books as they are now as the ones to compare with.
+    void Look() { before_ = ReadAll(); }
+
     /// The differences from the portfolio: "Table id" for a deleted row, "+Table id" for a new
     /// one, "Table id Field=value" for a changed field; in the order of the tables' names.
     std::vector<std::string> Changes() const;

@@ -59,6 +59,7 @@ void frmTransaction::FillNew(const TransactionSetup& setup) {
     references_->Fill(setup.references);
     from_->Show(setup.fromType, setup.fromId);
     to_->Show(setup.toType, setup.toId);
+    if (setup.toIsToBeChosen) to_->ShowStored(0, "");
     if (setup.idTransaction == 0 && setup.idTemplate != 0) ShowTemplate(setup.idTemplate);
 }
 

@@ -24,6 +24,8 @@ struct TransactionSetup {
     std::int32_t fromId = 0;
     std::int16_t toType = core::kAccount;
     std::int32_t toId = 0;
+    /// The To box starts empty, so that nobody is paid whom the user didn't choose.
+    bool toIsToBeChosen = false;
     /// Text, "|", class: "Deposit Refund|2". Empty for none.
     std::string category;
     platform::Currency amount;

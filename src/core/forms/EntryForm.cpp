@@ -35,7 +35,7 @@ void EntryForm::Begin(const std::function<void()>& fill) {
 void EntryForm::Submit() {
     bool kept = false;
     Perform([&] {
-        if (!ShowErrorRoll(Errors())) return;
+        if (!ShowErrorRoll(Errors()) || !Agreed()) return;
         Store();
         kept = true;
     });

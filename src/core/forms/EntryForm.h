@@ -37,6 +37,8 @@ class EntryForm : public Form {
     virtual void Store() = 0;
     /// What is wrong with what was entered, a line each; by itself, typed days that are none.
     virtual std::vector<std::string> Errors();
+    /// Asks what there is to ask once nothing is wrong; No keeps the screen open.
+    virtual bool Agreed() { return true; }
     /// Refreshes what depends on records of `kind`, which is nobody's change either.
     virtual void Refresh(std::int16_t kind);
 

@@ -2,7 +2,6 @@
 
 #include <numeric>
 
-#include "leases/RentPayment.h"
 #include "platform/qt/Text.h"
 
 namespace leases::screens {
@@ -61,7 +60,7 @@ std::vector<std::int32_t> ChargeList::TickedIds() const {
 bool ChargeList::IsPicked(const QTreeWidgetItem& row, ChargePick pick) {
     if (pick == ChargePick::All) return true;
     const RentFlags flags{static_cast<std::int16_t>(FlagsOf(row))};
-    return IsPeriodRent(flags) == (pick == ChargePick::Rent);
+    return (flags == RentFlags::PeriodRent) == (pick == ChargePick::Rent);
 }
 
 void ChargeList::Select(ChargePick pick) {

@@ -200,7 +200,8 @@ void Lease_Ledger::Edit(std::int32_t id) {
 }
 
 void Lease_Ledger::Delete() {
-    DeleteCharges(idLease_, list_->SelectedIds(), "Delete all selected items?");
+    DeleteCharges(idLease_, list_->SelectedIds(), "Delete all selected items?",
+                  Tab().rows == LedgerRows::Open ? ShownAs::Open : ShownAs::OpenOrSettled);
 }
 
 void Lease_Ledger::Pay() {
@@ -213,6 +214,7 @@ void Lease_Ledger::OpenDeposit(const books::Transaction& proposed, std::string_v
     setup.fromId = proposed.debit.id;
     setup.toType = proposed.credit.type;
     setup.toId = proposed.credit.id;
+    setup.toIsToBeChosen = proposed.credit.id == 0;
     setup.category = category;
     setup.amount = proposed.amount;
     setup.description = proposed.description;

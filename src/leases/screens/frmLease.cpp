@@ -198,7 +198,8 @@ void frmLease::ShowCaption() {
 
 std::vector<std::string> frmLease::Errors() {
     return LeaseErrors({GetSelectedId(*terms_->cboIdUnit), GetSelectedId(*terms_->cboIdTenant),
-                        terms_->txtRent->Amount().value_or(platform::Currency())});
+                        terms_->txtRent->Amount().value_or(platform::Currency()),
+                        !terms_->dpDateNextDue->text().trimmed().isEmpty()});
 }
 
 void frmLease::Refresh(std::int16_t kind) {

@@ -34,6 +34,7 @@ frmRentLog::frmRentLog(QWidget* parent)
     : RecordForm({core::kRentLog, "RentLog", "IdRentLog"}, parent),
       ui_(std::make_unique<Ui::frmRentLog>()) {
     ui_->setupUi(this);
+    ui_->dpDatePosted->SetRequired(true);
     Wire();
     ui_->cmdAction->Apply().hide();
     QPushButton& save = ui_->cmdAction->Close();
@@ -79,6 +80,14 @@ void frmRentLog::WriteRow(platform::Recordset& row) {
         row["Flags"].Set(static_cast<std::int16_t>(entry_.flags));
     }
     SaveCharge(row);
+}
+
+/// A stored row without a date may stay so; none is made.
+std::vector<std::string> frmRentLog::Errors() {
+    const auto day = ui_->dpDatePosted->Day();
+    const bool isBlank = day && !day->IsSet();
+    if (!isBlank || (Id() != 0 && !IsTouched(*ui_->dpDatePosted))) return {};
+    return {"A date must be entered."};
 }
 
 void frmRentLog::ShowCaption() {

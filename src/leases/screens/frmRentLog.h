@@ -27,6 +27,7 @@ class frmRentLog : public core::forms::RecordForm {
     void ShowRow(platform::Recordset& row) override;
     void WriteRow(platform::Recordset& row) override;
     void ShowCaption() override;
+    std::vector<std::string> Errors() override;
 
   private:
     std::unique_ptr<Ui::frmRentLog> ui_;

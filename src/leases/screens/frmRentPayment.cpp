@@ -15,8 +15,9 @@
 #include "leases/screens/PickMenu.h"
 #include "leases/screens/frmRentSplit.h"
 #include "platform/qt/Text.h"
+#include "platform/system/Clock.h"
+#include "platform/values/Errors.h"
 #include "platform/values/Format.h"
-#include "platform/values/Text.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportMenus.h"
 #include "ui_frmRentPayment.h"
@@ -46,6 +47,7 @@ frmRentPayment::frmRentPayment(QWidget* parent)
       ui_(std::make_unique<Ui::frmRentPayment>()),
       chargeMenu_(new QMenu(tr("&Charges"), this)) {
     ui_->setupUi(this);
+    ui_->dpEffectiveDate->SetRequired(true);
     ui_->lvwCharges->SetTicks(true);
     ui_->lvwCharges->SetColumns(
         {tr("Date"), tr("Category"), tr("Description"), tr("Amount"), QString()},
@@ -120,9 +122,12 @@ void frmRentPayment::AddChargeItems(QMenu& menu) {
 void frmRentPayment::Connect() {
     connect(ui_->cboFromType, &QComboBox::currentIndexChanged, this,
             [this] { Guarded([this] { FillPayers(); }); });
-    connect(ui_->lvwCharges, &ChargeList::TicksChanged, this, [this] {
-        MarkDirty();
-        Guarded([this] { ShowTotal(); });
+    connect(ui_->lvwCharges, &ChargeList::TicksChanged, this,
+            [this] { Guarded([this] { TicksChanged(); }); });
+    connect(ui_->cmdRestoreTicks, &QPushButton::clicked, this,
+            [this] { Guarded([this] { RestoreTicks(); }); });
+    connect(ui_->cboTo, &QComboBox::currentTextChanged, this, [this] {
+        if (!Loading()) Guarded([this] { ShowTotal(); });
     });
     connect(ui_->lvwCharges, &ChargeList::SelectionMoved, this, &frmRentPayment::ShowAvailable);
     connect(ui_->lvwCharges, &ChargeList::RowChosen, this,
@@ -130,7 +135,7 @@ void frmRentPayment::Connect() {
     connect(ui_->lvwCharges, &ChargeList::DeleteAsked, this,
             [this] { Guarded([this] { RemoveCharges(); }); });
     connect(ui_->chkShowPending, &QCheckBox::toggled, this,
-            [this] { Guarded([this] { Quietly([this] { ShowCharges(); }); }); });
+            [this] { Guarded([this] { Quietly([this] { RereadCharges(); }); }); });
     connect(ui_->cmdSplit, &QPushButton::clicked, this,
             [this] { Guarded([this] { SplitCharge(); }); });
 }
@@ -165,7 +170,8 @@ void frmRentPayment::ShowPayment() {
     for (const std::string& word : PaymentWords(payment_.rentClass))
         ui_->cboPaymentType->addItem(ToScreen(word));
     SelectByText(*ui_->cboPaymentType, payment_.paymentWord, {.setText = true});
-    ui_->dpEffectiveDate->SetDay(payment_.dateEffective);
+    const platform::Date day = payment_.dateEffective;
+    ui_->dpEffectiveDate->SetDay(day.IsSet() ? day : platform::Today());
     ui_->txtCheckNumber->setText(ToScreen(payment_.checkNumber));
     ui_->txtDescription->setText(ToScreen(payment_.description));
     ui_->txtDescription->setCursorPosition(0);
@@ -184,6 +190,10 @@ void frmRentPayment::FillAccounts() {
 void frmRentPayment::ShowCharges() {
     ReadCharges(payment_,
                 ui_->chkShowPending->isChecked() ? OpenCharges::Offer : OpenCharges::Leave);
+    ListCharges();
+}
+
+void frmRentPayment::ListCharges() {
     std::vector<ChargeLine> lines;
     lines.reserve(payment_.charges.size());
     for (const PaymentCharge& charge : payment_.charges) {
@@ -201,10 +211,54 @@ void frmRentPayment::ReadTicks() {
         charge.selected = std::ranges::find(ticked, charge.idRentLog) != ticked.end();
 }
 
+void frmRentPayment::TicksChanged() {
+    MarkDirty();
+    tickedAgain_ = false;
+    ShowTotal();
+}
+
+/// Every open charge is ticked again, but the user's own ticks are not forgotten.
+void frmRentPayment::RereadCharges() {
+    ReadTicks();
+    if (!tickedAgain_) ticks_.Keep(payment_);
+    ReadCharges(payment_,
+                ui_->chkShowPending->isChecked() ? OpenCharges::Offer : OpenCharges::Leave);
+    tickedAgain_ = ticks_.DifferFrom(payment_);
+    ListCharges();
+}
+
+void frmRentPayment::ChargeSplit(std::int32_t idRentLog, const std::array<std::int32_t, 2>& parts) {
+    ticks_.Split(idRentLog, parts);
+    tickedAgain_ = ticks_.DifferFrom(payment_);
+    ShowTotal();
+}
+
+void frmRentPayment::RestoreTicks() {
+    ReadTicks();
+    ticks_.Restore(payment_);
+    tickedAgain_ = false;
+    MarkDirty();
+    ListCharges();
+    ui_->lvwCharges->setFocus();
+}
+
+void frmRentPayment::ReadReceiver() {
+    payment_.toAccount = GetSelectedId(*ui_->cboTo);
+    payment_.toName = FromScreen(ui_->cboTo->currentText());
+}
+
 void frmRentPayment::ShowTotal() {
     ReadTicks();
+    ReadReceiver();
     ui_->txtAmount->setText(ToScreen(platform::FormatNumber(payment_.Total(), "#.00")));
-    ui_->lblOutlook->setText(ToScreen(DescribeOutlook(payment_)));
+    QString outlook = ToScreen(DescribeOutlook(payment_));
+    if (tickedAgain_) {
+        outlook += payment_.idTransaction == 0
+                       ? tr(". The charges changed: every open charge is ticked again")
+                       : tr(". The charges changed: the ticks are as they were stored");
+    }
+    ui_->lblOutlook->setText(outlook);
+    ui_->cmdRestoreTicks->setVisible(tickedAgain_);
 }
 
 void frmRentPayment::ShowAvailable() {
@@ -232,11 +286,22 @@ void frmRentPayment::EditCharge(std::int32_t id) {
 
 void frmRentPayment::SplitCharge() {
     const std::int32_t id = ui_->lvwCharges->CurrentId();
-    if (id != 0) (new frmRentSplit)->Setup(id);
+    if (id == 0) return;
+    auto* const split = new frmRentSplit;
+    connect(split, &frmRentSplit::Saved, this, &frmRentPayment::ChargeSplit);
+    split->Setup(id);
 }
 
 void frmRentPayment::RemoveCharges() {
-    DeleteCharges(payment_.idLease, ui_->lvwCharges->SelectedIds(), "Delete all selected charges?");
+    DeleteCharges(payment_.idLease, ui_->lvwCharges->SelectedIds(), "Delete all selected charges?",
+                  payment_.idTransaction == 0 ? ShownAs::Open : ShownAs::OpenOrSettled);
+}
+
+std::vector<std::string> frmRentPayment::Errors() {
+    std::vector<std::string> lines = EntryForm::Errors();
+    const auto day = ui_->dpEffectiveDate->Day();
+    if (day && !day->IsSet()) lines.emplace_back("A payment date must be entered.");
+    return lines;
 }
 
 void frmRentPayment::Store() {
@@ -245,19 +310,25 @@ void frmRentPayment::Store() {
     payment_.fromType = static_cast<std::int16_t>(GetSelectedId(*ui_->cboFromType));
     payment_.fromId = GetSelectedId(*ui_->cboFrom);
     payment_.fromName = FromScreen(ui_->cboFrom->currentText());
-    payment_.toAccount = GetSelectedId(*ui_->cboTo);
-    payment_.toName = FromScreen(ui_->cboTo->currentText());
+    ReadReceiver();
     payment_.checkNumber = FromScreen(ui_->txtCheckNumber->text());
     payment_.paymentWord = FromScreen(ui_->cboPaymentType->currentText());
-    payment_.description = platform::Trim(FromScreen(ui_->txtDescription->text()));
-    SubmitPayment(payment_, update_);
+    payment_.description = FromScreen(ui_->txtDescription->text());
+    try {
+        SubmitPayment(payment_, update_);
+    } catch (const platform::ConflictError&) {
+        // The list shows what the books have now before the user reads why nothing was posted.
+        Quietly([this] { RereadCharges(); });
+        throw;
+    }
 }
 
 void frmRentPayment::Refresh(std::int16_t kind) {
     const std::int32_t fromType = GetSelectedId(*ui_->cboFromType);
     if (kind == core::kAccount) FillAccounts();
     if (kind == fromType && (kind == core::kAccount || kind == core::kTenant)) FillPayers();
-    if (kind == core::kRentLog) ShowCharges();
+    if (kind == core::kRentLog) RereadCharges();
+    if (kind == core::kTransaction) ShowTotal();
 }
 
 } // namespace leases::screens

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/forms/EntryForm.h"
+#include "leases/PaymentTicks.h"
 #include "leases/RentPayment.h"
 
 class QMenu;
@@ -29,6 +30,7 @@ class frmRentPayment : public core::forms::EntryForm {
 
   protected:
     void Store() override;
+    std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;
 
   private:
@@ -40,7 +42,13 @@ class frmRentPayment : public core::forms::EntryForm {
     void FillPayers();
     void FillAccounts();
     void ShowCharges();
+    void ListCharges();
     void ReadTicks();
+    void TicksChanged();
+    void RereadCharges();
+    void ChargeSplit(std::int32_t idRentLog, const std::array<std::int32_t, 2>& parts);
+    void RestoreTicks();
+    void ReadReceiver();
     void ShowTotal();
     void ShowAvailable();
 
@@ -53,6 +61,9 @@ class frmRentPayment : public core::forms::EntryForm {
     QMenu* chargeMenu_;
     QMenu* receiptMenu_ = nullptr;
     RentPayment payment_;
+    PaymentTicks ticks_;
+    /// The charges were ticked by a rereading, differently from how the user left them.
+    bool tickedAgain_ = false;
     LeaseUpdate update_ = LeaseUpdate::Yes;
 };
 

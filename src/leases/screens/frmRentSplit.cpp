@@ -4,13 +4,17 @@
 #include "core/Settings.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/DayErrors.h"
+#include "core/forms/ErrorRoll.h"
+#include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
+#include "platform/system/Clock.h"
 #include "platform/values/Format.h"
 #include "ui_frmRentSplit.h"
 
 namespace leases::screens {
 
 using core::binding::SelectByText;
+using core::forms::Guarded;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -30,8 +34,9 @@ frmRentSplit::frmRentSplit(QWidget* parent)
                    ui_->optIsRent2}};
     Wire(tr("&Save"), tr("Put the two parts in the place of the charge (Enter)"), "SAVE");
     for (std::size_t part = 0; part < lines_.size(); ++part) {
+        lines_[part].date->SetRequired(true);
         connect(lines_[part].amount, &QLineEdit::textChanged, this,
-                [this, part] { AmountChanged(part); });
+                [this, part] { Guarded([&] { AmountChanged(part); }); });
     }
 }
 
@@ -70,7 +75,7 @@ void frmRentSplit::ShowSplit() {
 }
 
 void frmRentSplit::ShowPart(const Line& line, const SplitPart& part) {
-    line.date->SetDay(part.date);
+    line.date->SetDay(part.date.IsSet() ? part.date : platform::Today());
     SelectByText(*line.category, part.category, {.setText = true});
     line.amount->SetAmount(part.amount);
     line.description->setText(ToScreen(part.description));
@@ -94,8 +99,7 @@ void frmRentSplit::AmountChanged(std::size_t part) {
 }
 
 void frmRentSplit::ShowDifference() {
-    for (std::size_t part = 0; part < lines_.size(); ++part)
-        split_.parts[part] = ReadPart(lines_[part]);
+    ReadParts();
     const platform::Currency missing = split_.Missing();
     const QString amount =
         ToScreen(platform::FormatMoney(missing < platform::Currency() ? -missing : missing));
@@ -111,16 +115,36 @@ std::vector<std::string> frmRentSplit::Errors() {
         const std::string amount = FromScreen(line.amount->text());
         if (!line.amount->Amount())
             lines.push_back("\"" + amount + "\" is not an amount of money.");
-        if (!line.date->IsValid()) lines.push_back(core::binding::NotADay(*line.date));
+        if (!line.date->IsValid()) {
+            lines.push_back(core::binding::NotADay(*line.date));
+        } else if (!line.date->Day()->IsSet()) {
+            lines.emplace_back("A date must be entered.");
+        }
     }
     return lines;
 }
 
-void frmRentSplit::Store() {
+void frmRentSplit::ReadParts() {
     for (std::size_t part = 0; part < lines_.size(); ++part)
         split_.parts[part] = ReadPart(lines_[part]);
     split_.rentPart = ui_->optIsRent2->isChecked() ? 1 : 0;
-    SaveSplit(split_);
+}
+
+bool frmRentSplit::Agreed() {
+    ReadParts();
+    return !split_.LosesRent() ||
+           platform::TheDialogs().AskYesNo(
+               "Confirm Split",
+               "The part that stays rent is 0.00. When the other part is paid,\n"
+               "the next due date will not move.\n"
+               "Do you want to continue?",
+               platform::Icon::Question);
+}
+
+void frmRentSplit::Store() {
+    ReadParts();
+    const auto parts = SaveSplit(split_);
+    Q_EMIT Saved(split_.idRentLog, parts);
 }
 
 void frmRentSplit::closeEvent(QCloseEvent* event) {

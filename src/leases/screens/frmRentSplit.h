@@ -32,8 +32,13 @@ class frmRentSplit : public core::forms::EntryForm {
 
     void Setup(std::int32_t idRentLog);
 
+  Q_SIGNALS:
+    /// The charge was replaced by its parts; 0 for a part that wasn't written.
+    void Saved(std::int32_t idRentLog, const std::array<std::int32_t, 2>& parts);
+
   protected:
     void Store() override;
+    bool Agreed() override;
     std::vector<std::string> Errors() override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -50,6 +55,7 @@ class frmRentSplit : public core::forms::EntryForm {
     void ShowSplit();
     void ShowPart(const Line& line, const SplitPart& part);
     static SplitPart ReadPart(const Line& line);
+    void ReadParts();
     void AmountChanged(std::size_t part);
     void ShowDifference();
 

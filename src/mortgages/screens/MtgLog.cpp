@@ -127,8 +127,8 @@ void MtgLog::ShowRows() {
             {.idMortgageLog = row.idMortgageLog,
              .flags = entry.flags,
              .date = entry.datePosted,
-             .texts = {ToScreen(entry.category), ToScreen(entry.description)},
-             .amounts = {entry.principal, entry.payDown, entry.interest, entry.other, row.total}});
+             .texts = std::vector{ToScreen(entry.category), ToScreen(entry.description)},
+             .amounts = std::vector{entry.principal, entry.payDown, entry.interest, entry.other, row.total}});
     }
     list_->ShowLines(lines);
     ShowAvailable();

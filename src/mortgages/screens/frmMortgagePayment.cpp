@@ -115,13 +115,14 @@ void frmMortgagePayment::ShowCharges() {
     std::vector<LogLine> lines;
     lines.reserve(payment_.charges.size());
     for (const PaymentCharge& charge : payment_.charges) {
-        lines.push_back({.idMortgageLog = charge.idMortgageLog,
-                         .flags = charge.flags,
-                         .date = charge.datePosted,
-                         .texts = {QString::number(charge.period), ToScreen(charge.category),
-                                   ToScreen(charge.description)},
-                         .amounts = {charge.total},
-                         .ticked = charge.selected});
+        lines.push_back(
+            {.idMortgageLog = charge.idMortgageLog,
+             .flags = charge.flags,
+             .date = charge.datePosted,
+             .texts = std::vector{QString::number(charge.period), ToScreen(charge.category),
+                                  ToScreen(charge.description)},
+             .amounts = std::vector{charge.total},
+             .ticked = charge.selected});
     }
     ui_->lvwCharges->ShowLines(lines);
     ui_->lblEmpty->setText(lines.empty() ? tr("Nothing is open") : QString());

@@ -2,12 +2,14 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/database/dialect/Catalog.h"
 #include "platform/values/Errors.h"
@@ -21,6 +23,9 @@ enum class OpenMode {
     ReadWriteIfAllowed, ///< only to read if the file or its folder can't be written to
     Create,
 };
+
+/// How a unit of work ended: its writes are in the file, or none of them is.
+enum class UnitEnd { Kept, RolledBack };
 
 class DatabaseEngine;
 
@@ -64,6 +69,10 @@ class Connection {
     /// True between the begin and the end of a unit of work.
     bool InUnitOfWork() const;
 
+    /// Calls `work` once, after the unit of work that is open now has ended as a whole, in the
+    /// order given. Throws DatabaseError if none is open.
+    void AfterUnitOfWork(std::function<void(UnitEnd)> work);
+
   private:
     friend class Recordset;
     friend class RowWriter;
@@ -71,8 +80,10 @@ class Connection {
 
     /// Throws DatabaseError if it isn't open.
     DatabaseEngine& Engine() const;
+    void UnitEnded(UnitEnd end);
 
     std::filesystem::path file_;
+    std::vector<std::function<void(UnitEnd)>> afterUnit_;
     std::unique_ptr<DatabaseEngine> engine_;
 };
 

@@ -105,10 +105,11 @@ class Recordset {
     /// DatabaseError, as do Update and Delete, if the rows can't be written: opened to be read, or
     /// of a statement whose rows don't belong to one table.
     void AddNew();
-    /// Writes the new row, or the changed fields of the current one, if any. It then shows what is
-    /// stored, the table's defaults included. Throws ConflictError if the row was deleted, or any
-    /// of the fields read was changed, since: the changes stay, unwritten.
-    void Update();
+    /// Writes the new row, or the changed fields of the current one; returns false if there was
+    /// nothing to write. The row then shows what is stored, the table's defaults included. Throws
+    /// ConflictError if the row was deleted or any of the fields read was changed since: the
+    /// changes stay, unwritten.
+    bool Update();
     /// Drops what was set; after AddNew the row that was current before is so again.
     void CancelUpdate();
     /// Deletes the current row in the database and here; the next row becomes current.

@@ -194,16 +194,18 @@ void Recordset::AddNew() {
     state.adding = true;
 }
 
-void Recordset::Update() {
+bool Recordset::Update() {
     State& state = Opened();
-    if (!state.adding && !state.edited) return;
+    if (!state.adding && !state.edited) return false;
     state.CheckWritable();
     if (state.adding) {
         state.WriteNewRow();
-    } else if (std::ranges::any_of(state.edits,
-                                   [](const auto& edit) { return edit.has_value(); })) {
-        state.WriteChanges();
+        return true;
     }
+    const bool changes =
+        std::ranges::any_of(state.edits, [](const auto& edit) { return edit.has_value(); });
+    if (changes) state.WriteChanges();
+    return changes;
 }
 
 void Recordset::CancelUpdate() {

@@ -124,8 +124,8 @@ ViewFilter ViewPanel::Filter() const {
             .showHidden = ui_->chkShowHidden->isChecked(),
             .days = ui_->cboDays->currentData().toInt(),
             .field = FromScreen(ui_->cboFilter->currentText()),
-            .item = {FromScreen(ui_->cboFilterItem->currentText()),
-                     ui_->cboFilterItem->currentData().toInt()}};
+            .item = Choice{FromScreen(ui_->cboFilterItem->currentText()),
+                           ui_->cboFilterItem->currentData().toInt()}};
 }
 
 void ViewPanel::FilterFieldChanged() {

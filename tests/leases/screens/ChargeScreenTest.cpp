@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTest>
 
 #include "core/NotifyAll.h"
 #include "core/Settings.h"
@@ -83,7 +84,7 @@ TEST_F(ChargeScreen, OneOfZeroIsWrittenAndTheScreensAreTold) {
     });
     ClickAction(*Open(0), "SAVE");
     EXPECT_EQ(Row("Amount"), "0");
-    EXPECT_EQ(told, Said{"30"});
+    EXPECT_EQ(told, (Said{"2", "30"}));
 }
 
 TEST_F(ChargeScreen, TellsOfOneThatIsMissingAndOneThatIsThereTwice) {
@@ -109,6 +110,43 @@ TEST_F(ChargeScreen, WhatIsNoAmountStaysAndIsTold) {
     EXPECT_EQ(Heard(), Said{"Vestrel: \"12 or 13\" is not an amount of money"});
     EXPECT_TRUE(form && form->isVisible());
     EXPECT_EQ(Row("Count(*)"), "0");
+}
+
+TEST_F(ChargeScreen, ItsDateIsNeverBlank) {
+    const auto form = Open(0);
+    Type(Find<QLineEdit>(*form, "txtAmount"), "5");
+    auto& date = Find<QLineEdit>(*form, "dpDatePosted");
+    date.clear();
+    ClickAction(*form, "SAVE");
+    EXPECT_EQ(Heard(),
+              Said{"Whoa!: The following errors have occured:\n\nA date must be entered.\n"});
+    QTest::keyClick(&date, Qt::Key_Return); // leaves the box with the day that it had
+    EXPECT_EQ(Row("DatePosted"), "05/17/2024");
+    const auto split = Split(std::stoi(Row("IdRentLog")));
+    Type(Find<QLineEdit>(*split, "txtAmount1"), "2");
+    auto& first = Find<QLineEdit>(*split, "dpDate1");
+    first.clear();
+    ClickAction(*split, "SAVE");
+    EXPECT_EQ(Heard().size(), 1U);
+    QTest::keyClick(&first, Qt::Key_Return);
+    EXPECT_EQ(Row("Count(*)", "DatePosted = '05/17/2024'"), "2");
+}
+
+TEST_F(ChargeScreen, ASplitThatLosesTheRentAsksFirst) {
+    const std::int32_t id = Charge("05/01/2024", 950, RentFlags::PeriodRent);
+    const auto form = Split(id);
+    Answer({false, true});
+    Type(Find<QLineEdit>(*form, "txtAmount1"), "0");
+    ClickAction(*form, "SAVE");
+    EXPECT_EQ(Heard(),
+              Said{"Confirm Split: The part that stays rent is 0.00. When the other part is "
+                   "paid,\nthe next due date will not move.\nDo you want to continue?"});
+    EXPECT_TRUE(form && form->isVisible());
+    EXPECT_EQ(Row("Count(*)"), "1");
+    Find<QRadioButton>(*form, "optIsRent2").click();
+    ClickAction(*form, "SAVE");
+    EXPECT_EQ(Heard(), Said{}) << "the other part stays rent";
+    EXPECT_EQ(Row("Flags"), "1");
 }
 
 TEST_F(ChargeScreen, ASplitWorksOutTheOtherPartIfItIsTo) {

@@ -162,6 +162,14 @@ TEST_F(LeaseForm, ANewLeaseStartsWithTheSettingsAndIsPendingUntilItsDay) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog"), "1") << "deposits are charged once";
 }
 
+TEST_F(LeaseForm, RefusesALeaseWithoutANextDueDate) {
+    const auto form = Open();
+    Find<QLineEdit>(*form, "dpDateNextDue").clear();
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard(), Said{kRoll + "A next due date must be specified.\n"});
+    EXPECT_EQ(Lease("DateNextDue"), "05/01/2024");
+}
+
 TEST_F(LeaseForm, ASaveThatFailedMidwayIsStillThatOfANewLease) {
     Run("UPDATE Configuration SET DefaultRentAccount = 61");
     core::LoadConfiguration();
@@ -343,7 +351,9 @@ TEST_F(LeaseForm, TheLedgerAddsEditsAndRemoves) {
     Answer({true});
     Trigger(ledger, "mnuSelectAll");
     ClickOn(Find<QPushButton>(ledger, "cmdEditDelete"));
-    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete all selected items?"});
+    EXPECT_EQ(Heard(),
+              Said{"Confirm Delete: Delete all selected items?\n\n05/07/2024, Late Fee, 1.00\n"
+                   "05/01/2024, Rent due 05/01/2024, 950.00"});
     EXPECT_EQ(Text(ledger, "lblTotal"), "Nothing is open");
     EXPECT_EQ(Lease("RentDue"), "0");
     EXPECT_FALSE(form->Dirty());

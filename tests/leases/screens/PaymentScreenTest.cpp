@@ -14,6 +14,7 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/binding/DateEdit.h"
+#include "leases/RentPayment.h"
 #include "leases/screens/LeaseScreens.h"
 #include "leases/screens/frmRentLog.h"
 #include "leases/screens/frmRentPayment.h"
@@ -129,6 +130,12 @@ TEST_F(PaymentScreen, APaymentWithoutAnAccountHasNone) {
     Set("RentAccount", "0");
     const auto form = Open();
     EXPECT_EQ(Text(*form, "cboTo"), "");
+    const std::string line = "3 charges, next due date moves from 04/01/2024 to 06/01/2024";
+    EXPECT_EQ(Outlook(*form), line + ". No account is chosen to receive it");
+    Choose(*form, "cboTo", "River Bank");
+    EXPECT_EQ(Outlook(*form), line);
+    Type(Find<QComboBox>(*form, "cboTo"), "Cash");
+    EXPECT_EQ(Outlook(*form), line + ". \"Cash\" receives it, which is not one of your accounts");
     ClickAction(*form, "SUBMIT");
     EXPECT_EQ(Transaction("CreditId"), "0");
 }
@@ -160,19 +167,108 @@ TEST_F(PaymentScreen, HearsOfChargesThatComeAndGo) {
 
 TEST_F(PaymentScreen, ASplitChargeCanBePaidInPart) {
     const auto form = Open();
+    auto& restore = Find<QPushButton>(*form, "cmdRestoreTicks");
+    Tick(*form, 1, false);
+    Tick(*form, 2, false);
     GoTo(*form, 0);
     Trigger(*form, "mnuChargeSplit");
     const auto split = Opened<frmRentSplit>();
     ASSERT_TRUE(split);
     Type(Find<QLineEdit>(*split, "txtAmount1"), "300");
     EXPECT_EQ(Text(*split, "txtAmount2"), "650.00");
+    EXPECT_FALSE(restore.isVisible());
     ClickAction(*split, "SAVE");
     EXPECT_EQ(Rows(*form, "lvwCharges").size(), 4U);
-    Trigger(*form, "mnuCheckOther");
-    for (int row = 0; row < 4; ++row)
-        Tick(*form, row, row == 0);
-    EXPECT_EQ(Text(*form, "txtAmount"), "300.00");
+    EXPECT_EQ(Text(*form, "txtAmount"), "1940.00") << "every row is ticked again";
+    EXPECT_EQ(Outlook(*form),
+              "4 charges, next due date moves from 04/01/2024 to 06/01/2024. The charges changed: "
+              "every open charge is ticked again");
+    ASSERT_TRUE(restore.isVisible());
+    restore.click();
+    EXPECT_EQ(Text(*form, "txtAmount"), "300.00") << "without the deferred part";
     EXPECT_EQ(Outlook(*form), "1 charge, next due date moves from 04/01/2024 to 05/01/2024");
+    EXPECT_FALSE(restore.isVisible());
+}
+
+TEST_F(PaymentScreen, TicksAreRestoredAfterAnyChangeUntilTheUserTicksAnew) {
+    const auto form = Open();
+    auto& restore = Find<QPushButton>(*form, "cmdRestoreTicks");
+    Tick(*form, 1, false);
+    Charge("05/07/2024", 25);
+    Run("UPDATE Lease SET Notes = 'x'");
+    core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);
+    EXPECT_EQ(Text(*form, "txtAmount"), "1965.00");
+    restore.click();
+    EXPECT_EQ(Text(*form, "txtAmount"), "1015.00") << "with the charge that was added";
+    Charge("05/08/2024", 5);
+    ASSERT_TRUE(restore.isVisible());
+    Tick(*form, 0, false);
+    EXPECT_FALSE(restore.isVisible()) << "the ticks are the user's own again";
+}
+
+TEST_F(PaymentScreen, KeysTickOpenAndSubmit) {
+    const auto form = Open();
+    auto& list = Find<QTreeWidget>(*form, "lvwCharges");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Down);
+    list.setCurrentIndex(list.model()->index(1, 2)); // a click on the description
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_EQ(Text(*form, "txtAmount"), "990.00");
+    QTest::keyClick(&list, Qt::Key_F2);
+    const auto charge = Opened<frmRentLog>();
+    ASSERT_TRUE(charge);
+    EXPECT_EQ(Text(*charge, "dpDatePosted"), "05/01/2024");
+    ClickAction(*charge, "CANCEL");
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_FALSE(form && form->isVisible());
+    EXPECT_EQ(Transaction("Amount"), "990");
+}
+
+TEST_F(PaymentScreen, TheRentAloneIsWhatHasTheFlagOfRent) {
+    Run("DELETE * FROM RentLog");
+    Charge("05/01/2024", 1, RentFlags::PeriodRent);
+    Charge("05/02/2024", 2, RentFlags::DepositRefund);
+    const auto form = Open();
+    Trigger(*form, "mnuCheckRent");
+    EXPECT_EQ(Text(*form, "txtAmount"), "1.00");
+}
+
+TEST_F(PaymentScreen, TheDateIsNeverBlank) {
+    const auto form = Open();
+    auto& date = Find<core::binding::DateEdit>(*form, "dpEffectiveDate");
+    Type(date, "5/2/24");
+    date.setFocus();
+    QTest::keyClick(&date, Qt::Key_Tab);
+    date.setFocus();
+    date.clear();
+    QTest::keyClick(&date, Qt::Key_Return);
+    EXPECT_EQ(Transaction("DateEffective"), "05/02/2024");
+}
+
+TEST_F(PaymentScreen, ThatStoodOpenWhileAnotherProgramPaidPostsNothing) {
+    const auto form = Open();
+    const std::int32_t id =
+        leases::SubmitPayment(leases::ProposePayment(kLease, RentClass::Rent), LeaseUpdate::No);
+    // As it was on screen before the broadcast, which another program doesn't send.
+    Run("UPDATE RentLog SET IdTransaction = 0 WHERE Flags <> 2");
+    core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);
+    Tick(*form, 2, false);
+    Run("UPDATE RentLog SET IdTransaction = " + std::to_string(id));
+    ClickAction(*form, "SUBMIT");
+    EXPECT_EQ(Heard(), Said{"Vestrel: The charge \"Rent due 04/01/2024\" of 04/01/2024 was paid "
+                            "after this payment was opened. Nothing was posted."});
+    EXPECT_TRUE(form && form->isVisible());
+    EXPECT_EQ(Rows(*form, "lvwCharges"), Said{});
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "1");
+}
+
+TEST_F(PaymentScreen, SaysThatThePaymentItEditsWasDeleted) {
+    ClickAction(*Open(), "SUBMIT");
+    const auto form = Open(std::stoi(Transaction("IdTransaction")));
+    Run("DELETE * FROM Transactions");
+    core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
+    EXPECT_EQ(Outlook(*form), "This payment was deleted. Submit stores it again under its number");
 }
 
 TEST_F(PaymentScreen, RemovesChargesTheOneAndTheSeveral) {
@@ -187,7 +283,9 @@ TEST_F(PaymentScreen, RemovesChargesTheOneAndTheSeveral) {
     Heard();
     Trigger(*form, "mnuSelectAll");
     Trigger(*form, "mnuChargeDelete");
-    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete all selected charges?"});
+    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete all selected charges?\n\n"
+                            "04/01/2024, Rent due 04/01/2024, 950.00\n"
+                            "05/01/2024, Rent due 05/01/2024, 950.00"});
     EXPECT_EQ(Rows(*form, "lvwCharges"), Said{});
     EXPECT_EQ(Lease("RentDue"), "0") << "the balances follow";
 }
@@ -222,8 +320,8 @@ TEST_F(PaymentScreen, ADayThatIsNoneAndAFailureKeepItOpen) {
     Find<QLineEdit>(*form, "dpEffectiveDate").setText(QStringLiteral("5/15/2024"));
     Run("DELETE * FROM RentLog WHERE Amount = 40");
     ClickAction(*form, "SUBMIT");
-    EXPECT_EQ(Heard(), Said{"Vestrel: The charge \"Late Fee\" has been removed meanwhile, so it "
-                            "can't be paid."});
+    EXPECT_EQ(Heard(), Said{"Vestrel: The charge \"Late Fee\" of 05/06/2024 was deleted after this "
+                            "payment was opened. Nothing was posted."});
     EXPECT_TRUE(form && form->isVisible());
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0");
 }

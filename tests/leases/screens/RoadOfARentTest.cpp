@@ -213,6 +213,12 @@ TEST_F(RoadOfARent, ADepositIsPaidAndGivenBack) {
               "Deposit Refund|River Bank|Smith, John Q");
     Find<QTabBar>(ledger, "tab").setCurrentIndex(5);
     EXPECT_EQ(Rows(*lease, "lvw").size(), 3U) << "the deposit, its payment and the refund";
+    ClickOn(Find<QPushButton>(ledger, "cmdCharge"));
+    screen = Opened<books::screens::frmTransaction>();
+    ASSERT_TRUE(screen);
+    EXPECT_EQ(Text(*screen, "txtAmount"), "50.00") << "what the refund left";
+    EXPECT_EQ(Text(*screen, "cboTo"), "") << "nobody takes it whom the user didn't choose";
+    screen->CloseUnasked();
     EXPECT_EQ(Heard(), Said{});
 }
 

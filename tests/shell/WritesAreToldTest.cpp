@@ -1,0 +1,285 @@
+// Every routine that writes a row of a table tells the open screens of the kind of that row.
+
+#include <algorithm>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "books/Categories.h"
+#include "books/SaveTransaction.h"
+#include "books/ScheduledEvents.h"
+#include "core/DailyRun.h"
+#include "core/Globals.h"
+#include "core/KindOfTable.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
+#include "documents/AttachFile.h"
+#include "documents/FileRows.h"
+#include "leases/DeleteCharges.h"
+#include "leases/LeaseCommands.h"
+#include "leases/LeaseWizard.h"
+#include "leases/Ledger.h"
+#include "leases/RentPayment.h"
+#include "leases/RentSplit.h"
+#include "leases/mLease.h"
+#include "mortgages/ChargeEditor.h"
+#include "mortgages/LogRows.h"
+#include "mortgages/MortgageEditor.h"
+#include "mortgages/MortgagePayment.h"
+#include "mortgages/MortgageUpkeep.h"
+#include "mortgages/MortgageWizard.h"
+#include "platform/system/Clock.h"
+#include "records/BuildingRules.h"
+#include "records/DepositTemplates.h"
+#include "removal/DeleteRecord.h"
+#include "removal/PortfolioFixture.h"
+#include "shell/Registrations.h"
+#include "support/ScriptedDialogs.h"
+
+namespace {
+
+using leases::LeaseCommand;
+using leases::RentClass;
+using mortgages::MortgageCommand;
+using platform::Date;
+using removal::Confirm;
+
+class WritesAreTold : public tests::Portfolio {
+  protected:
+    WritesAreTold() {
+        shell::RegisterLogic();
+        Run("UPDATE Configuration SET NextId = 5000");
+        for (const char* const money :
+             {"Discount", "OneTimeFee", "DailyFee", "SubsAmt", "OptionCredit"})
+            SetNulls("Lease", money, "0");
+        for (const char* const days :
+             {"DiscountDays", "OneTimeDays", "DailyDays", "EvictDays", "NoticeDays", "Term"})
+            SetNulls("Lease", days, "30");
+        // What a payment sets off: an event on the payer's side.
+        Run("INSERT INTO AutoEvent (IdAutoEvent, EventType, Description, Enabled, Alert, "
+            "IntervalPeriod, IntervalType, TriggerType, TriggerID, TriggerTaxCategory, "
+            "EventAction, LastRun, DebitType, DebitId, CreditType, CreditId, Amount, TaxCategory) "
+            "VALUES (990, 2, 'Fee', True, False, 0, 0, 5, 300, 'Rent Payment', 1, '', 1, 400, 1, "
+            "404, 5, 'Supplies')");
+        Run("INSERT INTO AutoEvent (IdAutoEvent, EventType, Description, Enabled, Alert, "
+            "IntervalPeriod, IntervalType, EventAction, LastRun, DebitType, DebitId, CreditType, "
+            "CreditId, Amount, TaxCategory) VALUES (991, 1, 'Lawn', True, False, 1, 3, 1, "
+            "'10/20/2026', 1, 400, 1, 404, 45, 'Supplies')");
+        platform::SetToday(Date(2026, 12, 3));
+        mortgages::WizardEntries loan;
+        loan.newAccount = false;
+        loan.idAccount = 406;
+        loan.lenderName = "First Mortgage";
+        loan.origPV = loan.currentPV = platform::Currency::FromUnits(100'000);
+        loan.origTerm = 30;
+        loan.origRate = loan.currentRate = 6;
+        loan.firstDue = loan.nextDue = Date(2026, 11, 1);
+        idMortgage_ = mortgages::FinishWizard(loan);
+        Run("DELETE * FROM Mortgage WHERE IdMortgage < 1000");
+    }
+
+    static void SetNulls(const std::string& table, const std::string& field,
+                         const std::string& value) {
+        Run("UPDATE " + table + " SET " + field + " = " + value + " WHERE " + field + " IS NULL");
+    }
+
+    /// The tables that `work` wrote and told nobody of; "Table: nothing written" if it did nothing.
+    std::vector<std::string> Untold(const std::function<void()>& work) {
+        std::set<std::int16_t> told;
+        Look();
+        {
+            const core::NotifyToken token(
+                [&](std::int16_t kind, std::int16_t, std::int32_t) { told.insert(kind); });
+            work();
+        }
+        std::set<std::string> tables;
+        for (const std::string& change : Changes()) {
+            // The counter of identifiers is no setting that a screen shows.
+            if (change.find(" NextId=") != std::string::npos) continue;
+            const std::string line = change.substr(change.starts_with("+") ? 1 : 0);
+            tables.insert(line.substr(0, line.find(' ')));
+        }
+        if (tables.empty()) return {"nothing was written"};
+        std::vector<std::string> untold;
+        for (const std::string& table : tables) {
+            // Rows of no kind, such as those of StatusLog, are shown nowhere by themselves.
+            const std::int16_t kind = core::KindOfTable(table);
+            if (kind != core::kNone && !told.contains(kind)) untold.push_back(table);
+        }
+        return untold;
+    }
+
+    std::int32_t idMortgage_ = 0;
+};
+
+leases::RentPayment Payment() {
+    return leases::ProposePayment(700, RentClass::Rent);
+}
+
+books::Transaction Repair() {
+    return {.dateEffective = Date(2026, 12, 1),
+            .debit = books::Party{core::kAccount, 400, "River Bank"},
+            .credit = books::Party{core::kAccount, 404, "Fix-It Co"},
+            .amount = platform::Currency::FromUnits(60),
+            .taxCategory = "Repairs",
+            .ien = books::Ien::Expense,
+            .checkNumber = "",
+            .description = "",
+            .idBuilding = 100};
+}
+
+TEST_F(WritesAreTold, ByEveryRoutineOfTheLeases) {
+    const support::ScriptedDialogs dialogs({true, true, true});
+    leases::LeaseWizardEntry wizard;
+    wizard.newProperty = wizard.newTenant = true;
+    wizard.address = "9 New St";
+    wizard.lastName = "New";
+    wizard.startDate = Date(2026, 11, 1);
+    wizard.rent = platform::Currency::FromUnits(800);
+    const auto run = [](LeaseCommand command) { leases::RunCommand(command, 700, 30); };
+    struct Case {
+        const char* name;
+        std::function<void()> work;
+    };
+    std::int32_t paid = 0;
+    for (const Case& c : {
+             Case{"daily run", [] { core::UpdateRecords(); }},
+             Case{"reprocess", [&] { run(LeaseCommand::Reprocess); }},
+             Case{"split",
+                  [] {
+                      auto split = leases::ReadSplit(710).value();
+                      split.parts[0].amount = platform::Currency::FromUnits(900);
+                      split.parts[1].amount = platform::Currency::FromUnits(50);
+                      leases::SaveSplit(split);
+                  }},
+             Case{"delete",
+                  [] { leases::DeleteCharges(700, {711}, "All?", leases::ShownAs::Open); }},
+             Case{"payment with an event", [&] { paid = leases::SubmitPayment(Payment()); }},
+             Case{"edited payment",
+                  [&] {
+                      auto payment = leases::ReadPayment(paid);
+                      payment.charges[0].selected = false;
+                      leases::SubmitPayment(payment);
+                  }},
+             Case{"refund", [] { books::PostTransaction(leases::ProposeDepositRefund(700)); }},
+             Case{"notice", [&] { run(LeaseCommand::GiveNotice); }},
+             Case{"notice cancelled", [&] { run(LeaseCommand::CancelNotice); }},
+             Case{"roll forward", [&] { run(LeaseCommand::RollForward); }},
+             Case{"broken", [&] { run(LeaseCommand::BreakLease); }},
+             Case{"renewed", [&] { run(LeaseCommand::RenewLease); }},
+             Case{"next due date",
+                  [] {
+                      leases::AdvanceNextDue(700, leases::OptionCredit::Add,
+                                             leases::Broadcast::Yes);
+                  }},
+             Case{"wizard", [&] { leases::FinishLeaseWizard(wizard); }},
+         }) {
+        EXPECT_EQ(Untold(c.work), std::vector<std::string>()) << c.name;
+    }
+}
+
+TEST_F(WritesAreTold, ByEveryRoutineOfTheBooks) {
+    std::int32_t id = 0;
+    struct Case {
+        const char* name;
+        std::function<void()> work;
+    };
+    for (const Case& c : {
+             Case{"posted", [&] { id = books::PostTransaction(Repair()); }},
+             Case{"edited, with a trip",
+                  [&] {
+                      books::SaveTransaction(id, Repair(), books::Trip::Keep);
+                      // The screen that saves a record tells its own kind.
+                      core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
+                  }},
+             Case{"category",
+                  [] {
+                      books::AddCategory({"Parking", books::Ien::Income});
+                  }},
+             Case{"category removed", [] { books::RemoveCategory("Parking"); }},
+         }) {
+        EXPECT_EQ(Untold(c.work), std::vector<std::string>()) << c.name;
+    }
+}
+
+TEST_F(WritesAreTold, ByEveryRoutineOfTheMortgages) {
+    const support::ScriptedDialogs dialogs({true, true, true});
+    struct Case {
+        const char* name;
+        std::function<void()> work;
+    };
+    const auto run = [&](MortgageCommand command) { mortgages::RunCommand(command, idMortgage_); };
+    const auto open = [] {
+        return std::stoi(Ask("SELECT IdMortgageLog FROM MortgageLog WHERE IdTransaction = 0"));
+    };
+    for (const Case& c : {
+             Case{"daily run", [] { core::UpdateRecords(); }},
+             Case{"charge",
+                  [&] {
+                      auto charge = mortgages::NewCharge(idMortgage_);
+                      charge.other = platform::Currency::FromUnits(25);
+                      mortgages::SaveCharge(charge, 0);
+                  }},
+             Case{"delete", [&] { mortgages::DeleteLogRows({open()}, "All?"); }},
+             Case{"payment",
+                  [&] {
+                      auto payment = mortgages::ProposeMortgagePayment(idMortgage_);
+                      mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
+                      mortgages::SubmitMortgagePayment(payment, mortgages::OpenedFrom::Elsewhere);
+                  }},
+             Case{"reprocess", [&] { run(MortgageCommand::Reprocess); }},
+             Case{"payoff", [&] { run(MortgageCommand::Payoff); }},
+         }) {
+        EXPECT_EQ(Untold(c.work), std::vector<std::string>()) << c.name;
+    }
+}
+
+TEST_F(WritesAreTold, ByRecordsAndTheirFiles) {
+    const support::ScriptedDialogs dialogs({true, true, true});
+    std::string file = core::App().DbFile;
+    struct Case {
+        const char* name;
+        std::function<void()> work;
+    };
+    for (const Case& c : {
+             Case{"unit", [] { records::MakeNewUnit(100); }},
+             Case{"deposit", [] { records::DeleteDeposit(650); }},
+             Case{"file", [&] { documents::AttachFile(core::kUnit, 200, file); }},
+             Case{"its text",
+                  [] {
+                      documents::DescribeFile(documents::FilesOf(core::kUnit, 200).at(0).id, "Map");
+                  }},
+         }) {
+        EXPECT_EQ(Untold(c.work), std::vector<std::string>()) << c.name;
+    }
+}
+
+TEST_F(WritesAreTold, ByEveryRemoval) {
+    for (const bool withCharges : {false, true}) {
+        const support::ScriptedDialogs dialogs({withCharges, withCharges, withCharges});
+        const std::int32_t id = withCharges ? 800 : 801;
+        EXPECT_EQ(Untold([&] { removal::DeleteRecord(core::kTransaction, id, Confirm::DontAsk); }),
+                  std::vector<std::string>())
+            << id;
+    }
+    for (const auto& [kind, id] :
+         std::vector<std::pair<std::int16_t, std::int32_t>>{{core::kOwner, 420},
+                                                            {core::kAppliance, 510},
+                                                            {core::kWorkOrder, 600},
+                                                            {core::kLease, 701},
+                                                            {core::kUnit, 200},
+                                                            {core::kTenant, 301},
+                                                            {core::kAccount, 401},
+                                                            {core::kMortgage, idMortgage_},
+                                                            {core::kBuilding, 100},
+                                                            {core::kBuilding, 101}}) {
+        EXPECT_EQ(Untold([&] { removal::DeleteRecord(kind, id, Confirm::DontAsk); }),
+                  std::vector<std::string>())
+            << core::RecordKindName(kind) << ' ' << id;
+    }
+}
+
+} // namespace
