@@ -72,16 +72,16 @@ class Source {
     int descriptor_;
 };
 
-platform::OutputFile OpenContainer(const fs::path& container) {
-    using platform::OutputFile;
+platform::DiskFile OpenContainer(const fs::path& container) {
+    using platform::DiskFile;
     std::error_code ignored;
     return {container,
-            fs::exists(container, ignored) ? OutputFile::Start::Append : OutputFile::Start::New};
+            fs::exists(container, ignored) ? DiskFile::Start::Append : DiskFile::Start::New};
 }
 
 /// Writes the header of an entry that begins at the container's end; returns where its bytes begin,
 /// counted from 0.
-std::int64_t WriteHeader(platform::OutputFile& container, const fs::path& source, FileType type,
+std::int64_t WriteHeader(platform::DiskFile& container, const fs::path& source, FileType type,
                          std::int64_t size) {
     constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
     const std::int64_t data = container.Size() + static_cast<std::int64_t>(kHeaderSize);
@@ -99,7 +99,7 @@ std::int64_t WriteHeader(platform::OutputFile& container, const fs::path& source
     return data;
 }
 
-void CopyBlocks(platform::OutputFile& container, const Source& source, std::int64_t size) {
+void CopyBlocks(platform::DiskFile& container, const Source& source, std::int64_t size) {
     std::string block;
     for (std::int64_t at = 0; at < size; at += static_cast<std::int64_t>(block.size())) {
         block.resize(std::min(kBlockSize, static_cast<std::size_t>(size - at)));
@@ -168,7 +168,7 @@ bool PackFile(const fs::path& container, const fs::path& source, FileType type,
               std::string& result) {
     return Pack(source, result, [&] {
         const Source from(source);
-        platform::OutputFile out = OpenContainer(container);
+        platform::DiskFile out = OpenContainer(container);
         const std::int64_t size = from.Size();
         WriteHeader(out, source, type, size);
         CopyBlocks(out, from, size);
@@ -179,7 +179,7 @@ bool PackDatabase(const fs::path& container, const fs::path& database,
                   const std::function<void()>& progress, std::string& result) {
     return Pack(database, result, [&] {
         const platform::DatabaseCopy copy(database);
-        platform::OutputFile out = OpenContainer(container);
+        platform::DiskFile out = OpenContainer(container);
         const std::int64_t data = WriteHeader(out, database, FileType::Database, copy.Size());
         copy.WriteTo(out, data, [&](std::int64_t) {
             if (progress) progress();

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/system/OutputFile.h"
+#include "platform/system/DiskFile.h"
 
 namespace exchange {
 

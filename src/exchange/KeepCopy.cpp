@@ -8,7 +8,7 @@
 
 #include "core/Globals.h"
 #include "platform/database/DatabaseCopy.h"
-#include "platform/system/OutputFile.h"
+#include "platform/system/DiskFile.h"
 #include "platform/values/Errors.h"
 
 namespace exchange {
@@ -50,7 +50,7 @@ std::vector<int> NumbersOf(const fs::path& folder, const std::string& stem) {
 }
 
 void WriteCopy(const fs::path& database, const fs::path& copy) {
-    platform::OutputFile out(copy, platform::OutputFile::Start::New);
+    platform::DiskFile out(copy, platform::DiskFile::Start::New);
     try {
         platform::DatabaseCopy(database).WriteTo(out, 0, {});
         out.Sync();

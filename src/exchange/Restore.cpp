@@ -12,7 +12,7 @@
 #include "exchange/BackupConfig.h"
 #include "platform/database/Integrity.h"
 #include "platform/system/Clock.h"
-#include "platform/system/OutputFile.h"
+#include "platform/system/DiskFile.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Csv.h"
 #include "platform/values/Errors.h"
@@ -76,7 +76,7 @@ void Extract(const fs::path& container, const EntryHeader& header, const fs::pat
     std::ifstream source(container, std::ios::binary);
     source.seekg(header.dataPosition - 1);
     fs::create_directories(file.parent_path());
-    platform::OutputFile out(file, platform::OutputFile::Start::New);
+    platform::DiskFile out(file, platform::DiskFile::Start::New);
     std::string block;
     for (auto left = static_cast<std::size_t>(header.fileSize); left > 0; left -= block.size()) {
         block.resize(std::min(left, kBlockSize));

@@ -38,7 +38,7 @@ DatabaseCopy::DatabaseCopy(const std::filesystem::path& database)
 
 DatabaseCopy::~DatabaseCopy() = default;
 
-void DatabaseCopy::WriteTo(OutputFile& out, std::int64_t offset, const Progress& progress) const {
+void DatabaseCopy::WriteTo(DiskFile& out, std::int64_t offset, const Progress& progress) const {
     OffsetFile place(out, offset);
     try {
         SQLite::Database copy("copy", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, 0,

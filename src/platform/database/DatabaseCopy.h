@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/system/OutputFile.h"
+#include "platform/system/DiskFile.h"
 
 namespace SQLite {
 class Database;
@@ -29,7 +29,7 @@ class DatabaseCopy {
     using Progress = std::function<void(std::int64_t bytesDone)>;
     /// Writes the copy into `out`, from `offset` on, which is the file's end. `progress` may be
     /// empty; it is called every few megabytes, and what it throws ends the copying.
-    void WriteTo(OutputFile& out, std::int64_t offset, const Progress& progress) const;
+    void WriteTo(DiskFile& out, std::int64_t offset, const Progress& progress) const;
 
   private:
     std::unique_ptr<SQLite::Database> source_;

@@ -89,7 +89,7 @@ int FullName(sqlite3_vfs*, const char* name, int size, char* full) {
 
 } // namespace
 
-OffsetFile::OffsetFile(OutputFile& out, std::int64_t offset) : out_(out), offset_(offset) {
+OffsetFile::OffsetFile(DiskFile& out, std::int64_t offset) : out_(out), offset_(offset) {
     static std::atomic<int> last = 0;
     name_ = "vestrel-offset-" + std::to_string(++last);
     system_ = *sqlite3_vfs_find(nullptr);

@@ -6,7 +6,7 @@
 #include <exception>
 #include <string>
 
-#include "platform/system/OutputFile.h"
+#include "platform/system/DiskFile.h"
 
 namespace platform {
 
@@ -15,7 +15,7 @@ namespace platform {
 /// every file is this one.
 class OffsetFile {
   public:
-    OffsetFile(OutputFile& out, std::int64_t offset);
+    OffsetFile(DiskFile& out, std::int64_t offset);
     ~OffsetFile();
     OffsetFile(const OffsetFile&) = delete;
     OffsetFile& operator=(const OffsetFile&) = delete;
@@ -33,7 +33,7 @@ class OffsetFile {
   private:
     bool Flush();
 
-    OutputFile& out_;
+    DiskFile& out_;
     std::int64_t offset_;
     std::int64_t size_ = 0;
     /// Pages that follow one another are written together.

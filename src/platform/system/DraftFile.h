@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/system/OutputFile.h"
+#include "platform/system/DiskFile.h"
 
 namespace platform {
 
@@ -34,7 +34,7 @@ class DraftFile {
 
     std::filesystem::path target_;
     std::string draft_;
-    OutputFile out_;
+    DiskFile out_;
     std::string collected_;
     bool published_ = false;
     bool replaced_ = false; // the former file has the draft's name since Publish

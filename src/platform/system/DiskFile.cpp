@@ -1,4 +1,4 @@
-#include "platform/system/OutputFile.h"
+#include "platform/system/DiskFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -28,8 +28,8 @@ std::function<void()>& Probe() {
                 ".");
 }
 
-int OpenFor(const fs::path& file, OutputFile::Start start) {
-    const int flags = start == OutputFile::Start::New ? O_CREAT | O_EXCL : 0;
+int OpenFor(const fs::path& file, DiskFile::Start start) {
+    const int flags = start == DiskFile::Start::New ? O_CREAT | O_EXCL : 0;
     const int descriptor = open(file.c_str(), O_RDWR | O_CLOEXEC | flags, S_IRUSR | S_IWUSR);
     if (descriptor < 0) FailToWrite(file);
     return descriptor;
@@ -45,25 +45,25 @@ void ProbeFile() {
     if (Probe()) Probe()();
 }
 
-OutputFile::OutputFile(fs::path file, Start start)
-    : OutputFile(file, (ProbeFile(), OpenFor(file, start))) {
+DiskFile::DiskFile(fs::path file, Start start)
+    : DiskFile(file, (ProbeFile(), OpenFor(file, start))) {
     if (start == Start::Append && lseek(descriptor_, 0, SEEK_END) < 0) FailToWrite(file_);
 }
 
-OutputFile::OutputFile(fs::path file, int descriptor)
+DiskFile::DiskFile(fs::path file, int descriptor)
     : file_(std::move(file)), descriptor_(descriptor) {}
 
-OutputFile::~OutputFile() {
+DiskFile::~DiskFile() {
     if (descriptor_ >= 0) close(descriptor_);
 }
 
-std::int64_t OutputFile::Size() const {
+std::int64_t DiskFile::Size() const {
     struct stat status {};
     if (fstat(descriptor_, &status) != 0) FailToWrite(file_);
     return status.st_size;
 }
 
-void OutputFile::Write(std::string_view bytes) {
+void DiskFile::Write(std::string_view bytes) {
     ProbeFile();
     while (!bytes.empty()) {
         const ssize_t written = write(descriptor_, bytes.data(), bytes.size());
@@ -73,7 +73,7 @@ void OutputFile::Write(std::string_view bytes) {
     }
 }
 
-void OutputFile::WriteAt(std::int64_t offset, std::string_view bytes) {
+void DiskFile::WriteAt(std::int64_t offset, std::string_view bytes) {
     ProbeFile();
     while (!bytes.empty()) {
         const ssize_t written = pwrite(descriptor_, bytes.data(), bytes.size(), offset);
@@ -84,7 +84,7 @@ void OutputFile::WriteAt(std::int64_t offset, std::string_view bytes) {
     }
 }
 
-void OutputFile::Sync() {
+void DiskFile::Sync() {
     ProbeFile();
     if (fsync(descriptor_) != 0) FailToWrite(file_);
 }

@@ -9,22 +9,22 @@ namespace platform {
 
 /// A file open for writing; what is written goes to the system at once. Every failure is an Error
 /// that names the file and the reason (a full disk, a folder that can't be written to).
-class OutputFile {
+class DiskFile {
   public:
     enum class Start {
         New,    ///< makes the file, private to the user; fails if it is there
         Append, ///< goes on behind the end of an existing file
     };
 
-    OutputFile(std::filesystem::path file, Start start);
+    DiskFile(std::filesystem::path file, Start start);
     /// Takes over an open descriptor of `file`.
-    OutputFile(std::filesystem::path file, int descriptor);
-    ~OutputFile();
-    OutputFile(OutputFile&& other) noexcept
+    DiskFile(std::filesystem::path file, int descriptor);
+    ~DiskFile();
+    DiskFile(DiskFile&& other) noexcept
         : file_(std::move(other.file_)), descriptor_(std::exchange(other.descriptor_, -1)) {}
-    OutputFile& operator=(OutputFile&&) = delete;
-    OutputFile(const OutputFile&) = delete;
-    OutputFile& operator=(const OutputFile&) = delete;
+    DiskFile& operator=(DiskFile&&) = delete;
+    DiskFile(const DiskFile&) = delete;
+    DiskFile& operator=(const DiskFile&) = delete;
 
     const std::filesystem::path& File() const { return file_; }
     int Descriptor() const { return descriptor_; }
