@@ -26,6 +26,7 @@ patternOf() {
     case $1 in
         core_*) echo "\"core/${1#core_}/" ;;
         platform_qt) echo '"platform/qt/' ;;
+        platform_preview) echo '"platform/qt/preview/' ;;
         platform_dialect) echo '"platform/database/dialect/' ;;
         platform_charts | platform_preview) echo "\"platform/qt/${1#platform_}/" ;;
         platform_pdf | platform_fonts) echo "\"platform/printing/${1#platform_}/" ;;
