@@ -7,6 +7,7 @@
 
 #include "books/AutoEvent.h"
 #include "books/EventSchedule.h"
+#include "books/TellLists.h"
 #include "core/Globals.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"

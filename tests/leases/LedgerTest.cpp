@@ -123,7 +123,7 @@ TEST_F(LedgerTest, ADepositIsOfferedForRefundOnce) {
     Run("INSERT INTO Lease (IdLease, IdTenant, IdUnit) VALUES (199, 103, 102)");
     auto moved = refund;
     moved.idLease = 199;
-    books::SaveTransaction(id, moved, books::Trip::None);
+    books::EditTransaction(id, moved, refund, books::Trip::None);
     EXPECT_EQ(Ask("SELECT DepositBalance FROM Lease WHERE IdLease = 101"), "300");
     EXPECT_EQ(Ask("SELECT DepositBalance FROM Lease WHERE IdLease = 199"), "-300");
 }

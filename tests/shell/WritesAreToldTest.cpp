@@ -191,7 +191,7 @@ TEST_F(WritesAreTold, ByEveryRoutineOfTheBooks) {
              Case{"posted", [&] { id = books::PostTransaction(Repair()); }},
              Case{"edited, with a trip",
                   [&] {
-                      books::SaveTransaction(id, Repair(), books::Trip::Keep);
+                      books::EditTransaction(id, Repair(), Repair(), books::Trip::Keep);
                       // The screen that saves a record tells its own kind.
                       core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
                   }},
@@ -221,14 +221,17 @@ TEST_F(WritesAreTold, ByEveryRoutineOfTheMortgages) {
                   [&] {
                       auto charge = mortgages::NewCharge(idMortgage_);
                       charge.other = platform::Currency::FromUnits(25);
-                      mortgages::SaveCharge(charge, 0);
+                      mortgages::SaveCharge(charge, charge, 0);
                   }},
-             Case{"delete", [&] { mortgages::DeleteLogRows({open()}, "All?"); }},
+             Case{"delete",
+                  [&] {
+                      mortgages::DeleteLogRows({mortgages::ShownCharge{open(), 0}}, "All?");
+                  }},
              Case{"payment",
                   [&] {
                       auto payment = mortgages::ProposeMortgagePayment(idMortgage_);
                       mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
-                      mortgages::SubmitMortgagePayment(payment, mortgages::OpenedFrom::Elsewhere);
+                      mortgages::SubmitMortgagePayment(payment);
                   }},
              Case{"reprocess", [&] { run(MortgageCommand::Reprocess); }},
              Case{"payoff", [&] { run(MortgageCommand::Payoff); }},

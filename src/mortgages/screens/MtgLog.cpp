@@ -128,7 +128,8 @@ void MtgLog::ShowRows() {
              .flags = entry.flags,
              .date = entry.datePosted,
              .texts = std::vector{ToScreen(entry.category), ToScreen(entry.description)},
-             .amounts = std::vector{entry.principal, entry.payDown, entry.interest, entry.other, row.total}});
+             .amounts = std::vector{entry.principal, entry.payDown, entry.interest, entry.other,
+                                    row.total}});
     }
     list_->ShowLines(lines);
     ShowAvailable();

@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QPrinter>
 #include <filesystem>
+#include <vector>
 
 #include "core/Configuration.h"
 #include "core/forms/ErrorRoll.h"
@@ -37,7 +38,7 @@ std::optional<std::string> AskFile(const ExportWords& words, ExportFormat format
     const auto chosen =
         platform::TheChoosers().SaveFile({.title = std::string(words.title),
                                           .start = ProposeExportFile(LastSaveDir(), format),
-                                          .filters = {FilterOf(words.filter)}});
+                                          .filters = std::vector{FilterOf(words.filter)}});
     if (!chosen || std::filesystem::path(*chosen).has_extension()) return chosen;
     std::string named = *chosen + "." + std::string(words.extension);
     if (platform::FileExists(named) &&
