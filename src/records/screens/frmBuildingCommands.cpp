@@ -2,7 +2,9 @@
 
 #include <QEvent>
 #include <QMenuBar>
+#include <memory>
 
+#include "books/screens/frmDepreciation.h"
 #include "core/References.h"
 #include "core/binding/AddressBox.h"
 #include "core/forms/ErrorRoll.h"
