@@ -55,7 +55,7 @@ class RecordReports : public support::ScreenTest {
         for (const QAction* const action : form_->findChildren<QAction*>(QLatin1String(name))) {
             texts.push_back(action->text().toStdString() +
                             (action->isEnabled() ? "" : " (disabled)"));
-            if (!action->isEnabled()) EXPECT_FALSE(action->toolTip().isEmpty());
+            EXPECT_TRUE(action->isEnabled() || !action->toolTip().isEmpty());
         }
         std::ranges::sort(texts);
         return texts;
