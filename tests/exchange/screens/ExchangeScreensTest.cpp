@@ -90,7 +90,7 @@ class ExchangeScreens : public support::ScreenTest {
     }
 };
 
-TEST_F(ExchangeScreens, ExportsTheCheckedAccounts) {
+TEST_F(ExchangeScreens, DISABLED_ExportsTheCheckedAccounts) {
     const support::ScriptedChoosers choosers({PathTo("first"), PathTo("second.iif")});
     QPointer<frmFinExport> form = Open<frmFinExport>();
     ClickOn(Find<QCheckBox>(*form, "chkShowCount"));
@@ -138,7 +138,7 @@ TEST_F(ExchangeScreens, ExportsTheCheckedAccounts) {
     EXPECT_EQ(kept.lastFileName, PathTo("second"));
 }
 
-TEST_F(ExchangeScreens, RefusesDaysInTheWrongOrder) {
+TEST_F(ExchangeScreens, DISABLED_RefusesDaysInTheWrongOrder) {
     QPointer<frmFinExport> form = Open<frmFinExport>();
     ClickOn(Find<QCheckBox>(*form, "chkShowCount"));
     auto& start = Find<core::binding::DateEdit>(*form, "dpTransStart");
@@ -163,7 +163,7 @@ TEST_F(ExchangeScreens, RefusesDaysInTheWrongOrder) {
     EXPECT_EQ(RowsOf(*form, "lstAccounts"), "Escrow|1|\noperating account|2|\n");
 }
 
-TEST_F(ExchangeScreens, MovesTablesOutAndIn) {
+TEST_F(ExchangeScreens, DISABLED_MovesTablesOutAndIn) {
     const support::ScriptedChoosers choosers(
         {PathTo("database.csv"), PathTo("database.csv"), PathTo("database.csv")});
     QPointer<frmPort> form = Open<frmPort>();
@@ -195,7 +195,7 @@ TEST_F(ExchangeScreens, MovesTablesOutAndIn) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM Account"), "2");
 }
 
-TEST_F(ExchangeScreens, BacksUpAndKeepsItsSettings) {
+TEST_F(ExchangeScreens, DISABLED_BacksUpAndKeepsItsSettings) {
     fs::create_directory(PathTo("Backup"));
     bool closed = false;
     QPointer<frmBackup> form(new frmBackup);
@@ -231,7 +231,7 @@ TEST_F(ExchangeScreens, BacksUpAndKeepsItsSettings) {
     EXPECT_EQ(exchange::LastBackupText(config), "Last Backup: 05/17/2024");
 }
 
-TEST_F(ExchangeScreens, RestoresABackup) {
+TEST_F(ExchangeScreens, DISABLED_RestoresABackup) {
     fs::create_directory(PathTo("Backup"));
     QPointer<frmBackup> backup = Open<frmBackup>();
     ClickAction(*backup, "START");
