@@ -32,6 +32,8 @@ constexpr std::string_view kIifNote =
     "need to go to\n"
     "the 'Chart of Accounts' and edit each account type to be either Income or Expense.";
 
+constexpr qsizetype kWrittenOut = 10; // mm/dd/yyyy
+
 void Select(const std::array<QRadioButton*, 3>& choices, int chosen) {
     choices.at(static_cast<std::size_t>(chosen))->setChecked(true);
 }
@@ -77,9 +79,9 @@ void frmFinExport::Connect() {
     connect(ui_->chkShowCount, &QCheckBox::toggled, this, &frmFinExport::RangeChanged);
     for (auto* const box : {ui_->dpTransStart, ui_->dpTransEnd}) {
         connect(box, &QLineEdit::editingFinished, this, [this, box] { DayEntered(*box); });
-        // The calendar leaves the box without the focus of typing.
-        connect(box, &QLineEdit::textChanged, this, [this, box] {
-            if (!box->hasFocus()) DayEntered(*box);
+        // A day picked from the calendar is written out in full; one that is being typed waits.
+        connect(box, &QLineEdit::textChanged, this, [this, box](const QString& text) {
+            if (!box->hasFocus() && text.size() == kWrittenOut) DayEntered(*box);
         });
     }
     core::forms::ActionBar& bar = *ui_->cmdAction;
@@ -100,8 +102,8 @@ void frmFinExport::Connect() {
 void frmFinExport::Setup() {
     settings_ = LoadFinExportSettings();
     ShowSettings();
-    Guarded([this] { FillList(); });
     loading_ = false;
+    Guarded([this] { FillList(); });
     Open();
 }
 
@@ -149,6 +151,8 @@ void frmFinExport::FillList() {
 }
 
 void frmFinExport::RangeChanged() {
+    // While the settings are being shown, the controls that come later don't hold theirs yet.
+    if (loading_) return;
     ReadSettings();
     const bool isDays = settings_.range.range == TransRange::DateRange;
     ui_->dpTransStart->setEnabled(isDays);

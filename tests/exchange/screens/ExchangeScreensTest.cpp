@@ -19,6 +19,7 @@
 #include "exchange/screens/frmFinExport.h"
 #include "exchange/screens/frmPort.h"
 #include "exchange/screens/frmRestore.h"
+#include "platform/system/Clock.h"
 #include "support/ScriptedChoosers.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
@@ -86,11 +87,11 @@ class ExchangeScreens : public support::ScreenTest {
         Find<QTreeWidget>(form, "lstAccounts").topLevelItem(row)->setCheckState(0, Qt::Checked);
     }
     static void Choose(const QWidget& form, const char* button) {
-        ClickOn(Find<QRadioButton>(form, button));
+        Find<QRadioButton>(form, button).click();
     }
 };
 
-TEST_F(ExchangeScreens, DISABLED_ExportsTheCheckedAccounts) {
+TEST_F(ExchangeScreens, ExportsTheCheckedAccounts) {
     const support::ScriptedChoosers choosers({PathTo("first"), PathTo("second.iif")});
     QPointer<frmFinExport> form = Open<frmFinExport>();
     ClickOn(Find<QCheckBox>(*form, "chkShowCount"));
@@ -136,9 +137,15 @@ TEST_F(ExchangeScreens, DISABLED_ExportsTheCheckedAccounts) {
     EXPECT_EQ(kept.finType, exchange::FinType::Iif);
     EXPECT_TRUE(kept.markExported && kept.showCount && !kept.limitLength);
     EXPECT_EQ(kept.lastFileName, PathTo("second"));
+    // What is only shown stays as it was kept.
+    form = Open<frmFinExport>();
+    ClickAction(*form, "CLOSE");
+    support::SettleEvents();
+    EXPECT_TRUE(exchange::LoadFinExportSettings().markExported);
+    EXPECT_FALSE(exchange::LoadFinExportSettings().sortDescending);
 }
 
-TEST_F(ExchangeScreens, DISABLED_RefusesDaysInTheWrongOrder) {
+TEST_F(ExchangeScreens, RefusesDaysInTheWrongOrder) {
     QPointer<frmFinExport> form = Open<frmFinExport>();
     ClickOn(Find<QCheckBox>(*form, "chkShowCount"));
     auto& start = Find<core::binding::DateEdit>(*form, "dpTransStart");
@@ -149,9 +156,12 @@ TEST_F(ExchangeScreens, DISABLED_RefusesDaysInTheWrongOrder) {
     EXPECT_EQ(end.text(), QStringLiteral("05/17/2024"));
     EXPECT_EQ(RowsOf(*form, "lstAccounts"), "Escrow|1|\noperating account|1|\n");
     const auto enter = [&](QLineEdit& box, const char* day) {
+        box.setFocus();
         Type(box, day);
         QTest::keyClick(&box, Qt::Key_Tab);
     };
+    form->activateWindow();
+    support::SettleEvents();
     enter(start, "5/18/2024");
     EXPECT_EQ(Heard(), Said{"Check Date Selections: Start Date must be earlier than End Date"});
     EXPECT_EQ(start.text(), QStringLiteral("04/17/2024"));
@@ -163,7 +173,7 @@ TEST_F(ExchangeScreens, DISABLED_RefusesDaysInTheWrongOrder) {
     EXPECT_EQ(RowsOf(*form, "lstAccounts"), "Escrow|1|\noperating account|2|\n");
 }
 
-TEST_F(ExchangeScreens, DISABLED_MovesTablesOutAndIn) {
+TEST_F(ExchangeScreens, MovesTablesOutAndIn) {
     const support::ScriptedChoosers choosers(
         {PathTo("database.csv"), PathTo("database.csv"), PathTo("database.csv")});
     QPointer<frmPort> form = Open<frmPort>();
@@ -195,7 +205,9 @@ TEST_F(ExchangeScreens, DISABLED_MovesTablesOutAndIn) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM Account"), "2");
 }
 
-TEST_F(ExchangeScreens, DISABLED_BacksUpAndKeepsItsSettings) {
+TEST_F(ExchangeScreens, BacksUpAndKeepsItsSettings) {
+    // Containers are as old as their files say.
+    platform::SetToday(platform::ChangedAt(PathTo("Vestrel.mdb")).day);
     fs::create_directory(PathTo("Backup"));
     bool closed = false;
     QPointer<frmBackup> form(new frmBackup);
@@ -228,10 +240,10 @@ TEST_F(ExchangeScreens, DISABLED_BacksUpAndKeepsItsSettings) {
     EXPECT_EQ(config.keepPeriods, 0);
     EXPECT_EQ(config.keepInterval, 2);
     EXPECT_EQ(config.backupPath, PathTo("Backup/"));
-    EXPECT_EQ(exchange::LastBackupText(config), "Last Backup: 05/17/2024");
+    EXPECT_EQ(exchange::LastBackupText(config), "Last Backup: " + platform::Today().ToText());
 }
 
-TEST_F(ExchangeScreens, DISABLED_RestoresABackup) {
+TEST_F(ExchangeScreens, RestoresABackup) {
     fs::create_directory(PathTo("Backup"));
     QPointer<frmBackup> backup = Open<frmBackup>();
     ClickAction(*backup, "START");
@@ -253,6 +265,9 @@ TEST_F(ExchangeScreens, DISABLED_RestoresABackup) {
     Heard();
     ClickAction(*form, "RESTORE"); // the folder isn't new any more
     EXPECT_NE(Heard()[0].find("is there already"), std::string::npos);
+    form->activateWindow();
+    support::SettleEvents();
+    Find<QLineEdit>(*form, "txtContainer").setFocus();
     Type(Find<QLineEdit>(*form, "txtContainer"), PathTo("Vestrel.mdb"));
     QTest::keyClick(&Find<QLineEdit>(*form, "txtContainer"), Qt::Key_Tab);
     EXPECT_NE(Find<QLabel>(*form, "lblSummary")
