@@ -166,6 +166,13 @@ void frmMortgage::UpdateControls() {
     for (QWidget* const term : std::initializer_list<QWidget*>{
              origin_->dpDue, origin_->txtXPriAll, origin_->chkIntOnly, origin_->chkARM})
         term->setEnabled(!isSaved);
+    if (isSaved) {
+        const QString locked = tr("A saved loan keeps this term");
+        origin_->chkIntOnly->setToolTip(locked);
+        origin_->chkARM->setToolTip(locked);
+        origin_->txtXPriAll->setToolTip(
+            tr("Change it with Change the Terms from a Period on, in the menu Mortgage"));
+    }
     ucMtgLog_->Load(Id());
     ucFOB_->SetRecord(core::kMortgage, Id());
     UpdateOptions();
