@@ -1,12 +1,17 @@
 #include "kestrom/Reports.h"
 
+#include <QApplication>
+
 #include "core/Globals.h"
 #include "core/ShippedReports.h"
 #include "platform/dialogs/Dialogs.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportList.h"
 #include "reports/ReportMenus.h"
+#include "reports/ViewerSettings.h"
 #include "reports/screens/RecordReports.h"
+#include "reports/screens/frmPageSetup.h"
+#include "reports/screens/frmReportViewer.h"
 
 namespace kestrom {
 
@@ -24,16 +29,28 @@ void PrintSelected(const shell::screens::Selection& selection) {
     reports::PrintReport(selection.id, index);
 }
 
+/// The paper and the margins that reports are laid out for.
+void SetUpPages() {
+    auto* const form = new reports::screens::frmPageSetup(QApplication::activeWindow());
+    QObject::connect(form, &QDialog::accepted, form,
+                     [form] { reports::SavePageSetup(form->Chosen()); });
+    form->Setup(reports::ReadPageSetup(), reports::screens::OrientationChoice::Free);
+    form->open();
+}
+
 } // namespace
 
 void LoadReports() {
     core::InstallShippedReports(core::ShippedReportsFolder(), core::App().ReportPath);
     reports::LoadReportList();
+    reports::SetReportViewer(reports::screens::RunReport);
     reports::screens::RegisterReportMenus();
 }
 
 void AddReportCommands(shell::screens::Commands& commands) {
     commands.Add(QStringLiteral("mnuPrint"), PrintSelected);
+    commands.Add(QStringLiteral("mnuPrintSetup"),
+                 [](const shell::screens::Selection&) { SetUpPages(); });
 }
 
 } // namespace kestrom

@@ -38,6 +38,7 @@
 #include "records/screens/frmTenant.h"
 #include "records/screens/frmWoItem.h"
 #include "records/screens/frmWorkOrder.h"
+#include "reports/screens/frmReportViewer.h"
 #include "reports/screens/frmReports.h"
 #include "shell/screens/frmAbout.h"
 #include "shell/screens/frmConfig.h"
@@ -153,6 +154,7 @@ shell::screens::Commands MenuCommands() {
     commands.Add(QStringLiteral("mnuConfig"), Opening<shell::screens::frmConfig>());
     commands.Add(QStringLiteral("mnuGlobalConfig"), Opening<shell::screens::frmConfig>());
     commands.Add(QStringLiteral("mnuGeneralReports"), Opening<reports::screens::frmReports>());
+    reports::screens::SetCatalogueOpener(OpenOnce<reports::screens::frmReports>);
     AddReportCommands(commands);
     commands.Add(QStringLiteral("mnuPreferences"), Opening<shell::screens::frmPreferences>());
     commands.Add(QStringLiteral("mnuLeaseWizard"), Opening<leases::screens::frmLeaseWizard>());

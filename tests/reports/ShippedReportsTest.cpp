@@ -237,7 +237,7 @@ TEST_F(Shipped, FirstYearsOfDepreciationFollowTheMonth) {
     }
 }
 
-TEST_F(Shipped, DISABLED_StatementsBalance) {
+TEST_F(Shipped, StatementsBalance) {
     const Date from(2025, 6, 15);
     const Date to(2026, 6, 15);
     std::map<std::int32_t, Currency> flows;
@@ -275,10 +275,13 @@ TEST_F(Shipped, DISABLED_StatementsBalance) {
     const std::vector<Row> charges = Rows("RentLog");
     for (const Row& lease : Rows("Lease")) {
         Currency balance;
+        int rows = 0;
         for (const Row& charge : charges) {
-            if (Id(charge, "IdLease") == Id(lease, "IdLease") && Id(charge, "Class") == 1)
-                balance += Money(charge, "Amount");
+            if (Id(charge, "IdLease") != Id(lease, "IdLease") || Id(charge, "Class") != 1) continue;
+            balance += Money(charge, "Amount");
+            ++rows;
         }
+        if (rows == 0) continue; // a lease that hasn't begun has no ledger
         report.SelectedId = Id(lease, "IdLease");
         EXPECT_EQ(Cents(Total(Run("Lease Ledger.rpt"), "p Total balance of rent and fees = ")),
                   Cents(balance));

@@ -105,7 +105,7 @@ void DataBrowser::Show(ConsoleAnswer answer) {
 
 void DataBrowser::Print() {
     WriteConsoleReport(lastQuery_);
-    RunReport(kScratchReport);
+    reports::RunReport(kScratchReport);
 }
 
 void DataBrowser::Say(const std::string& message, ConsoleColor color, const std::string& reason) {

@@ -211,7 +211,7 @@ bool frmReports::StoreDates(ReportDef& report) {
 
 void frmReports::Run() {
     if (shown_ == 0 || !StoreAnswers()) return;
-    RunReport(shown_);
+    reports::RunReport(shown_);
 }
 
 /// Records come and go while the catalogue is open.
