@@ -43,8 +43,8 @@ void SetUpPages() {
 void LoadReports() {
     core::InstallShippedReports(core::ShippedReportsFolder(), core::App().ReportPath);
     reports::LoadReportList();
-    reports::SetReportViewer(reports::screens::RunReport);
     reports::screens::RegisterReportMenus();
+    reports::SetReportViewer(reports::screens::ViewReport);
 }
 
 void AddReportCommands(shell::screens::Commands& commands) {

@@ -5,7 +5,7 @@
 namespace kestrom {
 
 /// Puts the shipped report files where the program reads them, loads the catalogue, and gives the
-/// record forms their report menus.
+/// record forms their report menus and the program its report viewer.
 void LoadReports();
 
 /// The main window's printing of the selected record.

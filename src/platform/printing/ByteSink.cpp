@@ -22,7 +22,7 @@ namespace {
                 ".");
 }
 
-/// What a new file may be read and written by, as the user's mask has it.
+/// The permissions of a new file under the user's mask.
 mode_t UsualMode() {
     const mode_t mask = umask(0);
     umask(mask);

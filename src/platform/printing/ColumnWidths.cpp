@@ -7,7 +7,7 @@ namespace platform {
 
 namespace {
 
-/// What a column without a width gets where nothing is left.
+/// The width of a column without one where nothing is left.
 constexpr double kLeastShare = kTwipsPerInch / 2.0;
 /// Columns that are too wide by less than this have lost it to rounding: the text stays as it is.
 constexpr double kRoundingScale = 0.97;

@@ -9,7 +9,7 @@ namespace platform {
 
 struct FittedColumns {
     std::vector<Twips> widths;
-    /// What the text is to be scaled by where the columns had to be made narrower, else 1.
+    /// The factor for the text's size: below 1 where the columns had to be made narrower.
     double textScale = 1;
 };
 

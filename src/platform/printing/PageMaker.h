@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// What a line of text is drawn with.
+/// The font and colour of a line of text.
 struct TextInk {
     TextMeasure measure;
     PrintColor color = kBlack;

@@ -10,7 +10,7 @@
 
 namespace platform {
 
-/// What a page holds, in the order it is drawn.
+/// A text, line or box of a page, in the order they are drawn.
 struct PageItem {
     enum class Kind : std::uint8_t { Text, Line, Box };
 

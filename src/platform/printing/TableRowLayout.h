@@ -14,7 +14,7 @@ namespace platform {
 enum class RowKind : std::uint8_t { Header, Body };
 
 /// One row of a table, broken into lines and ready to be drawn. It is made once a table and filled
-/// anew for each row.
+/// again for each row.
 class TableRowLayout {
   public:
     TableRowLayout(FontMetrics& metrics, const PrintStyle& style, const PrintTable& table,

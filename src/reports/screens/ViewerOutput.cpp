@@ -90,7 +90,7 @@ void frmReportViewer::Export(ExportFormat format) {
         TellExported(format, *path);
         SaveLastSaveDir(platform::PathOf(*path));
     }
-    // Something else may have been asked for meanwhile.
+    // Something else may have been asked for in the meantime.
     if (nextRun_) RunReport(*nextRun_);
     if (closesAfter_) close();
 }

@@ -39,7 +39,7 @@ frmReportViewer::~frmReportViewer() = default;
 
 void frmReportViewer::RunReport(int index) {
     if (work_ != Work::None) {
-        // What is under way comes to its end first.
+        // The work under way ends first.
         nextRun_ = index;
         isCancelled_ = true;
         return;
@@ -99,7 +99,7 @@ void frmReportViewer::StoreChosenDates() {
     if (inRun_ || report == nullptr) return;
     const auto start = ui_->dpStartDate->Day();
     const auto end = ui_->dpEndDate->Day();
-    // A text that is no day stays marked until it is one.
+    // A text that is not a date stays marked.
     if (!start || !end || !start->IsSet() || !end->IsSet()) return;
     const auto shown = [](const QWidget* box) { return box->property("shown").toString(); };
     if (ui_->dpStartDate->text() == shown(ui_->dpStartDate) &&
@@ -121,7 +121,7 @@ QPointer<frmReportViewer>& OpenViewer() {
 
 } // namespace
 
-void RunReport(int index) {
+void ViewReport(int index) {
     core::forms::Guarded([index] {
         if (!OpenViewer()) OpenViewer() = new frmReportViewer;
         OpenViewer()->RunReport(index);

@@ -111,7 +111,7 @@ class frmReportViewer : public core::forms::Form {
 };
 
 /// Runs a report in the viewer, which is opened if it isn't.
-void RunReport(int index);
+void ViewReport(int index);
 
 /// How the viewer opens the catalogue screen; without it the command is disabled.
 void SetCatalogueOpener(std::function<void()> opener);

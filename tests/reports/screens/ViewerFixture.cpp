@@ -37,7 +37,7 @@ frmReportViewer& ViewerTest::Viewer() const {
 }
 
 frmReportViewer& ViewerTest::View(int index) {
-    reports::screens::RunReport(index);
+    reports::screens::ViewReport(index);
     support::SettleEvents();
     return Viewer();
 }

@@ -334,7 +334,7 @@ TEST_F(ViewerTest, ClosesOnlyAfterItsOwnWork) {
     core::SetMessagePump([&] {
         if (!std::exchange(closed, true)) Viewer().close();
     });
-    reports::screens::RunReport(index);
+    reports::screens::ViewReport(index);
     core::SetMessagePump({});
     support::SettleEvents();
     ASSERT_TRUE(closed);
@@ -347,7 +347,7 @@ TEST_F(ViewerTest, GivesUpARunForTheNextOne) {
     const int found = reports::FindReportNamed("Other");
     bool asked = false;
     core::SetMessagePump([&] {
-        if (!std::exchange(asked, true)) reports::screens::RunReport(found);
+        if (!std::exchange(asked, true)) reports::screens::ViewReport(found);
     });
     frmReportViewer& viewer = View(index);
     ASSERT_TRUE(asked);

@@ -52,7 +52,7 @@ class FontBook : public FontMetrics {
     /// The glyphs of a clean text without line ends.
     std::vector<GlyphRun> Shape(FaceId face, std::string_view text) const;
 
-    /// The same for drawing, quicker where ShapePlain does: the widths are those of the font.
+    /// The same for drawing, quicker where ShapePlain does: with the font's own widths.
     std::vector<GlyphRun> Glyphs(FaceId face, std::string_view text) const;
 
     /// The fast road for texts of one font without marks and joins: adds the glyphs to `glyphs` and

@@ -21,8 +21,8 @@ FaceSource SourceOf(std::string_view family, Weight weight, Slant slant);
 /// The files that characters come from which a family's own file lacks, best first.
 std::vector<std::string_view> FallbackFiles(Weight weight);
 
-/// Where a font file of this name is; empty if it isn't installed. The folders of the system's
-/// fonts, those of the user and `fonts` beside the program are searched.
+/// Returns the path of a font file of this name, empty if it isn't installed. Searches the system's
+/// and the user's font folders, and `fonts` beside the program.
 std::filesystem::path FindFontFile(std::string_view name);
 
 } // namespace platform

@@ -49,7 +49,7 @@ class PdfContent {
     std::string out_;
     std::vector<GlyphId> glyphs_;
 
-    // What the page's operators have set so far.
+    // The state that the page's operators have set so far.
     Twips pageHeight_ = 0;
     bool inText_ = false;
     Twips textX_ = 0;

@@ -20,7 +20,7 @@ struct PrintQuestion {
     int currentPage = 0; ///< from 0
 };
 
-/// What is to be printed where; pages count from 0, both ends belong to the range.
+/// A printer and a range of pages; pages count from 0, both ends belong to the range.
 struct PrintOrder {
     std::unique_ptr<QPrinter> printer;
     int first = 0;

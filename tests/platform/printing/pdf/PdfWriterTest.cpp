@@ -19,7 +19,7 @@ using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-/// What a command prints, its messages included; "failed" is added where it fails.
+/// The output of a command, its messages included; "failed" is added where it fails.
 std::string OutputOf(const std::string& command) {
     std::FILE* pipe = popen((command + " 2>&1").c_str(), "r");
     std::string out;
