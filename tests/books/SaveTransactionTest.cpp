@@ -69,7 +69,7 @@ TEST_F(SaveTransaction, WritesOnlyWhatWasChanged) {
     EXPECT_EQ(Rows("SELECT CreditId, CreditDesc FROM Transactions"), "61|NULL;");
 }
 
-TEST_F(SaveTransaction, DISABLED_RefreshesTheListsOfTripsAndEvents) {
+TEST_F(SaveTransaction, RefreshesTheListsOfTripsAndEvents) {
     AddTriggered(101, 1, 60, "Rent Payment");
     std::string refreshed;
     const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t) {

@@ -98,7 +98,7 @@ TEST_F(Crash, ASplitIsNeverHalf) {
                 8);
 }
 
-TEST_F(Crash, DISABLED_AChargesSaveOrRemovalIsNeverHalf) {
+TEST_F(Crash, AChargesSaveOrRemovalIsNeverHalf) {
     ExpectWhole(CrashAtEveryStatement([] {
                     platform::Recordset row;
                     row.Open(core::App().Connection, "RentLog", platform::CursorMode::AppendOnly);

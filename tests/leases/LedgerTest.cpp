@@ -128,7 +128,7 @@ TEST_F(LedgerTest, ADepositIsOfferedForRefundOnce) {
     EXPECT_EQ(Ask("SELECT DepositBalance FROM Lease WHERE IdLease = 199"), "-300");
 }
 
-TEST_F(LedgerTest, DISABLED_AChargeIsSavedInWholeCentsAndTheBalancesFollow) {
+TEST_F(LedgerTest, AChargeIsSavedInWholeCentsAndTheBalancesFollow) {
     for (const auto& [entered, kept] : {std::pair<std::int64_t, const char*>{100'000, "10"},
                                         {100'050, "10.01"},
                                         {0, "0"},

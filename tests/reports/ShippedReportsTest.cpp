@@ -154,7 +154,7 @@ TEST_F(Shipped, IncomeAndExpenseAreTheYearsTransactions) {
     EXPECT_EQ(Cents(Amount(cash, "Year", 1)), Cents(income));
 }
 
-TEST_F(Shipped, DISABLED_ScheduleEAgreesWithTheLedgersAndTheSchedules) {
+TEST_F(Shipped, ScheduleEAgreesWithTheLedgersAndTheSchedules) {
     std::set<std::int32_t> of2025;
     Currency rents;
     Currency repairs;

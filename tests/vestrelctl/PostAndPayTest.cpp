@@ -119,7 +119,7 @@ TEST_F(PostAndPay, AreDoneByEventsBeforeTheLeasesAreCharged) {
     EXPECT_EQ(outcome.errors, "vestrelctl: 1 record could not be brought up to date\n");
 }
 
-TEST_F(PostAndPay, DISABLED_RefuseWhatMakesNoSense) {
+TEST_F(PostAndPay, RefuseWhatMakesNoSense) {
     Run("--today 01/02/2024 " + OnBooks() + "update");
     const std::string post = "post --debit account:105 --credit ";
     const std::string rest = " --amount 1 --category Repairs";
@@ -170,7 +170,7 @@ TEST_F(PostAndPay, DISABLED_RefuseWhatMakesNoSense) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog"), "1\n");
 }
 
-TEST_F(PostAndPay, DISABLED_AskForThePartiesThatALeaseDoesNotName) {
+TEST_F(PostAndPay, AskForThePartiesThatALeaseDoesNotName) {
     Run("--today 01/02/2024 " + OnBooks() + "update");
     Run(OnBooks() + "sql 'UPDATE Lease SET RentAccount = 0, IdTenant = 0'");
     const std::string pay = "--today 01/02/2024 " + OnBooks() + "pay 101 ";

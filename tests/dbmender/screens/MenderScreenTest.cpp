@@ -133,7 +133,7 @@ TEST_F(MenderScreen, CanBeStoppedWhileItMakesTheSample) {
     EXPECT_FALSE(window_->isVisible());
 }
 
-TEST_F(MenderScreen, DISABLED_LooksAndReadsRight) {
+TEST_F(MenderScreen, LooksAndReadsRight) {
     store::CreateDatabase(PathTo("mine"));
     std::filesystem::remove(PathTo("mine/Version"));
     core::SetRegString(core::kDatabasesKey, "Default", PathTo("mine"));

@@ -136,7 +136,7 @@ TEST_F(MortgageScreen, TermsThatCannotBeReckonedAreToldBesideTheSchedule) {
     EXPECT_EQ(ScheduleRows(*form), 1200);
 }
 
-TEST_F(MortgageScreen, DISABLED_ShowsTheScheduleAndItsYears) {
+TEST_F(MortgageScreen, ShowsTheScheduleAndItsYears) {
     const auto form = Open();
     EXPECT_EQ(Captions(*form), "No.;Due;Rate;Pmt;Xtra Pri;Balance;");
     Find<QCheckBox>(*form, "chkViewDetail").setChecked(true);
@@ -313,7 +313,7 @@ TEST_F(MortgageScreen, TakesALendersRateAndBalanceOver) {
     EXPECT_NE(Loan("xPri").find("19396.69"), std::string::npos) << Loan("xPri").substr(0, 60);
 }
 
-TEST_F(MortgageScreen, DISABLED_TheWorstCaseIsOnlyShown) {
+TEST_F(MortgageScreen, TheWorstCaseIsOnlyShown) {
     Run("UPDATE Mortgage SET ARM = True, ARMLockedPer = 12, ARMAdjPer = 12, ARMPerCap = 0.02, "
         "ARMLifeCap = 0.06");
     const auto form = Open();
