@@ -16,13 +16,11 @@ std::string_view ChargeCaption(RentClass rentClass);
 /// The categories that the screen offers. The last one is what a new charge starts with.
 std::vector<std::string> ChargeCategories(RentClass rentClass);
 
-/// Writes a row of the ledger as it was entered, also one of zero, with its amount in whole cents,
-/// and the lease's balances with it. One unit of work. Throws ConflictError if the row was paid, or
-/// its payment changed, since `entry` was read.
-void SaveCharge(platform::Recordset& row, const RentLogEntry& entry);
-/// The same for a row that the screen has filled in itself.
-void SaveCharge(platform::Recordset& row);
-/// An amount in whole cents, halves to even.
+/// Saves a row of the ledger as the screen has filled it in, and the lease's balances with it, in
+/// one unit of work. Throws ConflictError if the row isn't settled by `idTransactionRead` any more
+/// (0: open), as it was when the screen read it.
+void SaveCharge(platform::Recordset& row, std::int32_t idTransactionRead);
+/// An amount in whole cents, halves away from zero.
 platform::Currency InCents(platform::Currency amount);
 
 } // namespace leases

@@ -104,11 +104,13 @@ TEST_F(Crash, AChargesSaveOrRemovalIsNeverHalf) {
                     row.Open(core::App().Connection, "RentLog", platform::CursorMode::AppendOnly);
                     row.AddNew();
                     row["IdRentLog"].Set(std::int32_t{900});
-                    leases::SaveCharge(row, {.idLease = kLeaseId,
-                                             .datePosted = Date(2024, 2, 1),
-                                             .amount = platform::Currency::FromUnits(7)});
+                    row["IdLease"].Set(kLeaseId);
+                    row["Amount"].Set(platform::Currency::FromUnits(7));
+                    row["Class"].Set(std::int16_t{0});
+                    row["Flags"].Set(std::int16_t{0});
+                    leases::SaveCharge(row, 0);
                 }),
-                4);
+                3);
     for (const std::size_t count : {1U, 3U}) {
         ExpectWhole(CrashAtEveryStatement([count] {
                         const support::ScriptedDialogs person({true});

@@ -79,7 +79,7 @@ void frmRentLog::WriteRow(platform::Recordset& row) {
         row["Class"].Set(static_cast<std::int16_t>(entry_.rentClass));
         row["Flags"].Set(static_cast<std::int16_t>(entry_.flags));
     }
-    SaveCharge(row);
+    SaveCharge(row, entry_.idTransaction);
 }
 
 /// A stored row without a date may stay so; none is made.
