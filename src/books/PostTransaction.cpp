@@ -31,12 +31,11 @@ std::int32_t PostTransaction(const Transaction& transaction, Triggers triggers) 
     const std::int32_t id = core::NextId();
     AddTransactionRow(rows, id);
     WriteAllFields(rows, transaction);
-    const bool triggered = triggers == Triggers::Fire && RunTriggeredEvents(transaction);
+    if (triggers == Triggers::Fire) RunTriggeredEvents(transaction);
     rows.Update();
     TellTransactionListeners(id, transaction);
-    unit.Commit();
     TellLists({core::kTransaction});
-    if (triggered) TellLists({core::kAutoEvent});
+    unit.Commit();
     return id;
 }
 

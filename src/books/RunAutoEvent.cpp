@@ -67,9 +67,8 @@ void RunAutoEvent(std::int32_t idAutoEvent, Date date) {
     // By number, not by row: events of one number (an import can bring them) move on together.
     core::App().Connection.Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
                                    {date.ToText(), idAutoEvent});
-    unit.Commit();
-    if (posts) TellLists({core::kTransaction});
     TellLists({core::kAutoEvent});
+    unit.Commit();
 }
 
 } // namespace books

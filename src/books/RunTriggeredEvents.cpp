@@ -45,24 +45,20 @@ std::vector<Waiting> EventsOf(const Party& party, std::string_view taxCategory) 
 
 } // namespace
 
-bool RunTriggeredEvents(const Party& party, std::string_view taxCategory) {
-    bool ran = false;
+void RunTriggeredEvents(const Party& party, std::string_view taxCategory) {
     for (const Waiting& event : EventsOf(party, Trim(taxCategory))) {
         try {
             RunAutoEvent(event.id, platform::Date());
-            ran = true;
         } catch (const platform::Error& error) {
             core::AddAlert(
                 fmt::format("Auto Event Failed: {}: {}", event.description, error.what()));
         }
     }
-    return ran;
 }
 
-bool RunTriggeredEvents(const Transaction& transaction) {
-    const bool ofDebit = RunTriggeredEvents(transaction.debit, transaction.taxCategory);
-    const bool ofCredit = RunTriggeredEvents(transaction.credit, transaction.taxCategory);
-    return ofDebit || ofCredit;
+void RunTriggeredEvents(const Transaction& transaction) {
+    RunTriggeredEvents(transaction.debit, transaction.taxCategory);
+    RunTriggeredEvents(transaction.credit, transaction.taxCategory);
 }
 
 } // namespace books

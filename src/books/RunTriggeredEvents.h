@@ -8,10 +8,10 @@ namespace books {
 
 /// Runs the enabled events that wait for a transaction with this party and category, in the order
 /// of the table, each dated today and each whole or not at all. An event that fails is rolled back
-/// and reported on the home page; the others run. Returns true if one ran.
-bool RunTriggeredEvents(const Party& party, std::string_view taxCategory);
+/// and reported on the home page; the others run.
+void RunTriggeredEvents(const Party& party, std::string_view taxCategory);
 
 /// Runs the events of a new transaction: of its debit side, then of its credit side.
-bool RunTriggeredEvents(const Transaction& transaction);
+void RunTriggeredEvents(const Transaction& transaction);
 
 } // namespace books

@@ -89,8 +89,8 @@ void EditTransaction(std::int32_t id, const Transaction& entered, const Transact
     if (newTrip != oldTrip) rows["IdMileage"].Set(newTrip);
     rows.Update();
     TellTransactionListeners(id, saved);
-    unit.Commit();
     if (removed || trip == Trip::Keep) TellLists({core::kMileage});
+    unit.Commit();
 }
 
 } // namespace books

@@ -82,14 +82,15 @@ TEST_F(SaveTransaction, RefreshesTheListsOfTripsAndEvents) {
         work();
         return refreshed;
     };
-    EXPECT_EQ(refreshedBy([] { books::AddTransaction(Payment(), Trip::Keep); }), "12 19 ");
+    EXPECT_EQ(refreshedBy([] { books::AddTransaction(Payment(), Trip::Keep); }), "10 19 12 ")
+        << "the event posts a transaction";
     EXPECT_EQ(refreshedBy([] { books::EditTransaction(1000, Payment(), Payment(), Trip::Keep); }),
               "12 ");
     EXPECT_EQ(refreshedBy([] { books::EditTransaction(1000, Payment(), Payment(), Trip::None); }),
               "12 ");
     EXPECT_EQ(refreshedBy([] { books::EditTransaction(1000, Payment(), Payment(), Trip::None); }),
               "");
-    EXPECT_EQ(refreshedBy([] { books::PostTransaction(Payment()); }), "10 19 ");
+    EXPECT_EQ(refreshedBy([] { books::PostTransaction(Payment()); }), "19 10 ");
 }
 
 TEST(DoubtAboutATransaction, IsASideWithoutANameOrTwiceTheSameParty) {

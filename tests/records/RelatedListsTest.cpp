@@ -117,9 +117,10 @@ TEST_F(RelatedListsTest, SingleListsAreThoseOfTenantsWorkOrdersAndAppliances) {
     EXPECT_EQ(records::SingleList(core::kBuilding), nullptr);
 }
 
-TEST_F(RelatedListsTest, AListThatCantBeReadIsNotOpen) {
+TEST_F(RelatedListsTest, AListThatCantBeReadThrows) {
     core::App().Connection.Close();
-    EXPECT_FALSE(records::OpenRelated(Tab(core::kUnit, "Rooms"), {core::kUnit, 20}).IsOpen());
+    EXPECT_THROW(records::OpenRelated(Tab(core::kUnit, "Rooms"), {core::kUnit, 20}),
+                 platform::DatabaseError);
 }
 
 TEST_F(RelatedListsTest, ARecordOpensWithItsOwnerAsParent) {

@@ -157,12 +157,13 @@ TEST_F(MortgageScreen, ShowsTheScheduleAndItsYears) {
     EXPECT_EQ(balance->at(0).y(), 120'000);
     EXPECT_NEAR(balance->at(1).y(), 118'652.6, 0.1); // the twelfth period's first balance
 
+    GoTo(*form, "tabAmortization");
     auto& view = Find<QChartView>(*form, "chtYears");
     const QPointF place = view.chart()->mapToPosition({1, 1000}, view.chart()->series().front());
     const QPoint under = view.mapFromScene(view.chart()->mapToScene(place));
     QHelpEvent hover(QEvent::ToolTip, under, view.viewport()->mapToGlobal(under));
     QApplication::sendEvent(view.viewport(), &hover);
-    EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Year 2\nBalance: 118,652.6")))
+    EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Year 2\nBalance: 118,652.58")))
         << QToolTip::text().toStdString();
 
     Choose(*form, "cboChartType", "Bars");
