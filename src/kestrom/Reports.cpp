@@ -2,8 +2,6 @@
 
 #include <QApplication>
 
-#include "core/Globals.h"
-#include "core/ShippedReports.h"
 #include "platform/dialogs/Dialogs.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportList.h"
@@ -41,7 +39,6 @@ void SetUpPages() {
 } // namespace
 
 void LoadReports() {
-    core::InstallShippedReports(core::ShippedReportsFolder(), core::App().ReportPath);
     reports::LoadReportList();
     reports::screens::RegisterReportMenus();
     reports::SetReportViewer(reports::screens::ViewReport);

@@ -7,6 +7,7 @@
 
 #include "core/FindDatabase.h"
 #include "core/Globals.h"
+#include "core/ShippedFiles.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
@@ -50,6 +51,12 @@ void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEn
             },
         .endProcess = [] { throw ProcessEnd{0}; },
     });
+}
+
+void InstallFiles() {
+    const core::Globals& app = core::App();
+    core::InstallShippedFiles(core::ShippedFolder("Reports"), app.ReportPath);
+    core::InstallShippedFiles(core::ShippedFolder("Templates"), app.AppPath + "Templates");
 }
 
 void LetSplashBeSeen() {

@@ -16,6 +16,10 @@ struct ProcessEnd {
 /// and throws ProcessEnd.
 void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEnding);
 
+/// Puts the report files and letter templates that come with the program where the user may change
+/// them.
+void InstallFiles();
+
 /// Lets window messages run for as long as the splash must be visible.
 void LetSplashBeSeen();
 

@@ -94,6 +94,7 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
     shell::RunDigest digest;
     shell::screens::RunBooks(digest);
     core::CleanTmpFiles();
+    kestrom::InstallFiles();
     kestrom::LoadReports();
     if (endAsked) {
         core::CloseDatabase(core::App().Connection);

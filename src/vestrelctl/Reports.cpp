@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/Globals.h"
-#include "core/ShippedReports.h"
+#include "core/ShippedFiles.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Csv.h"
 #include "reports/ReportList.h"
@@ -45,7 +45,7 @@ void UseReportsFolder(const std::string& folder) {
 void LoadCatalogue() {
     const core::Globals& app = core::App();
     if (app.ReportPath == platform::AddBackslash(app.AppPath + "Reports"))
-        core::InstallShippedReports(core::ShippedReportsFolder(), app.ReportPath);
+        core::InstallShippedFiles(core::ShippedFolder("Reports"), app.ReportPath);
     reports::LoadReportList();
 }
 

@@ -2,7 +2,7 @@
 #include <fstream>
 
 #include "core/CoreFixture.h"
-#include "core/ShippedReports.h"
+#include "core/ShippedFiles.h"
 #include "platform/system/Paths.h"
 
 namespace tests {
@@ -11,12 +11,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class ShippedReports : public CoreProcess {
+class ShippedFiles : public CoreProcess {
   protected:
-    ShippedReports() { fs::create_directory(PathTo("ours")); }
+    ShippedFiles() { fs::create_directory(PathTo("ours")); }
 
     void Ship(const std::string& name, const std::string& text) { MakeFile("ours/" + name, text); }
-    void Start() { core::InstallShippedReports(PathTo("ours"), PathTo("Reports")); }
+    void Start() { core::InstallShippedFiles(PathTo("ours"), PathTo("Reports")); }
     /// The text of a file in the reports folder, "-" without one.
     std::string Text(const std::string& name) {
         const fs::path file = PathTo("Reports/" + name);
@@ -24,7 +24,7 @@ class ShippedReports : public CoreProcess {
     }
 };
 
-TEST_F(ShippedReports, AreRenewedUnlessTheUserChangedThem) {
+TEST_F(ShippedFiles, AreRenewedUnlessTheUserChangedThem) {
     for (const char* name : {"kept.rpt", "changed.rpt", "deleted.rpt"})
         Ship(name, "one");
     Start();
@@ -49,16 +49,47 @@ TEST_F(ShippedReports, AreRenewedUnlessTheUserChangedThem) {
     EXPECT_EQ(Text("changed.rpt.new"), "-") << "it is offered once";
 }
 
-TEST_F(ShippedReports, LeaveAUsersFileOfTheSameNameAlone) {
+TEST_F(ShippedFiles, LeaveAUsersFileOfTheSameNameAlone) {
     fs::create_directory(PathTo("Reports"));
     MakeFile("Reports/roll.rpt", "mine");
     Ship("roll.rpt", "ours");
     Start();
     EXPECT_EQ(Text("roll.rpt"), "mine");
     EXPECT_EQ(Text("roll.rpt.new"), "ours");
-    core::InstallShippedReports({}, PathTo("Reports"));
-    core::InstallShippedReports(PathTo("nowhere"), PathTo("Reports"));
+    core::InstallShippedFiles({}, PathTo("Reports"));
+    core::InstallShippedFiles(PathTo("nowhere"), PathTo("Reports"));
     EXPECT_EQ(Text("roll.rpt"), "mine");
+}
+
+TEST_F(ShippedFiles, KeepANeighbourThatTheUserChanged) {
+    Ship("roll.rpt", "one");
+    Start();
+    MakeFile("Reports/roll.rpt", "mine");
+    Ship("roll.rpt", "two");
+    Start();
+    Ship("roll.rpt", "three");
+    Start();
+    EXPECT_EQ(Text("roll.rpt.new"), "three") << "the neighbour was ours";
+    MakeFile("Reports/roll.rpt.new", "mine too");
+    Ship("roll.rpt", "four");
+    Start();
+    EXPECT_EQ(Text("roll.rpt"), "mine");
+    EXPECT_EQ(Text("roll.rpt.new"), "mine too");
+    EXPECT_EQ(Text("roll.rpt.new.new"), "four");
+}
+
+TEST_F(ShippedFiles, AreInstalledBesideOneThatCannotBe) {
+    fs::create_directories(PathTo("Reports/b.rpt"));
+    for (const char* name : {"a.rpt", "b.rpt", "c.rpt"})
+        Ship(name, "one");
+    Start();
+    EXPECT_EQ(Text("a.rpt"), "one");
+    EXPECT_EQ(Text("c.rpt"), "one");
+    fs::remove(PathTo("Reports/a.rpt"));
+    fs::remove(PathTo("Reports/b.rpt"));
+    Start();
+    EXPECT_EQ(Text("a.rpt"), "-") << "deleted by the user";
+    EXPECT_EQ(Text("b.rpt"), "one") << "tried again";
 }
 
 } // namespace
