@@ -16,6 +16,7 @@
 #include "platform/dialogs/Desktop.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/system/Paths.h"
+#include "platform/values/Errors.h"
 
 namespace documents {
 
@@ -85,7 +86,36 @@ void ShowMissing(const std::string& path) {
         platform::Icon::Exclamation);
 }
 
+void ShowUnopened(const std::string& place) {
+    platform::TheDialogs().ShowMessage("Document Error",
+                                       "No program opens this kind of file. " + place,
+                                       platform::Icon::Information);
+}
+
+/// The template, if there is one and its file exists; a missing file is reported.
+std::optional<DocTemplate> FindUsableTemplate(std::int32_t idDoc) {
+    std::optional<DocTemplate> letter = FindDocTemplate(idDoc);
+    if (letter && !platform::FileExists(letter->filePath)) {
+        ShowMissing(letter->filePath);
+        return std::nullopt;
+    }
+    return letter;
+}
+
+bool AgreedToMany(const DocTemplate& letter, std::size_t count) {
+    return platform::TheDialogs().AskYesNo(
+        "Confirm Letters",
+        fmt::format("{0} records are selected. Make {0} letters from the template \"{1}\" and "
+                    "open each of them?",
+                    count, letter.description),
+        platform::Icon::Question);
+}
+
 } // namespace
+
+std::int16_t DocKindOf(std::int16_t kind) {
+    return kind == core::kUnit ? core::kUnitWithBuilding : kind;
+}
 
 std::vector<DocTemplate> DocTemplatesOf(std::int16_t kind) {
     const auto* const found = std::ranges::find(kTests, kind, &KindTest::kind);
@@ -137,21 +167,37 @@ MergedDocument MergeDocument(const DocTemplate& letter, std::int16_t kind, std::
 }
 
 bool OpenDoc(std::int16_t kind, std::int32_t id, std::int32_t idDoc) {
-    const std::optional<DocTemplate> letter = FindDocTemplate(idDoc);
+    const std::optional<DocTemplate> letter = FindUsableTemplate(idDoc);
     if (!letter) return false;
-    if (!platform::FileExists(letter->filePath)) {
-        ShowMissing(letter->filePath);
-        return false;
-    }
     const MergedDocument document = MergeDocument(*letter, kind, id);
-    if (!platform::TheDesktop().OpenDocument(document.file.string())) {
-        platform::TheDialogs().ShowMessage(
-            "Document Error",
-            "No program opens this kind of file. The document was saved as\n" +
-                document.file.string(),
-            platform::Icon::Information);
-    }
+    if (!platform::TheDesktop().OpenDocument(document.file.string()))
+        ShowUnopened("The document was saved as\n" + document.file.string());
     return true;
+}
+
+int OpenDocs(std::int16_t kind, std::span<const std::int32_t> ids, std::int32_t idDoc) {
+    const std::optional<DocTemplate> letter = FindUsableTemplate(idDoc);
+    if (!letter || ids.empty()) return 0;
+    if (ids.size() > 1 && !AgreedToMany(*letter, ids.size())) return 0;
+    int made = 0;
+    bool opened = true;
+    MergedDocument document;
+    try {
+        for (const std::int32_t id : ids) {
+            document = MergeDocument(*letter, kind, id);
+            ++made;
+            // Without a program for one there is none for the others of its type.
+            opened = opened && platform::TheDesktop().OpenDocument(document.file.string());
+        }
+    } catch (const platform::Error& failure) {
+        throw platform::Error(
+            fmt::format("{} of {} letters were made.\n{}", made, ids.size(), failure.what()));
+    }
+    if (!opened)
+        ShowUnopened(fmt::format("{}\n{}",
+                                 made == 1 ? "The document is in" : "The documents are in",
+                                 document.file.parent_path().string()));
+    return made;
 }
 
 } // namespace documents

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,10 @@ struct DocTemplate {
 /// Returns the templates that apply to a kind of record, by description; none for a kind without
 /// letters. A building offers those of its units too. Throws on failure.
 std::vector<DocTemplate> DocTemplatesOf(std::int16_t kind);
+
+/// Returns the kind whose letters the forms and lists of a kind offer: a unit's come with those of
+/// its building, any other kind has its own.
+std::int16_t DocKindOf(std::int16_t kind);
 
 /// Returns the template of this id; nullopt if there is none.
 std::optional<DocTemplate> FindDocTemplate(std::int32_t idDoc);
@@ -41,5 +46,10 @@ MergedDocument MergeDocument(const DocTemplate& letter, std::int16_t kind, std::
 /// A template whose file is missing is reported in a message; false then, and if there is no such
 /// template.
 bool OpenDoc(std::int16_t kind, std::int32_t id, std::int32_t idDoc);
+
+/// Does the same for several records, a letter each, after a question that names their number.
+/// Returns how many letters were made: 0 if the user declined. Throws platform::Error with that
+/// number if a letter fails; those made before it stay.
+int OpenDocs(std::int16_t kind, std::span<const std::int32_t> ids, std::int32_t idDoc);
 
 } // namespace documents

@@ -11,11 +11,12 @@
 #include "core/RecordKinds.h"
 #include "core/forms/OpenForms.h"
 #include "core/forms/frmHelp.h"
-#include "documents/ShowPictures.h"
+#include "documents/screens/DocMenus.h"
 #include "documents/screens/frmDocMgmt.h"
 #include "exchange/screens/frmCheck.h"
 #include "exchange/screens/frmFinExport.h"
 #include "exchange/screens/frmPort.h"
+#include "kestrom/Documents.h"
 #include "kestrom/Reports.h"
 #include "leases/screens/frmLease.h"
 #include "leases/screens/frmLeaseWizard.h"
@@ -147,6 +148,7 @@ void RegisterEditors() {
     });
     core::RegisterOpener(core::kBuilding, records::screens::OpenBuilding);
     core::RegisterOpener(core::kUnit, records::screens::OpenBuilding);
+    documents::screens::RegisterDocMenus(OpenOnce<documents::screens::frmDocMgmt>);
 }
 
 shell::screens::Commands MenuCommands() {
@@ -174,11 +176,7 @@ shell::screens::Commands MenuCommands() {
     commands.Add(QStringLiteral("mnuCheck"), Opening<exchange::screens::frmCheck>());
     commands.Add(QStringLiteral("mnuAutoEvents"), Opening<books::screens::frmAutoEventList>());
     commands.Add(QStringLiteral("mnuTransCategory"), Opening<books::screens::frmTransCategory>());
-    commands.Add(QStringLiteral("mnuPhotoReel"), [](const shell::screens::Selection& selection) {
-        // A unit's slide show includes the pictures of its building.
-        const bool isUnit = selection.kind == core::kUnit;
-        documents::ShowPictures(isUnit ? core::kUnitWithBuilding : selection.kind, selection.id);
-    });
+    AddDocumentCommands(commands);
     for (const char* const item : {"mnuDocMgmt", "mnuPrintDocMgmt"})
         commands.Add(QString::fromLatin1(item), Opening<documents::screens::frmDocMgmt>());
     commands.Add(QStringLiteral("mnuHelpAbout"), Opening<shell::screens::frmAbout>());

@@ -32,7 +32,7 @@ Availability EnableEditButtons(const WindowState& state) {
             .edit = FirstOf(record, editor),
             .record = record,
             .change = FirstOf(record, readOnly),
-            .copyRows = FirstOf(list, rows)};
+            .rows = FirstOf(list, rows)};
 }
 
 ExtraItems ExtraItemsOf(std::int16_t kind) {

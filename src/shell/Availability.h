@@ -27,8 +27,8 @@ struct Availability {
     std::string_view record;
     /// For commands that need one record and change the books: delete, pay.
     std::string_view change;
-    /// For copying the selected rows.
-    std::string_view copyRows;
+    /// For commands that take one selected record or several: copying rows, letters.
+    std::string_view rows;
 };
 
 /// Returns which commands are available. The home page has no records, so none of them; a list can

@@ -4,6 +4,7 @@
 #include "core/DailyRun.h"
 #include "core/Globals.h"
 #include "core/Session.h"
+#include "documents/ShippedDocs.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 #include "shell/SampleBorrower.h"
@@ -79,6 +80,8 @@ void MakeSamplePortfolio(const std::filesystem::path& folder, int units, Date to
             store::WriteSampleRecords(OpenSession::Session(), {units, today, core::NextId});
         core::LoadConfiguration();
         LiveThrough(cast, today, progress);
+        // Last, so that the other rows have the same ids with and without templates.
+        documents::AddShippedDocs(core::App().AppPath + "Templates");
     }
     database.Publish();
 }

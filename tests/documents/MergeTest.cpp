@@ -14,6 +14,7 @@
 #include "documents/mDocManagement.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
+#include "support/KeepingDesktop.h"
 #include "support/ScriptedDialogs.h"
 
 namespace {
@@ -155,6 +156,44 @@ TEST_F(Letters, OfAMissingFileAreReported) {
                   "Press OK to continue.",
               dialogs.Heard()[0].text);
     EXPECT_FALSE(documents::OpenDoc(core::kTenant, 30, 0));
+}
+
+TEST_F(Letters, OfSeveralRecordsAreMadeAfterAQuestion) {
+    const auto letter = Template("note.txt", "Dear <<LastName>>");
+    const std::vector<std::int32_t> tenants = {30, 31};
+    {
+        const support::ScriptedDialogs dialogs({false, true});
+        const support::KeepingDesktop desktop;
+        EXPECT_EQ(0, documents::OpenDocs(core::kTenant, tenants, letter.id)) << "declined";
+        EXPECT_FALSE(std::filesystem::exists(PathTo("tmp_1.txt")));
+        EXPECT_EQ(2, documents::OpenDocs(core::kTenant, tenants, letter.id));
+        ASSERT_EQ(2U, dialogs.Heard().size());
+        EXPECT_EQ(
+            "2 records are selected. Make 2 letters from the template \"note\" and open each of "
+            "them?",
+            dialogs.Heard()[0].text);
+        EXPECT_EQ((std::vector{PathTo("tmp_1.txt"), PathTo("tmp_2.txt")}), desktop.Opened());
+        EXPECT_EQ("Dear O'Brien", platform::ReadWholeFile(PathTo("tmp_2.txt")));
+        EXPECT_EQ(0, documents::OpenDocs(core::kTenant, {}, letter.id));
+        EXPECT_EQ(1, documents::OpenDocs(core::kTenant, std::span(tenants).first(1), letter.id));
+        EXPECT_EQ(2U, dialogs.Heard().size()) << "one record takes no question";
+    }
+    const support::ScriptedDialogs dialogs({true, true});
+    const support::KeepingDesktop desktop(false);
+    EXPECT_EQ(2, documents::OpenDocs(core::kTenant, tenants, letter.id));
+    EXPECT_EQ(1U, desktop.Opened().size());
+    EXPECT_EQ(2U, dialogs.Heard().size()) << "that there is no program is said once";
+    std::filesystem::create_directories(PathTo("letters"));
+    core::Config().AssociateDocs = true;
+    Run("UPDATE Tenant SET LastName = '" + std::string(300, 'x') + "' WHERE IdTenant = 31");
+    try {
+        documents::OpenDocs(core::kTenant, tenants, letter.id);
+        ADD_FAILURE() << "a name of 300 letters is too long for a file";
+    } catch (const platform::Error& failure) {
+        EXPECT_NE(std::string::npos, std::string(failure.what()).find("1 of 2 letters were made"))
+            << failure.what();
+    }
+    EXPECT_EQ(1U, documents::FilesOf(core::kTenant, 30).size());
 }
 
 TEST_F(Letters, AreListedWithTheKindsTheyAreFor) {

@@ -20,7 +20,7 @@ TEST(Availability, NeedsAListARecordAndAnEditor) {
         const char* edit;
         const char* record;
         const char* change;
-        const char* copyRows;
+        const char* rows;
     };
     const char* const noList = "Choose a list of records first.";
     const char* const noRecord = "Select a record first.";
@@ -44,7 +44,7 @@ TEST(Availability, NeedsAListARecordAndAnEditor) {
         EXPECT_EQ(why.edit, c.edit) << told;
         EXPECT_EQ(why.record, c.record) << told;
         EXPECT_EQ(why.change, c.change) << told;
-        EXPECT_EQ(why.copyRows, c.copyRows) << told;
+        EXPECT_EQ(why.rows, c.rows) << told;
     }
 }
 

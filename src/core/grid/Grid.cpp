@@ -60,9 +60,7 @@ int Grid::SelectedRow() const {
     return rows.size() == 1 && rows.front().height() == 1 ? rows.front().top() : -1;
 }
 
-std::int32_t Grid::SelectedId() const {
-    const int row = SelectedRow();
-    if (row < 0) return 0;
+std::int32_t Grid::IdInRow(int row) const {
     const platform::Value id = model_.CellValue(row, 0);
     if (id.IsBlank()) return 0;
     try {
@@ -70,6 +68,25 @@ std::int32_t Grid::SelectedId() const {
     } catch (const platform::Error&) {
         return 0;
     }
+}
+
+std::int32_t Grid::SelectedId() const {
+    const int row = SelectedRow();
+    return row < 0 ? 0 : IdInRow(row);
+}
+
+std::vector<std::int32_t> Grid::SelectedIds() const {
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    std::ranges::sort(rows);
+    std::vector<std::int32_t> ids;
+    for (const int row : rows) {
+        if (const std::int32_t id = IdInRow(row); id != 0) ids.push_back(id);
+    }
+    return ids;
 }
 
 bool Grid::SelectId(std::int32_t id) {

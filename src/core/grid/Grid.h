@@ -39,6 +39,9 @@ class Grid : public QTableView {
     /// selected.
     std::int32_t SelectedId() const;
     int SelectedCount() const;
+    /// Returns the numbers in the first column of the selected rows, from top to bottom, without
+    /// the cells that hold none.
+    std::vector<std::int32_t> SelectedIds() const;
     /// Selects the row with this id; returns false if there is none.
     bool SelectId(std::int32_t id);
     /// Selects no row. The arrow keys go on from `row`, or from the last row if there are fewer.
@@ -84,6 +87,7 @@ class Grid : public QTableView {
 
   private:
     int SelectedRow() const;
+    std::int32_t IdInRow(int row) const;
     void ChooseRow();
     void ColumnResized(int column, int before, int now);
     void ShareWidth();

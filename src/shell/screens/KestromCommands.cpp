@@ -111,13 +111,27 @@ void frmKestrom::ConnectCommands() {
     for (QAction* const action : findChildren<QAction*>()) {
         const QString item = action->objectName();
         if (!item.startsWith(QLatin1String("mnu")) || action->menu() != nullptr) continue;
-        if (services_.commands.Has(item)) {
+        if (services_.commands.Submenu(item)) {
+            MakeSubmenu(*action);
+        } else if (services_.commands.Has(item)) {
             On(item, [this, item] { services_.commands.Run(item, Selected()); });
         } else if (!action->isSeparator()) {
             SetAvailable(*action, kNotInThisVersion);
         }
     }
     ConnectOwnCommands();
+}
+
+void frmKestrom::MakeSubmenu(QAction& item) {
+    auto* const menu = new QMenu(this);
+    item.setMenu(menu);
+    SetAvailable(item, {});
+    connect(menu, &QMenu::aboutToShow, this, [this, menu, name = item.objectName()] {
+        core::forms::Guarded([&] {
+            menu->clear();
+            services_.commands.Submenu(name)(*menu, [this] { return Selected(); });
+        });
+    });
 }
 
 void frmKestrom::ConnectOwnCommands() {

@@ -139,7 +139,9 @@ std::int32_t frmKestrom::SelectedId() const {
 }
 
 Selection frmKestrom::Selected() const {
-    return {selectedDb_, SelectedId()};
+    Selection selection{.kind = selectedDb_, .id = SelectedId()};
+    if (selectedDb_ != core::kAlert) selection.ids = view_->List().SelectedIds();
+    return selection;
 }
 
 void frmKestrom::EnableEditButtons() {
@@ -155,11 +157,11 @@ void frmKestrom::EnableEditButtons() {
     };
     for (QAction* const item : {ui_->mnuPayRent, ui_->mnuPayMortgage})
         offer(item, why.change);
-    for (QAction* const item :
-         {ui_->mnuPrint, ui_->mnuPhotoReel, ui_->mnuPrintDoc, ui_->mnuPrintDocMgmt})
+    for (QAction* const item : {ui_->mnuPrint, ui_->mnuPhotoReel})
         offer(item, why.record);
+    offer(ui_->mnuPrintDoc, why.rows);
     SetAvailable(*ui_->mnuFind, why.list);
-    SetAvailable(*ui_->mnuCopyRows, why.copyRows);
+    SetAvailable(*ui_->mnuCopyRows, why.rows);
 }
 
 WindowState frmKestrom::State() const {

@@ -13,6 +13,7 @@
 #include "shell/ShutDown.h"
 #include "shell/screens/Commands.h"
 
+class QAction;
 class QActionGroup;
 class QLabel;
 class QTimer;
@@ -79,6 +80,7 @@ class frmKestrom : public QMainWindow {
     void ConnectOwnCommands();
     /// Makes a menu item do this work; failures are shown.
     void On(const QString& item, const std::function<void()>& work);
+    void MakeSubmenu(QAction& item);
     Selection Selected() const;
 
     void Initialise();

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/dialogs/Desktop.h"
+
+namespace support {
+
+/// Stands for the desktop while it lives: keeps the documents that it was asked to open.
+class KeepingDesktop {
+  public:
+    /// `takes`: whether there is a program for them.
+    explicit KeepingDesktop(bool takes = true)
+        : opened_(std::make_shared<std::vector<std::string>>()) {
+        platform::SetDesktop(std::make_unique<Seam>(opened_, takes));
+    }
+    ~KeepingDesktop() { platform::SetDesktop(nullptr); }
+    KeepingDesktop(const KeepingDesktop&) = delete;
+    KeepingDesktop& operator=(const KeepingDesktop&) = delete;
+    KeepingDesktop(KeepingDesktop&&) = delete;
+    KeepingDesktop& operator=(KeepingDesktop&&) = delete;
+
+    const std::vector<std::string>& Opened() const { return *opened_; }
+
+  private:
+    class Seam : public platform::Desktop {
+      public:
+        Seam(std::shared_ptr<std::vector<std::string>> opened, bool takes)
+            : opened_(std::move(opened)), takes_(takes) {}
+        bool OpenWebPage(std::string_view) override { return false; }
+        bool WriteMail(std::string_view) override { return false; }
+        bool OpenDocument(std::string_view file) override {
+            opened_->emplace_back(file);
+            return takes_;
+        }
+
+      private:
+        std::shared_ptr<std::vector<std::string>> opened_;
+        bool takes_;
+    };
+
+    std::shared_ptr<std::vector<std::string>> opened_;
+};
+
+} // namespace support
