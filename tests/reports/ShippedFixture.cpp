@@ -109,6 +109,11 @@ std::int32_t Shipped::Id(const Row& row, const char* field) {
     return value.IsNull() ? 0 : value.AsLong();
 }
 
+double Shipped::Number(const Row& row, const char* field) {
+    const platform::Value& value = row.at(field);
+    return value.IsNull() ? 0 : value.AsDouble();
+}
+
 std::string Shipped::Text(const Row& row, const char* field) {
     const platform::Value& value = row.at(field);
     return value.IsNull() ? std::string() : value.AsText();
@@ -136,9 +141,9 @@ Currency Shipped::Amount(const FlowLines& flow, std::string_view label, std::siz
     return amounts.empty() ? Currency() : amounts.back();
 }
 
-Currency Shipped::ColumnSum(const FlowLines& flow, std::string_view firstCaption,
-                            std::size_t column) {
-    Currency sum;
+std::vector<std::vector<std::string>> Shipped::TableRows(const FlowLines& flow,
+                                                         std::string_view firstCaption) {
+    std::vector<std::vector<std::string>> rows;
     bool counts = false;
     for (const std::string& line : flow.lines) {
         if (line.starts_with("head ")) {
@@ -146,9 +151,17 @@ Currency Shipped::ColumnSum(const FlowLines& flow, std::string_view firstCaption
         } else if (!line.starts_with("row ")) {
             counts = false;
         } else if (counts) {
-            sum += platform::StrToMoney(Cells(std::string_view(line).substr(4)).at(column));
+            rows.push_back(Cells(std::string_view(line).substr(4)));
         }
     }
+    return rows;
+}
+
+Currency Shipped::ColumnSum(const FlowLines& flow, std::string_view firstCaption,
+                            std::size_t column) {
+    Currency sum;
+    for (const auto& cells : TableRows(flow, firstCaption))
+        sum += platform::StrToMoney(cells.at(column));
     return sum;
 }
 

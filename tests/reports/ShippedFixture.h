@@ -37,6 +37,7 @@ class Shipped : public CoreProcess {
     static std::vector<Row> Rows(const std::string& table);
     static platform::Currency Money(const Row& row, const char* field);
     static std::int32_t Id(const Row& row, const char* field);
+    static double Number(const Row& row, const char* field);
     static std::string Text(const Row& row, const char* field);
     /// The day of a field, unset if it holds none.
     static platform::Date Day(const Row& row, const char* field);
@@ -47,7 +48,10 @@ class Shipped : public CoreProcess {
     /// The last of them; a failed test and 0 if there is none.
     static platform::Currency Amount(const FlowLines& flow, std::string_view label,
                                      std::size_t column = 1);
-    /// The sum of a column of all tables whose header begins with this caption.
+    /// The cells of all tables whose header begins with this caption, a row each.
+    static std::vector<std::vector<std::string>> TableRows(const FlowLines& flow,
+                                                           std::string_view firstCaption);
+    /// The sum of a column of those tables.
     static platform::Currency ColumnSum(const FlowLines& flow, std::string_view firstCaption,
                                         std::size_t column);
     /// The amount behind a total line "p Total rent = ".
