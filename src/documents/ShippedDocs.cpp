@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "core/Globals.h"
+#include "core/ShippedFiles.h"
 #include "documents/AttachFile.h"
 #include "documents/DocList.h"
 
@@ -29,6 +31,14 @@ constexpr std::array kPurposes = {
 };
 
 } // namespace
+
+std::string ShippedDocsFolder() {
+    return core::App().AppPath + "Templates";
+}
+
+void InstallShippedDocs() {
+    core::InstallShippedFiles(core::ShippedFolder("Templates"), ShippedDocsFolder());
+}
 
 void AddShippedDocs(const std::string& folder) {
     for (const std::string& path : UnlistedDocs(folder)) {

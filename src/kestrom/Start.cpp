@@ -8,6 +8,7 @@
 #include "core/FindDatabase.h"
 #include "core/Globals.h"
 #include "core/ShippedFiles.h"
+#include "documents/ShippedDocs.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
@@ -54,9 +55,8 @@ void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEn
 }
 
 void InstallFiles() {
-    const core::Globals& app = core::App();
-    core::InstallShippedFiles(core::ShippedFolder("Reports"), app.ReportPath);
-    core::InstallShippedFiles(core::ShippedFolder("Templates"), app.AppPath + "Templates");
+    core::InstallShippedFiles(core::ShippedFolder("Reports"), core::App().ReportPath);
+    documents::InstallShippedDocs();
 }
 
 void LetSplashBeSeen() {

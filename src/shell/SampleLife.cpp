@@ -81,7 +81,8 @@ void MakeSamplePortfolio(const std::filesystem::path& folder, int units, Date to
         core::LoadConfiguration();
         LiveThrough(cast, today, progress);
         // Last, so that the other rows have the same ids with and without templates.
-        documents::AddShippedDocs(core::App().AppPath + "Templates");
+        documents::InstallShippedDocs();
+        documents::AddShippedDocs(documents::ShippedDocsFolder());
     }
     database.Publish();
 }

@@ -6,7 +6,6 @@
 #include <QTableWidget>
 
 #include "core/Configuration.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/Settings.h"
 #include "core/binding/Wiring.h"
@@ -36,10 +35,6 @@ constexpr std::string_view kShowPath = "DocMgmtShowPath";
 constexpr int kName = 0;
 constexpr int kPath = 1;
 constexpr int kFirstFlag = 2;
-
-std::string ShippedFolder() {
-    return core::App().AppPath + "Templates";
-}
 
 QTableWidgetItem* TextCell(const std::string& text) {
     auto* const cell = new QTableWidgetItem(ToScreen(text));
@@ -202,7 +197,7 @@ void frmDocMgmt::ShowSelected() {
 }
 
 void frmDocMgmt::ShowShipped() {
-    ui_->cmdShipped->setVisible(!UnlistedDocs(ShippedFolder()).empty());
+    ui_->cmdShipped->setVisible(!UnlistedDocs(ShippedDocsFolder()).empty());
 }
 
 void frmDocMgmt::FlagTicked(const QTableWidgetItem& item) {
@@ -223,7 +218,7 @@ void frmDocMgmt::Add() {
 }
 
 void frmDocMgmt::AddShipped() {
-    AddShippedDocs(ShippedFolder());
+    AddShippedDocs(ShippedDocsFolder());
 }
 
 void frmDocMgmt::Edit() {
