@@ -26,6 +26,7 @@ namespace {
 constexpr std::string_view kSuccess = "Success";
 constexpr std::string_view kWarning = "Warning";
 constexpr std::string_view kFailed = "Failed";
+constexpr std::string_view kRunning;
 
 constexpr std::string_view kDocumentMark = "[d]";
 constexpr std::string_view kObjectMark = "[f]";
@@ -149,7 +150,7 @@ class Run {
 
     bool TestFolder() const {
         const bool can = CanWriteTo(folder_);
-        if (can) Tell("Testing destination directory", kSuccess);
+        Tell("Testing destination directory", can ? kSuccess : kFailed);
         return can;
     }
 
@@ -162,7 +163,7 @@ class Run {
 
     void Note(BackupOutcome outcome) { outcome_ = std::max(outcome_, outcome); }
 
-    /// The container's own copy of the settings is that of this run, also on the first one.
+    /// Saves the settings, so that the container holds those of this run, also on the first one.
     void KeepSettings() const {
         try {
             SaveBackupConfig(stored_);
@@ -172,6 +173,8 @@ class Run {
     }
 
     void PackOwnFiles() {
+        constexpr const char* kAction = "Backing up database files";
+        Tell(kAction, kRunning);
         KeepSettings();
         const fs::path folder = core::App().DbPath;
         std::string result;
@@ -184,7 +187,7 @@ class Run {
         const std::string_view word = outcome_ == BackupOutcome::Success   ? kSuccess
                                       : outcome_ == BackupOutcome::Partial ? kWarning
                                                                            : kFailed;
-        Tell("Backing up database files", word);
+        Tell(kAction, word);
     }
 
     /// A failure leaves a line of its own.
@@ -204,13 +207,15 @@ class Run {
     }
 
     void PackRelated(const std::vector<std::string>& related) {
+        constexpr const char* kAction = "Backing up related files";
+        Tell(kAction, kRunning);
         bool isWhole = true;
         for (const std::string& line : related) {
             const FileType type =
                 line.starts_with(kObjectMark) ? FileType::FileObject : FileType::Document;
             isWhole = PackOther(line.substr(kMarkSize), type) && isWhole;
         }
-        Tell("Backing up related files", isWhole ? kSuccess : kWarning);
+        Tell(kAction, isWhole ? kSuccess : kWarning);
     }
 
     /// A container that isn't on the disk is no backup.

@@ -10,10 +10,12 @@
 
 namespace exchange {
 
-/// A step of a backup and what came of it.
+/// A step of a backup and its result.
 struct BackupLine {
     std::string action;
-    std::string result; ///< "Success", "Warning", "Failed", or what the packing of a file returned
+    /// "Success", "Warning", "Failed", or what the packing of a file returned; empty while the step
+    /// is still running.
+    std::string result;
 };
 
 enum class BackupOutcome {
@@ -29,7 +31,7 @@ struct BackupReport {
     std::string text;
 };
 
-/// What one run does otherwise than the configuration says; that stays as it is.
+/// Where one run departs from the configuration, which isn't changed by it.
 struct BackupChoice {
     std::optional<std::string> folder = {};
     std::optional<bool> allFiles = {};
@@ -42,9 +44,9 @@ BackupConfig Chosen(const BackupConfig& config, const BackupChoice& choice);
 
 /// Makes a backup of the process's database as `config` and `choice` say: packs it into a new
 /// container in the folder, with the related files if wanted, deletes expired containers, and keeps
-/// today as the day of the last backup. The listener hears of each step; window messages run in
-/// between. When the database can't be packed, no container is deleted and the day of the last
-/// backup stays as it was.
+/// today as the day of the last backup. The listener is called with each step: when it begins, if
+/// it takes time, and with its result. Window messages run in between. When the database can't be
+/// packed, no container is deleted and the day of the last backup stays as it was.
 BackupReport RunBackup(BackupConfig& config, const BackupChoice& choice,
                        const BackupListener& listener);
 

@@ -23,29 +23,29 @@ struct BackupConfig {
     bool backupAllFiles = true;
     /// Unset for never.
     platform::Date lastBackup;
-    /// What the file holds behind these.
+    /// The rest of the file, kept unchanged.
     std::string reserved;
 };
 
 inline constexpr std::string_view kBackupConfigFile = "BaR.cfg";
 std::filesystem::path BackupConfigPath();
 
-/// The interval of a stored number; days for one that means nothing.
+/// Returns the interval of a stored number; days for an unknown one.
 platform::Interval IntervalOf(std::int32_t stored);
 
 /// Reads the configuration; the defaults hold when there is no file. Throws an Error if the file
 /// can't be read or is cut.
 void LoadBackupConfig(BackupConfig& config);
 
-/// Writes it; true. Throws an Error if it can't be written, or the path is too long for its field.
+/// Writes it and returns true. Throws an Error if it can't be written, or if the path is too long
+/// for its field.
 bool SaveBackupConfig(const BackupConfig& config);
 
 /// Whether it is time for a backup: there was none yet, or the last one is old enough. Any error
 /// makes it false.
 bool IsBackupDue();
 
-/// What the user is reminded of while a backup is overdue: when the last one was made. Empty when
-/// none is due.
+/// Returns the reminder of an overdue backup, with the day of the last one; empty if none is due.
 std::string BackupNotice();
 
 /// "Last Backup: 05/01/2024", or "Last Backup: Never".

@@ -103,6 +103,9 @@ std::string CheckSummary(const std::vector<Finding>& findings) {
     const std::int64_t faults = CountOf(findings, Severity::Fault);
     const std::int64_t notes = CountOf(findings, Severity::Note);
     if (faults == 0) return fmt::format("No faults were found, and {}.", Counted(notes, "note"));
+    if (notes == 0) {
+        return fmt::format("{} {} found.", Counted(faults, "fault"), faults == 1 ? "was" : "were");
+    }
     return fmt::format("{} and {} were found.", Counted(faults, "fault"), Counted(notes, "note"));
 }
 

@@ -10,14 +10,14 @@
 namespace exchange {
 
 enum class Severity {
-    Note,  ///< what removing records leaves behind; nothing is lost by it
-    Fault, ///< what shouldn't be
+    Note,  ///< left over from the removal of records; nothing is lost by it
+    Fault, ///< an error in the books
 };
 
 struct Finding {
     Severity severity = Severity::Fault;
     std::string what;
-    /// What the user can do about it.
+    /// The steps by which the user can mend it.
     std::string advice;
 };
 
@@ -26,8 +26,8 @@ using CheckProgress = std::function<void(std::string_view part, int number, int 
 
 /// Checks the books and changes nothing: the database file, identifiers that two records share,
 /// links that name no record, stored balances against their ledgers, payments without transaction
-/// and transactions without payment. `books` is open. A part that can't be done is a fault.
-/// Messages run between the parts.
+/// and transactions without payment. `books` is open. A part that can't be
+/// carried out is a fault. Messages run between the parts.
 std::vector<Finding> CheckBooks(platform::Connection& books, const CheckProgress& progress);
 
 /// "2 faults and 1 note were found.", "Everything is in order."

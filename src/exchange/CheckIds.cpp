@@ -54,8 +54,8 @@ void TellShared(std::span<const Holder> holders, std::vector<Finding>& findings)
     findings.push_back(
         {Severity::Fault,
          fmt::format("The identifier {} belongs to several records: {}", id, names),
-         "Open the record, and delete the one that is too much. Records that were imported twice "
-         "have such identifiers."});
+         "If a file was imported twice, delete one record of each pair; otherwise restore the copy "
+         "of the database that was kept before the import."});
 }
 
 void CheckCounter(platform::Connection& books, std::int32_t highest,
@@ -65,6 +65,12 @@ void CheckCounter(platform::Connection& books, std::int32_t highest,
         findings.push_back({Severity::Fault,
                             fmt::format("The settings have {} rows instead of one", rows->AsLong()),
                             "Delete all but one row of the table Configuration."});
+    }
+    if (rows && rows->AsLong() == 0 && highest > 0) {
+        findings.push_back({Severity::Fault,
+                            "The settings are missing, and with them the counter of identifiers",
+                            "Import the table Configuration from an export, or restore a backup."});
+        return;
     }
     const auto next = books.Scalar("SELECT NextId FROM Configuration");
     if (!next || next->IsNull() || next->AsLong() > highest) return;

@@ -8,7 +8,7 @@ namespace exchange {
 
 namespace {
 
-/// A field that names a record of another table.
+/// A field that holds the identifier of a record of another table.
 struct Link {
     std::string_view table;
     std::string_view key; ///< of the table that has the field
@@ -20,7 +20,7 @@ struct Link {
 };
 
 constexpr Severity kFault = Severity::Fault;
-// The removal of a record leaves these as they are: they tell what a row was once about.
+// The removal of a record leaves these unchanged: they tell what a row once referred to.
 constexpr Severity kNote = Severity::Note;
 
 constexpr auto kLinks = std::to_array<Link>({
@@ -74,7 +74,9 @@ constexpr auto kLinks = std::to_array<Link>({
     {"Lease", "IdLease", "RentAccount", "Account", "IdAccount", kNote},
     {"Lease", "IdLease", "DepositAccount", "Account", "IdAccount", kNote},
     {"Transactions", "IdTransaction", "IdLease", "Lease", "IdLease", kNote},
-    {"Transactions", "IdTransaction", "IdTenant", "Tenant", "IdTenant", kNote},
+    // A rent payment has its payer in IdTenant, even if that is an account.
+    {"Transactions", "IdTransaction", "IdTenant", "Tenant", "IdTenant", kNote,
+     "(child.IdTenant <> child.DebitId) OR (child.DebitType <> 1)"},
     {"Transactions", "IdTransaction", "IdBuilding", "Building", "IdBuilding", kNote},
     {"Transactions", "IdTransaction", "IdUnit", "Unit", "IdUnit", kNote},
     {"Transactions", "IdTransaction", "IdMortgage", "Mortgage", "IdMortgage", kNote},

@@ -16,7 +16,7 @@ namespace {
 
 using platform::Currency;
 
-/// What a lease's ledger adds up to.
+/// The sums of a lease's ledger.
 struct LeaseSums {
     Currency rentDue;
     Currency subsDue;
@@ -95,9 +95,11 @@ constexpr std::string_view kRemoveTransaction =
     "transaction.";
 
 constexpr auto kPaymentQuestions = std::to_array<Question>({
-    {"SELECT IdRentLog FROM RentLog WHERE (Flags = 2) AND (IdTransaction = 0)", "rent payment",
-     "without a transaction", kPayAgain},
-    {"SELECT IdMortgageLog FROM MortgageLog WHERE (Flags = 2) AND (IdTransaction = 0)",
+    {"SELECT IdRentLog FROM RentLog WHERE (Flags = 2) "
+     "AND ((IdTransaction = 0) OR (IdTransaction IS Null))",
+     "rent payment", "without a transaction", kPayAgain},
+    {"SELECT IdMortgageLog FROM MortgageLog WHERE (Flags = 2) "
+     "AND ((IdTransaction = 0) OR (IdTransaction IS Null))",
      "mortgage payment", "without a transaction", kPayAgain},
     {"SELECT t.IdTransaction FROM Transactions AS t LEFT JOIN RentLog AS r "
      "ON t.IdTransaction = r.IdTransaction WHERE (r.IdRentLog IS Null) "

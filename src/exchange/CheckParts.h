@@ -15,7 +15,7 @@ void CheckLinks(platform::Connection& books, std::vector<Finding>& findings);
 void CheckBalances(platform::Connection& books, std::vector<Finding>& findings);
 void CheckPayments(platform::Connection& books, std::vector<Finding>& findings);
 
-/// The first few ids that a statement yields in its first column, and how many there are in all.
+/// The first few ids in the first column of a statement's rows, and the number of all of them.
 struct FoundIds {
     std::vector<std::string> first;
     std::int64_t count = 0;
@@ -26,7 +26,7 @@ struct FoundIds {
 };
 FoundIds FindIds(platform::Connection& books, std::string_view sql);
 
-/// "1 record" or "3 records", of whatever word is given.
+/// "1 record" or "3 records".
 std::string Counted(std::int64_t count, std::string_view word);
 
 } // namespace exchange

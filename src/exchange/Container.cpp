@@ -11,6 +11,7 @@
 
 #include <fmt/core.h>
 
+#include "core/MessagePump.h"
 #include "exchange/FixedRecord.h"
 #include "platform/database/DatabaseCopy.h"
 #include "platform/system/Clock.h"
@@ -105,6 +106,7 @@ void CopyBlocks(platform::DiskFile& container, const Source& source, std::int64_
         block.resize(std::min(kBlockSize, static_cast<std::size_t>(size - at)));
         source.Read(block.data(), block.size(), at);
         container.Write(block);
+        core::LetMessagesRun();
     }
 }
 

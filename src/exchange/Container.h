@@ -11,7 +11,7 @@
 
 namespace exchange {
 
-// A backup container: entries one behind the other, each a header of fixed length and the file's
+// A backup container: entries one after another, each a header of fixed length and the file's
 // bytes.
 
 inline constexpr std::size_t kHeaderSize = 500;
@@ -38,13 +38,13 @@ EntryHeader ReadHeader(std::string_view bytes);
 std::string FileDateText(const std::filesystem::path& file);
 
 /// Appends an entry with the bytes of `source` to the container, which is made if it is missing.
-/// False when that fails; `result` says why ("File not found", "Error 28, ..."), and "Success"
-/// otherwise. What was written of a failed entry stays.
+/// Returns false if that fails; `result` says why ("File not found", "Error 28, ..."), and is
+/// "Success" otherwise. What was written of a failed entry stays. Window messages run in between.
 bool PackFile(const std::filesystem::path& container, const std::filesystem::path& source,
               FileType type, std::string& result);
 
-/// The same for a database that may be in use: what goes in is the database as it is at one moment.
-/// `progress` hears of every few megabytes.
+/// The same for a database that may be in use: the entry holds it as it is at one moment.
+/// `progress` is called every few megabytes.
 bool PackDatabase(const std::filesystem::path& container, const std::filesystem::path& database,
                   const std::function<void()>& progress, std::string& result);
 

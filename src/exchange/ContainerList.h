@@ -10,11 +10,11 @@
 
 namespace exchange {
 
-/// What a reader finds of an entry.
+/// How much of an entry a reader finds.
 enum class EntryState {
     Whole,
     Cut,     ///< the container ends before the entry does
-    Damaged, ///< the header makes no sense; where the next entry begins isn't known
+    Damaged, ///< the header makes no sense, so that the place of the next entry isn't known
 };
 std::string_view StateWord(EntryState state);
 
@@ -25,8 +25,9 @@ struct ContainerEntry {
     std::int64_t position = 0;
 };
 
-/// The entries of a container in order, each header held against the file's length. A cut or
-/// damaged one is the last. Throws an Error if the container can't be read, or has no entry at all.
+/// Returns the entries of a container in order, each header checked against the file's length. A
+/// cut or damaged one is the last. Throws an Error if the container can't be read, or has no entry
+/// at all.
 std::vector<ContainerEntry> ListContainer(const std::filesystem::path& container);
 
 } // namespace exchange

@@ -1,9 +1,11 @@
+#include <algorithm>
 #include <vector>
 
 #include <fmt/core.h>
 
 #include "core/Globals.h"
 #include "core/MessagePump.h"
+#include "exchange/OwnFiles.h"
 #include "exchange/Port.h"
 #include "exchange/PortFile.h"
 #include "platform/database/DatabaseReader.h"
@@ -95,6 +97,7 @@ void PortWatcher::Progress(std::int64_t done, std::int64_t total) const {
 
 void WriteTables(std::span<const std::string> tables, const std::filesystem::path& file,
                  const PortWatcher& watcher) {
+    RefuseOwnFile(file);
     platform::DatabaseReader database(core::App().DbFile);
     struct Part {
         const platform::dialect::Table* table;
@@ -105,6 +108,10 @@ void WriteTables(std::span<const std::string> tables, const std::filesystem::pat
     for (const std::string& name : tables) {
         const auto* const table = database.Tables().Find(name);
         if (table == nullptr) throw platform::Error(fmt::format("there is no table {}", name));
+        // Its rows would come back twice.
+        if (std::ranges::find(parts, table, &Part::table) != parts.end()) {
+            throw platform::Error(fmt::format("the table {} is given twice", table->name));
+        }
         parts.push_back({table, database.CountRows(name)});
         total += parts.back().rows;
     }
@@ -121,8 +128,7 @@ void WriteTables(std::span<const std::string> tables, const std::filesystem::pat
 bool ExportDatabase(std::span<const std::string> tables, const PortWatcher& watcher) {
     watcher.Progress(0, 0);
     if (tables.empty()) {
-        SayError(
-            "\nYou must select at least one database\ntable for the database export to work.\n");
+        SayError("\nYou must select at least one database\ntable for the database export to work.");
         return false;
     }
     const auto file = platform::TheChoosers().SaveFile(

@@ -9,6 +9,7 @@
 #include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "exchange/FinExportLines.h"
+#include "exchange/OwnFiles.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/DraftFile.h"
@@ -40,7 +41,7 @@ std::string WhereOf(std::int32_t id, const ExportRange& range, std::string_view 
         id, range.start.ToText(), range.end.ToText(), debit, credit);
 }
 
-/// A stored day that is none is exported as it stands.
+/// A stored text that isn't a valid date is exported unchanged.
 std::string DayText(const std::string& stored) {
     const auto day = platform::Date::TryParse(stored);
     return day ? day->ToText() : stored;
@@ -142,6 +143,7 @@ FinExportObjection ObjectionTo(const FinExportRequest& request) {
 }
 
 std::int64_t RunFinExport(const FinExportRequest& request, const std::filesystem::path& file) {
+    RefuseOwnFile(file);
     std::optional<platform::UnitOfWork> unit;
     if (request.mark == MarkExported::Yes) unit.emplace(core::App().Connection);
     platform::DraftFile draft(file);

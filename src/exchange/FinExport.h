@@ -22,8 +22,8 @@ struct FinExportRequest {
     std::vector<std::int32_t> accounts = {};
 };
 
-/// What keeps a request from being carried out, with the title it is told under; both empty when
-/// nothing does.
+/// The reason why a request can't be carried out, and the title of its message; both empty if it
+/// can.
 struct FinExportObjection {
     std::string title;
     std::string text;
@@ -33,11 +33,12 @@ FinExportObjection ObjectionTo(const FinExportRequest& request);
 /// Writes the entries of the accounts to `file`; an account whose transactions can't be read is
 /// skipped. Returns how many transactions were found, each counted once for each account.
 ///
-/// The marks are one unit of work, committed when the file is whole and on the disk. On failure,
-/// which is thrown, there are neither marks nor a file; one that had the name before is kept.
+/// The marks are one unit of work, committed when the file is whole and on the disk. Throws an
+/// Error if that fails, or if `file` belongs to the database; then nothing is marked, and a file
+/// that had the name before is kept.
 std::int64_t RunFinExport(const FinExportRequest& request, const std::filesystem::path& file);
 
-/// What is said after an export of `count` transactions.
+/// The message after an export of `count` transactions.
 std::string ExportedText(std::int64_t count);
 
 } // namespace exchange

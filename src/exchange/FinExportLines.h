@@ -26,13 +26,13 @@ inline constexpr std::string_view kCheck = "CHECK";
 struct FinFormat {
     std::string_view extension;
     std::string_view filterName;
-    /// What the file begins with, its line ends included.
+    /// The beginning of the file, its line ends included.
     std::string_view head;
 };
 const FinFormat& FormatOf(FinType type);
 
-/// A text as it goes into the file: neither commas nor line ends nor tabs, which no format can
-/// quote.
+/// Returns a text as the file holds it, with blanks in place of commas, line ends and tabs, since
+/// no format can quote them.
 std::string PlainText(std::string_view text);
 
 /// Adds the lines of an entry to `file`.

@@ -14,7 +14,7 @@ enum class TransRange { New = 0, All = 1, DateRange = 2 };
 enum class MarkExported { No, Yes };
 enum class LimitLength { No, Yes };
 
-/// Which transactions an export takes: those not yet exported, all, or those of the days from
+/// The transactions that an export takes: those not yet exported, all, or those of the days from
 /// `start` to `end`.
 struct ExportRange {
     TransRange range = TransRange::New;
@@ -22,7 +22,7 @@ struct ExportRange {
     platform::Date end;
 };
 
-/// How the financial export was used last.
+/// The choices of the last financial export.
 struct FinExportSettings {
     FinType finType = FinType::Csv;
     ExportRange range;
@@ -36,8 +36,8 @@ struct FinExportSettings {
     std::string lastFileName;
 };
 
-/// Reads the settings; what is missing or makes no sense has its default: new transactions as CSV,
-/// and the month up to today for a range of days.
+/// Reads the settings. A missing or invalid one has its default: new transactions as CSV, and the
+/// month up to today for a range of days.
 FinExportSettings LoadFinExportSettings();
 
 /// Writes all of them but the file's name, which SaveLastFileName writes after each export.

@@ -11,7 +11,7 @@ namespace exchange {
 
 class FixedRecord {
   public:
-    /// The bytes must stay and be long enough for what is read.
+    /// `bytes` must outlive the record and be long enough for every field that is read.
     explicit FixedRecord(std::string_view bytes) : bytes_(bytes) {}
 
     /// Without the padding; blanks and zero bytes alike count as such.
@@ -28,7 +28,7 @@ class FixedRecordWriter {
     /// All zero.
     explicit FixedRecordWriter(std::size_t size) : bytes_(size, '\0') {}
 
-    /// False for a text that doesn't fit; nothing is written then.
+    /// Returns false for a text that doesn't fit, and writes nothing then.
     bool SetText(std::size_t at, std::size_t size, std::string_view text);
     void SetInteger(std::size_t at, std::int16_t number);
     void SetLong(std::size_t at, std::int32_t number);

@@ -40,7 +40,7 @@ class Checker {
   public:
     explicit Checker(ImportCheck& found) : found_(found) {}
 
-    /// The error of the reader's line; empty for none.
+    /// Returns the error of the reader's line; empty if it has none.
     std::string_view CheckLine(const PortReader& reader) {
         switch (reader.Marker()) {
             case PortMarker::Table:
@@ -58,12 +58,14 @@ class Checker {
 
   private:
     std::string_view CheckTable(const PortReader& reader) {
-        table_ = nullptr;
+        table_.reset();
         fields_ = 0;
         if (!reader.Items().empty()) {
-            table_ = core::App().Connection.Tables().Find(reader.Items().front().text);
+            const auto* const found =
+                core::App().Connection.Tables().Find(reader.Items().front().text);
+            if (found != nullptr) table_ = *found;
         }
-        if (table_ == nullptr) return kBadTable;
+        if (!table_) return kBadTable;
         if (!reader.IsWhole() || reader.Items().size() != 1) return kNoTableEnd;
         ++found_.tables;
         if (platform::EqualIgnoringCase(table_->name, kConfigurationTable)) {
@@ -73,7 +75,7 @@ class Checker {
     }
 
     std::string_view CheckFields(const PortReader& reader) {
-        if (table_ == nullptr) return kFieldsFirst;
+        if (!table_) return kFieldsFirst;
         const std::vector<std::string> names = TextsOf(reader.Items());
         if (names.empty()) return kNoFields;
         const bool known = std::ranges::all_of(
@@ -86,7 +88,7 @@ class Checker {
     }
 
     std::string_view CheckRecord(const PortReader& reader) {
-        if (table_ == nullptr) return kRecordFirst;
+        if (!table_) return kRecordFirst;
         if (!reader.IsWhole() || fields_ == 0 || reader.Items().size() != fields_) {
             return kBadCount;
         }
@@ -95,7 +97,8 @@ class Checker {
     }
 
     ImportCheck& found_;
-    const platform::dialect::Table* table_ = nullptr;
+    // A copy: the session may be closed by a window message while the file is read.
+    std::optional<platform::dialect::Table> table_;
     std::size_t fields_ = 0;
 };
 

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <set>
 #include <string>
 
 #include "exchange/Port.h"

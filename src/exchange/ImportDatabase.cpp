@@ -1,5 +1,4 @@
 #include <memory>
-#include <set>
 
 #include <fmt/core.h>
 
@@ -25,6 +24,11 @@ constexpr int kRowsBetweenProgress = 1000;
 constexpr std::string_view kLatin1Note =
     "Note: the file is not UTF-8; its letters are read as Latin-1.\n";
 
+/// The first reading found every line whole.
+platform::Error FileChanged() {
+    return platform::Error("the file was changed while it was read.");
+}
+
 /// Adds the records of a checked file to the database.
 class Importer {
   public:
@@ -34,6 +38,7 @@ class Importer {
     void WriteLine(const PortReader& reader) {
         switch (reader.Marker()) {
             case PortMarker::Table:
+                if (reader.Items().size() != 1) throw FileChanged();
                 OpenTable(reader.Items().front().text);
                 break;
             case PortMarker::Fields:
@@ -41,6 +46,7 @@ class Importer {
                                                                 names_ = TextsOf(reader.Items()));
                 break;
             case PortMarker::Record:
+                if (!writer_ || reader.Items().size() != names_.size()) throw FileChanged();
                 WriteRecord(reader.Items());
                 break;
             case PortMarker::None:
@@ -53,10 +59,7 @@ class Importer {
         writer_.reset();
         table_ = name;
         const bool isConfiguration = platform::EqualIgnoringCase(table_, kConfigurationTable);
-        // A table that comes twice in the file keeps the records of both its groups; only of the
-        // settings there must be no second row.
-        const bool isFirst = emptied_.insert(platform::ToUpper(table_)).second;
-        if (isConfiguration || (rows_ == ImportRows::Overwrite && isFirst)) {
+        if (isConfiguration || rows_ == ImportRows::Overwrite) {
             core::App().Connection.Execute("DELETE * FROM " + platform::dialect::QuoteName(table_));
         }
     }
@@ -85,7 +88,6 @@ class Importer {
     const PortWatcher& watcher_;
     std::string table_;
     std::vector<std::string> names_;
-    std::set<std::string> emptied_;
     std::unique_ptr<platform::RowWriter> writer_;
     std::vector<platform::Cell> cells_;
     std::vector<std::string> scratch_;

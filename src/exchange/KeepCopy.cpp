@@ -24,8 +24,6 @@ std::string_view WordOf(CopyReason reason) {
     switch (reason) {
         case CopyReason::Import:
             return "import";
-        case CopyReason::Upgrade:
-            return "upgrade";
         case CopyReason::Removal:
             break;
     }

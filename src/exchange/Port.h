@@ -29,8 +29,9 @@ bool ExportDatabase(std::span<const std::string> tables, const PortWatcher& watc
 
 /// Writes the rows of these tables of the process's database to a text file, which appears under
 /// its name when it is whole. The rows are those of one moment, whatever is written meanwhile;
-/// tables without rows are left out. Window messages run in between. Throws an Error that says what
-/// went wrong; then there is no file, and one that was there before is kept.
+/// tables without rows are left out. Window messages run in between. Throws an Error if a table
+/// doesn't exist or is given twice, if `file` belongs to the database, or if writing fails; then
+/// there is no file, and one that was there before is kept.
 void WriteTables(std::span<const std::string> tables, const std::filesystem::path& file,
                  const PortWatcher& watcher);
 
@@ -48,9 +49,9 @@ struct ImportOutcome {
 };
 
 /// Checks a text file of tables as a whole, and then, unless it is only a test, adds its records to
-/// the process's database. With Overwrite each table of the file is emptied first; the settings'
-/// table always is, since it has one row. Before anything is emptied a copy of the database is kept
-/// beside it.
+/// the process's database. With Overwrite a table is emptied wherever the file begins it; the
+/// settings' table always is, since it has one row. Before anything is emptied a copy of the
+/// database is kept beside it.
 ///
 /// A file with an error changes nothing. A value that its field refuses ends the writing: the
 /// records before it stay. All of it is one unit of work, so that a crash leaves the database as

@@ -12,14 +12,15 @@
 
 namespace exchange {
 
-// The text form of tables: lines of items, parted by commas, each line begun and ended by a marker.
+// The text form of tables: lines of items with commas between them; a marker begins and ends each
+// line.
 //   "Table","Room","/Table"
 //   "Fields","IdRoom","RoomType","/Fields"
 //   "Record",4823114,"Bedroom","/Record"
 // Texts stand in quotes, their own quotes doubled, and may hold line ends; numbers and amounts are
 // bare, Yes/No values #TRUE# and #FALSE#, a null is an empty quoted item.
 
-/// What a line is, by its first item.
+/// The kind of a line, by its first item.
 enum class PortMarker { Table, Fields, Record, None };
 
 /// Adds a stored value as an item to a line.
@@ -42,12 +43,13 @@ class PortReader {
     PortReader(const PortReader&) = delete;
     PortReader& operator=(const PortReader&) = delete;
 
-    /// Goes to the next line; false at the end of the file.
+    /// Goes to the next line; false at the end of the file. Throws an Error if reading fails, or
+    /// for a line that no memory should be spent on.
     bool NextLine();
     /// The number of the line, counted from 1, on which the present one begins in a text editor.
     std::int64_t Number() const { return number_; }
     PortMarker Marker() const { return marker_; }
-    /// What stands between the markers. Until the next line is read.
+    /// The items between the markers, valid until the next line is read.
     const std::vector<PortItem>& Items() const { return items_; }
     /// False for a line that doesn't end in its marker, or with an item that can't be read.
     bool IsWhole() const { return isWhole_; }
@@ -72,7 +74,7 @@ class PortReader {
     std::int64_t size_ = 0;
     std::int64_t consumed_ = 0;
     std::string buffer_;
-    std::size_t begin_ = 0; // of what wasn't given as a line yet
+    std::size_t begin_ = 0; // of the first line that wasn't returned yet
     bool atEnd_ = false;
     std::int64_t number_ = 0;
     std::int64_t nextNumber_ = 1;
@@ -84,8 +86,8 @@ class PortReader {
     bool isUtf8_ = true;
 };
 
-/// An item as a field of `type` stores it; a text stays where it is or is made in `scratch`. A
-/// ConversionError or OverflowError for an item that the type can't hold.
+/// Returns an item as a field of `type` stores it; a text stays in its place or is made in
+/// `scratch`. Throws a ConversionError or OverflowError for an item that the type can't hold.
 platform::Cell CellOfItem(const PortItem& item, platform::FieldType type, std::string& scratch);
 
 } // namespace exchange

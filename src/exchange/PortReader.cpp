@@ -18,6 +18,9 @@ namespace exchange {
 namespace {
 
 constexpr std::size_t kPieceSize = 1 << 20;
+// No record of ours is that long; in a file of another make a quote that is never closed makes the
+// rest of the file one line.
+constexpr std::size_t kLongestLine = 64 << 20;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 [[noreturn]] void FailToRead(const std::filesystem::path& file, int reason) {
@@ -82,8 +85,8 @@ bool PortReader::Fill() {
     return !atEnd_;
 }
 
-/// Finds where the line that begins here ends: at the first line end outside quotes. A quote inside
-/// a text is doubled, so that counting them is enough.
+/// Finds the end of the line that begins here: the first line end outside quotes. A quote inside a
+/// text is doubled, so that counting them is enough. Throws an Error for a line that is too long.
 bool PortReader::FindLine(std::size_t& end) {
     const auto find = [this](char c, std::size_t from, std::size_t to) {
         const void* const found = std::memchr(buffer_.data() + from, c, to - from);
@@ -92,7 +95,7 @@ bool PortReader::FindLine(std::size_t& end) {
     };
     bool quoted = false;
     std::size_t at = begin_;
-    std::size_t lineEnd = 0; // the first one behind `at`, as far as it is known
+    std::size_t lineEnd = 0; // the first one after `at`, as far as it is known
     for (;;) {
         if (!quoted && lineEnd <= at) lineEnd = find('\n', at, buffer_.size());
         const std::size_t quote = find('"', at, quoted ? buffer_.size() : lineEnd);
@@ -106,6 +109,11 @@ bool PortReader::FindLine(std::size_t& end) {
             continue;
         }
         const std::size_t scanned = buffer_.size() - begin_;
+        if (scanned > kLongestLine) {
+            number_ = nextNumber_;
+            throw platform::Error(
+                "the line is longer than 64 MB; the closing quote of a text may be missing.");
+        }
         if (!Fill()) {
             end = buffer_.size();
             return end > begin_;
@@ -134,8 +142,8 @@ std::string_view PortReader::Keep(std::string text) {
     return kept_[keptCount_++] = std::move(text);
 }
 
-/// The text of a quoted item, whose first quote is taken already; `rest` goes on behind its last
-/// one.
+/// Takes the text of a quoted item, whose first quote was taken already; `rest` goes on after its
+/// last one.
 std::string_view PortReader::TakeQuoted(std::string_view& rest) {
     const std::size_t quote = rest.find('"');
     if (quote == std::string_view::npos) {
@@ -187,8 +195,8 @@ void PortReader::Split(std::string_view line) {
         }
         items_.push_back(item);
     }
-    // A spreadsheet fills short lines up with empty items.
-    while (!items_.empty() && !items_.back().quoted && items_.back().text.empty())
+    // A spreadsheet fills short lines up with empty items, some of them in quotes.
+    while (!items_.empty() && items_.back().text.empty())
         items_.pop_back();
     marker_ = PortMarker::None;
     if (items_.empty()) return;

@@ -12,17 +12,17 @@ namespace exchange {
 
 enum class RestoreScope { Everything, DatabaseOnly };
 
-/// What became of an entry.
+/// An entry, and where it was restored or why it wasn't.
 struct RestoredFile {
     std::string filePath;           ///< as the container names it
     std::filesystem::path restored; ///< empty when it wasn't
-    std::string reason;             ///< why it wasn't
+    std::string reason;             ///< empty if it was
 };
 
 struct RestoreReport {
     std::filesystem::path folder;
     std::vector<RestoredFile> files;
-    /// Whether there is a database, and what its check found wrong.
+    /// Whether there is a database, and the faults that its check found.
     bool hasDatabase = false;
     std::vector<std::string> faults;
 
@@ -32,9 +32,9 @@ struct RestoreReport {
 
 using RestoreListener = std::function<void(const RestoredFile& file)>;
 
-/// Where an entry belongs, relative to the folder that is restored into: the database's own files
-/// directly in it, templates and attached files below "Documents" and "Files", with their whole
-/// former path. Empty for a path that would lead out of the folder, or is none.
+/// Returns the place of an entry, relative to the folder that is restored into: the database's own
+/// files directly in it, templates and attached files below "Documents" and "Files", with their
+/// whole former path. Empty for a path that would lead out of the folder or isn't valid.
 std::filesystem::path PlaceOf(const EntryHeader& header);
 
 /// Extracts the whole entries of a container into a folder, which is made and must not exist, or be
@@ -44,7 +44,7 @@ RestoreReport RestoreContainer(const std::filesystem::path& container,
                                const std::filesystem::path& folder, RestoreScope scope,
                                const RestoreListener& listener);
 
-/// The list of a container as CSV with a line of captions, a line an entry.
+/// Returns the list of a container as CSV: a line of captions, then a line for each entry.
 std::string ListAsCsv(const std::vector<ContainerEntry>& entries);
 
 } // namespace exchange

@@ -19,6 +19,7 @@ void BackUp(const exchange::BackupChoice& choice) {
     exchange::LoadBackupConfig(config);
     const exchange::BackupReport report =
         exchange::RunBackup(config, choice, [](const exchange::BackupLine& line) {
+            if (line.result.empty()) return; // it is still running
             std::cout << fmt::format("{}: {}\n", line.action, line.result) << std::flush;
         });
     if (report.outcome == exchange::BackupOutcome::Failed) throw platform::Error(report.text);

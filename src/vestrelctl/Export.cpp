@@ -1,5 +1,8 @@
+#include <algorithm>
 #include <iostream>
 #include <map>
+
+#include <fmt/core.h>
 
 #include "exchange/FinExport.h"
 #include "platform/system/Clock.h"
@@ -24,7 +27,8 @@ struct ExportWords {
     std::filesystem::path file;
 };
 
-/// A range of days that has one end has the other end of the screen's first proposal.
+/// Sets the range. Where only one of its days is given, the other is the one that the screen
+/// proposes.
 void ChooseRange(const ExportWords& words, exchange::ExportRange& range) {
     range = {exchange::TransRange::New,
              platform::DateAdd(platform::Interval::Month, -1, platform::Today()),
@@ -46,8 +50,13 @@ void Export(const ExportWords& words) {
     if (words.limit) request.limit = exchange::LimitLength::Yes;
     const exchange::FinExportObjection objection = exchange::ObjectionTo(request);
     if (!objection.text.empty()) throw platform::Error(objection.text);
-    for (const std::int32_t id : request.accounts)
-        AccountName("--account", id);
+    for (auto id = request.accounts.begin(); id != request.accounts.end(); ++id) {
+        AccountName("--account", *id);
+        // Its transactions would be in the file twice.
+        if (std::find(request.accounts.begin(), id, *id) != id) {
+            throw platform::Error(fmt::format("--account: {} is given twice", *id));
+        }
+    }
     // A script that sees the export fail runs it again, when its marks are made already.
     CheckOutput();
     std::cout << exchange::RunFinExport(request, words.file) << '\n';

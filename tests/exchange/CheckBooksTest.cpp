@@ -42,6 +42,11 @@ class CheckBooksTest : public CoreBooks {
 
 TEST_F(CheckBooksTest, FindsEachFaultByItself) {
     MakeBooks();
+    // A subsidy, whose payer is an account.
+    Run("INSERT INTO Transactions (IdTransaction, Class, Flags, IdLease, IdTenant, Amount, "
+        "DebitType, DebitId, CreditType, CreditId) VALUES (22, 2, 0, 4, 5, 40, 1, 5, 1, 5)");
+    Run("INSERT INTO RentLog (IdRentLog, IdLease, IdTransaction, Class, Amount, Flags) "
+        "VALUES (10, 4, 22, 2, 40, 2)");
     ASSERT_EQ(CheckSummary(Check()), "Everything is in order.");
     const struct {
         const char* statement;
@@ -54,9 +59,16 @@ TEST_F(CheckBooksTest, FindsEachFaultByItself) {
          "The identifier 5 belongs to several records: Account, Room"},
         {"INSERT INTO Account (ShowAs) VALUES ('x')", Severity::Fault,
          "1 record without an identifier: Account"},
-        {"UPDATE Configuration SET NextId = 21", Severity::Fault,
-         "New records would get identifiers that are in use: the next one is 21, the highest in "
-         "use is 21"},
+        {"UPDATE Configuration SET NextId = 22", Severity::Fault,
+         "New records would get identifiers that are in use: the next one is 22, the highest in "
+         "use is 22"},
+        {"UPDATE Transactions SET IdTenant = 77 WHERE IdTransaction = 22", Severity::Note,
+         "1 record of Transactions whose IdTenant names no Tenant: 22"},
+        {"DELETE * FROM Configuration", Severity::Fault,
+         "The settings are missing, and with them the counter of identifiers"},
+        {"INSERT INTO RentLog (IdRentLog, IdLease, IdTransaction, Class, Amount, Flags) "
+         "VALUES (30, 4, NULL, 2, 0, 2)",
+         Severity::Fault, "1 rent payment without a transaction: 30"},
         {"INSERT INTO Configuration (NextId) VALUES (100)", Severity::Fault,
          "The settings have 2 rows instead of one"},
         {"INSERT INTO Room (IdRoom, IdUnit) VALUES (30, 77)", Severity::Fault,

@@ -4,6 +4,7 @@
 
 #include "core/CoreFixture.h"
 #include "core/Session.h"
+#include "exchange/FinExport.h"
 #include "exchange/PortFile.h"
 #include "exchange/Stops.h"
 #include "platform/database/DatabaseReader.h"
@@ -178,8 +179,10 @@ TEST_F(PortTest, WritesTablesToTheByte) {
     EXPECT_EQ(ReadText(PathTo("database.csv")), ReadText(VESTREL_TEST_DATA "/expected/tables.csv"));
     EXPECT_EQ(status_,
               "Status: Export completed.\nTotal Tables Written = 3\nTotal Records Written = 4\n");
-    EXPECT_THROW(WriteTables(std::vector<std::string>{"Castle"}, PathTo("database.csv"), {}),
-                 platform::Error);
+    for (const std::vector<std::string>& wrong :
+         {std::vector<std::string>{"Castle"}, std::vector<std::string>{"Room", "room"}}) {
+        EXPECT_THROW(WriteTables(wrong, PathTo("database.csv"), {}), platform::Error);
+    }
 }
 
 TEST_F(PortTest, AsksForTablesAndAFile) {
@@ -188,7 +191,7 @@ TEST_F(PortTest, AsksForTablesAndAFile) {
     EXPECT_FALSE(ExportDatabase({}, Watcher()));
     EXPECT_EQ(person.Heard().back().title, "Export Error");
     EXPECT_EQ(person.Heard().back().text,
-              "\nYou must select at least one database\ntable for the database export to work.\n");
+              "\nYou must select at least one database\ntable for the database export to work.");
     const std::vector<std::string> tables = {"TransCategory"};
     EXPECT_TRUE(ExportDatabase(tables, Watcher()));
     EXPECT_EQ(choosers.Asked().back().title, "Select Export File");
@@ -268,6 +271,10 @@ TEST_F(PortTest, ReadsFilesOfOtherMakes) {
         {"table,room,/table,,\r\nfields,idroom,roomtype,/fields,\r\nrecord, 1 ,Bed "
          "room,/record\r\n",
          "Bed room"},
+        {"\"Table\",\"Room\",\"/Table\",\"\",\"\"\n"
+         "\"Fields\",\"IdRoom\",\"RoomType\",\"/Fields\",\"\"\n\"Record\",1,\"Attic\",\"/"
+         "Record\",\"\"",
+         "Attic"},
         {std::string(kRooms) + "a remark\n\n\"Record\" , 1 , \"x\"\"y\" , \"/Record\" \n", "x\"y"},
     };
     for (const auto& each : cases) {
@@ -286,6 +293,34 @@ TEST_F(PortTest, ReadsFilesOfOtherMakes) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM Room"), "1");
 }
 
+TEST_F(PortTest, GivesUpALineWhoseQuoteIsNeverClosed) {
+    constexpr std::size_t kMegabyte = 1 << 20;
+    WriteText(PathTo("database.csv"), std::string(kRooms) +
+                                          "\"Record\",1,\"5\" pipe\",\"/Record\"\n" +
+                                          std::string(70 * kMegabyte, 'x'));
+    const ImportOutcome outcome = Import(ImportMode::Test);
+    EXPECT_EQ(outcome.error,
+              "the line is longer than 64 MB; the closing quote of a text may be missing.");
+    EXPECT_EQ(outcome.line, 3);
+}
+
+TEST_F(PortTest, NeverReplacesTheDatabaseByAnExport) {
+    Run("INSERT INTO Room (IdRoom, RoomType) VALUES (1, 'old')");
+    std::filesystem::create_symlink("Vestrel.mdb", PathTo("link.csv"));
+    const std::vector<std::string> before = Dump();
+    for (const char* const own : {"Vestrel.mdb", "Vestrel.mdb-wal", "Vestrel.mdb-journal",
+                                  "Version", "BaR.cfg", "Notes.txt", "link.csv"}) {
+        EXPECT_THROW(WriteTables(std::vector<std::string>{"Room"}, PathTo(own), {}),
+                     platform::Error)
+            << own;
+        EXPECT_THROW(RunFinExport({.accounts = {1}}, PathTo(own)), platform::Error) << own;
+    }
+    EXPECT_EQ(Dump(), before);
+    EXPECT_EQ(ReadText(PathTo("Version")), "9");
+    std::filesystem::create_directory(PathTo("elsewhere"));
+    WriteTables(std::vector<std::string>{"Room"}, PathTo("elsewhere/Notes.txt"), {});
+}
+
 TEST_F(PortTest, AppendsOrReplacesWhatIsThere) {
     Run("INSERT INTO Room (IdRoom, RoomType) VALUES (1, 'old')");
     WriteText(PathTo("database.csv"), std::string(kRooms) + "\"Record\",1,\"new\",\"/Record\"\n" +
@@ -295,7 +330,7 @@ TEST_F(PortTest, AppendsOrReplacesWhatIsThere) {
     EXPECT_EQ(NamesIn(Folder()).find("before"), std::string::npos);
     for (int i = 0; i < 7; ++i) {
         EXPECT_TRUE(Import(ImportMode::Write, ImportRows::Overwrite).Succeeded());
-        EXPECT_EQ(Ask("SELECT Count(*) FROM Room"), "2") << "both groups of the file stay";
+        EXPECT_EQ(Ask("SELECT RoomType FROM Room"), "newer") << "each group replaces all rows";
     }
     EXPECT_NE(status_.find(PathTo("Vestrel before import 7.mdb")), std::string::npos) << status_;
     for (int number = 1; number <= 7; ++number) {
@@ -304,7 +339,7 @@ TEST_F(PortTest, AppendsOrReplacesWhatIsThere) {
     }
     platform::Connection copy;
     copy.Open(PathTo("Vestrel before import 7.mdb"), platform::OpenMode::ReadOnly);
-    EXPECT_EQ(copy.Scalar("SELECT Count(*) FROM Room")->AsLong(), 2);
+    EXPECT_EQ(copy.Scalar("SELECT Count(*) FROM Room")->AsLong(), 1);
 
     // The settings stay one row even when rows are appended.
     Run("INSERT INTO Configuration (NextId, CompanyName) VALUES (5, 'Old')");

@@ -145,10 +145,15 @@ void frmBackup::closeEvent(QCloseEvent* event) {
     if (closed_) std::exchange(closed_, {})();
 }
 
+/// Completes the line of a step that was running, or adds a line.
 void frmBackup::AddLine(const BackupLine& line) {
-    auto* const row =
-        new QTreeWidgetItem(ui_->lstResults, {ToScreen(line.action), ToScreen(line.result)});
-    row->setToolTip(0, row->text(0));
+    const QString action = ToScreen(line.action);
+    QTreeWidgetItem* row = nullptr;
+    for (QTreeWidgetItem* const shown : ui_->lstResults->findItems(action, Qt::MatchExactly))
+        if (shown->text(1).isEmpty()) row = shown;
+    if (row == nullptr) row = new QTreeWidgetItem(ui_->lstResults, {action});
+    row->setText(1, ToScreen(line.result));
+    row->setToolTip(0, action);
     ui_->lstResults->scrollToItem(row);
 }
 
