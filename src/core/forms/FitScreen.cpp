@@ -10,6 +10,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/forms/ActionBar.h"
+
 namespace core::forms {
 
 namespace {
@@ -49,6 +51,13 @@ void LetScroll(QWidget& page) {
     outer->addWidget(area);
 }
 
+/// What a window may take of its screen, its frame left out.
+QSize RoomFor(const QWidget& window) {
+    const QSize frame = window.frameGeometry().size() - window.geometry().size();
+    return window.screen()->availableGeometry().size() -
+           QSize(frame.width(), std::max(frame.height(), kTitleHeight));
+}
+
 bool TakesEntry(const QWidget& widget) {
     if (!widget.isEnabled() || !widget.isVisible()) return false;
     if ((widget.focusPolicy() & Qt::TabFocus) == 0) return false;
@@ -67,13 +76,38 @@ void LetPagesScroll(QWidget& form) {
         LetScroll(*tabs->widget(page));
 }
 
+bool LetFormScroll(QWidget& form) {
+    const QSize room = RoomFor(form);
+    const QSize wanted = form.sizeHint();
+    auto* const column = qobject_cast<QVBoxLayout*>(form.layout());
+    if (!column || (wanted.width() <= room.width() && wanted.height() <= room.height()))
+        return false;
+    auto* const area = new PageArea(&form);
+    area->setObjectName(QStringLiteral("scroll"));
+    auto* const contents = new QWidget(area);
+    auto* const rows = new QVBoxLayout(contents);
+    rows->setContentsMargins(0, 0, 0, 0);
+    while (column->count() > 0) {
+        QLayoutItem* const item = column->itemAt(0);
+        if (qobject_cast<ActionBar*>(item->widget())) break;
+        rows->addItem(column->takeAt(0));
+        if (item->widget()) item->widget()->setParent(contents);
+        if (item->layout()) item->layout()->setParent(rows);
+    }
+    area->setWidget(contents);
+    column->insertWidget(0, area);
+    form.resize(form.sizeHint().boundedTo(room));
+    return true;
+}
+
 void FitToScreen(QWidget& window) {
     const QScreen* const screen = window.screen();
     if (!screen || window.isMaximized()) return;
     const QRect available = screen->availableGeometry();
     const QSize frame = window.frameGeometry().size() - window.geometry().size();
-    const QSize room =
-        available.size() - QSize(frame.width(), std::max(frame.height(), kTitleHeight));
+    const QSize room = RoomFor(window);
+    // A form's own least size is the one it would like to have.
+    window.setMinimumSize(window.minimumSize().boundedTo(room));
     if (window.width() > room.width() || window.height() > room.height())
         window.resize(window.size().boundedTo(room));
     const QRect now(window.pos(), window.size() + frame);

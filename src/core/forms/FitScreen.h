@@ -8,6 +8,9 @@ namespace core::forms {
 /// them. At its natural size nothing changes.
 void LetPagesScroll(QWidget& form);
 
+/// Lets a form scroll all but its buttons if it is larger than its screen; returns true if it is.
+bool LetFormScroll(QWidget& form);
+
 /// Shrinks and moves a window so that all of it, its frame included, is on its screen.
 void FitToScreen(QWidget& window);
 

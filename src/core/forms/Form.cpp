@@ -96,7 +96,8 @@ void Form::Restore() {
         // A page that scrolls would be content with two thirds of the screen.
         if (!testAttribute(Qt::WA_Resized)) resize(sizeHint());
     }
-    if (sizing_ == FormSizing::Fixed && layout())
+    const bool scrolls = LetFormScroll(*this);
+    if (sizing_ == FormSizing::Fixed && layout() && !scrolls)
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     RestoreWindow(*this, sizing_);
 }

@@ -19,12 +19,13 @@ constexpr int kRowsWanted = 6; // a lower list isn't worth its place
 
 } // namespace
 
-RecordList::RecordList(QWidget* parent)
-    : QWidget(parent), grid_(new Grid(this)), head_(new QHBoxLayout) {
+RecordList::RecordList(QWidget* parent) : QWidget(parent), head_(new QHBoxLayout) {
     setProperty("panel", true);
+    // Tab goes through them in the order of their making.
     add_ = MakeButton("add", tr("Add"), QStringLiteral("cmdAdd"));
     edit_ = MakeButton("edit", tr("Edit"), QStringLiteral("cmdEdit"));
     delete_ = MakeButton("delete", tr("Delete"), QStringLiteral("cmdDelete"));
+    grid_ = new Grid(this);
 
     grid_->setObjectName(QStringLiteral("grd"));
     grid_->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -39,9 +40,6 @@ RecordList::RecordList(QWidget* parent)
         head_->addWidget(button);
     column->addLayout(head_);
     column->addWidget(grid_);
-    setTabOrder(add_, edit_);
-    setTabOrder(edit_, delete_);
-    setTabOrder(delete_, grid_);
     Connect();
     ShowAvailable();
 }

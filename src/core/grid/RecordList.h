@@ -51,7 +51,7 @@ class RecordList : public QWidget {
     void ShowAvailable();
     void KeepWidths();
 
-    Grid* grid_;
+    Grid* grid_ = nullptr;
     QHBoxLayout* head_;
     QToolButton* add_;
     QToolButton* edit_;

@@ -1,100 +1,28 @@
 #include <gmock/gmock.h>
 
-#include <QApplication>
 #include <QTabWidget>
 #include <algorithm>
 
-#include "core/EditRecord.h"
-#include "core/RecordKinds.h"
-#include "core/Startup.h"
-#include "core/forms/OpenForms.h"
 #include "core/forms/RecordForm.h"
-#include "kestrom/Wiring.h"
+#include "kestrom/screens/SampleEditors.h"
 #include "platform/database/Recordset.h"
 #include "platform/qt/Text.h"
-#include "platform/system/Clock.h"
-#include "shell/Registrations.h"
-#include "shell/SampleLife.h"
 #include "shell/screens/frmConfig.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
 #include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
 
 namespace {
 
 using core::forms::Form;
 using platform::qt::FromScreen;
 using testing::IsEmpty;
+using tests::Kind;
+using tests::kKinds;
 using Said = std::vector<std::string>;
 
-struct Kind {
-    std::int16_t kind;
-    const char* table;
-    const char* idField;
-};
-
-constexpr Kind kKinds[] = {
-    {core::kAccount, "Account", "IdAccount"},
-    {core::kLease, "Lease", "IdLease"},
-    {core::kMortgage, "Mortgage", "IdMortgage"},
-    {core::kTenant, "Tenant", "IdTenant"},
-    {core::kWorkOrder, "WorkOrder", "IdWorkOrder"},
-    {core::kIncident, "Incident", "IdIncident"},
-    {core::kAppliance, "Appliance", "IdAppliance"},
-    {core::kRoom, "Room", "IdRoom"},
-    {core::kTransaction, "Transactions", "IdTransaction"},
-    {core::kMileage, "Mileage", "IdMileage"},
-    {core::kOwner, "OwnerLink", "IdOwnerLink"},
-    {core::kDeposit, "Deposit", "IdDeposit"},
-    {core::kManager, "ManagerLink", "IdManagerLink"},
-    {core::kAutoEvent, "AutoEvent", "IdAutoEvent"},
-    {core::kContent, "Content", "IdContent"},
-    {core::kSvcContract, "SvcContract", "IdSvcContract"},
-    {core::kMortgageLog, "MortgageLog", "IdMortgageLog"},
-    {core::kWorkOrderHistory, "WOItem", "IdWOItem"},
-    {core::kBuilding, "Building", "IdBuilding"},
-    {core::kUnit, "Unit", "IdUnit"},
-    {core::kRentLog, "RentLog", "IdRentLog"},
-};
-
-/// Every editor of the program, wired as the program wires it, on a sample portfolio.
-class Editors : public support::ScreenTest {
+class Editors : public tests::SampleEditors {
   protected:
-    Editors() {
-        core::App().Connection.Close();
-        platform::SetToday(platform::Date(2026, 11, 21));
-        shell::RegisterLogic();
-        shell::MakeSamplePortfolio(Folder() / "sample", kUnits, platform::Today());
-        core::App().DbPath = PathTo("sample/");
-        core::App().Connection.Open(Folder() / "sample" / "Vestrel.mdb");
-        core::LoadBooks();
-        core::forms::RegisterOpenForms();
-        kestrom::RegisterEditors();
-    }
-    ~Editors() override {
-        for (std::int16_t kind = 0; kind <= core::kUtilityAccount; ++kind)
-            core::RegisterOpener(kind, {});
-        for (const auto editor :
-             {core::TransactionEditor::Transaction, core::TransactionEditor::RentPayment,
-              core::TransactionEditor::MortgagePayment}) {
-            core::RegisterTransactionOpener(editor, {});
-        }
-    }
-
-    static std::vector<Form*> Open() {
-        std::vector<Form*> forms;
-        for (QWidget* const window : QApplication::topLevelWidgets()) {
-            auto* const form = qobject_cast<Form*>(window);
-            if (form && form->isVisible()) forms.push_back(form);
-        }
-        return forms;
-    }
-    static std::int32_t SomeId(const Kind& kind) {
-        const std::string id =
-            Ask(std::string("SELECT Max(") + kind.idField + ") FROM " + kind.table);
-        return id == "NULL" ? 0 : std::stoi(id);
-    }
     /// The ids of a few records of a kind: every so many of them.
     static std::vector<std::int32_t> SomeIds(const Kind& kind) {
         platform::Recordset rows;
@@ -178,8 +106,6 @@ class Editors : public support::ScreenTest {
         if (form.width() > 1280 || form.height() > 770) faults.push_back("too big: " + name);
         return faults;
     }
-
-    static constexpr int kUnits = 6;
 };
 
 TEST_F(Editors, OpenRecordsCleanAndOnlyOnce) {

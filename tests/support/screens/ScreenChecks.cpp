@@ -6,7 +6,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <algorithm>
 #include <map>
+#include <set>
 
 #include "core/binding/Binding.h"
 #include "platform/qt/Text.h"
@@ -36,13 +38,14 @@ bool IsEntry(const QWidget& control) {
            qobject_cast<const QPlainTextEdit*>(&control);
 }
 
-/// Whether `b` comes before `a` for a reader: higher by more than half a line, or left of it.
+/// Whether `b` comes before `a` for a reader: above it, or beside it on its left.
 bool IsBefore(const QWidget& b, const QWidget& a, const QWidget& screen) {
-    const QPoint first = b.mapTo(&screen, QPoint(0, b.height() / 2));
-    const QPoint second = a.mapTo(&screen, QPoint(0, a.height() / 2));
-    constexpr int kHalfLine = 10;
-    if (std::abs(first.y() - second.y()) > kHalfLine) return first.y() < second.y();
-    return first.x() < second.x();
+    const QRect first(b.mapTo(&screen, QPoint(0, 0)), b.size());
+    const QRect second(a.mapTo(&screen, QPoint(0, 0)), a.size());
+    const int shared =
+        std::min(first.bottom(), second.bottom()) - std::max(first.top(), second.top());
+    const bool areBeside = 2 * shared > std::min(first.height(), second.height());
+    return areBeside ? first.left() < second.left() : first.top() < second.top();
 }
 
 /// The page that scrolls around a control; null if none does.
@@ -87,11 +90,13 @@ std::vector<std::string> MnemonicFaults(const QWidget& screen) {
 std::vector<std::string> TabOrderFaults(QWidget& screen) {
     std::vector<std::string> faults;
     const QWidget* before = nullptr;
+    std::set<const QWidget*> reached;
     for (const QWidget* widget = screen.nextInFocusChain(); widget && widget != &screen;
          widget = widget->nextInFocusChain()) {
         const bool isStop = widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 &&
                             widget->window() == &screen &&
                             !widget->objectName().startsWith(QLatin1String("qt_"));
+        reached.insert(widget);
         if (!isStop) continue;
         const bool isInside = before && before->isAncestorOf(widget);
         if (before && !isInside && AreComparable(*before, *widget, screen) &&
@@ -99,6 +104,12 @@ std::vector<std::string> TabOrderFaults(QWidget& screen) {
             faults.push_back(NameOf(*widget) + " comes after " + NameOf(*before));
         }
         before = widget;
+    }
+    for (const QWidget* const control : core::binding::ControlsOf(screen)) {
+        const bool isStop = control->isVisible() && (control->focusPolicy() & Qt::TabFocus) != 0 &&
+                            control->window() == &screen;
+        if (isStop && !reached.contains(control))
+            faults.push_back(NameOf(*control) + " is never reached by Tab");
     }
     return faults;
 }

@@ -11,7 +11,8 @@ namespace support {
 /// Two controls that show together with the same letter to jump to, and letters that jump nowhere.
 std::vector<std::string> MnemonicFaults(const QWidget& screen);
 
-/// Controls that the Tab key reaches out of reading order: from top to bottom, then left to right.
+/// Controls that the Tab key never reaches, or out of reading order: from top to bottom, then left
+/// to right.
 std::vector<std::string> TabOrderFaults(QWidget& screen);
 
 /// Controls for entries that have no name for those who can't see them.

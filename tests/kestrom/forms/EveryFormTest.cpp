@@ -1,0 +1,160 @@
+#include <gmock/gmock.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <functional>
+#include <set>
+
+#include "books/screens/frmDepreciation.h"
+#include "core/FormPosition.h"
+#include "core/binding/Binding.h"
+#include "exchange/screens/frmBackup.h"
+#include "exchange/screens/frmRestore.h"
+#include "kestrom/screens/SampleEditors.h"
+#include "leases/screens/frmRentPayment.h"
+#include "leases/screens/frmRentSplit.h"
+#include "mortgages/screens/frmMortgagePayment.h"
+#include "platform/qt/Text.h"
+#include "shell/screens/frmPosted.h"
+#include "support/screens/Driving.h"
+#include "support/screens/ScreenChecks.h"
+
+namespace {
+
+using core::forms::Form;
+using platform::qt::FromScreen;
+using testing::IsEmpty;
+using Faults = std::set<std::string>;
+
+struct Opening {
+    std::string name;
+    std::function<void()> open;
+};
+
+/// Every form that can be opened, one after the other.
+class EveryForm : public tests::SampleEditors {
+  protected:
+    static std::int32_t Id(const char* sql) { return std::stoi(Ask(sql)); }
+
+    static std::vector<Opening> Openings() {
+        std::vector<Opening> openings;
+        for (const tests::Kind& kind : tests::kKinds) {
+            if (!core::HasEditor(kind.kind)) continue;
+            openings.push_back(
+                {kind.table, [&kind] { core::EditRecord(kind.kind, SomeId(kind)); }});
+            openings.push_back(
+                {std::string("new ") + kind.table, [&kind] { core::EditRecord(kind.kind, 0); }});
+        }
+        const auto commands = kestrom::MenuCommands();
+        for (const char* const item : kMenuItems) {
+            openings.push_back(
+                {item, [commands, item] { commands.Run(QString::fromLatin1(item), {}); }});
+        }
+        openings.push_back({"frmRentPayment", [] {
+                                (new leases::screens::frmRentPayment)
+                                    ->Setup(0, Id("SELECT Max(IdLease) FROM Lease"),
+                                            leases::RentClass::Rent, leases::LeaseUpdate::Yes);
+                            }});
+        openings.push_back({"frmMortgagePayment", [] {
+                                (new mortgages::screens::frmMortgagePayment)
+                                    ->Setup(0, Id("SELECT Max(IdMortgage) FROM Mortgage"));
+                            }});
+        openings.push_back({"frmRentSplit", [] {
+                                (new leases::screens::frmRentSplit)
+                                    ->Setup(Id("SELECT Max(IdRentLog) FROM RentLog"));
+                            }});
+        openings.push_back({"frmBackup", [] { (new exchange::screens::frmBackup)->Setup(); }});
+        openings.push_back({"frmRestore", [] { (new exchange::screens::frmRestore)->Setup(); }});
+        openings.push_back({"frmPosted", [] { (new shell::screens::frmPosted)->Setup({}); }});
+        return openings;
+    }
+
+    static bool IsEntry(const QWidget& widget) {
+        if (const auto* const line = qobject_cast<const QLineEdit*>(&widget))
+            return !line->isReadOnly();
+        if (const auto* const text = qobject_cast<const QPlainTextEdit*>(&widget))
+            return !text->isReadOnly();
+        return qobject_cast<const QComboBox*>(&widget) != nullptr;
+    }
+    static bool CanEnter(const QWidget& widget) {
+        return IsEntry(widget) && widget.isVisible() && widget.isEnabled() &&
+               (widget.focusPolicy() & Qt::TabFocus) != 0;
+    }
+    static bool Scrolls(const QWidget& control) {
+        for (const QWidget* at = control.parentWidget(); at; at = at->parentWidget())
+            if (qobject_cast<const QScrollArea*>(at)) return true;
+        return false;
+    }
+
+    /// The window lies on the screen, and what doesn't scroll lies in the window.
+    static Faults PlaceFaults(const Form& form, const std::string& name) {
+        Faults faults;
+        const QRect screen = form.screen()->availableGeometry();
+        if (!screen.contains(form.frameGeometry())) {
+            faults.insert(name + " has " + std::to_string(form.frameGeometry().width()) + "x" +
+                          std::to_string(form.frameGeometry().height()));
+        }
+        for (const QWidget* const control : form.findChildren<QWidget*>()) {
+            const bool acts = qobject_cast<const QAbstractButton*>(control) || IsEntry(*control);
+            if (!acts || !control->isVisible() || control->window() != &form) continue;
+            if (Scrolls(*control) || control->objectName().startsWith(QLatin1String("qt_")))
+                continue;
+            const QRect place(control->mapTo(&form, QPoint(0, 0)), control->size());
+            if (form.rect().contains(place)) continue;
+            faults.insert(name + ": " + FromScreen(control->objectName()) + " can't be reached");
+        }
+        return faults;
+    }
+    static Faults FocusFaults(const Form& form, const std::string& name) {
+        const QWidget* const focus = form.focusWidget();
+        if (focus && (CanEnter(*focus) || qobject_cast<const QAbstractItemView*>(focus))) return {};
+        for (const QWidget* const control : form.findChildren<QWidget*>()) {
+            if (!CanEnter(*control) || control->window() != &form) continue;
+            return {name + " opens on " + (focus ? FromScreen(focus->objectName()) : "nothing") +
+                    " rather than " + FromScreen(control->objectName())};
+        }
+        return {};
+    }
+
+    static constexpr const char* kMenuItems[] = {
+        "mnuConfig",         "mnuGeneralReports", "mnuPreferences", "mnuLeaseWizard",
+        "mnuMortgageWizard", "mnuFinExport",      "mnuPort",        "mnuCheck",
+        "mnuAutoEvents",     "mnuTransCategory",  "mnuDocMgmt",     "mnuHelpAbout"};
+};
+
+TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
+    std::set<std::string> faults;
+    for (const Opening& opening : Openings()) {
+        // The second time from a place that was stored on a larger screen.
+        for (const char* const time : {"", " again"}) {
+            const std::string name = opening.name + time;
+            opening.open();
+            support::SettleEvents();
+            ASSERT_EQ(Open().size(), 1U) << name;
+            Form& form = *Open().front();
+            faults.merge(FocusFaults(form, name));
+            auto* const tabs = form.findChild<QTabWidget*>();
+            for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
+                if (tabs) tabs->setCurrentIndex(page);
+                support::SettleEvents();
+                faults.merge(PlaceFaults(form, name));
+                for (const std::string& fault : support::TabOrderFaults(form))
+                    faults.insert(name + ": " + fault);
+            }
+            const std::string key = FromScreen(form.objectName());
+            form.CloseUnasked();
+            support::SettleEvents();
+            ASSERT_THAT(Open(), IsEmpty()) << name;
+            core::SaveForm(key, core::WindowState::Normal, {-30, 200, 3000, 2000});
+        }
+    }
+    EXPECT_THAT(faults, IsEmpty());
+}
+
+} // namespace
