@@ -1,5 +1,6 @@
 #include "books/Mileage.h"
 
+#include "books/TripLog.h"
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/RecordHelpers.h"
@@ -10,17 +11,6 @@ namespace books {
 
 using platform::CursorMode;
 using platform::Recordset;
-
-namespace {
-
-/// The user of the session as the table of users knows them, 0 if it doesn't.
-std::int32_t UserId() {
-    const auto id =
-        core::LookUp("SELECT IdUser FROM Users WHERE UserName = ?", {core::App().UserName});
-    return id ? id->AsLong() : 0;
-}
-
-} // namespace
 
 std::int32_t WriteTrip(std::int32_t idMileage, const Transaction& transaction) {
     const std::string vehicle = core::GetDefaultCar();
@@ -37,8 +27,8 @@ std::int32_t WriteTrip(std::int32_t idMileage, const Transaction& transaction) {
                   CursorMode::Updatable, {idMileage});
         if (trip.Eof()) trip.AddNew();
     }
+    SetNewTripFields(trip);
     trip["IdMileage"].Set(idMileage);
-    trip["Selected"].Set(false);
     trip["EntryDate"].Set(transaction.dateEffective.ToText());
     trip["Vehicle"].Set(vehicle);
     trip["OBegin"].Set(static_cast<double>(begin));
@@ -47,9 +37,7 @@ std::int32_t WriteTrip(std::int32_t idMileage, const Transaction& transaction) {
     trip["Destination"].Set(transaction.credit.description);
     trip["Purpose"].Set(transaction.taxCategory);
     trip["Meal"].Set(platform::Currency());
-    trip["IdWorkOrder"].Set(std::int32_t{0});
     trip["IdBuilding"].Set(transaction.idBuilding);
-    trip["idUser"].Set(UserId());
     trip.Update();
     return idMileage;
 }

@@ -19,7 +19,7 @@ struct Preference {
     std::variant<bool P::*, std::int32_t P::*> member;
 };
 
-const std::array<Preference, 24> kPreferences = {{
+const std::array<Preference, 25> kPreferences = {{
     {"EnableExpert", &P::EnableExpert},
     {"AutoSize", &P::AutoSize},
     {"DisplayDays", &P::DisplayDays},
@@ -43,6 +43,7 @@ const std::array<Preference, 24> kPreferences = {{
     {R"(Reports\ColWrap)", &P::ColWrap},
     {R"(Reports\ViewNavbar)", &P::ViewNavbar},
     {R"(Reports\ViewToolbar)", &P::ViewToolbar},
+    {"ViewMileageDays", &P::ViewMileageDays},
     {"Appearance", &P::Appearance},
 }};
 

@@ -37,6 +37,9 @@ struct PreferenceValues {
     bool ViewNavbar = true;
     bool ViewToolbar = true;
 
+    /// The days that the mileage log shows, 0 for all.
+    std::int32_t ViewMileageDays = 90;
+
     /// The colours: 0 the system's, 1 light, 2 dark.
     std::int32_t Appearance = 0;
 };
