@@ -24,35 +24,34 @@ std::string TimeOfDay() {
                        second % kHour / kMinute, second % kMinute, hour < kNoon ? "AM" : "PM");
 }
 
-struct Tag {
-    std::string_view name;
-    std::string (*value)();
-};
-
 constexpr std::array kTags = {
-    Tag{"day", [] { return std::to_string(platform::Today().Day()); }},
-    Tag{"month", [] { return std::to_string(platform::Today().Month()); }},
-    Tag{"monthname", [] { return platform::FormatDate(platform::Today(), "mmmm"); }},
-    Tag{"year", [] { return std::to_string(platform::Today().Year()); }},
-    Tag{"date", [] { return platform::Today().ToText(); }},
-    Tag{"time", [] { return TimeOfDay(); }},
-    Tag{"companyname", [] { return Config().CompanyName; }},
-    Tag{"address", [] { return Config().Address; }},
-    Tag{"city", [] { return Config().City; }},
-    Tag{"state", [] { return Config().State; }},
-    Tag{"zip", [] { return Config().Zip; }},
-    Tag{"phone", [] { return Config().Phone; }},
-    Tag{"fax", [] { return Config().FAX; }},
-    Tag{"email", [] { return Config().Email; }},
-    Tag{"web", [] { return Config().Web; }},
+    SystemTag{"day", [] { return std::to_string(platform::Today().Day()); }},
+    SystemTag{"month", [] { return std::to_string(platform::Today().Month()); }},
+    SystemTag{"monthname", [] { return platform::FormatDate(platform::Today(), "mmmm"); }},
+    SystemTag{"year", [] { return std::to_string(platform::Today().Year()); }},
+    SystemTag{"date", [] { return platform::Today().ToText(); }},
+    SystemTag{"time", [] { return TimeOfDay(); }},
+    SystemTag{"companyname", [] { return Config().CompanyName; }},
+    SystemTag{"address", [] { return Config().Address; }},
+    SystemTag{"city", [] { return Config().City; }},
+    SystemTag{"state", [] { return Config().State; }},
+    SystemTag{"zip", [] { return Config().Zip; }},
+    SystemTag{"phone", [] { return Config().Phone; }},
+    SystemTag{"fax", [] { return Config().FAX; }},
+    SystemTag{"email", [] { return Config().Email; }},
+    SystemTag{"web", [] { return Config().Web; }},
     // The settings name a county only as the default of new records.
-    Tag{"county", [] { return Config().DefaultCounty; }},
+    SystemTag{"county", [] { return Config().DefaultCounty; }},
 };
 
 } // namespace
 
+std::span<const SystemTag> SystemTags() {
+    return kTags;
+}
+
 std::optional<std::string> SystemTagValue(std::string_view name) {
-    for (const Tag& tag : kTags) {
+    for (const SystemTag& tag : kTags) {
         if (platform::EqualIgnoringCase(tag.name, name)) return tag.value();
     }
     return std::nullopt;
