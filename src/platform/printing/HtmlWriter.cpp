@@ -122,39 +122,28 @@ std::string_view TagOf(HeadingLevel level) {
     return "p";
 }
 
-std::string_view BorderClass(TableBorder border) {
-    switch (border) {
-        case TableBorder::None:
-            break;
-        case TableBorder::Bottom:
-            return "bottom";
-        case TableBorder::Top:
-            return "top";
-        case TableBorder::TopBottom:
-            return "top bottom";
-        case TableBorder::Box:
-            return "box";
-        case TableBorder::Columns:
-            return "cols";
-        case TableBorder::ColTopBottom:
-            return "cols top bottom";
-        case TableBorder::BelowHeader:
-            return "below";
-        case TableBorder::BoxRows:
-            return "box below rows";
-        case TableBorder::BoxColumns:
-            return "box cols";
-        case TableBorder::All:
-            return "box below rows cols";
-    }
-    return "";
+std::string BorderClasses(TableBorder border) {
+    const BorderLines lines = LinesOf(border);
+    std::string names;
+    if (lines.sides) names += " box";
+    if (lines.belowHeader) names += " below";
+    if (lines.rows) names += " rows";
+    if (lines.columns) names += " cols";
+    if (lines.top && !lines.sides) names += " top";
+    if (lines.bottom && !lines.sides) names += " bottom";
+    return names.empty() ? names : names.substr(1);
 }
 
-std::string ClassAttribute(const TableColumn& column, bool header) {
+enum class CellKind { Header, Body, Amount, NegativeAmount };
+
+std::string ClassAttribute(const TableColumn& column, CellKind kind) {
+    const bool isAmount = kind == CellKind::Amount || kind == CellKind::NegativeAmount;
     std::string names;
-    if (column.align == TextAlign::Right) names += " r";
-    if (column.align == TextAlign::Center) names += " c";
-    if (column.bold && !header) names += " b";
+    if (isAmount || column.align == TextAlign::Right) names += " r";
+    if (!isAmount && column.align == TextAlign::Center) names += " c";
+    // The room of the bracket that a negative amount has.
+    if (kind == CellKind::Amount) names += " m";
+    if (column.bold && kind != CellKind::Header) names += " b";
     if (column.wrap == Wrap::Ellipsis) names += " n";
     if (names.empty()) return names;
     return " class=\"" + names.substr(1) + '"';
@@ -221,7 +210,7 @@ void HtmlWriter::BeginTable(const PrintStyle& style, const PrintTable& table,
         attributes.pop_back();
         attributes += fmt::format(";width:{:.0f}%;min-width:min(100%,25em)\"", share * 100);
     }
-    const std::string_view border = BorderClass(table.border);
+    const std::string border = BorderClasses(table.border);
     if (!border.empty()) attributes += fmt::format(" class=\"{}\"", border);
     out_ += fmt::format("<div><table{}>\n<colgroup>", attributes);
     for (const Twips width : widths) {
@@ -230,8 +219,11 @@ void HtmlWriter::BeginTable(const PrintStyle& style, const PrintTable& table,
     out_ += "</colgroup>\n";
     columns_.clear();
     for (const TableColumn& column : table.columns) {
-        const std::string attribute = ClassAttribute(column, false);
-        columns_.push_back({"<td" + attribute + ">", column.alignCurrency});
+        const auto start = [&column](CellKind kind) {
+            return "<td" + ClassAttribute(column, kind) + '>';
+        };
+        const std::string body = start(column.alignCurrency ? CellKind::Amount : CellKind::Body);
+        columns_.push_back({body, column.alignCurrency ? start(CellKind::NegativeAmount) : body});
     }
     if (!table.header.cells.empty()) WriteHeader(table);
     out_ += "<tbody>\n";
@@ -244,7 +236,7 @@ void HtmlWriter::WriteHeader(const PrintTable& table) {
     }
     out_ += '>';
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        out_ += "<th" + ClassAttribute(table.columns[i], true);
+        out_ += "<th" + ClassAttribute(table.columns[i], CellKind::Header);
         if (!table.header.bold) out_ += " style=\"font-weight:normal\"";
         out_ += '>';
         if (i < table.header.cells.size()) Escape(out_, table.header.cells[i]);
@@ -256,11 +248,7 @@ void HtmlWriter::WriteHeader(const PrintTable& table) {
 void HtmlWriter::TableRow(std::span<const std::string_view> cells) {
     out_ += "<tr>";
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        if (columns_[i].alignCurrency) {
-            out_ += cells[i].ends_with(')') ? "<td class=\"r\">" : "<td class=\"r m\">";
-        } else {
-            out_ += columns_[i].start;
-        }
+        out_ += cells[i].ends_with(')') ? columns_[i].bracketStart : columns_[i].start;
         Escape(out_, cells[i], "\n");
         out_ += "</td>";
     }

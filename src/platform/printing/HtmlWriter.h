@@ -26,8 +26,8 @@ class HtmlWriter : public FlowSink {
 
   private:
     struct Column {
-        std::string start; ///< "<td>" with the column's attributes
-        bool alignCurrency;
+        std::string start;        ///< "<td>" with the column's attributes
+        std::string bracketStart; ///< the same for a text that ends in a bracket
     };
 
     void WriteHeader(const PrintTable& table);

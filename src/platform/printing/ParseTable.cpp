@@ -57,6 +57,12 @@ std::vector<TableColumn> ParseTableFormat(std::string_view format) {
     return columns;
 }
 
+bool LooksLikeAmount(std::string_view text) {
+    return !text.empty() &&
+           text.find_first_not_of("0123456789.,()-+$% ") == std::string_view::npos &&
+           text.find_first_of("0123456789") != std::string_view::npos;
+}
+
 std::vector<std::vector<std::string>> ParseTableText(std::string_view text) {
     std::vector<std::vector<std::string>> rows;
     for (const std::string_view line : Split(text, ';')) {

@@ -26,6 +26,18 @@ enum class TableBorder : std::uint8_t {
     All = 10,
 };
 
+/// Where a border has lines: around the table and between its rows and columns.
+struct BorderLines {
+    bool top;
+    bool bottom;
+    bool sides;
+    bool columns;
+    bool belowHeader;
+    bool rows;
+};
+
+BorderLines LinesOf(TableBorder border);
+
 enum class VerticalAlign : std::uint8_t { Top, Middle, Bottom };
 /// Whether a column's text goes on in a further line or is cut with an ellipsis.
 enum class Wrap : std::uint8_t { Wrap, Ellipsis };
@@ -86,6 +98,9 @@ struct PrintTable {
 /// unit that ParseLength reads; a column without a width, or with none above 0, shares what is
 /// left.
 std::vector<TableColumn> ParseTableFormat(std::string_view format);
+
+/// True for a text such as "1,234.50", "(12.00)" or "-5%": digits with the signs of numbers.
+bool LooksLikeAmount(std::string_view text);
 
 /// The rows and cells of a text: rows separated by ";", cells by "|". An empty text has no rows; a
 /// ";" at the end of the text adds none.

@@ -11,6 +11,7 @@ namespace platform {
 namespace {
 
 constexpr std::size_t kPart = 32'768;
+constexpr Twips kCellGap = 80; ///< between a cell's edge and its text
 
 std::string_view AlignWord(TextAlign align) {
     if (align == TextAlign::Right) return "\\qr";
@@ -25,32 +26,15 @@ struct CellEdges {
     bool right;
 };
 
-CellEdges EdgesOf(TableBorder border, bool header, bool first, bool last) {
-    switch (border) {
-        case TableBorder::None:
-            return {false, false, false, false};
-        case TableBorder::BelowHeader:
-            return {false, header, false, false};
-        case TableBorder::Bottom:
-            return {false, true, false, false};
-        case TableBorder::Top:
-            return {header, false, false, false};
-        case TableBorder::TopBottom:
-            return {header, true, false, false};
-        case TableBorder::Box:
-            return {header, true, first, last};
-        case TableBorder::Columns:
-            return {false, false, !first, false};
-        case TableBorder::ColTopBottom:
-            return {header, true, !first, false};
-        case TableBorder::BoxRows:
-            return {true, true, first, last};
-        case TableBorder::BoxColumns:
-            return {header, true, true, true};
-        case TableBorder::All:
-            break;
-    }
-    return {true, true, true, true};
+/// The size in half points in which an amount fits into a cell, 0 where it does in the table's
+/// own: an amount that goes on in a second line would be read wrongly. There is no font to measure
+/// with, so that its width is estimated.
+int AmountSize(std::string_view text, Twips room, double usual) {
+    constexpr double kDigit = 0.56; // of an em
+    constexpr int kLeast = 8;
+    const double width = kDigit * static_cast<double>(text.size()) * usual * kTwipsPerPoint;
+    if (width <= room || !LooksLikeAmount(text)) return 0;
+    return std::max(static_cast<int>(2 * usual * room / width), kLeast);
 }
 
 std::string EdgeWords(const CellEdges& edges) {
@@ -101,18 +85,23 @@ void RtfWriter::Paragraph(const PrintStyle& style, std::string_view text) {
     FlushIfLarge();
 }
 
-std::string RtfWriter::RowStart(const PrintTable& table, std::span<const Twips> widths,
-                                bool header) {
-    std::string words = "\\trowd\\trgaph80\\trleft0\\trkeep";
-    if (header) words += "\\trhdr";
+std::string RtfWriter::RowStart(bool isLast) const {
+    const BorderLines lines = LinesOf(table_.border);
+    const bool isHeader = row_.isHeader;
+    std::string words = fmt::format("\\trowd\\trgaph{}\\trleft0\\trkeep", kCellGap);
+    if (isHeader) words += "\\trhdr";
     Twips edge = 0;
-    for (std::size_t i = 0; i < widths.size(); ++i) {
-        words += EdgeWords(EdgesOf(table.border, header, i == 0, i + 1 == widths.size()));
-        if (header && table.header.vertical == VerticalAlign::Middle) words += "\\clvertalc";
-        if (header && table.header.background) {
-            words += fmt::format("\\clcbpat{}", ColorIndex(*table.header.background));
-        }
-        edge += std::max(widths[i], 1);
+    for (std::size_t i = 0; i < widths_.size(); ++i) {
+        words += EdgeWords({
+            .top = row_.isFirst && lines.top,
+            .bottom = (isLast && lines.bottom) || (isHeader && lines.belowHeader) ||
+                      (!isHeader && !isLast && lines.rows),
+            .left = i == 0 ? lines.sides : lines.columns,
+            .right = i + 1 == widths_.size() && lines.sides,
+        });
+        if (isHeader && table_.header.vertical == VerticalAlign::Middle) words += "\\clvertalc";
+        if (isHeader && headerColor_ > 0) words += fmt::format("\\clcbpat{}", headerColor_);
+        edge += std::max(widths_[i], 1);
         words += fmt::format("\\cellx{}", edge);
     }
     return words + "\n";
@@ -128,41 +117,60 @@ void RtfWriter::BeginTable(const PrintStyle& style, const PrintTable& table,
                            style.spaceAfter) +
                FontWords(text);
     };
+    table_ = table;
+    widths_.assign(widths.begin(), widths.end());
+    headerColor_ = table.header.background ? ColorIndex(*table.header.background) : 0;
+    row_ = {.isFirst = true};
     if (!table.header.cells.empty()) {
-        out_ += RowStart(table, widths, true);
+        row_.isHeader = true;
         for (std::size_t i = 0; i < table.columns.size(); ++i) {
-            out_ += cellStart(table.columns[i], table.header.bold);
-            if (i < table.header.cells.size()) AppendRtf(out_, table.header.cells[i]);
-            out_ += "\\cell\n";
+            row_.cells += cellStart(table.columns[i], table.header.bold);
+            if (i < table.header.cells.size()) AppendRtf(row_.cells, table.header.cells[i]);
+            row_.cells += "\\cell\n";
         }
-        out_ += "\\row\n";
     }
-    rowStart_ = RowStart(table, widths, false);
     columns_.clear();
     for (const TableColumn& column : table.columns) {
         columns_.push_back({cellStart(column, column.bold), column.alignCurrency});
     }
+    innerStart_.clear();
+    fontSize_ = style.fontSize;
     // A bracket is a third of an em wide.
     currencyIndent_ = static_cast<int>(style.fontSize * kTwipsPerPoint / 3);
 }
 
-void RtfWriter::TableRow(std::span<const std::string_view> cells) {
-    out_ += rowStart_;
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-        out_ += columns_[i].start;
-        if (columns_[i].alignCurrency && !cells[i].ends_with(')')) {
-            out_ += fmt::format("\\ri{} ", currencyIndent_);
-        }
-        AppendRtf(out_, cells[i]);
-        out_ += "\\cell\n";
-    }
+/// A row is written when it is known whether another follows: the last one's lower edge differs.
+void RtfWriter::WriteRow(bool isLast) {
+    if (row_.cells.empty()) return;
+    const bool isInner = !row_.isFirst && !row_.isHeader && !isLast;
+    if (isInner && innerStart_.empty()) innerStart_ = RowStart(isLast);
+    out_ += isInner ? innerStart_ : RowStart(isLast);
+    out_ += row_.cells;
     out_ += "\\row\n";
+    row_.cells.clear();
+    row_.isFirst = false;
+    row_.isHeader = false;
+}
+
+void RtfWriter::TableRow(std::span<const std::string_view> cells) {
+    WriteRow(false);
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        row_.cells += columns_[i].start;
+        if (columns_[i].alignCurrency && !cells[i].ends_with(')')) {
+            row_.cells += fmt::format("\\ri{} ", currencyIndent_);
+        }
+        if (const int size = AmountSize(cells[i], widths_[i] - 2 * kCellGap, fontSize_); size > 0)
+            row_.cells += fmt::format("\\fs{} ", size);
+        AppendRtf(row_.cells, cells[i]);
+        row_.cells += "\\cell\n";
+    }
     FlushIfLarge();
 }
 
 /// A paragraph of next to no height keeps a table from the next one, and a document from ending in
 /// a table, which word processors don't accept.
 void RtfWriter::EndTable() {
+    WriteRow(true);
     out_ += "\\pard\\plain\\sl-20\\slmult0\\fs2\\par\n";
 }
 

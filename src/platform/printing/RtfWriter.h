@@ -31,11 +31,18 @@ class RtfWriter : public FlowSink {
         std::string start; ///< the paragraph's and font's attributes of a cell
         bool alignCurrency = false;
     };
+    /// The row that waits to be written.
+    struct Row {
+        std::string cells{}; ///< empty for no row
+        bool isFirst = false;
+        bool isHeader = false;
+    };
 
     int FontIndex(const std::string& name);
     int ColorIndex(PrintColor color);
     std::string FontWords(const PrintStyle& style);
-    std::string RowStart(const PrintTable& table, std::span<const Twips> widths, bool header);
+    std::string RowStart(bool isLast) const;
+    void WriteRow(bool isLast);
     std::string FrameGroup(std::string_view word, const FrameLine& line);
     void WriteHead();
     void FlushIfLarge();
@@ -46,8 +53,15 @@ class RtfWriter : public FlowSink {
     DocumentInfo info_;
     std::vector<std::string> fonts_;
     std::vector<PrintColor> colors_;
-    std::string rowStart_;
+
+    // The table that is being written.
+    PrintTable table_;
+    std::vector<Twips> widths_;
     std::vector<Column> columns_;
+    Row row_;
+    std::string innerStart_; ///< of rows between the first and the last
+    int headerColor_ = 0;    ///< 0 for none
+    double fontSize_ = 0;    ///< in points
     int currencyIndent_ = 0; ///< what stands right of an amount without a bracket, in twips
 };
 

@@ -60,6 +60,7 @@ void PrintSurface::Text(std::string_view text) {
 }
 
 void PrintSurface::PrintLines(std::string_view clean) {
+    if (!state_->maker.HasSink()) return;
     const TextInk ink = InkOf(metrics_, style_);
     const Twips height = ink.measure.LineHeight();
     const Twips left = x_ <= MarginLeft() ? MarginLeft() + style_.indentLeft : x_;

@@ -9,44 +9,6 @@ namespace {
 /// A row that is taller than a page begins where at least so many of its lines fit.
 constexpr std::size_t kLinesOfTallRow = 4;
 
-/// Where a border has lines: around a page's part of the table and between its rows and columns.
-struct BorderLines {
-    bool top;
-    bool bottom;
-    bool sides;
-    bool columns;
-    bool belowHeader;
-    bool rows;
-};
-
-BorderLines LinesOf(TableBorder border) {
-    switch (border) {
-        case TableBorder::None:
-            return {false, false, false, false, false, false};
-        case TableBorder::Bottom:
-            return {false, true, false, false, false, false};
-        case TableBorder::Top:
-            return {true, false, false, false, false, false};
-        case TableBorder::TopBottom:
-            return {true, true, false, false, false, false};
-        case TableBorder::Box:
-            return {true, true, true, false, false, false};
-        case TableBorder::Columns:
-            return {false, false, false, true, false, false};
-        case TableBorder::ColTopBottom:
-            return {true, true, false, true, false, false};
-        case TableBorder::BelowHeader:
-            return {false, false, false, false, true, false};
-        case TableBorder::BoxRows:
-            return {true, true, true, false, true, true};
-        case TableBorder::BoxColumns:
-            return {true, true, true, true, false, false};
-        case TableBorder::All:
-            break;
-    }
-    return {true, true, true, true, true, true};
-}
-
 } // namespace
 
 TableLayout::TableLayout(PageMaker& maker, FontMetrics& metrics, const PrintStyle& style,

@@ -1,6 +1,7 @@
 #include "platform/printing/TableRowLayout.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/printing/Unicode.h"
 
@@ -22,10 +23,16 @@ TextInk MakeInk(FontMetrics& metrics, PrintStyle style, double scale, Weight wei
             .underline = style.fontUnderline};
 }
 
-bool LooksLikeAmount(std::string_view text) {
-    return !text.empty() &&
-           text.find_first_not_of("0123456789.,()-+$% ") == std::string_view::npos &&
-           text.find_first_of("0123456789") != std::string_view::npos;
+/// The part of a text that must stay in one line: an amount, or the longest word of a title.
+std::string_view WholePart(std::string_view text, RowKind kind, const TextMeasure& measure) {
+    if (kind == RowKind::Body) return LooksLikeAmount(text) ? text : std::string_view();
+    std::string_view widest;
+    while (!text.empty()) {
+        const std::string_view word = text.substr(0, text.find_first_of(" \n"));
+        if (measure.Width(word) > measure.Width(widest)) widest = word;
+        text.remove_prefix(std::min(text.size(), word.size() + 1));
+    }
+    return widest;
 }
 
 Twips Scaled(Twips length, double scale) {
@@ -36,7 +43,9 @@ Twips Scaled(Twips length, double scale) {
 
 TableRowLayout::TableRowLayout(FontMetrics& metrics, const PrintStyle& style,
                                const PrintTable& table, const FittedColumns& columns, RowKind kind)
-    : table_(table),
+    : metrics_(metrics),
+      style_(style),
+      table_(table),
       columns_(columns),
       kind_(kind),
       plain_(MakeInk(metrics, style, columns.textScale, Weight::Regular)),
@@ -57,23 +66,59 @@ void TableRowLayout::Fill(std::span<const std::string_view> cells) {
 }
 
 void TableRowLayout::FillCell(std::size_t column, std::string_view text) {
-    const std::size_t begin = lines_.size();
-    const TextMeasure& measure = InkOf(column).measure;
-    const Twips width = std::max(columns_.widths[column] - 2 * Inset(column), 1);
     std::string cleaned;
     text = CleanText(text, cleaned);
     if (text.data() == cleaned.data()) text = made_.emplace_back(std::move(cleaned));
+    const std::size_t begin = lines_.size();
+    const TextInk* ink = &InkOf(column);
+    if (!BreakCell(column, *ink, text)) {
+        const TextInk* fitting = &FittingInk(column, text);
+        if (fitting != ink) {
+            ink = fitting;
+            lines_.resize(begin);
+            BreakCell(column, *ink, text);
+        }
+    }
+    cells_.push_back({begin, lines_.size(), ink});
+    lineCount_ = std::max(lineCount_, lines_.size() - begin);
+}
+
+/// Adds a cell's lines; false if its text isn't whole in one line.
+bool TableRowLayout::BreakCell(std::size_t column, const TextInk& ink, std::string_view text) {
+    const Twips width = std::max(columns_.widths[column] - 2 * Inset(column), 1);
     // Column titles are never cut.
     if (table_.columns[column].wrap == Wrap::Wrap || kind_ == RowKind::Header) {
-        BreakLines(measure, text, width, lines_);
-    } else {
-        std::string cut;
-        MeasuredLine line = CutLine(measure, text, width, cut);
-        if (line.text.data() == cut.data()) line.text = made_.emplace_back(std::move(cut));
-        lines_.push_back(line);
+        const std::size_t begin = lines_.size();
+        BreakLines(ink.measure, text, width, lines_);
+        return lines_.size() - begin == 1;
     }
-    cells_.push_back({begin, lines_.size()});
-    lineCount_ = std::max(lineCount_, lines_.size() - begin);
+    std::string cut;
+    MeasuredLine line = CutLine(ink.measure, text, width, cut);
+    const bool isWhole = line.text.data() != cut.data();
+    if (!isWhole) line.text = made_.emplace_back(std::move(cut));
+    lines_.push_back(line);
+    return isWhole;
+}
+
+/// The column's font, smaller where an amount or a word of a title is too wide for the column:
+/// "18,205" above ".00" would be read wrongly.
+const TextInk& TableRowLayout::FittingInk(std::size_t column, std::string_view text) {
+    constexpr int kTenths = 10;
+    const TextInk& usual = InkOf(column);
+    const Twips room = std::max(columns_.widths[column] - 2 * Inset(column), 1);
+    const Twips width = usual.measure.Width(WholePart(text, kind_, usual.measure));
+    if (width <= room) return usual;
+    const auto size = static_cast<double>(usual.measure.Size());
+    const double wanted = std::max(std::floor(size * room / width * kTenths) / kTenths, kLeastSize);
+    if (wanted >= size) return usual;
+    const bool bold = &usual == &bold_;
+    const auto key = std::pair(bold, static_cast<int>(std::lround(wanted * kTenths)));
+    const auto known = smaller_.find(key);
+    if (known != smaller_.end()) return known->second;
+    PrintStyle style = style_;
+    style.fontSize = wanted;
+    return smaller_.emplace(key, MakeInk(metrics_, style, 1, bold ? Weight::Bold : Weight::Regular))
+        .first->second;
 }
 
 Twips TableRowLayout::HeightOf(std::size_t lines) const {
@@ -97,7 +142,9 @@ void TableRowLayout::Draw(PageMaker& maker, Twips x, Twips y, std::size_t first,
         const Cell& cell = cells_[column];
         for (std::size_t i = cell.begin + first; i < std::min(cell.begin + end, cell.end); ++i) {
             const auto row = static_cast<Twips>(i - cell.begin - first);
-            maker.Text(InkOf(column), x + LineX(column, lines_[i]), top + row * lineHeight_,
+            // Smaller letters stand on the line of the others.
+            const Twips lower = InkOf(column).measure.Ascent() - cell.ink->measure.Ascent();
+            maker.Text(*cell.ink, x + LineX(column, lines_[i]), top + row * lineHeight_ + lower,
                        lines_[i]);
         }
         x += columns_.widths[column];
@@ -118,7 +165,7 @@ Twips TableRowLayout::LineX(std::size_t column, const MeasuredLine& line) const 
     const Twips left = Inset(column);
     const Twips right = columns_.widths[column] - left;
     if (format.alignCurrency && kind_ == RowKind::Body && LooksLikeAmount(line.text)) {
-        return std::max(CurrencyX(InkOf(column).measure, right, line), left);
+        return std::max(CurrencyX(cells_[column].ink->measure, right, line), left);
     }
     switch (format.align) {
         case TextAlign::Left:

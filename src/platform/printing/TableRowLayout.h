@@ -1,9 +1,11 @@
 #pragma once
 
 #include <deque>
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/printing/ColumnWidths.h"
@@ -37,19 +39,25 @@ class TableRowLayout {
     struct Cell {
         std::size_t begin = 0; ///< of its lines
         std::size_t end = 0;
+        const TextInk* ink = nullptr;
     };
 
     const TextInk& InkOf(std::size_t column) const;
     Twips Inset(std::size_t column) const;
     void FillCell(std::size_t column, std::string_view text);
+    bool BreakCell(std::size_t column, const TextInk& ink, std::string_view text);
+    const TextInk& FittingInk(std::size_t column, std::string_view text);
     Twips LineX(std::size_t column, const MeasuredLine& line) const;
     Twips CurrencyX(const TextMeasure& measure, Twips right, const MeasuredLine& line) const;
 
+    FontMetrics& metrics_;
+    const PrintStyle& style_;
     const PrintTable& table_;
     const FittedColumns& columns_;
     RowKind kind_;
     TextInk plain_;
     TextInk bold_;
+    std::map<std::pair<bool, int>, TextInk> smaller_; ///< by bold and tenths of the size
     Twips spaceBefore_;
     Twips spaceAfter_;
     Twips inset_;

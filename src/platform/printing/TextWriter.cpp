@@ -14,6 +14,8 @@ namespace {
 /// The share of the printable width that one character stands for.
 constexpr Twips kCharacter = 100;
 constexpr std::size_t kGap = 2;
+/// A column of numbers is at least so wide, so that none is broken: "(999,999.99)".
+constexpr std::size_t kNumberWidth = 12;
 
 std::size_t CharacterCount(std::string_view text) {
     return static_cast<std::size_t>(std::ranges::count_if(
@@ -94,7 +96,10 @@ void TextWriter::BeginTable(const PrintStyle&, const PrintTable& table,
     for (const Twips width : widths) {
         edge += width;
         const auto next = static_cast<std::size_t>(std::max(edge, 0) / kCharacter);
-        widths_.push_back(next > last + kGap ? next - last - kGap : 1);
+        const TableColumn& column = columns_[widths_.size()];
+        const bool isNumber = column.alignCurrency || column.align == TextAlign::Right;
+        const std::size_t share = next > last + kGap ? next - last - kGap : 1;
+        widths_.push_back(isNumber ? std::max(share, kNumberWidth) : share);
         last = next;
     }
     if (table.header.cells.empty()) return;

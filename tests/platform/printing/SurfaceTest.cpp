@@ -108,6 +108,44 @@ TEST_F(Surface, GoesOnOnTheNextPageWithHeaderAndFooter) {
               "13800,11460 Page 2\n1440,11460 Roll\n1440,1620 line 40\n");
 }
 
+TEST_F(Surface, SetsAmountsAndTitlesSmallerRatherThanBreakThem) {
+    Start();
+    struct Case {
+        std::string header;
+        std::string cell;
+        int rows;        ///< lines of text, the title's included
+        double smallest; ///< points
+    };
+    // A column of 500 twips, of which 376 are for text: three letters at 10 points.
+    for (const auto& [header, cell, rows, smallest] :
+         {Case{"", "1.0", 1, 10}, Case{"", "1,205.00", 1, 4.7}, Case{"", "(205.00)", 1, 4.7},
+          Case{"", "ab cd", 2, 10}, Case{"", "abcdef", 2, 10}, Case{"No. Amount", "1", 3, 6.2},
+          Case{"", "12345678901234567890", 3, 4}}) {
+        for (const Wrap wrap : {Wrap::Wrap, Wrap::Ellipsis}) {
+            if (wrap == Wrap::Ellipsis && rows > 1) continue;
+            document.Clear();
+            surface.StartDoc();
+            surface.StartTable();
+            auto titles = ParseTableText(header);
+            surface.AddTableArray(
+                ">500", titles.empty() ? std::vector<std::string>() : titles[0],
+                std::make_unique<HeldRows>(std::vector<std::vector<std::string>>{{cell}}));
+            surface.Table().columns[0].wrap = wrap;
+            surface.EndTable();
+            surface.EndDoc();
+            const PrintedPage page = document.Page(0);
+            EXPECT_EQ(page.Items().size(), static_cast<std::size_t>(rows)) << cell;
+            float least = 100;
+            for (const PageItem& item : page.Items()) {
+                EXPECT_GE(item.x1, 1'440) << cell;
+                EXPECT_LE(item.x2, 1'440 + 500) << cell;
+                least = std::min(least, item.size);
+            }
+            EXPECT_NEAR(least, smallest, 0.01) << cell;
+        }
+    }
+}
+
 TEST_F(Surface, KeepsAHeadingWithWhatFollowsIt) {
     Start({.marginBottom = 15'840 - 1'440 - 240 * 10});
     for (int i = 0; i < 8; ++i)
@@ -170,13 +208,13 @@ TEST_F(Surface, AlignsDecimalPointsAndWrapsOrCutsCells) {
     Start();
     surface.StartTable();
     surface.AddTable(">1000|<~800|<800", "Due|Cut|Wrap",
-                     "12.00|0123456789|abc def;(12.00)|x|y;7|z");
+                     "12.00|abcdefghij|abc def;(12.00)|x|y;7|z");
     surface.Table().columns[0].alignCurrency = true;
     surface.EndTable();
     surface.EndDoc();
     EXPECT_EQ(Texts(0),
               "2140,1620 Due\n2440,1620 Cut\n3240,1620 Wrap\n"
-              "1840,1860 12.00\n2440,1860 0123456\u2026\n3240,1860 abc def\n"
+              "1840,1860 12.00\n2440,1860 abcdefg\u2026\n3240,1860 abc def\n"
               "1740,2100 (12.00)\n2440,2100 x\n3240,2100 y\n"
               "1940,2340 7\n2440,2340 z\n");
 }

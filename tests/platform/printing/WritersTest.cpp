@@ -2,7 +2,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "SampleReport.h"
@@ -88,6 +90,70 @@ TEST(Writers, WriteAHeldFlowAsTheyWriteALiveOne) {
     RtfWriter writer(sink);
     flow.WriteTo(writer);
     EXPECT_EQ(sink.Text(), SampleBy<RtfWriter>());
+}
+
+/// A table of two columns, with a header row and three rows, by a writer.
+template <typename Writer>
+std::string TableBy(const std::function<void(PrintTable&)>& set, std::string_view header = "H|I") {
+    StringSink sink;
+    Writer writer(sink);
+    FixedMetrics metrics;
+    PrintSurface surface(metrics, nullptr, &writer);
+    surface.StartDoc();
+    surface.StartTable();
+    surface.AddTable("<100|>100", header, "a|1.00;b|(2.00);c|3.00");
+    set(surface.Table());
+    surface.EndTable();
+    surface.EndDoc();
+    return sink.Text();
+}
+
+/// The edges with a line of each row's cells: "tl,tr/b,b" for top and left, top and right, ...
+std::string EdgesInRtf(const std::string& rtf) {
+    std::string edges;
+    std::istringstream lines(rtf);
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with("\\trowd")) continue;
+        if (!edges.empty()) edges += '/';
+        std::string row;
+        for (std::size_t at = 0; at < line.size(); ++at) {
+            const std::string_view rest = std::string_view(line).substr(at);
+            if (rest.starts_with("\\clbrdr")) row += rest[7];
+            if (rest.starts_with("\\cellx")) row += ',';
+        }
+        edges += row.substr(0, row.size() - 1);
+    }
+    return edges;
+}
+
+TEST(Writers, DrawTheBordersInRtfAsOnThePage) {
+    struct Case {
+        TableBorder border;
+        std::string edges;
+    };
+    using enum TableBorder;
+    for (const auto& [border, edges] :
+         {Case{None, ",/,/,/,"}, Case{Bottom, ",/,/,/b,b"}, Case{Top, "t,t/,/,/,"},
+          Case{TopBottom, "t,t/,/,/b,b"}, Case{Box, "tl,tr/l,r/l,r/lb,br"},
+          Case{Columns, ",l/,l/,l/,l"}, Case{ColTopBottom, "t,tl/,l/,l/b,lb"},
+          Case{BelowHeader, "b,b/,/,/,"}, Case{BoxRows, "tlb,tbr/lb,br/lb,br/lb,br"},
+          Case{BoxColumns, "tl,tlr/l,lr/l,lr/lb,lbr"},
+          Case{All, "tlb,tlbr/lb,lbr/lb,lbr/lb,lbr"}}) {
+        const auto with = [border](PrintTable& table) { table.border = border; };
+        EXPECT_EQ(EdgesInRtf(TableBy<RtfWriter>(with)), edges) << static_cast<int>(border);
+    }
+    EXPECT_EQ(EdgesInRtf(TableBy<RtfWriter>([](PrintTable& table) { table.border = Box; }, "")),
+              "tl,tr/l,r/lb,br")
+        << "without a header row the first row has the upper edge";
+}
+
+TEST(Writers, KeepAColumnOfAmountsBoldInHtml) {
+    const std::string html = TableBy<HtmlWriter>([](PrintTable& table) {
+        table.columns[1].bold = true;
+        table.columns[1].alignCurrency = true;
+    });
+    EXPECT_NE(html.find("<td class=\"r m b\">1.00</td>"), std::string::npos) << html;
+    EXPECT_NE(html.find("<td class=\"r b\">(2.00)</td>"), std::string::npos) << html;
 }
 
 TEST(OutputFile, TakesItsNameOnlyWhenItIsWhole) {
