@@ -47,7 +47,7 @@ class LineCheck {
         if (IsSectionHeader(line)) {
             if (!IsKnownSection(line)) Add(line, fmt::format("{} is not a section", line.name));
         } else if (IsPageKey(line.key)) {
-            return;
+            lines_[{kOfPage, line.key}] = line.number;
         } else if (IsCatalogueKey(line.key)) {
             CheckCatalogueKey(line);
         } else if (const SectionCommand* command = FindSectionCommand(line.key)) {

@@ -24,4 +24,18 @@ class ReportError : public platform::Error {
     std::string reason_;
 };
 
+/// Does a part of a run. A value of the definition or of the books that can't be converted in it
+/// becomes a ReportError of the line; other failures, such as those of the file that the pages go
+/// to, aren't the definition's fault and pass.
+template <typename Work>
+void AtLine(int line, Work work) {
+    try {
+        work();
+    } catch (const platform::ConversionError& fault) {
+        throw ReportError(line, fault.what());
+    } catch (const platform::OverflowError& fault) {
+        throw ReportError(line, fault.what());
+    }
+}
+
 } // namespace reports

@@ -7,6 +7,7 @@
 #include "platform/values/Format.h"
 #include "platform/values/Text.h"
 #include "reports/Queries.h"
+#include "reports/ReportError.h"
 #include "reports/clsRptText.h"
 
 namespace reports {
@@ -20,12 +21,13 @@ bool IsNumeric(char c) {
 /// A plain number with or without a sign. An amount in parentheses is not one: a negative amount
 /// that was formatted already can't be calculated with.
 std::optional<double> Operand(std::string_view text) {
+    const std::size_t digits = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
+    if (digits == text.size() || !IsNumeric(text[digits])) return std::nullopt;
     if (text.starts_with('+')) text.remove_prefix(1);
     double number = 0;
     const auto read =
         std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    if (text.empty() || read.ec != std::errc() || read.ptr != text.data() + text.size())
-        return std::nullopt;
+    if (read.ec != std::errc() || read.ptr != text.data() + text.size()) return std::nullopt;
     return number;
 }
 
@@ -91,10 +93,11 @@ void clsRptText::RunCalc(const TextCommand& command) {
 }
 
 void clsRptText::ApplyTagFormats() {
-    for (const Format& format : tagFormats_) {
+    for (const TagFormatCommand& format : tagFormats_) {
         for (ReportVariable& variable : variables_) {
             if (!platform::EqualIgnoringCase(variable.Name, format.Tag)) continue;
-            variable.Value = platform::Format(variable.Value, format.Text);
+            AtLine(format.FileLine,
+                   [&] { variable.Value = platform::Format(variable.Value, format.Format); });
             break;
         }
     }

@@ -15,7 +15,8 @@ using platform::Twips;
 namespace {
 
 constexpr int kGridParts = 20;
-constexpr int kFinestGrid = 10'000; // more lines than a page has room for
+/// A finer grid has more lines than the page has twips: only the numbered ones are drawn.
+constexpr int kFinestGrid = 20'000;
 constexpr platform::PrintColor kNumberedLine = 0x808080;
 constexpr platform::PrintColor kPlainLine = 0xC0C0C0;
 constexpr Twips kNumberedWidth = 3;
@@ -59,11 +60,15 @@ int GridStep(int scale) {
         throw platform::ConversionError(
             fmt::format("division by zero: DRAWGRID needs a SCALE of at least {}", kGridParts));
     }
-    if (scale > kFinestGrid) {
-        throw platform::OverflowError(
-            fmt::format("a grid of {} lines is finer than the page", scale));
-    }
     return step;
+}
+
+/// Calls `draw` with each line of one direction and whether it has its number.
+template <typename Draw>
+void ForEachGridLine(int scale, int step, Draw draw) {
+    const std::int64_t between = scale > kFinestGrid ? step : 1;
+    for (std::int64_t at = 0; at <= scale; at += between)
+        draw(static_cast<int>(at), at % step == 0);
 }
 
 void SetGridPen(platform::PrintStyle& style, bool numbered) {
@@ -83,24 +88,22 @@ void DrawGridLines(PrintSurface& page, const CellMap& cells, int scaleX, int sca
     style.fontSize = kGridFont;
     const Twips left = page.MarginLeft();
     const Twips top = page.MarginTop();
-    for (int y = 0; y <= scaleY; ++y) {
-        const bool numbered = y % stepY == 0;
+    ForEachGridLine(scaleY, stepY, [&](int y, bool numbered) {
         SetGridPen(style, numbered);
         page.DrawLine(left, cells.Y(y), page.PageWidth() - page.MarginRight(), cells.Y(y));
-        if (!numbered) continue;
+        if (!numbered) return;
         page.MoveTo(left, cells.Y(y));
         page.TextAt(std::to_string(y));
-    }
-    for (int x = 0; x <= scaleX; ++x) {
-        const bool numbered = x % stepX == 0;
+    });
+    ForEachGridLine(scaleX, stepX, [&](int x, bool numbered) {
         SetGridPen(style, numbered);
         page.DrawLine(cells.X(x), top, cells.X(x), page.PageHeight() - page.MarginBottom());
-        if (!numbered) continue;
+        if (!numbered) return;
         page.MoveTo(cells.X(x), top);
         style.textAngle = kDownwards;
         page.TextAt(std::to_string(x));
         style.textAngle = 0;
-    }
+    });
     page.ApplyStyle("Default");
     page.MoveTo(x0, y0);
 }

@@ -122,9 +122,11 @@ constexpr auto kCommands = std::to_array<SectionCommand>({
     {"TABLEFORMAT", kAttribute, TextAttribute<&TextCommand::TableFormat>, kNotInData},
     {"TABLEHEADER", kAttribute, TextAttribute<&TextCommand::TableHeader>, kNotInData},
     {"FORMATCURRENCY", kCommand,
-     [](clsRptText& s, Line l) { s.TagFormat(l.value, platform::kMoneyFormat); }, kNotInData},
+     [](clsRptText& s, Line l) { s.TagFormat(l.value, platform::kMoneyFormat, l.number); },
+     kNotInData},
     {"FORMATDATE", kCommand,
-     [](clsRptText& s, Line l) { s.TagFormat(l.value, platform::kDateFormat); }, kNotInData},
+     [](clsRptText& s, Line l) { s.TagFormat(l.value, platform::kDateFormat, l.number); },
+     kNotInData},
 
     // Attributes of the tables of both.
     {"TABLEBORDER", kAttribute, TextTable<&TableAttributes::Border>,

@@ -1,69 +1,16 @@
 #include "reports/StatementCheck.h"
 
-#include <algorithm>
-#include <set>
-
 #include <fmt/core.h>
 
 #include "platform/database/Recordset.h"
-#include "platform/values/Text.h"
+#include "reports/KnownTags.h"
 #include "reports/SampleBooks.h"
-#include "reports/Tags.h"
 #include "reports/clsRptData.h"
 #include "reports/clsRptText.h"
 
 namespace reports {
 
 namespace {
-
-/// Names that text may hold between two "%", with a value to try statements with.
-class KnownTags {
-  public:
-    void Add(const std::string& name, std::string sample) {
-        samples_.try_emplace(platform::ToUpper(name), std::move(sample));
-    }
-    void AddRunTags() {
-        for (const char* number : {"LOOPID", "SELECTEDID"})
-            Add(number, "0");
-        Add("SELECTEDYEAR", "2000");
-        Add("SELECTEDDESCRIPTION", "record");
-        Add("STARTDATE", "01/01/2000");
-        Add("ENDDATE", "12/31/2000");
-    }
-    bool Has(const std::string& name) const { return samples_.contains(platform::ToUpper(name)); }
-
-    std::string Fill(std::string text) const {
-        for (const auto& [name, sample] : samples_)
-            ReplaceTag(text, "%" + name + "%", sample);
-        ExpandSystemTags(text);
-        return text;
-    }
-
-    /// What of a text is left that reads like a tag.
-    std::set<std::string> Unfilled(const std::string& text) const {
-        std::set<std::string> names;
-        const std::string filled = Fill(text);
-        for (auto at = filled.find('%'); at != std::string::npos; at = filled.find('%', at + 1)) {
-            const auto end = filled.find('%', at + 1);
-            if (end == std::string::npos) break;
-            const std::string name = filled.substr(at + 1, end - at - 1);
-            if (LooksLikeName(name)) names.insert(name);
-        }
-        return names;
-    }
-
-  private:
-    static bool LooksLikeName(const std::string& name) {
-        const auto isLetter = [](char c) {
-            return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
-        };
-        if (name.empty() || !isLetter(name.front()) || name.back() == ' ') return false;
-        return std::ranges::all_of(
-            name, [&](char c) { return isLetter(c) || c == ' ' || (c >= '0' && c <= '9'); });
-    }
-
-    std::map<std::string, std::string> samples_;
-};
 
 std::string SampleOf(platform::FieldType type) {
     using platform::FieldType;
@@ -72,121 +19,20 @@ std::string SampleOf(platform::FieldType type) {
     return isText ? "01/01/2000" : "0";
 }
 
-class StatementCheck {
+/// The faults found so far, and books to try statements on.
+class Findings {
   public:
-    StatementCheck(const KeyLines& lines, std::vector<ReportFault>& faults)
-        : lines_(lines), faults_(faults) {}
+    explicit Findings(std::vector<ReportFault>& faults) : faults_(faults) {}
 
-    void CheckLoop(const ReportFile& report) {
-        if (report.LoopQuery.empty()) return;
-        KnownTags tags;
-        tags.AddRunTags();
-        Try(report.LoopLine, tags.Fill(report.LoopQuery), nullptr);
-    }
-
-    void CheckSubTitle(const ReportFile& report) {
-        KnownTags tags;
-        tags.AddRunTags();
-        // The subtitle is not given the tags of today and the company.
-        for (const std::string& name : tags.Unfilled(report.SubTitle))
-            Add(0, fmt::format("SUBTITLE: nobody fills %{}%", name));
-    }
-
-    void Check(const clsRptText& section) {
-        KnownTags tags;
-        tags.AddRunTags();
-        for (const TextCommand& command : section.Commands()) {
-            if (command.Kind == TextCommandKind::Sql) {
-                CheckTags(command.FileLine, tags, command.Text);
-                Try(command.FileLine, tags.Fill(command.Text), &tags);
-            } else if (command.Kind == TextCommandKind::Calc) {
-                CheckCalc(command, tags);
-            }
-        }
-        for (const TextCommand& command : section.Commands()) {
-            if (command.Kind != TextCommandKind::Sql && command.Kind != TextCommandKind::Calc)
-                CheckTags(command.FileLine, tags, command.Text);
-        }
-    }
-
-    void Check(std::size_t index, const clsRptData& section) {
-        KnownTags tags;
-        tags.AddRunTags();
-        const auto line = [&](const char* key) {
-            const auto found = lines_.find({index, key});
-            return found == lines_.end() ? section.Line : found->second;
-        };
-        for (const char* key : {"HEADLINE", "FOOTLINE"})
-            CheckTags(line(key), tags, key[0] == 'H' ? section.HeadLine : section.FootLine);
-        if (section.Mode == DataMode::Table || section.Mode == DataMode::Records)
-            CheckQuery(section, tags, line);
-        if (section.Mode != DataMode::Table) {
-            CheckTags(line("HEADTEXT"), {}, section.HeadText);
-            CheckTags(line("FOOTTEXT"), {}, section.FootText);
-            return;
-        }
-        CheckTags(line("HEADTEXT"), tags, section.HeadText);
-        tags.Add("GROUPTOTAL", "0");
-        CheckTags(line("FOOTTEXT"), tags, section.FootText);
-        if (!section.FootText.empty() && section.TotalField.empty())
-            Add(line("FOOTTEXT"), "FOOTTEXT of a table is printed with a TOTALFIELD only");
-    }
-
-  private:
     void Add(int line, std::string text) { faults_.push_back({line, std::move(text)}); }
 
     void CheckTags(int line, const KnownTags& tags, const std::string& text) {
-        if (platform::ContainsIgnoringCase(text, " LIKE ")) return; // "%" is a wildcard there
         for (const std::string& name : tags.Unfilled(text))
             Add(line, fmt::format("nobody fills %{}%", name));
     }
 
-    void CheckCalc(const TextCommand& command, KnownTags& tags) {
-        const auto equals = command.Text.find('=');
-        if (equals == std::string::npos) {
-            Add(command.FileLine, "CALC has no \"=\"");
-            return;
-        }
-        CheckTags(command.FileLine, tags, command.Text.substr(equals + 1));
-        std::string name = command.Text.substr(0, equals);
-        std::erase_if(name, [](char c) { return c == '%' || c == ' ' || c == ','; });
-        tags.Add(name, "0");
-    }
-
-    template <typename LineOf>
-    void CheckQuery(const clsRptData& section, const KnownTags& tags, LineOf line) {
-        if (!section.SQLQuery.empty()) {
-            Try(line("SQLQUERY"), tags.Fill(section.SQLQuery), nullptr);
-            return;
-        }
-        if (section.SQLTables.empty()) {
-            Add(section.Line, "the section has no query");
-            return;
-        }
-        const std::string filter = section.SQLFilter.empty() ? "" : " WHERE " + section.SQLFilter;
-        const std::string order = section.SQLOrder.empty() ? "" : " ORDER BY " + section.SQLOrder;
-        Try(line("SQLFIELDS"),
-            tags.Fill("SELECT " + section.SQLFields + " FROM " + section.SQLTables + filter +
-                      order),
-            nullptr);
-        const bool isGrouped = section.Mode == DataMode::Table && !section.GroupField.empty();
-        if (isGrouped) {
-            Try(line("GROUPFIELD"),
-                tags.Fill("SELECT DISTINCT " + section.GroupField + " FROM " + section.SQLTables +
-                          filter + " ORDER BY " + section.GroupField),
-                nullptr);
-        }
-        if (section.TotalField.empty()) return;
-        Try(line("TOTALFIELD"),
-            tags.Fill("SELECT SUM(" + section.TotalField + ") AS Total FROM " + section.SQLTables +
-                      filter),
-            nullptr);
-        if (isGrouped && section.SQLFilter.empty())
-            Add(line("TOTALFIELD"), "a total of groups needs a SQLFILTER");
-    }
-
     /// Opens the query on empty books; its fields become tags.
-    void Try(int line, const std::string& sql, KnownTags* tags) {
+    void Try(int line, const std::string& sql, KnownTags* tags = nullptr) {
         try {
             platform::Recordset rows;
             rows.Open(books_.Session(), sql);
@@ -197,23 +43,197 @@ class StatementCheck {
         }
     }
 
-    const KeyLines& lines_;
+  private:
     std::vector<ReportFault>& faults_;
     SampleBooks books_;
 };
+
+/// Looks through one [TEXT] section.
+class TextCheck {
+  public:
+    TextCheck(const ReportFile& report, const clsRptText& section, Findings& findings)
+        : report_(report), section_(section), findings_(findings) {}
+
+    void Check() {
+        for (const TextCommand& command : section_.Commands()) {
+            if (command.Kind == TextCommandKind::Sql) {
+                findings_.CheckTags(command.FileLine, tags_, command.Text);
+                findings_.Try(command.FileLine, tags_.Fill(command.Text), &tags_);
+            } else if (command.Kind == TextCommandKind::Calc) {
+                CheckCalc(command);
+            }
+        }
+        for (const TextCommand& command : section_.Commands()) {
+            if (command.Kind == TextCommandKind::Sql || command.Kind == TextCommandKind::Calc)
+                continue;
+            findings_.CheckTags(command.FileLine, tags_, command.Text);
+            findings_.CheckTags(command.FileLine, KnownTags(), command.TableHeader);
+            CheckScale(command);
+        }
+        for (const TagFormatCommand& format : section_.TagFormats()) {
+            if (!tags_.Has(format.Tag)) {
+                findings_.Add(format.FileLine, fmt::format("no query or calculation gives '{}'",
+                                                           format.Tag.substr(0, kShownName)));
+            }
+        }
+    }
+
+  private:
+    static constexpr std::size_t kShownName = 60;
+
+    void CheckCalc(const TextCommand& command) {
+        const auto equals = command.Text.find('=');
+        if (equals == std::string::npos) {
+            findings_.Add(command.FileLine, "CALC has no \"=\"");
+            return;
+        }
+        findings_.CheckTags(command.FileLine, tags_, command.Text.substr(equals + 1));
+        std::string name = command.Text.substr(0, equals);
+        std::erase_if(name, [](char c) { return c == '%' || c == ' ' || c == ','; });
+        tags_.Add(name, "0");
+    }
+
+    void CheckScale(const TextCommand& command) {
+        switch (command.Kind) {
+            case TextCommandKind::Grid:
+            case TextCommandKind::Locate:
+            case TextCommandKind::Line:
+            case TextCommandKind::Box:
+                if (report_.ScaleX == 0 || report_.ScaleY == 0)
+                    findings_.Add(command.FileLine, "the report has no SCALE of two numbers");
+                return;
+            default:
+                return;
+        }
+    }
+
+    const ReportFile& report_;
+    const clsRptText& section_;
+    Findings& findings_;
+    KnownTags tags_ = KnownTags::OfSection();
+};
+
+/// Looks through one [DATA] section.
+class DataCheck {
+  public:
+    DataCheck(const clsRptData& section, std::size_t number, const KeyLines& lines,
+              Findings& findings)
+        : section_(section), number_(number), lines_(lines), findings_(findings) {}
+
+    void Check() {
+        const bool hasQuery = !section_.SQLQuery.empty() || !section_.SQLTables.empty();
+        findings_.CheckTags(LineOf("HEADLINE"), tags_, section_.HeadLine);
+        findings_.CheckTags(LineOf("FOOTLINE"), tags_, section_.FootLine);
+        if (section_.Mode == DataMode::None && hasQuery)
+            findings_.Add(section_.Line, "the section has a query and no SHOW command");
+        if (section_.Mode == DataMode::Table || section_.Mode == DataMode::Records) {
+            if (hasQuery) {
+                CheckQuery();
+            } else {
+                findings_.Add(section_.Line, "the section has no query");
+            }
+        }
+        if (section_.Mode == DataMode::Table) {
+            CheckTableTexts();
+        } else {
+            findings_.CheckTags(LineOf("HEADTEXT"), KnownTags(), section_.HeadText);
+            findings_.CheckTags(LineOf("FOOTTEXT"), KnownTags(), section_.FootText);
+        }
+    }
+
+  private:
+    /// The line of a key, the section's own for a key that isn't there.
+    int LineOf(const char* key) const {
+        const auto found = lines_.find({number_, key});
+        return found == lines_.end() ? section_.Line : found->second;
+    }
+    bool IsGrouped() const {
+        return section_.Mode == DataMode::Table && !section_.GroupField.empty();
+    }
+
+    void CheckTableTexts() {
+        KnownTags head = tags_;
+        KnownTags foot = tags_;
+        head.Add("GROUPNAME", "");
+        foot.Add("GROUPTOTAL", "0");
+        findings_.CheckTags(LineOf("GROUPDESCRIPTION"), head, section_.GroupDesc);
+        findings_.CheckTags(LineOf("TOTALDESCRIPTION"), foot, section_.TotalDesc);
+        findings_.CheckTags(LineOf("HEADTEXT"), tags_, section_.HeadText);
+        findings_.CheckTags(LineOf("FOOTTEXT"), foot, section_.FootText);
+        if (!section_.HeadText.empty() && IsGrouped() && section_.SQLQuery.empty())
+            findings_.Add(LineOf("HEADTEXT"), "HEADTEXT isn't printed in a table with groups");
+        if (!section_.FootText.empty() && section_.TotalField.empty())
+            findings_.Add(LineOf("FOOTTEXT"),
+                          "FOOTTEXT of a table is printed with a TOTALFIELD only");
+    }
+
+    void CheckQuery() {
+        if (!section_.SQLQuery.empty()) {
+            findings_.CheckTags(LineOf("SQLQUERY"), tags_, section_.SQLQuery);
+            findings_.Try(LineOf("SQLQUERY"), tags_.Fill(section_.SQLQuery));
+            for (const char* key : {"GROUPFIELD", "TOTALFIELD"}) {
+                if (lines_.contains({number_, key}))
+                    findings_.Add(LineOf(key), fmt::format("{} has no effect with SQLQUERY", key));
+            }
+            return;
+        }
+        CheckParts();
+        const std::string from = " FROM " + section_.SQLTables +
+                                 (section_.SQLFilter.empty() ? "" : " WHERE " + section_.SQLFilter);
+        const std::string order = section_.SQLOrder.empty() ? "" : " ORDER BY " + section_.SQLOrder;
+        findings_.Try(LineOf("SQLFIELDS"),
+                      tags_.Fill("SELECT " + section_.SQLFields + from + order));
+        if (IsGrouped()) {
+            findings_.Try(LineOf("GROUPFIELD"),
+                          tags_.Fill("SELECT DISTINCT " + section_.GroupField + from +
+                                     " ORDER BY " + section_.GroupField));
+        }
+        if (section_.Mode != DataMode::Table || section_.TotalField.empty()) return;
+        findings_.Try(LineOf("TOTALFIELD"),
+                      tags_.Fill("SELECT SUM(" + section_.TotalField + ") AS Total" + from));
+        if (IsGrouped() && section_.SQLFilter.empty())
+            findings_.Add(LineOf("TOTALFIELD"), "a total of groups needs a SQLFILTER");
+    }
+
+    void CheckParts() {
+        findings_.CheckTags(LineOf("SQLFIELDS"), tags_, section_.SQLFields);
+        findings_.CheckTags(LineOf("SQLTABLES"), tags_, section_.SQLTables);
+        findings_.CheckTags(LineOf("SQLFILTER"), tags_, section_.SQLFilter);
+        findings_.CheckTags(LineOf("SQLORDER"), tags_, section_.SQLOrder);
+        findings_.CheckTags(LineOf("GROUPFIELD"), tags_, section_.GroupField);
+        findings_.CheckTags(LineOf("TOTALFIELD"), tags_, section_.TotalField);
+    }
+
+    const clsRptData& section_;
+    std::size_t number_;
+    const KeyLines& lines_;
+    Findings& findings_;
+    KnownTags tags_ = KnownTags::OfSection();
+};
+
+void CheckPage(const ReportFile& report, const KeyLines& lines, Findings& findings) {
+    const auto lineOf = [&](const char* key) {
+        const auto found = lines.find({kOfPage, key});
+        return found == lines.end() ? 0 : found->second;
+    };
+    findings.CheckTags(lineOf("TITLE"), KnownTags(), report.Title);
+    findings.CheckTags(lineOf("SUBTITLE"), KnownTags::OfRun(), report.SubTitle);
+    if (report.LoopQuery.empty()) return;
+    findings.CheckTags(report.LoopLine, KnownTags::OfRun(), report.LoopQuery);
+    findings.Try(report.LoopLine, KnownTags::OfRun().Fill(report.LoopQuery));
+}
 
 } // namespace
 
 void CheckStatements(const ReportFile& report, const KeyLines& lines,
                      std::vector<ReportFault>& faults) {
-    StatementCheck check(lines, faults);
-    check.CheckSubTitle(report);
-    check.CheckLoop(report);
+    Findings findings(faults);
+    CheckPage(report, lines, findings);
     for (std::size_t i = 0; i < report.Sections.size(); ++i) {
         if (const auto* text = dynamic_cast<const clsRptText*>(report.Sections[i].get()))
-            check.Check(*text);
+            TextCheck(report, *text, findings).Check();
         if (const auto* data = dynamic_cast<const clsRptData*>(report.Sections[i].get()))
-            check.Check(i, *data);
+            DataCheck(*data, i, lines, findings).Check();
     }
 }
 

@@ -9,10 +9,13 @@
 
 namespace reports {
 
-/// The lines of a section's keys, by the section's number (0 the first) and the key.
+/// The lines of the keys of sections, by the section's number (0 the first) and the key.
 using KeyLines = std::map<std::pair<std::size_t, std::string>, int>;
 
-/// The faults in the statements and texts of a definition that was read.
+/// The number that stands for the page in KeyLines, whose keys belong to no section.
+inline constexpr std::size_t kOfPage = static_cast<std::size_t>(-1);
+
+/// Adds the faults in the statements and texts of a definition that was read.
 void CheckStatements(const ReportFile& report, const KeyLines& lines,
                      std::vector<ReportFault>& faults);
 

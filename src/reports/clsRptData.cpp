@@ -31,38 +31,34 @@ void clsRptData::DrawLine(platform::PrintSurface& page, std::string_view caption
 }
 
 void clsRptData::ShowData(platform::PrintSurface& page) {
-    try {
+    AtLine(Line, [&] {
         if (!HeadLine.empty()) {
             DrawLine(page, HeadLine);
             page.ApplyStyle("TinyText");
             page.Text("");
         }
-        switch (Mode) {
-            case DataMode::None:
-                break;
-            case DataMode::Table:
-                ShowTable(page);
-                break;
-            case DataMode::Records:
-                ShowRecords(page);
-                break;
-            case DataMode::Amortization:
-                ShowAmortization(page);
-                break;
-            case DataMode::Depreciation:
-            case DataMode::DeprTable:
-                ShowDepreciation(page);
-                break;
-        }
+        ShowMode(page);
         if (!FootLine.empty()) {
             page.ApplyStyle("TinyText");
             page.Text("");
             DrawLine(page, FootLine);
         }
-    } catch (const platform::ConversionError& fault) {
-        throw ReportError(Line, fault.what());
-    } catch (const platform::OverflowError& fault) {
-        throw ReportError(Line, fault.what());
+    });
+}
+
+void clsRptData::ShowMode(platform::PrintSurface& page) const {
+    switch (Mode) {
+        case DataMode::None:
+            return;
+        case DataMode::Table:
+            return ShowTable(page);
+        case DataMode::Records:
+            return ShowRecords(page);
+        case DataMode::Amortization:
+            return ShowAmortization(page);
+        case DataMode::Depreciation:
+        case DataMode::DeprTable:
+            return ShowDepreciation(page);
     }
 }
 

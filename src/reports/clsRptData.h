@@ -62,6 +62,7 @@ class clsRptData : public ReportSection {
     std::string ComposeQuery(std::string_view groupTest) const;
 
     void DrawLine(platform::PrintSurface& page, std::string_view caption) const;
+    void ShowMode(platform::PrintSurface& page) const;
     void ShowTable(platform::PrintSurface& page) const;
     void ShowRecords(platform::PrintSurface& page) const;
     void ShowRecord(platform::PrintSurface& page, platform::Recordset& row) const;

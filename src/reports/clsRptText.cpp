@@ -62,8 +62,8 @@ void clsRptText::Locate(std::string_view coordinates, int line) {
     QueueShape(TextCommandKind::Locate, coordinates, line);
 }
 
-void clsRptText::TagFormat(std::string_view tag, std::string_view format) {
-    tagFormats_.push_back({std::string(tag), std::string(format)});
+void clsRptText::TagFormat(std::string_view tag, std::string_view format, int line) {
+    tagFormats_.push_back({std::string(tag), std::string(format), line});
 }
 
 std::string clsRptText::Expand(std::string text) const {
@@ -87,16 +87,8 @@ void clsRptText::ShowData(platform::PrintSurface& page) {
         if (command.Kind == TextCommandKind::Calc) RunCalc(command);
     }
     ApplyTagFormats();
-    for (const TextCommand& command : commands_) {
-        // What the pages are written to may fail as well, which is not the definition's fault.
-        try {
-            Draw(command, page);
-        } catch (const platform::ConversionError& fault) {
-            throw ReportError(command.FileLine, fault.what());
-        } catch (const platform::OverflowError& fault) {
-            throw ReportError(command.FileLine, fault.what());
-        }
-    }
+    for (const TextCommand& command : commands_)
+        AtLine(command.FileLine, [&] { Draw(command, page); });
 }
 
 } // namespace reports

@@ -52,6 +52,13 @@ struct ReportVariable {
     std::int16_t FieldType = 0; ///< 0 of a calculation
 };
 
+/// Names a variable that is shown in a format.
+struct TagFormatCommand {
+    std::string Tag;
+    std::string Format;
+    int FileLine = 0;
+};
+
 /// A [TEXT] section: paragraphs, small tables, lines and boxes, with the values of queries and
 /// calculations in their text. Its commands are queued while the file is read. ShowData then runs
 /// the queries and calculations, formats what they gave, and draws the rest, so that a paragraph
@@ -75,13 +82,13 @@ class clsRptText : public ReportSection {
     TextCommand* Last() { return commands_.empty() ? nullptr : &commands_.back(); }
 
     /// Shows the variable of this name in a format.
-    void TagFormat(std::string_view tag, std::string_view format);
+    void TagFormat(std::string_view tag, std::string_view format, int line);
 
     const std::vector<TextCommand>& Commands() const { return commands_; }
-    const std::vector<ReportVariable>& Variables() const { return variables_; }
+    const std::vector<TagFormatCommand>& TagFormats() const { return tagFormats_; }
 
-    /// Throws a ReportError for a colour that is not a number, for shapes without a scale and for
-    /// positions that don't fit a page.
+    /// Throws a ReportError for a colour that is not a number, for shapes without a scale, for
+    /// positions that don't fit a page and for a number too large to be shown as a date.
     void ShowData(platform::PrintSurface& page) override;
 
   private:
@@ -97,14 +104,9 @@ class clsRptText : public ReportSection {
     void DrawTable(const TextCommand& command, platform::PrintSurface& page) const;
     void DrawShape(const TextCommand& command, platform::PrintSurface& page) const;
 
-    struct Format {
-        std::string Tag;
-        std::string Text;
-    };
-
     std::vector<TextCommand> commands_;
     std::vector<ReportVariable> variables_;
-    std::vector<Format> tagFormats_;
+    std::vector<TagFormatCommand> tagFormats_;
 };
 
 } // namespace reports

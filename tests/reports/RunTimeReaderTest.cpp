@@ -80,6 +80,7 @@ TEST_F(RunTimeReader, EndsTheRunAtAFaultWithFileLineAndReason) {
         {"SCALE=19,19\n[TEXT]\nDRAWGRID", "line 5: division by zero"},
         {"SCALE=1,1\n[TEXT]\nLOCATE=9,0", "line 5: "},
         {"[TEXT]\nPARAGRAPH=a\nTEXTCOLOR=red", "line 4: "},
+        {"[TEXT]\nSQLQUERY=SELECT 1e300 AS D\nPARAGRAPH=a\nFORMATDATE=D", "line 6: "},
     };
     for (const auto& [sections, fault] : cases) {
         EXPECT_TRUE(Fault(sections).starts_with("test.rpt, " + fault)) << sections << "\n"

@@ -45,6 +45,11 @@ TEST_F(TextSection, CalculatesBeforeItDraws) {
         {"-1^0.5", "%t2%"},
         {"10^400", "%t2%"},
         {"", "0"},
+        {"5/inf", "%t2%"}, // a word is not a number, not even this one
+        {"5+nan", "%t2%"},
+        {"5+-", "%t2%"},
+        {"5++-3", "%t2%"},
+        {"5*+3", "15"},
         {"%N%+1", "0"}, // "+1" has no operator
     };
     for (const auto& [expression, result] : cases) {
@@ -157,6 +162,11 @@ TEST_F(TextSection, PutsShapesOnTheGridOfThePage) {
     EXPECT_EQ(items[2].color, 255U);
 
     EXPECT_GT(Pages("SCALE=40,40\n[TEXT]\nDRAWGRID\n").Page(0).Items().size(), 82U);
+    // The title and frame, then a line and its number for each twentieth of both directions.
+    EXPECT_LT(Pages("SCALE=2000000000,2147483647\n[TEXT]\nDRAWGRID\n").Page(0).Items().size(), 100U)
+        << "only the numbered lines of a grid finer than twips";
+    EXPECT_GT(Pages("SCALE=12240,15840\n[TEXT]\nDRAWGRID\n").Page(0).Items().size(), 28'000U)
+        << "a grid of twips is drawn whole";
 }
 
 } // namespace

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+
+namespace reports {
+
+/// The tags that something fills in one place of a definition, each with a value to try statements
+/// with. Case doesn't matter in their names.
+class KnownTags {
+  public:
+    /// Nothing is filled.
+    KnownTags() = default;
+    /// What a subtitle and the query of a loop are given.
+    static KnownTags OfRun();
+    /// What the texts and statements of sections are given.
+    static KnownTags OfSection();
+
+    void Add(const std::string& name, std::string sample);
+    bool Has(const std::string& name) const;
+
+    /// The text with each tag's sample in its place.
+    std::string Fill(std::string text) const;
+
+    /// The names between two "%" that nobody fills, as they are written. None for a text with LIKE,
+    /// in whose patterns "%" stands for any characters.
+    std::set<std::string> Unfilled(const std::string& text) const;
+
+  private:
+    std::map<std::string, std::string> samples_; ///< by names in upper case
+};
+
+} // namespace reports
