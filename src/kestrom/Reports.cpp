@@ -1,6 +1,7 @@
 #include "kestrom/Reports.h"
 
 #include <QApplication>
+#include <QPointer>
 
 #include "platform/dialogs/Dialogs.h"
 #include "reports/PrintReport.h"
@@ -29,9 +30,11 @@ void PrintSelected(const shell::screens::Selection& selection) {
 
 /// The paper and the margins that reports are laid out for.
 void SetUpPages() {
-    auto* const form = new reports::screens::frmPageSetup(QApplication::activeWindow());
+    static QPointer<reports::screens::frmPageSetup> form;
+    if (form) return form->activateWindow();
+    form = new reports::screens::frmPageSetup(QApplication::activeWindow());
     QObject::connect(form, &QDialog::accepted, form,
-                     [form] { reports::SavePageSetup(form->Chosen()); });
+                     [] { reports::SavePageSetup(form->Chosen()); });
     form->Setup(reports::ReadPageSetup(), reports::screens::OrientationChoice::Free);
     form->open();
 }

@@ -4,8 +4,8 @@
 
 namespace kestrom {
 
-/// Loads the catalogue of reports, and gives the record forms their report menus and the program its
-/// report viewer.
+/// Loads the catalogue of reports, and gives the record forms their report menus and the program
+/// its report viewer.
 void LoadReports();
 
 /// The main window's printing of the selected record.

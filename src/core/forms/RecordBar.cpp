@@ -121,6 +121,7 @@ void RecordBar::MakeRecordMenu(QDialog& form, QMenuBar& bar, std::int16_t kind) 
         record.menu = own.front()->menu();
     }
     QMenu& menu = *record.menu;
+    menu.setToolTipsVisible(true);
     QAction* const first = menu.actions().value(0);
     apply_ = AddAction(menu, first, tr("&Apply"), "mnuApply");
     apply_->setShortcut(QKeySequence::Save);

@@ -7,6 +7,7 @@
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/Help.h"
 #include "platform/qt/Icons.h"
+#include "reports/ViewerSettings.h"
 #include "reports/screens/frmReportViewer.h"
 #include "ui_frmReportViewer.h"
 
@@ -40,7 +41,9 @@ QAction* frmReportViewer::AddAction(QMenu& menu, const char* name, const QString
 void frmReportViewer::SetUpMenus() {
     auto* const bar = new QMenuBar(this);
     layout()->setMenuBar(bar);
-    FillFileMenu(*bar->addMenu(tr("&File")));
+    QMenu& file = *bar->addMenu(tr("&File"));
+    file.setToolTipsVisible(true);
+    FillFileMenu(file);
     FillViewMenu(*bar->addMenu(tr("&View")));
     QMenu& help = *bar->addMenu(tr("&Help"));
     QAction* const about = AddAction(help, "mnuHelp", tr("&Report Viewer"), "help");
@@ -69,6 +72,8 @@ void frmReportViewer::FillFileMenu(QMenu& menu) {
     QAction* const open = AddAction(menu, "mnuOpenExport", tr("&Open Exported Files"));
     open->setCheckable(true);
     open->setToolTip(tr("Show a file with the program for its kind when it is written"));
+    // Each run reads the setting again.
+    connect(open, &QAction::triggered, this, &SaveOpenExport);
     menu.addSeparator();
     QAction* const catalogue = AddAction(menu, "mnuReports", tr("R&eports..."), "reports");
     connect(catalogue, &QAction::triggered, this, [] {
@@ -152,17 +157,39 @@ void frmReportViewer::SetUpToolBar() {
     add("HELP", "mnuHelp", tr("Help"));
 }
 
-void frmReportViewer::EnableActions() {
-    const bool isIdle = work_ == Work::None;
-    const bool isWhole = isIdle && document_.IsComplete();
-    for (const char* name :
-         {"mnuPrint", "mnuPrintPage", "mnuExportHTML", "mnuExportPDF", "mnuExportRTF"}) {
-        Action(name)->setEnabled(isWhole);
+QString frmReportViewer::ReasonToWait() const {
+    switch (work_) {
+        case Work::Layout:
+            return tr("The report is still being laid out");
+        case Work::Export:
+            return tr("The report is being exported");
+        case Work::Print:
+            return tr("The report is being printed");
+        case Work::None:
+            break;
     }
-    Action("mnuPageSetup")->setEnabled(isIdle && reportIndex_ != 0);
-    Action("mnuRefresh")->setEnabled(reportIndex_ != 0);
-    Action("mnuReports")->setEnabled(bool(CatalogueOpener()));
-    ui_->fraChoices->setEnabled(isIdle);
+    return {};
+}
+
+void frmReportViewer::EnableActions() {
+    // An empty reason makes a command available, and its tooltip its own text.
+    const auto allow = [this](const char* name, const QString& reason) {
+        Action(name)->setEnabled(reason.isEmpty());
+        Action(name)->setToolTip(reason);
+    };
+    const QString wait = ReasonToWait();
+    QString whole = wait;
+    if (whole.isEmpty() && !document_.IsComplete())
+        whole = tr("The report is incomplete: press F5 to run it again");
+    for (const char* name : {"mnuPrint", "mnuExportHTML", "mnuExportPDF", "mnuExportRTF"})
+        allow(name, whole);
+    // A page is whole even if the report isn't.
+    allow("mnuPrintPage", wait.isEmpty() && document_.PageCount() > 0 ? wait : whole);
+    const QString none = reportIndex_ == 0 ? tr("No report has been run") : QString();
+    allow("mnuPageSetup", none.isEmpty() ? wait : none);
+    allow("mnuRefresh", none);
+    allow("mnuReports", CatalogueOpener() ? QString() : tr("There is no report catalogue"));
+    ui_->fraChoices->setEnabled(work_ == Work::None);
 }
 
 void frmReportViewer::SetNavbar(bool shown) {

@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 
 #include "core/MessagePump.h"
+#include "core/Preferences.h"
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/ErrorRoll.h"
@@ -79,6 +80,8 @@ void frmReportViewer::ShowChoices(const ReportRun& run) {
     fixesOrientation_ = run.FixesOrientation();
     setWindowTitle(tr("Vestrel Report Viewer - ") + ToScreen(report.Description));
     Action("mnuOpenExport")->setChecked(ReadOpenExport());
+    SetNavbar(core::Preferences().ViewNavbar);
+    SetToolbar(core::Preferences().ViewToolbar);
 
     const bool asksRecord = report.SelectItem != 0;
     ui_->lblSelectedID->setVisible(asksRecord);
@@ -113,18 +116,20 @@ void frmReportViewer::ConnectChoices() {
 }
 
 void frmReportViewer::OpenPageSetup() {
+    if (auto* const open = findChild<frmPageSetup*>()) return open->activateWindow();
     auto* const dialog = new frmPageSetup(this);
     platform::PageSetup setup = ReadPageSetup();
     setup.orientation = document_.Info().setup.orientation;
     dialog->Setup(setup, fixesOrientation_ ? OrientationChoice::Fixed : OrientationChoice::Free);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    // Another report may be shown by the time the dialog is accepted.
+    const auto store = [this, dialog, index = reportIndex_, isFixed = fixesOrientation_] {
         const platform::PageSetup chosen = dialog->Chosen();
         SavePageSetup(chosen);
-        if (ReportDef* const report = FindReport(reportIndex_); report && !fixesOrientation_) {
+        if (ReportDef* const report = FindReport(index); report && !isFixed)
             report->Orientation = chosen.orientation;
-        }
         RunReport(reportIndex_);
-    });
+    };
+    connect(dialog, &QDialog::accepted, this, store);
     dialog->open();
 }
 

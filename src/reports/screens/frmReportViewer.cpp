@@ -78,9 +78,13 @@ void frmReportViewer::closeEvent(QCloseEvent* event) {
 }
 
 void frmReportViewer::SaveSettings() const {
-    // Without pages there is no set-up that anybody has seen.
-    if (document_.PageCount() > 0) SavePageSetup(document_.Info().setup);
     SaveOpenExport(Action("mnuOpenExport")->isChecked());
+    // Without pages there is no orientation that anybody has seen.
+    if (document_.PageCount() == 0) return;
+    // The margins may have been changed since the last run.
+    platform::PageSetup setup = ReadPageSetup();
+    setup.orientation = document_.Info().setup.orientation;
+    SavePageSetup(setup);
 }
 
 QAction* frmReportViewer::Action(const char* name) const {

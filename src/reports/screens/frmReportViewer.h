@@ -61,6 +61,8 @@ class frmReportViewer : public core::forms::Form {
     void ConnectChoices();
     QAction* AddAction(QMenu& menu, const char* name, const QString& text, const char* icon = "");
     QAction* Action(const char* name) const;
+    /// Why the commands have to wait, empty if they don't.
+    QString ReasonToWait() const;
     void EnableActions();
 
     // A run.

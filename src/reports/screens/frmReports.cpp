@@ -184,34 +184,44 @@ void frmReports::EnableDates() {
 bool frmReports::StoreAnswers() {
     ReportDef* const report = FindReport(shown_);
     if (report == nullptr) return true;
-    if (report->SelectItem != 0) report->SelectedId = core::binding::GetSelectedId(*ui_->cboDbItem);
-    if (report->SelectDetail) {
-        report->DetailLevel = ui_->optDetailSummary->isChecked() ? Detail::Summary : Detail::Full;
-    }
-    if (report->SelectYear) report->SelectedYear = FromScreen(ui_->cboYear->currentText());
-    return report->DateRange != DateRange::Select || StoreDates(*report);
+    return core::forms::ShowErrorRoll(StoreIn(*report));
 }
 
-bool frmReports::StoreDates(ReportDef& report) {
+std::vector<std::string> frmReports::StoreIn(ReportDef& report) const {
+    if (report.SelectItem != 0) report.SelectedId = core::binding::GetSelectedId(*ui_->cboDbItem);
+    if (report.SelectDetail)
+        report.DetailLevel = ui_->optDetailSummary->isChecked() ? Detail::Summary : Detail::Full;
+    if (report.SelectYear) report.SelectedYear = FromScreen(ui_->cboYear->currentText());
+    if (report.DateRange != DateRange::Select) return {};
+    return StoreDates(report);
+}
+
+std::vector<std::string> frmReports::StoreDates(ReportDef& report) const {
     report.DateChoice = ui_->optDateCurrent->isChecked()    ? DateRange::CurrentYear
                         : ui_->optDateTrailing->isChecked() ? DateRange::TrailingYear
                         : ui_->optDatePrevious->isChecked() ? DateRange::PreviousYear
                                                             : DateRange::Select;
-    if (report.DateChoice != DateRange::Select) return true;
+    if (report.DateChoice != DateRange::Select) return {};
     const auto start = ui_->dpStart->Day();
     const auto end = ui_->dpEnd->Day();
     std::vector<std::string> faults;
     if (!start || !start->IsSet()) faults.push_back("The first date is not a valid date.");
     if (!end || !end->IsSet()) faults.push_back("The last date is not a valid date.");
-    if (!core::forms::ShowErrorRoll(faults)) return false;
+    if (!faults.empty()) return faults;
     report.StartDate = *start;
     report.EndDate = *end;
-    return true;
+    return {};
 }
 
 void frmReports::Run() {
     if (shown_ == 0 || !StoreAnswers()) return;
     reports::RunReport(shown_);
+}
+
+void frmReports::closeEvent(QCloseEvent* event) {
+    // A date that is not valid goes with the screen.
+    if (ReportDef* const report = FindReport(shown_)) static_cast<void>(StoreIn(*report));
+    Form::closeEvent(event);
 }
 
 /// Records come and go while the catalogue is open.

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "core/forms/Form.h"
 
@@ -26,6 +28,8 @@ class frmReports : public core::forms::Form {
     void Setup();
 
   protected:
+    /// Keeps the answers for the rest of the session.
+    void closeEvent(QCloseEvent* event) override;
     void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
 
   private:
@@ -38,7 +42,9 @@ class frmReports : public core::forms::Form {
     void EnableDates();
     /// Stores the answers on screen with the report they belong to; false if a date is not valid.
     bool StoreAnswers();
-    bool StoreDates(ReportDef& report);
+    /// Stores them in a report; returns what is wrong with the dates, which stay as they were then.
+    std::vector<std::string> StoreIn(ReportDef& report) const;
+    std::vector<std::string> StoreDates(ReportDef& report) const;
     void Run();
 
     std::unique_ptr<Ui::frmReports> ui_;

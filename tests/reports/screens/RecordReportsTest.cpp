@@ -61,6 +61,7 @@ class RecordReports : public support::ScreenTest {
             texts.push_back(action->text().toStdString() +
                             (action->isEnabled() ? "" : " (disabled)"));
             EXPECT_TRUE(action->isEnabled() || !action->toolTip().isEmpty());
+            EXPECT_TRUE(qobject_cast<QMenu*>(action->parent())->toolTipsVisible());
         }
         std::ranges::sort(texts);
         return texts;

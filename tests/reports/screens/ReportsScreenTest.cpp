@@ -144,6 +144,9 @@ TEST_F(ReportsScreen, StoresTheAnswersOfEachReport) {
     EXPECT_EQ(Find<QComboBox>(*form, "cboDbItem").currentData().toInt(), tenant);
     core::NotifyAll(core::kTenant, 1, 0);
     EXPECT_EQ(Find<QComboBox>(*form, "cboDbItem").currentData().toInt(), tenant);
+    support::Choose(*form, "cboYear", "2020");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Report("Everything").SelectedYear, "2020") << "kept for the rest of the session";
 }
 
 TEST_F(ReportsScreen, KeepsAReportWhoseDateIsNotValid) {
