@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QGroupBox>
@@ -36,12 +37,32 @@ class WheelGuard : public QObject {
     }
 };
 
-/// A box that only shows has the colour of the page around it.
-void ShowReadOnly(QWidget& box) {
-    box.setStyleSheet(
-        QStringLiteral("QLineEdit:read-only, QPlainTextEdit:read-only "
-                       "{ background: palette(window); }"));
-}
+/// Gives a box that only shows its text the colour of the page around it, also after the program
+/// has changed from light to dark.
+class ReadOnlyLook : public QObject {
+  public:
+    explicit ReadOnlyLook(QWidget& box) : QObject(&box) {
+        box.installEventFilter(this);
+        Apply(box);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ReadOnlyChange) {
+            Apply(*static_cast<QWidget*>(watched));
+        }
+        return false;
+    }
+
+  private:
+    static void Apply(QWidget& box) {
+        const bool isReadOnly = box.property("readOnly").toBool();
+        const QColor ground =
+            QApplication::palette().color(isReadOnly ? QPalette::Window : QPalette::Base);
+        if (box.palette().color(QPalette::Base) == ground) return;
+        QPalette look = box.palette();
+        look.setColor(QPalette::Base, ground);
+        box.setPalette(look);
+    }
+};
 
 QString WithoutMarks(QString text) {
     return text.remove(QLatin1Char('&')).remove(QLatin1Char(':')).trimmed();
@@ -59,10 +80,10 @@ void WireControls(QWidget& form) {
             combo->installEventFilter(wheel);
         } else if (auto* const line = qobject_cast<QLineEdit*>(control)) {
             if (HoldsNumber(*line)) line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            if (line->isReadOnly()) ShowReadOnly(*line);
+            if (line->isReadOnly()) new ReadOnlyLook(*line);
         } else if (auto* const page = qobject_cast<QPlainTextEdit*>(control)) {
             page->setTabChangesFocus(true);
-            if (page->isReadOnly()) ShowReadOnly(*page);
+            if (page->isReadOnly()) new ReadOnlyLook(*page);
         } else if (auto* const spin = qobject_cast<QAbstractSpinBox*>(control)) {
             spin->setFocusPolicy(Qt::StrongFocus);
             spin->installEventFilter(wheel);

@@ -44,7 +44,7 @@ void Form::CloseUnasked() {
 }
 
 bool Form::AskToClose() {
-    return !asks_ || MayClose();
+    return !asks_ || (!busy_ && MayClose());
 }
 
 void Form::reject() {

@@ -21,7 +21,8 @@ class Form : public QDialog {
     /// "tag" as text.
     std::int32_t OpenRecordId() const;
 
-    /// Asks the user before the form closes, if there is something to ask; true if it may close.
+    /// Asks the user before the form closes, if there is something to ask; true if it may close. It
+    /// may not while a command of the form is running.
     bool AskToClose();
     /// Closes without asking, for the end of the process.
     void CloseUnasked();

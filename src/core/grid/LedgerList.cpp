@@ -2,9 +2,9 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QStyledItemDelegate>
 #include <algorithm>
 
+#include "core/grid/RowDelegate.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Format.h"
 
@@ -26,25 +26,6 @@ class Row : public QTreeWidgetItem {
         const QVariant mine = data(column, kSortRole);
         if (!mine.isValid()) return text(column).localeAwareCompare(other.text(column)) < 0;
         return mine.toLongLong() < other.data(column, kSortRole).toLongLong();
-    }
-};
-
-/// Rows with some air, and check boxes that can be seen on a dark list too: they are filled with
-/// the colour of what lies behind them.
-class RowDelegate : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        constexpr int kAir = 6;
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kAir);
-    }
-
-  protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const QColor base = option->palette.color(QPalette::Base);
-        if (base.lightness() < 128) option->palette.setColor(QPalette::Base, base.lighter(280));
     }
 };
 

@@ -3,7 +3,6 @@
 #include <QCloseEvent>
 #include <QIntValidator>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QTreeWidget>
 
 #include <fmt/core.h>
@@ -115,6 +114,12 @@ void frmBackup::ReadConfig() {
 
 std::vector<std::string> frmBackup::Errors() const {
     std::vector<std::string> errors;
+    if (ui_->txtBackupPeriods->text().isEmpty()) {
+        errors.emplace_back("The time between backups must be given.");
+    }
+    if (ui_->txtKeepPeriods->text().isEmpty()) {
+        errors.emplace_back("The time that backups are kept must be given.");
+    }
     if (config_.backupPath.empty()) errors.emplace_back("A folder for backups must be given.");
     if (config_.backupPath.size() > kBackupPathSize) {
         errors.push_back(fmt::format("The path of the folder must not be longer than {} letters.",
@@ -130,7 +135,6 @@ void frmBackup::Browse() {
 }
 
 bool frmBackup::MayClose() {
-    if (busy_) return false;
     ReadConfig();
     return core::forms::ShowErrorRoll(Errors());
 }
@@ -168,14 +172,12 @@ bool frmBackup::AgreedToKeepNothing() const {
 }
 
 void frmBackup::Start() {
-    if (busy_) return;
     ReadConfig();
     if (!core::forms::ShowErrorRoll(Errors()) || !AgreedToKeepNothing()) return;
-    const QScopedValueRollback busy(busy_, true);
     const auto entries = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget* const control : entries)
         if (control != ui_->lstResults) control->setEnabled(false);
-    Guarded([this] { Run(); });
+    Perform([this] { Run(); });
     for (QWidget* const control : entries)
         control->setEnabled(true);
 }

@@ -31,7 +31,7 @@ class frmBackup : public core::forms::Form {
     void Connect();
     void ShowConfig();
     void ReadConfig();
-    /// What is wrong with the entries, a line each.
+    /// Returns the errors in the entries, a line each.
     std::vector<std::string> Errors() const;
     void Browse();
     void Start();
@@ -42,7 +42,6 @@ class frmBackup : public core::forms::Form {
     std::unique_ptr<Ui::frmBackup> ui_;
     BackupConfig config_;
     std::function<void()> closed_;
-    bool busy_ = false;
 };
 
 } // namespace exchange::screens

@@ -1,7 +1,6 @@
 #include "exchange/screens/frmCheck.h"
 
 #include <QPushButton>
-#include <QScopedValueRollback>
 
 #include "core/Globals.h"
 #include "core/binding/Tags.h"
@@ -20,15 +19,20 @@ frmCheck::frmCheck(QWidget* parent) : Form(parent), ui_(std::make_unique<Ui::frm
     ui_->setupUi(this);
     core::binding::WireControls(*this);
     QHeaderView& head = *ui_->lstFindings->header();
-    head.setStretchLastSection(true);
+    head.setStretchLastSection(false);
     head.setSectionResizeMode(0, QHeaderView::ResizeToContents);
-    head.resizeSection(1, 360);
+    head.setSectionResizeMode(1, QHeaderView::Stretch);
     core::forms::ActionBar& bar = *ui_->cmdAction;
     bar.Cancel().hide();
     bar.Apply().setText(tr("Check &Again"));
     bar.Apply().setToolTip(tr("Check everything once more"));
     core::binding::SetTag(bar.Apply(), "START");
     bar.Close().setToolTip(tr("Close (Esc)"));
+    connect(
+        ui_->lstFindings, &QTreeWidget::currentItemChanged, this,
+        [this](const QTreeWidgetItem* row) {
+            ui_->txtFinding->setPlainText(row ? row->data(1, Qt::UserRole).toString() : QString());
+        });
     connect(&bar, &core::forms::ActionBar::ApplyClicked, this, &frmCheck::Check);
     connect(&bar, &core::forms::ActionBar::CloseClicked, this, &QWidget::close);
     connect(&bar, &core::forms::ActionBar::HelpClicked, this,
@@ -43,11 +47,9 @@ void frmCheck::Setup() {
 }
 
 void frmCheck::Check() {
-    if (busy_) return;
-    const QScopedValueRollback busy(busy_, true);
     ui_->cmdAction->setEnabled(false);
     ui_->lstFindings->clear();
-    core::forms::Guarded([this] {
+    Perform([this] {
         const auto progress = [this](std::string_view part, int number, int of) {
             ui_->lblSummary->setText(tr("Checking: %1").arg(ToScreen(std::string(part))));
             ui_->prgCheck->setRange(0, of);
@@ -64,12 +66,12 @@ void frmCheck::Show(const std::vector<Finding>& findings) {
     for (const Finding& finding : findings) {
         const bool isFault = finding.severity == Severity::Fault;
         auto* const row = new QTreeWidgetItem(
-            ui_->lstFindings,
-            {isFault ? tr("Fault") : tr("Note"), ToScreen(finding.what), ToScreen(finding.advice)});
+            ui_->lstFindings, {isFault ? tr("Fault") : tr("Note"), ToScreen(finding.what)});
+        row->setData(1, Qt::UserRole, ToScreen(finding.what + ".\n" + finding.advice));
         if (isFault) row->setIcon(0, platform::qt::LoadIcon(QStringLiteral("warning")));
         row->setToolTip(1, row->text(1));
-        row->setToolTip(2, row->text(2));
     }
+    ui_->lstFindings->setCurrentItem(ui_->lstFindings->topLevelItem(0));
 }
 
 } // namespace exchange::screens

@@ -22,15 +22,11 @@ class frmCheck : public core::forms::Form {
     /// Shows the screen and checks.
     void Setup();
 
-  protected:
-    bool MayClose() override { return !busy_; }
-
   private:
     void Check();
     void Show(const std::vector<Finding>& findings);
 
     std::unique_ptr<Ui::frmCheck> ui_;
-    bool busy_ = false;
 };
 
 } // namespace exchange::screens

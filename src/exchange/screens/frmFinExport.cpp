@@ -8,6 +8,7 @@
 #include "core/binding/Wiring.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/Help.h"
+#include "core/grid/RowDelegate.h"
 #include "exchange/FinExportLines.h"
 #include "exchange/screens/AccountList.h"
 #include "platform/dialogs/Choosers.h"
@@ -77,7 +78,10 @@ void frmFinExport::Connect() {
             if (on) RangeChanged();
         });
     connect(ui_->chkShowCount, &QCheckBox::toggled, this, &frmFinExport::RangeChanged);
+    ui_->lstAccounts->setItemDelegate(new core::grid::RowDelegate(this));
     for (auto* const box : {ui_->dpTransStart, ui_->dpTransEnd}) {
+        box->setMinimumWidth(box->minimumSizeHint().width() +
+                             box->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")));
         connect(box, &QLineEdit::editingFinished, this, [this, box] { DayEntered(*box); });
         // A day picked from the calendar is written out in full; one that is being typed waits.
         connect(box, &QLineEdit::textChanged, this, [this, box](const QString& text) {
@@ -93,7 +97,7 @@ void frmFinExport::Connect() {
     bar.Close().setDefault(false);
     bar.Apply().setDefault(true);
     connect(&bar, &core::forms::ActionBar::ApplyClicked, this,
-            [this] { Guarded([this] { Export(); }); });
+            [this] { Perform([this] { Export(); }); });
     connect(&bar, &core::forms::ActionBar::CloseClicked, this, &QWidget::close);
     connect(&bar, &core::forms::ActionBar::HelpClicked, this,
             [this] { core::forms::ShowHelp(*this); });
@@ -140,9 +144,10 @@ void frmFinExport::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std:
 }
 
 void frmFinExport::closeEvent(QCloseEvent* event) {
-    ReadSettings();
-    SaveFinExportSettings(settings_);
     Form::closeEvent(event);
+    if (!event->isAccepted()) return;
+    ReadSettings();
+    Guarded([this] { SaveFinExportSettings(settings_); });
 }
 
 void frmFinExport::FillList() {
@@ -151,7 +156,7 @@ void frmFinExport::FillList() {
 }
 
 void frmFinExport::RangeChanged() {
-    // While the settings are being shown, the controls that come later don't hold theirs yet.
+    // While the settings are being shown, the later controls don't have theirs yet.
     if (loading_) return;
     ReadSettings();
     const bool isDays = settings_.range.range == TransRange::DateRange;

@@ -2,7 +2,6 @@
 
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QScopedValueRollback>
 
 #include "core/Globals.h"
 #include "core/Session.h"
@@ -98,23 +97,17 @@ void frmPort::ChooseFile() {
     if (file) ui_->txtImportFile->setText(ToScreen(*file));
 }
 
-bool frmPort::MayClose() {
-    return !busy_;
-}
-
-void frmPort::RunAlone(const std::function<void()>& work) {
-    if (busy_) return;
-    const QScopedValueRollback busy(busy_, true);
+void frmPort::Run(const std::function<void()>& work) {
     const auto enable = [this](bool on) {
         ui_->tabPort->setEnabled(on);
         ui_->cmdAction->setEnabled(on);
     };
     enable(false);
-    core::forms::Guarded(work);
+    Perform(work);
     enable(true);
 }
 
-// While records are written no window messages run, so what is shown is painted at once.
+// While records are written no window messages run, so the status and progress are painted here.
 PortWatcher frmPort::Watcher() {
     return {.status =
                 [this](std::string_view lines) {
@@ -131,7 +124,7 @@ PortWatcher frmPort::Watcher() {
 
 void frmPort::Execute() {
     if (ui_->tabPort->currentIndex() == 0) {
-        RunAlone([this] { Export(); });
+        Run([this] { Export(); });
     } else {
         Import(ImportMode::Write);
     }
@@ -157,7 +150,7 @@ void frmPort::Import(ImportMode mode) {
             platform::Icon::Question)) {
         return;
     }
-    RunAlone([this, mode, overwrites] {
+    Run([this, mode, overwrites] {
         ImportDatabase(FromScreen(ui_->txtImportFile->text()), mode,
                        overwrites ? ImportRows::Overwrite : ImportRows::Append,
                        ImportMessages::Show, Watcher());

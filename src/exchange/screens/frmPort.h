@@ -23,7 +23,6 @@ class frmPort : public core::forms::Form {
     void Setup();
 
   protected:
-    bool MayClose() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
@@ -35,11 +34,10 @@ class frmPort : public core::forms::Form {
     void Export();
     void Import(ImportMode mode);
     PortWatcher Watcher();
-    /// Does `work` while the screen takes no other command; a failure is shown.
-    void RunAlone(const std::function<void()>& work);
+    /// Runs `work` with the controls disabled; a failure is shown.
+    void Run(const std::function<void()>& work);
 
     std::unique_ptr<Ui::frmPort> ui_;
-    bool busy_ = false;
 };
 
 } // namespace exchange::screens

@@ -2,7 +2,6 @@
 
 #include <QLocale>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <algorithm>
 
 #include <fmt/core.h>
@@ -146,14 +145,12 @@ void frmRestore::ShowEntries() {
 }
 
 void frmRestore::Restore() {
-    if (busy_) return;
     if (ui_->txtFolder->text().trimmed().isEmpty()) {
         core::forms::ShowErrorRoll({"A folder to restore into must be given."});
         return;
     }
-    const QScopedValueRollback busy(busy_, true);
     ui_->cmdAction->setEnabled(false);
-    core::forms::Guarded([this] { Run(); });
+    Perform([this] { Run(); });
     ui_->cmdAction->setEnabled(true);
 }
 

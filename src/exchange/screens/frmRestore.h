@@ -27,9 +27,6 @@ class frmRestore : public core::forms::Form {
     /// What was restored is offered to `open`, which may be empty.
     void Setup(OpenBooks open = {});
 
-  protected:
-    bool MayClose() override { return !busy_; }
-
   private:
     void Connect();
     void ChooseContainer();
@@ -41,8 +38,7 @@ class frmRestore : public core::forms::Form {
 
     std::unique_ptr<Ui::frmRestore> ui_;
     OpenBooks open_;
-    QString proposed_; // the folder that the user didn't type
-    bool busy_ = false;
+    QString proposed_; // the folder that was put into the box last
 };
 
 } // namespace exchange::screens

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/Text.h"
@@ -19,6 +20,19 @@ QString Filters(const FileQuestion& question) {
     return filters.join(QStringLiteral(";;"));
 }
 
+/// "html" of "*.html *.htm"; empty if any file will do.
+QString SuffixOf(const QString& patterns) {
+    const QString first = patterns.section(QLatin1Char(' '), 0, 0);
+    return first.contains(QLatin1Char('.')) && !first.endsWith(QLatin1Char('*'))
+               ? first.section(QLatin1Char('.'), -1)
+               : QString();
+}
+
+/// The patterns of "Web pages (*.html *.htm)".
+QString PatternsOf(const QString& filter) {
+    return filter.section(QLatin1Char('('), -1).chopped(1);
+}
+
 std::optional<std::string> Chosen(const QString& path) {
     if (path.isEmpty()) return std::nullopt;
     return FromScreen(path);
@@ -32,9 +46,24 @@ class ChooserBoxes : public Choosers {
                                                    ToScreen(question.start), Filters(question)));
     }
     std::optional<std::string> SaveFile(const FileQuestion& question) override {
-        return Chosen(QFileDialog::getSaveFileName(QApplication::activeWindow(),
-                                                   ToScreen(question.title),
-                                                   ToScreen(question.start), Filters(question)));
+        QFileDialog dialog(QApplication::activeWindow(), ToScreen(question.title), {},
+                           Filters(question));
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        // The dialog asks before a file is replaced, also one whose extension wasn't typed.
+        const auto setSuffix = [&dialog](const QString& filter) {
+            dialog.setDefaultSuffix(SuffixOf(PatternsOf(filter)));
+        };
+        setSuffix(dialog.selectedNameFilter());
+        QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, setSuffix);
+        const QFileInfo start(ToScreen(question.start));
+        if (start.isDir()) {
+            dialog.setDirectory(start.filePath());
+        } else {
+            if (start.isAbsolute()) dialog.setDirectory(start.path());
+            dialog.selectFile(start.fileName());
+        }
+        if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+        return Chosen(dialog.selectedFiles().value(0));
     }
     std::optional<std::string> Folder(std::string_view title, std::string_view start) override {
         return Chosen(QFileDialog::getExistingDirectory(QApplication::activeWindow(),

@@ -1,5 +1,6 @@
 #include "core/binding/Binding.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -9,6 +10,8 @@
 
 #include "core/binding/DateEdit.h"
 #include "core/binding/Tags.h"
+#include "core/binding/Wiring.h"
+#include "platform/qt/Appearance.h"
 #include "platform/qt/Text.h"
 #include "support/screens/ScreenFixture.h"
 
@@ -265,6 +268,24 @@ TEST_F(BindingTest, WhatIsNoBindingIsPassedOver) {
     Keep();
     EXPECT_EQ(Ask("SELECT Sum FROM Sample"), "1.2345") << "a label only shows";
     EXPECT_EQ(Ask("SELECT Words FROM Sample"), "here");
+}
+
+TEST_F(BindingTest, ReadOnlyBoxesHaveTheColourOfThePage) {
+    using platform::qt::Appearance;
+    auto& line = Add<QLineEdit>("#Big");
+    line.setReadOnly(true);
+    auto& page = Add<QPlainTextEdit>("*Pages");
+    page.setReadOnly(true);
+    core::binding::WireControls(form_);
+    form_.show();
+    for (const Appearance appearance : {Appearance::Dark, Appearance::Light}) {
+        platform::qt::ApplyAppearance(appearance);
+        const QColor window = QApplication::palette().color(QPalette::Window);
+        EXPECT_EQ(line.palette().color(QPalette::Base), window);
+        EXPECT_EQ(page.palette().color(QPalette::Base), window);
+    }
+    line.setReadOnly(false);
+    EXPECT_EQ(line.palette().color(QPalette::Base), QApplication::palette().color(QPalette::Base));
 }
 
 TEST_F(BindingTest, MemosKeepTheirLines) {

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -11,9 +12,12 @@
 #include "core/RegistryKeys.h"
 #include "core/Settings.h"
 #include "dbmender/frmDbMender.h"
+#include "exchange/Container.h"
+#include "exchange/screens/frmRestore.h"
 #include "platform/qt/Text.h"
 #include "shell/Registrations.h"
 #include "store/CreateDatabase.h"
+#include "support/ScriptedChoosers.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
 #include "support/screens/ScreenChecks.h"
@@ -131,6 +135,33 @@ TEST_F(MenderScreen, CanBeStoppedWhileItMakesTheSample) {
     EXPECT_FALSE(std::filesystem::exists(PathTo("db/Vestrel.mdb")));
     QTest::keyClick(window_.get(), Qt::Key_Escape);
     EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(MenderScreen, RestoresABackupAndOpensItToLookAt) {
+    store::CreateDatabase(PathTo("mine"));
+    std::string result;
+    exchange::PackDatabase(PathTo("Vestrel.0.vbk"), PathTo("mine/Vestrel.mdb"), {}, result);
+    exchange::PackFile(PathTo("Vestrel.0.vbk"), PathTo("mine/Version"),
+                       exchange::FileType::Database, result);
+    ASSERT_EQ(result, "Success");
+    const support::ScriptedChoosers choosers({PathTo("Vestrel.0.vbk")});
+    Open();
+    ClickOn(Find<QPushButton>(*window_, "cmdRestore"));
+    const QPointer<exchange::screens::frmRestore> form =
+        window_->findChild<exchange::screens::frmRestore*>();
+    ASSERT_TRUE(form);
+    ClickOn(Find<QPushButton>(*form, "cmdContainer"));
+    Answer({true});
+    support::ClickAction(*form, "RESTORE");
+    const std::string folder = PathTo("Vestrel.0 restored");
+    EXPECT_THAT(started_, ElementsAre("kestrom", "--data", folder, "--read-only"));
+    EXPECT_TRUE(Find<QRadioButton>(*window_, "optUseExisting").isChecked());
+    EXPECT_EQ(FromScreen(FolderBox().text()), folder);
+    EXPECT_EQ(Objection(), "");
+    QTest::keyClick(form, Qt::Key_Escape);
+    support::SettleEvents();
+    EXPECT_FALSE(form);
+    EXPECT_TRUE(window_->isVisible());
 }
 
 TEST_F(MenderScreen, LooksAndReadsRight) {

@@ -8,10 +8,14 @@
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 #include <fstream>
 
+#include "core/MessagePump.h"
 #include "core/binding/DateEdit.h"
+#include "core/binding/Tags.h"
+#include "core/forms/OpenForms.h"
 #include "exchange/BackupConfig.h"
 #include "exchange/FinExportSettings.h"
 #include "exchange/screens/frmBackup.h"
@@ -220,6 +224,11 @@ TEST_F(ExchangeScreens, BacksUpAndKeepsItsSettings) {
     EXPECT_TRUE(rows.ends_with("The backup was completed successfully.|Success|\n")) << rows;
     LooksRight(*form, "frmBackup");
 
+    Type(Find<QLineEdit>(*form, "txtKeepPeriods"), "");
+    ClickAction(*form, "START");
+    EXPECT_EQ(Heard(),
+              Said{"Whoa!: The following errors have occured:\n\nThe time that backups are "
+                   "kept must be given.\n"});
     Type(Find<QLineEdit>(*form, "txtKeepPeriods"), "0");
     ClickAction(*form, "START");
     const Said heard = Heard();
@@ -241,6 +250,71 @@ TEST_F(ExchangeScreens, BacksUpAndKeepsItsSettings) {
     EXPECT_EQ(config.keepInterval, 2);
     EXPECT_EQ(config.backupPath, PathTo("Backup/"));
     EXPECT_EQ(exchange::LastBackupText(config), "Last Backup: " + platform::Today().ToText());
+}
+
+/// Second clicks, keys and a wish to close that arrive while a command runs.
+class Impatience {
+  public:
+    explicit Impatience(QWidget& form, const char* word) {
+        core::SetMessagePump([] { QCoreApplication::processEvents(); });
+        QObject::connect(&ticks_, &QTimer::timeout, &form, [this, &form, word] {
+            ++clicks_;
+            for (QPushButton* const button : form.findChildren<QPushButton*>()) {
+                if (core::binding::TagOf(*button) == word) ClickOn(*button);
+            }
+            QTest::keyClick(&form, Qt::Key_Escape);
+            form.close();
+            mayClose_ = mayClose_ || core::forms::MayCloseAllForms();
+        });
+        ticks_.start(0);
+    }
+    ~Impatience() { core::SetMessagePump({}); }
+    Impatience(const Impatience&) = delete;
+    Impatience& operator=(const Impatience&) = delete;
+
+    void Stop() { ticks_.stop(); }
+    int Clicks() const { return clicks_; }
+    bool MayClose() const { return mayClose_; }
+
+  private:
+    QTimer ticks_;
+    int clicks_ = 0;
+    bool mayClose_ = false;
+};
+
+TEST_F(ExchangeScreens, TakeNoSecondCommandWhileOneRuns) {
+    fs::create_directory(PathTo("Backup"));
+    QPointer<frmBackup> backup = Open<frmBackup>();
+    {
+        Impatience impatience(*backup, "START");
+        ClickAction(*backup, "START");
+        impatience.Stop();
+        EXPECT_GT(impatience.Clicks(), 0);
+        EXPECT_FALSE(impatience.MayClose());
+    }
+    ASSERT_TRUE(backup && backup->isVisible());
+    EXPECT_EQ(Heard(), Said{"Backup: The backup was completed successfully."});
+    EXPECT_FALSE(fs::exists(PathTo("Backup/Vestrel.1.vbk")));
+    ClickAction(*backup, "CLOSE");
+
+    std::ofstream file(PathTo("many.csv"));
+    file << "\"Table\",\"Room\",\"/Table\"\n\"Fields\",\"IdRoom\",\"/Fields\"\n";
+    for (int i = 0; i < 3000; ++i)
+        file << "\"Record\"," << 1000 + i << ",\"/Record\"\n";
+    file.close();
+    const support::ScriptedChoosers choosers({PathTo("many.csv")});
+    QPointer<frmPort> port = Open<frmPort>();
+    Find<QTabWidget>(*port, "tabPort").setCurrentIndex(1);
+    ClickOn(Find<QPushButton>(*port, "cmdBrowse"));
+    {
+        Impatience impatience(*port, "IMPORT");
+        ClickAction(*port, "IMPORT");
+        impatience.Stop();
+        EXPECT_GT(impatience.Clicks(), 0);
+        EXPECT_FALSE(impatience.MayClose());
+    }
+    ASSERT_TRUE(port && port->isVisible());
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Room WHERE IdRoom >= 1000"), "3000");
 }
 
 TEST_F(ExchangeScreens, RestoresABackup) {
@@ -284,6 +358,12 @@ TEST_F(ExchangeScreens, ShowsWhatTheCheckFinds) {
               std::string::npos)
         << rows;
     LooksRight(*form, "frmCheck");
+    const auto& finding = Find<QPlainTextEdit>(*form, "txtFinding");
+    EXPECT_TRUE(finding.toPlainText().startsWith(
+        QStringLiteral("The identifier 901 belongs to several records: Account, Room.\nIf a file")))
+        << finding.toPlainText().toStdString();
+    QTest::keyClick(&Find<QTreeWidget>(*form, "lstFindings"), Qt::Key_Down);
+    EXPECT_TRUE(finding.toPlainText().startsWith(QStringLiteral("1 record of Room")));
     Run("DELETE * FROM Room WHERE IdRoom = 901");
     ClickAction(*form, "START");
     EXPECT_EQ(RowsOf(*form, "lstFindings").find("901"), std::string::npos);
