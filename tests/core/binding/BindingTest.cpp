@@ -13,6 +13,7 @@
 #include "core/binding/Wiring.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/Text.h"
+#include "support/screens/Driving.h"
 #include "support/screens/ScreenFixture.h"
 
 namespace {
@@ -280,6 +281,7 @@ TEST_F(BindingTest, ReadOnlyBoxesHaveTheColourOfThePage) {
     form_.show();
     for (const Appearance appearance : {Appearance::Dark, Appearance::Light}) {
         platform::qt::ApplyAppearance(appearance);
+        support::SettleEvents();
         const QColor window = QApplication::palette().color(QPalette::Window);
         EXPECT_EQ(line.palette().color(QPalette::Base), window);
         EXPECT_EQ(page.palette().color(QPalette::Base), window);
