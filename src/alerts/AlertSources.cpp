@@ -4,7 +4,6 @@
 
 #include <fmt/core.h>
 
-#include "core/Globals.h"
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
@@ -27,14 +26,10 @@ constexpr std::string_view kWorkOrderPicture = "WORKORDER";
 constexpr std::string_view kBuildingPicture = "PROPERTY";
 constexpr std::string_view kMessagePicture = "AUTOEVENT";
 
-std::string TextOf(Recordset& row, std::string_view field) {
-    return platform::TextOf(row[field]);
-}
-
 /// Returns a lease's tenant and place: "Smith at 12 Elm Street", with the unit if it has a name.
 std::string LeasePlace(Recordset& row) {
-    std::string place = fmt::format("{} at {}", TextOf(row, "LastName"), TextOf(row, "Address"));
-    const std::string unit = TextOf(row, "Unit");
+    std::string place = fmt::format("{} at {}", TextOf(row["LastName"]), TextOf(row["Address"]));
+    const std::string unit = TextOf(row["Unit"]);
     if (!unit.empty()) place += " unit " + unit;
     return place;
 }
@@ -58,7 +53,7 @@ Interval TermUnit(std::string_view termType) {
 template <class Name, class Add>
 void ForEachRow(std::string_view sql, Name name, Add add) {
     Recordset rows;
-    core::OpenRecordset(rows, sql, core::Access::ReadOnly);
+    core::OpenRecordset(rows, sql, platform::CursorMode::ReadOnly);
     if (!rows.IsOpen()) return;
     for (; !rows.Eof(); rows.MoveNext()) {
         try {
@@ -74,15 +69,15 @@ std::string LeaseName(Recordset& row) {
 }
 
 std::string MortgageName(Recordset& row) {
-    return "Mortgage account # " + TextOf(row, "AccountNumber");
+    return "Mortgage account # " + TextOf(row["AccountNumber"]);
 }
 
 std::string BuildingName(Recordset& row) {
-    return "Building " + TextOf(row, "Address");
+    return "Building " + TextOf(row["Address"]);
 }
 
 std::string WorkOrderName(Recordset& row) {
-    return "Work Order " + TextOf(row, "ShortDesc");
+    return "Work Order " + TextOf(row["ShortDesc"]);
 }
 
 std::string MessageName(Recordset& /*row*/) {
@@ -97,7 +92,7 @@ void AddBuildingDates(std::vector<AlertItem>& items, std::string_view field, int
         if (const auto days = DaysWithin(row[field].AsDate(), window)) {
             items.push_back({core::kBuilding, row["IdBuilding"].AsLong(),
                              fmt::format("{} renewal due in {} days for Building {}", what, *days,
-                                         TextOf(row, "Address")),
+                                         TextOf(row["Address"])),
                              kBuildingPicture});
         }
     });
@@ -114,7 +109,7 @@ void AddLateRent(std::vector<AlertItem>& items) {
         "AND (Lease.RentStatus IN ('Due', 'Late', 'Warning', 'Eviction'))",
         LeaseName, [&](Recordset& row) {
             items.push_back({core::kLease, row["IdLease"].AsLong(),
-                             fmt::format("Rent Notice: {} for Lease {}", TextOf(row, "RentStatus"),
+                             fmt::format("Rent Notice: {} for Lease {}", TextOf(row["RentStatus"]),
                                          LeasePlace(row)),
                              kLeasePicture});
         });
@@ -129,7 +124,7 @@ void AddLateMortgages(std::vector<AlertItem>& items) {
             const std::string lender = row["ShowAs"].IsNull() ? "" : " " + row["ShowAs"].AsText();
             items.push_back({core::kMortgage, row["IdMortgage"].AsLong(),
                              fmt::format("Mortgage Payment for{} account # {} is {}", lender,
-                                         TextOf(row, "AccountNumber"), TextOf(row, "PmtStatus")),
+                                         TextOf(row["AccountNumber"]), TextOf(row["PmtStatus"])),
                              kMortgagePicture});
         });
 }
@@ -140,7 +135,7 @@ void AddOpenWorkOrders(std::vector<AlertItem>& items) {
         "WHERE (Status = 'Open') OR (Status = 'Vendor')",
         WorkOrderName, [&](Recordset& row) {
             items.push_back({core::kWorkOrder, row["IdWorkOrder"].AsLong(),
-                             "Open Work Order: " + TextOf(row, "ShortDesc"), kWorkOrderPicture});
+                             "Open Work Order: " + TextOf(row["ShortDesc"]), kWorkOrderPicture});
         });
 }
 
@@ -154,7 +149,7 @@ void AddEscrowReviews(std::vector<AlertItem>& items) {
                 items.push_back(
                     {core::kMortgage, row["IdMortgage"].AsLong(),
                      fmt::format("Escrow review due in {} days for Mortgage account # {}", *days,
-                                 TextOf(row, "AccountNumber")),
+                                 TextOf(row["AccountNumber"])),
                      kMortgagePicture});
             }
         });
@@ -168,7 +163,7 @@ void AddExpiringLeases(std::vector<AlertItem>& items) {
         "WHERE (Lease.IdUnit=Unit.IdUnit) AND (Unit.IdBuilding=Building.IdBuilding) "
         "AND (Lease.IdTenant=Tenant.IdTenant) AND (Lease.Status = 'Contracted')",
         LeaseName, [&](Recordset& row) {
-            const Interval interval = TermUnit(TextOf(row, "TermType"));
+            const Interval interval = TermUnit(TextOf(row["TermType"]));
             const Date due =
                 DateAdd(interval, row["Term"].AsInteger(), row["DateRenewed"].AsDate());
             if (const auto days = DaysWithin(due, core::Preferences().LeaseExpiringDays)) {
@@ -190,7 +185,7 @@ void AddAssociationPayments(std::vector<AlertItem>& items) {
 
 void AddStoredMessages(std::vector<AlertItem>& items) {
     ForEachRow("SELECT Description FROM Alerts", MessageName, [&](Recordset& row) {
-        items.push_back({core::kNone, 0, TextOf(row, "Description"), kMessagePicture});
+        items.push_back({core::kNone, 0, TextOf(row["Description"]), kMessagePicture});
     });
 }
 

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "alerts/AlertSources.h"
-#include "core/Globals.h"
 #include "core/Preferences.h"
+#include "core/Rows.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 
@@ -20,16 +20,14 @@ namespace {
 /// Deletes the messages that have been kept for their days, and those without a valid date, which
 /// are listed once. Each date is read here: one invalid date must not fail the deletion of all.
 void PurgeMessages() {
-    platform::Connection& books = core::App().Connection;
-    books.Execute("DELETE * FROM Alerts WHERE EntryDate IS NULL");
+    core::Execute("DELETE * FROM Alerts WHERE EntryDate IS NULL");
     const Date last = DateAdd(Interval::Day, -core::Preferences().KeepDays, platform::Today());
-    platform::Recordset dates;
-    dates.Open(books, "SELECT DISTINCT EntryDate FROM Alerts", platform::CursorMode::ReadOnly);
+    platform::Recordset dates = core::Read("SELECT DISTINCT EntryDate FROM Alerts");
     for (; !dates.Eof(); dates.MoveNext()) {
         const std::string text = dates[std::size_t{0}].AsText();
         const std::optional<Date> date = Date::TryParse(text);
         if (date && *date > last) continue;
-        books.Execute("DELETE * FROM Alerts WHERE EntryDate = ?", {text});
+        core::Execute("DELETE * FROM Alerts WHERE EntryDate = ?", {text});
     }
 }
 

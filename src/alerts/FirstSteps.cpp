@@ -1,7 +1,7 @@
 #include "alerts/FirstSteps.h"
 
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "platform/values/Errors.h"
 
 namespace alerts {
@@ -19,19 +19,16 @@ constexpr FirstStep kLease = {
     "Next come your leases: from then on the rent is charged by itself, day by day.", "Add a Lease",
     core::kLease};
 
-bool HasRows(const char* sql) {
-    return core::App().Connection.Scalar(sql).has_value();
-}
-
 } // namespace
 
 const FirstStep* NextFirstStep() {
     try {
-        if (HasRows("SELECT IdLease FROM Lease") || HasRows("SELECT IdMortgage FROM Mortgage")) {
+        if (core::Exists("SELECT IdLease FROM Lease") ||
+            core::Exists("SELECT IdMortgage FROM Mortgage")) {
             return nullptr;
         }
-        if (!HasRows("SELECT IdUnit FROM Unit")) return &kBuilding;
-        return HasRows("SELECT IdTenant FROM Tenant") ? &kLease : &kTenant;
+        if (!core::Exists("SELECT IdUnit FROM Unit")) return &kBuilding;
+        return core::Exists("SELECT IdTenant FROM Tenant") ? &kLease : &kTenant;
     } catch (const platform::Error&) {
         return nullptr;
     }

@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "core/Globals.h"
+#include "core/Rows.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/dialect/Compiler.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
@@ -16,8 +17,7 @@ namespace {
 SummaryItem Sum(std::string_view name, std::string_view sql) {
     SummaryItem item{name, {}, {}};
     try {
-        const auto total = core::App().Connection.Scalar(sql);
-        if (total && !total->IsNull()) item.total = total->AsCurrency();
+        item.total = platform::AsOr0<platform::Currency>(core::ReadValue(sql));
     } catch (const platform::Error& failure) {
         item.fault = failure.what();
     }

@@ -1,8 +1,8 @@
 #include "books/Categories.h"
 
 #include "books/TellLists.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "platform/database/Recordset.h"
 
 namespace books {
@@ -16,9 +16,8 @@ Category ParseCategory(std::string_view text) {
 }
 
 std::vector<std::string> CategoriesOf(Ien ien) {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, "SELECT Category FROM TransCategory WHERE IEN = ?",
-              platform::CursorMode::ReadOnly, {static_cast<std::int16_t>(ien)});
+    platform::Recordset rows = core::Read("SELECT Category FROM TransCategory WHERE IEN = ?",
+                                          {static_cast<std::int16_t>(ien)});
     std::vector<std::string> texts;
     for (; !rows.Eof(); rows.MoveNext()) {
         if (!rows["Category"].IsNull()) texts.push_back(rows["Category"].AsText());
@@ -27,13 +26,13 @@ std::vector<std::string> CategoriesOf(Ien ien) {
 }
 
 void AddCategory(const Category& category) {
-    core::App().Connection.Execute("INSERT INTO TransCategory (Category,IEN) VALUES (?,?)",
-                                   {category.text, static_cast<std::int16_t>(category.ien)});
+    core::Execute("INSERT INTO TransCategory (Category,IEN) VALUES (?,?)",
+                  {category.text, static_cast<std::int16_t>(category.ien)});
     TellLists({core::kTransCategory});
 }
 
 void RemoveCategory(std::string_view text) {
-    core::App().Connection.Execute("DELETE * FROM TransCategory WHERE Category = ?", {text});
+    core::Execute("DELETE * FROM TransCategory WHERE Category = ?", {text});
     TellLists({core::kTransCategory});
 }
 

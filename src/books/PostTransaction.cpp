@@ -6,7 +6,6 @@
 #include "books/TransactionRow.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "core/Session.h"
 #include "platform/database/Recordset.h"
 
 namespace books {
@@ -26,10 +25,7 @@ void WriteAllFields(Recordset& rows, const Transaction& transaction) {
 
 std::int32_t PostTransaction(const Transaction& transaction, Triggers triggers) {
     platform::UnitOfWork unit(core::App().Connection);
-    Recordset rows;
-    rows.Open(core::App().Connection, "Transactions", platform::CursorMode::AppendOnly);
-    const std::int32_t id = core::NextId();
-    AddTransactionRow(rows, id);
+    auto [id, rows, isNew] = TransactionToWrite(0);
     WriteAllFields(rows, transaction);
     if (triggers == Triggers::Fire) RunTriggeredEvents(transaction);
     rows.Update();
@@ -40,10 +36,9 @@ std::int32_t PostTransaction(const Transaction& transaction, Triggers triggers) 
 }
 
 void RewriteTransaction(std::int32_t id, const Transaction& transaction) {
-    Recordset rows;
-    OpenTransactionRow(rows, id);
-    WriteAllFields(rows, transaction);
-    rows.Update();
+    core::RowToWrite stored = TransactionToWrite(id);
+    WriteAllFields(stored.row, transaction);
+    stored.row.Update();
 }
 
 } // namespace books

@@ -7,6 +7,7 @@
 #include "core/Globals.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
@@ -51,9 +52,7 @@ Transaction PostingOf(Recordset& event, Date date) {
 void RunAutoEvent(std::int32_t idAutoEvent, Date date) {
     if (!date.IsSet()) date = platform::Today();
     platform::UnitOfWork unit(core::App().Connection);
-    Recordset event;
-    event.Open(core::App().Connection, "SELECT * FROM AutoEvent WHERE IdAutoEvent = ?",
-               platform::CursorMode::ReadOnly, {idAutoEvent});
+    Recordset event = core::Read("SELECT * FROM AutoEvent WHERE IdAutoEvent = ?", {idAutoEvent});
     if (event.Eof()) return;
 
     const bool posts =
@@ -65,8 +64,8 @@ void RunAutoEvent(std::int32_t idAutoEvent, Date date) {
                        date);
     }
     // By number, not by row: events of one number (an import can bring them) move on together.
-    core::App().Connection.Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
-                                   {date.ToText(), idAutoEvent});
+    core::Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
+                  {date.ToText(), idAutoEvent});
     TellLists({core::kAutoEvent});
     unit.Commit();
 }

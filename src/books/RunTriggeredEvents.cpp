@@ -6,8 +6,8 @@
 #include <fmt/core.h>
 
 #include "books/AutoEvent.h"
-#include "core/Globals.h"
 #include "core/RecordHelpers.h"
+#include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/Errors.h"
@@ -15,7 +15,6 @@
 
 namespace books {
 
-using platform::CursorMode;
 using platform::EqualIgnoringCase;
 using platform::Recordset;
 using platform::Trim;
@@ -29,11 +28,10 @@ struct Waiting {
 
 /// Read whole before any of them runs, since a run writes to the table.
 std::vector<Waiting> EventsOf(const Party& party, std::string_view taxCategory) {
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT IdAutoEvent, Description, TriggerTaxCategory FROM AutoEvent "
-              "WHERE EventType = 2 AND Enabled = True AND TriggerType = ? AND TriggerID = ?",
-              CursorMode::ReadOnly, {party.type, party.id});
+    Recordset rows = core::Read(
+        "SELECT IdAutoEvent, Description, TriggerTaxCategory FROM AutoEvent "
+        "WHERE EventType = 2 AND Enabled = True AND TriggerType = ? AND TriggerID = ?",
+        {party.type, party.id});
     std::vector<Waiting> events;
     for (; !rows.Eof(); rows.MoveNext()) {
         const std::string wanted = TextOf(rows["TriggerTaxCategory"]);

@@ -8,6 +8,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -23,11 +24,6 @@ std::int32_t TripOf(std::int32_t idTransaction) {
     const auto idMileage =
         core::LookUp("SELECT IdMileage FROM Transactions WHERE IdTransaction = ?", {idTransaction});
     return idMileage ? idMileage->AsLong() : 0;
-}
-
-void AddRow(Recordset& rows, std::int32_t id) {
-    rows.Open(core::App().Connection, "Transactions", platform::CursorMode::AppendOnly);
-    AddTransactionRow(rows, id);
 }
 
 /// The trip that goes with the row; asked about before the unit of work begins.
@@ -56,17 +52,15 @@ class TripRemoval {
 
 std::int32_t AddTransaction(const Transaction& entered, Trip trip) {
     platform::UnitOfWork unit(core::App().Connection);
-    const std::int32_t id = core::NextId();
-    Recordset rows;
-    AddRow(rows, id);
-    WriteTransactionFields(rows, entered);
-    rows["IdMileage"].Set(trip == Trip::Keep ? WriteTrip(0, entered) : 0);
+    core::RowToWrite added = TransactionToWrite(0);
+    WriteTransactionFields(added.row, entered);
+    added["IdMileage"].Set(trip == Trip::Keep ? WriteTrip(0, entered) : 0);
     RunTriggeredEvents(entered);
-    rows.Update();
-    TellTransactionListeners(id, entered);
+    added.row.Update();
+    TellTransactionListeners(added.id, entered);
     if (trip == Trip::Keep) TellLists({core::kMileage});
     unit.Commit();
-    return id;
+    return added.id;
 }
 
 void EditTransaction(std::int32_t id, const Transaction& entered, const Transaction& shown,
@@ -74,11 +68,9 @@ void EditTransaction(std::int32_t id, const Transaction& entered, const Transact
     const TripRemoval removal(id, trip);
     platform::UnitOfWork unit(core::App().Connection);
     const bool removed = removal.Run();
-    Recordset rows;
-    rows.Open(core::App().Connection, "SELECT * FROM Transactions WHERE IdTransaction = ?",
-              platform::CursorMode::Updatable, {id});
-    if (rows.Eof()) {
-        AddRow(rows, id);
+    core::RowToWrite stored = TransactionToWrite(id);
+    Recordset& rows = stored.row;
+    if (stored.isNew) {
         WriteTransactionFields(rows, entered);
     } else {
         WriteChangedFields(rows, entered, shown);

@@ -11,6 +11,7 @@
 #include "core/Globals.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
@@ -48,8 +49,8 @@ std::string DescriptionOf(Recordset& event) {
 bool KeepAwaitedDay(Recordset& event) {
     const std::optional<Date> seed = SeedWhileWaiting(ScheduleOf(event), platform::Today());
     if (!seed) return false;
-    core::App().Connection.Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
-                                   {seed->ToText(), event["IdAutoEvent"].AsLong()});
+    core::Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
+                  {seed->ToText(), event["IdAutoEvent"].AsLong()});
     return true;
 }
 
@@ -85,9 +86,7 @@ void Tell(core::RunListener& listener, const std::vector<EventOutcome>& outcomes
 bool ScheduledEvents::RunScheduledEvents() {
     // The rows are read inside the unit of work: another program may have run them just before.
     UnitOfWork pass(core::App().Connection);
-    Recordset events;
-    events.Open(core::App().Connection,
-                "SELECT * FROM AutoEvent WHERE EventType = 1 AND Enabled = True");
+    Recordset events = core::Read("SELECT * FROM AutoEvent WHERE EventType = 1 AND Enabled = True");
     std::vector<EventOutcome> outcomes;
     bool ran = false;
     bool kept = false;

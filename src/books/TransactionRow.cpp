@@ -1,12 +1,11 @@
 #include "books/TransactionRow.h"
 
-#include "core/Globals.h"
+#include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 
 namespace books {
 
 using platform::Currency;
-using platform::CursorMode;
 using platform::Date;
 using platform::Field;
 using platform::Recordset;
@@ -24,23 +23,12 @@ void Put(Field field, const T& value) {
     field.Set(value);
 }
 
-void Get(const Field& field, Date& value) {
-    value = DateOf(field);
-}
-void Get(const Field& field, std::string& value) {
-    value = TextOf(field);
-}
-void Get(const Field& field, Currency& value) {
-    value = MoneyOf(field);
-}
 void Get(const Field& field, Ien& value) {
     value = Ien{CountOf(field)};
 }
-void Get(const Field& field, std::int16_t& value) {
-    value = CountOf(field);
-}
-void Get(const Field& field, std::int32_t& value) {
-    value = IdOf(field);
+template <class T>
+void Get(const Field& field, T& value) {
+    value = platform::AsOr0<T>(field);
 }
 
 /// A field of the row and the member that it stores.
@@ -99,17 +87,13 @@ void WriteBalances(Recordset& rows) {
 
 } // namespace
 
-void AddTransactionRow(Recordset& rows, std::int32_t id) {
-    rows.AddNew();
-    rows["IdTransaction"].Set(id);
-    rows["CreditExported"].Set(false);
-    rows["DebitExported"].Set(false);
-}
-
-void OpenTransactionRow(Recordset& rows, std::int32_t id) {
-    rows.Open(core::App().Connection, "SELECT * FROM Transactions WHERE IdTransaction = ?",
-              CursorMode::Updatable, {id});
-    if (rows.Eof()) AddTransactionRow(rows, id);
+core::RowToWrite TransactionToWrite(std::int32_t id) {
+    core::RowToWrite transaction("Transactions", "IdTransaction", id);
+    if (transaction.isNew) {
+        transaction["CreditExported"].Set(false);
+        transaction["DebitExported"].Set(false);
+    }
+    return transaction;
 }
 
 void WriteTransactionFields(Recordset& rows, const Transaction& transaction) {

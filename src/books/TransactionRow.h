@@ -3,17 +3,16 @@
 #include <cstdint>
 
 #include "books/PostTransaction.h"
+#include "core/Rows.h"
 #include "platform/database/Recordset.h"
 
 namespace books {
 
 // The fields of a transaction's row that all its writers share. Failures are thrown.
 
-/// Starts a new row of this id, neither side of which has been exported.
-void AddTransactionRow(platform::Recordset& rows, std::int32_t id);
-
-/// Opens the row of this id to write it; a deleted row is started again under its id.
-void OpenTransactionRow(platform::Recordset& rows, std::int32_t id);
+/// Opens the row of this id to write it; a deleted row is started again under its id, and id 0
+/// starts one under a new id. Neither side of a new row has been exported.
+core::RowToWrite TransactionToWrite(std::int32_t id);
 
 /// Writes date, sides, amount, category, class and references. The balances are always 0: what a
 /// party has is always the sum of its rows.

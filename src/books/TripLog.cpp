@@ -4,6 +4,7 @@
 
 #include "core/Globals.h"
 #include "core/Lookups.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/dialect/Compiler.h"
@@ -38,8 +39,7 @@ std::string Condition(const TripFilter& filter) {
 
 /// Adds the rows of a statement that yields Description and ID; those without a text are left out.
 void AddRows(core::ChoiceList& list, const std::string& sql) {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, sql + " ORDER BY 1");
+    platform::Recordset rows = core::Read(sql + " ORDER BY 1");
     for (; !rows.Eof(); rows.MoveNext()) {
         const std::string text = platform::TextOf(rows["Description"]);
         if (!text.empty()) list.Add(text, rows["ID"].AsLong());

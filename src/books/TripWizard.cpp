@@ -6,6 +6,7 @@
 #include "books/TripLog.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -37,10 +38,9 @@ std::string Joined(const std::vector<std::string>& conditions) {
 } // namespace
 
 std::vector<std::string> PlanCategories(Date from, Date to) {
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT DISTINCT TaxCategory FROM Transactions WHERE IdBuilding <> 0 AND " +
-                  Within("DateEffective", from, to) + "ORDER BY TaxCategory");
+    Recordset rows =
+        core::Read("SELECT DISTINCT TaxCategory FROM Transactions WHERE IdBuilding <> 0 AND " +
+                   Within("DateEffective", from, to) + "ORDER BY TaxCategory");
     std::vector<std::string> categories;
     for (; !rows.Eof(); rows.MoveNext()) {
         if (std::string text = platform::TextOf(rows["TaxCategory"]); !text.empty())
@@ -61,17 +61,15 @@ std::vector<PlanVehicle> PlanVehicles(Date from, Date to) {
 }
 
 std::vector<PlanBuilding> PlanBuildings(Date from, Date to) {
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT DISTINCT Building.IdBuilding, Building.Address, Building.Distance "
-              "FROM Building, Transactions WHERE "
-              "(Transactions.IdBuilding = Building.IdBuilding) AND " +
-                  Within("Transactions.DateEffective", from, to) + "ORDER BY Building.Address");
+    Recordset rows = core::Read(
+        "SELECT DISTINCT Building.IdBuilding, Building.Address, Building.Distance "
+        "FROM Building, Transactions WHERE "
+        "(Transactions.IdBuilding = Building.IdBuilding) AND " +
+        Within("Transactions.DateEffective", from, to) + "ORDER BY Building.Address");
     std::vector<PlanBuilding> buildings;
     for (; !rows.Eof(); rows.MoveNext()) {
-        const platform::Field distance = rows["Distance"];
         buildings.push_back({rows["IdBuilding"].AsLong(), platform::TextOf(rows["Address"]),
-                             distance.IsNull() ? 0 : distance.AsDouble(), true});
+                             NumberOf(rows["Distance"]), true});
     }
     return buildings;
 }
@@ -85,12 +83,11 @@ std::vector<TripOccasion> PlanOccasions(const TripPlan& plan) {
         if (building.isUsed) buildings.push_back(fmt::format("IdBuilding = {} ", building.id));
     }
     if (categories.empty() || buildings.empty()) return {};
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT DateEffective, Description, IdBuilding FROM Transactions WHERE " +
-                  Within("Transactions.DateEffective", plan.from, plan.to) + "AND ( " +
-                  Joined(categories) + ") AND ( " + Joined(buildings) +
-                  ") ORDER BY DateValue(Transactions.DateEffective), IdTransaction");
+    Recordset rows =
+        core::Read("SELECT DateEffective, Description, IdBuilding FROM Transactions WHERE " +
+                   Within("Transactions.DateEffective", plan.from, plan.to) + "AND ( " +
+                   Joined(categories) + ") AND ( " + Joined(buildings) +
+                   ") ORDER BY DateValue(Transactions.DateEffective), IdTransaction");
     std::vector<TripOccasion> occasions;
     for (; !rows.Eof(); rows.MoveNext()) {
         occasions.push_back({Date::Parse(platform::TextOf(rows["DateEffective"])),
@@ -100,9 +97,8 @@ std::vector<TripOccasion> PlanOccasions(const TripPlan& plan) {
 }
 
 std::int64_t LoggedTrips(Date from, Date to) {
-    const auto count = core::App().Connection.Scalar("SELECT Count(*) FROM Mileage WHERE " +
-                                                     Within("EntryDate", from, to));
-    return count ? count->AsLong() : 0;
+    return core::ReadValue("SELECT Count(*) FROM Mileage WHERE " + Within("EntryDate", from, to))
+        .AsLong();
 }
 
 void SubmitTrips(const TripPlan& plan, const std::vector<PlannedTrip>& trips, std::int64_t logged) {

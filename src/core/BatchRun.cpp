@@ -7,6 +7,7 @@
 #include "core/Globals.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/values/Text.h"
 
@@ -67,7 +68,7 @@ class Batches {
     Batches(std::int16_t kind, std::string_view select, std::string_view idField,
             const UpdateOne& update)
         : select_(select), idField_(idField), update_(update), outcome_(kind) {
-        rows_.Open(App().Connection, select, platform::CursorMode::Updatable);
+        rows_ = Write(select);
     }
 
     /// Updates and keeps the next records; false when all are done.
@@ -102,8 +103,7 @@ class Batches {
         std::string sql = select_;
         AddWhere(sql, idField_ + " = ?");
         try {
-            Recordset row;
-            row.Open(App().Connection, sql, platform::CursorMode::Updatable, {id});
+            Recordset row = Write(sql, {id});
             for (; !row.Eof(); row.MoveNext())
                 outcome_.Add(id, update_(row));
         } catch (const platform::Error& error) {

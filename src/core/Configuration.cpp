@@ -4,46 +4,26 @@
 
 #include "core/ConfigFields.h"
 #include "core/Session.h"
+#include "platform/database/FieldReadings.h"
 
 namespace core {
 
 namespace {
 
-// A field that can't be read counts as its member's initial value.
-template <typename Read>
-auto OrEmpty(Read read) -> decltype(read()) {
-    try {
-        return read();
-    } catch (const std::exception&) {
-        return {};
-    }
-}
-
+/// A field that can't be read counts as its member's initial value.
 struct Reader {
     platform::Recordset& rows;
     std::string_view name;
     ConfigValues& values;
 
-    platform::Value Read() const { return rows[name].Value(); }
-
     void operator()(std::monostate) const {}
-    void operator()(std::string ConfigValues::*member) const {
-        values.*member = OrEmpty([&] { return Read().AsText(); });
-    }
-    void operator()(std::int16_t ConfigValues::*member) const {
-        values.*member = OrEmpty([&] { return Read().AsInteger(); });
-    }
-    void operator()(std::int32_t ConfigValues::*member) const {
-        values.*member = OrEmpty([&] { return Read().AsLong(); });
-    }
-    void operator()(platform::Currency ConfigValues::*member) const {
-        values.*member = OrEmpty([&] { return Read().AsCurrency(); });
-    }
-    void operator()(double ConfigValues::*member) const {
-        values.*member = OrEmpty([&] { return Read().AsDouble(); });
-    }
-    void operator()(bool ConfigValues::*member) const {
-        values.*member = OrEmpty([&] { return Read().AsBoolean(); });
+    template <class T>
+    void operator()(T ConfigValues::*member) const {
+        try {
+            values.*member = platform::As<T>(rows[name]);
+        } catch (const std::exception&) {
+            values.*member = {};
+        }
     }
 };
 
@@ -56,7 +36,8 @@ ConfigValues& Config() {
 
 void LoadConfiguration() {
     platform::Recordset rows;
-    if (OpenRecordset(rows, "SELECT * FROM Configuration", Access::ReadOnly) < 1) return;
+    if (OpenRecordset(rows, "SELECT * FROM Configuration", platform::CursorMode::ReadOnly) < 1)
+        return;
     for (const ConfigField& field : ConfigFields()) {
         std::visit(Reader{rows, field.name, Config()}, field.member);
     }

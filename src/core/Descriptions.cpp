@@ -5,9 +5,9 @@
 
 #include <fmt/core.h>
 
-#include "core/Globals.h"
 #include "core/KindTable.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/values/Text.h"
 
@@ -63,7 +63,7 @@ std::string GetDescription(int kind, std::int32_t id, std::size_t maxLength, boo
 
 bool RecordExists(int kind, std::int32_t id) {
     const std::string sql = ExistenceSql(InfoOfOffered(kind));
-    return !sql.empty() && App().Connection.Scalar(sql, {id}).has_value();
+    return !sql.empty() && Exists(sql, {id});
 }
 
 std::string NameOfRecord(int kind, std::int32_t id) {

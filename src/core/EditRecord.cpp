@@ -76,7 +76,7 @@ TransactionPlace FindTransactionPlace(std::int32_t id) {
     if (id == 0 || OpenRecordset(rows,
                                  "SELECT Class, Flags, IdLease, IdMortgage FROM Transactions "
                                  "WHERE IdTransaction = ?",
-                                 Access::ReadOnly, {id}) < 1) {
+                                 platform::CursorMode::ReadOnly, {id}) < 1) {
         return {};
     }
     try {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "core/Descriptions.h"
-#include "core/Globals.h"
 #include "core/ListStatements.h"
+#include "core/Rows.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/Text.h"
 
@@ -32,8 +32,7 @@ void FillList(int kind, ChoiceList& list, const FillOptions& options) {
     list.Clear();
     if (options.addNone && !statement.noneRow.empty()) list.Add(statement.noneRow, 0);
     if (!statement.sql.empty()) {
-        platform::Recordset rows;
-        rows.Open(App().Connection, statement.sql + " ORDER BY 1 ");
+        platform::Recordset rows = Read(statement.sql + " ORDER BY 1 ");
         for (; !rows.Eof(); rows.MoveNext()) {
             const std::int32_t id = rows["Id"].AsLong();
             const platform::Field name = rows["Description"];

@@ -33,7 +33,7 @@ std::int32_t GetUnitBuilding(std::int32_t idUnit) {
 bool GetLeaseParties(std::int32_t idLease, std::int32_t& idUnit, std::int32_t& idTenant) {
     platform::Recordset rows;
     if (OpenRecordset(rows, "SELECT IdUnit, IdTenant FROM Lease WHERE IdLease = ?",
-                      Access::ReadOnly, {idLease}) < 1) {
+                      platform::CursorMode::ReadOnly, {idLease}) < 1) {
         return false;
     }
     try {

@@ -5,6 +5,7 @@
 #include "core/Globals.h"
 #include "core/IdStart.h"
 #include "core/MessagePump.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/system/Clock.h"
 
@@ -27,9 +28,7 @@ std::int32_t NextIds(std::int32_t count) {
     // Another program may take identifiers too, so that the read must be a part of the write.
     std::optional<platform::UnitOfWork> unit;
     if (!App().Connection.InUnitOfWork()) unit.emplace(App().Connection);
-    platform::Recordset rows;
-    rows.Open(App().Connection, "SELECT NextId FROM Configuration",
-              platform::CursorMode::Updatable);
+    platform::Recordset rows = Write("SELECT NextId FROM Configuration");
     if (rows.Eof()) {
         throw platform::DatabaseError("no record identifier: Configuration has no row");
     }

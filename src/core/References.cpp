@@ -4,7 +4,7 @@
 #include <exception>
 
 #include "core/Globals.h"
-#include "platform/database/Recordset.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/dialogs/Desktop.h"
 #include "platform/values/Text.h"
 
@@ -30,10 +30,6 @@ std::string ReplaceAccountTag(std::string_view url, std::string_view account) {
 
 void OpenReferences(platform::Connection& references) {
     references.Open(App().AppPath + "References.mdb", platform::OpenMode::ReadOnly);
-}
-
-std::string TextOf(platform::Field field) {
-    return field.IsNull() ? std::string() : field.AsText();
 }
 
 /// Only digits make a number here: "90210-1234" would otherwise be reckoned into another place's.

@@ -52,10 +52,9 @@ bool ExecuteSql(std::string_view sql, std::initializer_list<platform::Value> par
     }
 }
 
-std::int64_t OpenRecordset(platform::Recordset& rows, std::string_view sql, Access access,
+std::int64_t OpenRecordset(platform::Recordset& rows, std::string_view sql,
+                           platform::CursorMode mode,
                            std::initializer_list<platform::Value> parameters) {
-    const auto mode = access == Access::ReadOnly ? platform::CursorMode::ReadOnly
-                                                 : platform::CursorMode::Updatable;
     try {
         rows.Close();
         rows.Open(App().Connection, sql, mode, parameters);
@@ -71,16 +70,6 @@ std::int16_t CountIn16Bits(std::int64_t count) {
     return static_cast<std::int16_t>(count);
 }
 
-bool OpenTableToAppend(platform::Recordset& rows, std::string_view table) {
-    try {
-        rows.Open(App().Connection, table, platform::CursorMode::AppendOnly);
-        return true;
-    } catch (const std::exception&) {
-        CloseRecordset(rows);
-        return false;
-    }
-}
-
 void CloseRecordset(platform::Recordset& rows) {
     try {
         rows.Close();
@@ -91,7 +80,7 @@ void CloseRecordset(platform::Recordset& rows) {
 
 void GetScalar(std::string_view sql, platform::Value& value) {
     platform::Recordset rows;
-    if (OpenRecordset(rows, sql, Access::ReadOnly) == 0) return;
+    if (OpenRecordset(rows, sql, platform::CursorMode::ReadOnly) == 0) return;
     try {
         platform::Value result = rows["Result"].Value();
         if (!result.IsNull()) value = std::move(result);

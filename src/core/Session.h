@@ -15,8 +15,7 @@
 namespace core {
 
 // The database session. Every operation here keeps its failures to itself and returns False, -1, 0
-// or an unchanged output, unless it says otherwise; callers that need the reason use the connection
-// itself.
+// or an unchanged output, unless it says otherwise; callers that need the reason use core/Rows.h.
 
 /// Opens `path`, or the process's database if it is empty (then `path` is set to its file); only to
 /// read if the file can't be written to. What went wrong is kept in App().OpenFault.
@@ -26,16 +25,13 @@ bool CloseDatabase(platform::Connection& connection);
 /// Runs one statement on the process's connection, with a value for each `?` in it.
 bool ExecuteSql(std::string_view sql, std::initializer_list<platform::Value> parameters = {});
 
-enum class Access { ReadOnly, ReadWrite };
-
 /// Opens `rows` on a select (or on a table's bare name) and returns the number of rows; -1 on any
 /// failure.
-std::int64_t OpenRecordset(platform::Recordset& rows, std::string_view sql, Access access,
+std::int64_t OpenRecordset(platform::Recordset& rows, std::string_view sql,
+                           platform::CursorMode mode,
                            std::initializer_list<platform::Value> parameters = {});
 /// The same count for a routine whose answer has 16 bits: -1 past 32767 rows.
 std::int16_t CountIn16Bits(std::int64_t count);
-/// Opens a table to add rows to it, without fetching any.
-bool OpenTableToAppend(platform::Recordset& rows, std::string_view table);
 void CloseRecordset(platform::Recordset& rows);
 
 /// Rows of a table; 0 on failure.

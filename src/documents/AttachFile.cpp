@@ -5,10 +5,9 @@
 #include <filesystem>
 
 #include "core/Configuration.h"
-#include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/Session.h"
+#include "core/Rows.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Choosers.h"
 #include "platform/dialogs/Dialogs.h"
@@ -61,16 +60,13 @@ std::string_view Objection(const std::string& path, Quiet quiet) {
 }
 
 void AddRow(std::int16_t kind, std::int32_t id, const std::string& path) {
-    platform::Recordset row;
-    row.Open(core::App().Connection, "FileObject", platform::CursorMode::AppendOnly);
-    row.AddNew();
-    row["IdFileObject"].Set(core::NextId());
+    core::RowToWrite row("FileObject", "IdFileObject");
     row["dbType"].Set(kind);
     row["IdOwner"].Set(id);
     row["Description"].Set(DescriptionOfFile(path));
     row["FilePath"].Set(path);
     row["IsPic"].Set(IsPicture(path));
-    row.Update();
+    row.row.Update();
 }
 
 } // namespace

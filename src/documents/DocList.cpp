@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "documents/AttachFile.h"
 #include "platform/database/FieldReadings.h"
@@ -28,8 +28,7 @@ constexpr std::string_view kTooLong =
 } // namespace
 
 std::vector<DocRow> AllDocs() {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, "SELECT * FROM Doc ORDER BY Description");
+    platform::Recordset rows = core::Read("SELECT * FROM Doc ORDER BY Description");
     std::vector<DocRow> docs;
     for (; !rows.Eof(); rows.MoveNext()) {
         DocRow& doc = docs.emplace_back();
@@ -49,21 +48,21 @@ std::int32_t AddDoc(const std::string& filePath) {
         return 0;
     }
     const std::int32_t id = core::NextId();
-    core::App().Connection.Execute("INSERT INTO Doc (IdDoc,Description,FilePath) VALUES (?, ?, ?)",
-                                   {id, DescriptionOfFile(filePath), filePath});
+    core::Execute("INSERT INTO Doc (IdDoc,Description,FilePath) VALUES (?, ?, ?)",
+                  {id, DescriptionOfFile(filePath), filePath});
     core::NotifyAll(core::kDocument, core::kRecordsChanged, id);
     return id;
 }
 
 void SetDocFlag(std::int32_t idDoc, std::size_t flag, bool isOn) {
-    core::App().Connection.Execute(
+    core::Execute(
         "UPDATE Doc SET " + std::string(kDocFlags.at(flag).field) + " = ? WHERE IdDoc = ?",
         {isOn, idDoc});
     core::NotifyAll(core::kDocument, core::kRecordsChanged, idDoc);
 }
 
 void DeleteDoc(std::int32_t idDoc) {
-    core::App().Connection.Execute("DELETE FROM Doc WHERE IdDoc = ?", {idDoc});
+    core::Execute("DELETE FROM Doc WHERE IdDoc = ?", {idDoc});
     core::NotifyAll(core::kDocument, core::kRecordsChanged, idDoc);
 }
 

@@ -3,10 +3,9 @@
 #include <filesystem>
 
 #include "core/Descriptions.h"
-#include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/Session.h"
+#include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Paths.h"
@@ -21,8 +20,7 @@ constexpr std::size_t kLongestText = 255; // as the field holds it
 
 std::vector<FileRow> ReadRows(std::string_view sql,
                               std::initializer_list<platform::Value> parameters) {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, sql, platform::CursorMode::ReadOnly, parameters);
+    platform::Recordset rows = core::Read(sql, parameters);
     std::vector<FileRow> files;
     for (; !rows.Eof(); rows.MoveNext()) {
         files.push_back({.id = rows["IdFileObject"].AsLong(),
@@ -65,8 +63,8 @@ std::vector<FileRow> AllFiles() {
 }
 
 void DescribeFile(std::int32_t id, std::string_view description) {
-    core::App().Connection.Execute("UPDATE FileObject SET Description = ? WHERE IdFileObject = ?",
-                                   {platform::LeftCharacters(description, kLongestText), id});
+    core::Execute("UPDATE FileObject SET Description = ? WHERE IdFileObject = ?",
+                  {platform::LeftCharacters(description, kLongestText), id});
     core::NotifyAll(core::kFileObject, core::kRecordsChanged, 0);
 }
 

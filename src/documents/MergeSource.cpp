@@ -3,8 +3,8 @@
 #include <array>
 #include <string_view>
 
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 
 namespace documents {
 
@@ -74,7 +74,7 @@ bool HasMergeSource(std::int16_t kind) {
 
 void OpenMergeSource(platform::Recordset& fields, std::int16_t kind, std::int32_t id) {
     if (const Source* const source = SourceOf(kind)) {
-        fields.Open(core::App().Connection, source->sql, platform::CursorMode::ReadOnly, {id});
+        fields = core::Read(source->sql, {id});
     }
 }
 

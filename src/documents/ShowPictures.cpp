@@ -7,6 +7,7 @@
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "documents/ShowList.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -26,25 +27,21 @@ std::string TitleOf(std::int16_t kind, std::int32_t id) {
     return description.empty() ? title : title + " - " + description;
 }
 
-void OpenPictures(platform::Recordset& rows, std::int16_t kind, std::int32_t id) {
-    platform::Connection& books = core::App().Connection;
+platform::Recordset OpenPictures(std::int16_t kind, std::int32_t id) {
     if (kind == core::kUnitWithBuilding) {
-        rows.Open(books,
-                  "SELECT * FROM FileObject "
-                  "WHERE ((DBType = ?) AND (IdOwner = ?) AND (IsPic = True)) "
-                  "OR ((DBType = ?) AND (IdOwner = ?) AND (IsPic = True))",
-                  platform::CursorMode::ReadOnly,
-                  {core::kUnit, id, core::kBuilding, core::GetUnitBuilding(id)});
-        return;
+        return core::Read(
+            "SELECT * FROM FileObject "
+            "WHERE ((DBType = ?) AND (IdOwner = ?) AND (IsPic = True)) "
+            "OR ((DBType = ?) AND (IdOwner = ?) AND (IsPic = True))",
+            {core::kUnit, id, core::kBuilding, core::GetUnitBuilding(id)});
     }
-    rows.Open(books,
-              "SELECT * FROM FileObject WHERE (DBType = ?) AND (IdOwner = ?) AND (IsPic = True)",
-              platform::CursorMode::ReadOnly, {kind, id});
+    return core::Read(
+        "SELECT * FROM FileObject WHERE (DBType = ?) AND (IdOwner = ?) AND (IsPic = True)",
+        {kind, id});
 }
 
 std::vector<ShowPicture> PicturesOf(std::int16_t kind, std::int32_t id) {
-    platform::Recordset rows;
-    OpenPictures(rows, kind, id);
+    platform::Recordset rows = OpenPictures(kind, id);
     std::vector<ShowPicture> pictures;
     for (; !rows.Eof(); rows.MoveNext()) {
         pictures.push_back(

@@ -8,6 +8,7 @@
 #include "core/Configuration.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "documents/AttachFile.h"
 #include "documents/MergeSource.h"
 #include "documents/MergeTags.h"
@@ -120,10 +121,10 @@ std::int16_t DocKindOf(std::int16_t kind) {
 std::vector<DocTemplate> DocTemplatesOf(std::int16_t kind) {
     const auto* const found = std::ranges::find(kTests, kind, &KindTest::kind);
     if (found == kTests.end()) return {};
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, fmt::format("SELECT IdDoc, Description, FilePath FROM Doc "
-                                                  "WHERE {} ORDER BY Description ASC",
-                                                  found->test));
+    platform::Recordset rows =
+        core::Read(fmt::format("SELECT IdDoc, Description, FilePath FROM Doc "
+                               "WHERE {} ORDER BY Description ASC",
+                               found->test));
     std::vector<DocTemplate> templates;
     for (; !rows.Eof(); rows.MoveNext()) {
         templates.push_back({rows["IdDoc"].AsLong(), platform::TextOf(rows["Description"]),
@@ -133,9 +134,8 @@ std::vector<DocTemplate> DocTemplatesOf(std::int16_t kind) {
 }
 
 std::optional<DocTemplate> FindDocTemplate(std::int32_t idDoc) {
-    platform::Recordset row;
-    row.Open(core::App().Connection, "SELECT Description, FilePath FROM Doc WHERE IdDoc = ?",
-             platform::CursorMode::ReadOnly, {idDoc});
+    platform::Recordset row =
+        core::Read("SELECT Description, FilePath FROM Doc WHERE IdDoc = ?", {idDoc});
     if (row.Eof()) return std::nullopt;
     return DocTemplate{idDoc, platform::TextOf(row["Description"]),
                        platform::TextOf(row["FilePath"])};

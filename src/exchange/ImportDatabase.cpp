@@ -5,6 +5,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "exchange/ImportCheck.h"
 #include "exchange/KeepCopy.h"
 #include "exchange/Port.h"
@@ -60,7 +61,7 @@ class Importer {
         table_ = name;
         const bool isConfiguration = platform::EqualIgnoringCase(table_, kConfigurationTable);
         if (isConfiguration || rows_ == ImportRows::Overwrite) {
-            core::App().Connection.Execute("DELETE * FROM " + platform::dialect::QuoteName(table_));
+            core::Execute("DELETE * FROM " + platform::dialect::QuoteName(table_));
         }
     }
 

@@ -2,6 +2,7 @@
 
 #include "core/Globals.h"
 #include "core/Lookups.h"
+#include "core/Rows.h"
 #include "leases/RentLog.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -9,15 +10,12 @@
 
 namespace leases {
 
-using platform::CursorMode;
 using platform::Recordset;
 
 void ChargeDeposits(std::int32_t idLease, std::int32_t idUnit) {
-    Recordset templates;
-    templates.Open(
-        core::App().Connection,
+    Recordset templates = core::Read(
         "SELECT * FROM Deposit WHERE (IsGlobal = True) OR (IdBuilding = ?) OR (IdUnit = ?)",
-        CursorMode::ReadOnly, {core::GetUnitBuilding(idUnit), idUnit});
+        {core::GetUnitBuilding(idUnit), idUnit});
     platform::UnitOfWork unit(core::App().Connection);
     for (; !templates.Eof(); templates.MoveNext()) {
         WriteRentLog({.idLease = idLease,

@@ -7,6 +7,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "leases/LeaseEditor.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -24,10 +25,8 @@ constexpr std::size_t kNamed = 10;
 std::string NameCharges(const std::vector<std::int32_t>& ids) {
     std::string lines;
     for (std::size_t i = 0; i < ids.size() && i < kNamed; ++i) {
-        platform::Recordset row;
-        row.Open(core::App().Connection,
-                 "SELECT DatePosted, Description, Amount FROM RentLog WHERE IdRentLog = ?",
-                 platform::CursorMode::ReadOnly, {ids[i]});
+        platform::Recordset row = core::Read(
+            "SELECT DatePosted, Description, Amount FROM RentLog WHERE IdRentLog = ?", {ids[i]});
         if (row.Eof()) continue;
         lines += fmt::format("\n{}, {}, {}", TextOf(row["DatePosted"]), TextOf(row["Description"]),
                              platform::FormatMoney(MoneyOf(row["Amount"])));
@@ -43,12 +42,12 @@ bool Agreed(const std::vector<std::int32_t>& ids, std::string_view question) {
 }
 
 void CheckOpen(std::int32_t idRentLog) {
-    const auto paid = core::App().Connection.Scalar(
+    platform::Recordset paid = core::Read(
         "SELECT Description FROM RentLog WHERE IdRentLog = ? AND IdTransaction <> 0", {idRentLog});
-    if (!paid) return;
+    if (paid.Eof()) return;
     throw platform::ConflictError(
         fmt::format("The charge \"{}\" was paid after the list was read. Nothing was deleted.",
-                    paid->IsNull() ? "" : paid->AsText()));
+                    TextOf(paid["Description"])));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "leases/RentCodes.h"
 #include "leases/mLease.h"
 #include "platform/database/Recordset.h"
@@ -91,9 +92,7 @@ void RunCommand(LeaseCommand command, std::int32_t idLease, int noticeDays) {
 
 void ChangeStatus(std::int32_t idLease, std::string_view newStatus, platform::Date vacating) {
     platform::UnitOfWork unit(core::App().Connection);
-    platform::Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?",
-             platform::CursorMode::Updatable, {idLease});
+    platform::Recordset row = core::Write("SELECT * FROM Lease WHERE IdLease = ?", {idLease});
     if (row.Eof()) return;
     row["Status"].Set(newStatus);
     row["DateVacating"].Set(vacating.ToText());

@@ -4,6 +4,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "leases/ChargeDeposits.h"
 #include "leases/LeaseStatus.h"
 #include "leases/RentCodes.h"
@@ -13,7 +14,6 @@
 
 namespace leases {
 
-using platform::CursorMode;
 using platform::Date;
 using platform::Interval;
 using platform::Recordset;
@@ -21,8 +21,7 @@ using platform::Recordset;
 namespace {
 
 void OpenLease(Recordset& row, std::int32_t idLease) {
-    row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?", CursorMode::Updatable,
-             {idLease});
+    row = core::Write("SELECT * FROM Lease WHERE IdLease = ?", {idLease});
 }
 
 void BeginLease(Recordset& row) {
@@ -43,8 +42,7 @@ Date FirstOfNextMonth() {
 }
 
 void ProposeLease(Recordset& row) {
-    row.Open(core::App().Connection, "Lease", CursorMode::AppendOnly);
-    row.AddNew();
+    row = core::NewRow("Lease");
     for (const auto* date : {"DateActive", "DateRenewed", "DateNextDue"})
         row[date].Set(FirstOfNextMonth().ToText());
     row["DateVacating"].Set("");

@@ -12,30 +12,26 @@ using platform::Interval;
 
 namespace {
 
-template <class Read>
-auto TryRead(Read read) -> Reading<decltype(read())> {
+template <class T>
+Reading<T> TryRead(const Field& field, T (*read)(const Field&)) {
     try {
-        return read();
+        return read(field);
     } catch (const platform::Error& error) {
-        return Reading<decltype(read())>::Fault(error.what());
+        return Reading<T>::Fault(error.what());
     }
 }
 
-Reading<Date> OptionalDate(Field field) {
-    return TryRead([&] { return field.IsBlank() ? Date() : field.AsDate(); });
-}
-
-Reading<Date> RequiredDate(Field field) {
+Reading<Date> RequiredDate(const Field& field) {
     if (field.IsBlank()) return Reading<Date>::Fault(field.Name() + " is empty");
-    return OptionalDate(field);
+    return TryRead(field, platform::DateOf);
 }
 
-Reading<Currency> Money(Field field) {
-    return TryRead([&] { return field.AsCurrency(); });
+Reading<Currency> Money(const Field& field) {
+    return TryRead(field, platform::As<Currency, Field>);
 }
 
-Reading<std::int16_t> Count(Field field) {
-    return TryRead([&] { return field.AsInteger(); });
+Reading<std::int16_t> Count(const Field& field) {
+    return TryRead(field, platform::As<std::int16_t, Field>);
 }
 
 bool IsWeekly(std::string_view termType) {
@@ -53,7 +49,7 @@ LeaseTerms LeaseTerms::Read(platform::Recordset& row) {
     terms.dateRenewed = RequiredDate(row["DateRenewed"]);
     terms.dateVacating = RequiredDate(row["DateVacating"]);
     terms.dateNextDue = RequiredDate(row["DateNextDue"]);
-    terms.dateUpdated = OptionalDate(row["DateUpdated"]);
+    terms.dateUpdated = TryRead(row["DateUpdated"], platform::DateOf);
     terms.term = Count(row["Term"]);
     terms.discountDays = Count(row["DiscountDays"]);
     terms.oneTimeDays = Count(row["OneTimeDays"]);
@@ -63,7 +59,7 @@ LeaseTerms LeaseTerms::Read(platform::Recordset& row) {
     terms.oneTimeFee = Money(row["OneTimeFee"]);
     terms.dailyFee = Money(row["DailyFee"]);
     terms.subsidy = Money(row["SubsAmt"]);
-    terms.subsidised = TryRead([&] { return !row["Subs"].IsNull() && row["Subs"].AsBoolean(); });
+    terms.subsidised = TryRead(row["Subs"], platform::FlagOf);
     return terms;
 }
 

@@ -4,6 +4,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "leases/ChargeDeposits.h"
 #include "leases/LeaseEditor.h"
@@ -15,58 +16,52 @@
 
 namespace leases {
 
-using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
 
 constexpr std::string_view kNotes = "Added by Lease Wizard";
 
-/// Starts a row of a table under a new id, which is answered.
-std::int32_t AddRow(Recordset& row, std::string_view table, std::string_view idField) {
-    row.Open(core::App().Connection, table, CursorMode::AppendOnly);
-    row.AddNew();
-    const std::int32_t id = core::NextId();
-    row[idField].Set(id);
+/// Starts a row of a table under a new id.
+core::RowToWrite AddRow(std::string_view table, std::string_view idField) {
+    core::RowToWrite row(table, idField);
     row["Hide"].Set(false);
     row["Selected"].Set(false);
-    return id;
+    return row;
 }
 
-void Keep(Recordset& row) {
-    core::RepairNulls(row, nullptr);
-    row.Update();
+/// Writes the row and returns its id.
+std::int32_t Keep(core::RowToWrite& added) {
+    core::RepairNulls(added.row, nullptr);
+    added.row.Update();
+    return added.id;
 }
 
 std::int32_t AddUnit(const LeaseWizardEntry& entry) {
-    Recordset row;
-    const std::int32_t idBuilding = AddRow(row, "Building", "IdBuilding");
-    row["Multi"].Set(false);
-    row["Address"].Set(entry.address);
-    row["City"].Set(entry.city);
-    row["County"].Set(entry.county);
-    row["State"].Set(entry.state);
-    row["Zip"].Set(entry.zip);
-    row["Notes"].Set(kNotes);
-    Keep(row);
+    core::RowToWrite building = AddRow("Building", "IdBuilding");
+    building["Multi"].Set(false);
+    building["Address"].Set(entry.address);
+    building["City"].Set(entry.city);
+    building["County"].Set(entry.county);
+    building["State"].Set(entry.state);
+    building["Zip"].Set(entry.zip);
+    building["Notes"].Set(kNotes);
+    const std::int32_t idBuilding = Keep(building);
 
-    const std::int32_t idUnit = AddRow(row, "Unit", "IdUnit");
-    row["IdBuilding"].Set(idBuilding);
-    row["Status"].Set("Leased");
-    row["Rent"].Set(entry.rent);
-    Keep(row);
-    return idUnit;
+    core::RowToWrite unit = AddRow("Unit", "IdUnit");
+    unit["IdBuilding"].Set(idBuilding);
+    unit["Status"].Set("Leased");
+    unit["Rent"].Set(entry.rent);
+    return Keep(unit);
 }
 
 std::int32_t AddTenant(const LeaseWizardEntry& entry) {
-    Recordset row;
-    const std::int32_t id = AddRow(row, "Tenant", "IdTenant");
-    row["Status"].Set("Current");
-    row["LastName"].Set(entry.lastName);
-    row["FirstName"].Set(entry.firstName);
-    row["Notes"].Set(kNotes);
-    Keep(row);
-    return id;
+    core::RowToWrite tenant = AddRow("Tenant", "IdTenant");
+    tenant["Status"].Set("Current");
+    tenant["LastName"].Set(entry.lastName);
+    tenant["FirstName"].Set(entry.firstName);
+    tenant["Notes"].Set(kNotes);
+    return Keep(tenant);
 }
 
 /// What every lease of the wizard starts with, whatever was asked.
@@ -89,8 +84,8 @@ void SetSettings(Recordset& row) {
 }
 
 std::int32_t AddLease(const LeaseWizardEntry& entry, std::int32_t idUnit, std::int32_t idTenant) {
-    Recordset row;
-    const std::int32_t id = AddRow(row, "Lease", "IdLease");
+    core::RowToWrite lease = AddRow("Lease", "IdLease");
+    Recordset& row = lease.row;
     row["IdUnit"].Set(idUnit);
     row["IdTenant"].Set(idTenant);
     row["DateCreated"].Set(platform::Today().ToText());
@@ -105,7 +100,7 @@ std::int32_t AddLease(const LeaseWizardEntry& entry, std::int32_t idUnit, std::i
     SetSettings(row);
     core::RepairNulls(row, nullptr);
     UpdateLease(row, WalkMode::Reprocess);
-    return id;
+    return lease.id;
 }
 
 void TellScreens(const LeaseWizardEntry& entry) {

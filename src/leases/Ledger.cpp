@@ -6,6 +6,7 @@
 #include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "leases/LeaseEditor.h"
 #include "leases/RentLog.h"
 #include "leases/mLease.h"
@@ -16,7 +17,6 @@
 namespace leases {
 
 using platform::Currency;
-using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
@@ -44,10 +44,8 @@ LedgerRow ReadRow(Recordset& rows) {
 }
 
 books::Transaction DepositTransaction(std::int32_t idLease, RentFlags flags) {
-    Recordset lease;
-    lease.Open(core::App().Connection,
-               "SELECT IdTenant, DepositAccount, DepositBalance FROM Lease WHERE IdLease = ?",
-               CursorMode::ReadOnly, {idLease});
+    Recordset lease = core::Read(
+        "SELECT IdTenant, DepositAccount, DepositBalance FROM Lease WHERE IdLease = ?", {idLease});
     if (lease.Eof()) {
         throw platform::DatabaseError("There is no lease " + std::to_string(idLease));
     }
@@ -70,13 +68,11 @@ books::Transaction DepositTransaction(std::int32_t idLease, RentFlags flags) {
 } // namespace
 
 std::vector<LedgerRow> ReadLedger(std::int32_t idLease, const LedgerTab& tab) {
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT IdRentLog, Flags, DatePosted, Category, Description, Amount FROM RentLog "
-              "WHERE (IdLease = ?) AND (Class = ?) " +
-                  std::string(Filter(tab.rows)) +
-                  "ORDER BY DateValue(DatePosted) DESC, IdRentLog DESC",
-              CursorMode::ReadOnly, {idLease, static_cast<std::int16_t>(tab.rentClass)});
+    Recordset rows = core::Read(
+        "SELECT IdRentLog, Flags, DatePosted, Category, Description, Amount FROM RentLog "
+        "WHERE (IdLease = ?) AND (Class = ?) " +
+            std::string(Filter(tab.rows)) + "ORDER BY DateValue(DatePosted) DESC, IdRentLog DESC",
+        {idLease, static_cast<std::int16_t>(tab.rentClass)});
     std::vector<LedgerRow> ledger;
     for (; !rows.Eof(); rows.MoveNext())
         ledger.push_back(ReadRow(rows));
@@ -112,10 +108,8 @@ void WriteDepositRow(std::int32_t idTransaction, const books::Transaction& trans
     // An ordinary transaction has no class, and never a row in a ledger.
     if (transaction.transactionClass == 0) return;
     platform::UnitOfWork unit(core::App().Connection);
-    Recordset row;
-    row.Open(core::App().Connection,
-             "SELECT IdRentLog, IdLease FROM RentLog WHERE IdTransaction = ?", CursorMode::ReadOnly,
-             {idTransaction});
+    Recordset row = core::Read("SELECT IdRentLog, IdLease FROM RentLog WHERE IdTransaction = ?",
+                               {idTransaction});
     const std::int32_t idRow = row.Eof() ? 0 : row["IdRentLog"].AsLong();
     const std::int32_t idLeaseBefore = row.Eof() ? 0 : IdOf(row["IdLease"]);
     WriteRentLog({.idLease = transaction.idLease,

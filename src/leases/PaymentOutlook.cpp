@@ -4,7 +4,7 @@
 
 #include <fmt/core.h>
 
-#include "core/Globals.h"
+#include "core/Rows.h"
 #include "leases/LeaseTerms.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -36,10 +36,8 @@ std::string DescribeCredit(platform::Recordset& lease, int periods) {
 }
 
 bool IsStored(std::int32_t idTransaction) {
-    return core::App()
-        .Connection
-        .Scalar("SELECT IdTransaction FROM Transactions WHERE IdTransaction = ?", {idTransaction})
-        .has_value();
+    return core::Exists("SELECT IdTransaction FROM Transactions WHERE IdTransaction = ?",
+                        {idTransaction});
 }
 
 std::string DescribeReceiver(const RentPayment& payment) {
@@ -53,10 +51,9 @@ std::string DescribeCharges(const RentPayment& payment) {
     if (count == 0) return "Nothing is ticked: a payment of 0.00 will be posted";
     std::string line = fmt::format("{} charge{}", count, count == 1 ? "" : "s");
 
-    platform::Recordset lease;
-    lease.Open(core::App().Connection,
-               "SELECT TermType, DateNextDue, Option, OptionCredit FROM Lease WHERE IdLease = ?",
-               platform::CursorMode::ReadOnly, {payment.idLease});
+    platform::Recordset lease = core::Read(
+        "SELECT TermType, DateNextDue, Option, OptionCredit FROM Lease WHERE IdLease = ?",
+        {payment.idLease});
     if (lease.Eof()) return line;
     const int periods = PeriodsPaid(payment);
     return line + ", " + DescribeDueDate(lease, periods) + DescribeCredit(lease, periods);

@@ -1,13 +1,12 @@
 #include "leases/RentLog.h"
 
-#include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 
 namespace leases {
 
-using platform::CursorMode;
 using platform::Recordset;
 using platform::Value;
 
@@ -29,10 +28,9 @@ Value Code(RentFlags code) {
 }
 
 void Insert(std::int32_t idRentLog, const RentLogEntry& entry) {
-    core::App().Connection.Execute(
-        kInsertEntry, {idRentLog, entry.idLease, entry.idTransaction, entry.datePosted.ToText(),
-                       Code(entry.rentClass), entry.category, entry.amount, entry.description,
-                       Code(entry.flags)});
+    core::Execute(kInsertEntry, {idRentLog, entry.idLease, entry.idTransaction,
+                                 entry.datePosted.ToText(), Code(entry.rentClass), entry.category,
+                                 entry.amount, entry.description, Code(entry.flags)});
 }
 
 /// Every writer announces what it wrote, so that no routine built on it can forget to.
@@ -50,10 +48,10 @@ void CopyFields(Recordset& from, Recordset& to) {
 } // namespace
 
 bool RewriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
-    const auto rows = core::App().Connection.Execute(
-        kUpdateEntry,
-        {entry.idLease, entry.idTransaction, entry.datePosted.ToText(), Code(entry.rentClass),
-         entry.category, entry.amount, entry.description, Code(entry.flags), idRentLog});
+    const auto rows =
+        core::Execute(kUpdateEntry, {entry.idLease, entry.idTransaction, entry.datePosted.ToText(),
+                                     Code(entry.rentClass), entry.category, entry.amount,
+                                     entry.description, Code(entry.flags), idRentLog});
     if (rows > 0) Announce();
     return rows > 0;
 }
@@ -71,31 +69,30 @@ void WriteCharges(std::int32_t idLease, std::span<const Charge> charges) {
     if (charges.empty()) return;
     std::int32_t id = core::NextIds(static_cast<std::int32_t>(charges.size()));
     for (const Charge& charge : charges) {
-        core::App().Connection.Execute(
-            kInsertEntry, {id++, idLease, std::int32_t{0}, charge.date.ToText(),
-                           Code(ClassOf(charge.kind)), CategoryOf(charge.kind), charge.amount,
-                           DescriptionOf(charge), Code(FlagsOf(charge.kind))});
+        core::Execute(kInsertEntry,
+                      {id++, idLease, std::int32_t{0}, charge.date.ToText(),
+                       Code(ClassOf(charge.kind)), CategoryOf(charge.kind), charge.amount,
+                       DescriptionOf(charge), Code(FlagsOf(charge.kind))});
     }
     Announce();
 }
 
 void SetLeaseBalances(Recordset& row) {
     const Value idLease = row["IdLease"].Value();
-    Recordset sums;
-    sums.Open(core::App().Connection,
-              "SELECT Sum(IIf(Class = 1 AND IdTransaction = 0, Amount, 0)) AS RentDue, "
-              "Sum(IIf(Class = 2 AND IdTransaction = 0, Amount, 0)) AS SubsDue, "
-              "Sum(IIf(Class = 4, Amount, 0)) AS OptionBalance, "
-              "Sum(IIf(Class = 3 AND Flags = 0, Amount, 0)) AS DepositTotal, "
-              "-1 * Sum(IIf(Class = 3 AND Flags = 2, Amount, 0)) AS DepositPaid "
-              "FROM RentLog WHERE IdLease = ?",
-              CursorMode::ReadOnly, {idLease});
+    Recordset sums = core::Read(
+        "SELECT Sum(IIf(Class = 1 AND IdTransaction = 0, Amount, 0)) AS RentDue, "
+        "Sum(IIf(Class = 2 AND IdTransaction = 0, Amount, 0)) AS SubsDue, "
+        "Sum(IIf(Class = 4, Amount, 0)) AS OptionBalance, "
+        "Sum(IIf(Class = 3 AND Flags = 0, Amount, 0)) AS DepositTotal, "
+        "-1 * Sum(IIf(Class = 3 AND Flags = 2, Amount, 0)) AS DepositPaid "
+        "FROM RentLog WHERE IdLease = ?",
+        {idLease});
     CopyFields(sums, row);
-    sums.Open(core::App().Connection,
-              "SELECT Sum(IIf(Flags = 3, Amount, 0)) AS DepositRefunded, "
-              "Sum(IIf(Flags = 4, Amount, 0)) AS DepositCharged "
-              "FROM Transactions WHERE IdLease = ? AND Class = 3",
-              CursorMode::ReadOnly, {idLease});
+    sums = core::Read(
+        "SELECT Sum(IIf(Flags = 3, Amount, 0)) AS DepositRefunded, "
+        "Sum(IIf(Flags = 4, Amount, 0)) AS DepositCharged "
+        "FROM Transactions WHERE IdLease = ? AND Class = 3",
+        {idLease});
     CopyFields(sums, row);
 
     const auto money = [&](std::string_view field) { return row[field].AsCurrency(); };

@@ -4,8 +4,8 @@
 #include <tuple>
 
 #include "core/Descriptions.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
@@ -13,7 +13,6 @@
 namespace leases {
 
 using platform::Currency;
-using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
@@ -54,18 +53,15 @@ void AddRows(RentPayment& payment, Recordset& rows, bool selected) {
 }
 
 void AddOpenRows(RentPayment& payment, bool selected) {
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT * FROM RentLog WHERE (IdLease = ?) AND (Class = ?) AND (IdTransaction = 0)",
-              CursorMode::ReadOnly,
-              {payment.idLease, static_cast<std::int16_t>(payment.rentClass)});
+    Recordset rows = core::Read(
+        "SELECT * FROM RentLog WHERE (IdLease = ?) AND (Class = ?) AND (IdTransaction = 0)",
+        {payment.idLease, static_cast<std::int16_t>(payment.rentClass)});
     AddRows(payment, rows, selected);
 }
 
 void AddOwnRows(RentPayment& payment) {
-    Recordset rows;
-    rows.Open(core::App().Connection, "SELECT * FROM RentLog WHERE IdTransaction = ?",
-              CursorMode::ReadOnly, {payment.idTransaction});
+    Recordset rows =
+        core::Read("SELECT * FROM RentLog WHERE IdTransaction = ?", {payment.idTransaction});
     AddRows(payment, rows, true);
 }
 
@@ -115,10 +111,9 @@ int PeriodsPaid(const RentPayment& payment) {
 }
 
 RentPayment ProposePayment(std::int32_t idLease, RentClass rentClass) {
-    Recordset lease;
-    lease.Open(core::App().Connection,
-               "SELECT IdTenant, RentAccount, SubsidyType, SubsidyId FROM Lease WHERE IdLease = ?",
-               CursorMode::ReadOnly, {idLease});
+    Recordset lease = core::Read(
+        "SELECT IdTenant, RentAccount, SubsidyType, SubsidyId FROM Lease WHERE IdLease = ?",
+        {idLease});
     if (lease.Eof()) {
         throw platform::DatabaseError("There is no lease " + std::to_string(idLease));
     }
@@ -136,9 +131,8 @@ RentPayment ProposePayment(std::int32_t idLease, RentClass rentClass) {
 }
 
 RentPayment ReadPayment(std::int32_t idTransaction) {
-    Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM Transactions WHERE (IdTransaction = ?)",
-             CursorMode::ReadOnly, {idTransaction});
+    Recordset row =
+        core::Read("SELECT * FROM Transactions WHERE (IdTransaction = ?)", {idTransaction});
     if (row.Eof()) {
         throw platform::DatabaseError("There is no transaction " + std::to_string(idTransaction));
     }

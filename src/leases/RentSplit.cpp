@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "leases/ChargeEditor.h"
 #include "leases/LeaseEditor.h"
 #include "platform/database/FieldReadings.h"
@@ -12,7 +13,6 @@
 namespace leases {
 
 using platform::Currency;
-using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
@@ -29,8 +29,7 @@ RentLogEntry ReadEntry(Recordset& row) {
 }
 
 void OpenCharge(Recordset& row, std::int32_t idRentLog) {
-    row.Open(core::App().Connection, "SELECT * FROM RentLog WHERE IdRentLog = ?",
-             CursorMode::ReadOnly, {idRentLog});
+    row = core::Read("SELECT * FROM RentLog WHERE IdRentLog = ?", {idRentLog});
 }
 
 /// Two parts in the place of a charge that was paid meanwhile would be owed once more.

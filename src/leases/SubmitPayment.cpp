@@ -6,6 +6,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "leases/RentLog.h"
 #include "leases/RentPayment.h"
 #include "leases/mLease.h"
@@ -27,9 +28,8 @@ bool IsNew(const RentPayment& payment) {
 
 /// Who paid or changed a charge since the payment was read decides: the two would pay it twice.
 [[noreturn]] void ThrowConflict(const PaymentCharge& charge) {
-    Recordset row;
-    row.Open(core::App().Connection, "SELECT IdTransaction FROM RentLog WHERE IdRentLog = ?",
-             platform::CursorMode::ReadOnly, {charge.idRentLog});
+    Recordset row =
+        core::Read("SELECT IdTransaction FROM RentLog WHERE IdRentLog = ?", {charge.idRentLog});
     const bool isPaid = !row.Eof() && IdOf(row["IdTransaction"]) != 0;
     throw ConflictError(fmt::format(
         "The charge \"{}\" of {} was {} after this payment was opened. Nothing was posted.",
@@ -76,10 +76,9 @@ RentPayment CheckUnchanged(const RentPayment& payment) {
 LeaseLinks LinksOf(const RentPayment& payment) {
     const LeaseLinks links = GetLeaseLinks(payment.idLease);
     if (links.idUnit != 0 || IsNew(payment)) return links;
-    Recordset row;
-    row.Open(core::App().Connection,
-             "SELECT IdTenant, IdUnit, IdBuilding FROM Transactions WHERE IdTransaction = ?",
-             platform::CursorMode::ReadOnly, {payment.idTransaction});
+    Recordset row =
+        core::Read("SELECT IdTenant, IdUnit, IdBuilding FROM Transactions WHERE IdTransaction = ?",
+                   {payment.idTransaction});
     if (row.Eof()) return links;
     return {IdOf(row["IdTenant"]), IdOf(row["IdUnit"]), IdOf(row["IdBuilding"])};
 }
@@ -113,8 +112,8 @@ std::int32_t WriteTransaction(const RentPayment& payment) {
 /// The next payment proposes the account that took this one.
 void RememberAccount(const RentPayment& payment) {
     if (payment.rentClass != RentClass::Rent && payment.rentClass != RentClass::Subsidy) return;
-    core::App().Connection.Execute("UPDATE Lease SET RentAccount = ? WHERE IdLease = ?",
-                                   {payment.toAccount, payment.idLease});
+    core::Execute("UPDATE Lease SET RentAccount = ? WHERE IdLease = ?",
+                  {payment.toAccount, payment.idLease});
 }
 
 /// A stored payment's row takes an amount of 0 too: left as it was, it would be money that nobody

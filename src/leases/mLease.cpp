@@ -6,7 +6,7 @@
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/Session.h"
+#include "core/Rows.h"
 #include "leases/LeaseStatus.h"
 #include "leases/RentLog.h"
 #include "platform/database/FieldReadings.h"
@@ -14,7 +14,6 @@
 
 namespace leases {
 
-using platform::CursorMode;
 using platform::Date;
 using platform::Recordset;
 using platform::UnitOfWork;
@@ -43,9 +42,7 @@ std::string_view RentStatusOf(Recordset& row) {
 }
 
 std::vector<Charge> UpdateStored(std::int32_t idLease, WalkMode mode) {
-    Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?", CursorMode::Updatable,
-             {idLease});
+    Recordset row = core::Write("SELECT * FROM Lease WHERE IdLease = ?", {idLease});
     return row.Eof() ? std::vector<Charge>() : UpdateLease(row, mode);
 }
 
@@ -104,11 +101,10 @@ void SetRentStatus(Recordset& row) {
 
 void AdvanceNextDue(std::int32_t idLease, OptionCredit credit, Broadcast broadcast) {
     UnitOfWork unit(core::App().Connection);
-    Recordset row;
-    row.Open(core::App().Connection,
-             "SELECT IdLease, TermType, DateNextDue, Option, OptionCredit FROM Lease "
-             "WHERE IdLease = ?",
-             CursorMode::Updatable, {idLease});
+    Recordset row = core::Write(
+        "SELECT IdLease, TermType, DateNextDue, Option, OptionCredit FROM Lease "
+        "WHERE IdLease = ?",
+        {idLease});
     if (row.Eof()) return;
     const std::string termType = TextOf(row["TermType"]);
     const Date nextDue = DateAdd(TermInterval(termType), 1, row["DateNextDue"].AsDate());

@@ -4,6 +4,7 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/RecordNotices.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/system/Clock.h"
@@ -29,9 +30,8 @@ MortgageLogEntry EntryOf(platform::Recordset& row) {
 }
 
 void CheckUnchanged(std::int32_t idMortgageLog, const MortgageLogEntry& read) {
-    platform::Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM MortgageLog WHERE IdMortgageLog = ?",
-             platform::CursorMode::ReadOnly, {idMortgageLog});
+    platform::Recordset row =
+        core::Read("SELECT * FROM MortgageLog WHERE IdMortgageLog = ?", {idMortgageLog});
     if (row.Eof()) {
         throw platform::ConflictError("This charge has been deleted. Nothing was saved.");
     }
@@ -64,7 +64,7 @@ bool KeepsSplit(const MortgageLogEntry& entry) {
 bool ReadCharge(std::int32_t idMortgageLog, MortgageLogEntry& entry) {
     platform::Recordset row;
     const auto count = core::OpenRecordset(row, "SELECT * FROM MortgageLog WHERE IdMortgageLog = ?",
-                                           core::Access::ReadOnly, {idMortgageLog});
+                                           platform::CursorMode::ReadOnly, {idMortgageLog});
     if (!core::OneRecordFound(count)) return false;
     entry = EntryOf(row);
     return true;

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "core/Globals.h"
+#include "core/Rows.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/values/Format.h"
 
 namespace mortgages {
@@ -46,17 +47,16 @@ double LeftAfter(const clsMortgage& loan, std::int32_t idMortgage, std::int16_t 
 
 std::int16_t PeriodOfExtra(const MortgagePayment& payment) {
     if (const PaymentCharge* const last = LastBaseSelected(payment)) return last->period;
-    const auto period = core::App().Connection.Scalar(
+    const platform::Value period = core::ReadValue(
         "SELECT CurrentPeriod FROM Mortgage WHERE IdMortgage = ?", {payment.idMortgage});
-    return period && !period->IsNull() ? period->AsInteger() : std::int16_t{1};
+    return period.IsNull() ? std::int16_t{1} : period.AsInteger();
 }
 
 Currency BookedExtra(std::int32_t idMortgage, std::int16_t period) {
-    const auto sum = core::App().Connection.Scalar(
+    return platform::AsOr0<Currency>(core::ReadValue(
         "SELECT SUM(PayDown) FROM MortgageLog WHERE IdMortgage = ? AND Period = ? AND Flags = 0 "
         "AND Category = ?",
-        {idMortgage, period, kCategoryExtra});
-    return sum && !sum->IsNull() ? sum->AsCurrency() : Currency();
+        {idMortgage, period, kCategoryExtra}));
 }
 
 std::string ExtraFault(const MortgagePayment& payment) {

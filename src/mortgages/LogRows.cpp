@@ -7,6 +7,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -41,10 +42,9 @@ constexpr std::size_t kMostNamed = 12;
 
 /// The row as the question names it; empty for one that isn't there any more.
 std::string NameOf(std::int32_t idMortgageLog) {
-    Recordset row;
-    row.Open(core::App().Connection,
-             "SELECT DatePosted, Description, Total FROM MortgageLog WHERE IdMortgageLog = ?",
-             platform::CursorMode::ReadOnly, {idMortgageLog});
+    Recordset row =
+        core::Read("SELECT DatePosted, Description, Total FROM MortgageLog WHERE IdMortgageLog = ?",
+                   {idMortgageLog});
     if (row.Eof()) return {};
     return fmt::format("{}  {}  {}", TextOf(row["DatePosted"]), TextOf(row["Description"]),
                        platform::FormatMoney(MoneyOf(row["Total"])));
@@ -75,13 +75,12 @@ void CheckUnchanged(const ShownCharge& shown) {
 std::vector<LogRow> ReadLog(std::int32_t idMortgage, LogPart part) {
     const std::string filter =
         part == LogPart::PaymentDue ? "AND (IdTransaction = 0) " : "AND (IdTransaction <> 0) ";
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT IdMortgageLog, IdTransaction, Flags, DatePosted, Category, Description, "
-              "Principal, Paydown, Interest, Other, Total FROM MortgageLog "
-              "WHERE (IdMortgage = ?) " +
-                  filter + "ORDER BY DateValue(DatePosted) DESC",
-              platform::CursorMode::ReadOnly, {idMortgage});
+    Recordset rows = core::Read(
+        "SELECT IdMortgageLog, IdTransaction, Flags, DatePosted, Category, Description, "
+        "Principal, Paydown, Interest, Other, Total FROM MortgageLog "
+        "WHERE (IdMortgage = ?) " +
+            filter + "ORDER BY DateValue(DatePosted) DESC",
+        {idMortgage});
     std::vector<LogRow> log;
     for (; !rows.Eof(); rows.MoveNext())
         log.push_back(RowOf(rows));

@@ -1,6 +1,6 @@
 #include "mortgages/MortgageLog.h"
 
-#include "core/Globals.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 
 namespace mortgages {
@@ -24,11 +24,10 @@ Value Code(LogFlags code) {
 }
 
 bool Rewrite(std::int32_t id, const MortgageLogEntry& entry) {
-    return core::App().Connection.Execute(
-               kUpdateEntry,
-               {entry.idMortgage, entry.idTransaction, entry.period, entry.datePosted.ToText(),
-                entry.category, entry.principal, entry.payDown, entry.interest, entry.other,
-                entry.Total(), entry.description, Code(entry.flags), id}) > 0;
+    return core::Execute(kUpdateEntry, {entry.idMortgage, entry.idTransaction, entry.period,
+                                        entry.datePosted.ToText(), entry.category, entry.principal,
+                                        entry.payDown, entry.interest, entry.other, entry.Total(),
+                                        entry.description, Code(entry.flags), id}) > 0;
 }
 
 } // namespace
@@ -36,11 +35,10 @@ bool Rewrite(std::int32_t id, const MortgageLogEntry& entry) {
 std::int32_t WriteMortgageLog(const MortgageLogEntry& entry, std::int32_t idMortgageLog) {
     if (idMortgageLog != 0 && Rewrite(idMortgageLog, entry)) return idMortgageLog;
     const std::int32_t id = core::NextId();
-    core::App().Connection.Execute(
-        kInsertEntry,
-        {id, entry.idMortgage, entry.idTransaction, entry.period, entry.datePosted.ToText(),
-         entry.category, entry.principal, entry.payDown, entry.interest, entry.other, entry.Total(),
-         entry.description, Code(entry.flags)});
+    core::Execute(kInsertEntry, {id, entry.idMortgage, entry.idTransaction, entry.period,
+                                 entry.datePosted.ToText(), entry.category, entry.principal,
+                                 entry.payDown, entry.interest, entry.other, entry.Total(),
+                                 entry.description, Code(entry.flags)});
     return id;
 }
 
@@ -49,10 +47,10 @@ void WriteCharges(std::int32_t idMortgage, std::span<const Charge> charges) {
     std::int32_t id = core::NextIds(static_cast<std::int32_t>(charges.size()));
     for (const Charge& charge : charges) {
         const ChargeWords words = WordsOf(charge.flags);
-        core::App().Connection.Execute(
-            kInsertEntry, {id++, idMortgage, std::int32_t{0}, charge.period, charge.date.ToText(),
-                           words.category, charge.principal, charge.payDown, charge.interest,
-                           charge.other, charge.Total(), words.description, Code(charge.flags)});
+        core::Execute(kInsertEntry,
+                      {id++, idMortgage, std::int32_t{0}, charge.period, charge.date.ToText(),
+                       words.category, charge.principal, charge.payDown, charge.interest,
+                       charge.other, charge.Total(), words.description, Code(charge.flags)});
     }
 }
 

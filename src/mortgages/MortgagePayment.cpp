@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/Descriptions.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
@@ -12,7 +12,6 @@
 namespace mortgages {
 
 using platform::Currency;
-using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
@@ -70,10 +69,9 @@ std::int16_t MortgagePayment::FromPeriod() const {
 }
 
 MortgagePayment ProposeMortgagePayment(std::int32_t idMortgage) {
-    Recordset row;
-    row.Open(core::App().Connection,
-             "SELECT Description, IdLastPmt, IdMortgagee FROM Mortgage WHERE IdMortgage = ?",
-             CursorMode::ReadOnly, {idMortgage});
+    Recordset row =
+        core::Read("SELECT Description, IdLastPmt, IdMortgagee FROM Mortgage WHERE IdMortgage = ?",
+                   {idMortgage});
     if (row.Eof()) {
         throw platform::DatabaseError("There is no mortgage " + std::to_string(idMortgage));
     }
@@ -91,9 +89,8 @@ MortgagePayment ProposeMortgagePayment(std::int32_t idMortgage) {
 }
 
 MortgagePayment ReadMortgagePayment(std::int32_t idTransaction) {
-    Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM Transactions WHERE (IdTransaction = ?)",
-             CursorMode::ReadOnly, {idTransaction});
+    Recordset row =
+        core::Read("SELECT * FROM Transactions WHERE (IdTransaction = ?)", {idTransaction});
     if (row.Eof()) {
         throw platform::DatabaseError("There is no transaction " + std::to_string(idTransaction));
     }
@@ -113,12 +110,11 @@ MortgagePayment ReadMortgagePayment(std::int32_t idTransaction) {
 void ReadCharges(MortgagePayment& payment) {
     // A new payment has settled nothing, and no row of another mortgage is its own.
     const std::int32_t settledBy = payment.idTransaction == 0 ? -1 : payment.idTransaction;
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT *, 'True' AS [Selected] FROM MortgageLog WHERE (IdTransaction = ?) "
-              "UNION SELECT *, 'False' AS [Selected] FROM MortgageLog "
-              "WHERE (IdMortgage = ?) AND (IdTransaction = 0) ORDER BY DateValue(DatePosted)",
-              CursorMode::ReadOnly, {settledBy, payment.idMortgage});
+    Recordset rows = core::Read(
+        "SELECT *, 'True' AS [Selected] FROM MortgageLog WHERE (IdTransaction = ?) "
+        "UNION SELECT *, 'False' AS [Selected] FROM MortgageLog "
+        "WHERE (IdMortgage = ?) AND (IdTransaction = 0) ORDER BY DateValue(DatePosted)",
+        {settledBy, payment.idMortgage});
     std::vector<PaymentCharge> charges;
     for (; !rows.Eof(); rows.MoveNext()) {
         PaymentCharge charge = ChargeOf(rows);

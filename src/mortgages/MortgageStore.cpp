@@ -1,31 +1,16 @@
-#include "core/Globals.h"
-#include "core/Session.h"
+#include "core/Rows.h"
 #include "mortgages/DoubleList.h"
 #include "mortgages/clsMortgage.h"
+#include "platform/database/FieldReadings.h"
 
 namespace mortgages {
 
-using platform::CursorMode;
-using platform::Field;
 using platform::Recordset;
 
 namespace {
 
 /// Whether a field that can't be read throws or is skipped.
 enum class Fault { Thrown, PassedOver };
-
-void Read(const Field& field, double& value) {
-    value = field.AsDouble();
-}
-void Read(const Field& field, std::int16_t& value) {
-    value = field.AsInteger();
-}
-void Read(const Field& field, bool& value) {
-    value = field.AsBoolean();
-}
-void Read(const Field& field, std::string& value) {
-    value = field.AsText();
-}
 
 /// Reads fields of the current row into values; a null leaves its value as it was.
 class TermsReader {
@@ -34,28 +19,28 @@ class TermsReader {
 
     template <class T>
     void operator()(std::string_view name, T& value) {
-        try {
-            const Field field = row_[name];
-            if (!field.IsNull()) Read(field, value);
-        } catch (const platform::Error&) {
-            if (fault_ == Fault::Thrown) throw;
-        }
+        if (auto read = Read<T>(name)) value = std::move(*read);
     }
 
     /// The count of the list's entries; nothing for a null.
     std::optional<std::size_t> List(std::string_view name, std::vector<double>& numbers) {
-        std::optional<std::string> text;
-        try {
-            const Field field = row_[name];
-            if (!field.IsNull()) text = field.AsText();
-        } catch (const platform::Error&) {
-            if (fault_ == Fault::Thrown) throw;
-        }
+        const auto text = Read<std::string>(name);
         if (!text) return {};
         return SplitDoubleList(*text, numbers);
     }
 
   private:
+    template <class T>
+    std::optional<T> Read(std::string_view name) {
+        try {
+            const platform::Field field = row_[name];
+            if (!field.IsNull()) return platform::As<T>(field);
+        } catch (const platform::Error&) {
+            if (fault_ == Fault::Thrown) throw;
+        }
+        return {};
+    }
+
     Recordset& row_;
     Fault fault_;
 };
@@ -122,16 +107,10 @@ void WriteCurrent(Recordset& row, const AmortPeriod* at, double AmortPeriod::*ba
     row["RemainingT"].Set(at == nullptr ? 0 : remaining);
 }
 
-void OpenRow(Recordset& row, std::int32_t idMortgage, CursorMode mode) {
-    row.Open(core::App().Connection, "SELECT * FROM Mortgage WHERE IdMortgage = ?", mode,
-             {idMortgage});
-}
-
 } // namespace
 
 bool clsMortgage::LoadMtg(std::int32_t idMortgage) {
-    Recordset row;
-    OpenRow(row, idMortgage, CursorMode::ReadOnly);
+    Recordset row = core::Read("SELECT * FROM Mortgage WHERE IdMortgage = ?", {idMortgage});
     if (row.Eof()) return false;
     TermsReader read(row, Fault::Thrown);
     ReadTerms(read, terms_);
@@ -162,13 +141,10 @@ bool clsMortgage::LoadRS(Recordset& row) {
 }
 
 void clsMortgage::SaveMtg(std::int32_t idMortgage) const {
-    Recordset row;
-    OpenRow(row, idMortgage, CursorMode::Updatable);
-    if (row.Eof()) row.AddNew();
-    row["IdMortgage"].Set(idMortgage);
-    WriteTerms(row, terms_, xPri_, xRate_);
-    WriteCurrent(row, Row(0), &AmortPeriod::EndBal, GetPeriodsRemaining());
-    row.Update();
+    core::RowToWrite stored("Mortgage", "IdMortgage", idMortgage);
+    WriteTerms(stored.row, terms_, xPri_, xRate_);
+    WriteCurrent(stored.row, Row(0), &AmortPeriod::EndBal, GetPeriodsRemaining());
+    stored.row.Update();
 }
 
 void clsMortgage::SaveRS(Recordset& row) const {

@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "mortgages/ExtraPrincipal.h"
 #include "mortgages/MortgageLog.h"
 #include "mortgages/mMortgage.h"
@@ -12,17 +13,12 @@
 namespace mortgages {
 
 using platform::Currency;
-using platform::CursorMode;
 using platform::Recordset;
 using platform::UnitOfWork;
 
 namespace {
 
 constexpr double kHalfACent = 0.005;
-
-double NumberOr0(const platform::Field& field) {
-    return field.IsNull() ? 0 : field.AsDouble();
-}
 
 } // namespace
 
@@ -52,9 +48,7 @@ void SettleRemainder(clsMortgage& mortgage) {
 
 void RefreshMortgage(std::int32_t idMortgage) {
     UnitOfWork unit(core::App().Connection);
-    Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM Mortgage WHERE IdMortgage = ?",
-             CursorMode::Updatable, {idMortgage});
+    Recordset row = core::Write("SELECT * FROM Mortgage WHERE IdMortgage = ?", {idMortgage});
     if (row.Eof()) return;
 
     clsMortgage mortgage;
@@ -68,18 +62,17 @@ void RefreshMortgage(std::int32_t idMortgage) {
 
 PayoffResult PostPayoff(std::int32_t idMortgage) {
     UnitOfWork unit(core::App().Connection);
-    core::App().Connection.Execute(
-        "DELETE * FROM MortgageLog WHERE (IdMortgage = ?) AND (IdTransaction = 0)", {idMortgage});
-    Recordset row;
-    row.Open(core::App().Connection,
-             "SELECT CurrentPeriod, CurrentPV, CurrentPPmt, CurrentIpmt FROM Mortgage "
-             "WHERE IdMortgage = ?",
-             CursorMode::ReadOnly, {idMortgage});
+    core::Execute("DELETE * FROM MortgageLog WHERE (IdMortgage = ?) AND (IdTransaction = 0)",
+                  {idMortgage});
+    Recordset row = core::Read(
+        "SELECT CurrentPeriod, CurrentPV, CurrentPPmt, CurrentIpmt FROM Mortgage "
+        "WHERE IdMortgage = ?",
+        {idMortgage});
     if (row.Eof() || row["CurrentPeriod"].IsNull() || row["CurrentPV"].IsNull()) {
         return PayoffResult::NotFound;
     }
     const double balance = row["CurrentPV"].AsDouble();
-    const double principal = NumberOr0(row["CurrentPPmt"]);
+    const double principal = NumberOf(row["CurrentPPmt"]);
     MortgageLogEntry payoff;
     payoff.idMortgage = idMortgage;
     payoff.period = row["CurrentPeriod"].AsInteger();
@@ -88,7 +81,7 @@ PayoffResult PostPayoff(std::int32_t idMortgage) {
     payoff.principal = Currency::FromDouble(principal);
     payoff.payDown =
         Currency::FromDouble(balance - principal) - BookedExtra(idMortgage, payoff.period);
-    payoff.interest = Currency::FromDouble(NumberOr0(row["CurrentIpmt"]));
+    payoff.interest = Currency::FromDouble(NumberOf(row["CurrentIpmt"]));
     payoff.description = kCategoryPayoff;
     payoff.flags = LogFlags::BasePayment;
     WriteMortgageLog(payoff);

@@ -3,7 +3,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/Session.h"
+#include "core/Rows.h"
 #include "mortgages/MortgageUpkeep.h"
 #include "mortgages/clsMortgage.h"
 #include "mortgages/mMortgage.h"
@@ -14,7 +14,6 @@
 namespace mortgages {
 
 using platform::Currency;
-using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
@@ -22,11 +21,7 @@ namespace {
 constexpr std::string_view kNote = "Added by Mortgage Wizard";
 
 std::int32_t AddLender(const WizardEntries& entries) {
-    Recordset rows;
-    rows.Open(core::App().Connection, "Account", CursorMode::AppendOnly);
-    rows.AddNew();
-    const std::int32_t id = core::NextId();
-    rows["IdAccount"].Set(id);
+    core::RowToWrite rows("Account", "IdAccount");
     rows["Hide"].Set(false);
     rows["Selected"].Set(false);
     rows["ShowAs"].Set(platform::Trim(entries.accountName));
@@ -35,8 +30,8 @@ std::int32_t AddLender(const WizardEntries& entries) {
     rows["AccountNumber"].Set(entries.loanNumber);
     rows["Balance"].Set(Currency());
     rows["Notes"].Set(kNote);
-    rows.Update();
-    return id;
+    rows.row.Update();
+    return rows.id;
 }
 
 /// The loan as its current figures say it runs: what is owed less than scheduled was paid with the
@@ -114,11 +109,8 @@ std::int32_t FinishWizard(const WizardEntries& entries) {
     const std::string description = std::string(company) + " " + entries.loanNumber;
     const clsMortgage loan = LoanOf(entries, description);
 
-    Recordset row;
-    row.Open(core::App().Connection, "Mortgage", CursorMode::AppendOnly);
-    row.AddNew();
-    const std::int32_t id = core::NextId();
-    row["IdMortgage"].Set(id);
+    core::RowToWrite added("Mortgage", "IdMortgage");
+    Recordset& row = added.row;
     row["Hide"].Set(false);
     row["Selected"].Set(false);
     StoreLoan(loan, row);
@@ -132,7 +124,7 @@ std::int32_t FinishWizard(const WizardEntries& entries) {
     unit.Commit();
     if (entries.newAccount) core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
     core::NotifyAll(core::kMortgage, core::kRecordsChanged, 0);
-    return id;
+    return added.id;
 }
 
 } // namespace mortgages

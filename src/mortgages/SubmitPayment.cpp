@@ -8,6 +8,7 @@
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "mortgages/ExtraPrincipal.h"
 #include "mortgages/MortgageLog.h"
 #include "mortgages/MortgagePayment.h"
@@ -19,18 +20,12 @@ namespace mortgages {
 
 using platform::ConflictError;
 using platform::Currency;
-using platform::CursorMode;
 using platform::Recordset;
 
 namespace {
 
-bool Exists(std::string_view countById, std::int32_t id) {
-    const auto count = core::App().Connection.Scalar(countById, {id});
-    return count && count->AsLong() > 0;
-}
-
 bool MortgageExists(std::int32_t idMortgage) {
-    return Exists("SELECT Count(*) FROM Mortgage WHERE IdMortgage = ?", idMortgage);
+    return core::Exists("SELECT IdMortgage FROM Mortgage WHERE IdMortgage = ?", {idMortgage});
 }
 
 [[noreturn]] void ThrowConflict(const PaymentCharge& charge, std::string_view fate) {
@@ -40,11 +35,10 @@ bool MortgageExists(std::int32_t idMortgage) {
 
 /// What the screen offered was read before this unit of work began.
 void CheckCharge(const MortgagePayment& payment, const PaymentCharge& charge) {
-    Recordset row;
-    row.Open(core::App().Connection,
-             "SELECT IdTransaction, Total, PayDown, Period, Flags FROM MortgageLog "
-             "WHERE IdMortgageLog = ?",
-             CursorMode::ReadOnly, {charge.idMortgageLog});
+    Recordset row = core::Read(
+        "SELECT IdTransaction, Total, PayDown, Period, Flags FROM MortgageLog "
+        "WHERE IdMortgageLog = ?",
+        {charge.idMortgageLog});
     if (row.Eof()) ThrowConflict(charge, "has been deleted");
     const std::int32_t paidBy = IdOf(row["IdTransaction"]);
     if (paidBy != 0 && paidBy != payment.idTransaction) {
@@ -58,14 +52,13 @@ void CheckCharge(const MortgagePayment& payment, const PaymentCharge& charge) {
 }
 
 void CheckStoredPayment(const MortgagePayment& payment) {
-    if (!Exists("SELECT Count(*) FROM Transactions WHERE IdTransaction = ?",
-                payment.idTransaction)) {
+    if (!core::Exists("SELECT IdTransaction FROM Transactions WHERE IdTransaction = ?",
+                      {payment.idTransaction})) {
         throw ConflictError("This payment has been deleted. Nothing was saved.");
     }
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT IdMortgageLog FROM MortgageLog WHERE IdTransaction = ? AND Flags <> 2",
-              CursorMode::ReadOnly, {payment.idTransaction});
+    Recordset rows =
+        core::Read("SELECT IdMortgageLog FROM MortgageLog WHERE IdTransaction = ? AND Flags <> 2",
+                   {payment.idTransaction});
     for (; !rows.Eof(); rows.MoveNext()) {
         const std::int32_t id = rows["IdMortgageLog"].AsLong();
         const bool known = std::any_of(payment.charges.begin(), payment.charges.end(),
@@ -92,9 +85,8 @@ std::int32_t BuildingOf(const MortgagePayment& payment) {
     if (payment.idTransaction == 0 || MortgageExists(payment.idMortgage)) {
         return core::GetMortgageBuilding(payment.idMortgage);
     }
-    const auto stored = core::App().Connection.Scalar(
-        "SELECT IdBuilding FROM Transactions WHERE IdTransaction = ?", {payment.idTransaction});
-    return stored && !stored->IsNull() ? stored->AsLong() : 0;
+    return platform::AsOr0<std::int32_t>(core::ReadValue(
+        "SELECT IdBuilding FROM Transactions WHERE IdTransaction = ?", {payment.idTransaction}));
 }
 
 books::Transaction TransactionOf(const MortgagePayment& payment) {
@@ -145,7 +137,7 @@ void ApplyBasePayment(std::int32_t idMortgage, const PaymentCharge& charge, bool
 /// Only charges that this payment settled before are opened again.
 void SettleCharges(const MortgagePayment& payment, std::int32_t idTransaction) {
     for (const PaymentCharge& charge : payment.charges) {
-        core::App().Connection.Execute(
+        core::Execute(
             "UPDATE MortgageLog SET IdTransaction = ? WHERE IdMortgageLog = ? "
             "AND (IdTransaction = 0 OR IdTransaction IS NULL OR IdTransaction = ?)",
             {charge.selected ? idTransaction : 0, charge.idMortgageLog, idTransaction});
@@ -160,11 +152,10 @@ void RefreshSplits(const MortgagePayment& payment) {
     clsMortgage mortgage;
     if (from == 0 || !mortgage.LoadMtg(payment.idMortgage)) return;
     mortgage.ReCalc();
-    Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT * FROM MortgageLog WHERE (IdMortgage = ?) AND (Period >= ?) AND (Flags = 1) "
-              "ORDER BY Period",
-              CursorMode::Updatable, {payment.idMortgage, from});
+    Recordset rows = core::Write(
+        "SELECT * FROM MortgageLog WHERE (IdMortgage = ?) AND (Period >= ?) AND (Flags = 1) "
+        "ORDER BY Period",
+        {payment.idMortgage, from});
     for (; !rows.Eof(); rows.MoveNext()) {
         const int period = rows["Period"].AsInteger();
         rows["Principal"].Set(mortgage.GetPPMT(period));
@@ -188,8 +179,8 @@ std::int32_t SubmitMortgagePayment(const MortgagePayment& payment) {
     CheckUnchanged(payment);
     const std::int32_t idTransaction = WriteTransaction(payment);
     WriteMortgageLog(PaymentRowOf(payment, idTransaction), payment.idPaymentRow);
-    core::App().Connection.Execute("UPDATE Mortgage SET IdLastPmt = ? WHERE IdMortgage = ?",
-                                   {payment.fromAccount, payment.idMortgage});
+    core::Execute("UPDATE Mortgage SET IdLastPmt = ? WHERE IdMortgage = ?",
+                  {payment.fromAccount, payment.idMortgage});
     SettleCharges(payment, idTransaction);
     BookExtra(payment, idTransaction);
     RefreshSplits(payment);

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/Globals.h"
+#include "core/Rows.h"
 #include "mortgages/ExtraPrincipal.h"
 #include "mortgages/MortgageLog.h"
 #include "platform/database/FieldReadings.h"
@@ -11,7 +12,6 @@
 
 namespace mortgages {
 
-using platform::CursorMode;
 using platform::Date;
 using platform::Recordset;
 using platform::UnitOfWork;
@@ -60,9 +60,7 @@ std::vector<Charge> UpdateMortgage(Recordset& row, RunMode mode) {
 
 void UpdateMortgageById(std::int32_t idMortgage, RunMode mode) {
     UnitOfWork unit(core::App().Connection);
-    Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM Mortgage WHERE IdMortgage = ?",
-             CursorMode::Updatable, {idMortgage});
+    Recordset row = core::Write("SELECT * FROM Mortgage WHERE IdMortgage = ?", {idMortgage});
     if (row.Eof()) return;
     UpdateMortgage(row, mode);
     unit.Commit();

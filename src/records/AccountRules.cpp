@@ -3,7 +3,7 @@
 #include <array>
 #include <utility>
 
-#include "core/Globals.h"
+#include "core/Rows.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/Text.h"
 
@@ -26,8 +26,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 10> kOffers 
 }};
 
 std::string TypesInUse() {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, "SELECT DISTINCT AccountType FROM Account ORDER BY 1");
+    platform::Recordset rows = core::Read("SELECT DISTINCT AccountType FROM Account ORDER BY 1");
     std::string types;
     for (; !rows.Eof(); rows.MoveNext()) {
         const platform::Field type = rows["AccountType"];

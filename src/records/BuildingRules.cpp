@@ -1,10 +1,9 @@
 #include "records/BuildingRules.h"
 
-#include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
-#include "core/Session.h"
-#include "platform/database/Recordset.h"
+#include "core/Rows.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Text.h"
 
@@ -12,15 +11,6 @@ namespace records {
 
 using platform::Currency;
 using platform::Recordset;
-using platform::Value;
-
-namespace {
-
-platform::Connection& Books() {
-    return core::App().Connection;
-}
-
-} // namespace
 
 std::vector<std::string> BuildingErrors(std::string_view address) {
     if (platform::Trim(address).empty()) return {"An address must be entered."};
@@ -28,30 +18,22 @@ std::vector<std::string> BuildingErrors(std::string_view address) {
 }
 
 std::vector<core::Choice> UnitsOf(std::int32_t idBuilding) {
-    Recordset rows;
-    rows.Open(Books(), "SELECT IdUnit, Unit FROM Unit WHERE IdBuilding = ? ORDER BY Unit",
-              platform::CursorMode::ReadOnly, {idBuilding});
+    Recordset rows = core::Read("SELECT IdUnit, Unit FROM Unit WHERE IdBuilding = ? ORDER BY Unit",
+                                {idBuilding});
     std::vector<core::Choice> units;
     for (; !rows.Eof(); rows.MoveNext()) {
-        const platform::Field label = rows["Unit"];
-        units.push_back({label.IsNull() ? "" : label.AsText(), rows["IdUnit"].AsLong()});
+        units.push_back({TextOf(rows["Unit"]), rows["IdUnit"].AsLong()});
     }
     return units;
 }
 
 bool AreStored(std::int32_t idBuilding, std::int32_t idUnit) {
-    return Books()
-               .Scalar("SELECT IdBuilding FROM Building WHERE IdBuilding = ?", {idBuilding})
-               .has_value() &&
-           Books().Scalar("SELECT IdUnit FROM Unit WHERE IdUnit = ?", {idUnit}).has_value();
+    return core::Exists("SELECT IdBuilding FROM Building WHERE IdBuilding = ?", {idBuilding}) &&
+           core::Exists("SELECT IdUnit FROM Unit WHERE IdUnit = ?", {idUnit});
 }
 
 std::int32_t MakeNewUnit(std::int32_t idBuilding) {
-    const std::int32_t idUnit = core::NextId();
-    Recordset row;
-    row.Open(Books(), "Unit", platform::CursorMode::AppendOnly);
-    row.AddNew();
-    row["IdUnit"].Set(idUnit);
+    core::RowToWrite row("Unit", "IdUnit");
     row["IdBuilding"].Set(idBuilding);
     row["Unit"].Set("<new>");
     row["Status"].Set("Hold");
@@ -66,16 +48,14 @@ std::int32_t MakeNewUnit(std::int32_t idBuilding) {
                              "SecTenant", "Ad", "Notes"}) {
         row[text].Set("");
     }
-    row.Update();
+    row.row.Update();
     core::NotifyAll(core::kUnit, core::kRecordsChanged, 0);
-    return idUnit;
+    return row.id;
 }
 
 Currency EquityAt(Currency marketValue, std::int32_t idBuilding) {
-    const Value owed =
-        Books()
-            .Scalar("SELECT SUM(CurrentPV) FROM Mortgage WHERE IdBuilding = ?", {idBuilding})
-            .value_or(Value());
+    const platform::Value owed =
+        core::ReadValue("SELECT SUM(CurrentPV) FROM Mortgage WHERE IdBuilding = ?", {idBuilding});
     return owed.IsNull() ? marketValue : marketValue - owed.AsCurrency();
 }
 

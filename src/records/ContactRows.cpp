@@ -1,56 +1,46 @@
 #include "records/ContactRows.h"
 
-#include "core/Globals.h"
-#include "core/Session.h"
+#include "core/Rows.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/dialogs/Dialogs.h"
 
 namespace records {
 
 namespace {
 
-platform::Connection& Books() {
-    return core::App().Connection;
-}
-
-void StartContact(platform::Recordset& row, std::int32_t idContact, const RelatedOwner& owner) {
-    row.AddNew();
-    row["IdContact"].Set(idContact);
-    row["dbType"].Set(owner.kind);
-    row["IdRelated"].Set(owner.id);
-    row["Description"].Set(platform::Value("New Contact"));
-    row["IconFlag"].Set(std::int16_t{0});
+core::RowToWrite ContactToWrite(std::int32_t idContact, const RelatedOwner& owner) {
+    core::RowToWrite contact("Contact", "IdContact", idContact);
+    if (contact.isNew) {
+        contact["dbType"].Set(owner.kind);
+        contact["IdRelated"].Set(owner.id);
+        contact["Description"].Set(platform::Value("New Contact"));
+        contact["IconFlag"].Set(std::int16_t{0});
+    }
+    return contact;
 }
 
 } // namespace
 
 std::vector<core::Choice> ListContacts(const RelatedOwner& owner) {
-    platform::Recordset rows;
-    rows.Open(Books(),
-              "SELECT IdContact, Description FROM Contact WHERE (IdRelated = ?) AND (dbType = ?) "
-              "ORDER BY Description",
-              platform::CursorMode::ReadOnly, {owner.id, owner.kind});
+    platform::Recordset rows = core::Read(
+        "SELECT IdContact, Description FROM Contact WHERE (IdRelated = ?) AND (dbType = ?) "
+        "ORDER BY Description",
+        {owner.id, owner.kind});
     std::vector<core::Choice> contacts;
     for (; !rows.Eof(); rows.MoveNext()) {
-        const platform::Field description = rows["Description"];
-        contacts.push_back({description.IsNull() ? std::string() : description.AsText(),
-                            rows["IdContact"].AsLong()});
+        contacts.push_back({TextOf(rows["Description"]), rows["IdContact"].AsLong()});
     }
     return contacts;
 }
 
 std::int32_t AddContact(const RelatedOwner& owner) {
-    platform::Recordset row;
-    row.Open(Books(), "Contact", platform::CursorMode::AppendOnly);
-    const std::int32_t id = core::NextId();
-    StartContact(row, id, owner);
-    row.Update();
-    return id;
+    core::RowToWrite contact = ContactToWrite(0, owner);
+    contact.row.Update();
+    return contact.id;
 }
 
 void OpenContact(platform::Recordset& row, std::int32_t idContact, const RelatedOwner& owner) {
-    row.Open(Books(), "SELECT * FROM Contact WHERE IdContact = ?", platform::CursorMode::Updatable,
-             {idContact});
-    if (row.Eof()) StartContact(row, idContact, owner);
+    row = ContactToWrite(idContact, owner).row;
 }
 
 bool DeleteContact(std::int32_t idContact) {
@@ -58,7 +48,7 @@ bool DeleteContact(std::int32_t idContact) {
                                          platform::Icon::Question)) {
         return false;
     }
-    Books().Execute("DELETE * FROM Contact WHERE IdContact = ?", {idContact});
+    core::Execute("DELETE * FROM Contact WHERE IdContact = ?", {idContact});
     return true;
 }
 

@@ -1,9 +1,9 @@
 #include "records/DepositTemplates.h"
 
-#include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Text.h"
 
@@ -54,8 +54,7 @@ platform::Recordset OpenDeposits(DepositScope scope, const DepositPlace& place) 
     if (sql.empty()) return {};
     platform::Recordset rows;
     try {
-        rows.Open(core::App().Connection, sql + "ORDER BY Description ",
-                  platform::CursorMode::ReadOnly, parameters);
+        rows = core::Read(sql + "ORDER BY Description ", parameters);
     } catch (const std::exception&) {
         return {};
     }
@@ -68,7 +67,7 @@ bool DeleteDeposit(std::int32_t idDeposit) {
                                          platform::Icon::Question)) {
         return false;
     }
-    core::App().Connection.Execute("DELETE * FROM Deposit WHERE (IdDeposit = ?)", {idDeposit});
+    core::Execute("DELETE * FROM Deposit WHERE (IdDeposit = ?)", {idDeposit});
     core::NotifyAll(core::kDeposit, core::kRecordsChanged, 0);
     return true;
 }

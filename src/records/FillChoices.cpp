@@ -1,7 +1,7 @@
 #include "records/FillChoices.h"
 
-#include "core/Globals.h"
 #include "core/Lists.h"
+#include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 
@@ -11,9 +11,7 @@ void FillChoices(core::ChoiceList& list, const ChoiceSource& source, std::int32_
     if (selectedId == 0) selectedId = core::GetSelectedId(list);
     list.Clear();
     list.Add(source.none, 0);
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, source.sql, platform::CursorMode::ReadOnly,
-              source.parameters);
+    platform::Recordset rows = core::Read(source.sql, source.parameters);
     for (; !rows.Eof(); rows.MoveNext()) {
         list.Add(platform::TextOf(rows["Description"]), rows["Id"].AsLong());
     }

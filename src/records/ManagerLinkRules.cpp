@@ -1,19 +1,16 @@
 #include "records/ManagerLinkRules.h"
 
-#include "core/Globals.h"
+#include "core/Rows.h"
 
 namespace records {
 
 namespace {
 
 bool HasOtherLink(const ManagerEntry& entry) {
-    return core::App()
-        .Connection
-        .Scalar(
-            "SELECT IdManagerLink FROM ManagerLink WHERE IdManagerLink <> ? "
-            "AND (IdBuilding = ?) AND (IdAccount = ?)",
-            {entry.idManagerLink, entry.idBuilding, entry.idAccount})
-        .has_value();
+    return core::Exists(
+        "SELECT IdManagerLink FROM ManagerLink WHERE IdManagerLink <> ? "
+        "AND (IdBuilding = ?) AND (IdAccount = ?)",
+        {entry.idManagerLink, entry.idBuilding, entry.idAccount});
 }
 
 } // namespace

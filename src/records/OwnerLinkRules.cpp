@@ -1,8 +1,9 @@
 #include "records/OwnerLinkRules.h"
 
-#include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
@@ -10,10 +11,6 @@
 namespace records {
 
 namespace {
-
-platform::Connection& Books() {
-    return core::App().Connection;
-}
 
 /// A text that is no number counts as 0, one past all numbers as too many.
 double PercentOf(const std::string& text) {
@@ -25,21 +22,15 @@ double PercentOf(const std::string& text) {
 }
 
 bool HasOtherLink(const OwnerEntry& entry) {
-    return Books()
-        .Scalar(
-            "SELECT IdOwnerLink FROM OwnerLink WHERE IdOwnerLink <> ? "
-            "AND (IdBuilding = ?) AND (IdAccount = ?)",
-            {entry.idOwnerLink, entry.idBuilding, entry.idAccount})
-        .has_value();
+    return core::Exists(
+        "SELECT IdOwnerLink FROM OwnerLink WHERE IdOwnerLink <> ? "
+        "AND (IdBuilding = ?) AND (IdAccount = ?)",
+        {entry.idOwnerLink, entry.idBuilding, entry.idAccount});
 }
 
 void TellTotal(std::int32_t idBuilding) {
-    const platform::Value sum =
-        Books()
-            .Scalar("SELECT SUM(Percent) AS TotalPercent FROM OwnerLink WHERE IdBuilding = ?",
-                    {idBuilding})
-            .value_or(platform::Value());
-    const double total = sum.IsNull() ? 0 : sum.AsDouble();
+    const auto total = platform::AsOr0<double>(core::ReadValue(
+        "SELECT SUM(Percent) AS TotalPercent FROM OwnerLink WHERE IdBuilding = ?", {idBuilding}));
     if (total == 100) return;
     platform::TheDialogs().ShowMessage("Notice",
                                        "Note: the total ownership for this building is currently " +
@@ -48,10 +39,9 @@ void TellTotal(std::int32_t idBuilding) {
 }
 
 bool HasPrimary(std::int32_t idBuilding) {
-    const auto count = Books().Scalar(
-        "SELECT Count(*) AS Result FROM OwnerLink WHERE IdBuilding = ? AND IsPrimary = True",
+    return core::Exists(
+        "SELECT IdOwnerLink FROM OwnerLink WHERE IdBuilding = ? AND IsPrimary = True",
         {idBuilding});
-    return count && !count->IsNull() && count->AsLong() > 0;
 }
 
 } // namespace
@@ -75,7 +65,7 @@ std::vector<std::string> OwnerErrors(const OwnerEntry& entry) {
 void CheckOwnership(std::int32_t idBuilding, std::int32_t idOwnerLink, PrimaryMark mark) {
     TellTotal(idBuilding);
     if (mark == PrimaryMark::Yes) {
-        Books().Execute(
+        core::Execute(
             "UPDATE OwnerLink SET IsPrimary = False WHERE IdBuilding = ? AND IdOwnerLink <> ?",
             {idBuilding, idOwnerLink});
         core::NotifyAll(core::kOwner, core::kRecordsChanged, 0);
@@ -88,7 +78,7 @@ void CheckOwnership(std::int32_t idBuilding, std::int32_t idOwnerLink, PrimaryMa
         "one will automatically be set as primary. If you add another owner and set\n"
         "it as primary this will be overridden.",
         platform::Icon::Information);
-    Books().Execute("UPDATE OwnerLink SET IsPrimary = True WHERE IdOwnerLink = ?", {idOwnerLink});
+    core::Execute("UPDATE OwnerLink SET IsPrimary = True WHERE IdOwnerLink = ?", {idOwnerLink});
     core::NotifyAll(core::kOwner, core::kRecordsChanged, 0);
 }
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 
 namespace records {
@@ -143,11 +143,11 @@ platform::Recordset OpenRelated(const RelatedList& list, const RelatedOwner& own
     const std::vector<platform::Value> parameters(static_cast<std::size_t>(places), owner.id);
     platform::Recordset rows;
     try {
-        rows.Open(core::App().Connection, list.sql, platform::CursorMode::ReadOnly, parameters);
+        rows = core::Read(list.sql, parameters);
     } catch (const platform::DatabaseError&) {
         const std::string asText = WithDatesAsText(list.sql);
         if (asText == list.sql) throw;
-        rows.Open(core::App().Connection, asText, platform::CursorMode::ReadOnly, parameters);
+        rows = core::Read(asText, parameters);
     }
     return rows;
 }

@@ -4,10 +4,10 @@
 #include <utility>
 #include <vector>
 
-#include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
@@ -23,8 +23,7 @@ namespace {
 constexpr std::int16_t kChildrenRemoved = 2;
 
 std::vector<std::int32_t> ChildrenOf(std::string_view sql, std::int32_t id) {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, sql, platform::CursorMode::ReadOnly, {id});
+    platform::Recordset rows = core::Read(sql, {id});
     std::vector<std::int32_t> children;
     for (; !rows.Eof(); rows.MoveNext()) {
         children.push_back(rows[0].AsLong());

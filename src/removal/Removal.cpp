@@ -7,6 +7,7 @@
 #include "core/MessagePump.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "removal/RemovalStatements.h"
 
 namespace removal {
@@ -57,7 +58,7 @@ void Removal::RemoveStatements(std::int16_t kind, std::int32_t id) {
 
 std::int64_t Removal::Execute(std::string_view statement,
                               std::initializer_list<platform::Value> parameters) {
-    const std::int64_t rows = core::App().Connection.Execute(statement, parameters);
+    const std::int64_t rows = core::Execute(statement, parameters);
     const std::int16_t kind = core::KindOfTable(WrittenTable(statement));
     if (rows > 0 && kind != core::kNone) Note(kind, core::kRecordsChanged);
     return rows;

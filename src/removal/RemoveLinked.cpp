@@ -1,9 +1,9 @@
 #include <string>
 
 #include "core/Codes.h"
-#include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -14,10 +14,8 @@ namespace removal {
 void Removal::RemoveLease(std::int32_t id) {
     Execute("UPDATE AutoEvent SET IdLease = 0 WHERE IdLease = ?", {id});
 
-    platform::Recordset lease;
-    lease.Open(core::App().Connection,
-               "SELECT Status, IdTenant, IdUnit FROM Lease WHERE IdLease = ?",
-               platform::CursorMode::ReadOnly, {id});
+    platform::Recordset lease =
+        core::Read("SELECT Status, IdTenant, IdUnit FROM Lease WHERE IdLease = ?", {id});
     const std::string status = lease.Eof() ? std::string() : platform::TextOf(lease["Status"]);
     // The unit of a lease that has ended may have been let again, and its tenant moved on.
     if (!lease.Eof() && status != core::kLeaseExpired && status != core::kLeaseBroken) {

@@ -2,8 +2,8 @@
 #include <string_view>
 
 #include "core/Codes.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
@@ -66,9 +66,7 @@ Charges AskAboutCharges(std::int16_t kind, std::int32_t id) {
 
 void Removal::FreeCharges(const LedgerStatements& ledger, std::int32_t idTransaction) {
     Execute(ledger.removePayment, {idTransaction});
-    platform::Recordset orphans;
-    orphans.Open(core::App().Connection, ledger.findOrphans, platform::CursorMode::ReadOnly,
-                 {idTransaction});
+    platform::Recordset orphans = core::Read(ledger.findOrphans, {idTransaction});
     for (; !orphans.Eof(); orphans.MoveNext()) {
         Execute(ledger.removeOrphan, {orphans[0].Value()});
     }

@@ -1,6 +1,6 @@
 #include "shell/PropertyTree.h"
 
-#include "core/Globals.h"
+#include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 
@@ -67,8 +67,8 @@ std::vector<TreeChange> PropertyTree::Refresh() {
 }
 
 void PropertyTree::ReadBuildings(std::vector<TreeChange>& changes) {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, "SELECT IdBuilding, Address FROM Building ORDER BY Address ");
+    platform::Recordset rows =
+        core::Read("SELECT IdBuilding, Address FROM Building ORDER BY Address ");
     const platform::Field idField = rows["IdBuilding"];
     const platform::Field address = rows["Address"];
     for (; !rows.Eof(); rows.MoveNext()) {
@@ -84,9 +84,8 @@ void PropertyTree::ReadBuildings(std::vector<TreeChange>& changes) {
 }
 
 void PropertyTree::ReadUnits(std::vector<TreeChange>& changes) {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT IdBuilding, IdUnit, Status, Unit FROM Unit ORDER BY Unit ");
+    platform::Recordset rows =
+        core::Read("SELECT IdBuilding, IdUnit, Status, Unit FROM Unit ORDER BY Unit ");
     const platform::Field idField = rows["IdUnit"];
     const platform::Field buildingField = rows["IdBuilding"];
     const platform::Field unitField = rows["Unit"];

@@ -1,7 +1,7 @@
 #include "shell/SampleBorrower.h"
 
-#include "core/Globals.h"
 #include "core/RecordHelpers.h"
+#include "core/Rows.h"
 #include "mortgages/MortgagePayment.h"
 #include "mortgages/mMortgage.h"
 #include "platform/database/Recordset.h"
@@ -33,9 +33,8 @@ void SampleBorrower::Pay() const {
 }
 
 void SampleBorrower::PlanNextPayment() {
-    platform::Recordset row;
-    row.Open(core::App().Connection, "SELECT NextDue FROM Mortgage WHERE IdMortgage = ?",
-             platform::CursorMode::ReadOnly, {plan_.idMortgage});
+    platform::Recordset row =
+        core::Read("SELECT NextDue FROM Mortgage WHERE IdMortgage = ?", {plan_.idMortgage});
     const Date nextDue = row["NextDue"].IsBlank() ? Date() : row["NextDue"].AsDate();
     const bool stops = plan_.stopsPaying.IsSet() && nextDue >= plan_.stopsPaying;
     nextPayment_ =
@@ -43,7 +42,7 @@ void SampleBorrower::PlanNextPayment() {
 }
 
 void SampleBorrower::NoteEquity() const {
-    core::App().Connection.Execute(
+    core::Execute(
         "UPDATE Building SET Equity = ? WHERE IdBuilding = ?",
         {Currency::FromDouble(core::GetBuildingEquity(plan_.idBuilding)), plan_.idBuilding});
 }

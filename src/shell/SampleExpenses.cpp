@@ -2,15 +2,14 @@
 
 #include "core/Configuration.h"
 #include "core/Descriptions.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "platform/database/Recordset.h"
 
 namespace shell {
 
 using books::Party;
 using platform::Currency;
-using platform::CursorMode;
 using platform::Date;
 using platform::Recordset;
 
@@ -20,9 +19,8 @@ constexpr unsigned kBillingDay = 5;
 
 std::vector<Party> AccountsOfType(const char* type) {
     std::vector<Party> accounts;
-    Recordset rows;
-    rows.Open(core::App().Connection, "SELECT IdAccount, ShowAs FROM Account WHERE AccountType = ?",
-              CursorMode::ReadOnly, {type});
+    Recordset rows =
+        core::Read("SELECT IdAccount, ShowAs FROM Account WHERE AccountType = ?", {type});
     for (; !rows.Eof(); rows.MoveNext()) {
         accounts.push_back({core::kAccount, rows["IdAccount"].AsLong(), rows["ShowAs"].AsText()});
     }
@@ -59,8 +57,7 @@ SampleExpenses::SampleExpenses()
     : utilities_(AccountsOfType("Utility")), vendors_(AccountsOfType("Vendor")) {
     const std::int32_t idBank = core::Config().DefaultRentAccount;
     bank_ = {core::kAccount, idBank, core::GetDescription(core::kAccount, idBank)};
-    Recordset rows;
-    rows.Open(core::App().Connection, "SELECT IdBuilding FROM Building");
+    Recordset rows = core::Read("SELECT IdBuilding FROM Building");
     for (; !rows.Eof(); rows.MoveNext())
         buildings_.push_back(rows["IdBuilding"].AsLong());
 }

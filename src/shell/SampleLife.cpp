@@ -3,6 +3,7 @@
 #include "core/Configuration.h"
 #include "core/DailyRun.h"
 #include "core/Globals.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "documents/ShippedDocs.h"
 #include "platform/system/Clock.h"
@@ -57,7 +58,7 @@ void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress
         if (progress) progress(day.Serial() - cast.begins.Serial() + 1, days);
     }
     // The automated events are switched on last: the two years that were made up are not theirs.
-    core::App().Connection.Execute("UPDATE AutoEvent SET Enabled = True");
+    core::Execute("UPDATE AutoEvent SET Enabled = True");
     core::UpdateRecords();
     platform::UnitOfWork unit(core::App().Connection);
     for (const SampleBorrower& borrower : borrowers)

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/Globals.h"
 #include "core/Lookups.h"
+#include "core/Rows.h"
 #include "leases/ChargeDeposits.h"
 #include "leases/LeaseCommands.h"
 #include "leases/LeaseStatus.h"
@@ -47,9 +47,7 @@ Date FirstDayOver(Recordset& lease) {
 }
 
 LeaseDates ReadLease(std::int32_t idLease) {
-    Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM Lease WHERE IdLease = ?",
-             platform::CursorMode::ReadOnly, {idLease});
+    Recordset row = core::Read("SELECT * FROM Lease WHERE IdLease = ?", {idLease});
     return {leases::IsOver(row["Status"].AsText()),
             row["DateNextDue"].AsDate(),
             FirstDayOver(row),

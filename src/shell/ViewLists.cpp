@@ -3,6 +3,7 @@
 #include "core/Codes.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "shell/Views.h"
 
@@ -69,7 +70,7 @@ constexpr std::array<ItemSource, 9> kItemSources = {{
 std::vector<std::string> ColumnOf(std::string_view sql) {
     std::vector<std::string> words;
     platform::Recordset rows;
-    core::OpenRecordset(rows, sql, core::Access::ReadOnly);
+    core::OpenRecordset(rows, sql, platform::CursorMode::ReadOnly);
     if (!rows.IsOpen()) return words;
     for (; !rows.Eof(); rows.MoveNext()) {
         if (!rows[std::size_t{0}].IsBlank()) words.push_back(rows[std::size_t{0}].AsText());
@@ -104,11 +105,10 @@ std::vector<Choice> FilterItems(std::string_view field) {
     for (const ItemSource& source : kItemSources) {
         if (source.field != field) continue;
         platform::Recordset rows;
-        core::OpenRecordset(rows, source.sql, core::Access::ReadOnly);
+        core::OpenRecordset(rows, source.sql, platform::CursorMode::ReadOnly);
         if (!rows.IsOpen()) break;
         for (; !rows.Eof(); rows.MoveNext()) {
-            const auto text = rows["Description"];
-            items.push_back({text.IsNull() ? std::string() : text.AsText(), rows["ID"].AsLong()});
+            items.push_back({platform::TextOf(rows["Description"]), rows["ID"].AsLong()});
         }
     }
     return items;

@@ -5,7 +5,8 @@
 #include <fmt/core.h>
 
 #include "books/clsDepreciation.h"
-#include "core/Globals.h"
+#include "core/Rows.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/Csv.h"
 #include "platform/values/Errors.h"
@@ -17,24 +18,17 @@ namespace vestrelctl {
 namespace {
 
 books::clsDepreciation ReadBuilding(std::int32_t idBuilding) {
-    platform::Recordset building;
-    building.Open(core::App().Connection,
-                  "SELECT Address, PurchDate, DeprBasis, DeprPeriod, DeprMethod FROM Building "
-                  "WHERE IdBuilding = ?",
-                  platform::CursorMode::ReadOnly, {idBuilding});
+    platform::Recordset building = core::Read(
+        "SELECT Address, PurchDate, DeprBasis, DeprPeriod, DeprMethod FROM Building "
+        "WHERE IdBuilding = ?",
+        {idBuilding});
     if (building.Eof()) throw platform::Error(fmt::format("There is no building {}", idBuilding));
-    const auto text = [&](std::string_view field) {
-        return building[field].IsNull() ? std::string() : building[field].AsText();
-    };
-    const auto number = [&](std::string_view field) {
-        return building[field].IsNull() ? 0 : building[field].AsDouble();
-    };
     books::clsDepreciation depreciation;
-    depreciation.SetDescription(text("Address"));
-    depreciation.SetStartDate(text("PurchDate"));
-    depreciation.SetBasis(number("DeprBasis"));
-    depreciation.SetLife(number("DeprPeriod"));
-    depreciation.SetMethod(text("DeprMethod"));
+    depreciation.SetDescription(TextOf(building["Address"]));
+    depreciation.SetStartDate(TextOf(building["PurchDate"]));
+    depreciation.SetBasis(NumberOf(building["DeprBasis"]));
+    depreciation.SetLife(NumberOf(building["DeprPeriod"]));
+    depreciation.SetMethod(TextOf(building["DeprMethod"]));
     return depreciation;
 }
 

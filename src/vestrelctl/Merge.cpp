@@ -5,8 +5,8 @@
 
 #include <fmt/core.h>
 
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "documents/MergeSource.h"
 #include "documents/mDocManagement.h"
 #include "platform/database/Recordset.h"
@@ -40,10 +40,9 @@ documents::DocTemplate FindLetter(const std::string& text) {
 }
 
 std::vector<std::int32_t> LateLeases() {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT IdLease FROM Lease WHERE (Hide = False) "
-              "AND (RentStatus IN ('Late', 'Warning', 'Eviction')) ORDER BY IdLease");
+    platform::Recordset rows = core::Read(
+        "SELECT IdLease FROM Lease WHERE (Hide = False) "
+        "AND (RentStatus IN ('Late', 'Warning', 'Eviction')) ORDER BY IdLease");
     std::vector<std::int32_t> ids;
     for (; !rows.Eof(); rows.MoveNext())
         ids.push_back(rows["IdLease"].AsLong());

@@ -8,7 +8,7 @@
 
 #include "books/Categories.h"
 #include "books/PostTransaction.h"
-#include "core/Globals.h"
+#include "core/Rows.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Conversions.h"
@@ -62,7 +62,7 @@ constexpr std::array<Reference, 6> kReferences = {
 void CheckReferences(const Transaction& transaction) {
     for (const Reference& each : kReferences) {
         const std::int32_t id = transaction.*each.id;
-        if (id == 0 || core::App().Connection.Scalar(each.select, {id})) continue;
+        if (id == 0 || core::Exists(each.select, {id})) continue;
         throw platform::Error(fmt::format("{}: there is no {} {}", each.option, each.name, id));
     }
 }
@@ -95,15 +95,15 @@ books::Category ReadCategory(const std::string& text) {
                         "neither",
                         text));
     }
-    const auto ien =
-        core::App().Connection.Scalar("SELECT IEN FROM TransCategory WHERE Category = ?", {text});
-    if (!ien || ien->IsNull()) {
+    const platform::Value ien =
+        core::ReadValue("SELECT IEN FROM TransCategory WHERE Category = ?", {text});
+    if (ien.IsNull()) {
         throw platform::Error(
             fmt::format("--category: there is no category '{0}'; give its class: "
                         "'{0}|0' for income, 1 for expense, 2 for neither",
                         text));
     }
-    return {text, books::Ien{ien->AsInteger()}};
+    return {text, books::Ien{ien.AsInteger()}};
 }
 
 platform::Currency ReadAmount(const std::string& text) {
@@ -114,11 +114,10 @@ platform::Currency ReadAmount(const std::string& text) {
 
 /// Prints the new row, and those that it triggered.
 void PrintFrom(std::int32_t firstId) {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection,
-              "SELECT IdTransaction, TaxCategory, DebitDesc, CreditDesc, DateEffective, Amount "
-              "FROM Transactions WHERE IdTransaction >= ? ORDER BY IdTransaction",
-              platform::CursorMode::ReadOnly, {firstId});
+    platform::Recordset rows = core::Read(
+        "SELECT IdTransaction, TaxCategory, DebitDesc, CreditDesc, DateEffective, Amount "
+        "FROM Transactions WHERE IdTransaction >= ? ORDER BY IdTransaction",
+        {firstId});
     for (; !rows.Eof(); rows.MoveNext()) {
         std::cout << fmt::format("Transaction {}: {}, {} to {}, {}, {}\n",
                                  rows["IdTransaction"].AsLong(), rows["TaxCategory"].AsText(),

@@ -6,6 +6,7 @@
 #include <fmt/core.h>
 
 #include "core/Globals.h"
+#include "core/Rows.h"
 #include "core/RowsetTable.h"
 #include "core/TableCsv.h"
 #include "platform/database/Recordset.h"
@@ -24,8 +25,7 @@ namespace {
 using Separator = std::string_view;
 
 void PrintRows(std::string_view statement, Separator separator) {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, statement);
+    platform::Recordset rows = core::Read(statement);
     std::cout << separator;
     core::WriteCsv(core::RowsetTable(std::move(rows)), std::cout);
 }

@@ -10,7 +10,7 @@
 
 namespace {
 
-using core::Access;
+using platform::CursorMode;
 using Session = tests::CoreBooks;
 using SessionOpening = tests::CoreProcess;
 
@@ -33,18 +33,18 @@ TEST_F(Session, ARowSetTellsItsCountOrMinusOne) {
     Run("INSERT INTO Users (IdUser, UserName) VALUES (1, 'Ann')");
     Run("INSERT INTO Users (IdUser, UserName) VALUES (2, 'Bob')");
     platform::Recordset rows;
-    EXPECT_EQ(core::OpenRecordset(rows, "SELECT * FROM Users ORDER BY IdUser", Access::ReadOnly),
-              2);
+    EXPECT_EQ(
+        core::OpenRecordset(rows, "SELECT * FROM Users ORDER BY IdUser", CursorMode::ReadOnly), 2);
     EXPECT_EQ(rows["UserName"].AsText(), "Ann");
-    EXPECT_EQ(core::OpenRecordset(rows, "SELECT * FROM Users WHERE UserName = ?", Access::ReadWrite,
-                                  {"bob"}),
+    EXPECT_EQ(core::OpenRecordset(rows, "SELECT * FROM Users WHERE UserName = ?",
+                                  CursorMode::Updatable, {"bob"}),
               1);
-    EXPECT_EQ(core::OpenRecordset(rows, "SELECT * FROM Users WHERE IdUser = 3", Access::ReadOnly),
-              0);
+    EXPECT_EQ(
+        core::OpenRecordset(rows, "SELECT * FROM Users WHERE IdUser = 3", CursorMode::ReadOnly), 0);
     EXPECT_TRUE(rows.Eof());
-    EXPECT_EQ(core::OpenRecordset(rows, "SELECT * FRM Users", Access::ReadOnly), -1);
+    EXPECT_EQ(core::OpenRecordset(rows, "SELECT * FRM Users", CursorMode::ReadOnly), -1);
     EXPECT_FALSE(rows.IsOpen());
-    EXPECT_EQ(core::OpenRecordset(rows, "Users", Access::ReadWrite), 2);
+    EXPECT_EQ(core::OpenRecordset(rows, "Users", CursorMode::Updatable), 2);
     core::CloseRecordset(rows);
     core::CloseRecordset(rows);
 }
@@ -58,7 +58,7 @@ TEST_F(Session, ACountKeepsItsWidthUnless16BitsAreAskedFor) {
     platform::Recordset rows;
     addRows(32767);
     const auto open = [&] {
-        return core::OpenRecordset(rows, "SELECT IdUser FROM Users", Access::ReadOnly);
+        return core::OpenRecordset(rows, "SELECT IdUser FROM Users", CursorMode::ReadOnly);
     };
     EXPECT_EQ(core::CountIn16Bits(open()), 32767);
     addRows(1);
@@ -144,7 +144,7 @@ TEST_F(Session, NullsAreRepairedByTheirType) {
         " M MEMO TEXT, Full TEXT);"
         "INSERT INTO T (Full) VALUES ('kept')");
     platform::Recordset rows;
-    core::OpenRecordset(rows, "SELECT * FROM T", Access::ReadWrite);
+    core::OpenRecordset(rows, "SELECT * FROM T", CursorMode::Updatable);
     std::ostringstream log;
     EXPECT_TRUE(core::RepairNulls(rows, &log));
     EXPECT_THAT(log.str(), testing::StartsWith("{*} NULL value detected in field L\n"
@@ -153,7 +153,7 @@ TEST_F(Session, NullsAreRepairedByTheirType) {
     EXPECT_EQ(core::OpenRecordset(rows,
                                   "SELECT * FROM T WHERE L = 0 AND I IS NULL AND D = 0 AND C = 0 "
                                   "AND B = False AND X = '' AND M = '' AND Full = 'kept'",
-                                  Access::ReadWrite),
+                                  CursorMode::Updatable),
               1);
 
     rows["I"].Set(std::int16_t{3});

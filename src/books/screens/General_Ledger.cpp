@@ -7,8 +7,8 @@
 
 #include "books/screens/frmTransaction.h"
 #include "core/EditRecord.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/forms/ErrorRoll.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
@@ -79,8 +79,7 @@ void General_Ledger::Refresh() {
     const std::string sql = LedgerSql(shown, platform::Today());
     if (sql.empty()) return ShowNothing({});
     Guarded([&] {
-        platform::Recordset rows;
-        rows.Open(core::App().Connection, sql);
+        platform::Recordset rows = core::Read(sql);
         ShowRows(std::move(rows), LedgerStoreName(view_.dbType));
     });
 }

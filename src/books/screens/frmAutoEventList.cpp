@@ -4,8 +4,8 @@
 
 #include "books/AutoEventRules.h"
 #include "core/EditRecord.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/binding/Wiring.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/Help.h"
@@ -52,8 +52,7 @@ void frmAutoEventList::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/,
 }
 
 void frmAutoEventList::UpdateGrid() {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, AutoEventListSql());
+    platform::Recordset rows = core::Read(AutoEventListSql());
     ui_->events->ShowRows(std::move(rows), "frmAutoEventList");
 }
 

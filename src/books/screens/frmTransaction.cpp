@@ -3,7 +3,7 @@
 #include "books/SaveTransaction.h"
 #include "books/TransactionRules.h"
 #include "books/screens/CategoryBox.h"
-#include "core/Globals.h"
+#include "core/Rows.h"
 #include "core/binding/Binding.h"
 #include "core/binding/ControlValue.h"
 #include "platform/database/FieldReadings.h"
@@ -65,9 +65,7 @@ void frmTransaction::FillNew(const TransactionSetup& setup) {
 
 /// The copy is of today, and becomes a row of its own.
 void frmTransaction::ShowTemplate(std::int32_t idTemplate) {
-    Recordset row;
-    row.Open(core::App().Connection, "SELECT * FROM Transactions WHERE IdTransaction = ?",
-             platform::CursorMode::ReadOnly, {idTemplate});
+    Recordset row = core::Read("SELECT * FROM Transactions WHERE IdTransaction = ?", {idTemplate});
     if (row.Eof()) return;
     ShowFields(row);
     ui_->dpEffectiveDate->SetDay(platform::Today());

@@ -8,7 +8,7 @@
 
 #include "core/Globals.h"
 #include "core/Preferences.h"
-#include "core/Session.h"
+#include "core/Rows.h"
 #include "core/binding/DayErrors.h"
 #include "core/binding/Tags.h"
 #include "core/binding/Wiring.h"
@@ -68,25 +68,17 @@ void RecordForm::OpenRecord(std::int32_t id, const std::function<void()>& fillLi
 }
 
 void RecordForm::FindRow(platform::Recordset& row) {
-    row.Open(App().Connection,
-             "SELECT * FROM " + place_.table + " WHERE " + place_.idField + " = ?",
-             platform::CursorMode::Updatable, {id_});
+    row = Write("SELECT * FROM " + place_.table + " WHERE " + place_.idField + " = ?", {id_});
 }
 
 void RecordForm::FindRowToWrite(platform::Recordset& row) {
-    writesNewRow_ = false;
-    if (id_ != 0) {
-        FindRow(row);
-        if (!row.Eof()) return;
-    } else {
-        row.Open(App().Connection, place_.table, platform::CursorMode::AppendOnly);
-    }
-    writesNewRow_ = true;
-    row.AddNew();
+    RowToWrite record(place_.table, place_.idField, id_);
+    id_ = record.id;
+    writesNewRow_ = record.isNew;
+    row = std::move(record.row);
+    if (!writesNewRow_) return;
     for (const auto& [field, value] : read_)
         row[field].Set(value);
-    if (id_ == 0) id_ = NextId();
-    row[place_.idField].Set(id_);
 }
 
 void RecordForm::FillListsFor(platform::Recordset& /*row*/) {}

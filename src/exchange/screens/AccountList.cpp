@@ -4,7 +4,7 @@
 #include <QTreeWidget>
 #include <algorithm>
 
-#include "core/Globals.h"
+#include "core/Rows.h"
 #include "exchange/FinExport.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -56,8 +56,7 @@ void FillAccounts(QTreeWidget& list) {
     list.setSortingEnabled(false);
     list.clear();
     platform::Recordset rows;
-    for (rows.Open(core::App().Connection, "SELECT IdAccount, ShowAs FROM Account"); !rows.Eof();
-         rows.MoveNext()) {
+    for (rows = core::Read("SELECT IdAccount, ShowAs FROM Account"); !rows.Eof(); rows.MoveNext()) {
         const std::int32_t id = platform::IdOf(rows["IdAccount"]);
         auto* const row = new AccountRow;
         row->setText(kName, platform::qt::ToScreen(platform::TextOf(rows["ShowAs"])));

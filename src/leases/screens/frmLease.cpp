@@ -119,7 +119,7 @@ void frmLease::Setup(std::int32_t idLease) {
         platform::Recordset rows;
         found = core::OneRecordFound(
             core::OpenRecordset(rows, "SELECT IdLease FROM Lease WHERE IdLease = ?",
-                                core::Access::ReadOnly, {idLease}));
+                                platform::CursorMode::ReadOnly, {idLease}));
     }
     const bool isStored = idLease != 0 && found;
     age_ = isStored ? LeaseAge::Stored : LeaseAge::New;

@@ -24,8 +24,9 @@ namespace {
 /// Tells the person where there isn't exactly one row to show.
 bool IsThere(std::int32_t id) {
     platform::Recordset rows;
-    return core::OneRecordFound(core::OpenRecordset(
-        rows, "SELECT IdRentLog FROM RentLog WHERE IdRentLog = ?", core::Access::ReadOnly, {id}));
+    return core::OneRecordFound(
+        core::OpenRecordset(rows, "SELECT IdRentLog FROM RentLog WHERE IdRentLog = ?",
+                            platform::CursorMode::ReadOnly, {id}));
 }
 
 } // namespace

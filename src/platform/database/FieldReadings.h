@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <string>
 
@@ -9,31 +10,54 @@
 
 namespace platform {
 
-// Readings of fields that a row may leave unset: 0, False, no day or an empty text then. What is
-// set and can't be read so throws FieldError.
+/// Returns a field, or a value, as a T. Throws FieldError (ConversionError for a value) if it is
+/// unset or can't be read as one.
+template <class T, class Source>
+T As(const Source& source) {
+    if constexpr (std::same_as<T, bool>) {
+        return source.AsBoolean();
+    } else if constexpr (std::same_as<T, std::int16_t>) {
+        return source.AsInteger();
+    } else if constexpr (std::same_as<T, std::int32_t>) {
+        return source.AsLong();
+    } else if constexpr (std::same_as<T, double>) {
+        return source.AsDouble();
+    } else if constexpr (std::same_as<T, Currency>) {
+        return source.AsCurrency();
+    } else if constexpr (std::same_as<T, Date>) {
+        return source.AsDate();
+    } else {
+        static_assert(std::same_as<T, std::string>);
+        return source.AsText();
+    }
+}
+
+/// The same, with 0, False, no day or an empty text if it is unset.
+template <class T, class Source>
+T AsOr0(const Source& source) {
+    return source.IsBlank() ? T() : As<T>(source);
+}
 
 inline std::string TextOf(const Field& field) {
-    return field.IsNull() ? std::string() : field.AsText();
+    return AsOr0<std::string>(field);
 }
-
 inline std::int32_t IdOf(const Field& field) {
-    return field.IsBlank() ? 0 : field.AsLong();
+    return AsOr0<std::int32_t>(field);
 }
-
 inline std::int16_t CountOf(const Field& field) {
-    return field.IsBlank() ? std::int16_t{0} : field.AsInteger();
+    return AsOr0<std::int16_t>(field);
 }
-
+inline double NumberOf(const Field& field) {
+    return AsOr0<double>(field);
+}
 inline Currency MoneyOf(const Field& field) {
-    return field.IsBlank() ? Currency() : field.AsCurrency();
+    return AsOr0<Currency>(field);
 }
-
 inline bool FlagOf(const Field& field) {
-    return !field.IsBlank() && field.AsBoolean();
+    return AsOr0<bool>(field);
 }
-
 inline Date DateOf(const Field& field) {
-    return field.IsBlank() ? Date() : field.AsDate();
+    return AsOr0<Date>(field);
 }
 
 } // namespace platform

@@ -6,7 +6,7 @@
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/RecordKinds.h"
-#include "core/Session.h"
+#include "core/Rows.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
 #include "platform/database/FieldReadings.h"
@@ -34,10 +34,8 @@ namespace {
 constexpr std::string_view kBuildingTable = "Building";
 constexpr std::string_view kUnitTable = "Unit";
 
-void FindById(platform::Recordset& row, std::string_view table, std::int32_t id) {
-    const std::string name(table);
-    row.Open(core::App().Connection, "SELECT * FROM " + name + " WHERE Id" + name + " = ?",
-             platform::CursorMode::Updatable, {id});
+platform::Recordset FindById(std::string_view table, std::int32_t id) {
+    return core::Read(fmt::format("SELECT * FROM {0} WHERE Id{0} = ?", table), {id});
 }
 
 } // namespace
@@ -119,10 +117,9 @@ void frmBuilding::Propose(std::int32_t fromUnit) {
     // contents of a new one.
     ShownFields building{std::string(kBuildingTable)};
     ShownFields unit{std::string(kUnitTable)};
-    platform::Recordset row;
-    FindById(row, kBuildingTable, core::GetUnitBuilding(fromUnit));
+    platform::Recordset row = FindById(kBuildingTable, core::GetUnitBuilding(fromUnit));
     if (!row.Eof()) building.Show(*this, row);
-    FindById(row, kUnitTable, fromUnit);
+    row = FindById(kUnitTable, fromUnit);
     if (!row.Eof()) unit.Show(*this, row);
 }
 
@@ -138,8 +135,7 @@ void frmBuilding::ShowUnit() {
         const auto units = UnitsOf(Id());
         if (!units.empty()) idUnit_ = units.front().id;
     }
-    platform::Recordset row;
-    FindById(row, kUnitTable, idUnit_);
+    platform::Recordset row = FindById(kUnitTable, idUnit_);
     unitFields_.ShowBlanks(*this);
     if (!row.Eof()) unitFields_.Show(*this, row);
 }
@@ -193,18 +189,12 @@ void frmBuilding::StoreBuilding() {
 }
 
 void frmBuilding::StoreUnit() {
-    platform::Recordset row;
-    FindById(row, kUnitTable, idUnit_);
-    const bool isNew = row.Eof();
-    if (isNew) {
-        if (idUnit_ == 0) idUnit_ = core::NextId();
-        row.AddNew();
-        row["IdUnit"].Set(idUnit_);
-        row["Ccount"].Set(std::int32_t{0});
-    }
-    unitFields_.Write(*this, row, isNew ? WriteFields::All : WriteFields::Touched);
-    row["IdBuilding"].Set(Id());
-    row.Update();
+    core::RowToWrite unit(kUnitTable, "IdUnit", idUnit_);
+    idUnit_ = unit.id;
+    if (unit.isNew) unit["Ccount"].Set(std::int32_t{0});
+    unitFields_.Write(*this, unit.row, unit.isNew ? WriteFields::All : WriteFields::Touched);
+    unit["IdBuilding"].Set(Id());
+    unit.row.Update();
 }
 
 void frmBuilding::AfterSave() {
@@ -222,8 +212,7 @@ void frmBuilding::Refresh(std::int16_t kind) {
 
 /// Leases write the status of their unit, other screens its other fields.
 void frmBuilding::FollowOthers(const core::binding::Controls& /*touched*/) {
-    platform::Recordset row;
-    FindById(row, kUnitTable, idUnit_);
+    platform::Recordset row = FindById(kUnitTable, idUnit_);
     if (row.Eof()) return ShowAnotherUnit();
     unitFields_.ShowUntouched(*this, row, unitFields_.Touched(*this));
 }

@@ -2,6 +2,7 @@
 
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/binding/AddressBox.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
@@ -50,8 +51,7 @@ void frmConfig::Setup() {
 
 /// The settings are one row without an id.
 void frmConfig::FindRow(platform::Recordset& row) {
-    row.Open(core::App().Connection, "SELECT * FROM Configuration",
-             platform::CursorMode::Updatable);
+    row = core::Write("SELECT * FROM Configuration");
 }
 
 void frmConfig::FindRowToWrite(platform::Recordset& row) {
