@@ -9,7 +9,7 @@ namespace reports {
 
 bool OpenQuery(platform::Recordset& rows, std::string_view sql) {
     try {
-        rows.Open(core::App().Connection, sql);
+        rows.Open(core::App().Connection, sql, platform::CursorMode::ReadAsNeeded);
         return rows.RecordCount() > 0;
     } catch (const std::exception&) {
         core::CloseRecordset(rows);
