@@ -123,6 +123,8 @@ bool Pack(const fs::path& source, std::string& result, const std::function<void(
         return true;
     } catch (const PackError& error) {
         result = fmt::format("Error {}, {}", error.Number(), error.what());
+    } catch (const platform::DiskError& error) {
+        result = fmt::format("Error {}, {}", error.Number(), error.what());
     } catch (const platform::DatabaseError& error) {
         result = fmt::format("Error {}, {}", error.Code(), error.what());
     } catch (const std::exception& error) {

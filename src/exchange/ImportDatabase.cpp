@@ -112,9 +112,9 @@ ImportOutcome WriteRecords(const std::filesystem::path& file, ImportRows rows,
     }
     try {
         unit.Commit();
-    } catch (const platform::Error&) {
-        // The engine gave the unit up with the failure that is told already.
-        if (outcome.Succeeded()) throw;
+    } catch (const platform::Error& failure) {
+        // After some failures, such as a full disk, the engine has given the unit up already.
+        if (outcome.Succeeded()) outcome.error = failure.what();
         outcome.error += " Nothing was imported.";
     }
     return outcome;
@@ -165,6 +165,9 @@ ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode,
     }
     if (outcome.Succeeded()) {
         try {
+            if (core::App().Connection.IsReadOnly()) {
+                throw platform::DatabaseError("These books can only be read.");
+            }
             if (rows == ImportRows::Overwrite || check.hasConfiguration) {
                 note += fmt::format("The database as it was is kept in {}\n",
                                     KeepCopy(CopyReason::Import).string());

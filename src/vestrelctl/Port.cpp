@@ -36,9 +36,9 @@ void Import(const ImportWords& words) {
                        words.overwrite ? ImportRows::Overwrite : ImportRows::Append,
                        ImportMessages::Quiet, Printer());
     if (outcome.Succeeded()) return;
-    throw platform::Error(
-        fmt::format("An error occured while reading the import file, {} (line {})", outcome.error,
-                    outcome.line));
+    const std::string place = outcome.line > 0 ? fmt::format(" (line {})", outcome.line) : "";
+    throw platform::Error("An error occured while reading the import file, " + outcome.error +
+                          place);
 }
 
 } // namespace

@@ -1,13 +1,7 @@
-#include "exchange/Port.h"
-
 #include <random>
 
-#include "core/CoreFixture.h"
-#include "core/Session.h"
-#include "exchange/FinExport.h"
 #include "exchange/PortFile.h"
-#include "exchange/Stops.h"
-#include "platform/database/DatabaseReader.h"
+#include "exchange/PortFixture.h"
 #include "platform/values/Errors.h"
 #include "store/Tables.h"
 #include "support/ScriptedChoosers.h"
@@ -19,48 +13,6 @@ namespace {
 
 using namespace exchange;
 using platform::Value;
-
-class PortTest : public CoreBooks {
-  protected:
-    /// Every row of every table, nulls and empty texts alike.
-    static std::vector<std::string> Dump() {
-        std::vector<std::string> rows;
-        platform::DatabaseReader reader(core::App().DbFile);
-        for (const auto& table : reader.Tables().Tables()) {
-            reader.ReadRows(table.name, [&](platform::DatabaseReader::Row row) {
-                std::string line = table.name;
-                for (const platform::Cell& cell : row) {
-                    line += '|';
-                    if (cell.kind == platform::Cell::Kind::Integer)
-                        line += std::to_string(cell.integer);
-                    if (cell.kind == platform::Cell::Kind::Real)
-                        line += fmt::format("{:a}", cell.real);
-                    line += cell.bytes;
-                }
-                rows.push_back(line);
-            });
-        }
-        return rows;
-    }
-
-    PortWatcher Watcher() {
-        return {.status = [this](std::string_view lines) { status_ = lines; },
-                .progress = [this](int percent) { percent_ = percent; }};
-    }
-
-    void ExportAll() {
-        WriteTables(core::ListTables(core::App().Connection).names, PathTo("database.csv"),
-                    Watcher());
-    }
-
-    ImportOutcome Import(ImportMode mode = ImportMode::Write, ImportRows rows = ImportRows::Append,
-                         ImportMessages messages = ImportMessages::Quiet) {
-        return ImportDatabase(PathTo("database.csv"), mode, rows, messages, Watcher());
-    }
-
-    std::string status_;
-    int percent_ = -1;
-};
 
 /// Values of every kind, the awkward ones among them.
 class Random {
@@ -202,10 +154,6 @@ TEST_F(PortTest, AsksForTablesAndAFile) {
               "The export was cancelled due to no file name being specified.");
 }
 
-constexpr const char* kRooms =
-    "\"Table\",\"Room\",\"/Table\"\n\"Fields\",\"IdRoom\",\"RoomType\","
-    "\"/Fields\"\n";
-
 TEST_F(PortTest, TellsEachErrorWithItsLine) {
     const std::string rooms = kRooms;
     const struct {
@@ -259,13 +207,13 @@ TEST_F(PortTest, ReadsFilesOfOtherMakes) {
         std::string file;
         std::string type; ///< of the room
     } cases[] = {
-        {"\xEF\xBB\xBF" + std::string(kRooms) +
+        {"\xEF\xBB\xBF" + kRooms +
              "\"Record\",1,\"K\xC3\xBC"
              "che\",\"/Record\"\n",
          "K\xC3\xBC"
          "che"},
-        {std::string(kRooms) + "\"Record\",1,\"K\xFC"
-                               "che \x80\",\"/Record\"",
+        {kRooms + "\"Record\",1,\"K\xFC"
+                  "che \x80\",\"/Record\"",
          "K\xC3\xBC"
          "che \xE2\x82\xAC"},
         {"table,room,/table,,\r\nfields,idroom,roomtype,/fields,\r\nrecord, 1 ,Bed "
@@ -275,7 +223,7 @@ TEST_F(PortTest, ReadsFilesOfOtherMakes) {
          "\"Fields\",\"IdRoom\",\"RoomType\",\"/Fields\",\"\"\n\"Record\",1,\"Attic\",\"/"
          "Record\",\"\"",
          "Attic"},
-        {std::string(kRooms) + "a remark\n\n\"Record\" , 1 , \"x\"\"y\" , \"/Record\" \n", "x\"y"},
+        {kRooms + "a remark\n\n\"Record\" , 1 , \"x\"\"y\" , \"/Record\" \n", "x\"y"},
     };
     for (const auto& each : cases) {
         Run("DELETE * FROM Room");
@@ -293,38 +241,10 @@ TEST_F(PortTest, ReadsFilesOfOtherMakes) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM Room"), "1");
 }
 
-TEST_F(PortTest, GivesUpALineWhoseQuoteIsNeverClosed) {
-    constexpr std::size_t kMegabyte = 1 << 20;
-    WriteText(PathTo("database.csv"), std::string(kRooms) +
-                                          "\"Record\",1,\"5\" pipe\",\"/Record\"\n" +
-                                          std::string(70 * kMegabyte, 'x'));
-    const ImportOutcome outcome = Import(ImportMode::Test);
-    EXPECT_EQ(outcome.error,
-              "the line is longer than 64 MB; the closing quote of a text may be missing.");
-    EXPECT_EQ(outcome.line, 3);
-}
-
-TEST_F(PortTest, NeverReplacesTheDatabaseByAnExport) {
-    Run("INSERT INTO Room (IdRoom, RoomType) VALUES (1, 'old')");
-    std::filesystem::create_symlink("Vestrel.mdb", PathTo("link.csv"));
-    const std::vector<std::string> before = Dump();
-    for (const char* const own : {"Vestrel.mdb", "Vestrel.mdb-wal", "Vestrel.mdb-journal",
-                                  "Version", "BaR.cfg", "Notes.txt", "link.csv"}) {
-        EXPECT_THROW(WriteTables(std::vector<std::string>{"Room"}, PathTo(own), {}),
-                     platform::Error)
-            << own;
-        EXPECT_THROW(RunFinExport({.accounts = {1}}, PathTo(own)), platform::Error) << own;
-    }
-    EXPECT_EQ(Dump(), before);
-    EXPECT_EQ(ReadText(PathTo("Version")), "9");
-    std::filesystem::create_directory(PathTo("elsewhere"));
-    WriteTables(std::vector<std::string>{"Room"}, PathTo("elsewhere/Notes.txt"), {});
-}
-
 TEST_F(PortTest, AppendsOrReplacesWhatIsThere) {
     Run("INSERT INTO Room (IdRoom, RoomType) VALUES (1, 'old')");
-    WriteText(PathTo("database.csv"), std::string(kRooms) + "\"Record\",1,\"new\",\"/Record\"\n" +
-                                          kRooms + "\"Record\",2,\"newer\",\"/Record\"\n");
+    WriteText(PathTo("database.csv"), kRooms + "\"Record\",1,\"new\",\"/Record\"\n" + kRooms +
+                                          "\"Record\",2,\"newer\",\"/Record\"\n");
     EXPECT_TRUE(Import().Succeeded());
     EXPECT_EQ(Ask("SELECT Count(*) FROM Room"), "3") << "appended, the identifier twice";
     EXPECT_EQ(NamesIn(Folder()).find("before"), std::string::npos);
@@ -366,50 +286,6 @@ TEST_F(PortTest, KeepsWhatWasWrittenBeforeAValueThatDoesntFit) {
         EXPECT_EQ(Ask("SELECT Count(*) FROM Lease"), "1");
         EXPECT_EQ(Ask("SELECT Rent FROM Lease"), "1000.5");
     }
-}
-
-TEST_F(PortTest, SurvivesAStopAtEveryStep) {
-    Run("INSERT INTO Room (IdRoom, RoomType) VALUES (1, 'old')");
-    WriteText(PathTo("database.csv"), std::string(kRooms) +
-                                          "\"Record\",2,\"a\",\"/Record\"\n"
-                                          "\"Record\",3,\"b\",\"/Record\"\n");
-    const std::vector<std::string> before = Dump();
-    std::vector<std::string> after;
-    int whole = 0;
-    StopAtEveryStep(
-        Folder(), [&] { Import(ImportMode::Write, ImportRows::Overwrite); },
-        [&](bool wasStopped) {
-            const std::vector<std::string> found = Dump();
-            if (found != before) {
-                if (after.empty()) after = found;
-                EXPECT_EQ(found, after);
-                EXPECT_EQ(found.size(), before.size() + 1);
-                ++whole;
-            }
-            if (!wasStopped) {
-                EXPECT_GT(whole, 0);
-            }
-        });
-    // An export is there whole, or the former file is.
-    MakeFile("database.csv", "the former one");
-    StopAtEveryStep(
-        Folder(), [this] { ExportAll(); },
-        [this](bool wasStopped) {
-            const std::string file = ReadText(PathTo("database.csv"));
-            EXPECT_TRUE(file == "the former one" || file.ends_with("\"/Record\"\r\n"));
-            if (!wasStopped) {
-                EXPECT_NE(file, "the former one");
-            }
-        });
-}
-
-TEST_F(PortTest, LeavesNoHalfFileOnAFullDisk) {
-    FillWithRandomRows(9);
-    MakeFile("database.csv", "the former one");
-    core::App().Connection.Close();
-    WithLittleRoom(600, [this] { ExportAll(); });
-    EXPECT_EQ(ReadText(PathTo("database.csv")), "the former one");
-    EXPECT_EQ(NamesIn(Folder()).find("database.csv."), std::string::npos);
 }
 
 } // namespace

@@ -10,7 +10,6 @@
 #include <system_error>
 
 #include "platform/system/FileProbe.h"
-#include "platform/values/Errors.h"
 
 namespace platform {
 
@@ -24,8 +23,10 @@ std::function<void()>& Probe() {
 }
 
 [[noreturn]] void FailToWrite(const fs::path& file) {
-    throw Error("Can't write " + file.string() + ": " + std::generic_category().message(errno) +
-                ".");
+    const int number = errno;
+    throw DiskError(
+        "Can't write " + file.string() + ": " + std::generic_category().message(number) + ".",
+        number);
 }
 
 int OpenFor(const fs::path& file, DiskFile::Start start) {

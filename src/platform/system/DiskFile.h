@@ -5,15 +5,28 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/values/Errors.h"
+
 namespace platform {
 
-/// A file open for writing; what is written goes to the system at once. Every failure is an Error
-/// that names the file and the reason (a full disk, a folder that can't be written to).
+/// A file that can't be written; the text names it and the reason.
+class DiskError : public Error {
+  public:
+    DiskError(const std::string& text, int number) : Error(text), number_(number) {}
+    /// The system's number of the failure.
+    int Number() const { return number_; }
+
+  private:
+    int number_;
+};
+
+/// A file open for writing; bytes go to the system without a buffer of the program's. Throws a
+/// DiskError on every failure (a full disk, a folder that can't be written to).
 class DiskFile {
   public:
     enum class Start {
         New,    ///< makes the file, private to the user; fails if it is there
-        Append, ///< goes on behind the end of an existing file
+        Append, ///< goes on after the end of an existing file
     };
 
     DiskFile(std::filesystem::path file, Start start);
