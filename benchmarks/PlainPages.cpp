@@ -107,7 +107,7 @@ void FillRow(std::size_t number, PlainRow& row) {
     put(7, FMT_STRING("{}{}.{:02}{}"), amount, number * 7 % 90'000, number % 100, end);
 }
 
-int WritePlainPdf(const char* path, std::size_t rows) {
+int WritePlainPdf(const char* path, std::size_t rows, const RowSource& source) {
     static PdfLoop pdf;
     pdf.file = std::fopen(path, "wb");
     std::fputs("%PDF-1.4\n", pdf.file);
@@ -116,7 +116,7 @@ int WritePlainPdf(const char* path, std::size_t rows) {
     int pages = 0;
     for (std::size_t i = 0; i < rows; ++i) {
         if (i % kRowsOfPage == 0) pdf.Begin(++pages);
-        FillRow(i, row);
+        source(i, row);
         const double y = 518 - 11.2 * static_cast<double>(i % kRowsOfPage);
         for (int column = 0; column < 8; ++column)
             pdf.Text(72 + kWidth * column, y, row.cells[column]);
@@ -128,7 +128,7 @@ int WritePlainPdf(const char* path, std::size_t rows) {
     return pages;
 }
 
-void WritePlainHtml(const char* path, std::size_t rows) {
+void WritePlainHtml(const char* path, std::size_t rows, const RowSource& source) {
     std::FILE* file = std::fopen(path, "wb");
     std::fputs("<!DOCTYPE html><title>Ledger</title><table><thead><tr>", file);
     for (const char* title : kTitles)
@@ -136,7 +136,7 @@ void WritePlainHtml(const char* path, std::size_t rows) {
     std::fputs("</tr></thead><tbody>\n", file);
     PlainRow row;
     for (std::size_t i = 0; i < rows; ++i) {
-        FillRow(i, row);
+        source(i, row);
         std::fputs("<tr>", file);
         for (int column = 0; column < 8; ++column) {
             std::fputs(column > 5 ? "<td class=\"r\">" : "<td>", file);
