@@ -2,15 +2,13 @@
 
 #include <algorithm>
 #include <exception>
-#include <filesystem>
 
 #include <fmt/core.h>
 
 #include "core/Globals.h"
 #include "core/Session.h"
-#include "platform/system/Paths.h"
-#include "platform/values/Errors.h"
 #include "platform/values/Text.h"
+#include "reports/ScratchReport.h"
 
 namespace reports {
 
@@ -96,33 +94,9 @@ ConsoleAnswer ListTablesInConsole() {
     return answer;
 }
 
-std::string ConsoleReportText(std::string_view query) {
-    const std::string sql = OneLine(query);
-    return fmt::format(
-        "[GENERAL]\n"
-        "\n"
-        "[HEADER]\n"
-        "Title=Database Browser Query\n"
-        "SubTitle=Query: {}\n"
-        "\n"
-        "[DATA]\n"
-        "SQLQuery={}\n"
-        "ShowTable\n"
-        "\n"
-        "[FOOTER]\n"
-        "\n",
-        sql, sql);
-}
-
 void WriteConsoleReport(std::string_view query) {
-    const core::Globals& app = core::App();
-    std::error_code failure;
-    std::filesystem::create_directories(app.ReportPath, failure);
-    if (failure) {
-        throw platform::Error(
-            fmt::format("{} can't be made: {}", app.ReportPath, failure.message()));
-    }
-    platform::WriteFileAtomically(app.ReportPath + app.SysReportName, ConsoleReportText(query));
+    const std::string sql = OneLine(query);
+    WriteScratchReport(ScratchReportText("Database Browser Query", "Query: " + sql, sql));
 }
 
 } // namespace reports

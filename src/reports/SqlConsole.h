@@ -8,7 +8,7 @@
 
 namespace reports {
 
-/// What the SQL console says about a statement, as a colour in 0xBBGGRR.
+/// The colours of the SQL console's messages, as 0xBBGGRR.
 enum class ConsoleColor : std::uint32_t { Plain = 0, Good = 0xFF0000, Bad = 255 };
 
 struct ConsoleAnswer {
@@ -26,9 +26,8 @@ ConsoleAnswer ExecuteInConsole(std::string_view text);
 /// The tables of the open database.
 ConsoleAnswer ListTablesInConsole();
 
-/// The definition that prints a query's rows, and writing it as the scratch report.
-/// WriteConsoleReport throws an Error if the file can't be written.
-std::string ConsoleReportText(std::string_view query);
+/// Writes a definition that prints a query's rows as the scratch report. Throws an Error if the
+/// file can't be written.
 void WriteConsoleReport(std::string_view query);
 
 } // namespace reports
