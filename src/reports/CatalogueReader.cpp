@@ -45,7 +45,7 @@ constexpr auto kTabs = std::to_array<Word<CatalogueTab>>({
     {"SUMMARY", CatalogueTab::Summary},
 });
 
-/// "WORKORDER" is a form but not an icon, and definitions rely on neither more nor less.
+/// "WORKORDER" is a form but not an icon.
 constexpr auto kIcons = std::to_array<Word<std::int16_t>>({
     {"ACCOUNT", 1},
     {"LEASE", 2},
@@ -67,7 +67,7 @@ constexpr auto kDateRanges = std::to_array<Word<DateRange>>({
     {"SELECT", DateRange::Select},
 });
 
-/// The meaning of a value that is one of the words, blanks around it and case apart.
+/// The meaning of a value that is one of the words, in any case and with blanks around it.
 template <typename Words>
 auto Find(const Words& words, std::string_view value)
     -> std::optional<decltype(words.front().meaning)> {

@@ -6,14 +6,14 @@
 
 namespace reports {
 
-/// Reads the [GENERAL] keys of a definition into its catalogue entry, whose Kind says which keys
-/// count: a receipt takes only its description, notes and form. Unknown keys and words change
-/// nothing.
+/// Reads the [GENERAL] keys of a definition into its catalogue entry, whose Kind decides which
+/// keys are read: a receipt takes only its description, notes and form. Unknown keys and words are
+/// ignored.
 void ReadCatalogueKeys(std::string_view text, ReportDef& report);
 
-/// Whether a key in upper case is one of the catalogue's.
+/// True for a catalogue key in upper case.
 bool IsCatalogueKey(std::string_view key);
-/// Whether the value of a catalogue key is one that it knows; true for keys whose value is free.
+/// True for a value that a catalogue key accepts; any value of a key with free text is.
 bool IsCatalogueValue(std::string_view key, std::string_view value);
 
 } // namespace reports

@@ -19,8 +19,8 @@ struct ColumnWeight {
     Side side;
 };
 
-/// Texts have no declared size: each is taken to be of the usual 255 characters, and so is as wide
-/// as a text may be.
+/// Texts have no declared size: they count as texts of the usual 255 characters, which have the
+/// greatest width.
 ColumnWeight WeightOf(FieldType type) {
     switch (type) {
         case FieldType::Long:

@@ -9,8 +9,8 @@
 
 namespace reports {
 
-/// The columns of a table of query rows: their widths follow from the fields' types, not from what
-/// the rows hold, so that the tables of all groups have the same columns.
+/// The columns of a table of query rows: their widths depend on the fields' types, not on the
+/// values, so that the tables of all groups have the same columns.
 struct DataColumns {
     std::string format; ///< alignment and width in twips of each column, separated by "|"
     std::vector<std::string> captions;
@@ -21,7 +21,8 @@ DataColumns ColumnsOf(platform::Recordset& rows, platform::Twips printWidth);
 /// A value of a query as a table shows it: money by the money format, booleans as Yes or No.
 std::string CellText(const platform::Field& field);
 
-/// The rows of an open query as those of a table, from the first on. The query must outlive it.
+/// Makes the rows of an open query the rows of a table, from the first on. The query must outlive
+/// it.
 class QueryRows : public platform::TableRows {
   public:
     explicit QueryRows(platform::Recordset& rows);
@@ -33,7 +34,7 @@ class QueryRows : public platform::TableRows {
     std::vector<std::string> cells_;
 };
 
-/// Gives the table that was added last the header row of tables of data: grey, bold and higher.
+/// Styles the header row of the table that was added last: grey, bold and higher than the rows.
 void StyleHeader(platform::PrintSurface& page);
 
 /// Prints "No records found." and goes back to the default style.

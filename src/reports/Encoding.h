@@ -5,7 +5,7 @@
 
 namespace reports {
 
-/// Whether the bytes are well-formed UTF-8: no stray bytes, overlong forms or surrogates.
+/// True for well-formed UTF-8: no stray bytes, overlong forms or surrogates.
 bool IsUtf8(std::string_view text);
 
 /// The UTF-8 form of a text whose bytes are characters of Windows-1252; the five bytes without a

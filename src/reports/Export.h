@@ -9,7 +9,7 @@ namespace reports {
 
 enum class ExportFormat : std::uint8_t { Html, Pdf, Rtf };
 
-/// What an export's dialog and closing message say.
+/// The texts of an export's dialog and closing message.
 struct ExportWords {
     std::string_view extension;
     std::string_view filter;
@@ -19,8 +19,8 @@ struct ExportWords {
 
 const ExportWords& WordsOf(ExportFormat format);
 
-/// The first name "rpt0001.html", "rpt0002.html", ... that `folder` (empty, or with its last
-/// separator) has no file of; the last of 9999 names if all are taken.
+/// The first name "rpt0001.html", "rpt0002.html", ... that isn't taken in `folder`
+/// (empty, or with its last separator); the last of 9999 names if all are taken.
 std::string ProposeExportFile(std::string_view folder, ExportFormat format);
 
 } // namespace reports

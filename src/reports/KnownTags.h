@@ -12,9 +12,9 @@ class KnownTags {
   public:
     /// Nothing is filled.
     KnownTags() = default;
-    /// What a subtitle and the query of a loop are given.
+    /// The tags of a subtitle and of a loop's query.
     static KnownTags OfRun();
-    /// What the texts and statements of sections are given.
+    /// The tags of the texts and statements of sections.
     static KnownTags OfSection();
 
     void Add(const std::string& name, std::string sample);
@@ -24,7 +24,7 @@ class KnownTags {
     std::string Fill(std::string text) const;
 
     /// The names between two "%" that nobody fills, as they are written. None for a text with LIKE,
-    /// in whose patterns "%" stands for any characters.
+    /// in whose patterns "%" matches any characters.
     std::set<std::string> Unfilled(const std::string& text) const;
 
   private:

@@ -8,7 +8,7 @@
 namespace reports {
 
 /// The blanks around the key and the value of a line with "=": the catalogue keeps them, so that
-/// "DESCRIPTION = x" is not a description there, a run drops them.
+/// "DESCRIPTION = x" is not a description there; a run removes them.
 enum class Blanks { Keep, Trim };
 
 /// One line of a definition that is neither empty nor a comment.
@@ -40,7 +40,7 @@ class LineReader {
     int number_ = 0;
 };
 
-/// The text of a definition file as UTF-8: a byte order mark is dropped, and a text that is not
+/// The text of a definition file as UTF-8: a byte order mark is removed, and a text that is not
 /// UTF-8 is read as Windows-1252. Nothing if the file is missing or can't be read.
 std::optional<std::string> ReadDefinition(const std::filesystem::path& file);
 

@@ -5,14 +5,14 @@
 
 namespace reports {
 
-/// Shows the run of a report, by its number in the catalogue, with the choices that it has.
+/// Runs a report, by its number in the catalogue, with its current choices, and shows it.
 using ReportViewer = std::function<void(int index)>;
 
-/// Gives the process its viewer; an empty one takes it away.
+/// Sets the viewer of the process; an empty one removes it.
 void SetReportViewer(ReportViewer viewer);
 bool HasReportViewer();
 
-/// Runs a report with its present choices. Nothing happens without a viewer or such a report.
+/// Runs a report with its current choices. Does nothing without a viewer or such a report.
 void RunReport(int index);
 
 /// Runs a report for one record without asking anything.

@@ -6,9 +6,9 @@
 
 namespace reports {
 
-/// Opens a query to be read. False if it has no rows or can't be opened: a report shows both alike.
-/// The rows are read as they are drawn, so that a long list shows its first page early; a failure
-/// among the later rows is thrown by the row set.
+/// Opens a query for reading. Returns false if it has no rows or can't be opened, which a report
+/// shows in the same way. The rows are read as they are drawn, so that a long list shows its first
+/// page early; a failure among the later rows is thrown by the row set.
 bool OpenQuery(platform::Recordset& rows, std::string_view sql);
 
 } // namespace reports

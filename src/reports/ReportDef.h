@@ -8,7 +8,7 @@
 
 namespace reports {
 
-/// What a definition file is for. Scratch is the one that list printing and the console rewrite;
+/// The purpose of a definition file. Scratch is the one that list printing and the console rewrite;
 /// Print is the print command of a record form.
 enum class ReportKind : std::int16_t { Scratch = 1, Report = 2, Print = 3, Receipt = 4 };
 
@@ -40,7 +40,7 @@ enum class DateRange : std::int16_t {
 /// How much a report shows. A section of detail Always is shown in both.
 enum class Detail : std::int16_t { Always = 0, Full = 1, Summary = 2 };
 
-/// One definition file as the catalogue knows it, with what was last chosen for it in this run of
+/// The catalogue's entry of a definition file, with the user's last choices for it in this run of
 /// the program.
 struct ReportDef {
     std::string FileName; ///< inside the reports folder
@@ -55,7 +55,7 @@ struct ReportDef {
     bool SelectYear = false;
     reports::DateRange DateRange = reports::DateRange::None;
 
-    // The present choices.
+    // The current choices.
     std::int32_t SelectedId = 0;
     Detail DetailLevel = Detail::Full;
     std::string SelectedYear;

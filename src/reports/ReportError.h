@@ -24,9 +24,8 @@ class ReportError : public platform::Error {
     std::string reason_;
 };
 
-/// Does a part of a run. A value of the definition or of the books that can't be converted in it
-/// becomes a ReportError of the line; other failures, such as those of the file that the pages go
-/// to, aren't the definition's fault and pass.
+/// Does a part of a run, and turns a value that can't be converted into a ReportError with the
+/// line. Other failures, such as a full disk, aren't the definition's fault and are passed on.
 template <typename Work>
 void AtLine(int line, Work work) {
     try {

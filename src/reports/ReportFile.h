@@ -13,7 +13,7 @@
 
 namespace reports {
 
-/// A definition as it is read to be run.
+/// A definition that was read for a run.
 struct ReportFile {
     std::string Title = "Vestrel Report";
     std::string SubTitle;
@@ -34,8 +34,8 @@ struct ReportFile {
 /// ReportError for a command that the section's class lacks and for a number that is not one.
 ReportFile ReadReport(std::string_view text);
 
-/// The same of a file. One that is missing or can't be read is a report of defaults without
-/// sections; the file's name is in the text of the ReportError.
+/// The same for a file. A file that is missing or can't be read gives a report of defaults without
+/// sections. The text of a ReportError begins with the file's name.
 ReportFile LoadReportFile(const std::filesystem::path& file);
 
 } // namespace reports

@@ -11,12 +11,12 @@ namespace reports {
 inline constexpr int kScratchReport = 1;
 
 /// Rebuilds the catalogue from the definition files of the reports folder: the scratch report, then
-/// the reports and the receipts, each in the order that the file system gives them. A folder or
-/// file that can't be read is passed over.
+/// the reports and the receipts, each in the order that the file system gives them. Folders and
+/// files that can't be read are skipped.
 void LoadReportList();
 
-/// Reports are numbered from 1 to ReportCount. The catalogue holds no less than the scratch report
-/// after it was loaded.
+/// Reports are numbered from 1 to ReportCount. Once loaded, the catalogue has at least the scratch
+/// report.
 int ReportCount();
 /// The report of a number; null for a number that isn't one.
 ReportDef* FindReport(int index);

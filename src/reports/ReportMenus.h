@@ -9,7 +9,7 @@
 
 namespace reports {
 
-/// The form on which records of a kind are edited, None for a kind without reports.
+/// The form on which records of a kind are edited; None for a kind without reports.
 RecordForm FormOfKind(std::int16_t recordKind);
 
 /// An item of a report menu: its caption, with "&" before its key, and the report's number.
@@ -18,15 +18,16 @@ struct ReportMenuItem {
     int index = 0;
 };
 
-/// What the menus of a record form offer.
+/// The entries of a record form's report menus.
 struct ReportMenu {
-    /// The report that the form's print command prints, 0 for none: then it is disabled.
+    /// The report that the form's print command prints; 0 if there is none and the command is
+    /// disabled.
     int print = 0;
     std::vector<ReportMenuItem> items;
 };
 
-/// The reports of a form, numbered "(&1) Rent roll", in catalogue order. `mark` stands between the
-/// number and the description, for a menu that has the reports of several forms.
+/// The reports of a form, numbered "(&1) Rent roll", in catalogue order. `mark` goes between the
+/// number and the description, for a menu with the reports of several forms.
 ReportMenu ReportsOf(RecordForm form, std::string_view mark = {});
 /// The receipts of a form: "Print Rent receipt".
 std::vector<ReportMenuItem> ReceiptsOf(RecordForm form);

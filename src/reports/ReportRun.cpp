@@ -43,8 +43,8 @@ ReportRun::ReportRun(ReportDef& report, std::filesystem::path file)
         selectedDescription_ = core::GetDescription(report_->SelectItem, report_->SelectedId);
 }
 
-/// The file's rule comes before what was chosen, which counts only where the file has no rule or
-/// leaves it to the user.
+/// The file's rule takes precedence over the user's choice, which counts only if the file has no
+/// rule or leaves the dates to the user.
 void ReportRun::ResolveDates() {
     const bool isFixed =
         report_->DateRange != DateRange::None && report_->DateRange != DateRange::Select;

@@ -9,14 +9,15 @@
 
 namespace reports {
 
-/// One run of a report, without a screen: its definition as it is now, the dates and the record
-/// that its choices stand for, and the drawing.
+/// One run of a report, without a screen: reads the definition, works out the dates and the record
+/// from the choices, and draws the document.
 ///
 ///     ReportRun run(*FindReport(index));
 ///     run.Draw(surface);
 ///
-/// The constructor throws a ReportError for a definition that can't be read, Draw for one that
-/// can't be gone on with and whatever the surface's sinks throw, which is how a run is cancelled.
+/// The constructor throws a ReportError if the definition has a fault that ends the run, Draw if
+/// such a fault shows while drawing. Draw also passes on what the surface's sinks throw, which is
+/// how a run is cancelled.
 class ReportRun {
   public:
     /// Reads the report's file in the reports folder. An orientation that the file gives is stored
@@ -58,8 +59,8 @@ class ReportRun {
     platform::Date end_;
 };
 
-/// Gives the choices what a report is printed with for one record, without asking: full detail, the
-/// present year, the dates of the last twelve months.
+/// Sets the choices for printing one record without asking: full detail, the current year, the
+/// last twelve months.
 void ChooseForRecord(ReportDef& report, std::int32_t selectedId);
 
 } // namespace reports

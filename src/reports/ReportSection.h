@@ -9,7 +9,7 @@
 
 namespace reports {
 
-/// Where a section stands to the loop of its report.
+/// Whether a section comes before, inside or after the loop of its report.
 enum class LoopPhase : std::int16_t { Before = 0, Inside = 1, After = 2 };
 
 /// One [TEXT] or [DATA] section of a report. It lives for one run of the report and may be shown

@@ -4,7 +4,7 @@
 
 namespace reports {
 
-/// Gives a surface the named styles of reports; "Default" is the surface as it stands.
+/// Gives a surface the named styles of reports; "Default" is the surface's current style.
 void CreateStyles(platform::PrintSurface& page);
 
 } // namespace reports

@@ -24,8 +24,8 @@ std::vector<std::string> SplitHeader(std::string_view header) {
     return rows.empty() ? std::vector<std::string>() : std::move(rows.front());
 }
 
-/// A schedule of sixteen columns is set in a font and with margins small enough that no amount goes
-/// on in a second line.
+/// Sets a font and margins small enough for a schedule of sixteen columns to have each amount in
+/// one line.
 void FitFont(PrintSurface& page, const std::vector<std::vector<std::string>>& rows) {
     constexpr platform::Twips kNarrowInset = 40;
     constexpr double kSmallestFont = 4;

@@ -41,7 +41,7 @@ class GrandTotal {
 };
 
 /// The rows of a one-column query as texts, as many as there are rows. They are joined and split
-/// at the carriage returns, so that a value which holds one shifts the groups after it.
+/// at carriage returns, so that a value with a carriage return shifts the groups after it.
 std::vector<std::string> GroupValues(platform::Recordset& rows) {
     const auto count = static_cast<std::size_t>(rows.RecordCount());
     std::string all;
@@ -79,7 +79,7 @@ class clsRptData::TableRun {
     std::string Filter() const {
         return section_.SQLFilter.empty() ? std::string() : " WHERE " + section_.SQLFilter;
     }
-    /// The value stands in quotes whatever the field's type, and a quote in it isn't doubled: a
+    /// The value is quoted as text whatever the field's type, and a quote in it isn't doubled: a
     /// group named O'Brien prints nothing.
     std::string GroupTest(std::size_t pass) const {
         return " (" + section_.GroupField + " = '" + groups_[pass] + "')";

@@ -24,8 +24,8 @@ constexpr Twips kPlainWidth = 2;
 constexpr int kDownwards = 2700;
 constexpr double kGridFont = 6;
 
-/// Turns cells of the page's grid into twips, in the single precision and 16 bits that definitions
-/// are laid out by.
+/// Converts cells of the page's grid to twips, in single precision and 16 bits: existing
+/// definitions are laid out for both.
 class CellMap {
   public:
     CellMap(const PrintSurface& page, int scaleX, int scaleY)

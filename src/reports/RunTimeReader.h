@@ -8,17 +8,17 @@
 
 namespace reports {
 
-/// Whether a key in upper case sets up the page, in whatever section it stands.
+/// True for a key in upper case that sets up the page, whatever section it is in.
 bool IsPageKey(std::string_view key);
 
-/// Reads a definition to be run, line by line; the state says what a line goes to.
+/// Reads a definition for a run, line by line; the state says where a line belongs.
 class RunTimeReader {
   public:
     /// Throws a ReportError for a command that the section's class lacks and for a number that is
     /// not one; the line then has no effect.
     void Read(const DefinitionLine& line);
 
-    /// What was read so far. The sections stay where they are.
+    /// The report as far as it was read. Its sections keep their addresses.
     const ReportFile& Report() const { return report_; }
     ReportFile TakeReport() { return std::move(report_); }
 

@@ -6,7 +6,7 @@
 
 namespace reports {
 
-/// Empty books of their own, to try statements on; deleted with the object. Throws an Error if they
+/// New, empty books to try statements on; deleted with the object. Throws an Error if they
 /// can't be made.
 class SampleBooks {
   public:

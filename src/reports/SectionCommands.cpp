@@ -53,7 +53,8 @@ void TextFlag(clsRptText& section, Line line) {
     if (TextCommand* command = section.Last()) command->*Member = platform::StrToBool(line.value);
 }
 
-/// The number is read even if there is no command for it, since what is not a number ends the run.
+/// The number is read even without a command to take it, because text that is not a number ends the
+/// run.
 template <auto Member>
 void TextNumber(clsRptText& section, Line line) {
     const std::int16_t number = platform::StrToInt16(line.value);

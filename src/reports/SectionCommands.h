@@ -8,8 +8,8 @@
 
 namespace reports {
 
-/// A command of the sections: what it does in a section of each class. A class that lacks it has
-/// none; the run ends where a section is given a command that its class lacks.
+/// A command of the sections, with a function for each class of section; null for a class that
+/// lacks the command, in whose sections it ends the run.
 struct SectionCommand {
     std::string_view key;
     bool isAttribute; ///< of a [TEXT] section's last command

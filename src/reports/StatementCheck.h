@@ -12,7 +12,7 @@ namespace reports {
 /// The lines of the keys of sections, by the section's number (0 the first) and the key.
 using KeyLines = std::map<std::pair<std::size_t, std::string>, int>;
 
-/// The number that stands for the page in KeyLines, whose keys belong to no section.
+/// The section number in KeyLines of the page's keys, which belong to no section.
 inline constexpr std::size_t kOfPage = static_cast<std::size_t>(-1);
 
 /// Adds the faults in the statements and texts of a definition that was read.

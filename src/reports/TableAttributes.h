@@ -8,14 +8,15 @@
 namespace reports {
 
 /// The attributes that a definition gives a table. Columns are lists of numbers from 1, separated
-/// by ","; what is not the number of a column is skipped.
+/// by ","; anything else in them is skipped.
 struct TableAttributes {
     std::string Border; ///< empty leaves the table's own
     std::string ColBold;
     std::string AlignCurrency;
 };
 
-/// The border of a word, blanks and case apart; a word that isn't known stands for all lines.
+/// Returns the border that a word names, whatever its case and the blanks around it; all lines for
+/// an unknown word.
 platform::TableBorder BorderOfWord(std::string_view word);
 
 /// Sets the attributes and the wrapping of all columns. A table without rows or columns stays as it

@@ -7,7 +7,7 @@
 
 namespace reports {
 
-// What the report viewer keeps on this machine.
+// The report viewer's settings on this machine.
 
 /// Whether an exported file is opened when it is written.
 bool ReadOpenExport();
@@ -15,7 +15,7 @@ void SaveOpenExport(bool open);
 
 /// The paper and the margins; the orientation is the report's.
 platform::PageSetup ReadPageSetup();
-/// Keeps the margins and the orientation, and the paper once it is another than the machine's own.
+/// Saves the margins and the orientation, and the paper unless it is the machine's own.
 void SavePageSetup(const platform::PageSetup& setup);
 
 /// The folder of the last export with its last separator, empty before the first.

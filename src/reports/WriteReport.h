@@ -13,7 +13,7 @@ namespace reports {
 
 enum class FileFormat : std::uint8_t { Pdf, Html, Rtf, Text };
 
-/// The format that a file's extension asks for, case apart; nothing for any other extension.
+/// The format of a file's extension, in any case; nothing for an unknown extension.
 std::optional<FileFormat> FormatOfFile(std::string_view file);
 
 /// Draws a run into a file, which takes its name only when it is whole: after a failure an older

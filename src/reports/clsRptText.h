@@ -45,7 +45,7 @@ struct TextCommand {
     TableAttributes Table;
 };
 
-/// What a query or a calculation gave a name to.
+/// A named value from a query or a calculation.
 struct ReportVariable {
     std::string Name;
     platform::Value Value;
@@ -61,8 +61,8 @@ struct TagFormatCommand {
 
 /// A [TEXT] section: paragraphs, small tables, lines and boxes, with the values of queries and
 /// calculations in their text. Its commands are queued while the file is read. ShowData then runs
-/// the queries and calculations, formats what they gave, and draws the rest, so that a paragraph
-/// sees the result of a calculation below it.
+/// the queries and calculations, formats their values and draws the rest, so that a paragraph can
+/// show the result of a calculation below it.
 class clsRptText : public ReportSection {
   public:
     // Commands; `line` is where the file has them. Coordinates are integers separated by ",", of

@@ -111,7 +111,7 @@ void Check(const std::string& file) {
 
 std::string IsReportFile(const std::string& file) {
     return reports::FormatOfFile(file) ? std::string()
-                                       : "'" + file + "' ends in none of .pdf, .html, .rtf, .txt";
+                                       : "'" + file + "' doesn't end in .pdf, .html, .rtf or .txt";
 }
 
 std::string IsYear(const std::string& text) {

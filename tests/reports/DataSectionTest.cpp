@@ -105,7 +105,7 @@ TEST_F(DataSection, SaysSoWhenThereIsNothing) {
     EXPECT_THAT(Lines("[DATA]\nHEADLINE=Head\nSQLQUERY=SELECT Amount FROM Transactions\n"),
                 ElementsAre("rule Head", "p "))
         << "no mode";
-    // A row that can't be read makes the query fail, wherever the row stands.
+    // A row that can't be read makes the query fail, wherever the row is.
     CoreBooks::Run("UPDATE Transactions SET DateEffective = 'soon' WHERE IdTransaction = 3");
     EXPECT_THAT(Lines("[DATA]\nSHOWTABLE\nSQLQUERY=SELECT DateValue(DateEffective) AS D "
                       "FROM Transactions ORDER BY IdTransaction\n"),

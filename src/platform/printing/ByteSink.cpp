@@ -22,7 +22,7 @@ namespace {
                 ".");
 }
 
-/// The permissions of a new file under the user's mask.
+/// The permissions that a new file of this user has.
 mode_t UsualMode() {
     const mode_t mask = umask(0);
     umask(mask);

@@ -7,11 +7,11 @@
 
 namespace platform {
 
-/// Where a writer of documents puts its bytes.
+/// Receives the bytes of a written document.
 class ByteSink {
   public:
     virtual ~ByteSink() = default;
-    /// Throws an Error if the bytes can't be taken.
+    /// Throws an Error if the bytes can't be written.
     virtual void Write(std::string_view bytes) = 0;
 };
 
@@ -47,7 +47,7 @@ class OutputFile : public ByteSink {
     std::FILE* file_ = nullptr;
 };
 
-/// Bytes kept aside in a file without a name until they are wanted.
+/// Bytes that are held in a temporary file until they are needed.
 class Spool : public ByteSink {
   public:
     Spool();

@@ -18,8 +18,8 @@ struct DocumentInfo {
     PageFrame frame;
 };
 
-/// Where the document goes as a reader would read it aloud: paragraphs, tables and separator lines,
-/// in order, without their places on the page.
+/// Receives the document in reading order: paragraphs, tables and separator lines, without their
+/// places on the page.
 class FlowSink {
   public:
     virtual ~FlowSink() = default;
@@ -29,7 +29,7 @@ class FlowSink {
     /// `widths` are the columns' widths in twips as laid out, already fitted to the page.
     virtual void BeginTable(const PrintStyle& style, const PrintTable& table,
                             std::span<const Twips> widths) = 0;
-    /// As many cells as the table has columns.
+    /// `cells` has as many cells as the table has columns.
     virtual void TableRow(std::span<const std::string_view> cells) = 0;
     virtual void EndTable() = 0;
     /// A separator line; the caption is empty for a plain one.

@@ -8,10 +8,10 @@ namespace platform {
 enum class Weight : std::uint8_t { Regular, Bold };
 enum class Slant : std::uint8_t { Upright, Italic };
 
-/// One face of a family, as its metrics number it.
+/// The number of a face of a family in its metrics.
 using FaceId = std::uint16_t;
 
-/// How far a face reaches above and below its baseline and what lies between two lines, in ems.
+/// The height of a face above and below its baseline and the room between two lines, in ems.
 struct FaceHeights {
     double ascent = 0;
     double descent = 0;
@@ -20,8 +20,8 @@ struct FaceHeights {
     double Line() const { return ascent + descent + leading; }
 };
 
-/// What the printing surface must know of fonts. All lengths are in ems: at 10 points an em is 10
-/// points.
+/// Everything the printing surface needs to know about fonts. All lengths are in ems: at 10 points
+/// an em is 10 points.
 class FontMetrics {
   public:
     virtual ~FontMetrics() = default;

@@ -37,7 +37,7 @@ constexpr std::string_view kStyleSheet =
     "@media print{div{overflow:visible}thead{display:table-header-group}"
     "tr{break-inside:avoid}}";
 
-/// Bytes that stand for themselves in HTML.
+/// Bytes that need no escape in HTML.
 constexpr std::array<bool, 256> kPlain = [] {
     std::array<bool, 256> plain{};
     for (std::size_t c = 0x20; c < 0x7F; ++c)
@@ -141,7 +141,7 @@ std::string ClassAttribute(const TableColumn& column, CellKind kind) {
     std::string names;
     if (isAmount || column.align == TextAlign::Right) names += " r";
     if (!isAmount && column.align == TextAlign::Center) names += " c";
-    // The room of the bracket that a negative amount has.
+    // Leaves the room of a negative amount's bracket.
     if (kind == CellKind::Amount) names += " m";
     if (column.bold && kind != CellKind::Header) names += " b";
     if (column.wrap == Wrap::Ellipsis) names += " n";
@@ -149,7 +149,7 @@ std::string ClassAttribute(const TableColumn& column, CellKind kind) {
     return " class=\"" + names.substr(1) + '"';
 }
 
-/// A part of a page's header or footer, unless it only makes sense on pages.
+/// Adds a part of the header or footer, unless it has a page number.
 void AppendFramePart(std::string& out, const std::string& part) {
     if (part.find("%d") != std::string::npos) return;
     out += "<span>";
@@ -185,7 +185,7 @@ void HtmlWriter::BeginFlow(const DocumentInfo& info) {
 }
 
 void HtmlWriter::Paragraph(const PrintStyle& style, std::string_view text) {
-    // An empty line is only a distance, and the page keeps distances of its own.
+    // An empty line is only a distance, and the style sheet has its own distances.
     if (Trim(text).empty()) return;
     const std::string_view tag = TagOf(style.heading);
     out_ += '<';

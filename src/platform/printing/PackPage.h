@@ -7,9 +7,9 @@
 
 namespace platform {
 
-/// A page in a tenth of its size, to be held: each item as its differences from the one before.
+/// Packs a page into about a tenth of its size, each item as its differences from the one before.
 std::string PackPage(const PrintedPage& page);
-/// The page that was packed.
+/// Returns the page that was packed.
 PrintedPage UnpackPage(std::string_view packed);
 
 } // namespace platform

@@ -17,7 +17,7 @@ std::uint16_t PenOf(const PrintStyle& style) {
     return static_cast<std::uint16_t>(std::clamp(style.penWidth, 1, 1440));
 }
 
-/// How far from the paper's edge a header of this height stands in a margin.
+/// The distance from the paper's edge of a header of this height in a margin.
 Twips FrameDistance(Twips margin, Twips height) {
     constexpr Twips kUsual = kTwipsPerInch / 2;
     constexpr Twips kGap = 100;
@@ -130,8 +130,8 @@ void PageMaker::DrawFrame() {
 }
 
 void PageMaker::DrawFrameLine(const FrameLine& line, const TextInk& ink, Twips top) {
-    // The right part, which holds the date or the page number, is drawn whole; the others get what
-    // is left.
+    // The right part, which holds the date or the page number, is drawn whole; the others get the
+    // remaining room.
     const Twips gap = ink.measure.Width("  ");
     const Twips width = Right() - Left();
     const Twips right = DrawPart(line.right, ink, TextAlign::Right, top, width);

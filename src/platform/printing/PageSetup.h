@@ -14,17 +14,17 @@ namespace platform {
 enum class PageOrientation : std::int16_t { Portrait = 0, Landscape = 1 };
 enum class Paper : std::uint8_t { Letter, A4 };
 
-/// "Letter" and "A4", as the setting of the paper holds them.
+/// "Letter" or "A4", as in the setting of the paper.
 std::string_view PaperName(Paper paper);
 
-/// Letter where the territory of a locale's name such as "en_US.UTF-8" uses it or the name has
-/// none, otherwise A4.
+/// Letter if the territory of a locale's name such as "en_US.UTF-8" uses it or the name has no
+/// territory, otherwise A4.
 Paper PaperOfLocale(std::string_view locale);
 
 /// The paper of this machine's locale (LC_ALL, LC_PAPER, LANG).
 Paper DefaultPaper();
 
-/// The paper of a setting's text, whatever its case; DefaultPaper if the text names none.
+/// The paper of a setting's text, whatever its case; DefaultPaper if the text names no paper.
 Paper PaperOfSetting(std::string_view text);
 
 /// The page that a document is laid out for.

@@ -7,8 +7,8 @@
 
 namespace platform {
 
-/// Where finished pages go, one by one, in order. A sink may keep them, write them or show them;
-/// what it throws ends the document and reaches the caller of the surface.
+/// Receives the finished pages one by one, in order, to keep, write or show them. Its exceptions
+/// end the document and reach the caller of the surface.
 class PageSink {
   public:
     virtual ~PageSink() = default;

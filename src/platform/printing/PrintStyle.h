@@ -13,7 +13,7 @@ enum class TextAlign : std::uint8_t { Left, Center, Right };
 enum class PenStyle : std::uint8_t { Solid, None };
 /// The numbers are those that report definitions and engines know: 0 solid, 1 transparent.
 enum class BrushStyle : std::uint8_t { Solid = 0, Transparent = 1 };
-/// The outline of the document that a paragraph of this style is in: where HTML has h1 to h3.
+/// The level of a heading in the document's outline, h1 to h3 in HTML.
 enum class HeadingLevel : std::uint8_t { None, First, Second, Third };
 
 /// All the attributes that text, lines, boxes and tables are drawn with; a named style is one set

@@ -18,8 +18,8 @@ namespace platform {
 ///
 /// Between StartDoc and EndDoc pages go to the page sink as soon as they are full, and the
 /// paragraphs, tables and separator lines to the flow sink as they are printed. Either sink may be
-/// null; without a page sink there is one endless page and nothing is laid out that only a page
-/// needs.
+/// null; without a page sink there is one endless page, and layout that only pages need is
+/// skipped.
 class PrintSurface {
   public:
     PrintSurface(FontMetrics& metrics, PageSink* pages, FlowSink* flow);
@@ -72,7 +72,7 @@ class PrintSurface {
 
     // Measures in the current font.
     Twips TextWidth(std::string_view text) const;
-    /// Of all its lines; an empty text is one line high.
+    /// The height of all lines of the text; an empty text is one line high.
     Twips TextHeight(std::string_view text) const;
 
     /// Prints a paragraph and moves to the left margin below it. It starts at the current position
@@ -80,14 +80,14 @@ class PrintSurface {
     /// one; "\n" starts a new line. An empty text moves on by one line.
     void Text(std::string_view text);
     /// Draws one line at the current position, turned by textAngle, without wrapping or moving. It
-    /// is no part of the flow.
+    /// isn't part of the flow.
     void TextAt(std::string_view text);
     /// Prints a separator line across the printable width and moves below it. The caption is set
-    /// into the line; "-" stands for a line without a caption.
+    /// into the line; "-" prints a line without a caption.
     void SepLine(std::string_view caption);
     /// Draws a line across the printable width at the current position without moving.
     void Rule();
-    /// Ends the page and goes on at the upper left margin of the next.
+    /// Ends the page and continues at the upper left margin of the next.
     void NewPage();
 
     // Shapes in page coordinates, with the current pen and, for rectangles, brush.

@@ -46,7 +46,7 @@ struct TableColumn {
     TextAlign align = TextAlign::Left;
     Wrap wrap = Wrap::Wrap;
     bool bold = false;
-    /// The decimal points of "12.00" and "(12.00)" stand above each other.
+    /// The decimal points of "12.00" and "(12.00)" are lined up.
     bool alignCurrency = false;
     Twips width = 0;    ///< 0 for a share of what is left
     double percent = 0; ///< of the printable width; used where it is above 0
@@ -60,8 +60,8 @@ struct TableHeader {
     VerticalAlign vertical = VerticalAlign::Top;
 };
 
-/// The rows of a table, read once from the first to the last as they are printed, so that none need
-/// be held. The cells stay valid until the next call.
+/// The rows of a table, read once from the first to the last as they are printed, so that they
+/// needn't be held. The cells stay valid until the next call.
 class TableRows {
   public:
     virtual ~TableRows() = default;
@@ -95,7 +95,7 @@ struct PrintTable {
 
 /// Columns of a format such as "<2880|>20%|^1.5in|<": "<", ">" and "^" align left, right and
 /// centre, "~" cuts instead of wrapping; the width is in twips, percent of the printable width or a
-/// unit that ParseLength reads; a column without a width, or with none above 0, shares what is
+/// unit that ParseLength reads; a column without a width above 0 shares what is
 /// left.
 std::vector<TableColumn> ParseTableFormat(std::string_view format);
 
@@ -103,7 +103,7 @@ std::vector<TableColumn> ParseTableFormat(std::string_view format);
 bool LooksLikeAmount(std::string_view text);
 
 /// The rows and cells of a text: rows separated by ";", cells by "|". An empty text has no rows; a
-/// ";" at the end of the text adds none.
+/// ";" at the end of the text adds no row.
 std::vector<std::vector<std::string>> ParseTableText(std::string_view text);
 
 } // namespace platform

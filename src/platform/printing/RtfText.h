@@ -12,7 +12,7 @@ void AppendRtf(std::string& out, std::string_view text);
 /// The same, with each "%d" as a field that shows the page's number.
 void AppendRtfWithPageNumber(std::string& out, std::string_view text);
 
-/// Adds a font's name without what the font table can't hold.
+/// Adds a font's name without the characters that the font table can't hold.
 void AppendRtfName(std::string& out, std::string_view name);
 
 } // namespace platform

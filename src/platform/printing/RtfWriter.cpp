@@ -26,9 +26,9 @@ struct CellEdges {
     bool right;
 };
 
-/// The size in half points in which an amount fits into a cell, 0 where it does in the table's
-/// own: an amount that goes on in a second line would be read wrongly. There is no font to measure
-/// with, so that its width is estimated.
+/// The size in half points at which an amount fits into a cell, 0 if it fits at the table's own
+/// size: an amount that continues in a second line would be misread. Its width is estimated, since
+/// there is no font to measure with.
 int AmountSize(std::string_view text, Twips room, double usual) {
     constexpr double kDigit = 0.56; // of an em
     constexpr int kLeast = 8;
@@ -167,8 +167,8 @@ void RtfWriter::TableRow(std::span<const std::string_view> cells) {
     FlushIfLarge();
 }
 
-/// A paragraph of next to no height keeps a table from the next one, and a document from ending in
-/// a table, which word processors don't accept.
+/// A paragraph of almost no height separates two tables. Word processors also need one after a
+/// table at the end of the document.
 void RtfWriter::EndTable() {
     WriteRow(true);
     out_ += "\\pard\\plain\\sl-20\\slmult0\\fs2\\par\n";
@@ -198,7 +198,7 @@ std::string RtfWriter::FrameGroup(std::string_view word, const FrameLine& line) 
 }
 
 void RtfWriter::WriteHead() {
-    // The groups are made first, for they add to the fonts and colours.
+    // These groups come first because they add fonts and colours.
     const std::string frame =
         FrameGroup("header", info_.frame.header) + FrameGroup("footer", info_.frame.footer);
     std::string head = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n{\\fonttbl";

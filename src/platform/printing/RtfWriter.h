@@ -62,7 +62,7 @@ class RtfWriter : public FlowSink {
     std::string innerStart_; ///< of rows between the first and the last
     int headerColor_ = 0;    ///< 0 for none
     double fontSize_ = 0;    ///< in points
-    int currencyIndent_ = 0; ///< what stands right of an amount without a bracket, in twips
+    int currencyIndent_ = 0; ///< the room right of an amount without a bracket, in twips
 };
 
 } // namespace platform

@@ -17,7 +17,7 @@ struct PageMatch {
     std::size_t item = 0;  ///< of the page's items
     std::size_t begin = 0; ///< of the item's text, in bytes
     std::size_t length = 0;
-    bool isStart = false; ///< no place yet: the search begins with the page itself
+    bool isStart = false; ///< true before the first match: the search begins with the page itself
 
     friend bool operator==(const PageMatch&, const PageMatch&) = default;
 };

@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-/// A row that is taller than a page begins where at least so many of its lines fit.
+/// A row that is taller than a page begins on a page that has room for this many of its lines.
 constexpr std::size_t kLinesOfTallRow = 4;
 
 } // namespace
@@ -101,7 +101,7 @@ void TableLayout::DrawRow(TableRowLayout& row) {
 void TableLayout::DrawTallRow(TableRowLayout& row) {
     std::size_t first = 0;
     while (first < row.LineCount()) {
-        // At least one line a page, so that the row ends whatever the page's height.
+        // At least one line on each page, so that the loop ends whatever the page's height.
         const std::size_t room = std::max<std::size_t>(row.LinesIn(maker_.Bottom() - y_), 1);
         const std::size_t end = std::min(first + room, row.LineCount());
         row.Draw(maker_, maker_.Left(), y_, first, end);

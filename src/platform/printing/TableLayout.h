@@ -9,15 +9,15 @@
 
 namespace platform {
 
-/// Lays one table out on the pages of a maker, row by row: a row that doesn't fit goes to the next
-/// page, under the header row again; one that is taller than a page is broken between its lines.
+/// Lays out one table on the pages of a maker, row by row. A row that doesn't fit goes to the next
+/// page, below the repeated header row; one that is taller than a page is broken between its lines.
 class TableLayout {
   public:
     TableLayout(PageMaker& maker, FontMetrics& metrics, const PrintStyle& style,
                 const PrintTable& table, const FittedColumns& columns);
 
     /// Begins at this height of the page. The header row waits for the first row, so that it is
-    /// never left by itself at the bottom.
+    /// never the last row of a page.
     void Begin(Twips y);
     void Add(std::span<const std::string_view> cells);
     /// Draws what is left and returns the height below the table.

@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-/// Smaller than this nobody reads: the text is wrapped more often instead.
+/// In points. Smaller text couldn't be read; it is wrapped more often instead.
 constexpr double kLeastSize = 4;
 
 double TextScale(const PrintStyle& style, double scale) {
@@ -101,7 +101,7 @@ bool TableRowLayout::BreakCell(std::size_t column, const TextInk& ink, std::stri
 }
 
 /// The column's font, smaller where an amount or a word of a title is too wide for the column:
-/// "18,205" above ".00" would be read wrongly.
+/// "18,205" above ".00" would be misread.
 const TextInk& TableRowLayout::FittingInk(std::size_t column, std::string_view text) {
     constexpr int kTenths = 10;
     const TextInk& usual = InkOf(column);
@@ -142,7 +142,7 @@ void TableRowLayout::Draw(PageMaker& maker, Twips x, Twips y, std::size_t first,
         const Cell& cell = cells_[column];
         for (std::size_t i = cell.begin + first; i < std::min(cell.begin + end, cell.end); ++i) {
             const auto row = static_cast<Twips>(i - cell.begin - first);
-            // Smaller letters stand on the line of the others.
+            // Smaller letters have the same baseline as the others.
             const Twips lower = InkOf(column).measure.Ascent() - cell.ink->measure.Ascent();
             maker.Text(*cell.ink, x + LineX(column, lines_[i]), top + row * lineHeight_ + lower,
                        lines_[i]);

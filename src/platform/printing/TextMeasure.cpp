@@ -10,9 +10,9 @@ namespace platform {
 namespace {
 
 constexpr std::string_view kEllipsis = "\u2026";
-/// No line of a page holds so many bytes: a longer text isn't measured whole.
+/// Longer than any line of a page: such a text isn't measured as a whole.
 constexpr std::size_t kLongText = 4000;
-/// Nor so long a word: it may be broken here, which it must be somewhere.
+/// Longer than a line too: such a word may be broken here, as it must be somewhere.
 constexpr std::size_t kLongWord = 1000;
 
 Twips Rounded(double twips) {
@@ -74,7 +74,7 @@ std::string_view TakeLine(const TextMeasure& measure, std::string_view& text, Tw
         if (used > width) break;
         end = next;
     }
-    // A blank that doesn't fit needn't: it would be at the end of the line.
+    // A blank at the end of the line needn't fit.
     if (end == 0) {
         const std::size_t piece = PieceEnd(text, 0);
         end = FittingPart(measure, text.substr(0, piece), width);

@@ -43,7 +43,7 @@ void BreakLines(const TextMeasure& measure, std::string_view text, Twips width,
                 std::vector<MeasuredLine>& lines);
 
 /// The text up to its first line end, if it is all there is and no wider than `width`; otherwise as
-/// much of it as fits with an ellipsis behind it, made in `scratch`.
+/// much of it as fits, followed by an ellipsis, made in `scratch`.
 MeasuredLine CutLine(const TextMeasure& measure, std::string_view text, Twips width,
                      std::string& scratch);
 

@@ -11,10 +11,10 @@ namespace platform {
 
 namespace {
 
-/// The share of the printable width that one character stands for.
+/// The width of one character on the page.
 constexpr Twips kCharacter = 100;
 constexpr std::size_t kGap = 2;
-/// A column of numbers is at least so wide, so that none is broken: "(999,999.99)".
+/// The least width of a column of numbers, so that they are never broken: "(999,999.99)".
 constexpr std::size_t kNumberWidth = 12;
 
 std::size_t CharacterCount(std::string_view text) {
@@ -22,7 +22,7 @@ std::size_t CharacterCount(std::string_view text) {
         text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
-/// Every character 10 twips wide, which makes widths of a tenth.
+/// Measures every character as 10 twips wide.
 const TextMeasure& Characters() {
     static FixedMetrics metrics;
     static const TextMeasure measure(metrics, PrintStyle{.fontSize = 1});

@@ -11,7 +11,7 @@ namespace platform {
 
 /// Writes a flow as plain UTF-8 text to be read in a fixed-width font: paragraphs wrapped, tables
 /// in columns, separator lines as rows of "-". Nothing is cut; a cell that is too long for its
-/// column goes on in the next line.
+/// column continues in the next line.
 class TextWriter : public FlowSink {
   public:
     explicit TextWriter(ByteSink& sink) : sink_(sink) {}

@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/// The code point at `position`, which moves behind it; U+FFFD for a byte that isn't UTF-8.
+/// The code point at `position`, which moves to the next one; U+FFFD for a byte that isn't UTF-8.
 char32_t NextCodePoint(std::string_view text, std::size_t& position);
 
 /// Adds a code point as UTF-8.

@@ -21,8 +21,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Compares with expected/NAME. What was made lies in actual/NAME of the build's test folder; to
-/// renew the expectation, look at that and copy it.
+/// Compares with expected/NAME. The output is in actual/NAME of the build's test folder: to
+/// renew the expectation, look at it and copy it.
 void ExpectGolden(const std::string& name, const std::string& text) {
     fs::create_directories("actual");
     std::ofstream("actual/" + name, std::ios::binary) << text;

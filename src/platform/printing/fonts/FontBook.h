@@ -34,8 +34,8 @@ struct GlyphRun {
     bool isPlain = false;
 };
 
-/// The fonts of printed pages: measures texts for the layout, and gives their glyphs to whoever
-/// draws a page. A character that no font has is drawn as a box.
+/// The fonts of printed pages: measures texts for the layout, and provides their glyphs for
+/// drawing. A character that no font has is drawn as a box.
 class FontBook : public FontMetrics {
   public:
     FontBook();
@@ -52,11 +52,11 @@ class FontBook : public FontMetrics {
     /// The glyphs of a clean text without line ends.
     std::vector<GlyphRun> Shape(FaceId face, std::string_view text) const;
 
-    /// The same for drawing, quicker where ShapePlain does: with the font's own widths.
+    /// The same with the font's own widths, quicker for texts that ShapePlain accepts.
     std::vector<GlyphRun> Glyphs(FaceId face, std::string_view text) const;
 
-    /// The fast road for texts of one font without marks and joins: adds the glyphs to `glyphs` and
-    /// returns the font; returns false, with `glyphs` as it was, for any other text.
+    /// The fast way for texts of one font without marks and joins: adds the glyphs to `glyphs`.
+    /// Returns false, with `glyphs` unchanged, for any other text.
     bool ShapePlain(FaceId face, std::string_view text, std::vector<GlyphId>& glyphs) const;
     FontIndex FontOf(FaceId face) const { return faces_[face].font; }
     bool IsSlanted(FaceId face) const { return faces_[face].slanted; }

@@ -14,11 +14,11 @@ struct FaceSource {
     bool slanted = false; ///< the file is upright and its glyphs are to be slanted
 };
 
-/// The fonts that reports name, each by one of the same widths that the packages bring, so that a
-/// report has the same lines and pages on every machine. An unknown family is Arial.
+/// Returns the file for a font that a report names: a font from the packages with the same widths,
+/// so that a report has the same lines and pages on every machine. An unknown family is Arial.
 FaceSource SourceOf(std::string_view family, Weight weight, Slant slant);
 
-/// The files that characters come from which a family's own file lacks, best first.
+/// The files for characters that a family's own file lacks, best first.
 std::vector<std::string_view> FallbackFiles(Weight weight);
 
 /// Returns the path of a font file of this name, empty if it isn't installed. Searches the system's

@@ -101,7 +101,7 @@ std::vector<Stretch> Stretches(const std::vector<Character>& characters) {
 }
 
 /// Puts stretches in the order they are drawn: from the highest level down, each sequence of at
-/// least that level is turned round.
+/// least that level is reversed.
 void OrderForDrawing(std::vector<Stretch>& stretches) {
     FriBidiLevel highest = 0;
     for (const Stretch& stretch : stretches)

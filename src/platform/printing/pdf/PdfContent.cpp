@@ -61,8 +61,8 @@ void PdfContent::Text(const PrintedPage& page, const PageItem& item) {
     if (item.underline) Underline(item);
 }
 
-/// Notes the texts of a plain text's glyphs, which are in glyphs_. False if one of them already
-/// stands for another character.
+/// Records the characters of a plain text's glyphs, which are in glyphs_. Returns false if one of
+/// them already has another character.
 bool PdfContent::IsKnown(FontIndex font, std::string_view text) {
     if (known_.size() <= font) known_.resize(font + 1);
     std::vector<bool>& known = known_[font];
@@ -94,8 +94,8 @@ void PdfContent::Runs(const PageItem& item, std::string_view text) {
         Run(item, run, em);
 }
 
-/// A run with a matrix of its own. Where its glyphs don't tell the text, the text is given beside
-/// them.
+/// Draws a run with a matrix of its own. If its text can't be read from the glyphs, it is given
+/// beside them.
 void PdfContent::Run(const PageItem& item, const GlyphRun& run, double em) {
     EndText();
     PdfFont& font = FontOf(run.font);
@@ -171,7 +171,7 @@ void PdfContent::EndText() {
     inText_ = false;
 }
 
-/// Moves are from where the last text of this block began.
+/// Moves are relative to the start of the last text of this block.
 void PdfContent::MoveText(Twips x, Twips y) {
     Number(x - textX_);
     Number(y - textY_);

@@ -11,7 +11,7 @@ void PdfFile::Put(std::string_view bytes) {
     position_ += bytes.size();
 }
 
-// The second line tells programs that the file isn't text.
+// The second line marks the file as binary.
 void PdfFile::Begin() {
     Put("%PDF-1.7\n%\xE2\xE3\xCF\xD3\n");
 }

@@ -81,7 +81,7 @@ void PdfFont::Write(PdfFile& pdf) const {
     const PdfObject descriptor = pdf.Reserve();
     const PdfObject program = pdf.Reserve();
     const PdfObject unicode = pdf.Reserve();
-    // Six letters before the name say that only a part of the font is here.
+    // Six letters before the name mark a subset of the font.
     const std::string name = "VESTRL+" + file_.PostScriptName();
     const FaceHeights heights = file_.Heights();
     const auto bounds = file_.Bounds();

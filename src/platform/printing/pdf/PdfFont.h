@@ -17,10 +17,10 @@ class PdfFont {
 
     PdfObject Object() const { return object_; }
 
-    /// Says that a glyph was drawn for a text, which is what a reader copies or finds for it. False
-    /// if it already means another text.
+    /// Records that a glyph was drawn for a text, which a reader then copies or finds for it.
+    /// Returns false if the glyph already has another text.
     bool Use(GlyphId glyph, std::string_view text);
-    /// Says that a glyph was drawn whose text is given beside it.
+    /// Records that a glyph was drawn whose text is given beside it.
     void UseWithoutText(GlyphId glyph) { used_.try_emplace(glyph); }
 
     /// Writes the font's objects.
