@@ -24,16 +24,24 @@ class ReportError : public platform::Error {
     std::string reason_;
 };
 
-/// Does a part of a run, and turns a value that can't be converted into a ReportError with the
-/// line. Other failures, such as a full disk, aren't the definition's fault and are passed on.
+/// Does a part of a run, and turns a value that can't be converted or a row that can't be read into
+/// a ReportError with the line. Other failures, such as a full disk, aren't the definition's fault
+/// and are passed on.
 template <typename Work>
 void AtLine(int line, Work work) {
+    const auto fail = [line](const platform::Error& fault) {
+        throw ReportError(line, fault.what());
+    };
     try {
         work();
     } catch (const platform::ConversionError& fault) {
-        throw ReportError(line, fault.what());
+        fail(fault);
     } catch (const platform::OverflowError& fault) {
-        throw ReportError(line, fault.what());
+        fail(fault);
+    } catch (const platform::FieldError& fault) {
+        fail(fault);
+    } catch (const platform::DatabaseError& fault) {
+        fail(fault);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "core/Preferences.h"
 #include "reports/Queries.h"
+#include "reports/ReportError.h"
 #include "reports/ReportRun.h"
 #include "reports/Tags.h"
 
@@ -48,13 +49,15 @@ void ReportRun::RunPhase(PrintSurface& page, LoopPhase phase) {
 void ReportRun::RunLoop(PrintSurface& page, const std::string& query) {
     platform::Recordset rows;
     if (!OpenQuery(rows, query)) return;
-    for (; !rows.Eof(); rows.MoveNext()) {
-        const std::string id = TextOf(rows[0].Value());
+    while (!rows.Eof()) {
+        std::string id;
+        AtLine(file_.LoopLine, [&] { id = TextOf(rows[0].Value()); });
         for (const auto& section : file_.Sections) {
             if (section->Sequence != LoopPhase::Inside || !IsShown(*section)) continue;
             section->LoopId = id;
             section->ShowData(page);
         }
+        AtLine(file_.LoopLine, [&] { rows.MoveNext(); });
     }
 }
 

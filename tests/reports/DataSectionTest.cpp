@@ -1,3 +1,4 @@
+#include "platform/database/Recordset.h"
 #include "reports/ReportsFixture.h"
 
 namespace tests {
@@ -110,6 +111,21 @@ TEST_F(DataSection, SaysSoWhenThereIsNothing) {
     EXPECT_THAT(Lines("[DATA]\nSHOWTABLE\nSQLQUERY=SELECT DateValue(DateEffective) AS D "
                       "FROM Transactions ORDER BY IdTransaction\n"),
                 ElementsAre(none));
+}
+
+TEST_F(DataSection, ARowThatFailsFarDownEndsTheRunWithItsLine) {
+    CoreBooks::Run("UPDATE Transactions SET DateEffective = '01/01/2024'");
+    for (int i = 4; i <= platform::kFirstRowsRead + 10; ++i) {
+        CoreBooks::Run("INSERT INTO Transactions (IdTransaction, DateEffective) VALUES (" +
+                       std::to_string(i) + ", '01/01/2024')");
+    }
+    const std::string query = "SELECT DateValue(DateEffective) AS D FROM Transactions\n";
+    EXPECT_EQ(Fault("[DATA]\nSHOWTABLE\nSQLQUERY=" + query), "");
+    CoreBooks::Run("UPDATE Transactions SET DateEffective = 'soon' WHERE IdTransaction = " +
+                   std::to_string(platform::kFirstRowsRead + 5));
+    EXPECT_THAT(Fault("[DATA]\nSHOWTABLE\nSQLQUERY=" + query), HasSubstr("test.rpt, line 3: "));
+    EXPECT_THAT(Fault("[LOOP]\nSQLQUERY=" + query + "[TEXT]\nPARAGRAPH=%LOOPID%\n"),
+                HasSubstr("test.rpt, line 4: "));
 }
 
 TEST_F(DataSection, AnApostropheBreaksItsGroup) {
