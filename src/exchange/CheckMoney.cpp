@@ -128,7 +128,8 @@ void CheckBalances(platform::Connection& books, std::vector<Finding>& findings) 
                  fmt::format("The lease {} has {} as {}, but its ledger adds up to {}", id,
                              platform::MoneyToFixedText(stored), balance.field,
                              platform::MoneyToFixedText(expected)),
-                 "Open the lease and save it: the balances are computed again."});
+                 "Open the lease: its balances are computed again, as they are at the next "
+                 "start."});
         }
     }
     const FoundIds wrong = FindIds(

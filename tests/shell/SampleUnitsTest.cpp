@@ -4,9 +4,13 @@
 #include <vector>
 
 #include "core/CoreFixture.h"
+#include "core/DailyRun.h"
 #include "core/Globals.h"
+#include "core/RecordKinds.h"
+#include "exchange/CheckBooks.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
+#include "removal/DeleteRecord.h"
 #include "shell/Registrations.h"
 #include "shell/SampleLife.h"
 
@@ -37,6 +41,19 @@ std::vector<std::string> Contradictions() {
     return faults;
 }
 
+enum class Least { Note, Fault };
+
+/// What the check of the books finds, from notes or faults on.
+std::vector<std::string> Findings(Least least) {
+    std::vector<std::string> found;
+    for (const exchange::Finding& finding : exchange::CheckBooks(core::App().Connection, {})) {
+        if (least == Least::Note || finding.severity == exchange::Severity::Fault) {
+            found.push_back(finding.what);
+        }
+    }
+    return found;
+}
+
 TEST_F(SampleUnits, AgreeWithTheirLeasesWheneverTheSampleIsMade) {
     shell::RegisterLogic();
     int made = 0;
@@ -47,7 +64,41 @@ TEST_F(SampleUnits, AgreeWithTheirLeasesWheneverTheSampleIsMade) {
         shell::MakeSamplePortfolio(folder, 24, today);
         core::App().Connection.Open(folder / "Vestrel.mdb");
         EXPECT_EQ(Contradictions(), std::vector<std::string>());
+        EXPECT_EQ(Findings(Least::Note), std::vector<std::string>());
     }
+}
+
+TEST_F(SampleUnits, AreInOrderAfterRecordsOfEachKindAreRemoved) {
+    shell::RegisterLogic();
+    core::App().Connection.Close();
+    shell::MakeSamplePortfolio(Folder() / "sample", 24, Date(2024, 5, 17));
+    core::App().DbFile = Folder() / "sample" / "Vestrel.mdb";
+    core::App().Connection.Open(core::App().DbFile);
+    const struct {
+        std::int16_t kind;
+        const char* oneOf;
+    } removals[] = {
+        {core::kTransaction, "SELECT IdTransaction FROM Transactions WHERE Class = 1"},
+        {core::kTransaction, "SELECT IdTransaction FROM Transactions WHERE Class = 2"},
+        {core::kTransaction, "SELECT IdTransaction FROM Transactions WHERE Class = 5"},
+        {core::kTransaction, "SELECT IdTransaction FROM Transactions WHERE Class = 0"},
+        {core::kWorkOrder, "SELECT IdWorkOrder FROM WorkOrder"},
+        {core::kAppliance, "SELECT IdAppliance FROM Appliance"},
+        {core::kLease, "SELECT IdLease FROM Lease WHERE Status = 'MTM' OR Status = 'Contracted'"},
+        {core::kTenant, "SELECT IdTenant FROM Lease"},
+        {core::kMortgage, "SELECT IdMortgage FROM Mortgage"},
+        {core::kUnit, "SELECT IdUnit FROM Lease"},
+        {core::kBuilding, "SELECT IdBuilding FROM OwnerLink"},
+        {core::kAccount, "SELECT IdAccount FROM OwnerLink"},
+    };
+    for (const auto& removed : removals) {
+        const auto id = core::App().Connection.Scalar(removed.oneOf);
+        ASSERT_TRUE(id) << removed.oneOf;
+        EXPECT_TRUE(removal::DeleteRecord(removed.kind, id->AsLong(), removal::Confirm::DontAsk));
+        core::UpdateRecords(); // computes the balances, as at the next start
+        EXPECT_EQ(Findings(Least::Fault), std::vector<std::string>()) << removed.oneOf;
+    }
+    EXPECT_TRUE(std::filesystem::exists(Folder() / "sample" / "Vestrel before removal 1.mdb"));
 }
 
 } // namespace
