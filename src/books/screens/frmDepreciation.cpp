@@ -42,11 +42,12 @@ constexpr std::array<ChartType, 10> kChartTypes = {{
 }};
 constexpr int kFlatBars = 1;
 
-/// The number of the period, and the three amounts.
-bool IsNumber(int column) {
-    constexpr int kPeriodEnd = 1;
+/// Amounts end at the right; the narrow columns beside them are centred, so as not to touch them.
+Qt::Alignment AlignmentOf(int column) {
+    constexpr int kFirstAmount = 2;
     constexpr int kMethod = 5;
-    return column != kPeriodEnd && column != kMethod;
+    const bool isAmount = column >= kFirstAmount && column < kMethod;
+    return (isAmount ? Qt::AlignRight : Qt::AlignHCenter) | Qt::AlignVCenter;
 }
 
 } // namespace
@@ -96,8 +97,7 @@ void frmDepreciation::ShowGrid() {
     for (int column = 0; column < grid.columnCount(); ++column) {
         auto* const title = new QTableWidgetItem(
             ToScreen(clsDepreciation::kColumns.at(static_cast<std::size_t>(column))));
-        title->setTextAlignment((IsNumber(column) ? Qt::AlignRight : Qt::AlignLeft) |
-                                Qt::AlignVCenter);
+        title->setTextAlignment(AlignmentOf(column));
         grid.setHorizontalHeaderItem(column, title);
     }
     for (int row = 0; row < grid.rowCount(); ++row) {
@@ -105,8 +105,7 @@ void frmDepreciation::ShowGrid() {
         for (int column = 0; column < grid.columnCount(); ++column) {
             auto* const item =
                 new QTableWidgetItem(ToScreen(cells.at(static_cast<std::size_t>(column))));
-            item->setTextAlignment((IsNumber(column) ? Qt::AlignRight : Qt::AlignLeft) |
-                                   Qt::AlignVCenter);
+            item->setTextAlignment(AlignmentOf(column));
             grid.setItem(row, column, item);
         }
     }

@@ -90,9 +90,14 @@ bool LetFormScroll(QWidget& form) {
     while (column->count() > 0) {
         QLayoutItem* const item = column->itemAt(0);
         if (qobject_cast<ActionBar*>(item->widget())) break;
-        rows->addItem(column->takeAt(0));
-        if (item->widget()) item->widget()->setParent(contents);
-        if (item->layout()) item->layout()->setParent(rows);
+        column->takeAt(0);
+        if (QLayout* const inner = item->layout()) {
+            inner->setParent(nullptr);
+            rows->addLayout(inner); // which takes its controls along
+        } else {
+            rows->addItem(item);
+            if (item->widget()) item->widget()->setParent(contents);
+        }
     }
     area->setWidget(contents);
     column->insertWidget(0, area);

@@ -9,6 +9,7 @@
 #include "core/Settings.h"
 #include "core/binding/EnableContainer.h"
 #include "core/binding/Tags.h"
+#include "core/forms/FitScreen.h"
 #include "core/forms/FormPlace.h"
 #include "core/forms/Help.h"
 #include "core/forms/OpenForms.h"
@@ -169,6 +170,21 @@ TEST(FormPlace, KeepsWhatCanBeHeldAndRescuesTheRest) {
         EXPECT_EQ(core::forms::RescuedPlace(one.wanted, screens), one.place) << one.what;
     }
     EXPECT_EQ(core::forms::RescuedPlace({1, 2, 3, 4}, {}), (FormRectangle{1, 2, 3, 4}));
+}
+
+TEST(LetFormScroll, TakesTheControlsOfInnerLayoutsAlong) {
+    QWidget form;
+    auto* const column = new QVBoxLayout(&form);
+    auto* const large = new QLineEdit(&form);
+    large->setMinimumSize(4000, 100);
+    column->addWidget(large);
+    auto* const row = new QHBoxLayout;
+    column->addLayout(row);
+    auto* const box = new QLineEdit(&form);
+    row->addWidget(box);
+    ASSERT_TRUE(core::forms::LetFormScroll(form));
+    EXPECT_EQ(box->parentWidget(), large->parentWidget()) << "it would lie under the page";
+    EXPECT_NE(box->parentWidget(), &form);
 }
 
 TEST(EnableContainer, ReachesIntoFramesAndLeavesTheContainer) {

@@ -31,6 +31,9 @@ TEST_F(ReportGallery, ShowsTheViewer) {
     reports::FindReport(index)->EndDate = platform::Date(2024, 2, 29);
     auto& viewer = View(index);
     viewer.resize(1000, 720);
+    auto& zoom = support::Find<QWidget>(viewer, "cboZoom");
+    const QPoint middle = zoom.mapTo(&viewer, zoom.rect().center());
+    EXPECT_TRUE(zoom.isAncestorOf(viewer.childAt(middle))) << "the footer is covered";
     EXPECT_THAT(support::Portray(viewer, Name(viewer, "frmReportViewer")), IsEmpty());
     EXPECT_THAT(support::MnemonicFaults(viewer), IsEmpty());
     EXPECT_THAT(support::NameFaults(viewer), IsEmpty());
