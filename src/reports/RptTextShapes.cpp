@@ -120,7 +120,7 @@ void clsRptText::DrawShape(const TextCommand& command, PrintSurface& page) const
     const Twips left = cells.X(x1);
     const Twips top = cells.Y(y1);
     if (command.Kind == TextCommandKind::Locate) {
-        page.MoveTo(left, top);
+        page.Locate(left, top);
     } else if (command.Kind == TextCommandKind::Line) {
         page.DrawLine(left, top, cells.X(x2), cells.Y(y2));
     } else {

@@ -38,6 +38,7 @@ int PrintSurface::PageCount() const {
 void PrintSurface::StartDoc() {
     if (state_->flow) state_->flow->BeginFlow(state_->info);
     state_->maker.Begin(state_->info);
+    locatedPage_ = 0;
     MoveTo(MarginLeft(), MarginTop());
 }
 
@@ -49,6 +50,11 @@ void PrintSurface::EndDoc() {
 void PrintSurface::NewPage() {
     state_->maker.NewPage();
     MoveTo(MarginLeft(), MarginTop());
+}
+
+void PrintSurface::Locate(Twips x, Twips y) {
+    MoveTo(x, y);
+    locatedPage_ = PageCount();
 }
 
 void PrintSurface::ApplyStyle(std::string_view name) {

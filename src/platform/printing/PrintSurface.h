@@ -70,6 +70,10 @@ class PrintSurface {
         y_ = y;
     }
 
+    /// Moves to a place that the page's author chose: from there on a captioned line stays on the
+    /// page as long as it fits, even if the lines that follow it don't.
+    void Locate(Twips x, Twips y);
+
     // Measures in the current font.
     Twips TextWidth(std::string_view text) const;
     /// The height of all lines of the text; an empty text is one line high.
@@ -117,6 +121,7 @@ class PrintSurface {
     PrintStyle style_;
     Twips x_ = 0;
     Twips y_ = 0;
+    int locatedPage_ = 0; ///< the page of the last Locate
     std::unique_ptr<State> state_;
 };
 

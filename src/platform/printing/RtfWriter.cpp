@@ -124,7 +124,7 @@ void RtfWriter::BeginTable(const PrintStyle& style, const PrintTable& table,
     if (!table.header.cells.empty()) {
         row_.isHeader = true;
         for (std::size_t i = 0; i < table.columns.size(); ++i) {
-            row_.cells += cellStart(table.columns[i], table.header.bold);
+            row_.cells += cellStart(table.columns[i], table.header.bold) + "\\keepn ";
             if (i < table.header.cells.size()) AppendRtf(row_.cells, table.header.cells[i]);
             row_.cells += "\\cell\n";
         }
@@ -175,9 +175,9 @@ void RtfWriter::EndTable() {
 }
 
 void RtfWriter::Rule(const PrintStyle& style, std::string_view caption) {
-    out_ += fmt::format("\\pard\\sb{}\\sa{}\\brdrb\\brdrs\\brdrw{}\\brdrcf{}", style.spaceBefore,
-                        style.spaceAfter, std::clamp(style.penWidth, 1, 75),
-                        ColorIndex(style.penColor));
+    out_ += fmt::format("\\pard\\sb{}\\sa{}{}\\brdrb\\brdrs\\brdrw{}\\brdrcf{}", style.spaceBefore,
+                        style.spaceAfter, caption.empty() ? "" : "\\keepn",
+                        std::clamp(style.penWidth, 1, 75), ColorIndex(style.penColor));
     out_ += FontWords(style);
     AppendRtf(out_, caption);
     out_ += "\\par\n";

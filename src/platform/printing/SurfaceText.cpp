@@ -11,6 +11,9 @@ namespace {
 /// The short line before the caption of a separator line.
 constexpr Twips kCaptionLead = 360;
 
+/// A heading or caption goes to the next page unless this many lines fit below it.
+constexpr Twips kLinesKept = 3;
+
 TextInk InkOf(FontMetrics& metrics, const PrintStyle& style) {
     return {.measure = TextMeasure(metrics, style),
             .color = style.textColor,
@@ -68,8 +71,6 @@ void PrintSurface::PrintLines(std::string_view clean) {
     state_->lines.clear();
     BreakLines(ink.measure, clean, std::max(right - left, 1), state_->lines);
 
-    // A heading stays with what follows it.
-    constexpr Twips kLinesKept = 3;
     const auto count = static_cast<Twips>(std::min<std::size_t>(state_->lines.size(), 8));
     if (style_.heading != HeadingLevel::None && Breaks((count + kLinesKept) * height)) NewPage();
 
@@ -95,7 +96,8 @@ void PrintSurface::SepLine(std::string_view caption) {
     const bool plain = Trim(caption) == "-";
     const TextInk ink = InkOf(metrics_, style_);
     const Twips height = ink.measure.LineHeight();
-    if (Breaks(height)) NewPage();
+    const bool isKept = !plain && locatedPage_ != PageCount();
+    if (Breaks(isKept ? (1 + kLinesKept) * height : height)) NewPage();
     if (state_->flow) state_->flow->Rule(style_, plain ? std::string_view() : caption);
 
     const Twips left = MarginLeft();

@@ -156,6 +156,27 @@ TEST_F(Surface, KeepsAHeadingWithWhatFollowsIt) {
     EXPECT_EQ(Texts(1), "1440,1620 Heading\n");
 }
 
+TEST_F(Surface, KeepsACaptionedLineWithWhatFollowsUnlessItIsLocated) {
+    const auto pageOf = [this](int linesBefore, std::string_view caption, bool isLocated) {
+        document.Clear();
+        surface.SetUp({.marginBottom = 15'840 - 1'440 - 240 * 10});
+        surface.StartDoc();
+        if (isLocated) surface.Locate(1'440, 1'440);
+        for (int i = 0; i < linesBefore; ++i)
+            surface.Text("x");
+        surface.SepLine(caption);
+        const int page = surface.PageCount();
+        surface.EndDoc();
+        return page;
+    };
+    surface.Style().fontSize = 10; // ten lines a page
+    EXPECT_EQ(pageOf(6, "Caption", false), 1);
+    EXPECT_EQ(pageOf(7, "Caption", false), 2);
+    EXPECT_EQ(pageOf(9, "-", false), 1);
+    EXPECT_EQ(pageOf(9, "Caption", true), 1) << "the author put it there";
+    EXPECT_EQ(pageOf(10, "Caption", true), 2);
+}
+
 TEST_F(Surface, CutsMarginsThatLeaveNoRoom) {
     Start({.marginLeft = 20'000, .marginTop = -5, .marginRight = 20'000, .marginBottom = 0});
     EXPECT_EQ(surface.PrintWidth(), 1'440);
