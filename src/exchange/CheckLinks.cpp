@@ -16,7 +16,7 @@ struct Link {
     std::string_view parent;
     std::string_view parentKey;
     Severity severity;
-    std::string_view where = "";
+    std::string_view where = {};
 };
 
 constexpr Severity kFault = Severity::Fault;

@@ -125,6 +125,7 @@ void CheckLines(PortReader& reader, ImportCheck& found, const PortWatcher& watch
 
 std::vector<std::string> TextsOf(const std::vector<PortItem>& items) {
     std::vector<std::string> texts;
+    texts.reserve(items.size());
     for (const PortItem& item : items)
         texts.emplace_back(item.text);
     return texts;

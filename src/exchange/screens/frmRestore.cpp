@@ -40,7 +40,9 @@ QTreeWidgetItem* MakeRow(const ContainerEntry& entry) {
     const EntryHeader& header = entry.header;
     auto* const row = new QTreeWidgetItem(
         {ToScreen(header.filePath), KindText(header.fileType),
-         entry.state == EntryState::Damaged ? QString() : QLocale::c().toString(header.fileSize),
+         entry.state == EntryState::Damaged
+             ? QString()
+             : QLocale(QLocale::English, QLocale::UnitedStates).toString(header.fileSize),
          ToScreen(header.fileDate), ToScreen(std::string(StateWord(entry.state)))});
     row->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
     row->setToolTip(0, row->text(0));
