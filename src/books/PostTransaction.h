@@ -21,8 +21,18 @@ struct Party {
     friend bool operator==(const Party&, const Party&) = default;
 };
 
+/// The records that a transaction is about, 0 for none.
+struct References {
+    std::int32_t idTenant = 0;
+    std::int32_t idBuilding = 0;
+    std::int32_t idUnit = 0;
+    std::int32_t idLease = 0;
+    std::int32_t idMortgage = 0;
+    std::int32_t idWorkOrder = 0;
+};
+
 /// A movement of money from the debit side to the credit side.
-struct Transaction {
+struct Transaction : References {
     platform::Date dateEffective;
     Party debit;
     Party credit;
@@ -35,13 +45,6 @@ struct Transaction {
     /// and for deposits the flag of the rent log.
     std::int16_t transactionClass = 0;
     std::int16_t flags = 0;
-    // Related records, 0 for none.
-    std::int32_t idTenant = 0;
-    std::int32_t idBuilding = 0;
-    std::int32_t idUnit = 0;
-    std::int32_t idLease = 0;
-    std::int32_t idMortgage = 0;
-    std::int32_t idWorkOrder = 0;
 };
 
 /// Whether a new row starts the events that wait for one like it.

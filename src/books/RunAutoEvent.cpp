@@ -3,6 +3,7 @@
 #include "books/AutoEvent.h"
 #include "books/PostTransaction.h"
 #include "books/TellLists.h"
+#include "books/TransactionRow.h"
 #include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/RecordHelpers.h"
@@ -38,12 +39,7 @@ Transaction PostingOf(Recordset& event, Date date) {
     posting.ien = Ien{CountOf(event["IEN"])};
     posting.checkNumber = kCheckNumber;
     posting.description = TextOf(event["Description"]);
-    posting.idTenant = IdOf(event["IdTenant"]);
-    posting.idBuilding = IdOf(event["IdBuilding"]);
-    posting.idUnit = IdOf(event["IdUnit"]);
-    posting.idLease = IdOf(event["IdLease"]);
-    posting.idMortgage = IdOf(event["IdMortgage"]);
-    posting.idWorkOrder = IdOf(event["IdWorkOrder"]);
+    static_cast<References&>(posting) = ReadReferences(event);
     return posting;
 }
 

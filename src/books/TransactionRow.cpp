@@ -1,5 +1,7 @@
 #include "books/TransactionRow.h"
 
+#include <algorithm>
+
 #include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 
@@ -72,13 +74,20 @@ constexpr FieldOf kFields[] = {
     Of<&Transaction::description>("Description"),
     Of<&Transaction::transactionClass>("Class"),
     Of<&Transaction::flags>("Flags"),
-    Of<&Transaction::idTenant>("IdTenant"),
-    Of<&Transaction::idBuilding>("IdBuilding"),
-    Of<&Transaction::idUnit>("IdUnit"),
-    Of<&Transaction::idLease>("IdLease"),
-    Of<&Transaction::idMortgage>("IdMortgage"),
-    Of<&Transaction::idWorkOrder>("IdWorkOrder"),
 };
+
+constexpr FieldOf kReferences[] = {
+    Of<&Transaction::idTenant>("IdTenant"),     Of<&Transaction::idBuilding>("IdBuilding"),
+    Of<&Transaction::idUnit>("IdUnit"),         Of<&Transaction::idLease>("IdLease"),
+    Of<&Transaction::idMortgage>("IdMortgage"), Of<&Transaction::idWorkOrder>("IdWorkOrder"),
+};
+
+/// Calls `work` with each field in the order of the table.
+template <class Work>
+void ForEachField(Work work) {
+    std::ranges::for_each(kFields, work);
+    std::ranges::for_each(kReferences, work);
+}
 
 void WriteBalances(Recordset& rows) {
     for (const auto* balance : {"DebitPrevBal", "DebitNewBal", "CreditPrevBal", "CreditNewBal"})
@@ -97,25 +106,30 @@ core::RowToWrite TransactionToWrite(std::int32_t id) {
 }
 
 void WriteTransactionFields(Recordset& rows, const Transaction& transaction) {
-    for (const FieldOf& field : kFields)
-        field.write(rows[field.name], transaction);
+    ForEachField([&](const FieldOf& field) { field.write(rows[field.name], transaction); });
     WriteBalances(rows);
 }
 
 void WriteChangedFields(Recordset& rows, const Transaction& entered, const Transaction& shown) {
     bool isChanged = false;
-    for (const FieldOf& field : kFields) {
-        if (field.same(entered, shown)) continue;
+    ForEachField([&](const FieldOf& field) {
+        if (field.same(entered, shown)) return;
         field.write(rows[field.name], entered);
         isChanged = true;
-    }
+    });
     if (isChanged) WriteBalances(rows);
+}
+
+References ReadReferences(Recordset& rows) {
+    Transaction transaction;
+    for (const FieldOf& field : kReferences)
+        field.read(rows[field.name], transaction);
+    return transaction;
 }
 
 Transaction ReadTransactionFields(Recordset& rows) {
     Transaction transaction;
-    for (const FieldOf& field : kFields)
-        field.read(rows[field.name], transaction);
+    ForEachField([&](const FieldOf& field) { field.read(rows[field.name], transaction); });
     return transaction;
 }
 

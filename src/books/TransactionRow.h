@@ -23,6 +23,9 @@ void WriteTransactionFields(platform::Recordset& rows, const Transaction& transa
 void WriteChangedFields(platform::Recordset& rows, const Transaction& entered,
                         const Transaction& shown);
 
+/// Returns the references of the current row, of a transaction or of an event; unset ones are 0.
+References ReadReferences(platform::Recordset& rows);
+
 /// Returns the fields of the current row; unset ones are empty or 0.
 Transaction ReadTransactionFields(platform::Recordset& rows);
 

@@ -49,7 +49,6 @@ books::Transaction DepositTransaction(std::int32_t idLease, RentFlags flags) {
     if (lease.Eof()) {
         throw platform::DatabaseError("There is no lease " + std::to_string(idLease));
     }
-    const LeaseLinks links = GetLeaseLinks(idLease);
     const std::int32_t idAccount = IdOf(lease["DepositAccount"]);
     books::Transaction transaction;
     transaction.dateEffective = platform::Today();
@@ -57,10 +56,7 @@ books::Transaction DepositTransaction(std::int32_t idLease, RentFlags flags) {
                          core::GetDescription(core::kAccount, idAccount)};
     transaction.transactionClass = static_cast<std::int16_t>(RentClass::Deposit);
     transaction.flags = static_cast<std::int16_t>(flags);
-    transaction.idLease = idLease;
-    transaction.idTenant = links.idTenant;
-    transaction.idUnit = links.idUnit;
-    transaction.idBuilding = links.idBuilding;
+    static_cast<books::References&>(transaction) = GetLeaseLinks(idLease);
     transaction.amount = MoneyOf(lease["DepositBalance"]);
     return transaction;
 }

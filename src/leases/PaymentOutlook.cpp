@@ -41,9 +41,10 @@ bool IsStored(std::int32_t idTransaction) {
 }
 
 std::string DescribeReceiver(const RentPayment& payment) {
-    if (payment.toAccount != 0) return {};
-    if (payment.toName.empty()) return ". No account is chosen to receive it";
-    return fmt::format(". \"{}\" receives it, which is not one of your accounts", payment.toName);
+    if (payment.to.id != 0) return {};
+    if (payment.to.description.empty()) return ". No account is chosen to receive it";
+    return fmt::format(". \"{}\" receives it, which is not one of your accounts",
+                       payment.to.description);
 }
 
 std::string DescribeCharges(const RentPayment& payment) {

@@ -30,8 +30,8 @@ std::string_view DescriptionStart(RentClass rentClass) {
     return "Rent Payment for ";
 }
 
-std::string NameOf(std::int16_t kind, std::int32_t id) {
-    return core::GetDescription(kind, id, 0, false);
+books::Party PartyOf(std::int16_t kind, std::int32_t id) {
+    return {kind, id, core::GetDescription(kind, id, 0, false)};
 }
 
 void AddRows(RentPayment& payment, Recordset& rows, bool selected) {
@@ -71,9 +71,8 @@ void SetPayer(RentPayment& payment, Recordset& lease) {
     const bool byPayor = payment.rentClass == RentClass::Subsidy &&
                          (kind == core::kAccount || kind == core::kTenant) &&
                          !lease["SubsidyId"].IsNull();
-    payment.fromType = byPayor ? kind : core::kTenant;
-    payment.fromId = IdOf(lease[byPayor ? "SubsidyId" : "IdTenant"]);
-    payment.fromName = NameOf(payment.fromType, payment.fromId);
+    payment.from =
+        PartyOf(byPayor ? kind : core::kTenant, IdOf(lease[byPayor ? "SubsidyId" : "IdTenant"]));
 }
 
 } // namespace
@@ -122,10 +121,10 @@ RentPayment ProposePayment(std::int32_t idLease, RentClass rentClass) {
     payment.rentClass = rentClass;
     payment.dateEffective = platform::Today();
     SetPayer(payment, lease);
-    payment.toAccount = IdOf(lease["RentAccount"]);
-    payment.toName = NameOf(core::kAccount, payment.toAccount);
-    payment.paymentWord = PaymentWords(rentClass).front();
-    payment.description = std::string(DescriptionStart(rentClass)) + NameOf(core::kLease, idLease);
+    payment.to = PartyOf(core::kAccount, IdOf(lease["RentAccount"]));
+    payment.paymentType = PaymentWords(rentClass).front();
+    payment.description =
+        std::string(DescriptionStart(rentClass)) + PartyOf(core::kLease, idLease).description;
     ReadCharges(payment);
     return payment;
 }
@@ -141,13 +140,11 @@ RentPayment ReadPayment(std::int32_t idTransaction) {
     payment.idLease = IdOf(row["IdLease"]);
     payment.rentClass = RentClass{static_cast<std::int16_t>(IdOf(row["Class"]))};
     if (!row["DateEffective"].IsBlank()) payment.dateEffective = row["DateEffective"].AsDate();
-    payment.fromType = static_cast<std::int16_t>(IdOf(row["DebitType"]));
-    payment.fromId = IdOf(row["DebitId"]);
-    payment.fromName = TextOf(row["DebitDesc"]);
-    payment.toAccount = IdOf(row["CreditId"]);
-    payment.toName = TextOf(row["CreditDesc"]);
+    payment.from = {static_cast<std::int16_t>(IdOf(row["DebitType"])), IdOf(row["DebitId"]),
+                    TextOf(row["DebitDesc"])};
+    payment.to = {core::kAccount, IdOf(row["CreditId"]), TextOf(row["CreditDesc"])};
     payment.checkNumber = TextOf(row["CheckNum"]);
-    payment.paymentWord = TextOf(row["TaxCategory"]);
+    payment.paymentType = TextOf(row["TaxCategory"]);
     payment.description = TextOf(row["Description"]);
     ReadCharges(payment);
     return payment;

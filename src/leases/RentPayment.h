@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "books/Payment.h"
 #include "leases/RentCodes.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Date.h"
@@ -21,26 +22,11 @@ struct PaymentCharge {
     bool selected = true;
 };
 
-/// A payment of one class against a lease, as it stands before it is submitted.
-struct RentPayment {
-    /// 0 for a new payment.
-    std::int32_t idTransaction = 0;
-    /// The ledger row that a stored payment left, 0 for none.
-    std::int32_t idPaymentRow = 0;
+/// A payment of one class against a lease before it is submitted: from an account or a tenant, or
+/// somebody who is only a name, to an account. The payment row carries its type too.
+struct RentPayment : books::Payment {
     std::int32_t idLease = 0;
     RentClass rentClass = RentClass::Rent;
-    platform::Date dateEffective;
-    /// Who pays: record kind (account or tenant), id and name; a name alone has id 0.
-    std::int16_t fromType = 0;
-    std::int32_t fromId = 0;
-    std::string fromName;
-    /// The receiving account, 0 for none.
-    std::int32_t toAccount = 0;
-    std::string toName;
-    std::string checkNumber;
-    /// The category that the transaction and the payment row carry.
-    std::string paymentWord;
-    std::string description;
     /// In the order they are settled: by day, then by id.
     std::vector<PaymentCharge> charges;
 

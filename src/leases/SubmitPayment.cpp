@@ -2,7 +2,7 @@
 
 #include <fmt/core.h>
 
-#include "books/PostTransaction.h"
+#include "core/ChargeLedger.h"
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
@@ -22,21 +22,15 @@ using platform::Recordset;
 
 namespace {
 
-bool IsNew(const RentPayment& payment) {
-    return payment.idTransaction == 0;
-}
-
 /// Who paid or changed a charge since the payment was read decides: the two would pay it twice.
 [[noreturn]] void ThrowConflict(const PaymentCharge& charge) {
-    Recordset row =
-        core::Read("SELECT IdTransaction FROM RentLog WHERE IdRentLog = ?", {charge.idRentLog});
-    const bool isPaid = !row.Eof() && IdOf(row["IdTransaction"]) != 0;
+    const auto settledBy = core::SettledBy(core::kRentLedger, charge.idRentLog);
     throw ConflictError(fmt::format(
         "The charge \"{}\" of {} was {} after this payment was opened. Nothing was posted.",
         charge.description, charge.datePosted.ToText(),
-        row.Eof() ? "deleted"
-        : isPaid  ? "paid"
-                  : "changed"));
+        !settledBy        ? "deleted"
+        : *settledBy != 0 ? "paid"
+                          : "changed"));
 }
 
 bool IsSameCharge(const PaymentCharge& a, const PaymentCharge& b) {
@@ -44,8 +38,7 @@ bool IsSameCharge(const PaymentCharge& a, const PaymentCharge& b) {
 }
 
 void CheckLease(std::int32_t idLease) {
-    if (core::App().Connection.Scalar("SELECT IdLease FROM Lease WHERE IdLease = ?", {idLease}))
-        return;
+    if (core::Exists("SELECT IdLease FROM Lease WHERE IdLease = ?", {idLease})) return;
     throw ConflictError("The lease was deleted after this payment was opened. Nothing was posted.");
 }
 
@@ -53,7 +46,7 @@ void CheckLease(std::int32_t idLease) {
 /// ConflictError if a charge that it settles can't be settled as it was shown, or if it has settled
 /// one since that was not shown.
 RentPayment CheckUnchanged(const RentPayment& payment) {
-    if (IsNew(payment)) CheckLease(payment.idLease);
+    if (payment.IsNew()) CheckLease(payment.idLease);
     RentPayment now = payment;
     ReadCharges(now, OpenCharges::Offer);
     for (const PaymentCharge& charge : payment.charges) {
@@ -63,7 +56,7 @@ RentPayment CheckUnchanged(const RentPayment& payment) {
         if (!isThere) ThrowConflict(charge);
     }
     for (const PaymentCharge& settled : now.charges) {
-        if (IsNew(payment) || !settled.selected) continue;
+        if (payment.IsNew() || !settled.selected) continue;
         if (std::ranges::find(payment.charges, settled.idRentLog, &PaymentCharge::idRentLog) ==
             payment.charges.end()) {
             throw ConflictError("The payment was changed after it was opened. Nothing was posted.");
@@ -73,47 +66,35 @@ RentPayment CheckUnchanged(const RentPayment& payment) {
 }
 
 /// A stored payment whose lease was removed keeps the unit and building that it was posted with.
-LeaseLinks LinksOf(const RentPayment& payment) {
-    const LeaseLinks links = GetLeaseLinks(payment.idLease);
-    if (links.idUnit != 0 || IsNew(payment)) return links;
+books::References LinksOf(const RentPayment& payment) {
+    books::References links = GetLeaseLinks(payment.idLease);
+    if (links.idUnit != 0 || payment.IsNew()) return links;
     Recordset row =
-        core::Read("SELECT IdTenant, IdUnit, IdBuilding FROM Transactions WHERE IdTransaction = ?",
+        core::Read("SELECT IdUnit, IdBuilding FROM Transactions WHERE IdTransaction = ?",
                    {payment.idTransaction});
     if (row.Eof()) return links;
-    return {IdOf(row["IdTenant"]), IdOf(row["IdUnit"]), IdOf(row["IdBuilding"])};
+    links.idUnit = IdOf(row["IdUnit"]);
+    links.idBuilding = IdOf(row["IdBuilding"]);
+    return links;
 }
 
 books::Transaction TransactionOf(const RentPayment& payment) {
-    const LeaseLinks links = LinksOf(payment);
-    const platform::Currency total = payment.Total();
-    return {.dateEffective = payment.dateEffective,
-            .debit = books::Party{payment.fromType, payment.fromId, payment.fromName},
-            .credit = books::Party{core::kAccount, payment.toAccount, payment.toName},
-            .amount = total,
-            .taxCategory = payment.paymentWord,
-            .ien = payment.rentClass == RentClass::Deposit ? books::Ien::Unclassified
-                                                           : books::Ien::Income,
-            .checkNumber = payment.checkNumber,
-            .description = std::string(platform::Trim(payment.description)),
-            .transactionClass = static_cast<std::int16_t>(payment.rentClass),
-            // The payer's id, even if the payer is an account.
-            .idTenant = payment.fromId,
-            .idBuilding = links.idBuilding,
-            .idUnit = links.idUnit,
-            .idLease = payment.idLease};
-}
-
-std::int32_t WriteTransaction(const RentPayment& payment) {
-    if (IsNew(payment)) return books::PostTransaction(TransactionOf(payment));
-    books::RewriteTransaction(payment.idTransaction, TransactionOf(payment));
-    return payment.idTransaction;
+    books::Transaction transaction = books::TransactionOf(payment, payment.Total());
+    transaction.ien =
+        payment.rentClass == RentClass::Deposit ? books::Ien::Unclassified : books::Ien::Income;
+    transaction.description = platform::Trim(payment.description);
+    transaction.transactionClass = static_cast<std::int16_t>(payment.rentClass);
+    static_cast<books::References&>(transaction) = LinksOf(payment);
+    // The payer's id, even if the payer is an account.
+    transaction.idTenant = payment.from.id;
+    return transaction;
 }
 
 /// The next payment proposes the account that took this one.
 void RememberAccount(const RentPayment& payment) {
     if (payment.rentClass != RentClass::Rent && payment.rentClass != RentClass::Subsidy) return;
     core::Execute("UPDATE Lease SET RentAccount = ? WHERE IdLease = ?",
-                  {payment.toAccount, payment.idLease});
+                  {payment.to.id, payment.idLease});
 }
 
 /// A stored payment's row takes an amount of 0 too: left as it was, it would be money that nobody
@@ -124,31 +105,19 @@ void WritePaymentRow(const RentPayment& payment, std::int32_t idTransaction,
                                 .idTransaction = idTransaction,
                                 .datePosted = payment.dateEffective,
                                 .rentClass = payment.rentClass,
-                                .category = payment.paymentWord,
+                                .category = payment.paymentType,
                                 .amount = -payment.Total(),
-                                .description = payment.paymentWord,
+                                .description = payment.paymentType,
                                 .flags = RentFlags::Payment};
     if (idPaymentRow != 0 && RewriteRentLog(entry, idPaymentRow)) return;
     WriteRentLog(entry);
 }
 
-/// A charge that isn't selected is released by this payment, and stays another's.
-void Settle(const PaymentCharge& charge, std::int32_t idTransaction) {
-    platform::Connection& books = core::App().Connection;
-    if (charge.selected) {
-        books.Execute("UPDATE RentLog SET IdTransaction = ? WHERE IdRentLog = ?",
-                      {idTransaction, charge.idRentLog});
-    } else {
-        books.Execute(
-            "UPDATE RentLog SET IdTransaction = 0 WHERE IdRentLog = ? AND IdTransaction = ?",
-            {charge.idRentLog, idTransaction});
-    }
-}
-
 void SettleCharges(const RentPayment& payment, std::int32_t idTransaction) {
-    const bool moves = IsNew(payment) && payment.rentClass == RentClass::Rent;
+    const bool moves = payment.IsNew() && payment.rentClass == RentClass::Rent;
     for (const PaymentCharge& charge : payment.charges) {
-        Settle(charge, idTransaction);
+        core::Settle(core::kRentLedger, charge.idRentLog, idTransaction,
+                     charge.selected ? core::Settled::Yes : core::Settled::No);
         if (moves && charge.selected && IsPeriodRent(charge.flags)) {
             AdvanceNextDue(payment.idLease, OptionCredit::Add, Broadcast::No);
         }
@@ -160,7 +129,7 @@ void SettleCharges(const RentPayment& payment, std::int32_t idTransaction) {
 std::int32_t SubmitPayment(const RentPayment& payment, LeaseUpdate update) {
     platform::UnitOfWork unit(core::App().Connection);
     const RentPayment now = CheckUnchanged(payment);
-    const std::int32_t idTransaction = WriteTransaction(payment);
+    const std::int32_t idTransaction = books::StoreTransaction(payment, TransactionOf(payment));
     RememberAccount(payment);
     WritePaymentRow(payment, idTransaction, now.idPaymentRow);
     SettleCharges(payment, idTransaction);

@@ -122,8 +122,9 @@ void AdvanceNextDue(std::int32_t idLease, OptionCredit credit, Broadcast broadca
     if (broadcast == Broadcast::Yes) core::NotifyAll(core::kLease, core::kRecordsChanged, idLease);
 }
 
-LeaseLinks GetLeaseLinks(std::int32_t idLease) {
-    LeaseLinks links;
+books::References GetLeaseLinks(std::int32_t idLease) {
+    books::References links;
+    links.idLease = idLease;
     if (idLease == 0) return links;
     core::GetLeaseParties(idLease, links.idUnit, links.idTenant);
     links.idBuilding = core::GetUnitBuilding(links.idUnit);

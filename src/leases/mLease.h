@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "books/PostTransaction.h"
 #include "core/DailyRun.h"
 #include "leases/LeaseWalk.h"
 #include "platform/database/Recordset.h"
@@ -38,12 +39,7 @@ enum class Broadcast { No, Yes };
 /// option earns its credit. Nothing for a lease that isn't there.
 void AdvanceNextDue(std::int32_t idLease, OptionCredit credit, Broadcast broadcast);
 
-struct LeaseLinks {
-    std::int32_t idTenant = 0;
-    std::int32_t idUnit = 0;
-    std::int32_t idBuilding = 0;
-};
 /// Tenant, unit and building of a lease; 0 for what isn't there.
-LeaseLinks GetLeaseLinks(std::int32_t idLease);
+books::References GetLeaseLinks(std::int32_t idLease);
 
 } // namespace leases

@@ -4,16 +4,14 @@
 
 #include <fmt/core.h>
 
-#include "core/Globals.h"
-#include "core/NotifyAll.h"
+#include "books/Payment.h"
+#include "core/ChargeLedger.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
-#include "platform/dialogs/Dialogs.h"
 #include "platform/values/Format.h"
-#include "removal/DeleteRecord.h"
 
 namespace mortgages {
 
@@ -40,29 +38,19 @@ LogRow RowOf(Recordset& rows) {
 /// More rows than these would make a question that doesn't fit the screen.
 constexpr std::size_t kMostNamed = 12;
 
-/// The row as the question names it; empty for one that isn't there any more.
+/// The row as the question names it, on a line of its own; a deleted row has an empty line.
 std::string NameOf(std::int32_t idMortgageLog) {
     Recordset row =
         core::Read("SELECT DatePosted, Description, Total FROM MortgageLog WHERE IdMortgageLog = ?",
                    {idMortgageLog});
-    if (row.Eof()) return {};
-    return fmt::format("{}  {}  {}", TextOf(row["DatePosted"]), TextOf(row["Description"]),
+    if (row.Eof()) return "\n";
+    return fmt::format("\n{}  {}  {}", TextOf(row["DatePosted"]), TextOf(row["Description"]),
                        platform::FormatMoney(MoneyOf(row["Total"])));
 }
 
-std::string QuestionOf(std::string_view question, const std::vector<ShownCharge>& rows) {
-    std::string text = std::string(question) + "\n";
-    for (std::size_t i = 0; i < std::min(rows.size(), kMostNamed); ++i)
-        text += "\n" + NameOf(rows[i].idMortgageLog);
-    if (rows.size() > kMostNamed) text += fmt::format("\nand {} more", rows.size() - kMostNamed);
-    return text;
-}
-
 void CheckUnchanged(const ShownCharge& shown) {
-    const auto paidBy = core::App().Connection.Scalar(
-        "SELECT IdTransaction FROM MortgageLog WHERE IdMortgageLog = ?", {shown.idMortgageLog});
-    if (!paidBy) return;
-    if ((paidBy->IsNull() ? 0 : paidBy->AsLong()) == shown.idTransaction) return;
+    const auto settledBy = core::SettledBy(core::kMortgageLedger, shown.idMortgageLog);
+    if (!settledBy || *settledBy == shown.idTransaction) return;
     throw platform::ConflictError(
         shown.idTransaction == 0
             ? "One of these charges has been paid in the meantime. Nothing was deleted."
@@ -95,21 +83,17 @@ std::int32_t TransactionOfLogRow(std::int32_t idMortgageLog) {
 
 bool DeleteLogRows(const std::vector<ShownCharge>& rows, std::string_view question,
                    SingleRow single) {
-    if (rows.empty()) return false;
-    const bool asRecord = rows.size() == 1 && single == SingleRow::AsRecord;
-    const bool agreed =
-        asRecord ? removal::AgreedToDelete(core::kMortgageLog, rows.front().idMortgageLog)
-                 : platform::TheDialogs().AskYesNo("Confirm Delete", QuestionOf(question, rows),
-                                                   platform::Icon::Question);
-    if (!agreed) return false;
-    platform::UnitOfWork unit(core::App().Connection);
-    for (const ShownCharge& row : rows) {
-        CheckUnchanged(row);
-        removal::RemoveRecord(core::kMortgageLog, row.idMortgageLog, removal::Tell::Nobody);
+    books::ChargeDeletion deletion{.kind = core::kMortgageLog};
+    for (const ShownCharge& row : rows)
+        deletion.ids.push_back(row.idMortgageLog);
+    if (rows.size() != 1 || single == SingleRow::AsSeveral) {
+        deletion.question =
+            std::string(question) + "\n" + books::NameFirst(deletion.ids, kMostNamed, NameOf);
     }
-    unit.Commit();
-    core::NotifyAll(core::kMortgageLog, core::kRecordsChanged, 0);
-    return true;
+    deletion.check = [&rows](std::int32_t id) {
+        CheckUnchanged(*std::ranges::find(rows, id, &ShownCharge::idMortgageLog));
+    };
+    return books::DeleteCharges(deletion);
 }
 
 } // namespace mortgages

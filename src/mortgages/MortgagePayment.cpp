@@ -16,16 +16,16 @@ using platform::Recordset;
 
 namespace {
 
-std::string AccountName(std::int32_t idAccount) {
-    return core::GetDescription(core::kAccount, idAccount, 0, false);
+books::Party AccountOf(std::int32_t id) {
+    return {core::kAccount, id, core::GetDescription(core::kAccount, id, 0, false)};
 }
 
-/// Reads one side: the account's id and present name, or a stored name without an account.
-void ReadParty(Recordset& row, std::string_view idField, std::string_view nameField,
-               std::int32_t& id, std::string& name) {
-    id = IdOf(row[idField]);
-    name = id == 0 ? TextOf(row[nameField]) : AccountName(id);
-    if (name.empty()) name = TextOf(row[nameField]);
+/// Reads one side: the account's id and present name, or the stored name without an account.
+books::Party ReadParty(Recordset& row, std::string_view idField, std::string_view nameField) {
+    const std::int32_t id = IdOf(row[idField]);
+    books::Party party = AccountOf(id);
+    if (id == 0 || party.description.empty()) party.description = TextOf(row[nameField]);
+    return party;
 }
 
 PaymentCharge ChargeOf(Recordset& rows) {
@@ -78,10 +78,8 @@ MortgagePayment ProposeMortgagePayment(std::int32_t idMortgage) {
     MortgagePayment payment;
     payment.idMortgage = idMortgage;
     payment.dateEffective = platform::Today();
-    payment.fromAccount = IdOf(row["IdLastPmt"]);
-    payment.fromName = AccountName(payment.fromAccount);
-    payment.toAccount = IdOf(row["IdMortgagee"]);
-    payment.toName = AccountName(payment.toAccount);
+    payment.from = AccountOf(IdOf(row["IdLastPmt"]));
+    payment.to = AccountOf(IdOf(row["IdMortgagee"]));
     payment.paymentType = kCategoryPayment;
     payment.description = "Mortgage Payment for " + TextOf(row["Description"]);
     ReadCharges(payment);
@@ -98,8 +96,8 @@ MortgagePayment ReadMortgagePayment(std::int32_t idTransaction) {
     payment.idTransaction = idTransaction;
     payment.idMortgage = IdOf(row["IdMortgage"]);
     payment.dateEffective = DateOf(row["DateEffective"]);
-    ReadParty(row, "DebitId", "DebitDesc", payment.fromAccount, payment.fromName);
-    ReadParty(row, "CreditId", "CreditDesc", payment.toAccount, payment.toName);
+    payment.from = ReadParty(row, "DebitId", "DebitDesc");
+    payment.to = ReadParty(row, "CreditId", "CreditDesc");
     payment.checkNumber = TextOf(row["CheckNum"]);
     payment.paymentType = TextOf(row["TaxCategory"]);
     payment.description = TextOf(row["Description"]);

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "books/Payment.h"
 #include "mortgages/MortgageCodes.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Date.h"
@@ -28,23 +29,10 @@ struct PaymentCharge {
     bool IsBasePayment() const { return flags == LogFlags::BasePayment; }
 };
 
-/// A payment of a mortgage before it is submitted.
-struct MortgagePayment {
+/// A payment of a mortgage before it is submitted, from one account to another; a side's id is 0 if
+/// only a name was typed.
+struct MortgagePayment : books::Payment {
     std::int32_t idMortgage = 0;
-    /// 0 for a new payment.
-    std::int32_t idTransaction = 0;
-    /// The log row that a stored payment left, 0 for none.
-    std::int32_t idPaymentRow = 0;
-    platform::Date dateEffective;
-    /// The paying and the receiving account; id 0 if only a name was typed.
-    std::int32_t fromAccount = 0;
-    std::string fromName;
-    std::int32_t toAccount = 0;
-    std::string toName;
-    std::string checkNumber;
-    /// The category that the transaction carries.
-    std::string paymentType;
-    std::string description;
     /// Ordered by the day they were posted on.
     std::vector<PaymentCharge> charges;
     /// Principal that a new payment pays beyond the selected charges.

@@ -3,7 +3,7 @@
 
 #include <fmt/core.h>
 
-#include "books/PostTransaction.h"
+#include "core/ChargeLedger.h"
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
@@ -68,7 +68,7 @@ void CheckStoredPayment(const MortgagePayment& payment) {
 }
 
 void CheckUnchanged(const MortgagePayment& payment) {
-    if (payment.idTransaction != 0) {
+    if (!payment.IsNew()) {
         CheckStoredPayment(payment);
     } else if (!MortgageExists(payment.idMortgage)) {
         throw ConflictError("The mortgage has been deleted. Nothing was paid.");
@@ -82,7 +82,7 @@ void CheckUnchanged(const MortgagePayment& payment) {
 
 /// A payment of a mortgage that was deleted keeps the building it was booked for.
 std::int32_t BuildingOf(const MortgagePayment& payment) {
-    if (payment.idTransaction == 0 || MortgageExists(payment.idMortgage)) {
+    if (payment.IsNew() || MortgageExists(payment.idMortgage)) {
         return core::GetMortgageBuilding(payment.idMortgage);
     }
     return platform::AsOr0<std::int32_t>(core::ReadValue(
@@ -90,29 +90,16 @@ std::int32_t BuildingOf(const MortgagePayment& payment) {
 }
 
 books::Transaction TransactionOf(const MortgagePayment& payment) {
-    books::Transaction transaction;
-    transaction.dateEffective = payment.dateEffective;
-    transaction.debit = {core::kAccount, payment.fromAccount, payment.fromName};
-    transaction.credit = {core::kAccount, payment.toAccount, payment.toName};
-    transaction.amount = payment.PaidAmount();
-    transaction.taxCategory = payment.paymentType;
+    books::Transaction transaction = books::TransactionOf(payment, payment.PaidAmount());
     transaction.ien = books::Ien::Expense;
-    transaction.checkNumber = payment.checkNumber;
-    transaction.description = payment.description;
     transaction.transactionClass = kMortgagePaymentClass;
     transaction.idBuilding = BuildingOf(payment);
     transaction.idMortgage = payment.idMortgage;
     return transaction;
 }
 
-std::int32_t WriteTransaction(const MortgagePayment& payment) {
-    if (payment.idTransaction == 0) return books::PostTransaction(TransactionOf(payment));
-    books::RewriteTransaction(payment.idTransaction, TransactionOf(payment));
-    return payment.idTransaction;
-}
-
 MortgageLogEntry PaymentRowOf(const MortgagePayment& payment, std::int32_t idTransaction) {
-    const bool isNew = payment.idTransaction == 0;
+    const bool isNew = payment.IsNew();
     MortgageLogEntry entry;
     entry.idMortgage = payment.idMortgage;
     entry.idTransaction = idTransaction;
@@ -134,15 +121,12 @@ void ApplyBasePayment(std::int32_t idMortgage, const PaymentCharge& charge, bool
     mortgage.SaveMtg(idMortgage);
 }
 
-/// Only charges that this payment settled before are opened again.
 void SettleCharges(const MortgagePayment& payment, std::int32_t idTransaction) {
     for (const PaymentCharge& charge : payment.charges) {
-        core::Execute(
-            "UPDATE MortgageLog SET IdTransaction = ? WHERE IdMortgageLog = ? "
-            "AND (IdTransaction = 0 OR IdTransaction IS NULL OR IdTransaction = ?)",
-            {charge.selected ? idTransaction : 0, charge.idMortgageLog, idTransaction});
+        core::Settle(core::kMortgageLedger, charge.idMortgageLog, idTransaction,
+                     charge.selected ? core::Settled::Yes : core::Settled::No);
         if (charge.selected && charge.IsBasePayment())
-            ApplyBasePayment(payment.idMortgage, charge, payment.idTransaction == 0);
+            ApplyBasePayment(payment.idMortgage, charge, payment.IsNew());
     }
 }
 
@@ -177,10 +161,10 @@ std::vector<std::string> PaymentErrors(const MortgagePayment& payment) {
 std::int32_t SubmitMortgagePayment(const MortgagePayment& payment) {
     platform::UnitOfWork unit(core::App().Connection);
     CheckUnchanged(payment);
-    const std::int32_t idTransaction = WriteTransaction(payment);
+    const std::int32_t idTransaction = books::StoreTransaction(payment, TransactionOf(payment));
     WriteMortgageLog(PaymentRowOf(payment, idTransaction), payment.idPaymentRow);
     core::Execute("UPDATE Mortgage SET IdLastPmt = ? WHERE IdMortgage = ?",
-                  {payment.fromAccount, payment.idMortgage});
+                  {payment.from.id, payment.idMortgage});
     SettleCharges(payment, idTransaction);
     BookExtra(payment, idTransaction);
     RefreshSplits(payment);

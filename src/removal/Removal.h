@@ -6,12 +6,11 @@
 #include <string_view>
 #include <vector>
 
+#include "core/ChargeLedger.h"
 #include "platform/database/Connection.h"
 #include "removal/DeleteRecord.h"
 
 namespace removal {
-
-struct LedgerStatements;
 
 /// Whether the charges that a payment settled are deleted or become open again.
 enum class Charges { OpenAgain, Remove };
@@ -42,7 +41,7 @@ class Removal {
     void RemoveLease(std::int32_t id);
     void RemoveOwner(std::int32_t id);
     void RemoveTransaction(std::int32_t id, Charges charges);
-    void FreeCharges(const LedgerStatements& ledger, std::int32_t idTransaction);
+    void FreeCharges(const core::ChargeLedger& ledger, std::int32_t idTransaction);
     void RemoveStatements(std::int16_t kind, std::int32_t id);
 
     platform::UnitOfWork unit_;

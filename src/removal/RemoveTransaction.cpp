@@ -1,87 +1,50 @@
 #include <string>
-#include <string_view>
 
-#include "core/Codes.h"
+#include <fmt/core.h>
+
+#include "core/ChargeLedger.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
-#include "core/Session.h"
-#include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
 #include "removal/Removal.h"
 
 namespace removal {
 
-using core::Ledger;
-
-/// The statements that remove a payment from the ledger whose charges it settled.
-struct LedgerStatements {
-    std::string_view removeAll;
-    std::string_view removePayment; ///< the rows that the payment itself made
-    std::string_view findOrphans;
-    std::string_view removeOrphan;
-    std::string_view openAgain;
-};
-
-namespace {
-
-Ledger LedgerOf(std::int32_t idTransaction) {
-    const auto code =
-        core::LookUp("SELECT Class FROM Transactions WHERE IdTransaction = ?", {idTransaction});
-    return code ? core::LedgerOf(core::TransactionClass{code->AsInteger()}) : Ledger::None;
-}
-
-constexpr LedgerStatements kRentLedger = {
-    "DELETE * FROM RentLog WHERE idTransaction = ?",
-    "DELETE * FROM RentLog WHERE (idTransaction = ?) AND (Flags = 2)",
-    "SELECT IdRentLog FROM RentLog LEFT JOIN Lease ON RentLog.IdLease = Lease.IdLease "
-    "WHERE (Lease.IdLease IS NULL) AND (RentLog.IdTransaction = ?) ",
-    "DELETE * FROM RentLog WHERE IdRentLog = ?",
-    "UPDATE RentLog SET IdTransaction = 0 WHERE IdTransaction = ?",
-};
-
-constexpr LedgerStatements kMortgageLedger = {
-    "DELETE * FROM MortgageLog WHERE idTransaction = ?",
-    "DELETE * FROM MortgageLog WHERE (idTransaction = ?) AND (Flags = 2)",
-    "SELECT IdMortgageLog FROM MortgageLog "
-    "LEFT JOIN Mortgage ON MortgageLog.IdMortgage = Mortgage.IdMortgage "
-    "WHERE (Mortgage.IdMortgage IS NULL) AND (MortgageLog.IdTransaction = ?) ",
-    "DELETE * FROM MortgageLog WHERE IdMortgageLog = ?",
-    "UPDATE MortgageLog SET IdTransaction = 0 WHERE IdTransaction = ?",
-};
-
-} // namespace
+using core::ChargeLedger;
 
 Charges AskAboutCharges(std::int16_t kind, std::int32_t id) {
-    const Ledger ledger = kind == core::kTransaction ? LedgerOf(id) : Ledger::None;
-    if (ledger == Ledger::None) return Charges::OpenAgain;
-    const std::string text =
-        std::string("Do you want to remove associated ") +
-        (ledger == Ledger::Rent ? "rent" : "mortgage") +
-        " items? If not, these items will no\n"
-        "longer be associated with any transaction and will now show up as unpaid.";
+    const ChargeLedger* const ledger =
+        kind == core::kTransaction ? core::LedgerOfTransaction(id) : nullptr;
+    if (ledger == nullptr) return Charges::OpenAgain;
+    const std::string text = fmt::format(
+        "Do you want to remove associated {} items? If not, these items will no\n"
+        "longer be associated with any transaction and will now show up as unpaid.",
+        ledger->name);
     return platform::TheDialogs().AskYesNo("Confirm Removal", text, platform::Icon::Question)
                ? Charges::Remove
                : Charges::OpenAgain;
 }
 
-void Removal::FreeCharges(const LedgerStatements& ledger, std::int32_t idTransaction) {
-    Execute(ledger.removePayment, {idTransaction});
-    platform::Recordset orphans = core::Read(ledger.findOrphans, {idTransaction});
-    for (; !orphans.Eof(); orphans.MoveNext()) {
-        Execute(ledger.removeOrphan, {orphans[0].Value()});
-    }
-    Execute(ledger.openAgain, {idTransaction});
+void Removal::FreeCharges(const ChargeLedger& ledger, std::int32_t idTransaction) {
+    const std::string rows = fmt::format("DELETE * FROM {} WHERE ", ledger.table);
+    Execute(rows + "(IdTransaction = ?) AND (Flags = 2)", {idTransaction});
+    platform::Recordset orphans =
+        core::Read(fmt::format("SELECT {1} FROM {0} LEFT JOIN {2} ON {0}.{3} = {2}.{3} "
+                               "WHERE ({2}.{3} IS NULL) AND ({0}.IdTransaction = ?)",
+                               ledger.table, ledger.idField, ledger.owner, ledger.ownerIdField),
+                   {idTransaction});
+    for (; !orphans.Eof(); orphans.MoveNext())
+        Execute(fmt::format("{}{} = ?", rows, ledger.idField), {orphans[0].Value()});
+    Execute(fmt::format("UPDATE {} SET IdTransaction = 0 WHERE IdTransaction = ?", ledger.table),
+            {idTransaction});
 }
 
 void Removal::RemoveTransaction(std::int32_t id, Charges charges) {
-    const Ledger ledger = LedgerOf(id);
-    if (ledger != Ledger::None) {
-        const LedgerStatements& statements = ledger == Ledger::Rent ? kRentLedger : kMortgageLedger;
-        if (charges == Charges::Remove) {
-            Execute(statements.removeAll, {id});
-        } else {
-            FreeCharges(statements, id);
-        }
+    const ChargeLedger* const ledger = core::LedgerOfTransaction(id);
+    if (ledger != nullptr && charges == Charges::Remove) {
+        Execute(fmt::format("DELETE * FROM {} WHERE IdTransaction = ?", ledger->table), {id});
+    } else if (ledger != nullptr) {
+        FreeCharges(*ledger, id);
     }
     Execute("DELETE * FROM Transactions WHERE IdTransaction = ?", {id});
 }

@@ -28,20 +28,17 @@ struct PayArguments {
 
 void SetParties(leases::RentPayment& payment, const PayArguments& given) {
     if (!given.from.empty()) {
-        const books::Party payor = ReadParty("--from", given.from);
-        payment.fromType = payor.type;
-        payment.fromId = payor.id;
-        payment.fromName = payor.description;
+        payment.from = ReadParty("--from", given.from);
     }
     if (given.to) {
-        payment.toAccount = *given.to;
-        payment.toName = AccountName("--to", *given.to);
+        payment.to.id = *given.to;
+        payment.to.description = AccountName("--to", *given.to);
     }
-    if (payment.fromId == 0 && payment.fromName.empty()) {
+    if (payment.from.id == 0 && payment.from.description.empty()) {
         throw platform::Error(
             fmt::format("--from: lease {} doesn't say who pays; name the payor", given.lease));
     }
-    if (payment.toAccount == 0) {
+    if (payment.to.id == 0) {
         throw platform::Error(fmt::format(
             "--to: lease {} has no account that receives its rent; name one", given.lease));
     }

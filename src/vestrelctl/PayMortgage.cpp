@@ -37,13 +37,12 @@ CLI::Validator IsPositiveAmount() {
             "", ""};
 }
 
-void SetAccount(std::string_view option, std::optional<std::int32_t> given, std::int32_t& account,
-                std::string& name) {
+void SetAccount(std::string_view option, std::optional<std::int32_t> given, books::Party& account) {
     if (given) {
-        account = *given;
-        name = AccountName(option, *given);
+        account.id = *given;
+        account.description = AccountName(option, *given);
     }
-    if (account == 0 && name.empty()) {
+    if (account.id == 0 && account.description.empty()) {
         throw platform::Error(
             fmt::format("{}: the mortgage doesn't name this account; name it", option));
     }
@@ -54,8 +53,8 @@ void Pay(const PayMortgageArguments& given) {
     if (!given.extra.empty()) payment.extraPrincipal = *platform::TryParseMoney(given.extra);
     if (payment.charges.empty() && payment.extraPrincipal.IsZero())
         throw platform::Error("There is no open charge to pay");
-    SetAccount("--from", given.from, payment.fromAccount, payment.fromName);
-    SetAccount("--to", given.to, payment.toAccount, payment.toName);
+    SetAccount("--from", given.from, payment.from);
+    SetAccount("--to", given.to, payment.to);
     if (!given.date.empty()) payment.dateEffective = platform::Date::Parse(given.date);
     payment.checkNumber = given.check;
     payment.description = platform::Trim(payment.description);

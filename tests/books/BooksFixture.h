@@ -17,22 +17,17 @@ class BooksTest : public CoreRecords {
   protected:
     /// A payment of 950.00 from John Smith to the River Bank.
     static books::Transaction Payment() {
-        return {.dateEffective = platform::Date(2024, 5, 1),
-                .debit = {core::kTenant, 30, "Smith, John Q"},
-                .credit = {core::kAccount, 60, "River Bank"},
-                .amount = platform::Currency::FromUnits(950),
-                .taxCategory = "Rent Payment",
-                .ien = books::Ien::Income,
-                .checkNumber = "17",
-                .description = "May",
-                .transactionClass = 0,
-                .flags = 0,
-                .idTenant = 30,
-                .idBuilding = 10,
-                .idUnit = 20,
-                .idLease = 40,
-                .idMortgage = 0,
-                .idWorkOrder = 0};
+        books::Transaction payment;
+        static_cast<books::References&>(payment) = {
+            .idTenant = 30, .idBuilding = 10, .idUnit = 20, .idLease = 40};
+        payment.dateEffective = platform::Date(2024, 5, 1);
+        payment.debit = {core::kTenant, 30, "Smith, John Q"};
+        payment.credit = {core::kAccount, 60, "River Bank"};
+        payment.amount = platform::Currency::FromUnits(950);
+        payment.taxCategory = "Rent Payment";
+        payment.checkNumber = "17";
+        payment.description = "May";
+        return payment;
     }
 
     /// An enabled event that posts 25.00 from the River Bank to Jo Owner; `fields` and `values`

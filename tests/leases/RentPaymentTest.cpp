@@ -48,7 +48,7 @@ TEST_F(Payment, WritesTheTransactionFieldByField) {
     RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
     payment.dateEffective = Date(2024, 2, 29);
     payment.checkNumber = "1'7";
-    payment.paymentWord = "Partial Rent Payment";
+    payment.paymentType = "Partial Rent Payment";
     const std::int32_t id = leases::SubmitPayment(payment);
     platform::Recordset row;
     row.Open(core::App().Connection, "SELECT * FROM Transactions");
@@ -206,9 +206,9 @@ TEST_F(Payment, OfOtherClassesLeavesTheNextDueDateAndKnowsItsAccount) {
         SetLeaseField("RentAccount", "105");
         Charge(Date(2024, 1, 1), 300, RentFlags::PeriodRent, c.rentClass);
         RentPayment payment = leases::ProposePayment(kLeaseId, c.rentClass);
-        EXPECT_EQ(payment.fromName, c.payer);
-        EXPECT_EQ(payment.paymentWord, c.word);
-        payment.toAccount = 106;
+        EXPECT_EQ(payment.from.description, c.payer);
+        EXPECT_EQ(payment.paymentType, c.word);
+        payment.to.id = 106;
         leases::SubmitPayment(payment);
         EXPECT_EQ(Next(), "01/01/2024");
         EXPECT_EQ(Ask("SELECT IEN FROM Transactions"), c.ien);
@@ -229,16 +229,16 @@ TEST_F(Payment, OfASubsidyComesFromTheTenantWhereNoPayorIsNamed) {
         SetLeaseField("SubsidyType", c.type);
         SetLeaseField("SubsidyId", c.id);
         const RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Subsidy);
-        EXPECT_EQ(payment.fromType, c.expectedType) << c.type << ' ' << c.id;
-        EXPECT_EQ(payment.fromId, c.expectedId) << c.type << ' ' << c.id;
+        EXPECT_EQ(payment.from.type, c.expectedType) << c.type << ' ' << c.id;
+        EXPECT_EQ(payment.from.id, c.expectedId) << c.type << ' ' << c.id;
     }
 }
 
 TEST_F(Payment, ATypedPayerIsANameWithoutARecord) {
     Rent(Date(2024, 1, 1));
     RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
-    payment.fromId = 0;
-    payment.fromName = "Ann's uncle";
+    payment.from.id = 0;
+    payment.from.description = "Ann's uncle";
     leases::SubmitPayment(payment);
     EXPECT_EQ(Ask("SELECT DebitDesc FROM Transactions WHERE DebitId = 0 AND DebitType = 5 "
                   "AND IdTenant = 0"),
@@ -252,8 +252,8 @@ TEST_F(Payment, SaysBeforeThatNoAccountReceivesIt) {
          {std::tuple{105, "First Bank", ""},
           {0, "", ". No account is chosen to receive it"},
           {0, "Cash box", ". \"Cash box\" receives it, which is not one of your accounts"}}) {
-        payment.toAccount = id;
-        payment.toName = name;
+        payment.to.id = id;
+        payment.to.description = name;
         EXPECT_EQ(
             leases::DescribeOutlook(payment),
             std::string("1 charge, next due date moves from 01/01/2024 to 02/01/2024") + added);
@@ -318,7 +318,7 @@ TEST_F(EditedPayment, ShowsWhatItSettledAndOnRequestWhatIsOpen) {
     RentPayment payment = Read();
     EXPECT_EQ(payment.charges.size(), 2U) << "its own row is no charge";
     EXPECT_NE(payment.idPaymentRow, 0);
-    EXPECT_EQ(payment.fromName, "O'Brien, Ann");
+    EXPECT_EQ(payment.from.description, "O'Brien, Ann");
     EXPECT_EQ(payment.Total(), Currency::FromUnits(1040));
     EXPECT_EQ(leases::DescribeOutlook(payment), "2 charges, next due date stays 02/01/2024");
     leases::ReadCharges(payment, leases::OpenCharges::Offer);
@@ -362,10 +362,10 @@ TEST_F(EditedPayment, RewritesWhatIsEnteredAndKeepsWhatWasExported) {
     core::App().Connection.Execute("UPDATE Transactions SET CreditExported = True");
     RentPayment payment = Read();
     payment.dateEffective = Date(2024, 3, 31);
-    payment.paymentWord = "Partial Rent Payment";
-    payment.fromType = core::kAccount;
-    payment.fromId = 106;
-    payment.fromName = "Housing Aid";
+    payment.paymentType = "Partial Rent Payment";
+    payment.from.type = core::kAccount;
+    payment.from.id = 106;
+    payment.from.description = "Housing Aid";
     leases::SubmitPayment(payment, leases::LeaseUpdate::No);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE DateEffective = '03/31/2024' "
                   "AND TaxCategory = 'Partial Rent Payment' AND DebitType = 1 AND IdTenant = 106 "

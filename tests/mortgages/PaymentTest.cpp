@@ -49,8 +49,8 @@ TEST_F(MortgagePaying, ProposesOpenChargesWithNoneSelected) {
         "Total) VALUES (500, 999, 0, 1, '01/15/2024', 5)"); // of another mortgage
     RunMortgagesOn(Date(2024, 1, 20));
     const MortgagePayment payment = mortgages::ProposeMortgagePayment(kMortgageId);
-    EXPECT_EQ(payment.fromName, "First Bank");
-    EXPECT_EQ(payment.toName, "Ann's Loans");
+    EXPECT_EQ(payment.from.description, "First Bank");
+    EXPECT_EQ(payment.to.description, "Ann's Loans");
     EXPECT_EQ(payment.description, "Mortgage Payment for Elm's loan");
     EXPECT_EQ(payment.paymentType, "Mortgage Payment");
     EXPECT_EQ(payment.dateEffective, Date(2024, 1, 20));
@@ -84,8 +84,8 @@ TEST_F(MortgagePaying, WritesTransactionLogAndMortgage) {
     std::vector<std::int16_t> told;
     MortgagePayment payment = mortgages::ProposeMortgagePayment(kMortgageId);
     payment.checkNumber = "77";
-    payment.fromAccount = kLenderId;
-    payment.fromName = "Somebody";
+    payment.from.id = kLenderId;
+    payment.from.description = "Somebody";
     Select(payment, 0, true);
     const core::NotifyToken token([&](std::int16_t kind, auto, auto) { told.push_back(kind); });
     const std::int32_t id = SubmitMortgagePayment(payment);

@@ -4,19 +4,11 @@
 #include <array>
 #include <cstdint>
 
+#include "books/PostTransaction.h"
+
 class QComboBox;
 
 namespace books::screens {
-
-/// The records that a transaction is about, 0 for none.
-struct References {
-    std::int32_t idLease = 0;
-    std::int32_t idTenant = 0;
-    std::int32_t idBuilding = 0;
-    std::int32_t idUnit = 0;
-    std::int32_t idMortgage = 0;
-    std::int32_t idWorkOrder = 0;
-};
 
 /// The six boxes that name them. Choosing a lease chooses its tenant, unit and building; a unit
 /// chooses its building, which can't be chosen then; a mortgage chooses its building.

@@ -96,7 +96,6 @@ void frmTransaction::ShowCaption() {
 }
 
 Transaction frmTransaction::Entered() const {
-    const References references = references_->Chosen();
     const Category category = ChosenCategory(*ui_->cboCategory);
     const platform::Date day = ui_->dpEffectiveDate->Day().value_or(platform::Date());
     Transaction entered;
@@ -110,12 +109,7 @@ Transaction frmTransaction::Entered() const {
     entered.description = FromScreen(ui_->txtDescription->text());
     entered.transactionClass = transactionClass_;
     entered.flags = flags_;
-    entered.idTenant = references.idTenant;
-    entered.idBuilding = references.idBuilding;
-    entered.idUnit = references.idUnit;
-    entered.idLease = references.idLease;
-    entered.idMortgage = references.idMortgage;
-    entered.idWorkOrder = references.idWorkOrder;
+    static_cast<References&>(entered) = references_->Chosen();
     return entered;
 }
 

@@ -1,14 +1,12 @@
 #include "leases/screens/frmRentPayment.h"
 
 #include <QMenu>
-#include <QMenuBar>
 #include <algorithm>
 
 #include "core/Descriptions.h"
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
-#include "core/binding/Tags.h"
 #include "core/forms/ErrorRoll.h"
 #include "leases/DeleteCharges.h"
 #include "leases/PaymentOutlook.h"
@@ -24,28 +22,13 @@
 
 namespace leases::screens {
 
-using core::binding::FillList;
 using core::binding::GetSelectedId;
 using core::binding::SelectById;
-using core::binding::SelectByText;
-using core::binding::SelectOrName;
 using core::forms::Guarded;
-using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
-namespace {
-
-/// A name that was typed stays, and nobody is chosen for it.
-void FillParties(int kind, QComboBox& combo) {
-    FillList(kind, combo, {.keepText = GetSelectedId(combo) == 0});
-}
-
-} // namespace
-
 frmRentPayment::frmRentPayment(QWidget* parent)
-    : EntryForm(parent),
-      ui_(std::make_unique<Ui::frmRentPayment>()),
-      chargeMenu_(new QMenu(tr("&Charges"), this)) {
+    : PaymentForm(parent), ui_(std::make_unique<Ui::frmRentPayment>()) {
     ui_->setupUi(this);
     ui_->dpEffectiveDate->SetRequired(true);
     ui_->lvwCharges->SetTicks(true);
@@ -54,25 +37,22 @@ frmRentPayment::frmRentPayment(QWidget* parent)
         {20, 20, 40, 15, 0});
     ui_->cboFromType->addItem(tr("Account"), core::kAccount);
     ui_->cboFromType->addItem(tr("Tenant"), core::kTenant);
-    MakeMenu();
-    Wire(tr("&Submit"), tr("Post the payment and close (Enter)"), "SUBMIT");
+    AddChargeItems();
+    WirePayment(*ui_->lvwCharges, MakePaymentMenu());
     Connect();
 }
 
 frmRentPayment::~frmRentPayment() = default;
 
-void frmRentPayment::MakeMenu() {
-    auto* const bar = new QMenuBar(this);
-    QMenu* const payment = bar->addMenu(tr("Pa&yment"));
+QMenu* frmRentPayment::MakePaymentMenu() {
+    auto* const payment = new QMenu(tr("Pa&yment"), this);
     QAction* const submit = payment->addAction(tr("&Submit"));
     submit->setObjectName(QStringLiteral("mnuSubmit"));
     connect(submit, &QAction::triggered, this, &frmRentPayment::Submit);
     receiptMenu_ = payment->addMenu(tr("Print &Receipt"));
     receiptMenu_->setObjectName(QStringLiteral("mnuReceipts"));
     receiptMenu_->setToolTipsVisible(true);
-    bar->addMenu(chargeMenu_);
-    AddChargeItems(*chargeMenu_);
-    layout()->setMenuBar(bar);
+    return payment;
 }
 
 /// The receipts of the catalogue, for a payment that has been posted.
@@ -83,8 +63,8 @@ void frmRentPayment::FillReceipts() {
         QAction* const action =
             receiptMenu_->addAction(ToScreen(item.caption).replace(u'&', QLatin1String("&&")));
         action->setObjectName(QStringLiteral("mnuReceiptItem"));
-        action->setEnabled(payment_.idTransaction != 0 && reports::HasReportViewer());
-        if (payment_.idTransaction == 0)
+        action->setEnabled(!payment_.IsNew() && reports::HasReportViewer());
+        if (payment_.IsNew())
             action->setToolTip(tr("Submit the payment first, then open it again"));
         connect(action, &QAction::triggered, this, [this, index = item.index] {
             Guarded([&] { reports::PrintReport(payment_.idTransaction, index); });
@@ -96,27 +76,19 @@ void frmRentPayment::FillReceipts() {
     none->setToolTip(tr("The reports folder has no receipt for leases"));
 }
 
-void frmRentPayment::AddChargeItems(QMenu& menu) {
-    const auto add = [&](const char* name, const QString& text, auto work) {
-        QAction* const action = menu.addAction(text);
-        action->setObjectName(QLatin1String(name));
-        connect(action, &QAction::triggered, this, [work] { Guarded(work); });
-    };
+void frmRentPayment::AddChargeItems() {
+    QMenu& menu = ChargeMenu();
     AddPickMenu(menu, QStringLiteral("mnuCheck"),
                 [this](ChargePick pick) { ui_->lvwCharges->Tick(pick); });
     menu.addSeparator();
     AddPickMenu(menu, QStringLiteral("mnuSelect"),
                 [this](ChargePick pick) { ui_->lvwCharges->Select(pick); });
     menu.addSeparator();
-    add("mnuChargeAdd", tr("A&dd Charge..."), [this] { AddCharge(); });
-    add("mnuChargeEdit", tr("&Edit Charge..."),
-        [this] { EditCharge(ui_->lvwCharges->CurrentId()); });
-    add("mnuChargeSplit", tr("S&plit Charge..."), [this] { SplitCharge(); });
-    add("mnuChargeDelete", tr("De&lete Charge"), [this] { RemoveCharges(); });
-    ui_->lvwCharges->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(ui_->lvwCharges, &QWidget::customContextMenuRequested, this, [this](QPoint where) {
-        chargeMenu_->popup(ui_->lvwCharges->viewport()->mapToGlobal(where));
-    });
+    AddItem(menu, "mnuChargeAdd", tr("A&dd Charge..."), [this] { AddCharge(); });
+    AddItem(menu, "mnuChargeEdit", tr("&Edit Charge..."),
+            [this] { EditCharge(ui_->lvwCharges->CurrentId()); });
+    AddItem(menu, "mnuChargeSplit", tr("S&plit Charge..."), [this] { SplitCharge(); });
+    AddItem(menu, "mnuChargeDelete", tr("De&lete Charge"), [this] { RemoveCharges(); });
 }
 
 void frmRentPayment::Connect() {
@@ -143,48 +115,35 @@ void frmRentPayment::Connect() {
 void frmRentPayment::Setup(std::int32_t idTransaction, std::int32_t idLease, RentClass rentClass,
                            LeaseUpdate update) {
     update_ = update;
-    const bool found = Guarded([&] {
+    OpenPayment(idTransaction, [&] {
         payment_ =
             idTransaction == 0 ? ProposePayment(idLease, rentClass) : ReadPayment(idTransaction);
+        if (!payment_.dateEffective.IsSet()) payment_.dateEffective = platform::Today();
     });
-    if (!found) {
-        deleteLater();
-        return;
-    }
-    core::binding::SetTag(*this, idTransaction == 0 ? "" : std::to_string(idTransaction));
-    Begin([this] { ShowPayment(); });
-    ui_->lvwCharges->setFocus();
 }
 
 void frmRentPayment::ShowPayment() {
-    const bool isNew = payment_.idTransaction == 0;
     setWindowTitle(
-        tr("%1: %2").arg(ToScreen(payment_.paymentWord),
+        tr("%1: %2").arg(ToScreen(payment_.paymentType),
                          ToScreen(core::GetDescription(core::kLease, payment_.idLease))));
-    ui_->chkShowPending->setVisible(!isNew);
-    FillAccounts();
-    SelectOrName(*ui_->cboTo, payment_.toAccount, payment_.toName);
-    SelectById(*ui_->cboFromType, payment_.fromType, {.selectFirst = true});
-    FillPayers();
-    SelectOrName(*ui_->cboFrom, payment_.fromId, payment_.fromName);
-    for (const std::string& word : PaymentWords(payment_.rentClass))
-        ui_->cboPaymentType->addItem(ToScreen(word));
-    SelectByText(*ui_->cboPaymentType, payment_.paymentWord, {.setText = true});
-    const platform::Date day = payment_.dateEffective;
-    ui_->dpEffectiveDate->SetDay(day.IsSet() ? day : platform::Today());
-    ui_->txtCheckNumber->setText(ToScreen(payment_.checkNumber));
-    ui_->txtDescription->setText(ToScreen(payment_.description));
-    ui_->txtDescription->setCursorPosition(0);
+    ui_->chkShowPending->setVisible(!payment_.IsNew());
+    ShowEntries(payment_, PaymentWords(payment_.rentClass));
     FillReceipts();
     ShowCharges();
 }
 
+void frmRentPayment::FillParties() {
+    FillAccounts();
+    SelectById(*ui_->cboFromType, payment_.from.type, {.selectFirst = true});
+    FillPayers();
+}
+
 void frmRentPayment::FillPayers() {
-    FillParties(GetSelectedId(*ui_->cboFromType), *ui_->cboFrom);
+    FillParty(GetSelectedId(*ui_->cboFromType), *ui_->cboFrom);
 }
 
 void frmRentPayment::FillAccounts() {
-    FillParties(core::kAccount, *ui_->cboTo);
+    FillParty(core::kAccount, *ui_->cboTo);
 }
 
 void frmRentPayment::ShowCharges() {
@@ -242,18 +201,13 @@ void frmRentPayment::RestoreTicks() {
     ui_->lvwCharges->setFocus();
 }
 
-void frmRentPayment::ReadReceiver() {
-    payment_.toAccount = GetSelectedId(*ui_->cboTo);
-    payment_.toName = FromScreen(ui_->cboTo->currentText());
-}
-
 void frmRentPayment::ShowTotal() {
     ReadTicks();
-    ReadReceiver();
+    ReadReceiver(payment_);
     ui_->txtAmount->setText(ToScreen(platform::FormatNumber(payment_.Total(), "#.00")));
     QString outlook = ToScreen(DescribeOutlook(payment_));
     if (tickedAgain_) {
-        outlook += payment_.idTransaction == 0
+        outlook += payment_.IsNew()
                        ? tr(". The charges changed: every open charge is ticked again")
                        : tr(". The charges changed: the ticks are as they were stored");
     }
@@ -265,7 +219,7 @@ void frmRentPayment::ShowAvailable() {
     const bool isChosen = ui_->lvwCharges->CurrentId() != 0;
     const bool isRent = payment_.rentClass == RentClass::Rent;
     ui_->cmdSplit->setEnabled(isChosen);
-    for (QAction* const action : chargeMenu_->actions()) {
+    for (QAction* const action : ChargeMenu().actions()) {
         const QString name = action->objectName();
         if (name.startsWith(QLatin1String("mnuCharge")) && !name.endsWith(QLatin1String("Add"))) {
             action->setEnabled(isChosen);
@@ -294,7 +248,7 @@ void frmRentPayment::SplitCharge() {
 
 void frmRentPayment::RemoveCharges() {
     DeleteCharges(payment_.idLease, ui_->lvwCharges->SelectedIds(), "Delete all selected charges?",
-                  payment_.idTransaction == 0 ? ShownAs::Open : ShownAs::OpenOrSettled);
+                  payment_.IsNew() ? ShownAs::Open : ShownAs::OpenOrSettled);
 }
 
 std::vector<std::string> frmRentPayment::Errors() {
@@ -306,14 +260,8 @@ std::vector<std::string> frmRentPayment::Errors() {
 
 void frmRentPayment::Store() {
     ReadTicks();
-    payment_.dateEffective = ui_->dpEffectiveDate->Day().value_or(platform::Date());
-    payment_.fromType = static_cast<std::int16_t>(GetSelectedId(*ui_->cboFromType));
-    payment_.fromId = GetSelectedId(*ui_->cboFrom);
-    payment_.fromName = FromScreen(ui_->cboFrom->currentText());
-    ReadReceiver();
-    payment_.checkNumber = FromScreen(ui_->txtCheckNumber->text());
-    payment_.paymentWord = FromScreen(ui_->cboPaymentType->currentText());
-    payment_.description = FromScreen(ui_->txtDescription->text());
+    ReadEntries(payment_);
+    payment_.from.type = static_cast<std::int16_t>(GetSelectedId(*ui_->cboFromType));
     try {
         SubmitPayment(payment_, update_);
     } catch (const platform::ConflictError&) {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/forms/EntryForm.h"
+#include "books/screens/PaymentForm.h"
 #include "leases/PaymentTicks.h"
 #include "leases/RentPayment.h"
 
@@ -16,7 +16,7 @@ class frmRentPayment;
 namespace leases::screens {
 
 /// Takes a payment against the charges of a lease, or edits one that was taken.
-class frmRentPayment : public core::forms::EntryForm {
+class frmRentPayment : public books::screens::PaymentForm {
     Q_OBJECT
 
   public:
@@ -32,13 +32,14 @@ class frmRentPayment : public core::forms::EntryForm {
     void Store() override;
     std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;
+    void ShowPayment() override;
+    void FillParties() override;
 
   private:
-    void MakeMenu();
+    QMenu* MakePaymentMenu();
     void FillReceipts();
-    void AddChargeItems(QMenu& menu);
+    void AddChargeItems();
     void Connect();
-    void ShowPayment();
     void FillPayers();
     void FillAccounts();
     void ShowCharges();
@@ -48,7 +49,6 @@ class frmRentPayment : public core::forms::EntryForm {
     void RereadCharges();
     void ChargeSplit(std::int32_t idRentLog, const std::array<std::int32_t, 2>& parts);
     void RestoreTicks();
-    void ReadReceiver();
     void ShowTotal();
     void ShowAvailable();
 
@@ -58,7 +58,6 @@ class frmRentPayment : public core::forms::EntryForm {
     void RemoveCharges();
 
     std::unique_ptr<Ui::frmRentPayment> ui_;
-    QMenu* chargeMenu_;
     QMenu* receiptMenu_ = nullptr;
     RentPayment payment_;
     PaymentTicks ticks_;

@@ -3,10 +3,8 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/forms/EntryForm.h"
+#include "books/screens/PaymentForm.h"
 #include "mortgages/MortgagePayment.h"
-
-class QMenu;
 
 namespace Ui {
 class frmMortgagePayment;
@@ -15,7 +13,7 @@ class frmMortgagePayment;
 namespace mortgages::screens {
 
 /// Pays charges of a mortgage, or edits a payment that was made.
-class frmMortgagePayment : public core::forms::EntryForm {
+class frmMortgagePayment : public books::screens::PaymentForm {
     Q_OBJECT
 
   public:
@@ -30,20 +28,19 @@ class frmMortgagePayment : public core::forms::EntryForm {
     std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;
 
+    void ShowPayment() override;
+    void FillParties() override;
+
   private:
-    void MakeMenu();
-    void ShowPayment();
-    void FillAccounts();
+    void AddChargeItems();
     void ShowCharges();
     void ShowTicks();
     void ShowTotal();
-    void ReadEntries();
     void TickOne(std::size_t charge, bool on);
     void TickAll(ChargeChoice choice, bool on);
     void RemoveCharges();
 
     std::unique_ptr<Ui::frmMortgagePayment> ui_;
-    QMenu* chargeMenu_;
     MortgagePayment payment_;
 };
 

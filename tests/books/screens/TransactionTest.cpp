@@ -168,7 +168,7 @@ TEST_F(TransactionTest, PresetsWhatItIsOpenedWith) {
     setup.category = "Deposit Refund|2";
     setup.amount = platform::Currency::FromUnits(500);
     setup.description = "Deposit Refund";
-    setup.references = {.idLease = 40, .idTenant = 31, .idMortgage = 50};
+    setup.references = {.idTenant = 31, .idLease = 40, .idMortgage = 50};
     setup.transactionClass = 3;
     setup.flags = 3;
     Run("DELETE * FROM TransCategory WHERE Category = 'Deposit Refund'");
