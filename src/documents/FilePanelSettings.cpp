@@ -4,7 +4,7 @@
 
 #include <fmt/core.h>
 
-#include "core/Settings.h"
+#include "core/StoredSettings.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
 
@@ -13,6 +13,13 @@ namespace documents {
 namespace {
 
 constexpr std::string_view kFileObjectsKey = R"(SOFTWARE\Vestrel\Kestrom\FileObjects)";
+
+constexpr core::StoredMember<FilePanelSettings> kFlags[] = {
+    core::Stored<&FilePanelSettings::ShowPath>("ShowPath"),
+    core::Stored<&FilePanelSettings::ShowIcons>("ShowIcons"),
+    core::Stored<&FilePanelSettings::AllowDandD>("AllowDandD"),
+    core::Stored<&FilePanelSettings::AllowDelete>("AllowDelete"),
+};
 
 std::string KeyOf(std::string_view panel) {
     return fmt::format(R"({}\{})", kFileObjectsKey, panel);
@@ -35,10 +42,7 @@ FilePanelSettings LoadFilePanelSettings(std::string_view panel) {
     FilePanelSettings settings;
     settings.SaveSettings = core::GetRegFlag(key, "SaveSettings", settings.SaveSettings);
     if (!settings.SaveSettings) return settings;
-    settings.ShowPath = core::GetRegFlag(key, "ShowPath", settings.ShowPath);
-    settings.ShowIcons = core::GetRegFlag(key, "ShowIcons", settings.ShowIcons);
-    settings.AllowDandD = core::GetRegFlag(key, "AllowDandD", settings.AllowDandD);
-    settings.AllowDelete = core::GetRegFlag(key, "AllowDelete", settings.AllowDelete);
+    core::LoadSettings(key, kFlags, settings);
     settings.vSplit = ReadShare(key, "vSplit", settings.vSplit);
     settings.hSplit = ReadShare(key, "hSplit", settings.hSplit);
     return settings;
@@ -48,10 +52,7 @@ void SaveFilePanelSettings(std::string_view panel, const FilePanelSettings& sett
     const std::string key = KeyOf(panel);
     core::SetRegFlag(key, "SaveSettings", settings.SaveSettings);
     if (!settings.SaveSettings) return;
-    core::SetRegFlag(key, "ShowPath", settings.ShowPath);
-    core::SetRegFlag(key, "ShowIcons", settings.ShowIcons);
-    core::SetRegFlag(key, "AllowDandD", settings.AllowDandD);
-    core::SetRegFlag(key, "AllowDelete", settings.AllowDelete);
+    core::SaveSettings(key, kFlags, settings);
     core::SetRegString(key, "vSplit", fmt::format("{:.4g}", settings.vSplit));
     core::SetRegString(key, "hSplit", fmt::format("{:.4g}", settings.hSplit));
 }

@@ -1,6 +1,6 @@
 #include "exchange/FinExportSettings.h"
 
-#include "core/Settings.h"
+#include "core/StoredSettings.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 
@@ -9,12 +9,18 @@ namespace exchange {
 namespace {
 
 constexpr std::string_view kKey = R"(SOFTWARE\Vestrel\Kestrom\FinExport)";
-constexpr std::int32_t kLastChoice = 2; // of both enumerations
 
-std::int32_t ReadChoice(std::string_view name) {
-    const std::int32_t choice = core::GetRegNumber(kKey, name, 0);
-    return choice < 0 || choice > kLastChoice ? 0 : choice;
-}
+using S = FinExportSettings;
+constexpr core::StoredMember<S> kMembers[] = {
+    core::StoredChoice<&S::finType, FinType::Iif>("FinType"),
+    core::Stored<&S::markExported>("MarkExported"),
+    core::Stored<&S::showCount>("ShowCount"),
+    core::Stored<&S::limitLength>("LimitLength"),
+    core::Stored<&S::sortedColumn>("SortedColumn"),
+};
+constexpr core::StoredMember<ExportRange> kRange[] = {
+    core::StoredChoice<&ExportRange::range, TransRange::DateRange>("TransRange"),
+};
 
 platform::Date ReadDay(std::string_view name, platform::Date otherwise) {
     return platform::Date::TryParse(core::GetRegString(kKey, name, "")).value_or(otherwise);
@@ -25,15 +31,11 @@ platform::Date ReadDay(std::string_view name, platform::Date otherwise) {
 FinExportSettings LoadFinExportSettings() {
     const platform::Date today = platform::Today();
     FinExportSettings settings;
-    settings.finType = static_cast<FinType>(ReadChoice("FinType"));
-    settings.range.range = static_cast<TransRange>(ReadChoice("TransRange"));
+    core::LoadSettings(kKey, kMembers, settings);
+    core::LoadSettings(kKey, kRange, settings.range);
     settings.range.start =
         ReadDay("TransStart", platform::DateAdd(platform::Interval::Month, -1, today));
     settings.range.end = ReadDay("TransEnd", today);
-    settings.markExported = core::GetRegFlag(kKey, "MarkExported", false);
-    settings.showCount = core::GetRegFlag(kKey, "ShowCount", false);
-    settings.limitLength = core::GetRegFlag(kKey, "LimitLength", false);
-    settings.sortedColumn = core::GetRegNumber(kKey, "SortedColumn", 0);
     settings.sortDescending = core::GetRegNumber(kKey, "SortOrder", 0) != 0;
     settings.lastFileName =
         core::GetRegString(kKey, "LastFileName", (platform::HomeFolder() / "export").string());
@@ -41,14 +43,10 @@ FinExportSettings LoadFinExportSettings() {
 }
 
 void SaveFinExportSettings(const FinExportSettings& settings) {
-    core::SetRegNumber(kKey, "FinType", static_cast<std::int32_t>(settings.finType));
-    core::SetRegNumber(kKey, "TransRange", static_cast<std::int32_t>(settings.range.range));
+    core::SaveSettings(kKey, kMembers, settings);
+    core::SaveSettings(kKey, kRange, settings.range);
     core::SetRegString(kKey, "TransStart", settings.range.start.ToText());
     core::SetRegString(kKey, "TransEnd", settings.range.end.ToText());
-    core::SetRegFlag(kKey, "MarkExported", settings.markExported);
-    core::SetRegFlag(kKey, "ShowCount", settings.showCount);
-    core::SetRegFlag(kKey, "LimitLength", settings.limitLength);
-    core::SetRegNumber(kKey, "SortedColumn", settings.sortedColumn);
     core::SetRegNumber(kKey, "SortOrder", settings.sortDescending ? 1 : 0);
 }
 

@@ -1,10 +1,9 @@
 #include "reports/ViewerSettings.h"
 
-#include "core/Settings.h"
+#include "core/StoredSettings.h"
 
 namespace reports {
 
-using platform::kTwipsPerInch;
 using platform::PageSetup;
 
 namespace {
@@ -19,15 +18,11 @@ constexpr std::string_view kOpenExportWritten = R"(rpt\Openexport)";
 constexpr std::string_view kPaper = R"(rpt\Paper)";
 constexpr std::string_view kOrientation = R"(rpt\Orientation)";
 
-struct Margin {
-    std::string_view name;
-    platform::Twips PageSetup::*margin;
-};
-constexpr Margin kMargins[] = {
-    {R"(rpt\MarginBottom)", &PageSetup::marginBottom},
-    {R"(rpt\MarginLeft)", &PageSetup::marginLeft},
-    {R"(rpt\MarginRight)", &PageSetup::marginRight},
-    {R"(rpt\MarginTop)", &PageSetup::marginTop},
+constexpr core::StoredMember<PageSetup> kMargins[] = {
+    core::Stored<&PageSetup::marginBottom>(R"(rpt\MarginBottom)"),
+    core::Stored<&PageSetup::marginLeft>(R"(rpt\MarginLeft)"),
+    core::Stored<&PageSetup::marginRight>(R"(rpt\MarginRight)"),
+    core::Stored<&PageSetup::marginTop>(R"(rpt\MarginTop)"),
 };
 
 } // namespace
@@ -43,14 +38,12 @@ void SaveOpenExport(bool open) {
 PageSetup ReadPageSetup() {
     PageSetup setup;
     setup.paper = platform::PaperOfSetting(core::GetRegString(kKey, kPaper, ""));
-    for (const Margin& margin : kMargins)
-        setup.*margin.margin = core::GetRegNumber(kKey, margin.name, kTwipsPerInch);
+    core::LoadSettings(kKey, kMargins, setup);
     return setup.WithSaneMargins();
 }
 
 void SavePageSetup(const PageSetup& setup) {
-    for (const Margin& margin : kMargins)
-        core::SetRegNumber(kKey, margin.name, setup.*margin.margin);
+    core::SaveSettings(kKey, kMargins, setup);
     core::SetRegNumber(kKey, kOrientation, static_cast<std::int32_t>(setup.orientation));
     if (setup.paper != platform::PaperOfSetting(core::GetRegString(kKey, kPaper, "")))
         core::SetRegString(kKey, kPaper, platform::PaperName(setup.paper));
