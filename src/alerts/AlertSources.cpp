@@ -4,6 +4,7 @@
 
 #include <fmt/core.h>
 
+#include "core/Codes.h"
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
 #include "core/Session.h"
@@ -39,13 +40,6 @@ std::optional<int> DaysWithin(Date due, int window) {
     const int days = DateDiff(Interval::Day, platform::Today(), due);
     if (days < 1 || days > window) return std::nullopt;
     return days;
-}
-
-/// Returns the unit of a contracted lease's term. Open-ended leases never get here.
-Interval TermUnit(std::string_view termType) {
-    if (termType == "Weekly" || termType == "Week(s)") return Interval::Week;
-    if (termType == "Yearly" || termType == "Year(s)") return Interval::Year;
-    return Interval::Month;
 }
 
 /// Calls `add` for each row of a statement; skips a statement that can't be opened. Throws Error
@@ -163,7 +157,7 @@ void AddExpiringLeases(std::vector<AlertItem>& items) {
         "WHERE (Lease.IdUnit=Unit.IdUnit) AND (Unit.IdBuilding=Building.IdBuilding) "
         "AND (Lease.IdTenant=Tenant.IdTenant) AND (Lease.Status = 'Contracted')",
         LeaseName, [&](Recordset& row) {
-            const Interval interval = TermUnit(TextOf(row["TermType"]));
+            const Interval interval = core::TermInterval(TextOf(row["TermType"]));
             const Date due =
                 DateAdd(interval, row["Term"].AsInteger(), row["DateRenewed"].AsDate());
             if (const auto days = DaysWithin(due, core::Preferences().LeaseExpiringDays)) {

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/values/Date.h"
+
 namespace core {
 
 // The codes and statuses that the books store. They never change, misspellings included: rows,
@@ -53,7 +55,21 @@ inline constexpr std::array kLeaseStatuses = {
     kLeasePending, kLeaseWeekToWeek, kLeaseMonthToMonth, kLeaseContracted,
     kLeaseNotice,  kLeaseExpired,    kLeaseBroken};
 
+// Lease.ExpireOption, beside week to week and month to month
+inline constexpr std::string_view kExpireRenews = "Renew";
+inline constexpr std::string_view kExpireEnds = "Expire";
+
+/// Returns the interval that a lease's term of this type is counted in. One from week to week or
+/// month to month has no term.
+constexpr platform::Interval TermInterval(std::string_view termType) {
+    if (termType == "Weekly" || termType == "Week(s)") return platform::Interval::Week;
+    if (termType == "Yearly" || termType == "Year(s)") return platform::Interval::Year;
+    return platform::Interval::Month;
+}
+
 // Lease.RentStatus and Mortgage.PmtStatus
+inline constexpr std::string_view kPaymentNone = "n/a";
+inline constexpr std::string_view kPaymentOk = "OK";
 inline constexpr std::string_view kPaymentDue = "Due";
 inline constexpr std::string_view kPaymentLate = "Late";
 inline constexpr std::string_view kRentWarning = "Warning";
@@ -66,15 +82,19 @@ inline constexpr std::string_view kUnitLeased = "Leased";
 inline constexpr std::array kUnitStatuses = {kUnitHold, kUnitAvailable, kUnitLeased};
 
 // Tenant.Status
+inline constexpr std::string_view kTenantCurrent = "Current";
 inline constexpr std::string_view kTenantArchived = "Archived";
 inline constexpr std::array<std::string_view, 5> kTenantStatuses = {
-    "Pending", "Approved", "Rejected", "Current", kTenantArchived};
+    "Pending", "Approved", "Rejected", kTenantCurrent, kTenantArchived};
 
 // WorkOrder.Status
 inline constexpr std::array<std::string_view, 4> kWorkOrderStatuses = {"Open", "Vendor",
                                                                        "Completed", "Closed"};
 
-// Mortgage.Status, as far as lists offer it
-inline constexpr std::array<std::string_view, 2> kMortgageStatuses = {"Current", "Closed"};
+// Mortgage.Status; lists don't offer the first
+inline constexpr std::string_view kMortgagePending = "Pending";
+inline constexpr std::string_view kMortgageCurrent = "Current";
+inline constexpr std::string_view kMortgageClosed = "Closed";
+inline constexpr std::array kMortgageStatuses = {kMortgageCurrent, kMortgageClosed};
 
 } // namespace core

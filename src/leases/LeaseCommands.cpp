@@ -1,5 +1,6 @@
 #include "leases/LeaseCommands.h"
 
+#include "core/Codes.h"
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
@@ -74,13 +75,13 @@ void RunCommand(LeaseCommand command, std::int32_t idLease, int noticeDays) {
     const Date today = platform::Today();
     switch (command) {
         case LeaseCommand::GiveNotice:
-            return ChangeStatus(idLease, status::kNotice,
+            return ChangeStatus(idLease, core::kLeaseNotice,
                                 DateAdd(platform::Interval::Day, noticeDays, today));
         case LeaseCommand::BreakLease:
-            return ChangeStatus(idLease, status::kBroken, today);
+            return ChangeStatus(idLease, core::kLeaseBroken, today);
         case LeaseCommand::CancelNotice:
         case LeaseCommand::RenewLease:
-            return ChangeStatus(idLease, status::kPending, Date());
+            return ChangeStatus(idLease, core::kLeasePending, Date());
         case LeaseCommand::Reprocess:
             UpdateLeaseById(idLease, WalkMode::Reprocess);
             return;

@@ -1,5 +1,6 @@
 #include "leases/LeaseEditor.h"
 
+#include "core/Codes.h"
 #include "core/Configuration.h"
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
@@ -28,7 +29,7 @@ void BeginLease(Recordset& row) {
     row["DateCreated"].Set(platform::Today().ToText());
     row["DateRenewed"].Set(row["DateActive"].Value());
     row["DateVacating"].Set("");
-    row["Status"].Set(status::kPending);
+    row["Status"].Set(core::kLeasePending);
     row["RentAccount"].Set(core::Config().DefaultRentAccount);
     row["DepositAccount"].Set(core::Config().DefaultDepositAccount);
     ChargeDeposits(row["IdLease"].AsLong(), row["IdUnit"].AsLong());
@@ -90,11 +91,11 @@ LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view word) {
         can.dateRenewed = false;
         can.dateVacating = false;
         can.parties = true;
-    } else if (word == status::kPending) {
+    } else if (word == core::kLeasePending) {
         can.breakLease = true;
         can.dateVacating = false;
         can.blankVacating = true;
-    } else if (word == status::kNotice) {
+    } else if (word == core::kLeaseNotice) {
         can.cancelNotice = true;
         can.dateActive = false;
     } else if (IsOver(word)) {
@@ -111,7 +112,7 @@ LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view word) {
 }
 
 bool HasEnd(std::string_view termType) {
-    return termType != status::kMonthToMonth && termType != status::kWeekToWeek;
+    return termType != core::kLeaseMonthToMonth && termType != core::kLeaseWeekToWeek;
 }
 
 void ReadBalances(Recordset& row, std::int32_t idLease) {

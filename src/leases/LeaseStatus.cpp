@@ -1,5 +1,6 @@
 #include "leases/LeaseStatus.h"
 
+#include "core/Codes.h"
 #include "leases/RentCodes.h"
 
 namespace leases {
@@ -9,14 +10,14 @@ using platform::Date;
 namespace {
 
 std::string_view RunningStatus(std::string_view termType) {
-    if (termType == status::kMonthToMonth) return status::kMonthToMonth;
-    if (termType == status::kWeekToWeek) return status::kWeekToWeek;
-    return status::kContracted;
+    if (termType == core::kLeaseMonthToMonth) return core::kLeaseMonthToMonth;
+    if (termType == core::kLeaseWeekToWeek) return core::kLeaseWeekToWeek;
+    return core::kLeaseContracted;
 }
 
 bool IsRunning(std::string_view word) {
-    return word == status::kContracted || word == status::kMonthToMonth ||
-           word == status::kWeekToWeek;
+    return word == core::kLeaseContracted || word == core::kLeaseMonthToMonth ||
+           word == core::kLeaseWeekToWeek;
 }
 
 } // namespace
@@ -24,7 +25,7 @@ bool IsRunning(std::string_view word) {
 StatusStep StepLeaseStatus(LeaseTerms& terms, Date onDate, bool force) {
     StatusStep step;
     std::string_view working = terms.status;
-    if (working == status::kPending && terms.dateActive.Get() <= onDate) {
+    if (working == core::kLeasePending && terms.dateActive.Get() <= onDate) {
         working = RunningStatus(terms.termType);
     }
     if (IsRunning(working)) {
@@ -32,19 +33,19 @@ StatusStep StepLeaseStatus(LeaseTerms& terms, Date onDate, bool force) {
             DateAdd(TermInterval(terms.termType), terms.term.Get(), terms.dateRenewed.Get());
         if (onDate <= expiry) {
             working = RunningStatus(terms.termType);
-        } else if (terms.expireOption == status::kWeekToWeek) {
-            working = status::kWeekToWeek;
-        } else if (terms.expireOption == status::kMonthToMonth) {
-            working = status::kMonthToMonth;
-        } else if (terms.expireOption == kOptionRenew) {
+        } else if (terms.expireOption == core::kLeaseWeekToWeek) {
+            working = core::kLeaseWeekToWeek;
+        } else if (terms.expireOption == core::kLeaseMonthToMonth) {
+            working = core::kLeaseMonthToMonth;
+        } else if (terms.expireOption == core::kExpireRenews) {
             terms.dateRenewed = expiry;
             step.renewed = true;
-        } else if (terms.expireOption == kOptionExpire) {
-            working = status::kExpired;
+        } else if (terms.expireOption == core::kExpireEnds) {
+            working = core::kLeaseExpired;
         }
     }
-    if (working == status::kNotice && terms.dateVacating.Get() < onDate) {
-        working = status::kExpired;
+    if (working == core::kLeaseNotice && terms.dateVacating.Get() < onDate) {
+        working = core::kLeaseExpired;
     }
     if (working != terms.status || force) {
         step.statusSet = true;
@@ -54,11 +55,11 @@ StatusStep StepLeaseStatus(LeaseTerms& terms, Date onDate, bool force) {
 }
 
 bool IsCharged(std::string_view word) {
-    return IsRunning(word) || word == status::kNotice;
+    return IsRunning(word) || word == core::kLeaseNotice;
 }
 
 bool IsOver(std::string_view word) {
-    return word == status::kExpired || word == status::kBroken;
+    return word == core::kLeaseExpired || word == core::kLeaseBroken;
 }
 
 } // namespace leases

@@ -1,6 +1,6 @@
 #include "leases/LeaseTerms.h"
 
-#include "leases/RentCodes.h"
+#include "core/Codes.h"
 #include "platform/database/FieldReadings.h"
 
 namespace leases {
@@ -34,10 +34,6 @@ Reading<std::int16_t> Count(const Field& field) {
     return TryRead(field, platform::As<std::int16_t, Field>);
 }
 
-bool IsWeekly(std::string_view termType) {
-    return termType == "Weekly" || termType == "Week(s)" || termType == status::kWeekToWeek;
-}
-
 } // namespace
 
 LeaseTerms LeaseTerms::Read(platform::Recordset& row) {
@@ -64,15 +60,12 @@ LeaseTerms LeaseTerms::Read(platform::Recordset& row) {
 }
 
 Interval TermInterval(std::string_view termType) {
-    if (IsWeekly(termType)) return Interval::Week;
-    if (termType == "Yearly" || termType == "Year(s)") return Interval::Year;
-    return Interval::Month;
+    return termType == core::kLeaseWeekToWeek ? Interval::Week : core::TermInterval(termType);
 }
 
 Interval BillingInterval(std::string_view termType) {
-    if (IsWeekly(termType)) return Interval::Week;
-    if (termType == "Yearly" || termType == "Years(s)") return Interval::Year;
-    return Interval::Month;
+    if (termType == "Year(s)") return Interval::Month;
+    return termType == "Years(s)" ? Interval::Year : TermInterval(termType);
 }
 
 } // namespace leases

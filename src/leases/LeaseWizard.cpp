@@ -1,5 +1,6 @@
 #include "leases/LeaseWizard.h"
 
+#include "core/Codes.h"
 #include "core/Configuration.h"
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
@@ -50,14 +51,14 @@ std::int32_t AddUnit(const LeaseWizardEntry& entry) {
 
     core::RowToWrite unit = AddRow("Unit", "IdUnit");
     unit["IdBuilding"].Set(idBuilding);
-    unit["Status"].Set("Leased");
+    unit["Status"].Set(core::kUnitLeased);
     unit["Rent"].Set(entry.rent);
     return Keep(unit);
 }
 
 std::int32_t AddTenant(const LeaseWizardEntry& entry) {
     core::RowToWrite tenant = AddRow("Tenant", "IdTenant");
-    tenant["Status"].Set("Current");
+    tenant["Status"].Set(core::kTenantCurrent);
     tenant["LastName"].Set(entry.lastName);
     tenant["FirstName"].Set(entry.firstName);
     tenant["Notes"].Set(kNotes);
@@ -91,7 +92,7 @@ std::int32_t AddLease(const LeaseWizardEntry& entry, std::int32_t idUnit, std::i
     row["DateCreated"].Set(platform::Today().ToText());
     for (const auto* date : {"DateActive", "DateRenewed", "DateNextDue"})
         row[date].Set(entry.startDate.ToText());
-    row["Status"].Set(status::kPending);
+    row["Status"].Set(core::kLeasePending);
     row["TermType"].Set(entry.termType);
     row["Term"].Set(entry.term);
     row["Rent"].Set(entry.rent);

@@ -26,19 +26,4 @@ inline constexpr std::string_view kCategoryLateFee = "Late Fee";
 inline constexpr std::string_view kCategoryDeposit = "Deposit";
 inline constexpr std::string_view kCategoryOptionCredit = "Option Credit";
 
-/// The words of `Lease.Status`.
-namespace status {
-inline constexpr std::string_view kPending = "Pending";
-inline constexpr std::string_view kContracted = "Contracted";
-inline constexpr std::string_view kMonthToMonth = "MTM";
-inline constexpr std::string_view kWeekToWeek = "WTW";
-inline constexpr std::string_view kNotice = "Notice";
-inline constexpr std::string_view kExpired = "Expired";
-inline constexpr std::string_view kBroken = "Broken";
-} // namespace status
-
-/// The words of `Lease.ExpireOption` beside the two of week to week and month to month.
-inline constexpr std::string_view kOptionRenew = "Renew";
-inline constexpr std::string_view kOptionExpire = "Expire";
-
 } // namespace leases

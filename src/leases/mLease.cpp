@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "core/Codes.h"
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
@@ -20,25 +21,21 @@ using platform::UnitOfWork;
 
 namespace {
 
-constexpr std::string_view kUnitAvailable = "Avaliable";
-constexpr std::string_view kUnitLeased = "Leased";
-constexpr std::string_view kTenantArchived = "Archived";
-constexpr std::string_view kTenantCurrent = "Current";
-
 void SetUnitAndTenant(Recordset& row, std::string_view leaseStatus) {
     const bool over = IsOver(leaseStatus);
-    core::SetUnitStatus(row["IdUnit"].AsLong(), over ? kUnitAvailable : kUnitLeased);
-    core::SetTenantStatus(row["IdTenant"].AsLong(), over ? kTenantArchived : kTenantCurrent);
+    core::SetUnitStatus(row["IdUnit"].AsLong(), over ? core::kUnitAvailable : core::kUnitLeased);
+    core::SetTenantStatus(row["IdTenant"].AsLong(),
+                          over ? core::kTenantArchived : core::kTenantCurrent);
 }
 
 std::string_view RentStatusOf(Recordset& row) {
     const int daysLate = platform::Today().Serial() - row["DateNextDue"].AsDate().Serial();
     const std::int16_t late = platform::Value(daysLate).AsInteger();
-    if (!row["Status"].IsNull() && IsOver(row["Status"].AsText())) return "n/a";
-    if (late > row["EvictDays"].AsInteger()) return "Eviction";
-    if (late > row["NoticeDays"].AsInteger()) return "Warning";
-    if (late > row["OneTimeDays"].AsInteger()) return "Late";
-    return late < 0 ? "OK" : "Due";
+    if (!row["Status"].IsNull() && IsOver(row["Status"].AsText())) return core::kPaymentNone;
+    if (late > row["EvictDays"].AsInteger()) return core::kRentEviction;
+    if (late > row["NoticeDays"].AsInteger()) return core::kRentWarning;
+    if (late > row["OneTimeDays"].AsInteger()) return core::kPaymentLate;
+    return late < 0 ? core::kPaymentOk : core::kPaymentDue;
 }
 
 std::vector<Charge> UpdateStored(std::int32_t idLease, WalkMode mode) {

@@ -25,22 +25,4 @@ inline constexpr std::string_view kCategoryEscrow = "Mortgage Escrow";
 /// Principal paid once beyond the scheduled payments; the row's flags are Ordinary.
 inline constexpr std::string_view kCategoryExtra = "Extra Principal";
 
-/// The class of a transaction that pays a mortgage.
-inline constexpr std::int16_t kMortgagePaymentClass = 5;
-
-/// The words of `Mortgage.Status`.
-namespace status {
-inline constexpr std::string_view kPending = "Pending";
-inline constexpr std::string_view kCurrent = "Current";
-inline constexpr std::string_view kClosed = "Closed";
-} // namespace status
-
-/// The words of `Mortgage.PmtStatus`.
-namespace pmtstatus {
-inline constexpr std::string_view kNotApplicable = "n/a";
-inline constexpr std::string_view kOk = "OK";
-inline constexpr std::string_view kDue = "Due";
-inline constexpr std::string_view kLate = "Late";
-} // namespace pmtstatus
-
 } // namespace mortgages

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Codes.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/values/Errors.h"
 
@@ -122,7 +123,7 @@ std::vector<Charge> WalkMortgage(const clsMortgage& mortgage, const RunTerms& te
     DueDays days(terms.nextDue, terms.graceDays);
     for (int serial = from.Serial() + 1; serial <= to.Serial(); ++serial) {
         const Date day = Date::FromSerial(serial);
-        if (mortgage.GetStatus(day) != status::kCurrent) continue;
+        if (mortgage.GetStatus(day) != core::kMortgageCurrent) continue;
         days.AdvanceTo(day);
         ChargeDay(charges, mortgage, terms, days, day);
     }

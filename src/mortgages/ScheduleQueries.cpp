@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "core/Codes.h"
 #include "mortgages/MortgageCodes.h"
 #include "mortgages/clsMortgage.h"
 #include "platform/system/Clock.h"
@@ -87,8 +88,8 @@ double clsMortgage::GetPriYTD(std::string_view year) const {
 
 std::string_view clsMortgage::GetStatus(Date date) const {
     const int period = PeriodOf(date);
-    if (period < 1) return status::kPending;
-    return period <= periods_ ? status::kCurrent : status::kClosed;
+    if (period < 1) return core::kMortgagePending;
+    return period <= periods_ ? core::kMortgageCurrent : core::kMortgageClosed;
 }
 
 Currency clsMortgage::GetPPMT(int period) const {

@@ -4,6 +4,7 @@
 #include <fmt/core.h>
 
 #include "core/ChargeLedger.h"
+#include "core/Codes.h"
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
@@ -92,7 +93,7 @@ std::int32_t BuildingOf(const MortgagePayment& payment) {
 books::Transaction TransactionOf(const MortgagePayment& payment) {
     books::Transaction transaction = books::TransactionOf(payment, payment.PaidAmount());
     transaction.ien = books::Ien::Expense;
-    transaction.transactionClass = kMortgagePaymentClass;
+    transaction.transactionClass = static_cast<std::int16_t>(core::TransactionClass::Mortgage);
     transaction.idBuilding = BuildingOf(payment);
     transaction.idMortgage = payment.idMortgage;
     return transaction;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "core/Codes.h"
 #include "core/Globals.h"
 #include "core/Rows.h"
 #include "mortgages/ExtraPrincipal.h"
@@ -68,16 +69,16 @@ void UpdateMortgageById(std::int32_t idMortgage, RunMode mode) {
 
 void SetMortgageStatus(Recordset& row) {
     const bool paid = !HasBalance(row);
-    SetWord(row, "Status", paid ? status::kClosed : status::kCurrent);
+    SetWord(row, "Status", paid ? core::kMortgageClosed : core::kMortgageCurrent);
     if (paid) {
-        SetWord(row, "PmtStatus", pmtstatus::kNotApplicable);
+        SetWord(row, "PmtStatus", core::kPaymentNone);
         return;
     }
     if (row["NextDue"].IsBlank()) return;
     const int daysPast = platform::Today().Serial() - row["NextDue"].AsDate().Serial();
     const int grace = CountOf(row["GracePeriod"]);
-    const std::string_view late = daysPast > grace ? pmtstatus::kLate : pmtstatus::kDue;
-    SetWord(row, "PmtStatus", daysPast > 0 ? late : pmtstatus::kOk);
+    const std::string_view late = daysPast > grace ? core::kPaymentLate : core::kPaymentDue;
+    SetWord(row, "PmtStatus", daysPast > 0 ? late : core::kPaymentOk);
 }
 
 } // namespace mortgages

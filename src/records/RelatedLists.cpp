@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <regex>
 #include <string>
 #include <vector>
@@ -84,23 +85,37 @@ constexpr std::array kBuildingLists = {
                 "ORDER BY Account.ShowAs"},
 };
 
-constexpr RelatedList kIncidents = {
-    "Incidents", "frmTenant.Incident", core::kIncident, kShowsIncidents,
-    "SELECT IdIncident, EntryDate AS [Entry Date], Severity, Description "
-    "FROM Incident WHERE IdTenant = ? ORDER BY DateValue(EntryDate) DESC"};
+constexpr std::array kTenantLists = {
+    RelatedList{"Incidents", "frmTenant.Incident", core::kIncident, kShowsIncidents,
+                "SELECT IdIncident, EntryDate AS [Entry Date], Severity, Description "
+                "FROM Incident WHERE IdTenant = ? ORDER BY DateValue(EntryDate) DESC"}};
 
-constexpr RelatedList kHistory = {
-    "History", "frmWorkOrder.WOItem", core::kWorkOrderHistory, kShowsHistory,
-    "SELECT IdWOItem, EntryDate AS [Entry Date], Description "
-    "FROM WOItem WHERE IdWorkOrder = ? ORDER BY DateValue(EntryDate) DESC"};
+constexpr std::array kWorkOrderLists = {
+    RelatedList{"History", "frmWorkOrder.WOItem", core::kWorkOrderHistory, kShowsHistory,
+                "SELECT IdWOItem, EntryDate AS [Entry Date], Description "
+                "FROM WOItem WHERE IdWorkOrder = ? ORDER BY DateValue(EntryDate) DESC"}};
 
-constexpr RelatedList kApplianceContracts = {
+constexpr std::array kApplianceLists = {RelatedList{
     "Service Contracts", "frmAppliance.SvcContract", core::kSvcContract, kShowsContracts,
     "SELECT SvcContract.IdSvcContract, Account.ShowAs AS [Vendor], "
     "SvcContract.SvcTerm AS [Term], SvcContract.SvcTermType AS [Term Type], "
     "SvcContract.SvcType AS [Service] "
     "FROM SvcContract LEFT JOIN Account ON SvcContract.IdVendor = Account.IdAccount "
-    "WHERE SvcContract.IdAppliance = ? ORDER BY Account.ShowAs"};
+    "WHERE SvcContract.IdAppliance = ? ORDER BY Account.ShowAs"}};
+
+std::span<const RelatedList> ListsOf(std::int16_t ownerKind) {
+    struct Owner {
+        std::int16_t kind;
+        std::span<const RelatedList> lists;
+    };
+    static constexpr Owner kOwners[] = {{core::kBuilding, kBuildingLists},
+                                        {core::kUnit, kUnitLists},
+                                        {core::kTenant, kTenantLists},
+                                        {core::kWorkOrder, kWorkOrderLists},
+                                        {core::kAppliance, kApplianceLists}};
+    const auto* const found = std::ranges::find(kOwners, ownerKind, &Owner::kind);
+    return found == std::end(kOwners) ? std::span<const RelatedList>() : found->lists;
+}
 
 /// The statement with its dates as they are stored: one text that isn't a date makes DateValue fail
 /// for the whole list.
@@ -120,22 +135,13 @@ std::int32_t BuildingOfAppliance(std::int32_t idAppliance) {
 } // namespace
 
 std::span<const RelatedList> TabbedLists(std::int16_t ownerKind) {
-    if (ownerKind == core::kBuilding) return kBuildingLists;
-    if (ownerKind == core::kUnit) return kUnitLists;
-    return {};
+    const auto lists = ListsOf(ownerKind);
+    return lists.size() > 1 ? lists : std::span<const RelatedList>();
 }
 
 const RelatedList* SingleList(std::int16_t ownerKind) {
-    switch (ownerKind) {
-        case core::kTenant:
-            return &kIncidents;
-        case core::kWorkOrder:
-            return &kHistory;
-        case core::kAppliance:
-            return &kApplianceContracts;
-        default:
-            return nullptr;
-    }
+    const auto lists = ListsOf(ownerKind);
+    return lists.size() == 1 ? &lists.front() : nullptr;
 }
 
 platform::Recordset OpenRelated(const RelatedList& list, const RelatedOwner& owner) {

@@ -14,6 +14,7 @@
 #include "removal/RecordTitle.h"
 #include "removal/Removal.h"
 #include "removal/RemovalQuestion.h"
+#include "removal/RemovalTable.h"
 
 namespace removal {
 
@@ -22,7 +23,7 @@ namespace {
 /// Broadcast once after all children of a kind were deleted, besides each one's own broadcast.
 constexpr std::int16_t kChildrenRemoved = 2;
 
-std::vector<std::int32_t> ChildrenOf(std::string_view sql, std::int32_t id) {
+std::vector<std::int32_t> IdsOf(std::string_view sql, std::int32_t id) {
     platform::Recordset rows = core::Read(sql, {id});
     std::vector<std::int32_t> children;
     for (; !rows.Eof(); rows.MoveNext()) {
@@ -31,24 +32,17 @@ std::vector<std::int32_t> ChildrenOf(std::string_view sql, std::int32_t id) {
     return children;
 }
 
-void RemoveChildren(Removal& removal, std::int16_t kind, std::string_view sql, std::int32_t id) {
-    for (const std::int32_t child : ChildrenOf(sql, id)) {
-        removal.Remove(kind, child);
+/// Removes the records that can't be without this one, theirs before them.
+void RemoveChildren(Removal& removal, std::int16_t kind, std::int32_t id) {
+    const KindRemoval* const entry = RemovalOf(kind);
+    if (entry == nullptr) return;
+    for (const Children& children : entry->children) {
+        for (const std::int32_t child : IdsOf(children.select, id)) {
+            RemoveChildren(removal, children.kind, child);
+            removal.Remove(children.kind, child);
+        }
+        removal.Note(children.kind, kChildrenRemoved);
     }
-    removal.Note(kind, kChildrenRemoved);
-}
-
-void RemoveLeasesOfUnit(Removal& removal, std::int32_t idUnit) {
-    RemoveChildren(removal, core::kLease, "SELECT IdLease FROM Lease WHERE IdUnit = ?", idUnit);
-}
-
-void RemoveUnitsOfBuilding(Removal& removal, std::int32_t idBuilding) {
-    for (const std::int32_t idUnit :
-         ChildrenOf("SELECT IdUnit FROM Unit WHERE IdBuilding = ?", idBuilding)) {
-        RemoveLeasesOfUnit(removal, idUnit);
-        removal.Remove(core::kUnit, idUnit);
-    }
-    removal.Note(core::kUnit, kChildrenRemoved);
 }
 
 /// The building that can't be without this unit, 0 if it has others.
@@ -65,30 +59,6 @@ std::int32_t BuildingOfLastUnit(std::int32_t idUnit) {
 void RemoveBuildingOfLastUnit(Removal& removal, std::int32_t idUnit) {
     const std::int32_t idBuilding = BuildingOfLastUnit(idUnit);
     if (idBuilding != 0) removal.Remove(core::kBuilding, idBuilding);
-}
-
-void RemoveWhatGoesFirst(Removal& removal, std::int16_t kind, std::int32_t id) {
-    switch (kind) {
-        case core::kAccount:
-            RemoveChildren(removal, core::kOwner,
-                           "SELECT IdOwnerLink FROM OwnerLink WHERE IdAccount = ?", id);
-            RemoveChildren(removal, core::kManager,
-                           "SELECT IdManagerLink FROM ManagerLink WHERE IdAccount = ?", id);
-            break;
-        case core::kTenant:
-            RemoveChildren(removal, core::kLease, "SELECT IdLease FROM Lease WHERE IdTenant = ?",
-                           id);
-            break;
-        case core::kBuilding:
-            RemoveUnitsOfBuilding(removal, id);
-            break;
-        case core::kUnit:
-            RemoveLeasesOfUnit(removal, id);
-            RemoveBuildingOfLastUnit(removal, id);
-            break;
-        default:
-            break;
-    }
 }
 
 BeforeBuilding& StepBeforeBuilding() {
@@ -127,7 +97,8 @@ bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm, Tell tell
     const Charges charges = AskAboutCharges(kind, id);
     if (!MayGo(kind, id)) return false;
     RunRemoval(tell, [&](Removal& removal) {
-        RemoveWhatGoesFirst(removal, kind, id);
+        RemoveChildren(removal, kind, id);
+        if (kind == core::kUnit) RemoveBuildingOfLastUnit(removal, id);
         removal.Remove(kind, id, charges);
     });
     return true;

@@ -2,13 +2,16 @@
 
 #include <algorithm>
 
+#include <fmt/core.h>
+
 #include "core/Globals.h"
 #include "core/KindOfTable.h"
+#include "core/KindTable.h"
 #include "core/MessagePump.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
-#include "removal/RemovalStatements.h"
+#include "removal/RemovalTable.h"
 
 namespace removal {
 
@@ -44,16 +47,21 @@ void Removal::Remove(std::int16_t kind, std::int32_t id, Charges charges) {
             RemoveStatements(kind, id);
             break;
     }
-    if (kind == core::kBuilding) Note(core::kUnit, core::kRecordsChanged);
-    if (kind == core::kUnit) Note(core::kBuilding, core::kRecordsChanged);
+    const KindRemoval* const entry = RemovalOf(kind);
+    if (entry != nullptr && entry->shownBy != core::kNone)
+        Note(entry->shownBy, core::kRecordsChanged);
     Execute("DELETE * FROM FileObject WHERE (dbType = ? ) AND (IdOwner = ?)", {kind, id});
     Note(kind, core::kRecordsChanged);
 }
 
 void Removal::RemoveStatements(std::int16_t kind, std::int32_t id) {
-    for (const std::string& statement : StatementsToRemove(kind)) {
+    const KindRemoval* const entry = RemovalOf(kind);
+    if (entry == nullptr) return;
+    for (const std::string_view statement : entry->statements)
         Execute(statement, {id});
-    }
+    const core::KindInfo& info = core::InfoOf(kind);
+    if (!info.key.empty())
+        Execute(fmt::format("DELETE * FROM {} WHERE {} = ?", info.table, info.key), {id});
 }
 
 std::int64_t Removal::Execute(std::string_view statement,

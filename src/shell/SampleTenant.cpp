@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Codes.h"
 #include "core/Lookups.h"
 #include "core/Rows.h"
 #include "leases/ChargeDeposits.h"
@@ -37,9 +38,9 @@ struct LeaseDates {
 
 Date FirstDayOver(Recordset& lease) {
     Date last;
-    if (lease["Status"].AsText() == leases::status::kNotice) {
+    if (lease["Status"].AsText() == core::kLeaseNotice) {
         last = lease["DateVacating"].AsDate();
-    } else if (lease["ExpireOption"].AsText() == leases::kOptionExpire) {
+    } else if (lease["ExpireOption"].AsText() == core::kExpireEnds) {
         last = DateAdd(leases::TermInterval(lease["TermType"].AsText()), lease["Term"].AsInteger(),
                        lease["DateRenewed"].AsDate());
     }
@@ -90,14 +91,14 @@ void SampleTenant::LiveThrough(Date day) {
     if (day == habit_.givesNotice) {
         const int noticeDays = ReadLease(habit_.idLease).noticeDays;
         leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
-        leases::ChangeStatus(habit_.idLease, leases::status::kNotice,
+        leases::ChangeStatus(habit_.idLease, core::kLeaseNotice,
                              DateAdd(Interval::Day, noticeDays, day));
         ends_ = ReadLease(habit_.idLease).ends;
     }
     if (day == ends_) leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
     if (day == habit_.breaks) {
         leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
-        leases::ChangeStatus(habit_.idLease, leases::status::kBroken, day);
+        leases::ChangeStatus(habit_.idLease, core::kLeaseBroken, day);
     }
     if (day == nextPayment_) {
         PayOpenCharges();

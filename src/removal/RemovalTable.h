@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace removal {
+
+// Records of the analysis program that shares the books.
+inline constexpr std::int16_t kAnalysis = 71;
+inline constexpr std::int16_t kNoteAnalysis = 73;
+
+/// Records that go along with a removed one, counted by the field that points to it.
+struct Counted {
+    std::string_view table;
+    std::string_view field;
+    std::string_view words; ///< follows the count in the question
+};
+
+/// Records that are removed first, each as if it were removed by itself.
+struct Children {
+    std::int16_t kind;
+    std::string_view select; ///< selects their ids by the id of the removed record
+};
+
+/// What the removal of a record kind asks and does; a kind without one isn't removed.
+struct KindRemoval {
+    std::int16_t kind = 0;
+    std::string_view title = "Confirm Delete";
+    /// The question before it, unless it counts what goes along.
+    std::string_view question{};
+    /// The record and the word for its references, in a question that counts; of a tenant, the
+    /// references are said to be an account's.
+    std::string_view thing{};
+    std::string_view referred{};
+    std::span<const Counted> counted{};
+    std::span<const Children> children{};
+    /// Run before the record's own row is deleted, each with its id as the only parameter.
+    std::span<const std::string_view> statements{};
+    /// The kind whose records show this one, so that their screens are notified too.
+    std::int16_t shownBy = 0;
+};
+
+/// Returns the entry of a kind; null for a kind that isn't removed.
+const KindRemoval* RemovalOf(std::int16_t kind);
+
+} // namespace removal
