@@ -39,7 +39,7 @@ const dialect::Catalog& DatabaseReader::Tables() const {
 
 std::int64_t DatabaseReader::CountRows(std::string_view table) {
     std::string sql = "SELECT Count(*) FROM ";
-    dialect::AppendEngineName(sql, TableOf(*engine_, table).name);
+    sql += dialect::EngineName(TableOf(*engine_, table).name);
     PreparedStatement count(engine_->Handle(), sql);
     return count.Step() ? count.Column(0).integer : 0;
 }
@@ -49,10 +49,10 @@ void DatabaseReader::ReadRows(std::string_view table, const std::function<void(R
     std::string sql;
     for (const dialect::Column& column : known.columns) {
         sql += sql.empty() ? "SELECT " : ", ";
-        dialect::AppendEngineName(sql, column.name);
+        sql += dialect::EngineName(column.name);
     }
     sql += " FROM ";
-    dialect::AppendEngineName(sql, known.name);
+    sql += dialect::EngineName(known.name);
     PreparedStatement rows(engine_->Handle(), sql);
     std::vector<Cell> cells(known.columns.size());
     while (rows.Step()) {

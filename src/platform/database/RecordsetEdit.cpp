@@ -10,13 +10,8 @@ namespace platform {
 namespace {
 
 using TextLife = PreparedStatement::TextLife;
+using dialect::EngineName;
 using Edits = std::vector<std::optional<Value>>;
-
-std::string Quoted(std::string_view name) {
-    std::string quoted;
-    dialect::AppendEngineName(quoted, name);
-    return quoted;
-}
 
 // The key of a statement that writes rows: its kind, the select that the rows were read by, the
 // fields that it sets. No statement's text starts with a zero byte.
@@ -44,16 +39,16 @@ void WriteList(std::string& sql, const Edits& edits, Write write) {
 void WriteWhere(std::string& sql, const dialect::CompiledStatement& select) {
     sql += " WHERE rowid = ?";
     for (const std::string& source : select.sources) {
-        if (!source.empty()) sql += " AND " + Quoted(source) + " COLLATE BINARY IS ?";
+        if (!source.empty()) sql += " AND " + EngineName(source) + " COLLATE BINARY IS ?";
     }
 }
 
 std::string InsertSql(const dialect::CompiledStatement& select, const Edits& edits) {
     std::string names;
     std::string marks;
-    WriteList(names, edits, [&](std::size_t i) { names += Quoted(select.sources[i]); });
+    WriteList(names, edits, [&](std::size_t i) { names += EngineName(select.sources[i]); });
     WriteList(marks, edits, [&](std::size_t) { marks += '?'; });
-    return "INSERT INTO " + Quoted(select.table) +
+    return "INSERT INTO " + EngineName(select.table) +
            (names.empty() ? " DEFAULT VALUES" : " (" + names + ") VALUES (" + marks + ")");
 }
 
@@ -62,19 +57,19 @@ std::string InsertSql(const dialect::CompiledStatement& select, const Edits& edi
 std::string ReadBackSql(const dialect::CompiledStatement& select) {
     std::string sql = "SELECT ";
     for (const std::string& source : select.sources)
-        sql += (source.empty() ? "NULL" : Quoted(source)) + ", ";
-    return sql + "rowid FROM " + Quoted(select.table) + " WHERE rowid = ?";
+        sql += (source.empty() ? "NULL" : EngineName(source)) + ", ";
+    return sql + "rowid FROM " + EngineName(select.table) + " WHERE rowid = ?";
 }
 
 std::string UpdateSql(const dialect::CompiledStatement& select, const Edits& edits) {
-    std::string sql = "UPDATE " + Quoted(select.table) + " SET ";
-    WriteList(sql, edits, [&](std::size_t i) { sql += Quoted(select.sources[i]) + " = ?"; });
+    std::string sql = "UPDATE " + EngineName(select.table) + " SET ";
+    WriteList(sql, edits, [&](std::size_t i) { sql += EngineName(select.sources[i]) + " = ?"; });
     WriteWhere(sql, select);
     return sql;
 }
 
 std::string DeleteSql(const dialect::CompiledStatement& select) {
-    std::string sql = "DELETE FROM " + Quoted(select.table);
+    std::string sql = "DELETE FROM " + EngineName(select.table);
     WriteWhere(sql, select);
     return sql;
 }

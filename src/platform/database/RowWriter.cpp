@@ -18,11 +18,11 @@ RowWriter::RowWriter(Connection& connection, std::string_view table,
         if (column == nullptr) throw FieldError(known->name + " has no field " + field + ".");
         types_.push_back(column->type);
         names += names.empty() ? "" : ", ";
-        dialect::AppendEngineName(names, column->name);
+        names += dialect::EngineName(column->name);
         places += places.empty() ? "?" : ", ?";
     }
     std::string sql = "INSERT INTO ";
-    dialect::AppendEngineName(sql, known->name);
+    sql += dialect::EngineName(known->name);
     sql += " (" + names + ") VALUES (" + places + ")";
     insert_ = std::make_unique<CachedStatement>(
         CachedStatement{nullptr, PreparedStatement(connection.Engine().Handle(), sql)});

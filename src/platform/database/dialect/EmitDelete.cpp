@@ -5,7 +5,7 @@ namespace platform::dialect {
 
 void Emitter::EmitDelete(const BoundStatement& statement) {
     sql_ += "DELETE FROM ";
-    AppendEngineName(sql_, statement.table);
+    sql_ += EngineName(statement.table);
     EmitClause(" WHERE ", statement.where);
 }
 

@@ -51,7 +51,7 @@ void Emitter::EmitNode(const BoundExpression& expression) {
             sql_ += expression.text;
             break;
         case BoundKind::Text:
-            AppendEngineText(sql_, expression.text);
+            sql_ += EngineText(expression.text);
             break;
         case BoundKind::Null:
             sql_ += "NULL";
@@ -60,9 +60,9 @@ void Emitter::EmitNode(const BoundExpression& expression) {
             fmt::format_to(std::back_inserter(sql_), "?{}", expression.parameter + 1);
             break;
         case BoundKind::Column:
-            AppendEngineName(sql_, expression.table);
+            sql_ += EngineName(expression.table);
             sql_ += '.';
-            AppendEngineName(sql_, expression.text);
+            sql_ += EngineName(expression.text);
             break;
         case BoundKind::Prefix:
             sql_ += expression.text;

@@ -5,11 +5,11 @@ namespace platform::dialect {
 
 void Emitter::EmitInsert(const BoundStatement& statement) {
     sql_ += "INSERT INTO ";
-    AppendEngineName(sql_, statement.table);
+    sql_ += EngineName(statement.table);
     std::string_view separator = " (";
     for (const std::string_view column : statement.columns) {
         sql_ += separator;
-        AppendEngineName(sql_, column);
+        sql_ += EngineName(column);
         separator = ", ";
     }
     sql_ += ") ";

@@ -44,7 +44,7 @@ void Emitter::EmitQuery(const BoundQuery& query, ColumnNames names) {
     }
     if (around) {
         sql_ += ") AS ";
-        AppendEngineName(sql_, kUnnamedRows);
+        sql_ += EngineName(kUnnamedRows);
     }
     EmitOrder(query);
     if (query.selects.size() == 1) EmitTop(query.selects[0], query);
@@ -77,12 +77,12 @@ void Emitter::EmitItems(const BoundSelect& select, const BoundQuery& query, Colu
                      comparesRows && IsText(query.columns[i].type));
         if (names == ColumnNames::Numbered) {
             sql_ += " AS ";
-            AppendEngineName(sql_, NumberedName(i + 1));
+            sql_ += EngineName(NumberedName(i + 1));
         }
     }
     if (query.writable) {
         sql_ += ", ";
-        AppendEngineName(sql_, select.from[0]->alias);
+        sql_ += EngineName(select.from[0]->alias);
         sql_ += ".rowid";
     }
 }

@@ -53,11 +53,11 @@ void Emitter::EmitSource(const BoundSource& source) {
     if (source.kind == Source::Kind::Derived) {
         EmitNested(*source.query, ColumnNames::Numbered);
     } else {
-        AppendEngineName(sql_, source.table);
+        sql_ += EngineName(source.table);
         if (source.alias == source.table) return;
     }
     sql_ += " AS ";
-    AppendEngineName(sql_, source.alias);
+    sql_ += EngineName(source.alias);
 }
 
 } // namespace platform::dialect

@@ -5,11 +5,11 @@ namespace platform::dialect {
 
 void Emitter::EmitUpdate(const BoundStatement& statement) {
     sql_ += "UPDATE ";
-    AppendEngineName(sql_, statement.table);
+    sql_ += EngineName(statement.table);
     std::string_view separator = " SET ";
     for (std::size_t i = 0; i < statement.columns.size(); ++i) {
         sql_ += separator;
-        AppendEngineName(sql_, statement.columns[i]);
+        sql_ += EngineName(statement.columns[i]);
         sql_ += " = ";
         Emit(*statement.values[i]);
         separator = ", ";

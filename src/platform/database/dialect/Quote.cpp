@@ -5,21 +5,19 @@ namespace platform::dialect {
 
 namespace {
 
-void AppendEnclosed(std::string& out, std::string_view text, char mark) {
-    out += mark;
+std::string Enclosed(std::string_view text, char mark) {
+    std::string enclosed(1, mark);
     for (const char c : text) {
-        if (c == mark) out += mark;
-        out += c;
+        if (c == mark) enclosed += mark;
+        enclosed += c;
     }
-    out += mark;
+    return enclosed + mark;
 }
 
 } // namespace
 
 std::string QuoteText(std::string_view text) {
-    std::string quoted;
-    AppendEnclosed(quoted, text, '\'');
-    return quoted;
+    return Enclosed(text, '\'');
 }
 
 std::string QuoteName(std::string_view name) {
@@ -30,12 +28,12 @@ std::string QuoteDate(Date date) {
     return "#" + date.ToText() + "#";
 }
 
-void AppendEngineText(std::string& sql, std::string_view text) {
-    AppendEnclosed(sql, text, '\'');
+std::string EngineText(std::string_view text) {
+    return Enclosed(text, '\'');
 }
 
-void AppendEngineName(std::string& sql, std::string_view name) {
-    AppendEnclosed(sql, name, '"');
+std::string EngineName(std::string_view name) {
+    return Enclosed(name, '"');
 }
 
 } // namespace platform::dialect
