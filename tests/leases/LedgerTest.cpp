@@ -138,16 +138,6 @@ TEST_F(LedgerTest, AnAmountIsSavedInWholeCents) {
     }
 }
 
-TEST_F(LedgerTest, OffersTheWordsOfTheClassTheDefaultLast) {
-    EXPECT_EQ(leases::ChargeCategories(RentClass::Rent).back(), "Misc Charge");
-    EXPECT_EQ(leases::ChargeCategories(RentClass::Subsidy).back(), "Misc Charge");
-    EXPECT_EQ(leases::ChargeCategories(RentClass::Deposit).back(), "Misc Deposit");
-    EXPECT_EQ(leases::ChargeCategories(RentClass::OptionCredit).back(), "Misc Credit");
-    EXPECT_EQ(leases::SplitCategories(RentClass::Rent),
-              (Lines{"Rent", "Deferred Rent", "Late Fee", "Utilities", "Application Fee", "NSF Fee",
-                     "Service Fee", "Misc Charge"}));
-}
-
 class Split : public LedgerTest {
   protected:
     static RentSplit Of(std::int32_t id, std::int64_t first, std::int64_t second) {

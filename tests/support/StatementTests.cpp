@@ -180,7 +180,7 @@ class StatementTest : public testing::Test {
     StatementBlock block_;
 };
 
-/// "main-window-views" as MainWindowViews, which a test's name may be.
+/// "some-words" as SomeWords, which a test's name may be.
 std::string NameOf(std::string_view words) {
     std::string name;
     bool start = true;
