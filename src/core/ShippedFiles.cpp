@@ -45,7 +45,8 @@ Manifest ReadManifest(const fs::path& file) {
         rest.remove_prefix(std::min(rest.size(), line.size() + 1));
         Checksum sum = 0;
         if (line.size() <= kDigits + 1) continue;
-        std::from_chars(line.data(), line.data() + kDigits, sum, kHex);
+        const std::string_view digits = line.substr(0, kDigits);
+        std::from_chars(digits.begin(), digits.end(), sum, kHex);
         known[std::string(line.substr(kDigits + 1))] = sum;
     }
     return known;

@@ -7,14 +7,11 @@
 #include "core/Preferences.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/ErrorRoll.h"
-#include "platform/qt/Text.h"
 #include "reports/ReportList.h"
 #include "reports/ViewerSettings.h"
 #include "ui_frmReportViewer.h"
 
 namespace reports::screens {
-
-using platform::qt::ToScreen;
 
 frmReportViewer::frmReportViewer(QWidget* parent)
     : Form(parent),

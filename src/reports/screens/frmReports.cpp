@@ -205,8 +205,8 @@ std::vector<std::string> frmReports::StoreDates(ReportDef& report) const {
     const auto start = ui_->dpStart->Day();
     const auto end = ui_->dpEnd->Day();
     std::vector<std::string> faults;
-    if (!start || !start->IsSet()) faults.push_back("The first date is not a valid date.");
-    if (!end || !end->IsSet()) faults.push_back("The last date is not a valid date.");
+    if (!start || !start->IsSet()) faults.emplace_back("The first date is not a valid date.");
+    if (!end || !end->IsSet()) faults.emplace_back("The last date is not a valid date.");
     if (!faults.empty()) return faults;
     report.StartDate = *start;
     report.EndDate = *end;

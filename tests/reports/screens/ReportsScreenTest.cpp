@@ -43,7 +43,9 @@ class ReportsScreen : public support::ScreenTest {
         Define("all.rpt",
                "DESCRIPTION=Everything\nSELECTITEM=Tenant\nSELECTDETAIL=TRUE\n"
                "SELECTYEAR=TRUE\nDATERANGE=SELECT\nTAB=DETAIL\nICON=TENANT\nNOTES=" +
-                   std::string(120, 'n') + " long notes that wrap over lines\n");
+                   "The lines of the year, per building and in total: rents, each expense, "
+                   "interest paid and depreciation. Taxes and insurance that were paid from an "
+                   "escrow account must be added by hand, and so must what others paid.\n");
         Define("sum.rpt", "DESCRIPTION=Sums\nTAB=SUMMARY\nDATERANGE=CURYEAR\n");
         Define("print.rpt", "DESCRIPTION=Printed\nPRINT=TRUE\n");
         Define("receipt.rcpt", "DESCRIPTION=Receipt\n");
