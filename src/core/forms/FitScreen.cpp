@@ -1,5 +1,6 @@
 #include "core/forms/FitScreen.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QLayout>
 #include <QLineEdit>
@@ -51,6 +52,27 @@ void LetScroll(QWidget& page) {
     outer->addWidget(area);
 }
 
+bool HoldsOnlyButtons(const QLayout* row) {
+    if (!row) return false;
+    for (int i = 0; i < row->count(); ++i) {
+        const QWidget* const widget = row->itemAt(i)->widget();
+        if (widget && !qobject_cast<const QAbstractButton*>(widget)) return false;
+    }
+    return true;
+}
+
+/// Puts an item into another layout, which takes its controls along.
+void MoveItem(QLayoutItem& item, QVBoxLayout& rows) {
+    if (item.layout()) {
+        rows.addLayout(item.layout());
+    } else if (item.widget()) {
+        rows.addWidget(item.widget());
+        delete &item;
+    } else {
+        rows.addItem(&item);
+    }
+}
+
 /// What a window may take of its screen, its frame left out.
 QSize RoomFor(const QWidget& window) {
     const QSize frame = window.frameGeometry().size() - window.geometry().size();
@@ -88,16 +110,10 @@ bool LetFormScroll(QWidget& form) {
     auto* const rows = new QVBoxLayout(contents);
     rows->setContentsMargins(0, 0, 0, 0);
     while (column->count() > 0) {
-        QLayoutItem* const item = column->itemAt(0);
-        if (qobject_cast<ActionBar*>(item->widget())) break;
-        column->takeAt(0);
-        if (QLayout* const inner = item->layout()) {
-            inner->setParent(nullptr);
-            rows->addLayout(inner); // which takes its controls along
-        } else {
-            rows->addItem(item);
-            if (item->widget()) item->widget()->setParent(contents);
-        }
+        if (qobject_cast<ActionBar*>(column->itemAt(0)->widget())) break;
+        // The buttons that a wizard ends with don't scroll away either.
+        if (column->count() == 1 && HoldsOnlyButtons(column->itemAt(0)->layout())) break;
+        MoveItem(*column->takeAt(0), *rows);
     }
     area->setWidget(contents);
     column->insertWidget(0, area);

@@ -34,7 +34,7 @@ void RecordForm::Wire() {
     bar_ = new RecordBar(*this, place_.kind,
                          {[this] { Apply(); }, [this] { SaveAndClose(); },
                           [this] {
-                              if (dirty_ || id_ == 0) Apply();
+                              if (dirty_ || (id_ == 0 && SavesUntouched())) Apply();
                               return !dirty_ && id_ != 0;
                           }});
 }
@@ -123,6 +123,32 @@ void RecordForm::Load() {
     fields_.Settle(*this);
 }
 
+void RecordForm::BecomeNew() {
+    id_ = 0;
+    read_.clear();
+    fields_.Forget();
+    binding::SetTag(*this, {});
+    ShowDeleted(false);
+    ShowCaption();
+    ShowSubjects();
+}
+
+void RecordForm::ShowRecord(std::int32_t id) {
+    const LoadingGuard loading(*this);
+    dirty_ = false;
+    fields_.ShowBlanks(*this);
+    BecomeNew();
+    id_ = id;
+    try {
+        if (id_ != 0) Load();
+    } catch (...) {
+        id_ = 0; // a save must not write blanks over the record
+        throw;
+    }
+    if (id_ == 0 && propose_) propose_();
+    ShowDirty();
+}
+
 bool RecordForm::Save() {
     if (!ShowErrorRoll(AllErrors())) return false;
     const RowState state = FindState();
@@ -152,7 +178,8 @@ void RecordForm::Apply() {
 
 void RecordForm::SaveAndClose() {
     bool saved = false;
-    Perform([&] { saved = Save(); });
+    const bool nothing = id_ == 0 && !dirty_ && !SavesUntouched();
+    Perform([&] { saved = nothing || Save(); });
     ShowDirty();
     if (saved) close();
 }

@@ -83,6 +83,8 @@ class RecordForm : public Form {
     /// Writes what was entered, within a unit of work. A screen whose save is more than its row
     /// gives all of it to the logic, and sets the id that a new record got.
     virtual void Store();
+    /// Whether Close saves a new record that nothing was entered in.
+    virtual bool SavesUntouched() const { return true; }
     /// Does what follows a save beyond its row.
     virtual void AfterSave() {}
     /// Refills what depends on records of `kind`; nothing that changes here makes the form dirty.
@@ -94,6 +96,10 @@ class RecordForm : public Form {
     /// The records that the screen shows, for what other rooms add to it.
     virtual std::vector<Subject> Subjects() const;
 
+    /// Shows another record in the same form, or a new one with id 0; what was entered is dropped.
+    void ShowRecord(std::int32_t id);
+    /// What the controls hold is a new record's from now on.
+    void BecomeNew();
     void Load();
     /// False if the entries are refused; throws a failure of the database, the form stays dirty.
     bool Save();

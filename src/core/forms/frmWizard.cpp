@@ -25,6 +25,7 @@ constexpr std::string_view kWizardsKey = R"(SOFTWARE\Vestrel\Kestrom\Wizards)";
 frmWizard::frmWizard(std::string name, QWidget* parent)
     : Form(parent), name_(std::move(name)), ui_(std::make_unique<Ui::frmWizard>()) {
     ui_->setupUi(this);
+    SetFinishText(tr("&Finish"));
     QFont heading = ui_->lblHeading->font();
     heading.setBold(true);
     heading.setPointSizeF(heading.pointSizeF() * 1.25);
@@ -98,6 +99,10 @@ std::vector<std::string> frmWizard::StepErrors(int /*step*/) {
     return {};
 }
 
+void frmWizard::SetFinishText(const QString& text) {
+    finish_ = text;
+}
+
 void frmWizard::ShowStep(int /*step*/) {}
 
 void frmWizard::closeEvent(QCloseEvent* event) {
@@ -132,7 +137,7 @@ void frmWizard::ShowButtons() {
     for (int number = 0; number <= LastStep(); ++number)
         steps_[static_cast<std::size_t>(number)]->setChecked(number == Step());
     const bool isLast = Step() == LastStep();
-    ui_->cmdNext->setText(isLast ? tr("&Finish") : tr("&Next"));
+    ui_->cmdNext->setText(isLast ? finish_ : tr("&Next"));
     binding::SetTag(*ui_->cmdNext, isLast ? "FINISH" : "NEXT");
     ui_->cmdBack->setEnabled(Step() > 0);
     ui_->chkSkip->setVisible(Step() == 0);
@@ -141,7 +146,7 @@ void frmWizard::ShowButtons() {
 void frmWizard::FinishAndClose() {
     bool finished = false;
     Perform([&] {
-        if (!ShowErrorRoll(StepErrors(Step()))) return;
+        if (!ShowErrorRoll(StepErrors(Step())) || !Agreed()) return;
         Finish();
         finished = true;
     });

@@ -44,6 +44,10 @@ class frmWizard : public Form {
 
     /// What is wrong with a step, a line each.
     virtual std::vector<std::string> StepErrors(int step);
+    /// Asks what there is to ask before Finish, once nothing is wrong; false keeps the wizard open.
+    virtual bool Agreed() { return true; }
+    /// What the button of the last step says; "Finish" unless this is called.
+    void SetFinishText(const QString& text);
     /// A step is about to show, a summary for one.
     virtual void ShowStep(int step);
     /// Does what the wizard is for; the wizard closes then. What it throws is shown and keeps the
@@ -62,6 +66,7 @@ class frmWizard : public Form {
     std::string name_;
     std::unique_ptr<Ui::frmWizard> ui_;
     std::vector<QToolButton*> steps_;
+    QString finish_;
 };
 
 } // namespace core::forms

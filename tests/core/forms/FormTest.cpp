@@ -1,7 +1,10 @@
 #include "core/forms/Form.h"
 
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -98,6 +101,34 @@ TEST_F(FormTest, AStoredPlaceThatIsNoneIsPassedOver) {
         EXPECT_EQ(form->size(), QSize(300, 200)) << place;
         form->close();
     }
+}
+
+/// As a wizard is laid out: rows that hold layouts, and a row of buttons at the end.
+TEST_F(FormTest, AFormTooLargeForTheScreenScrollsWithAllItHolds) {
+    auto* const form = new SampleForm;
+    auto* const page = qobject_cast<QVBoxLayout*>(form->layout());
+    auto* const upper = new QHBoxLayout;
+    auto* const wide = new QLineEdit;
+    wide->setMinimumSize(3000, 2000);
+    upper->addWidget(wide);
+    page->addLayout(upper);
+    auto* const label = new QLabel(QStringLiteral("Below"));
+    page->addWidget(label);
+    auto* const buttons = new QHBoxLayout;
+    buttons->addStretch();
+    auto* const next = new QPushButton(QStringLiteral("Next"));
+    buttons->addWidget(next);
+    page->addLayout(buttons);
+    form->Open();
+    support::SettleEvents();
+    const auto* const area = form->findChild<QScrollArea*>(QStringLiteral("scroll"));
+    ASSERT_NE(area, nullptr);
+    EXPECT_TRUE(area->isAncestorOf(wide));
+    EXPECT_TRUE(area->isAncestorOf(label));
+    EXPECT_FALSE(area->isAncestorOf(next)) << "the buttons stay";
+    const QSize room = form->screen()->availableGeometry().size();
+    EXPECT_LE(form->width(), room.width());
+    EXPECT_TRUE(form->rect().contains(next->geometry()));
 }
 
 TEST_F(FormTest, EscapeClosesAndF1OpensThePageOfTheForm) {
