@@ -20,6 +20,8 @@ struct PlanVehicle {
     platform::Date to = {};
     double percent = 100; ///< its share of the trips, as a weight
     bool isUsed = true;
+
+    friend bool operator==(const PlanVehicle&, const PlanVehicle&) = default;
 };
 
 /// A building that trips lead to.
@@ -28,6 +30,8 @@ struct PlanBuilding {
     std::string address;
     double distance = 0; ///< miles of a trip
     bool isUsed = true;
+
+    friend bool operator==(const PlanBuilding&, const PlanBuilding&) = default;
 };
 
 struct TripPlan {
@@ -39,6 +43,8 @@ struct TripPlan {
     std::vector<PlanBuilding> buildings;
     /// How far a trip's length may be from the building's distance, in percent of it.
     double variance = 15;
+
+    friend bool operator==(const TripPlan&, const TripPlan&) = default;
 };
 
 /// A transaction that a trip is made up for.

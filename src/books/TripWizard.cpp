@@ -51,8 +51,9 @@ std::vector<std::string> PlanCategories(Date from, Date to) {
 
 std::vector<PlanVehicle> PlanVehicles(Date from, Date to) {
     constexpr double kWhole = 100;
-    std::vector<PlanVehicle> vehicles;
     const core::ChoiceList known = KnownVehicles();
+    std::vector<PlanVehicle> vehicles;
+    vehicles.reserve(known.Rows().size());
     for (const core::Choice& row : known.Rows())
         vehicles.push_back({.name = row.text, .from = from, .to = to});
     for (PlanVehicle& vehicle : vehicles)
@@ -76,6 +77,7 @@ std::vector<PlanBuilding> PlanBuildings(Date from, Date to) {
 
 std::vector<TripOccasion> PlanOccasions(const TripPlan& plan) {
     std::vector<std::string> categories;
+    categories.reserve(plan.categories.size());
     for (const std::string& category : plan.categories)
         categories.push_back("TaxCategory=" + QuoteText(category) + " ");
     std::vector<std::string> buildings;

@@ -4,6 +4,7 @@
 
 #include "books/screens/frmAutoEvent.h"
 #include "books/screens/frmAutoEventList.h"
+#include "books/screens/frmMileage.h"
 #include "books/screens/frmTransCategory.h"
 #include "books/screens/frmTransaction.h"
 #include "core/EditRecord.h"
@@ -134,6 +135,9 @@ void RegisterEditors() {
     core::RegisterOpener(core::kAutoEvent, [](const core::EditRequest& request) {
         (new books::screens::frmAutoEvent)->Setup(request.id);
     });
+    core::RegisterOpener(core::kMileage, [](const core::EditRequest& request) {
+        (new books::screens::frmMileage)->Setup(request.id);
+    });
     RegisterChild<records::screens::frmOwnerLink>(core::kOwner);
     RegisterChild<records::screens::frmManagerLink>(core::kManager);
     RegisterChild<records::screens::frmRoom>(core::kRoom);
@@ -175,6 +179,7 @@ shell::screens::Commands MenuCommands() {
     commands.Add(QStringLiteral("mnuPort"), Opening<exchange::screens::frmPort>());
     commands.Add(QStringLiteral("mnuCheck"), Opening<exchange::screens::frmCheck>());
     commands.Add(QStringLiteral("mnuAutoEvents"), Opening<books::screens::frmAutoEventList>());
+    commands.Add(QStringLiteral("mnuMileage"), Opening<books::screens::frmMileage>());
     commands.Add(QStringLiteral("mnuTransCategory"), Opening<books::screens::frmTransCategory>());
     AddDocumentCommands(commands);
     for (const char* const item : {"mnuDocMgmt", "mnuPrintDocMgmt"})

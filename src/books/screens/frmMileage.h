@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QPointer>
+#include <cstdint>
+#include <memory>
+
+#include "books/Odometer.h"
+#include "books/TripLog.h"
+#include "core/forms/RecordForm.h"
+
+class QAction;
+
+namespace Ui {
+class frmMileage;
+}
+
+namespace books::screens {
+
+/// The mileage log: the trips of a period, and the boxes of the selected one or of a new one.
+class frmMileage : public core::forms::RecordForm {
+    Q_OBJECT
+
+  public:
+    explicit frmMileage(QWidget* parent = nullptr);
+    ~frmMileage() override;
+
+    /// Opens on a trip, or on a new one.
+    void Setup(std::int32_t id = 0);
+
+  protected:
+    void ShowRow(platform::Recordset& row) override;
+    void WriteRow(platform::Recordset& row) override;
+    void ShowCaption() override;
+    std::vector<std::string> Errors() override;
+    void Store() override;
+    bool SavesUntouched() const override { return false; }
+    void Refresh(std::int16_t kind) override;
+
+  private:
+    void MakeMenu();
+    void Connect();
+    void ConnectOdometer();
+    void Propose();
+    void FillLists();
+    void FillFilterItems();
+    void FillGrid();
+    void ShowTotals();
+    TripFilter Filter() const;
+    void PeriodChosen();
+    void RowSelected();
+    void VehicleChosen();
+    void BuildingChosen();
+    void ShowOdometer(const QWidget* typed = nullptr);
+    bool MayLeaveTrip();
+    void Add();
+    void NewTrip();
+    void CopyTrip();
+    void DeleteTrip();
+    void OpenWizard();
+    void ShowAvailable();
+
+    std::unique_ptr<Ui::frmMileage> ui_;
+    QAction* copy_ = nullptr;
+    QAction* delete_ = nullptr;
+    QPointer<QWidget> wizard_;
+    Odometer odometer_;
+    bool beginTyped_ = false;
+    bool isNew_ = false; ///< the row being written gets a new id
+    bool filling_ = false;
+};
+
+} // namespace books::screens
