@@ -42,10 +42,10 @@ class ReportsScreen : public support::ScreenTest {
         Define("dated.rpt", "DESCRIPTION=Dated\nTAB=FINANCIAL\nDATERANGE=SELECT\nNOTES=By date.\n");
         Define("all.rpt",
                "DESCRIPTION=Everything\nSELECTITEM=Tenant\nSELECTDETAIL=TRUE\n"
-               "SELECTYEAR=TRUE\nDATERANGE=SELECT\nTAB=DETAIL\nICON=TENANT\nNOTES=" +
-                   "The lines of the year, per building and in total: rents, each expense, "
-                   "interest paid and depreciation. Taxes and insurance that were paid from an "
-                   "escrow account must be added by hand, and so must what others paid.\n");
+               "SELECTYEAR=TRUE\nDATERANGE=SELECT\nTAB=DETAIL\nICON=TENANT\nNOTES="
+               "The lines of the year, per building and in total: rents, each expense, "
+               "interest paid and depreciation. Taxes and insurance that were paid from an "
+               "escrow account must be added by hand, and so must what others paid.\n");
         Define("sum.rpt", "DESCRIPTION=Sums\nTAB=SUMMARY\nDATERANGE=CURYEAR\n");
         Define("print.rpt", "DESCRIPTION=Printed\nPRINT=TRUE\n");
         Define("receipt.rcpt", "DESCRIPTION=Receipt\n");
