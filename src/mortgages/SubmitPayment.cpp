@@ -20,7 +20,6 @@
 namespace mortgages {
 
 using platform::ConflictError;
-using platform::Currency;
 using platform::Recordset;
 
 namespace {

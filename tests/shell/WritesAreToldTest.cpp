@@ -120,15 +120,15 @@ leases::RentPayment Payment() {
 }
 
 books::Transaction Repair() {
-    return {.dateEffective = Date(2026, 12, 1),
-            .debit = books::Party{core::kAccount, 400, "River Bank"},
-            .credit = books::Party{core::kAccount, 404, "Fix-It Co"},
-            .amount = platform::Currency::FromUnits(60),
-            .taxCategory = "Repairs",
-            .ien = books::Ien::Expense,
-            .checkNumber = "",
-            .description = "",
-            .idBuilding = 100};
+    books::Transaction repair;
+    repair.dateEffective = Date(2026, 12, 1);
+    repair.debit = {core::kAccount, 400, "River Bank"};
+    repair.credit = {core::kAccount, 404, "Fix-It Co"};
+    repair.amount = platform::Currency::FromUnits(60);
+    repair.taxCategory = "Repairs";
+    repair.ien = books::Ien::Expense;
+    repair.idBuilding = 100;
+    return repair;
 }
 
 TEST_F(WritesAreTold, ByEveryRoutineOfTheLeases) {
