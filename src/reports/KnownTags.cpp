@@ -40,8 +40,8 @@ KnownTags KnownTags::OfSection() {
     return tags;
 }
 
-void KnownTags::Add(const std::string& name, std::string sample) {
-    samples_.try_emplace(platform::ToUpper(name), std::move(sample));
+void KnownTags::Add(const std::string& name, const std::string& sample) {
+    samples_.try_emplace(platform::ToUpper(name), sample);
 }
 
 bool KnownTags::Has(const std::string& name) const {

@@ -17,7 +17,7 @@ class KnownTags {
     /// The tags of the texts and statements of sections.
     static KnownTags OfSection();
 
-    void Add(const std::string& name, std::string sample);
+    void Add(const std::string& name, const std::string& sample);
     bool Has(const std::string& name) const;
 
     /// The text with each tag's sample in its place.
