@@ -61,11 +61,6 @@ void SetDocFlag(std::int32_t idDoc, std::size_t flag, bool isOn) {
     core::NotifyAll(core::kDocument, core::kRecordsChanged, idDoc);
 }
 
-void DeleteDoc(std::int32_t idDoc) {
-    core::Execute("DELETE FROM Doc WHERE IdDoc = ?", {idDoc});
-    core::NotifyAll(core::kDocument, core::kRecordsChanged, idDoc);
-}
-
 std::vector<std::string> UnlistedDocs(const std::string& folder) {
     const std::vector<DocRow> docs = AllDocs();
     std::vector<std::string> unlisted;

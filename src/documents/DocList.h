@@ -45,9 +45,6 @@ std::int32_t AddDoc(const std::string& filePath);
 /// forms.
 void SetDocFlag(std::int32_t idDoc, std::size_t flag, bool isOn);
 
-/// Takes a template off the list; its file stays.
-void DeleteDoc(std::int32_t idDoc);
-
 /// Returns the template files in `folder` that aren't on the list yet, by name.
 std::vector<std::string> UnlistedDocs(const std::string& folder);
 

@@ -217,7 +217,7 @@ TEST_F(Letters, AreListedWithTheKindsTheyAreFor) {
     ASSERT_EQ(1U, dialogs.Heard().size());
     EXPECT_EQ("Try Again", dialogs.Heard()[0].title);
     EXPECT_NE(0, documents::AddDoc("/" + std::string(254, 'x'))) << "the field holds 255";
-    documents::DeleteDoc(late);
+    Run("DELETE FROM Doc WHERE IdDoc = " + std::to_string(late));
     EXPECT_EQ("All's well;", names(core::kLease));
 }
 

@@ -20,6 +20,7 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Paths.h"
+#include "removal/DeleteRecord.h"
 #include "ui_frmDocMgmt.h"
 
 namespace documents::screens {
@@ -102,7 +103,7 @@ void frmDocMgmt::Connect() {
     const auto on = [this](QPushButton* button, void (frmDocMgmt::*work)()) {
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this,
-                [this, work] { Guarded([&] { (this->*work)(); }); });
+                [this, work] { Perform([&] { (this->*work)(); }); });
     };
     on(ui_->cmdAdd, &frmDocMgmt::Add);
     on(ui_->cmdShipped, &frmDocMgmt::AddShipped);
@@ -233,7 +234,7 @@ void frmDocMgmt::Edit() {
 }
 
 void frmDocMgmt::Delete() {
-    DeleteDoc(SelectedDoc());
+    removal::DeleteRecord(core::kDocument, SelectedDoc());
 }
 
 void frmDocMgmt::LoadOptions() {

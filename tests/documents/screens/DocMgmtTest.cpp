@@ -7,7 +7,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
-#include <fstream>
+#include <filesystem>
 
 #include "core/Configuration.h"
 #include "documents/DocList.h"
@@ -63,7 +63,13 @@ TEST_F(DocMgmtScreen, AddsTicksAndDeletesTemplates) {
     EXPECT_NE(std::string::npos, Faults(form).find("<<Nope>>")) << Faults(form);
 
     support::ClickOn(Find<QPushButton>(form, "cmdDelete"));
+    EXPECT_EQ("1", Ask("SELECT Count(*) FROM Doc")) << "No";
+    EXPECT_EQ(Heard(),
+              std::vector<std::string>{"Confirm Delete: Delete selected Document?\n\nLate"});
+    Answer({true});
+    support::ClickOn(Find<QPushButton>(form, "cmdDelete"));
     EXPECT_EQ("0", Ask("SELECT Count(*) FROM Doc"));
+    EXPECT_TRUE(std::filesystem::exists(PathTo("Late.rtf"))) << "the file stays";
     EXPECT_EQ("No Files Found.", Cell(form, 0, 0));
     support::ClickOn(Find<QPushButton>(form, "cmdDelete"));
 }
