@@ -63,15 +63,6 @@ bool LooksLikeAmount(std::string_view text) {
            text.find_first_of("0123456789") != std::string_view::npos;
 }
 
-bool StaysInOneLine(std::string_view text) {
-    constexpr std::string_view kDay = "mm/dd/yyyy";
-    const auto isPart = [&, at = std::size_t{0}](char c) mutable {
-        return kDay[at++] == '/' ? c == '/' : c >= '0' && c <= '9';
-    };
-    if (text.size() == kDay.size() && std::ranges::all_of(text, isPart)) return true;
-    return LooksLikeAmount(text);
-}
-
 std::vector<std::vector<std::string>> ParseTableText(std::string_view text) {
     std::vector<std::vector<std::string>> rows;
     for (const std::string_view line : Split(text, ';')) {

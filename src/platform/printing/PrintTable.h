@@ -101,8 +101,6 @@ std::vector<TableColumn> ParseTableFormat(std::string_view format);
 
 /// True for a text such as "1,234.50", "(12.00)" or "-5%": digits with the signs of numbers.
 bool LooksLikeAmount(std::string_view text);
-/// True for a text that would be misread in two lines: an amount, or a day "05/17/2024".
-bool StaysInOneLine(std::string_view text);
 
 /// The rows and cells of a text: rows separated by ";", cells by "|". An empty text has no rows; a
 /// ";" at the end of the text adds no row.

@@ -23,9 +23,9 @@ TextInk MakeInk(FontMetrics& metrics, PrintStyle style, double scale, Weight wei
             .underline = style.fontUnderline};
 }
 
-/// The part of a text that must stay in one line: an amount, a day, or the longest word of a title.
+/// The part of a text that must stay in one line: an amount, or the longest word of a title.
 std::string_view WholePart(std::string_view text, RowKind kind, const TextMeasure& measure) {
-    if (kind == RowKind::Body) return StaysInOneLine(text) ? text : std::string_view();
+    if (kind == RowKind::Body) return LooksLikeAmount(text) ? text : std::string_view();
     std::string_view widest;
     while (!text.empty()) {
         const std::string_view word = text.substr(0, text.find_first_of(" \n"));
@@ -100,8 +100,8 @@ bool TableRowLayout::BreakCell(std::size_t column, const TextInk& ink, std::stri
     return isWhole;
 }
 
-/// The column's font, smaller where an amount, a day or a word of a title is too wide for the
-/// column: "18,205" above ".00" would be misread.
+/// The column's font, smaller where an amount or a word of a title is too wide for the column:
+/// "18,205" above ".00" would be misread.
 const TextInk& TableRowLayout::FittingInk(std::size_t column, std::string_view text) {
     constexpr int kTenths = 10;
     const TextInk& usual = InkOf(column);

@@ -28,14 +28,6 @@ TEST(TableFormat, ReadsAlignmentAndWidthOfEachColumn) {
     EXPECT_EQ(Told(""), "");
 }
 
-TEST(TableText, KeepsAmountsAndDaysInOneLine) {
-    for (const char* whole : {"05/17/2024", "1,234.50", "(12.00)", "-5%"})
-        EXPECT_TRUE(platform::StaysInOneLine(whole)) << whole;
-    for (const char* text :
-         {"", "05/17/20245", "5/17/2024", "05-17/2024", "12 Elm St", "05/1a/2024"})
-        EXPECT_FALSE(platform::StaysInOneLine(text)) << text;
-}
-
 TEST(TableText, SplitsRowsAndCells) {
     using Rows = std::vector<std::vector<std::string>>;
     EXPECT_EQ(ParseTableText(""), Rows());
