@@ -44,6 +44,7 @@
 #include "reports/screens/frmReports.h"
 #include "shell/screens/frmAbout.h"
 #include "shell/screens/frmConfig.h"
+#include "shell/screens/frmDBExplorer.h"
 #include "shell/screens/frmPreferences.h"
 
 namespace kestrom {
@@ -184,6 +185,7 @@ shell::screens::Commands MenuCommands() {
     AddDocumentCommands(commands);
     for (const char* const item : {"mnuDocMgmt", "mnuPrintDocMgmt"})
         commands.Add(QString::fromLatin1(item), Opening<documents::screens::frmDocMgmt>());
+    commands.Add(QStringLiteral("mnuDBExplorer"), Opening<shell::screens::frmDBExplorer>());
     commands.Add(QStringLiteral("mnuHelpAbout"), Opening<shell::screens::frmAbout>());
     return commands;
 }

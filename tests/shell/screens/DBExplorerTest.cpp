@@ -1,0 +1,173 @@
+#include <QDropEvent>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPointer>
+#include <QTabWidget>
+#include <QTest>
+
+#include "core/Globals.h"
+#include "core/Preferences.h"
+#include "core/RecordKinds.h"
+#include "platform/qt/Text.h"
+#include "shell/screens/PropertyTreeView.h"
+#include "shell/screens/frmDBExplorer.h"
+#include "shell/screens/frmMoveUnit.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
+#include "support/screens/ScreenChecks.h"
+#include "support/screens/ScreenFixture.h"
+
+namespace {
+
+using shell::PropertyKind;
+using shell::PropertyNode;
+using shell::screens::frmDBExplorer;
+using shell::screens::frmMoveUnit;
+using shell::screens::PropertyTreeView;
+using support::Find;
+using Said = std::vector<std::string>;
+
+class DBExplorer : public support::ScreenTest {
+  protected:
+    DBExplorer() {
+        core::Preferences() = {};
+        form_ = new frmDBExplorer;
+        form_->Setup();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(form_));
+    }
+    ~DBExplorer() override {
+        core::Preferences() = {};
+        core::App().Expert = false;
+    }
+
+    PropertyTreeView& Tree() const { return Find<PropertyTreeView>(*form_, "trv"); }
+    static void Write(std::string& text, const QTreeWidgetItem& item, int depth) {
+        text += std::string(static_cast<std::size_t>(depth), ' ') +
+                platform::qt::FromScreen(item.text(0)) + (item.isExpanded() ? "-" : "") + "\n";
+        for (int i = 0; i < item.childCount(); ++i)
+            Write(text, *item.child(i), depth + 1);
+    }
+    /// A line a node; "-" marks the expanded ones.
+    std::string Shown() const {
+        std::string text;
+        for (int i = 0; i < Tree().topLevelItemCount(); ++i)
+            Write(text, *Tree().topLevelItem(i), 0);
+        return text;
+    }
+    QPoint PlaceOf(PropertyNode node) const {
+        Tree().Select(node);
+        return Tree().visualItemRect(Tree().currentItem()).center();
+    }
+    /// Drops what a drag of one node carries onto another. Returns false if it isn't accepted.
+    bool Drop(PropertyNode dragged, PropertyNode target) {
+        Tree().Select(dragged);
+        const std::unique_ptr<QMimeData> data(
+            Tree().model()->mimeData({Tree().selectionModel()->currentIndex()}));
+        const QPoint place = PlaceOf(target);
+        const auto send = [&](auto&& event) {
+            QApplication::sendEvent(Tree().viewport(), &event);
+            return event.isAccepted();
+        };
+        send(QDragEnterEvent(place, Qt::MoveAction, data.get(), Qt::LeftButton, {}));
+        const bool over =
+            send(QDragMoveEvent(place, Qt::MoveAction, data.get(), Qt::LeftButton, {}));
+        const bool dropped =
+            send(QDropEvent(place, Qt::MoveAction, data.get(), Qt::LeftButton, {}));
+        support::SettleEvents();
+        return over && dropped;
+    }
+
+    QPointer<frmDBExplorer> form_;
+};
+
+constexpr const char* kBefore =
+    "Buildings-\n 12 Elm St-\n  Unit A\n  Unit B\n Oak Rd\n"
+    "  Unit 1\nUnclaimed-\n";
+constexpr const char* kAfter =
+    "Buildings-\n 12 Elm St-\n  Unit A\n Oak Rd-\n"
+    "  Unit 1\n  Unit B\nUnclaimed-\n";
+
+TEST_F(DBExplorer, KeepsWhatIsExpandedAndSelectedWhenItReadsAgain) {
+    Tree().Select({PropertyKind::Unit, 20});
+    EXPECT_EQ(Shown(), kBefore);
+    Run("UPDATE Building SET Address = 'Ash Rd' WHERE IdBuilding = 11");
+    QTest::keyClick(form_.data(), Qt::Key_F5);
+    EXPECT_EQ(Tree().Selected(), (PropertyNode{PropertyKind::Unit, 20}));
+    EXPECT_NE(Shown().find(" Ash Rd\n  Unit 1"), std::string::npos) << Shown();
+    EXPECT_NE(Shown().find(" 12 Elm St-"), std::string::npos);
+    EXPECT_TRUE(support::MnemonicFaults(*form_).empty());
+    EXPECT_TRUE(support::TabOrderFaults(*form_).empty());
+    EXPECT_EQ(support::Portray(*form_, "frmDBExplorer"), Said{});
+}
+
+TEST_F(DBExplorer, MovesAUnitThatIsDroppedOnABuilding) {
+    const PropertyNode unit{PropertyKind::Unit, 20};
+    const PropertyNode building{PropertyKind::Building, 11};
+    Answer({false, true});
+    EXPECT_TRUE(Drop(unit, building));
+    EXPECT_EQ(Heard().size(), 1U);
+    EXPECT_EQ(Ask("SELECT IdBuilding FROM Unit WHERE IdUnit = 20"), "10") << "No moves nothing";
+    EXPECT_TRUE(Drop(unit, building));
+    EXPECT_EQ(Heard().size(), 1U);
+    EXPECT_EQ(Ask("SELECT IdBuilding FROM Unit WHERE IdUnit = 20"), "11");
+    EXPECT_EQ(Ask("SELECT Multi FROM Building WHERE IdBuilding = 11"), "True");
+    EXPECT_EQ(Shown(), kAfter);
+    EXPECT_FALSE(Drop(unit, {PropertyKind::Unclaimed}));
+    EXPECT_FALSE(Drop(unit, {PropertyKind::Unit, 21}));
+    EXPECT_FALSE(Drop(building, {PropertyKind::Building, 10}));
+    EXPECT_EQ(Shown(), kAfter);
+    EXPECT_TRUE(Heard().empty()) << "only a unit goes, and only to a building";
+}
+
+TEST_F(DBExplorer, MovesAUnitByKeyboardOnce) {
+    core::Preferences().ConfirmMoves = false;
+    auto& move = Find<QPushButton>(*form_, "cmdMove");
+    Tree().Select({PropertyKind::Building, 10});
+    EXPECT_FALSE(move.isEnabled());
+    Tree().Select({PropertyKind::Unit, 20});
+    support::ClickOn(move);
+    QPointer<frmMoveUnit> chooser;
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        if (auto* const found = qobject_cast<frmMoveUnit*>(window)) chooser = found;
+    ASSERT_TRUE(chooser);
+    EXPECT_EQ(support::Portray(*chooser, "frmMoveUnit"), Said{});
+    auto& find = Find<QLineEdit>(*chooser, "txtFind");
+    support::Type(find, "oak");
+    auto& list = Find<QListWidget>(*chooser, "lstBuildings");
+    EXPECT_EQ(platform::qt::FromScreen(list.currentItem()->text()), "Oak Rd");
+    QTest::keyClick(&find, Qt::Key_Return);
+    EXPECT_TRUE(!chooser || !chooser->isVisible());
+    EXPECT_EQ(Shown(), kAfter);
+    EXPECT_TRUE(Heard().empty());
+}
+
+TEST_F(DBExplorer, DeletesWhatIsSelectedAfterAQuestion) {
+    Tree().setFocus();
+    for (const PropertyNode folder :
+         {PropertyNode{PropertyKind::Buildings}, PropertyNode{PropertyKind::Unclaimed}}) {
+        Tree().Select(folder);
+        QTest::keyClick(&Tree(), Qt::Key_Delete);
+    }
+    EXPECT_TRUE(Heard().empty()) << "a folder is no record";
+    Tree().Select({PropertyKind::Unit, 20});
+    Answer({false, true});
+    QTest::keyClick(&Tree(), Qt::Key_Delete);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Unit WHERE IdUnit = 20"), "1");
+    QTest::keyClick(&Tree(), Qt::Key_Delete);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Unit WHERE IdUnit = 20"), "0");
+    EXPECT_EQ(Shown().find("Unit B"), std::string::npos);
+}
+
+TEST_F(DBExplorer, OffersTheConsoleToAdvancedUsersOnly) {
+    const auto isShown = [](const frmDBExplorer& form) {
+        auto& tabs = Find<QTabWidget>(form, "tab1");
+        return tabs.isTabVisible(tabs.indexOf(&Find<QWidget>(form, "pageData")));
+    };
+    EXPECT_FALSE(isShown(*form_));
+    core::App().Expert = true;
+    auto* const expert = new frmDBExplorer;
+    expert->Setup();
+    EXPECT_TRUE(isShown(*expert));
+}
+
+} // namespace
