@@ -2,7 +2,7 @@
 
 #include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
-#include "platform/dialogs/Dialogs.h"
+#include "removal/DeleteRecord.h"
 
 namespace records {
 
@@ -44,8 +44,9 @@ void OpenContact(platform::Recordset& row, std::int32_t idContact, const Related
 }
 
 bool DeleteContact(std::int32_t idContact) {
-    if (!platform::TheDialogs().AskYesNo("Confirm", "Delete selected Contact entry?",
-                                         platform::Icon::Question)) {
+    if (!removal::AgreedToDelete(
+            "Confirm", "Delete selected Contact entry?",
+            core::ReadValue("SELECT Description FROM Contact WHERE IdContact = ?", {idContact}))) {
         return false;
     }
     core::Execute("DELETE * FROM Contact WHERE IdContact = ?", {idContact});

@@ -4,8 +4,8 @@
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
-#include "platform/dialogs/Dialogs.h"
 #include "platform/values/Text.h"
+#include "removal/DeleteRecord.h"
 
 namespace records {
 
@@ -63,8 +63,9 @@ platform::Recordset OpenDeposits(DepositScope scope, const DepositPlace& place) 
 
 bool DeleteDeposit(std::int32_t idDeposit) {
     if (core::Preferences().ConfirmDelete &&
-        !platform::TheDialogs().AskYesNo("Confirm Delete", "Delete selected Deposit?",
-                                         platform::Icon::Question)) {
+        !removal::AgreedToDelete(
+            "Confirm Delete", "Delete selected Deposit?",
+            core::ReadValue("SELECT Description FROM Deposit WHERE IdDeposit = ?", {idDeposit}))) {
         return false;
     }
     core::Execute("DELETE * FROM Deposit WHERE (IdDeposit = ?)", {idDeposit});

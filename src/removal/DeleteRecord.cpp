@@ -75,15 +75,20 @@ bool MayGo(std::int16_t kind, std::int32_t id) {
 bool Agreed(std::int16_t kind, std::int32_t id) {
     const auto question = QuestionBefore(kind, id);
     if (!question) return true;
-    const std::string title = RecordTitle(kind, id);
-    const std::string text = title.empty() ? question->text : question->text + "\n\n" + title;
-    return platform::TheDialogs().AskYesNo(question->title, text, platform::Icon::Question);
+    return AgreedToDelete(question->title, question->text, platform::Value(RecordTitle(kind, id)));
 }
 
 } // namespace
 
 void SetBeforeBuilding(BeforeBuilding step) {
     StepBeforeBuilding() = std::move(step);
+}
+
+bool AgreedToDelete(std::string_view title, std::string_view question,
+                    const platform::Value& name) {
+    std::string text(question);
+    if (!name.IsNull() && !name.AsText().empty()) text += "\n\n" + name.AsText();
+    return platform::TheDialogs().AskYesNo(title, text, platform::Icon::Question);
 }
 
 bool AgreedToDelete(std::int16_t kind, std::int32_t id) {

@@ -2,6 +2,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <string_view>
+
+#include "platform/values/Value.h"
 
 namespace removal {
 
@@ -28,6 +31,8 @@ void SetBeforeBuilding(BeforeBuilding step);
 /// Asks as DeleteRecord does, for a routine that removes the record as a part of its own work; true
 /// if the user agrees, or isn't to be asked.
 bool AgreedToDelete(std::int16_t kind, std::int32_t id);
+/// Asks a question of its own, with the record's name below it if there is one.
+bool AgreedToDelete(std::string_view title, std::string_view question, const platform::Value& name);
 
 /// Removes one record, its attached files' links, and what points to it elsewhere, which then
 /// points to nothing; for a kind that isn't removed only the links of files go. Id 0 does nothing.

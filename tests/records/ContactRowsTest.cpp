@@ -54,7 +54,7 @@ TEST_F(ContactRows, DeletingAsksFirst) {
         EXPECT_EQ(records::DeleteContact(id), answer);
         ASSERT_EQ(person.Heard().size(), 1U);
         EXPECT_EQ(person.Heard()[0].title, "Confirm");
-        EXPECT_EQ(person.Heard()[0].text, "Delete selected Contact entry?");
+        EXPECT_EQ(person.Heard()[0].text, "Delete selected Contact entry?\n\nNew Contact");
         EXPECT_TRUE(person.Heard()[0].question);
         EXPECT_EQ(Listed(smith_), (answer ? "" : std::to_string(id) + " New Contact;") +
                                       std::to_string(other) + " New Contact;");

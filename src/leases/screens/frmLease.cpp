@@ -297,13 +297,15 @@ void frmLease::Run(LeaseCommand command) {
     const std::int32_t id = Id();
     const double days =
         platform::TryParseNumber(FromScreen(terms_->txtNoticeDays->text())).value_or(0);
-    RunCommand(command, id, platform::RoundToInt16(days));
-    if (command == LeaseCommand::Reprocess || command == LeaseCommand::RollForward) {
-        Setup(id);
-    } else {
-        const LoadingGuard loading(*this);
-        Load();
-    }
+    Perform([&] {
+        RunCommand(command, id, platform::RoundToInt16(days));
+        if (command == LeaseCommand::Reprocess || command == LeaseCommand::RollForward) {
+            Setup(id);
+        } else {
+            const LoadingGuard loading(*this);
+            Load();
+        }
+    });
 }
 
 void frmLease::Zoom(std::int16_t kind) {

@@ -65,9 +65,11 @@ bool frmMortgage::SaveFirst() {
 
 void frmMortgage::Run(MortgageCommand command) {
     if (!AskWhether(command) || !SaveFirst()) return;
-    RunCommand(command, Id());
-    const LoadingGuard loading(*this);
-    Load();
+    Perform([&] {
+        RunCommand(command, Id());
+        const LoadingGuard loading(*this);
+        Load();
+    });
 }
 
 void frmMortgage::MoveDueDate(int periods) {

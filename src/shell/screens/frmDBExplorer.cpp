@@ -109,7 +109,7 @@ void frmDBExplorer::MakeMenu() {
         connect(action, &QAction::triggered, this, [work] { Guarded(work); });
         return action;
     };
-    QMenu& tree = *bar->addMenu(tr("&Tree"));
+    QMenu& tree = *bar->addMenu(tr("&Property"));
     add(tree, "mnuEdit", tr("&Open"), [this] { EditNode(ui_->trv->Selected()); });
     add(tree, "mnuMove", tr("&Move to building ..."), [this] { MoveToBuilding(); });
     add(tree, "mnuDelete", tr("&Delete"), [this] { DeleteNode(ui_->trv->Selected()); });

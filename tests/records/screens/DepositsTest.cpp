@@ -151,10 +151,10 @@ TEST_F(DepositsTest, TheListAddsOpensAndDeletes) {
 
     Answer({false, true});
     ClickOn(Find<QToolButton>(list, "cmdDelete"));
-    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Deposit?"});
+    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Deposit?\n\nNew Deposit"});
     EXPECT_EQ(Ask("SELECT Count(*) FROM Deposit"), "1");
     QTest::keyClick(&list.List(), Qt::Key_Delete);
-    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Deposit?"});
+    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected Deposit?\n\nNew Deposit"});
     EXPECT_EQ(GridText(list.List()), kHead);
 
     Add(600, "Keys", 10, 0);
