@@ -23,7 +23,7 @@ struct Children {
     std::string_view select; ///< selects their ids by the id of the removed record
 };
 
-/// What the removal of a record kind asks and does; a kind without one isn't removed.
+/// The questions and statements of the removal of a record kind; a kind without them isn't removed.
 struct KindRemoval {
     std::int16_t kind = 0;
     std::string_view title = "Confirm Delete";

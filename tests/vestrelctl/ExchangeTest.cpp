@@ -100,8 +100,7 @@ TEST_F(Exchange, ChecksBooks) {
     const Outcome found = Do("check");
     EXPECT_EQ(found.status, 1);
     EXPECT_NE(found.output.find(" as RentDue, but its ledger adds up to "), std::string::npos);
-    EXPECT_NE(found.errors.find(" faults and 0 notes were found."), std::string::npos)
-        << found.errors;
+    EXPECT_NE(found.errors.find(" faults were found."), std::string::npos) << found.errors;
 }
 
 } // namespace

@@ -168,8 +168,8 @@ void frmMileage::FillFilterItems() {
 TripFilter frmMileage::Filter() const {
     return {.days = ui_->cboDays->currentData().toInt(),
             .field = TripField{ui_->cboFilter->currentIndex()},
-            .item = {FromScreen(ui_->cboFilterItem->currentText()),
-                     GetSelectedId(*ui_->cboFilterItem)}};
+            .item = core::Choice{FromScreen(ui_->cboFilterItem->currentText()),
+                                 GetSelectedId(*ui_->cboFilterItem)}};
 }
 
 void frmMileage::PeriodChosen() {

@@ -125,7 +125,8 @@ class EveryForm : public tests::SampleEditors {
     static constexpr const char* kMenuItems[] = {
         "mnuConfig",         "mnuGeneralReports", "mnuPreferences", "mnuLeaseWizard",
         "mnuMortgageWizard", "mnuFinExport",      "mnuPort",        "mnuCheck",
-        "mnuAutoEvents",     "mnuTransCategory",  "mnuDocMgmt",     "mnuHelpAbout"};
+        "mnuAutoEvents",     "mnuTransCategory",  "mnuDocMgmt",     "mnuHelpAbout",
+        "mnuDBExplorer",     "mnuMileage"};
 };
 
 TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
