@@ -5,7 +5,7 @@
 namespace exchange {
 
 /// Throws an Error if `file` is the process's database, or another file that belongs to it in its
-/// folder: an export by that name would replace the books.
+/// folder: a file written by that name would replace the books.
 void RefuseOwnFile(const std::filesystem::path& file);
 
 } // namespace exchange

@@ -9,6 +9,7 @@
 #include "core/Rows.h"
 #include "documents/MergeSource.h"
 #include "documents/mDocManagement.h"
+#include "exchange/OwnFiles.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Conversions.h"
@@ -73,7 +74,10 @@ void Merge(const MergeArguments& arguments) {
     const documents::DocTemplate letter = FindLetter(arguments.letter);
     if (arguments.allLate) return MergeAllLate(letter, arguments.output);
     std::optional<std::filesystem::path> output;
-    if (!arguments.output.empty()) output = arguments.output;
+    if (!arguments.output.empty()) {
+        output = arguments.output;
+        exchange::RefuseOwnFile(*output);
+    }
     if (!MergeOne(letter, arguments.kind, arguments.id, output).merged) {
         throw platform::Error(fmt::format("There is no {} {}; the template was copied as it is",
                                           core::RecordKindName(arguments.kind), arguments.id));

@@ -59,6 +59,7 @@ TEST_F(MergeCommand, SaysWhatIsWrong) {
         {"77 2 1", 1, "no template with IdDoc 77"},
         {"/nowhere.rtf 2 1", 1, "/nowhere.rtf"},
         {letter + "2 1 --output '" + (folder_ / "x.rtf").string() + "'", 1, "no Lease 1"},
+        {letter + "2 1 --output '" + Books() + "/Vestrel.mdb'", 1, "belongs to the database"},
     };
     for (const Case& one : cases) {
         const auto outcome = Run(OnBooks() + "merge " + one.words);
