@@ -135,6 +135,7 @@ bool OffsetFile::Flush() {
     if (collected_.empty()) return true;
     try {
         out_.WriteAt(offset_ + collectedAt_, collected_);
+        out_.StartWriting(offset_ + collectedAt_, static_cast<std::int64_t>(collected_.size()));
         collectedAt_ += static_cast<std::int64_t>(collected_.size());
         collected_.clear();
         return true;
