@@ -44,6 +44,10 @@ void CheckCharge(const MortgagePayment& payment, const PaymentCharge& charge) {
     if (paidBy != 0 && paidBy != payment.idTransaction) {
         ThrowConflict(charge, "has already been paid");
     }
+    // Another edit of the same payment released it.
+    if (paidBy != charge.idTransaction && paidBy != payment.idTransaction) {
+        ThrowConflict(charge, "has been changed");
+    }
     if (MoneyOf(row["Total"]) != charge.total || MoneyOf(row["PayDown"]) != charge.payDown ||
         CountOf(row["Period"]) != charge.period ||
         LogFlags{CountOf(row["Flags"])} != charge.flags) {
@@ -56,13 +60,16 @@ void CheckStoredPayment(const MortgagePayment& payment) {
                       {payment.idTransaction})) {
         throw ConflictError("This payment has been deleted. Nothing was saved.");
     }
-    Recordset rows =
-        core::Read("SELECT IdMortgageLog FROM MortgageLog WHERE IdTransaction = ? AND Flags <> 2",
-                   {payment.idTransaction});
+    Recordset rows = core::Read(
+        "SELECT IdMortgageLog FROM MortgageLog WHERE IdTransaction = ? "
+        "AND (Flags <> 2 OR Flags IS NULL)",
+        {payment.idTransaction});
     for (; !rows.Eof(); rows.MoveNext()) {
         const std::int32_t id = rows["IdMortgageLog"].AsLong();
-        const bool known = std::any_of(payment.charges.begin(), payment.charges.end(),
-                                       [id](const auto& at) { return at.idMortgageLog == id; });
+        const bool known = std::ranges::any_of(payment.charges, [&](const auto& at) {
+            return at.idMortgageLog == id &&
+                   (at.selected || at.idTransaction == payment.idTransaction);
+        });
         if (!known) throw ConflictError("This payment has been changed. Nothing was saved.");
     }
 }

@@ -124,6 +124,23 @@ TEST_F(TwoProgramsOnAMortgage, LeaveWhatTheOtherOnePaidAlone) {
     EXPECT_THAT(Rows("SELECT CurrentPeriod FROM Mortgage"), ElementsAre("2"));
 }
 
+TEST_F(TwoProgramsOnAMortgage, RefuseAnEditOfAPaymentThatWasEditedSince) {
+    MortgagePayment payment = mortgages::ProposeMortgagePayment(kMortgageId);
+    Select(payment, 0, true);
+    const std::int32_t id = SubmitMortgagePayment(payment);
+    const auto edit = [id](std::size_t charge, bool on) {
+        MortgagePayment edited = mortgages::ReadMortgagePayment(id);
+        Select(edited, charge, on);
+        SubmitMortgagePayment(edited);
+    };
+    const MortgagePayment stale = mortgages::ReadMortgagePayment(id);
+    const auto last = stale.charges.size() - 1;
+    ASSERT_FALSE(stale.charges[last].selected);
+    ExpectRefused([&] { edit(last, true); }, [&] { SubmitMortgagePayment(stale); }, "changed");
+    const MortgagePayment both = mortgages::ReadMortgagePayment(id);
+    ExpectRefused([&] { edit(last, false); }, [&] { SubmitMortgagePayment(both); }, "changed");
+}
+
 TEST_F(TwoProgramsOnAMortgage, DoNotBringADeletedPaymentBack) {
     PayAll();
     const MortgagePayment stored = mortgages::ReadMortgagePayment(
