@@ -9,6 +9,7 @@
 #include "core/RecordKinds.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/values/Errors.h"
 
 namespace shell {
 
@@ -44,7 +45,13 @@ bool Write(std::int32_t idUnit, std::int32_t idBuilding) {
         return false;
     books.Execute("UPDATE AutoEvent SET IdBuilding = ? WHERE IdUnit = ?", {idBuilding, idUnit});
     books.Execute("UPDATE Transactions SET IdBuilding = ? WHERE IdUnit = ?", {idBuilding, idUnit});
-    MarkAsMulti(books, idBuilding);
+    try {
+        platform::UnitOfWork mark(books);
+        MarkAsMulti(books, idBuilding);
+        mark.Commit();
+    } catch (const platform::Error&) {
+        // The move stays without it.
+    }
     unit.Commit();
     return true;
 }

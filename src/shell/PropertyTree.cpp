@@ -73,6 +73,7 @@ void PropertyTree::ReadBuildings(std::vector<TreeChange>& changes) {
     const platform::Field address = rows["Address"];
     for (; !rows.Eof(); rows.MoveNext()) {
         const std::int32_t id = platform::IdOf(idField);
+        if (id == 0) continue; // units of no building are unclaimed
         std::string text = platform::TextOf(address);
         const auto [at, isNew] = buildings_.try_emplace(id, Building{text, true});
         if (isNew) {
@@ -125,6 +126,7 @@ void PropertyTree::DropTheUnconfirmed(std::vector<TreeChange>& changes) {
 }
 
 void PropertyTree::Move(std::int32_t idUnit, std::int32_t idBuilding) {
+    if (!buildings_.contains(idBuilding)) return;
     if (const auto unit = units_.find(idUnit); unit != units_.end())
         unit->second.idBuilding = idBuilding;
 }

@@ -84,7 +84,8 @@ void Form::TurnPage(int step) {
     int page = tabs->currentIndex();
     do {
         page = (page + step + tabs->count()) % tabs->count();
-    } while (!tabs->isTabEnabled(page) && page != tabs->currentIndex());
+    } while (page != tabs->currentIndex() &&
+             (!tabs->isTabEnabled(page) || !tabs->isTabVisible(page)));
     tabs->setCurrentIndex(page);
 }
 

@@ -95,24 +95,41 @@ void PropertyTreeView::Apply(const std::vector<TreeChange>& changes) {
                 ItemOf(change.node)->setText(0, platform::qt::ToScreen(change.text));
                 break;
             case TreeChange::Action::Move:
-                MoveUnder(change.node, change.parent);
+                PutUnder(change.node, change.parent);
                 break;
             case TreeChange::Action::Remove:
-                delete ItemOf(change.node);
-                items_.erase(change.node);
+                Remove(change.node);
                 break;
         }
     }
     setUpdatesEnabled(true);
 }
 
+void PropertyTreeView::Remove(const PropertyNode& node) {
+    QTreeWidgetItem* const item = ItemOf(node);
+    if (item == nullptr) return;
+    // Nothing else becomes the selection in its place.
+    if (item == currentItem()) setCurrentItem(nullptr);
+    while (item->childCount() > 0)
+        ItemOf({PropertyKind::Unclaimed, 0})->addChild(item->takeChild(0));
+    items_.erase(node);
+    delete item;
+}
+
 void PropertyTreeView::MoveUnder(const PropertyNode& unit, const PropertyNode& building) {
+    PutUnder(unit, building);
+    Select(unit);
+}
+
+/// Keeps the selection.
+void PropertyTreeView::PutUnder(const PropertyNode& unit, const PropertyNode& building) {
     QTreeWidgetItem* const item = ItemOf(unit);
     QTreeWidgetItem* const parent = ItemOf(building);
     if (item == nullptr || parent == nullptr) return;
+    QTreeWidgetItem* const current = currentItem();
     item->parent()->removeChild(item);
     parent->addChild(item);
-    Select(unit);
+    setCurrentItem(current);
 }
 
 QTreeWidgetItem* PropertyTreeView::ItemOf(const PropertyNode& node) const {
@@ -134,7 +151,7 @@ void PropertyTreeView::Select(const PropertyNode& node) {
 void PropertyTreeView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
         event->accept();
-        if (currentItem() != nullptr) Q_EMIT DeleteAsked(Selected());
+        if (currentItem() != nullptr && !event->isAutoRepeat()) Q_EMIT DeleteAsked(Selected());
         return;
     }
     QTreeWidget::keyPressEvent(event);

@@ -39,6 +39,8 @@ class PropertyTreeView : public QTreeWidget {
     void dropEvent(QDropEvent* event) override;
 
   private:
+    void Remove(const PropertyNode& node);
+    void PutUnder(const PropertyNode& unit, const PropertyNode& building);
     void AddFolder(PropertyKind kind, const QString& text);
     QTreeWidgetItem* ItemOf(const PropertyNode& node) const;
     QTreeWidgetItem* BuildingUnder(const QDropEvent& event) const;

@@ -130,8 +130,12 @@ void frmDBExplorer::MakeMenu() {
 void frmDBExplorer::DeleteNode(const PropertyNode& node) {
     const std::int16_t kind = RecordKindOf(node);
     if (kind == core::kNone) return;
-    if (removal::DeleteRecord(kind, node.id, removal::Confirm::Ask, removal::Tell::Screens))
-        RefreshTree();
+    if (!removal::DeleteRecord(kind, node.id, removal::Confirm::Ask, removal::Tell::Screens))
+        return;
+    // Otherwise the neighbour would be selected, and the next Delete would take it.
+    ui_->trv->setCurrentItem(nullptr);
+    ui_->ucFOB->SetRecord(core::kNone, 0);
+    RefreshTree();
 }
 
 void frmDBExplorer::EditNode(const PropertyNode& node) {
@@ -142,7 +146,9 @@ void frmDBExplorer::EditNode(const PropertyNode& node) {
 void frmDBExplorer::MoveToBuilding() {
     const PropertyNode node = ui_->trv->Selected();
     if (node.kind != PropertyKind::Unit) return;
+    if (moveForm_) moveForm_->close();
     auto* const form = new frmMoveUnit;
+    moveForm_ = form;
     const auto move = [this, node](std::int32_t idBuilding) {
         Guarded([&] { Move(node.id, idBuilding); });
     };
@@ -153,6 +159,7 @@ void frmDBExplorer::MoveToBuilding() {
 
 void frmDBExplorer::Move(std::int32_t idUnit, std::int32_t idBuilding) {
     if (!MoveUnit(idUnit, idBuilding)) return;
+    RefreshTree(); // a building that was added since gets its node first
     tree_.Move(idUnit, idBuilding);
     ui_->trv->MoveUnder({PropertyKind::Unit, idUnit}, {PropertyKind::Building, idBuilding});
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <cstdint>
 #include <memory>
 
@@ -41,6 +42,7 @@ class frmDBExplorer : public core::forms::Form {
 
     std::unique_ptr<Ui::frmDBExplorer> ui_;
     PropertyTree tree_;
+    QPointer<QWidget> moveForm_;
 };
 
 } // namespace shell::screens

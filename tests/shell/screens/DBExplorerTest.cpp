@@ -156,6 +156,22 @@ TEST_F(DBExplorer, DeletesWhatIsSelectedAfterAQuestion) {
     QTest::keyClick(&Tree(), Qt::Key_Delete);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Unit WHERE IdUnit = 20"), "0");
     EXPECT_EQ(Shown().find("Unit B"), std::string::npos);
+    core::Preferences().ConfirmDelete = false;
+    QTest::keyClick(&Tree(), Qt::Key_Delete);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Unit"), "2") << "the neighbour isn't selected";
+}
+
+TEST_F(DBExplorer, MovesAUnitToABuildingThatWasAddedSince) {
+    core::Preferences().ConfirmMoves = false;
+    core::Preferences().ConfirmDelete = false;
+    Run("INSERT INTO Building (IdBuilding, Address) VALUES (12, 'Pine Rd')");
+    Q_EMIT Tree().UnitDropped(20, 12);
+    support::SettleEvents();
+    EXPECT_NE(Shown().find(" Pine Rd-\n  Unit B"), std::string::npos) << Shown();
+    Run("DELETE FROM Building WHERE IdBuilding = 10");
+    form_->RefreshTree();
+    form_->RefreshTree();
+    EXPECT_NE(Shown().find("Unclaimed-\n Unit A"), std::string::npos) << Shown();
 }
 
 TEST_F(DBExplorer, OffersTheConsoleToAdvancedUsersOnly) {
@@ -164,6 +180,11 @@ TEST_F(DBExplorer, OffersTheConsoleToAdvancedUsersOnly) {
         return tabs.isTabVisible(tabs.indexOf(&Find<QWidget>(form, "pageData")));
     };
     EXPECT_FALSE(isShown(*form_));
+    auto& pages = Find<QTabWidget>(*form_, "tab1");
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(form_.data(), Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_NE(pages.currentWidget(), &Find<QWidget>(*form_, "pageData"));
+    }
     core::App().Expert = true;
     auto* const expert = new frmDBExplorer;
     expert->Setup();
