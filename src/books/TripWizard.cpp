@@ -51,10 +51,13 @@ std::vector<std::string> PlanCategories(Date from, Date to) {
 
 std::vector<PlanVehicle> PlanVehicles(Date from, Date to) {
     constexpr double kWhole = 100;
-    const core::ChoiceList known = KnownVehicles();
+    // Those of the log, after the row "All".
+    std::vector<core::Choice> known = TripFilterItems(TripField::Vehicle).Rows();
+    if (!known.empty()) known.erase(known.begin());
+    if (known.empty()) known = KnownVehicles().Rows();
     std::vector<PlanVehicle> vehicles;
-    vehicles.reserve(known.Rows().size());
-    for (const core::Choice& row : known.Rows())
+    vehicles.reserve(known.size());
+    for (const core::Choice& row : known)
         vehicles.push_back({.name = row.text, .from = from, .to = to});
     for (PlanVehicle& vehicle : vehicles)
         vehicle.percent = kWhole / static_cast<double>(vehicles.size());

@@ -145,6 +145,7 @@ void frmMileage::Refresh(std::int16_t kind) {
     if (kind == core::kMileage) {
         Offer(*ui_->cboVehicle, KnownVehicles());
         Offer(*ui_->cboDestination, KnownDestinations());
+        if (!Dirty()) VehicleChosen(); // a new trip starts where the last one ended
     }
     FillFilterItems();
 }

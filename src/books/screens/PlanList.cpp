@@ -40,6 +40,7 @@ void PlanList::Connect(QTreeWidget& list, int wide, QPushButton* add, QPushButto
     on(update, [this] { StoreRow(Row()); });
     on(remove, [this] { RemoveRow(); });
     auto* const key = new QShortcut(QKeySequence(Qt::Key_Delete), &list);
+    key->setAutoRepeat(false);
     key->setContext(Qt::WidgetShortcut);
     connect(key, &QShortcut::activated, this, [this] { Guarded([this] { RemoveRow(); }); });
 }

@@ -1,5 +1,8 @@
 #include "books/screens/frmMileage.h"
 
+#include <algorithm>
+#include <array>
+
 #include "books/screens/frmMileageWiz.h"
 #include "core/Lookups.h"
 #include "core/RecordHelpers.h"
@@ -9,6 +12,7 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
+#include "platform/values/Conversions.h"
 #include "platform/values/Format.h"
 #include "removal/DeleteRecord.h"
 #include "ui_frmMileage.h"
@@ -23,6 +27,10 @@ namespace {
 
 double ReadingOf(const platform::Field& field) {
     return field.IsNull() ? 0 : field.AsDouble();
+}
+
+double MilesIn(const QLineEdit& box) {
+    return platform::TryParseNumber(FromScreen(box.text())).value_or(0);
 }
 
 } // namespace
@@ -50,6 +58,12 @@ void frmMileage::ShowRow(platform::Recordset& row) {
     odometer_ = Odometer::Of(ReadingOf(row["OBegin"]), ReadingOf(row["OEnd"]));
 }
 
+void frmMileage::FollowOthers(const core::binding::Controls& touched) {
+    const std::array<const QWidget*, 3> boxes = {ui_->txtOBegin, ui_->txtOEnd, ui_->txtMileage};
+    if (std::ranges::any_of(boxes, [&](auto* box) { return touched.contains(box); })) return;
+    odometer_ = Odometer::Of(MilesIn(*ui_->txtOBegin), MilesIn(*ui_->txtOEnd));
+}
+
 void frmMileage::Store() {
     isNew_ = Id() == 0;
     RecordForm::Store();
@@ -57,6 +71,12 @@ void frmMileage::Store() {
 
 void frmMileage::WriteRow(platform::Recordset& row) {
     RecordForm::WriteRow(row);
+    // The three go together, whichever of them was changed elsewhere.
+    if (IsTouched(*ui_->txtOBegin) || IsTouched(*ui_->txtOEnd) || IsTouched(*ui_->txtMileage)) {
+        row["OBegin"].Set(odometer_.Begin());
+        row["OEnd"].Set(odometer_.End());
+        row["Mileage"].Set(odometer_.Distance().value_or(0));
+    }
     // One that comes back after it was deleted keeps what it had.
     if (isNew_) SetNewTripFields(row);
 }
@@ -117,7 +137,7 @@ void frmMileage::BuildingChosen() {
     if (idBuilding == 0) return;
     if (ui_->cboDestination->currentText().isEmpty())
         ui_->cboDestination->setEditText(ui_->cboBuilding->currentText());
-    if (odometer_.Distance() != 0) return;
+    if (MilesIn(*ui_->txtMileage) != 0) return;
     odometer_.TypeDistance(2 * static_cast<double>(core::GetBuildingDistance(idBuilding)));
     ShowOdometer();
 }
@@ -150,7 +170,7 @@ void frmMileage::NewTrip() {
 /// The same trip again, today and from where the vehicle stands.
 void frmMileage::CopyTrip() {
     if (Id() == 0 || !MayLeaveTrip()) return;
-    const double miles = odometer_.Distance().value_or(0);
+    const double miles = MilesIn(*ui_->txtMileage);
     BecomeNew();
     ui_->grd->SelectNone(0);
     ui_->dpEntryDate->SetDay(platform::Today());

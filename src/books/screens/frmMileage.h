@@ -32,6 +32,7 @@ class frmMileage : public core::forms::RecordForm {
     void WriteRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
+    void FollowOthers(const core::binding::Controls& touched) override;
     void Store() override;
     bool SavesUntouched() const override { return false; }
     void Refresh(std::int16_t kind) override;

@@ -117,7 +117,8 @@ void frmMileageWiz::PeriodTyped() {
 void frmMileageWiz::Init() {
     const Date from = period_->dpStart->Day().value_or(Date());
     const Date to = period_->dpEnd->Day().value_or(Date());
-    if (!from.IsSet() || !to.IsSet()) return;
+    // A period that ends before it begins is refused when the page is left.
+    if (!from.IsSet() || !to.IsSet() || to < from) return;
     FillCategories(PlanCategories(from, to));
 
     std::vector<PlanVehicle> vehicles = vehicles_->Vehicles();

@@ -94,8 +94,8 @@ TEST_F(MileageWizard, SaysThatTheLogIsReconstructedAndReadsThePeriod) {
     EXPECT_EQ("12/31/2024", FromScreen(The<QLineEdit>("dpEnd").text()));
     EXPECT_THAT(Categories(), ElementsAre("Rent", "Repairs"));
     EXPECT_THAT(Rows(The<QTreeWidget>("lvwVehicles")),
-                ElementsAre("Truck|1.0|10,000.0|01/01/2024|12/31/2024|50.0",
-                            "Van|1.0|10,000.0|01/01/2024|12/31/2024|50.0"));
+                ElementsAre("Truck|1.0|10,000.0|01/01/2024|12/31/2024|100.0"))
+        << "not the usual vehicle, which has no trip";
     EXPECT_THAT(Rows(The<QTreeWidget>("lvwBuildings")), ElementsAre("12 Elm St|7.5", "Oak Rd|.0"));
     EXPECT_EQ("15", FromScreen(The<QLineEdit>("txtBuildingVariance").text()));
 
@@ -124,13 +124,13 @@ TEST_F(MileageWizard, ChangesVehiclesAndBuildings) {
     EXPECT_THAT(Heard(), ElementsAre(HasSubstr("must not be below the starting one")));
     Type(The<QLineEdit>("txtOEnd"), "90.5");
     ClickOn(The<QPushButton>("cmdVehicleAdd"));
-    EXPECT_EQ("Bike|20.0|90.5|01/01/2024|12/31/2024|50.0", Rows(list).back());
+    EXPECT_EQ("Bike|20.0|90.5|01/01/2024|12/31/2024|100.0", Rows(list).back());
     Type(The<QLineEdit>("txtPctUsed"), "12.5");
     ClickOn(The<QPushButton>("cmdVehicleUpdate"));
-    EXPECT_THAT(Rows(list), SizeIs(3));
+    EXPECT_THAT(Rows(list), SizeIs(2));
     EXPECT_EQ("Bike|20.0|90.5|01/01/2024|12/31/2024|12.5", Rows(list).back());
     EXPECT_THAT(support::Portray(*wizard_, "frmMileageWiz-2"), IsEmpty());
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 2; ++i)
         ClickOn(The<QPushButton>("cmdVehicleDelete"));
     EXPECT_THAT(Rows(list), IsEmpty());
     EXPECT_FALSE(The<QPushButton>("cmdVehicleUpdate").isEnabled());
