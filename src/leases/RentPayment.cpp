@@ -48,7 +48,8 @@ void AddRows(RentPayment& payment, Recordset& rows, bool selected) {
                                    .amount = MoneyOf(rows["Amount"]),
                                    .description = TextOf(rows["Description"]),
                                    .flags = flags,
-                                   .selected = selected});
+                                   .selected = selected,
+                                   .settled = selected && payment.idTransaction != 0});
     }
 }
 

@@ -20,6 +20,7 @@ struct PaymentCharge {
     std::string description;
     RentFlags flags = RentFlags::Ordinary;
     bool selected = true;
+    bool settled = false; ///< by this payment, when it was read
 };
 
 /// A payment of one class against a lease before it is submitted: from an account or a tenant, or

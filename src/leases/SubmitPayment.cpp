@@ -23,14 +23,18 @@ using platform::Recordset;
 namespace {
 
 /// Who paid or changed a charge since the payment was read decides: the two would pay it twice.
-[[noreturn]] void ThrowConflict(const PaymentCharge& charge) {
+[[noreturn]] void ThrowConflict(const RentPayment& payment, const PaymentCharge& charge) {
     const auto settledBy = core::SettledBy(core::kRentLedger, charge.idRentLog);
     throw ConflictError(fmt::format(
         "The charge \"{}\" of {} was {} after this payment was opened. Nothing was posted.",
         charge.description, charge.datePosted.ToText(),
-        !settledBy        ? "deleted"
-        : *settledBy != 0 ? "paid"
-                          : "changed"));
+        !settledBy                                               ? "deleted"
+        : *settledBy != 0 && *settledBy != payment.idTransaction ? "paid"
+                                                                 : "changed"));
+}
+
+[[noreturn]] void ThrowPaymentChanged() {
+    throw ConflictError("The payment was changed after it was opened. Nothing was posted.");
 }
 
 bool IsSameCharge(const PaymentCharge& a, const PaymentCharge& b) {
@@ -49,18 +53,23 @@ RentPayment CheckUnchanged(const RentPayment& payment) {
     if (payment.IsNew()) CheckLease(payment.idLease);
     RentPayment now = payment;
     ReadCharges(now, OpenCharges::Offer);
+    const bool isStored =
+        !payment.IsNew() &&
+        core::Exists("SELECT 1 FROM Transactions WHERE IdTransaction = ?", {payment.idTransaction});
     for (const PaymentCharge& charge : payment.charges) {
         if (!charge.selected) continue;
-        const bool isThere = std::ranges::any_of(
+        const auto same = std::ranges::find_if(
             now.charges, [&](const auto& other) { return IsSameCharge(charge, other); });
-        if (!isThere) ThrowConflict(charge);
+        if (same == now.charges.end()) ThrowConflict(payment, charge);
+        // Another edit released it; a deleted payment released all, and is posted again.
+        if (isStored && charge.settled && !same->settled) ThrowPaymentChanged();
     }
     for (const PaymentCharge& settled : now.charges) {
-        if (payment.IsNew() || !settled.selected) continue;
-        if (std::ranges::find(payment.charges, settled.idRentLog, &PaymentCharge::idRentLog) ==
-            payment.charges.end()) {
-            throw ConflictError("The payment was changed after it was opened. Nothing was posted.");
-        }
+        if (!settled.settled) continue;
+        const auto shown =
+            std::ranges::find(payment.charges, settled.idRentLog, &PaymentCharge::idRentLog);
+        if (shown == payment.charges.end() || (!shown->selected && !shown->settled))
+            ThrowPaymentChanged();
     }
     return now;
 }

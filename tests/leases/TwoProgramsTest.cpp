@@ -110,6 +110,17 @@ TEST_F(TwoPrograms, AnEditOfAPaymentThatWasEditedSinceIsRefused) {
     leases::ReadCharges(mine);
     leases::SubmitPayment(mine);
     EXPECT_EQ(Ask("SELECT Amount FROM Transactions WHERE Description = 'Mine'"), "1040");
+
+    // What the other edit released or settled is known, but not as it is now.
+    for (const bool released : {true, false}) {
+        RentPayment stale = leases::ReadPayment(id);
+        leases::ReadCharges(stale, leases::OpenCharges::Offer);
+        RentPayment edit = stale;
+        edit.charges[1].selected = !released;
+        leases::SubmitPayment(edit);
+        EXPECT_EQ(Refusal([&] { leases::SubmitPayment(stale); }),
+                  "The payment was changed after it was opened. Nothing was posted.");
+    }
 }
 
 TEST_F(TwoPrograms, APaymentOfNothingGetsOneRowFromTwoEdits) {
