@@ -41,8 +41,7 @@ void RefuseOwnFile(const fs::path& file) {
     });
     if (!isOwn) return;
     throw platform::Error(fmt::format(
-        "{} belongs to the database and can't be replaced. Choose another name.",
-        file.string()));
+        "{} belongs to the database and can't be replaced. Choose another name.", file.string()));
 }
 
 } // namespace exchange
