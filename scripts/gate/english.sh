@@ -6,7 +6,7 @@
 enterTree "$@"
 
 # The rooms that are written plainly so far; the others follow.
-done='^(src/(platform/(values|database|system|registry|dialogs)|store|removal|vestrelctl)/|src/core/[^/]*$'
+done='^(src/(platform/(values|database|system|registry|dialogs)|store|removal|vestrelctl|documents|exchange)/|src/core/[^/]*$'
 done+='|tests/(core/[^/]*$|store/|support/|platform/(values|database|system|registry|dialogs)/|vestrelctl/)'
 done+='|scripts/|cmake/|docs/|[^/]*$)'
 

@@ -17,9 +17,9 @@ enum class EventAction : std::int16_t { None = 0, ProcessTransaction = 1 };
 /// The unit of an interval. Stored.
 enum class IntervalType : std::int16_t { Day = 1, Week = 2, Month = 3, DayOfMonth = 4, Year = 5 };
 
-/// Performs one event, dated `date` (unset: today): posts its transaction, which triggers nothing,
-/// raises its alert, and stores the date as its last run. One unit of work; failures are thrown.
-/// Does nothing if there is no such event.
+/// Runs one event, dated `date` (unset: today): posts its transaction, which triggers no events,
+/// raises its alert, and stores the date as its last run. One unit of work. Throws on failure. Does
+/// nothing if there is no such event.
 void RunAutoEvent(std::int32_t idAutoEvent, platform::Date date);
 
 } // namespace books

@@ -9,18 +9,18 @@
 
 namespace books {
 
-/// What the event screen holds that can be wrong.
+/// The entries of the event screen that can be wrong.
 struct AutoEventEntry {
     std::string description;
     EventType type = EventType::Scheduled;
     double intervalPeriod = 0;
 };
 
-/// What is wrong with it, a line each.
+/// Returns the errors in the entries, a line each; empty if they can be saved.
 std::vector<std::string> AutoEventErrors(const AutoEventEntry& entry);
 
-/// The list of all events: scheduled ones with the day of their last run. The id stands in the
-/// first column.
+/// Returns the select of all events, scheduled ones with the date of their last run. The id is in
+/// the first column.
 std::string_view AutoEventListSql();
 
 } // namespace books

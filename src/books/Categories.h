@@ -9,7 +9,7 @@
 
 namespace books {
 
-/// What the category box shows while nothing is chosen; a row without a category holds the words.
+/// Shown in the category box while nothing is chosen; also stored in rows without a category.
 inline constexpr std::string_view kNoCategory = "No Category Selected";
 
 struct Category {
@@ -19,24 +19,24 @@ struct Category {
     friend bool operator==(const Category&, const Category&) = default;
 };
 
-/// The categories of the payments that the program posts by itself; an event can wait for them.
+/// The categories of the payments that the program posts itself; an event can wait for them.
 inline constexpr std::array<std::string_view, 5> kPaymentCategories = {
     "Rent Payment", "Partial Rent Payment", "Rent Subsidy Payment", "Deposit Payment",
     "Mortgage Payment"};
 
-/// Reads the form in which screens hand a category on: the text, "|", its class ("Deposit
-/// Refund|2"). Without a class, or with an unknown one, it is income.
+/// Parses the form in which screens pass a category: the text, "|", its class ("Deposit Refund|2").
+/// Without a class, or with an unknown one, it is income.
 Category ParseCategory(std::string_view text);
 
-// The upkeep of the list of categories. Failures are thrown.
+// Reading and changing the list of categories. All of these throw on failure.
 
-/// The categories of a class, in the order of the table.
+/// Returns the categories of a class, in the order of the table.
 std::vector<std::string> CategoriesOf(Ien ien);
 
-/// Adds a category, even one that is there already, and tells the open screens.
+/// Adds a category, even if it exists already, and broadcasts the change.
 void AddCategory(const Category& category);
 
-/// Removes every category of this text and tells the open screens. Transactions keep their text.
+/// Deletes every category of this text and broadcasts the change. Transactions keep their text.
 void RemoveCategory(std::string_view text);
 
 } // namespace books

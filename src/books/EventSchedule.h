@@ -12,7 +12,7 @@ namespace books {
 struct EventSchedule {
     IntervalType interval = IntervalType::Month;
     std::int16_t period = 0;
-    /// The day of the last run, unset if there was none.
+    /// The date of the last run, unset if there was none.
     platform::Date lastRun;
 };
 

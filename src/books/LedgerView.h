@@ -23,10 +23,10 @@ inline constexpr std::array<LedgerPeriod, 7> kLedgerPeriods = {{{"Last 30 days",
                                                                 {"Last 2 Years", 731},
                                                                 {"All", 0}}};
 
-/// Whether a unit's ledger shows what is the unit's own, or its building's as a whole.
+/// Whether a unit's ledger shows its own transactions or those of the whole building.
 enum class LedgerScope { Unit, Building };
 
-/// Whose transactions a ledger shows, and which of them.
+/// The record whose transactions a ledger shows, and which of them.
 struct LedgerView {
     std::int16_t dbType = 0; ///< account, tenant or unit
     std::int32_t id = 0;
@@ -35,11 +35,12 @@ struct LedgerView {
     int days = 0;
 };
 
-/// The select of the rows, newest first, the transaction's id in the first column; empty for a kind
-/// that has no ledger. An account's goes by the id alone, whatever kind stands beside it.
+/// Returns the select of the rows, newest first, with the transaction's id in the first column;
+/// empty for a kind that has no ledger. An account is matched by its id alone, whatever the kind of
+/// the party.
 std::string LedgerSql(const LedgerView& view, platform::Date today);
 
-/// The name that the grid's widths are kept under; empty for a kind without a ledger.
+/// Returns the name that the grid's widths are stored under; empty for a kind without a ledger.
 std::string_view LedgerStoreName(std::int16_t dbType);
 
 } // namespace books

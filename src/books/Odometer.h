@@ -5,13 +5,12 @@
 namespace books {
 
 /// The readings of a trip while they are typed, in miles with one decimal. The distance is the end
-/// less the start. Of the end and the distance the one that was typed last stays, and the other
-/// follows.
+/// less the start. Whichever of end and distance was typed last stays, and the other is calculated.
 class Odometer {
   public:
-    /// Nothing driven yet: the end follows.
+    /// Nothing driven yet; the end is calculated.
     static Odometer At(double begin);
-    /// A trip as it was stored: the distance follows.
+    /// A stored trip; the distance is calculated.
     static Odometer Of(double begin, double end);
 
     void TypeBegin(double reading);
@@ -20,7 +19,7 @@ class Odometer {
 
     double Begin() const { return begin_; }
     double End() const { return end_; }
-    /// Empty while the end is before the start.
+    /// Empty if the end is before the start.
     std::optional<double> Distance() const;
 
   private:
@@ -30,7 +29,7 @@ class Odometer {
     bool endFollows_ = false;
 };
 
-/// Rounds to a tenth of a mile, as the log shows and keeps readings.
+/// Rounds to a tenth of a mile, as the log shows and stores readings.
 double Tenths(double miles);
 
 } // namespace books

@@ -6,9 +6,9 @@
 
 namespace books {
 
-/// The id of the party that a From or To box names: that of the selected row. A typed name is only
-/// a name (0), unless it is the first row's but for its case; one that is a later row's stays a
-/// name, so that a person who types can say somebody new.
+/// Returns the id of the party in a From or To box: the selected row's id. Typed text is a mere
+/// name (0), unless it equals the first row's text, ignoring case. If it equals a later row's text
+/// it is still a mere name, so that the user can type someone new of the same name.
 std::int32_t PartyIdOf(const core::ChoiceList& box);
 
 } // namespace books

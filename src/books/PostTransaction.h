@@ -8,11 +8,11 @@
 
 namespace books {
 
-/// The class of a category, by which the sums of income and expenses go.
+/// The class of a category, which decides whether it counts as income or as expense.
 enum class Ien : std::int16_t { Income = 0, Expense = 1, Unclassified = 2 };
 
-/// One side of a transaction: record kind (account or tenant), id (0 if it is only a name), and the
-/// name at the time of posting.
+/// One party of a transaction: record kind (account or tenant), id (0 if it is only a name), and
+/// the name at the time of posting.
 struct Party {
     std::int16_t type = 0;
     std::int32_t id = 0;
@@ -21,7 +21,7 @@ struct Party {
     friend bool operator==(const Party&, const Party&) = default;
 };
 
-/// The records that a transaction is about, 0 for none.
+/// The records that a transaction refers to, 0 for none.
 struct References {
     std::int32_t idTenant = 0;
     std::int32_t idBuilding = 0;
@@ -41,23 +41,23 @@ struct Transaction : References {
     Ien ien = Ien::Income;
     std::string checkNumber;
     std::string description;
-    /// The kind of posting (0 ordinary, 1 to 3 as the rent log's classes, 5 a mortgage payment),
-    /// and for deposits the flag of the rent log.
+    /// The class of posting (0 ordinary, 1 to 3 as in the rent log, 5 a mortgage payment), and for
+    /// deposits the flag of the rent log.
     std::int16_t transactionClass = 0;
     std::int16_t flags = 0;
 };
 
-/// Whether a new row starts the events that wait for one like it.
+/// Whether a new row triggers the events that wait for its like.
 enum class Triggers { Fire, Skip };
 
-/// Adds a row to the transactions, the one way that rows reach the table. Before it is committed,
-/// the events of its debit side run, then those of its credit side, and the registered listeners
-/// are called; all of it is one unit of work. Open lists are refreshed after the commit of
-/// the whole unit. Returns the new row's id; failures are thrown.
+/// Adds a row to the transactions; rows reach the table in no other way. Before the commit, the
+/// events of its debit party run, then those of its credit party, and the registered listeners are
+/// called; all of it is one unit of work. Open lists are refreshed after the commit of the
+/// outermost unit. Returns the new row's id. Throws on failure.
 std::int32_t PostTransaction(const Transaction& transaction, Triggers triggers = Triggers::Fire);
 
-/// Rewrites a posted row, or adds it under its id if it was deleted; whether its sides were
-/// exported stays as it is. It triggers nothing and refreshes no list. Failures are thrown.
+/// Rewrites a posted row, or restores it under its id if it was deleted; whether its sides were
+/// exported stays unchanged. It triggers no events and refreshes no list. Throws on failure.
 void RewriteTransaction(std::int32_t id, const Transaction& transaction);
 
 } // namespace books

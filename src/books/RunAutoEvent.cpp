@@ -59,7 +59,7 @@ void RunAutoEvent(std::int32_t idAutoEvent, Date date) {
                                    date.ToText()),
                        date);
     }
-    // By number, not by row: events of one number (an import can bring them) move on together.
+    // By id and not by row: events with the same id, which an import can bring, move on together.
     core::Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
                   {date.ToText(), idAutoEvent});
     TellLists({core::kAutoEvent});

@@ -26,7 +26,7 @@ std::int32_t TripOf(std::int32_t idTransaction) {
     return idMileage ? idMileage->AsLong() : 0;
 }
 
-/// The trip that goes with the row; asked about before the unit of work begins.
+/// The deletion of a transaction's trip; the user is asked before the unit of work begins.
 class TripRemoval {
   public:
     TripRemoval(std::int32_t idTransaction, Trip trip)
@@ -34,7 +34,7 @@ class TripRemoval {
           asked_(trip == Trip::None ? TripOf(idTransaction) : 0),
           agreed_(asked_ != 0 && removal::AgreedToDelete(core::kMileage, asked_)) {}
 
-    /// True if a trip was deleted.
+    /// Returns true if a trip was deleted.
     bool Run() const {
         // Another program may have given the row another trip while the user was being asked.
         if (!agreed_ || TripOf(idTransaction_) != asked_) return false;

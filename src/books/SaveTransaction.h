@@ -13,14 +13,14 @@ enum class Trip { None, Keep };
 /// EditTransaction does. Returns the row's id.
 std::int32_t AddTransaction(const Transaction& entered, Trip trip);
 
-/// Stores the changes made on an editor: only the fields in which `entered` differs from `shown`
-/// are written, so that a field that the user left alone keeps a value stored by another program
-/// in the meantime. A row that was deleted is added again under its id with all that was entered.
+/// Saves the changes made on an editor: only the fields in which `entered` differs from `shown` are
+/// written, so a field that the user left unchanged keeps a value stored by another program in the
+/// meantime. A row that was deleted is added again under its id with all entries.
 ///
-/// With Trip::Keep its trip is written with the present figures. Without, the trip that the row has
-/// is deleted if the user agrees, and the row forgets it in any case. The registered listeners are
-/// called. One unit of work, begun when nothing is left to ask; failures are thrown. Lists of trips
-/// and events are refreshed; the list of transactions is left to the caller.
+/// With Trip::Keep its trip is written with the present figures. Without, the row's trip is deleted
+/// if the user agrees, and the row's reference to it is cleared in any case. The registered
+/// listeners are called. One unit of work, begun when nothing is left to ask. Throws on failure.
+/// Lists of trips and events are refreshed; the list of transactions is left to the caller.
 void EditTransaction(std::int32_t id, const Transaction& entered, const Transaction& shown,
                      Trip trip);
 

@@ -45,7 +45,7 @@ std::string DescriptionOf(Recordset& event) {
                                : description;
 }
 
-/// Keeps the day that an event waits for which never ran; true if it was kept.
+/// Stores the day that a never-run event waits for; returns true if it was stored.
 bool KeepAwaitedDay(Recordset& event) {
     const std::optional<Date> seed = SeedWhileWaiting(ScheduleOf(event), platform::Today());
     if (!seed) return false;

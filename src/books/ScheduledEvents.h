@@ -7,16 +7,16 @@
 
 namespace books {
 
-/// One bring-up-to-date run of the scheduled events. An event that can't run is reported to the
-/// listener once, with its books as before; the others go on.
+/// One daily run of the scheduled events. An event that can't run is reported to the listener once,
+/// with its books unchanged; the others run.
 class ScheduledEvents {
   public:
     explicit ScheduledEvents(core::RunListener& listener) : listener_(listener) {}
 
-    /// Makes one pass over the enabled scheduled events in the order of the table: each that is due
-    /// runs once, dated with the day it was due, so that a pass catches up by one interval. Each
-    /// event runs whole or not at all, and the pass is one unit of work. Returns true if at least
-    /// one ran. A failure that isn't one event's rolls the pass back and is thrown.
+    /// Makes one pass over the enabled scheduled events in the order of the table: each due event
+    /// runs once, dated with the day it was due, so a pass catches up by one interval. Each event
+    /// runs whole or not at all, and the pass is one unit of work. Returns true if at least one
+    /// ran. A failure that isn't one event's own rolls the pass back and is thrown.
     bool RunScheduledEvents();
 
   private:
@@ -24,7 +24,7 @@ class ScheduledEvents {
     std::set<std::int32_t> passedOver_;
 };
 
-/// The step of the daily run: makes passes until nothing is left, and lets window messages run
+/// The step of the daily run: makes passes until nothing is left, and processes window messages
 /// between them.
 void RunDueEvents(core::RunListener& listener);
 

@@ -5,7 +5,7 @@
 
 namespace books {
 
-/// Tells the open screens that records of these kinds changed; in a unit of work, once it is kept.
+/// Broadcasts that records of these kinds changed; within a unit of work, once it is committed.
 void TellLists(std::initializer_list<std::int16_t> kinds);
 
 } // namespace books

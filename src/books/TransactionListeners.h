@@ -10,12 +10,13 @@ namespace books {
 using TransactionListener =
     std::function<void(std::int32_t idTransaction, const Transaction& transaction)>;
 
-/// Asks to know of each transaction that is posted, or edited on its screen: called with the row
-/// written, inside the unit of work that keeps it, so that what a listener writes stands or falls
-/// with the row. Payments are told when they are posted. Listeners stay for the process's life.
+/// Registers a listener for each transaction that is posted, or edited on its screen. It is called
+/// with the row already written, inside the same unit of work, so that what it writes is committed
+/// or rolled back with the row. Payments are announced only when they are posted. Listeners stay
+/// registered for the life of the process.
 void RegisterTransactionListener(TransactionListener listener);
 
-/// Tells all who asked, in the order they came. What a listener throws is thrown on.
+/// Calls the listeners in the order of their registration. Exceptions pass through.
 void TellTransactionListeners(std::int32_t idTransaction, const Transaction& transaction);
 
 } // namespace books

@@ -48,7 +48,7 @@ constexpr FieldOf Of(const char* name) {
             [](const Field& field, Transaction& to) { Get(field, to.*member); }};
 }
 
-/// The same for a member of one side.
+/// The same for a member of one party.
 template <auto side, auto member>
 constexpr FieldOf OfSide(const char* name) {
     return {name,

@@ -8,14 +8,14 @@
 
 namespace books {
 
-// The fields of a transaction's row that all its writers share. Failures are thrown.
+// The fields of a transaction's row that all its writers share. All of these throw on failure.
 
-/// Opens the row of this id to write it; a deleted row is started again under its id, and id 0
-/// starts one under a new id. Neither side of a new row has been exported.
+/// Opens the row of this id for writing; a deleted row is added again under its id, and id 0 adds
+/// one under a new id. A new row counts as not exported on either side.
 core::RowToWrite TransactionToWrite(std::int32_t id);
 
-/// Writes date, sides, amount, category, class and references. The balances are always 0: what a
-/// party has is always the sum of its rows.
+/// Writes date, parties, amount, category, class and references. The stored balances are always 0:
+/// a party's balance is always the sum of its rows.
 void WriteTransactionFields(platform::Recordset& rows, const Transaction& transaction);
 
 /// Writes only the fields in which `entered` differs from `shown`, and the balances if there is

@@ -6,8 +6,8 @@
 
 namespace books {
 
-/// Returns the question to ask before a transaction is saved that is probably a slip: its sides are
-/// the same party, or one of them names nobody. Empty if there is nothing to ask.
+/// Returns the question to ask before saving a transaction that is probably a slip: its parties are
+/// the same, or one of them is empty. Returns an empty string if there is nothing to ask.
 std::string DoubtAbout(const Transaction& transaction);
 
 } // namespace books

@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::string_view kAll = "All";
 
-// The day before every trip.
+// The program's date zero, which is before every trip.
 const Date kZeroDate(1899, 12, 30);
 
 std::string Condition(const TripFilter& filter) {
@@ -37,7 +37,8 @@ std::string Condition(const TripFilter& filter) {
     return {};
 }
 
-/// Adds the rows of a statement that yields Description and ID; those without a text are left out.
+/// Adds the rows of a statement with the columns Description and ID; rows without a description are
+/// left out.
 void AddRows(core::ChoiceList& list, const std::string& sql) {
     platform::Recordset rows = core::Read(sql + " ORDER BY 1");
     for (; !rows.Eof(); rows.MoveNext()) {
@@ -46,7 +47,7 @@ void AddRows(core::ChoiceList& list, const std::string& sql) {
     }
 }
 
-/// The user of the session as the table of users knows them, 0 if it doesn't.
+/// Returns the id of the session's user in the table of users, 0 if they aren't in it.
 std::int32_t UserId() {
     const auto id =
         core::LookUp("SELECT IdUser FROM Users WHERE UserName = ?", {core::App().UserName});

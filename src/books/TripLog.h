@@ -25,7 +25,7 @@ inline constexpr std::array<TripPeriod, 7> kTripPeriods = {{{"Last 30 days", 30}
                                                             {"Last 2 Years", 731},
                                                             {"All", 0}}};
 
-/// What the log is filtered by.
+/// The field that the log is filtered by.
 enum class TripField { None, Vehicle, Building };
 
 struct TripFilter {
@@ -35,18 +35,18 @@ struct TripFilter {
     core::Choice item = {"All", 0};
 };
 
-/// Returns the statement of the log: the id, then the columns that show, the latest trip first.
+/// Returns the statement of the log: the id, then the visible columns, the latest trip first.
 std::string TripListSql(const TripFilter& filter);
 
-/// Returns what can be filtered by, "All" first. Throws on failure.
+/// Returns the choices of a filter, "All" first. Throws on failure.
 core::ChoiceList TripFilterItems(TripField field);
 
-/// Returns the destinations or vehicles that were entered so far, by name; for vehicles the one of
-/// the settings too.
+/// Return the destinations or vehicles entered so far, by name; the vehicles include the one in the
+/// settings.
 core::ChoiceList KnownDestinations();
 core::ChoiceList KnownVehicles();
 
-/// Sets what a new trip's row has besides the fields that the user enters.
+/// Sets the fields of a new trip's row that the user doesn't enter.
 void SetNewTripFields(platform::Recordset& trip);
 
 } // namespace books

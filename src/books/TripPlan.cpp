@@ -22,7 +22,7 @@ std::string DestinationOf(std::int32_t idBuilding) {
     return text.empty() ? core::GetDescription(core::kBuilding, idBuilding, 0, true) : text;
 }
 
-/// Where an even use of the vehicle over the period stands on a day.
+/// Returns the odometer reading on a day, if the vehicle is used evenly over the period.
 double EvenReading(const TripPlan& plan, const PlanVehicle& vehicle, Date day) {
     const double passed = day.Serial() - plan.from.Serial();
     const double total = plan.to.Serial() - plan.from.Serial() + 1;
@@ -82,7 +82,7 @@ std::vector<PlannedTrip> PlanTrips(const TripPlan& plan, const std::vector<TripO
             trip.vehicle = vehicle->name;
             trip.begin = Tenths(EvenReading(plan, *vehicle, day));
         } else {
-            // A day whose first trip found no vehicle finds none for the others.
+            // If the first trip of a day found no vehicle, its other trips find none either.
             if (trips.empty() || trips.back().date != day) continue;
             trip.vehicle = trips.back().vehicle;
             trip.begin = trips.back().end;

@@ -10,12 +10,12 @@
 
 namespace books {
 
-/// A vehicle of a reconstructed log. Its readings are spread evenly over the period.
+/// A vehicle of a reconstructed log. Its mileage is spread evenly over the period.
 struct PlanVehicle {
     std::string name;
     double begin = 1;   ///< the reading on the first day of the period
     double end = 10000; ///< the reading at its end
-    /// The days between which it was used, both included.
+    /// The first and last day of its use.
     platform::Date from = {};
     platform::Date to = {};
     double percent = 100; ///< its share of the trips, as a weight
@@ -24,7 +24,7 @@ struct PlanVehicle {
     friend bool operator==(const PlanVehicle&, const PlanVehicle&) = default;
 };
 
-/// A building that trips lead to.
+/// A destination of trips.
 struct PlanBuilding {
     std::int32_t id = 0;
     std::string address;
@@ -35,7 +35,7 @@ struct PlanBuilding {
 };
 
 struct TripPlan {
-    /// Both included.
+    /// The first and last day.
     platform::Date from;
     platform::Date to;
     std::vector<std::string> categories;
@@ -47,7 +47,7 @@ struct TripPlan {
     friend bool operator==(const TripPlan&, const TripPlan&) = default;
 };
 
-/// A transaction that a trip is made up for.
+/// A transaction for which a trip is reconstructed.
 struct TripOccasion {
     platform::Date date;
     std::string description;
@@ -68,10 +68,10 @@ struct PlannedTrip {
     friend bool operator==(const PlannedTrip&, const PlannedTrip&) = default;
 };
 
-/// Returns a number from 0 up to, but not including, 1.
+/// Returns a number of at least 0 and less than 1.
 using Chance = std::function<double()>;
 
-/// The one source of chance of a plan: the same seed gives the same numbers on every machine.
+/// A plan's only source of random numbers: the same seed gives the same numbers on every machine.
 class SeededChance {
   public:
     explicit SeededChance(std::uint32_t seed) : engine_(seed) {}
@@ -81,19 +81,20 @@ class SeededChance {
     std::mt19937 engine_;
 };
 
-/// Returns the vehicle for a day by the weights of those in use then; null if there is none.
+/// Returns a vehicle for a day, at random by the shares of the vehicles in use then; null if there
+/// are none.
 const PlanVehicle* PickVehicle(const TripPlan& plan, platform::Date day, const Chance& chance);
 
-/// Returns the length of a trip to a building, evenly spread around its distance.
+/// Returns the length of a trip to a building, spread evenly around its distance.
 double PickDistance(const TripPlan& plan, std::int32_t idBuilding, const Chance& chance);
 
-/// Makes up a trip for each occasion; they are in the order of their dates. The first trip of a day
-/// starts where an even use of its vehicle stands on that day, a further one where the last one
-/// ended. A day on which no vehicle is in use has no trips.
+/// Makes up a trip for each occasion; the occasions are in order of date. The first trip of a day
+/// starts at the reading of an even use of its vehicle, later ones where the last one ended. A day
+/// without a vehicle in use has no trips.
 std::vector<PlannedTrip> PlanTrips(const TripPlan& plan, const std::vector<TripOccasion>& occasions,
                                    const Chance& chance);
 
-/// What is wrong with a part of a plan, a line each.
+/// Return the errors in a part of a plan, a line each.
 std::vector<std::string> PeriodErrors(const TripPlan& plan);
 std::vector<std::string> VehicleErrors(const TripPlan& plan);
 std::vector<std::string> BuildingErrors(const TripPlan& plan);

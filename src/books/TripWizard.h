@@ -8,27 +8,27 @@
 
 namespace books {
 
-// What the wizard that reconstructs a mileage log reads from the books and writes to them. All
-// throw on failure.
+// The reads and writes of the wizard that reconstructs a mileage log. All of these throw on
+// failure.
 
-/// Returns the categories of the period's transactions that name a building, by name.
+/// Returns the categories of the period's transactions that have a building, by name.
 std::vector<std::string> PlanCategories(platform::Date from, platform::Date to);
 
-/// Returns the vehicles of the log, or the one of the settings if it has none, in use for the whole
+/// Returns the vehicles of the log, or the one in the settings if it has none, in use for the whole
 /// period and with equal shares.
 std::vector<PlanVehicle> PlanVehicles(platform::Date from, platform::Date to);
 
-/// Returns the buildings that the period's transactions name, by address.
+/// Returns the buildings of the period's transactions, by address.
 std::vector<PlanBuilding> PlanBuildings(platform::Date from, platform::Date to);
 
 /// Returns the transactions of the plan's period, categories and buildings, by date.
 std::vector<TripOccasion> PlanOccasions(const TripPlan& plan);
 
-/// Returns how many trips the log holds in a period.
+/// Returns the number of trips in the log for a period.
 std::int64_t LoggedTrips(platform::Date from, platform::Date to);
 
-/// Writes the trips, all or none of them. `logged` is how many trips of the period the user knows
-/// of: if the log holds another number by now, another program has written to it, and a
+/// Writes all of the trips, or none of them. `logged` is the number of trips in the period that the
+/// user was shown: if the log holds another number by now, another program has written to it, and a
 /// platform::ConflictError is thrown.
 void SubmitTrips(const TripPlan& plan, const std::vector<PlannedTrip>& trips, std::int64_t logged);
 

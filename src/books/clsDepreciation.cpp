@@ -17,8 +17,8 @@ using platform::Date;
 
 namespace {
 
-/// Percent of the basis in the first year, by the month placed in service: property counts from the
-/// middle of its month.
+/// Percent of the basis in the first year, by the month placed in service: a building counts from
+/// the middle of its month.
 constexpr std::array<double, 12> kFirstYear = {3.485, 3.182, 2.879, 2.576, 2.273, 1.97,
                                                1.667, 1.364, 1.061, 0.758, 0.455, 0.152};
 constexpr double kLaterYear = 3.636;

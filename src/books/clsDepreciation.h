@@ -18,9 +18,9 @@ struct DepreciationPeriod {
     std::string MethodUsed;
 };
 
-/// Expands the cost basis of a rental building into its schedule, a row a calendar year: the tax
+/// Expands the cost basis of a rental building into its schedule, a row per calendar year: the tax
 /// table of residential property over 27.5 years, whose first year depends on the month in which
-/// the building was placed in service. Life and method are carried along; the table is the same for
+/// the building was placed in service. Life and method are stored only; the table is the same for
 /// all of them.
 class clsDepreciation {
   public:
@@ -41,18 +41,19 @@ class clsDepreciation {
     void SetDescription(std::string_view text) { description_ = text; }
     double Basis() const { return basis_; }
     void SetBasis(double amount) { basis_ = amount; }
-    /// Years; kept, and without effect on the schedule.
+    /// Years; stored, but without effect on the schedule.
     double Life() const { return life_; }
     void SetLife(double years) { life_ = years; }
     const std::string& Method() const { return method_; }
     void SetMethod(std::string_view word) { method_ = word; }
 
-    /// The schedule as of the last Init, oldest year first.
+    /// Returns the schedule made by the last Init, oldest year first.
     const std::vector<DepreciationPeriod>& Schedule() const { return schedule_; }
     int Periods() const { return static_cast<int>(schedule_.size()); }
-    /// The cells of a row of the grid (0 the first) as they are shown, in the order of kColumns.
+    /// Returns the cells of a row of the grid (0 the first) as they are shown, in the order of
+    /// kColumns.
     std::array<std::string, kColumns.size()> GridRow(std::size_t row) const;
-    /// The schedule with its header as table text: cells separated by "|", rows by ";".
+    /// Returns the schedule with its header as table text: cells separated by "|", rows by ";".
     std::string GetClip() const;
 
   private:

@@ -22,7 +22,7 @@ constexpr std::size_t kLongestPath = 255; // characters, as many as the field ho
 constexpr std::size_t kLongestDescription = 50;
 constexpr std::array<std::string_view, 4> kPictureEndings = {"jpeg", "jpg", "gif", "bmp"};
 
-// The number in the text and the one that is tested differ, and are meant to.
+// The limit in the message and the limit that is checked differ on purpose.
 constexpr std::string_view kTooLong =
     "The file path for the selected item is too long. There can be a maximum of 260 characters\n"
     "in the path and filename. Please move the file to a different directory or shorten the file\n"
@@ -35,7 +35,7 @@ struct NameParts {
     std::string_view ending; ///< without the dot
 };
 
-/// A dot at the start of a name begins no ending.
+/// A dot at the start of a name begins no extension.
 NameParts PartsOf(std::string_view path) {
     const std::string_view name = path.substr(platform::PathOf(path).size());
     const std::size_t dot = name.rfind('.');
@@ -50,7 +50,7 @@ bool ChoosePath(std::string& path) {
     return chosen.has_value();
 }
 
-/// What is wrong with a path to attach; empty when nothing is.
+/// Returns why a path can't be attached; empty if it can.
 std::string_view Objection(const std::string& path, Quiet quiet) {
     std::error_code ignored;
     if (std::filesystem::is_directory(path, ignored)) return kFolder;

@@ -4,13 +4,13 @@
 
 namespace documents {
 
-/// How letters are kept, as the settings of the books hold it.
+/// The settings of the books about how letters are stored.
 struct DocOptions {
     std::string docDirectory;
     bool associateDocs = false;
 };
 
-/// Writes both into the settings and notifies the open forms.
+/// Saves both settings and notifies the open forms.
 void SaveDocOptions(const DocOptions& options);
 
 } // namespace documents

@@ -4,20 +4,20 @@
 
 namespace documents {
 
-/// How a panel of files is set up on this machine.
+/// The layout of a file panel on this machine.
 struct FilePanelSettings {
-    /// The others are remembered, and read.
+    /// Whether the other settings are stored and read.
     bool SaveSettings = true;
     bool ShowPath = false;
     bool ShowIcons = true;
     bool AllowDandD = true;
     bool AllowDelete = true;
-    /// Shares of the panel's width and height that the list and the picture take.
+    /// The shares of the panel's width and height taken by the list and the picture.
     double vSplit = 0.5;
     double hSplit = 0.4;
 };
 
-/// `panel` names the panel, so that two can differ.
+/// `panel` is the name under which a panel's settings are stored.
 FilePanelSettings LoadFilePanelSettings(std::string_view panel);
 void SaveFilePanelSettings(std::string_view panel, const FilePanelSettings& settings);
 

@@ -17,12 +17,12 @@ struct FileRow {
     bool isPicture = false;
 };
 
-/// The files of a record, in the order they were attached. Failures are thrown.
+/// Returns the files of a record, in the order they were attached. Throws on failure.
 std::vector<FileRow> FilesOf(std::int16_t dbType, std::int32_t idOwner);
-/// The files of all records.
+/// Returns the files of all records.
 std::vector<FileRow> AllFiles();
 
-/// Writes another description, as long as the field takes it, and tells the open screens.
+/// Stores another description, cut to the field's length, and notifies the open forms.
 void DescribeFile(std::int32_t id, std::string_view description);
 
 struct FileProperty {
@@ -30,7 +30,8 @@ struct FileProperty {
     std::string value;
 };
 
-/// What is known of a file, in the order it is shown; of one that is missing only that it is.
+/// Returns the properties of a file in the order they are shown; for a missing file only that it is
+/// missing.
 std::vector<FileProperty> PropertiesOf(const FileRow& file);
 
 } // namespace documents

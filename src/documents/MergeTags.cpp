@@ -66,7 +66,7 @@ void MergeTags(std::string& text, platform::Recordset& fields, TextKind kind) {
 }
 
 std::string SystemTag(std::string_view name) {
-    // Both dates have the same form.
+    // Both dates have the same format.
     if (platform::EqualIgnoringCase(name, "longdate")) name = "date";
     return core::SystemTagValue(name).value_or("Invalid Tag");
 }

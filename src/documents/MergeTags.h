@@ -16,18 +16,17 @@ struct MergeTag {
     std::size_t length = 0; ///< of the whole tag, in bytes
 };
 
-/// Returns the tags of `text` in their order. They view into it. Marks with nothing between them
-/// are no tag.
+/// Returns the tags of `text` in order; they are views into it. "<<>>" is not a tag.
 std::vector<MergeTag> TagsOf(std::string_view text);
 
-/// Replaces the tags of `text` by the values of the current row, and those that begin with "!" by
-/// system tags. A tag that no field answers to, or one that is null, stays as it is. Money is
-/// written as "1,250.00", dates as "mm/dd/yyyy", booleans as "Yes" and "No", each escaped for the
-/// kind of text.
+/// Replaces the tags of `text` by the values of the current row, and tags that begin with "!" by
+/// system tags. A tag without a field, or whose field is null, stays as it is. Money is written as
+/// "1,250.00", dates as "mm/dd/yyyy", booleans as "Yes" and "No", each escaped for the kind of
+/// text.
 void MergeTags(std::string& text, platform::Recordset& fields, TextKind kind = TextKind::Plain);
 
-/// Returns the value of a system tag (its name without "!", in any case); "Invalid Tag" for a name
-/// that isn't one.
+/// Returns the value of a system tag (its name without "!", in any case); "Invalid Tag" for an
+/// unknown name.
 std::string SystemTag(std::string_view name);
 
 } // namespace documents

@@ -8,15 +8,15 @@ namespace documents {
 
 namespace {
 
-/// A line of the file can't hold a line end.
+/// A line of the file can't contain a line end.
 std::string OnOneLine(std::string text) {
     std::ranges::replace_if(
         text, [](char c) { return c == '\n' || c == '\r'; }, ' ');
     return text;
 }
 
-/// Where the path's part of a line begins. A description may hold a bar too, so one in front of a
-/// full path counts before the first.
+/// Returns where the path in a line begins. A description may contain a bar too, so a bar before a
+/// full path takes precedence over the first bar.
 std::size_t BarOf(std::string_view line) {
     const std::size_t before = line.find("|/");
     return before != std::string_view::npos ? before : line.find('|');

@@ -6,7 +6,7 @@
 
 namespace documents {
 
-/// One picture of a show, with what stands below it.
+/// One picture of a slide show, with its caption.
 struct ShowPicture {
     std::string description;
     std::string path;
@@ -14,18 +14,18 @@ struct ShowPicture {
     friend bool operator==(const ShowPicture&, const ShowPicture&) = default;
 };
 
-/// The list file that a picture show is started with: a title, and a picture a line.
+/// The list file that the slide show is started with: a title, and a picture per line.
 struct ShowList {
     std::string title;
     std::vector<ShowPicture> pictures;
 };
 
 inline constexpr std::string_view kShowListFile = "pr.ini";
-/// The switch in front of the list file's path on the command line.
+/// The command-line switch before the list file's path.
 inline constexpr std::string_view kLoadFileSwitch = "/loadfile";
 
 std::string ShowListText(const ShowList& list);
-/// Reads such a text, of any line ends; lines without a path are passed over.
+/// Parses such a text, with any line ends; lines without a path are skipped.
 ShowList ParseShowList(std::string_view text);
 
 } // namespace documents

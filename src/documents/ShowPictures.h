@@ -10,12 +10,12 @@
 
 namespace documents {
 
-/// Starts a program that isn't waited for; false when it can't be started.
+/// Starts a program without waiting for it; returns false if it can't be started.
 using ProgramStarter = std::function<bool(const std::filesystem::path& program,
                                           const std::vector<std::string>& arguments)>;
 
-/// Starts the picture show on all pictures of a record; of kind 39 on those of a unit and of its
-/// building. Says so when there are none, and when there is no picture show.
+/// Starts the slide show of all pictures of a record; for kind 39, the pictures of a unit and of
+/// its building. Tells the user if there are no pictures, or if the slide show isn't installed.
 void ShowPictures(std::int16_t kind, std::int32_t id, std::string title = {},
                   const ProgramStarter& start = platform::StartDetached);
 

@@ -38,7 +38,7 @@ bool IsFilled(std::string_view name, const std::vector<std::string>& fields) {
     return Contains(fields, name);
 }
 
-/// Moves past a control word, such as "\b0 ", with the blank that ends it.
+/// Skips a control word, such as "\b0 ", with the blank that ends it.
 std::size_t EndOfControl(std::string_view text, std::size_t position) {
     const auto isAt = [&](std::size_t at, int (*is)(int)) {
         return at < text.size() && is(static_cast<unsigned char>(text[at])) != 0;
@@ -87,7 +87,7 @@ TemplateFaults CheckTemplate(std::string_view path, std::string_view text,
     for (const MergeTag& tag : TagsOf(plain)) {
         if (!Contains(whole, tag.name)) AddOnce(faults.torn, tag.name);
     }
-    // A tag with formatting inside is seen as an unknown one too: torn says more.
+    // A tag with formatting inside also counts as unknown; "torn" is the better explanation.
     std::erase_if(faults.unknown, [&](const std::string& name) {
         return name.find('\\') != std::string::npos || name.find('{') != std::string::npos;
     });

@@ -41,12 +41,12 @@ constexpr std::array kTests = {
     KindTest{core::kUnitWithBuilding, "selBuilding = True OR selUnit = True"},
 };
 
-/// Buildings are merged through one of their units, to which the id belongs.
+/// Buildings are merged through one of their units, whose id is given.
 std::int16_t KindOfOwner(std::int16_t kind) {
     return kind == core::kBuilding || kind == core::kUnitWithBuilding ? core::kUnit : kind;
 }
 
-/// A description as a part of a file's name.
+/// Returns a description in a form usable in a file name.
 std::string FileNamePart(std::string text) {
     std::ranges::replace_if(
         text, [](char c) { return c == '/' || c == '\\' || c == '\0' || c == '\n'; }, '-');
@@ -60,7 +60,7 @@ std::filesystem::path DocumentFolder() {
     return core::App().AppPath + "Docs";
 }
 
-/// Writes the letter under the first name that is free.
+/// Writes the letter under the first free name.
 std::filesystem::path WriteUnderFreeName(const DocTemplate& letter, const std::string& record,
                                          std::string_view text) {
     const std::string ending = std::filesystem::path(letter.filePath).extension().string();
@@ -93,7 +93,7 @@ void ShowUnopened(const std::string& place) {
                                        platform::Icon::Information);
 }
 
-/// The template, if there is one and its file exists; a missing file is reported.
+/// Returns the template if it is listed and its file exists; reports a missing file.
 std::optional<DocTemplate> FindUsableTemplate(std::int32_t idDoc) {
     std::optional<DocTemplate> letter = FindDocTemplate(idDoc);
     if (letter && !platform::FileExists(letter->filePath)) {
@@ -186,7 +186,7 @@ int OpenDocs(std::int16_t kind, std::span<const std::int32_t> ids, std::int32_t 
         for (const std::int32_t id : ids) {
             document = MergeDocument(*letter, kind, id);
             ++made;
-            // Without a program for one there is none for the others of its type.
+            // If no program opens one of them, none opens the others of its type.
             opened = opened && platform::TheDesktop().OpenDocument(document.file.string());
         }
     } catch (const platform::Error& failure) {

@@ -9,19 +9,19 @@
 
 namespace documents {
 
-/// A template of the list, as a record's menu offers it.
+/// A template of the list, as offered by a record's menu.
 struct DocTemplate {
     std::int32_t id = 0; ///< `IdDoc`
     std::string description;
     std::string filePath;
 };
 
-/// Returns the templates that apply to a kind of record, by description; none for a kind without
-/// letters. A building offers those of its units too. Throws on failure.
+/// Returns the templates for a kind of record, by description; empty for a kind without letters. A
+/// building offers the templates of units too. Throws on failure.
 std::vector<DocTemplate> DocTemplatesOf(std::int16_t kind);
 
-/// Returns the kind whose letters the forms and lists of a kind offer: a unit's come with those of
-/// its building, any other kind has its own.
+/// Returns the kind whose letters are offered for a kind: units share the letters of their
+/// building; other kinds have their own.
 std::int16_t DocKindOf(std::int16_t kind);
 
 /// Returns the template of this id; nullopt if there is none.
@@ -30,7 +30,7 @@ std::optional<DocTemplate> FindDocTemplate(std::int32_t idDoc);
 /// A merged letter that was written.
 struct MergedDocument {
     std::filesystem::path file;
-    /// The record exists and filled the letter. Without it the template was copied as it is.
+    /// Whether the record exists and filled the letter. If not, the template was copied unchanged.
     bool merged = false;
 };
 
@@ -42,14 +42,13 @@ struct MergedDocument {
 MergedDocument MergeDocument(const DocTemplate& letter, std::int16_t kind, std::int32_t id,
                              const std::optional<std::filesystem::path>& output = {});
 
-/// Merges a record into the template `idDoc` and opens the copy with the program made for its type.
-/// A template whose file is missing is reported in a message; false then, and if there is no such
-/// template.
+/// Merges a record into the template `idDoc` and opens the letter in its type's program. Returns
+/// false if there is no such template, or its file is missing, which is reported in a message.
 bool OpenDoc(std::int16_t kind, std::int32_t id, std::int32_t idDoc);
 
-/// Does the same for several records, a letter each, after a question that names their number.
-/// Returns how many letters were made: 0 if the user declined. Throws platform::Error with that
-/// number if a letter fails; those made before it stay.
+/// The same for several records, a letter each, after a question that states their number. Returns
+/// how many letters were written: 0 if the user declined. If a letter fails, throws platform::Error
+/// with that number; the letters before it are kept.
 int OpenDocs(std::int16_t kind, std::span<const std::int32_t> ids, std::int32_t idDoc);
 
 } // namespace documents

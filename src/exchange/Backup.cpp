@@ -33,7 +33,7 @@ constexpr std::string_view kObjectMark = "[f]";
 constexpr std::size_t kMarkSize = 3;
 constexpr std::size_t kOwnFiles = 3; // database, version and configuration
 
-/// A file of this name that a user keeps there is neither changed nor deleted.
+/// An existing file of that name is neither changed nor deleted.
 bool CanWriteTo(const fs::path& folder) {
     if (folder.empty()) return false;
     const fs::path test = folder / "test.vbk";
@@ -57,8 +57,8 @@ void AddFiles(platform::Connection& database, std::string_view sql, std::string_
     }
 }
 
-/// The templates and attached files that the database names. The session is closed at the end of
-/// the program, so this doesn't use it. A failure leaves the list as it got.
+/// Returns the templates and attached files named in the database. It doesn't use the session,
+/// which is closed when the program ends. On failure, returns what it has found so far.
 std::vector<std::string> RelatedFiles() {
     std::vector<std::string> list;
     try {
@@ -118,7 +118,7 @@ fs::path FreeContainer(const fs::path& folder) {
     }
 }
 
-/// One run, step by step.
+/// Runs one backup, step by step.
 class Run {
   public:
     Run(BackupConfig& stored, const BackupChoice& choice, const BackupListener& listener)
@@ -163,7 +163,8 @@ class Run {
 
     void Note(BackupOutcome outcome) { outcome_ = std::max(outcome_, outcome); }
 
-    /// Saves the settings, so that the container holds those of this run, also on the first one.
+    /// Saves the settings first, so that the container holds this run's settings even if it is the
+    /// first run.
     void KeepSettings() const {
         try {
             SaveBackupConfig(stored_);
@@ -190,7 +191,7 @@ class Run {
         Tell(kAction, word);
     }
 
-    /// A failure leaves a line of its own.
+    /// A failure adds a line of its own.
     bool PackOther(const fs::path& file, FileType type) {
         std::string result;
         if (file.string().size() > kFilePathSize) {
@@ -218,7 +219,7 @@ class Run {
         Tell(kAction, isWhole ? kSuccess : kWarning);
     }
 
-    /// A container that isn't on the disk is no backup.
+    /// A container that isn't safely on the disk is no backup.
     void SyncAll() {
         std::error_code ignored;
         if (!fs::exists(container_, ignored)) return;
@@ -230,8 +231,8 @@ class Run {
         }
     }
 
-    // A database that can't be packed may be damaged: then the containers made before are the way
-    // back, and the next backup is as urgent as it was.
+    // A database that can't be packed may be damaged: then the older containers are the way back,
+    // and the next backup is as urgent as before.
     void Finish() {
         if (outcome_ == BackupOutcome::Failed) {
             Tell("Removing expired backups", kWarning);

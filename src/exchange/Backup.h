@@ -26,12 +26,12 @@ enum class BackupOutcome {
 
 struct BackupReport {
     BackupOutcome outcome = BackupOutcome::Failed;
-    /// The word of the outcome and the sentence that says it.
+    /// The status and its sentence.
     std::string result;
     std::string text;
 };
 
-/// Where one run departs from the configuration, which isn't changed by it.
+/// Deviations of one run from the configuration, which stays unchanged.
 struct BackupChoice {
     std::optional<std::string> folder = {};
     std::optional<bool> allFiles = {};
@@ -39,18 +39,19 @@ struct BackupChoice {
 
 using BackupListener = std::function<void(const BackupLine& line)>;
 
-/// The configuration of a run with these choices.
+/// Returns the configuration of a run with these choices.
 BackupConfig Chosen(const BackupConfig& config, const BackupChoice& choice);
 
-/// Makes a backup of the process's database as `config` and `choice` say: packs it into a new
-/// container in the folder, with the related files if wanted, deletes expired containers, and keeps
-/// today as the day of the last backup. The listener is called with each step: when it begins, if
-/// it takes time, and with its result. Window messages run in between. When the database can't be
-/// packed, no container is deleted and the day of the last backup stays as it was.
+/// Makes a backup of the process's database as set in `config` and `choice`: packs it into a new
+/// container in the backup folder, with the related files if wanted, deletes expired containers,
+/// and stores today as the date of the last backup. The listener is called for each step: when it
+/// starts, if it takes time, and with its result. Window messages are processed in between. If the
+/// database can't be packed, no container is deleted and the date of the last backup doesn't
+/// change.
 BackupReport RunBackup(BackupConfig& config, const BackupChoice& choice,
                        const BackupListener& listener);
 
-/// How many containers a backup would leave behind; 0 when it would delete even its own.
+/// Returns how many containers a backup would leave; 0 if it would delete even its own.
 std::size_t ContainersLeft(const BackupConfig& config);
 
 } // namespace exchange

@@ -11,7 +11,7 @@ namespace exchange {
 
 inline constexpr std::size_t kBackupPathSize = 255;
 
-/// How backups are made, as the file BaR.cfg in the database directory keeps it.
+/// The configuration of backups, stored as BaR.cfg in the database directory.
 struct BackupConfig {
     /// Ends in a separator.
     std::string backupPath;
@@ -21,34 +21,34 @@ struct BackupConfig {
     std::int32_t keepInterval = 1;
     std::int32_t backupPeriods = 2;
     bool backupAllFiles = true;
-    /// Unset for never.
+    /// Unset if there was never a backup.
     platform::Date lastBackup;
-    /// The rest of the file, kept unchanged.
+    /// The rest of the file, preserved unchanged.
     std::string reserved;
 };
 
 inline constexpr std::string_view kBackupConfigFile = "BaR.cfg";
 std::filesystem::path BackupConfigPath();
 
-/// Returns the interval of a stored number; days for an unknown one.
+/// Returns the interval for a stored number; days for an unknown one.
 platform::Interval IntervalOf(std::int32_t stored);
 
-/// Reads the configuration; the defaults hold when there is no file. Throws an Error if the file
-/// can't be read or is cut.
+/// Reads the configuration, or the defaults if there is no file. Throws an Error if the file can't
+/// be read or is cut off.
 void LoadBackupConfig(BackupConfig& config);
 
-/// Writes it and returns true. Throws an Error if it can't be written, or if the path is too long
-/// for its field.
+/// Writes the configuration and returns true. Throws an Error if it can't be written, or if the
+/// path is too long for its field.
 bool SaveBackupConfig(const BackupConfig& config);
 
-/// Whether it is time for a backup: there was none yet, or the last one is old enough. Any error
-/// makes it false.
+/// Returns whether a backup is due: there was none yet, or the last one is old enough. Returns
+/// false on any error.
 bool IsBackupDue();
 
-/// Returns the reminder of an overdue backup, with the day of the last one; empty if none is due.
+/// Returns the reminder of an overdue backup, with the date of the last one; empty if none is due.
 std::string BackupNotice();
 
-/// "Last Backup: 05/01/2024", or "Last Backup: Never".
+/// Returns "Last Backup: 05/01/2024", or "Last Backup: Never".
 std::string LastBackupText(const BackupConfig& config);
 
 } // namespace exchange

@@ -17,17 +17,17 @@ enum class Severity {
 struct Finding {
     Severity severity = Severity::Fault;
     std::string what;
-    /// The steps by which the user can mend it.
+    /// The steps that mend it.
     std::string advice;
 };
 
-/// Called with the name of each part of the check before it begins, and its place among `of`.
+/// Called before each part of the check with its name, its number and the number of parts.
 using CheckProgress = std::function<void(std::string_view part, int number, int of)>;
 
-/// Checks the books and changes nothing: the database file, identifiers that two records share,
-/// links that name no record, stored balances against their ledgers, payments without transaction
-/// and transactions without payment. `books` is open. A part that can't be
-/// carried out is a fault. Messages run between the parts.
+/// Checks the books and changes nothing: the database file, ids shared by two records, links to
+/// records that don't exist, stored balances against their ledgers, payments without transactions
+/// and the reverse. `books` is open. A part that can't be carried out is reported as a fault.
+/// Window messages are processed between the parts.
 std::vector<Finding> CheckBooks(platform::Connection& books, const CheckProgress& progress);
 
 /// "2 faults and 1 note were found.", "Everything is in order."

@@ -16,7 +16,8 @@ struct Holder {
     const store::TableDefinition* table;
 };
 
-/// Whether a table's first field is its key: "IdUnit" of Unit, "IdTransaction" of Transactions.
+/// Returns whether a table's first field is its key: "IdUnit" of Unit, "IdTransaction" of
+/// Transactions.
 bool HasKey(const store::TableDefinition& table) {
     const store::FieldDefinition& first = table.fields.front();
     return first.kind == store::FieldKind::Long && first.name.starts_with("Id") &&

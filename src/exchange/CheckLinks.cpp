@@ -8,7 +8,7 @@ namespace exchange {
 
 namespace {
 
-/// A field that holds the identifier of a record of another table.
+/// A field that holds the id of a record in another table.
 struct Link {
     std::string_view table;
     std::string_view key; ///< of the table that has the field
@@ -20,7 +20,7 @@ struct Link {
 };
 
 constexpr Severity kFault = Severity::Fault;
-// The removal of a record leaves these unchanged: they tell what a row once referred to.
+// Deleting a record leaves these fields unchanged: they say what a row once referred to.
 constexpr Severity kNote = Severity::Note;
 
 constexpr auto kLinks = std::to_array<Link>({
@@ -74,7 +74,7 @@ constexpr auto kLinks = std::to_array<Link>({
     {"Lease", "IdLease", "RentAccount", "Account", "IdAccount", kNote},
     {"Lease", "IdLease", "DepositAccount", "Account", "IdAccount", kNote},
     {"Transactions", "IdTransaction", "IdLease", "Lease", "IdLease", kNote},
-    // A rent payment has its payer in IdTenant, even if that is an account.
+    // A rent payment stores its payer in IdTenant, even if the payer is an account.
     {"Transactions", "IdTransaction", "IdTenant", "Tenant", "IdTenant", kNote,
      "(child.IdTenant <> child.DebitId) OR (child.DebitType <> 1)"},
     {"Transactions", "IdTransaction", "IdBuilding", "Building", "IdBuilding", kNote},

@@ -1,4 +1,4 @@
-// Balances against their ledgers, payments against their transactions.
+// Checks balances against their ledgers, and payments against their transactions.
 
 #include <array>
 #include <map>

@@ -8,14 +8,14 @@
 
 namespace exchange {
 
-// The parts of the check; each adds what it finds.
+// The parts of the check; each adds its findings.
 void CheckFile(platform::Connection& books, std::vector<Finding>& findings);
 void CheckIds(platform::Connection& books, std::vector<Finding>& findings);
 void CheckLinks(platform::Connection& books, std::vector<Finding>& findings);
 void CheckBalances(platform::Connection& books, std::vector<Finding>& findings);
 void CheckPayments(platform::Connection& books, std::vector<Finding>& findings);
 
-/// The first few ids in the first column of a statement's rows, and the number of all of them.
+/// The first few ids in the first column of a statement's rows, and the number of rows.
 struct FoundIds {
     std::vector<std::string> first;
     std::int64_t count = 0;

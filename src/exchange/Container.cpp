@@ -33,7 +33,7 @@ constexpr std::size_t kDateSize = 30;
 constexpr std::int16_t kFormat = 2;
 constexpr std::size_t kBlockSize = 100'000;
 
-/// A failure with the system's number for it.
+/// An error with the system's error number.
 class PackError : public platform::Error {
   public:
     PackError(int number, const std::string& text) : Error(text), number_(number) {}
@@ -44,7 +44,7 @@ class PackError : public platform::Error {
     int number_;
 };
 
-/// A file open to be read.
+/// A file open for reading.
 class Source {
   public:
     explicit Source(const fs::path& file) : descriptor_(open(file.c_str(), O_RDONLY | O_CLOEXEC)) {
@@ -80,7 +80,7 @@ platform::DiskFile OpenContainer(const fs::path& container) {
             fs::exists(container, ignored) ? DiskFile::Start::Append : DiskFile::Start::New};
 }
 
-/// Writes the header of an entry that begins at the container's end; returns where its bytes begin,
+/// Writes the header of an entry at the container's end; returns where the entry's bytes begin,
 /// counted from 0.
 std::int64_t WriteHeader(platform::DiskFile& container, const fs::path& source, FileType type,
                          std::int64_t size) {

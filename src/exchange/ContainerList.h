@@ -10,7 +10,7 @@
 
 namespace exchange {
 
-/// How much of an entry a reader finds.
+/// Whether an entry is whole.
 enum class EntryState {
     Whole,
     Cut,     ///< the container ends before the entry does
@@ -25,9 +25,9 @@ struct ContainerEntry {
     std::int64_t position = 0;
 };
 
-/// Returns the entries of a container in order, each header checked against the file's length. A
-/// cut or damaged one is the last. Throws an Error if the container can't be read, or has no entry
-/// at all.
+/// Returns the entries of a container in order, each header checked against the file's length. An
+/// entry that is cut off or damaged ends the list. Throws an Error if the container can't be read
+/// or has no entries.
 std::vector<ContainerEntry> ListContainer(const std::filesystem::path& container);
 
 } // namespace exchange

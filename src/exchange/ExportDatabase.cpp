@@ -26,7 +26,7 @@ void SayError(std::string_view text) {
     platform::TheDialogs().ShowMessage("Export Error", text, platform::Icon::Exclamation);
 }
 
-/// Writes the groups of tables one after another, and tells how far it is.
+/// Writes the groups of tables one after another and reports the progress.
 class TableWriter {
   public:
     TableWriter(platform::DraftFile& file, const PortWatcher& watcher, std::int64_t total)
@@ -108,7 +108,7 @@ void WriteTables(std::span<const std::string> tables, const std::filesystem::pat
     for (const std::string& name : tables) {
         const auto* const table = database.Tables().Find(name);
         if (table == nullptr) throw platform::Error(fmt::format("there is no table {}", name));
-        // Its rows would come back twice.
+        // Its rows would be imported twice.
         if (std::ranges::find(parts, table, &Part::table) != parts.end()) {
             throw platform::Error(fmt::format("the table {} is given twice", table->name));
         }

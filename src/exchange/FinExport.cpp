@@ -19,8 +19,8 @@ namespace exchange {
 
 namespace {
 
-/// The condition for the transactions of an account. The export takes them in the table's order;
-/// `debit` and `credit` are the fields written so that the engine goes through the table for it.
+/// Returns the condition for the transactions of an account. The export reads them in the table's
+/// order, so `debit` and `credit` are written such that the engine scans the table.
 std::string WhereOf(std::int32_t id, const ExportRange& range, std::string_view debit = "DebitId",
                     std::string_view credit = "CreditID") {
     switch (range.range) {
@@ -47,7 +47,7 @@ std::string DayText(const std::string& stored) {
     return day ? day->ToText() : stored;
 }
 
-/// Writes the entries of one request, transaction by transaction.
+/// Writes the entries of a request, transaction by transaction.
 class Exporter {
   public:
     Exporter(const FinExportRequest& request, platform::DraftFile& file)
@@ -61,7 +61,7 @@ class Exporter {
         for (; !rows.Eof(); rows.MoveNext()) {
             ++count_;
             Read(rows);
-            // An account on both sides has an entry for each.
+            // An account on both sides gets an entry for each.
             if (platform::IdOf(rows["CreditID"]) == id) Deposit(rows);
             if (platform::IdOf(rows["DebitId"]) == id) Check(rows);
             if (request_.mark == MarkExported::Yes) rows.Update();

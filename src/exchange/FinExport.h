@@ -10,7 +10,7 @@
 
 namespace exchange {
 
-/// How many transactions the export of an account takes; 0 on failure.
+/// Returns how many transactions of an account would be exported; 0 on failure.
 std::int32_t CountForExport(std::int32_t idAccount, const ExportRange& range);
 
 struct FinExportRequest {
@@ -18,12 +18,11 @@ struct FinExportRequest {
     ExportRange range = {};
     MarkExported mark = MarkExported::No;
     LimitLength limit = LimitLength::No;
-    /// The accounts in the order in which they are written.
+    /// In the order in which they are written.
     std::vector<std::int32_t> accounts = {};
 };
 
-/// The reason why a request can't be carried out, and the title of its message; both empty if it
-/// can.
+/// Why a request can't be carried out, and the title of the message; both empty if it can.
 struct FinExportObjection {
     std::string title;
     std::string text;
@@ -31,14 +30,14 @@ struct FinExportObjection {
 FinExportObjection ObjectionTo(const FinExportRequest& request);
 
 /// Writes the entries of the accounts to `file`; an account whose transactions can't be read is
-/// skipped. Returns how many transactions were found, each counted once for each account.
+/// skipped. Returns the number of transactions, each counted once per account.
 ///
-/// The marks are one unit of work, committed when the file is whole and on the disk. Throws an
-/// Error if that fails, or if `file` belongs to the database; then nothing is marked, and a file
-/// that had the name before is kept.
+/// The marks are written in one unit of work that is committed once the file is completely on the
+/// disk. Throws an Error on failure, or if `file` belongs to the database; then nothing is marked,
+/// and an existing file of that name is kept.
 std::int64_t RunFinExport(const FinExportRequest& request, const std::filesystem::path& file);
 
-/// The message after an export of `count` transactions.
+/// Returns the message after an export of `count` transactions.
 std::string ExportedText(std::int64_t count);
 
 } // namespace exchange

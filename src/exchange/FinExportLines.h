@@ -8,7 +8,7 @@
 
 namespace exchange {
 
-/// One side of a transaction, seen from the account on that side.
+/// A transaction as an entry of one of its two accounts.
 struct FinEntry {
     std::string_view type; ///< kDeposit or kCheck
     std::string date;      ///< "mm/dd/yyyy"
@@ -26,13 +26,13 @@ inline constexpr std::string_view kCheck = "CHECK";
 struct FinFormat {
     std::string_view extension;
     std::string_view filterName;
-    /// The beginning of the file, its line ends included.
+    /// The beginning of the file, including its line ends.
     std::string_view head;
 };
 const FinFormat& FormatOf(FinType type);
 
-/// Returns a text as the file holds it, with blanks in place of commas, line ends and tabs, since
-/// no format can quote them.
+/// Returns text as it is written to the file, with blanks instead of commas, line ends and tabs,
+/// which the formats have no way to quote.
 std::string PlainText(std::string_view text);
 
 /// Adds the lines of an entry to `file`.

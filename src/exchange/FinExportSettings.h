@@ -7,15 +7,14 @@
 
 namespace exchange {
 
-// The numbers are kept in the settings.
+// The numbers are stored in the settings.
 enum class FinType { Csv = 0, Qif = 1, Iif = 2 };
 enum class TransRange { New = 0, All = 1, DateRange = 2 };
 
 enum class MarkExported { No, Yes };
 enum class LimitLength { No, Yes };
 
-/// The transactions that an export takes: those not yet exported, all, or those of the days from
-/// `start` to `end`.
+/// The transactions to export: those not yet exported, all, or those from `start` to `end`.
 struct ExportRange {
     TransRange range = TransRange::New;
     platform::Date start;
@@ -29,18 +28,18 @@ struct FinExportSettings {
     bool markExported = false;
     bool showCount = false;
     bool limitLength = false;
-    /// Of the list of accounts.
+    /// The sorted column of the list of accounts.
     std::int32_t sortedColumn = 0;
     bool sortDescending = false;
-    /// Path without its extension.
+    /// The path without its extension.
     std::string lastFileName;
 };
 
-/// Reads the settings. A missing or invalid one has its default: new transactions as CSV, and the
-/// month up to today for a range of days.
+/// Loads the settings. A missing or invalid setting gets its default: new transactions as CSV, and
+/// the month up to today as the range.
 FinExportSettings LoadFinExportSettings();
 
-/// Writes all of them but the file's name, which SaveLastFileName writes after each export.
+/// Saves all settings but the file's name, which SaveLastFileName saves after each export.
 void SaveFinExportSettings(const FinExportSettings& settings);
 void SaveLastFileName(const std::string& path);
 

@@ -6,15 +6,15 @@
 
 namespace exchange {
 
-// Records of a fixed length: little-endian numbers, and texts padded with blanks, each at its
-// offset counted from 0.
+// Records of fixed length: little-endian numbers and blank-padded strings at offsets counted from
+// 0.
 
 class FixedRecord {
   public:
     /// `bytes` must outlive the record and be long enough for every field that is read.
     explicit FixedRecord(std::string_view bytes) : bytes_(bytes) {}
 
-    /// Without the padding; blanks and zero bytes alike count as such.
+    /// Returns the string without its padding of blanks or zero bytes.
     std::string Text(std::size_t at, std::size_t size) const;
     std::int16_t Integer(std::size_t at) const;
     std::int32_t Long(std::size_t at) const;
@@ -25,10 +25,10 @@ class FixedRecord {
 
 class FixedRecordWriter {
   public:
-    /// All zero.
+    /// Starts with all bytes zero.
     explicit FixedRecordWriter(std::size_t size) : bytes_(size, '\0') {}
 
-    /// Returns false for a text that doesn't fit, and writes nothing then.
+    /// Returns false, and writes nothing, if the text doesn't fit.
     bool SetText(std::size_t at, std::size_t size, std::string_view text);
     void SetInteger(std::size_t at, std::int16_t number);
     void SetLong(std::size_t at, std::int32_t number);

@@ -28,7 +28,7 @@ constexpr std::string_view kBadCount = "record did not contain correct amount of
 constexpr std::string_view kUtf16 =
     "the file is UTF-16 text. Save it as UTF-8 and import it again.";
 
-/// Two names for one field would leave open which value it gets.
+/// If a field is named twice it isn't clear which value it gets.
 bool HasTwice(std::vector<std::string> names) {
     for (std::string& name : names)
         name = platform::ToLower(name);
@@ -40,7 +40,7 @@ class Checker {
   public:
     explicit Checker(ImportCheck& found) : found_(found) {}
 
-    /// Returns the error of the reader's line; empty if it has none.
+    /// Returns the error in the reader's line; empty if there is none.
     std::string_view CheckLine(const PortReader& reader) {
         switch (reader.Marker()) {
             case PortMarker::Table:
@@ -97,7 +97,7 @@ class Checker {
     }
 
     ImportCheck& found_;
-    // A copy: the session may be closed by a window message while the file is read.
+    // A copy, since the session may be closed by a window message while the file is read.
     std::optional<platform::dialect::Table> table_;
     std::size_t fields_ = 0;
 };

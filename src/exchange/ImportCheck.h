@@ -9,24 +9,24 @@
 
 namespace exchange {
 
-/// What the first reading of an import file found.
+/// The result of the first reading of an import file.
 struct ImportCheck {
     ImportOutcome outcome;
     std::int64_t tables = 0;
     std::int64_t records = 0;
     std::int64_t invalidLines = 0;
-    /// Whether the settings' table is in it, which the import always replaces.
+    /// Whether the settings table is in it, which the import always replaces.
     bool hasConfiguration = false;
     PortReader::Letters letters = PortReader::Letters::Utf8;
 };
 
-/// Holds every line of the file against the tables of the process's database; writes nothing. The
-/// first error ends it.
+/// Checks every line of the file against the tables of the process's database; writes nothing. It
+/// ends at the first error.
 ImportCheck CheckImport(const std::filesystem::path& file, const PortWatcher& watcher);
 
 inline constexpr std::string_view kConfigurationTable = "Configuration";
 
-/// The texts of a line's items.
+/// Returns the texts of a line's items.
 std::vector<std::string> TextsOf(const std::vector<PortItem>& items);
 
 } // namespace exchange

@@ -25,7 +25,7 @@ constexpr int kRowsBetweenProgress = 1000;
 constexpr std::string_view kLatin1Note =
     "Note: the file is not UTF-8; its letters are read as Latin-1.\n";
 
-/// The first reading found every line whole.
+/// Thrown for a malformed line, since the first reading found none.
 platform::Error FileChanged() {
     return platform::Error("the file was changed while it was read.");
 }
@@ -113,14 +113,14 @@ ImportOutcome WriteRecords(const std::filesystem::path& file, ImportRows rows,
     try {
         unit.Commit();
     } catch (const platform::Error& failure) {
-        // After some failures, such as a full disk, the engine has given the unit up already.
+        // After some errors, such as a full disk, the engine has already rolled the unit back.
         if (outcome.Succeeded()) outcome.error = failure.what();
         outcome.error += " Nothing was imported.";
     }
     return outcome;
 }
 
-/// Any record may have come in, and the settings too.
+/// Records of any kind may have been imported, and the settings too.
 void TellScreens() {
     for (std::int16_t kind = core::kAccount; kind <= core::kRentLog; ++kind)
         core::NotifyAll(kind, core::kRecordsChanged, 0);

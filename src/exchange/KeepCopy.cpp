@@ -30,7 +30,7 @@ std::string_view WordOf(CopyReason reason) {
     return "removal";
 }
 
-/// The numbers of the copies that are there, in ascending order.
+/// Returns the numbers of the existing copies in ascending order.
 std::vector<int> NumbersOf(const fs::path& folder, const std::string& stem) {
     std::vector<int> numbers;
     std::error_code failure;

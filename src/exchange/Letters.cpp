@@ -8,7 +8,7 @@ namespace exchange {
 
 namespace {
 
-/// What Windows has in place of the control characters 0x80 to 0x9F.
+/// The characters that Windows uses in place of the control characters 0x80 to 0x9F.
 constexpr std::array<std::uint16_t, 32> kWindowsLetters = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -26,7 +26,7 @@ std::size_t AsciiLength(std::string_view text) {
     return at;
 }
 
-/// The length of the letter of several bytes that `text` begins with; 0 when it is none.
+/// Returns the length of the multi-byte character at the start of `text`; 0 if it is malformed.
 std::size_t LetterLength(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char first = byte(0);

@@ -6,9 +6,9 @@
 namespace exchange {
 
 bool IsAscii(std::string_view text);
-/// Whether the bytes are UTF-8, each letter in its shortest form.
+/// Returns whether the bytes are valid UTF-8, without overlong forms.
 bool IsUtf8Text(std::string_view bytes);
-/// The UTF-8 of a text in Latin-1, with the further letters that Windows has in it.
+/// Returns the UTF-8 of Latin-1 text, including the characters that Windows adds to Latin-1.
 std::string FromLatin1(std::string_view bytes);
 
 } // namespace exchange

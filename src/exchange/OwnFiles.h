@@ -4,8 +4,8 @@
 
 namespace exchange {
 
-/// Throws an Error if `file` is the process's database, or another file that belongs to it in its
-/// folder: a file written by that name would replace the books.
+/// Throws an Error if `file` is the process's database, or a file of the database in its folder:
+/// writing to it would destroy the books.
 void RefuseOwnFile(const std::filesystem::path& file);
 
 } // namespace exchange

@@ -9,7 +9,7 @@
 
 namespace exchange {
 
-/// What the screen, or whoever else started it, shows of an export or import; either may be empty.
+/// Called by an export or import to show its progress; either function may be empty.
 struct PortWatcher {
     /// Replaces the lines of the status.
     std::function<void(std::string_view lines)> status;
@@ -23,15 +23,15 @@ struct PortWatcher {
     void Progress(std::int64_t done, std::int64_t total) const;
 };
 
-/// Asks for a file and writes the tables to it; says so when none are given, or no file. True when
-/// the file was written. Failures are thrown.
+/// Asks for a file and writes the tables to it; tells the user if no tables or no file were chosen.
+/// Returns true if the file was written. Throws on failure.
 bool ExportDatabase(std::span<const std::string> tables, const PortWatcher& watcher);
 
-/// Writes the rows of these tables of the process's database to a text file, which appears under
-/// its name when it is whole. The rows are those of one moment, whatever is written meanwhile;
-/// tables without rows are left out. Window messages run in between. Throws an Error if a table
-/// doesn't exist or is given twice, if `file` belongs to the database, or if writing fails; then
-/// there is no file, and one that was there before is kept.
+/// Writes the rows of these tables of the process's database to a text file, which gets its name
+/// only when it is complete. The rows are those of one moment, even if others write in the
+/// meantime; tables without rows are left out. Window messages are processed in between. Throws an
+/// Error if a table doesn't exist or is given twice, if `file` belongs to the database, or if
+/// writing fails; then nothing is written, and an existing file is kept.
 void WriteTables(std::span<const std::string> tables, const std::filesystem::path& file,
                  const PortWatcher& watcher);
 
@@ -39,23 +39,23 @@ enum class ImportMode { Test, Write };
 enum class ImportRows { Append, Overwrite };
 enum class ImportMessages { Show, Quiet };
 
-/// What came of an import; without an error it is done.
+/// The result of an import, which succeeded if `error` is empty.
 struct ImportOutcome {
     std::string error;
-    /// Where the error was found, counted from 1; 0 if no line was read.
+    /// The line of the error, counted from 1; 0 if no line was read.
     std::int64_t line = 0;
 
     bool Succeeded() const { return error.empty(); }
 };
 
-/// Checks a text file of tables as a whole, and then, unless it is only a test, adds its records to
-/// the process's database. With Overwrite a table is emptied wherever the file begins it; the
-/// settings' table always is, since it has one row. Before anything is emptied a copy of the
-/// database is kept beside it.
+/// Checks a whole text file of tables and then, unless it is only a test, adds its records to the
+/// process's database. With Overwrite a table is emptied wherever the file begins it; the settings
+/// table always is, since it has one row. A copy of the database is saved beside it before anything
+/// is emptied.
 ///
-/// A file with an error changes nothing. A value that its field refuses ends the writing: the
-/// records before it stay. All of it is one unit of work, so that a crash leaves the database as
-/// before. The screens are told of what came in.
+/// A file with an error changes nothing. A value that its field refuses ends the import, and the
+/// records before it stay. Everything is one unit of work, so that a crash leaves the database as
+/// it was. The open screens are notified of the imported records.
 ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode, ImportRows rows,
                              ImportMessages messages, const PortWatcher& watcher);
 

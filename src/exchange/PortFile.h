@@ -20,10 +20,10 @@ namespace exchange {
 // Texts stand in quotes, their own quotes doubled, and may hold line ends; numbers and amounts are
 // bare, Yes/No values #TRUE# and #FALSE#, a null is an empty quoted item.
 
-/// The kind of a line, by its first item.
+/// The kind of a line, which its first item names.
 enum class PortMarker { Table, Fields, Record, None };
 
-/// Adds a stored value as an item to a line.
+/// Appends a stored value to a line as an item.
 void AppendPortItem(std::string& line, const platform::Cell& cell, platform::FieldType type);
 void AppendPortText(std::string& line, std::string_view text);
 
@@ -32,31 +32,31 @@ struct PortItem {
     bool quoted = false;
 };
 
-/// Reads the lines of such a file one by one. The memory needed is that of the longest line.
+/// Reads the lines of such a file one by one, with memory for the longest line.
 class PortReader {
   public:
     enum class Letters { Utf8, Latin1 };
 
-    /// Throws an Error if the file can't be read. `letters` is what Latin-1 texts are turned from.
+    /// Throws an Error if the file can't be read. `letters` says whether to convert from Latin-1.
     PortReader(const std::filesystem::path& file, Letters letters);
     ~PortReader();
     PortReader(const PortReader&) = delete;
     PortReader& operator=(const PortReader&) = delete;
 
-    /// Goes to the next line; false at the end of the file. Throws an Error if reading fails, or
-    /// for a line that no memory should be spent on.
+    /// Reads the next line; returns false at the end of the file. Throws an Error if reading fails,
+    /// or for a line of unreasonable length.
     bool NextLine();
-    /// The number of the line, counted from 1, on which the present one begins in a text editor.
+    /// The number of the line, counted from 1 as in a text editor, on which the current one begins.
     std::int64_t Number() const { return number_; }
     PortMarker Marker() const { return marker_; }
-    /// The items between the markers, valid until the next line is read.
+    /// Returns the items between the markers; valid until the next line is read.
     const std::vector<PortItem>& Items() const { return items_; }
-    /// False for a line that doesn't end in its marker, or with an item that can't be read.
+    /// Returns false for a line that doesn't end in its marker, or with a malformed item.
     bool IsWhole() const { return isWhole_; }
 
-    /// Whether all that was read so far is UTF-8.
+    /// Returns whether everything read so far is UTF-8.
     bool IsUtf8() const { return isUtf8_; }
-    /// Whether the file begins as one of 16-bit letters does, which isn't read.
+    /// Returns whether the file begins like 16-bit Unicode, which isn't supported.
     bool IsUtf16() const;
     std::int64_t BytesRead() const { return consumed_; }
     std::int64_t Size() const { return size_; }
@@ -86,8 +86,8 @@ class PortReader {
     bool isUtf8_ = true;
 };
 
-/// Returns an item as a field of `type` stores it; a text stays in its place or is made in
-/// `scratch`. Throws a ConversionError or OverflowError for an item that the type can't hold.
+/// Returns an item as a field of `type` stores it; a string is a view of the item or of `scratch`.
+/// Throws a ConversionError or OverflowError if the type can't hold the item.
 platform::Cell CellOfItem(const PortItem& item, platform::FieldType type, std::string& scratch);
 
 } // namespace exchange

@@ -1,4 +1,4 @@
-// Single items: how values are written, and read back.
+// Single items: writing and reading values.
 
 #include <charconv>
 #include <cmath>
@@ -21,7 +21,7 @@ void AppendWhole(std::string& line, std::int64_t number) {
     line.append(digits, end.ptr);
 }
 
-/// An amount of ten-thousandths, with the decimals that it has.
+/// Writes an amount given in ten-thousandths, with as many decimals as it needs.
 void AppendMoney(std::string& line, std::int64_t scaled) {
     if (scaled < 0) line += '-';
     const std::uint64_t size =
@@ -38,7 +38,7 @@ void AppendMoney(std::string& line, std::int64_t scaled) {
     line.append(decimals, static_cast<std::size_t>(count));
 }
 
-/// A value that another tool stored in a form that isn't its field's.
+/// Writes a value that another tool stored in a form unlike its field's.
 void AppendOther(std::string& line, const Cell& cell, FieldType type) {
     const platform::Value value = platform::ReadCell(cell, type);
     if (std::holds_alternative<std::string>(value.Held())) {
@@ -48,13 +48,13 @@ void AppendOther(std::string& line, const Cell& cell, FieldType type) {
     }
 }
 
-/// A bare whole number in a file of our own; the long way is for all others.
+/// Reads a bare whole number of our own files; the general conversion handles everything else.
 bool ReadWhole(std::string_view text, std::int64_t& number) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc() && end == text.data() + text.size();
 }
 
-/// A bare amount with at most four decimals.
+/// Reads a bare amount with at most four decimals.
 bool ReadMoney(std::string_view text, std::int64_t& scaled) {
     constexpr std::size_t kMostDigits = 14; // that can't overflow
     const bool negative = text.starts_with('-');
@@ -81,7 +81,7 @@ bool ReadDouble(std::string_view text, double& number) {
     return error == std::errc() && end == text.data() + text.size() && std::isfinite(number);
 }
 
-/// What stands between # marks: a Yes/No value, nothing, or a day.
+/// Returns the value between # marks: Yes/No, null, or a date.
 platform::Value MarkedValue(std::string_view text) {
     const std::string_view word = text.substr(1, text.size() - 2);
     if (platform::EqualIgnoringCase(word, "TRUE")) return true;

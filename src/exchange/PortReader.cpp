@@ -18,8 +18,8 @@ namespace exchange {
 namespace {
 
 constexpr std::size_t kPieceSize = 1 << 20;
-// No record of ours is that long; in a file of another make a quote that is never closed makes the
-// rest of the file one line.
+// None of our records is that long; in a foreign file an unclosed quote turns the rest of the file
+// into one line.
 constexpr std::size_t kLongestLine = 64 << 20;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
@@ -68,7 +68,7 @@ bool PortReader::IsUtf16() const {
     return buffer_.starts_with("\xFF\xFE") || buffer_.starts_with("\xFE\xFF");
 }
 
-/// Reads on; false at the end of the file.
+/// Reads more of the file; returns false at its end.
 bool PortReader::Fill() {
     if (atEnd_) return false;
     buffer_.erase(0, begin_);
@@ -86,7 +86,7 @@ bool PortReader::Fill() {
 }
 
 /// Finds the end of the line that begins here: the first line end outside quotes. A quote inside a
-/// text is doubled, so that counting them is enough. Throws an Error for a line that is too long.
+/// string is doubled, so counting the quotes is enough. Throws an Error if the line is too long.
 bool PortReader::FindLine(std::size_t& end) {
     const auto find = [this](char c, std::size_t from, std::size_t to) {
         const void* const found = std::memchr(buffer_.data() + from, c, to - from);
@@ -142,8 +142,8 @@ std::string_view PortReader::Keep(std::string text) {
     return kept_[keptCount_++] = std::move(text);
 }
 
-/// Takes the text of a quoted item, whose first quote was taken already; `rest` goes on after its
-/// last one.
+/// Returns the text of a quoted item whose opening quote has been read; `rest` continues after the
+/// closing one.
 std::string_view PortReader::TakeQuoted(std::string_view& rest) {
     const std::size_t quote = rest.find('"');
     if (quote == std::string_view::npos) {
@@ -195,7 +195,7 @@ void PortReader::Split(std::string_view line) {
         }
         items_.push_back(item);
     }
-    // A spreadsheet fills short lines up with empty items, some of them in quotes.
+    // Spreadsheets pad short lines with empty items, some of them quoted.
     while (!items_.empty() && items_.back().text.empty())
         items_.pop_back();
     marker_ = PortMarker::None;

@@ -28,7 +28,7 @@ namespace {
 
 constexpr std::size_t kBlockSize = 1 << 20;
 
-/// The parts of a path of this or another system.
+/// Returns the parts of a path of this or another system.
 std::vector<std::string> PartsOf(std::string path) {
     std::ranges::replace(path, '\\', '/');
     std::vector<std::string> parts;
@@ -37,7 +37,7 @@ std::vector<std::string> PartsOf(std::string path) {
         if (end > begin) parts.push_back(path.substr(begin, end - begin));
         begin = end + 1;
     }
-    // A drive is a folder like others.
+    // A drive becomes a folder.
     if (!parts.empty() && parts.front().size() == 2 && parts.front().back() == ':') {
         parts.front().pop_back();
     }
@@ -58,7 +58,7 @@ std::string OwnName(const std::string& name) {
     return name;
 }
 
-/// The moment that a header's text tells; an unset day for another text.
+/// Returns the moment in a header's text; an unset date if it can't be read.
 platform::Moment MomentOf(const std::string& text) {
     const auto blank = std::min(text.find(' '), text.size());
     const auto day = platform::Date::TryParse(text.substr(0, blank));
@@ -90,7 +90,7 @@ void Extract(const fs::path& container, const EntryHeader& header, const fs::pat
     out.Sync();
 }
 
-/// Why an entry isn't restored; empty when it can be.
+/// Returns why an entry isn't restored; empty if it can be.
 std::string Objection(const ContainerEntry& entry, const fs::path& place, bool isTaken) {
     if (entry.state == EntryState::Cut) return "the backup ends before this file does";
     if (entry.state == EntryState::Damaged) return "the backup is damaged here";
@@ -110,7 +110,7 @@ class Restoration {
         const fs::path place = PlaceOf(entry.header);
         RestoredFile file{entry.header.filePath, {}, {}};
         const auto [before, isNew] = taken_.emplace(place, entry.header.filePath);
-        // A file that several records name is in the backup once for each of them.
+        // A file named by several records is in the backup once for each of them.
         const bool isSame = !isNew && before->second == entry.header.filePath &&
                             entry.header.fileType != static_cast<std::int16_t>(FileType::Database);
         if (isSame) return;
@@ -130,7 +130,7 @@ class Restoration {
         } catch (const platform::Error& failure) {
             report_.faults = {failure.what()};
         }
-        // What the engine makes to read it, and can't remove when it only reads.
+        // Reading makes the engine create these files, which it can't remove in read-only mode.
         std::error_code ignored;
         for (const char* const companion : {"-shm", "-wal"})
             fs::remove(database.string() + companion, ignored);

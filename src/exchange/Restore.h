@@ -22,29 +22,29 @@ struct RestoredFile {
 struct RestoreReport {
     std::filesystem::path folder;
     std::vector<RestoredFile> files;
-    /// Whether there is a database, and the faults that its check found.
+    /// Whether the container has a database, and the faults found in it.
     bool hasDatabase = false;
     std::vector<std::string> faults;
 
-    /// Every file of the container is there, and the database is sound.
+    /// Returns whether every file was restored and the database has no faults.
     bool IsWhole() const;
 };
 
 using RestoreListener = std::function<void(const RestoredFile& file)>;
 
-/// Returns the place of an entry, relative to the folder that is restored into: the database's own
-/// files directly in it, templates and attached files below "Documents" and "Files", with their
-/// whole former path. Empty for a path that would lead out of the folder or isn't valid.
+/// Returns the place of an entry, relative to the folder of the restore: directly in it for the
+/// database's own files; below "Documents" and "Files", with their whole former path, for templates
+/// and attached files. Empty for a path that is invalid or leads out of the folder.
 std::filesystem::path PlaceOf(const EntryHeader& header);
 
-/// Extracts the whole entries of a container into a folder, which is made and must not exist, or be
-/// empty; never over anything. Then checks the database. Window messages run in between. Throws an
-/// Error if nothing could be restored; a folder made here is removed again then.
+/// Extracts the whole entries of a container into a new or empty folder, never over existing files,
+/// then checks the database. Window messages are processed in between. Throws an Error if nothing
+/// could be restored; a folder created here is removed again then.
 RestoreReport RestoreContainer(const std::filesystem::path& container,
                                const std::filesystem::path& folder, RestoreScope scope,
                                const RestoreListener& listener);
 
-/// Returns the list of a container as CSV: a line of captions, then a line for each entry.
+/// Returns the contents of a container as CSV: a header line, then a line for each entry.
 std::string ListAsCsv(const std::vector<ContainerEntry>& entries);
 
 } // namespace exchange

@@ -11,7 +11,7 @@ namespace records {
 
 namespace {
 
-/// Each word that is looked for, and the one that is offered when it isn't found.
+/// Each type that is looked for, and the type that is offered if it isn't found.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 10> kOffers = {{
     {"Retail", "Retail"},
     {"Credit", "Credit"},

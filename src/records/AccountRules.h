@@ -6,7 +6,7 @@
 
 namespace records {
 
-/// What an account's display name is made of.
+/// The fields that an account's display name is built from.
 struct AccountName {
     std::string company;
     std::string lastName;
@@ -15,23 +15,23 @@ struct AccountName {
     bool showAsIndividual = false;
 };
 
-/// What is wrong with it, a line each.
+/// Returns the errors in an account's entries, a line each; empty if they can be saved.
 std::vector<std::string> AccountErrors(const AccountName& name);
 
-/// The name that lists show: the company, or the person ("Smith, Ann B") of an account without one
-/// and of one that is to be shown as an individual.
+/// Returns the name that lists show: the company, or the person's name ("Smith, Ann B") if there is
+/// no company or the account is to be shown as an individual.
 std::string ShowAs(const AccountName& name);
 
-/// The types that an account may be given, parted by commas: those in use, then those of the
-/// program's own that don't occur in them. Those of managers and owners are looked for under other
-/// words than they are offered by, and may come twice. Failures are thrown.
+/// Returns the types offered for an account, separated by commas: the types in use, then the
+/// program's own types that aren't in use. Manager and owner types are searched for under other
+/// words than they are offered under, so they may occur twice. Throws on failure.
 std::string OfferedAccountTypes();
 
-/// The same for types in use that are told.
+/// Returns the same list, given the types in use, separated by commas.
 std::string OfferedAccountTypes(std::string_view inUse);
 
-/// Whether an account of this type is a bank account or a card of the owner's own, whose number is
-/// nobody else's business.
+/// Returns whether an account of this type is the owner's own bank account or card, whose number is
+/// kept private.
 bool HasSecretNumber(std::string_view accountType);
 
 } // namespace records

@@ -11,34 +11,34 @@
 
 namespace records {
 
-/// The words that a unit's status and an association's payment are chosen from, parted by commas.
+/// The choices for a unit's status and for how often an association is paid, separated by commas.
 inline constexpr std::string_view kUnitStatuses = "Hold,Avaliable,Leased";
 inline constexpr std::string_view kHoaFrequencies = "Monthly,Quarterly,Annual";
 
-/// The years of depreciation that a new building proposes.
+/// The depreciation period proposed for a new building, in years.
 inline constexpr std::string_view kUsualDeprPeriod = "27.5";
 
-/// What is wrong with a building, a line each.
+/// Returns the errors in a building's entries, a line each; empty if they can be saved.
 std::vector<std::string> BuildingErrors(std::string_view address);
 
-/// The units of a building by their labels. Failures are thrown.
+/// Returns the units of a building, sorted by label. Throws on failure.
 std::vector<core::Choice> UnitsOf(std::int32_t idBuilding);
-/// Whether there are such a building and such a unit.
+/// Returns whether both the building and the unit are stored.
 bool AreStored(std::int32_t idBuilding, std::int32_t idUnit);
 
-/// Writes a new unit of a building, on hold and named "<new>", tells the screens and answers its
-/// id. Failures are thrown.
+/// Adds a unit to a building, on hold and named "<new>", broadcasts the change and returns the
+/// unit's id. Throws on failure.
 std::int32_t MakeNewUnit(std::int32_t idBuilding);
 
-/// What a building of this market value is worth without what its mortgages still owe.
+/// Returns the building's equity: its market value less what is still owed on its mortgages.
 platform::Currency EquityAt(platform::Currency marketValue, std::int32_t idBuilding);
 
-/// Why there is no depreciation schedule of this basis over so many years; nothing when there is.
+/// Returns why this basis can't be depreciated over so many years; empty if it can.
 std::optional<std::string> DepreciationFault(platform::Currency basis, double years);
 
-/// Says that a further unit needs a number, when the present one has none.
+/// Tells the user that the present unit needs a number before another is added, if it has none.
 void TellUnitNumberMissing(std::string_view unit);
-/// Asks whether a property of one unit is to become a building of several.
+/// Asks whether to turn a property of one unit into a building of several.
 bool AskToConvert();
 
 } // namespace records

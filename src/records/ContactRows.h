@@ -9,18 +9,19 @@
 
 namespace records {
 
-// Contacts hang from a record of any kind that has an id. Failures are thrown.
+// Contacts belong to a record of any kind that has an id. All of these throw on failure.
 
-/// The contacts of a record in the order of their description.
+/// Returns the contacts of a record, sorted by description.
 std::vector<core::Choice> ListContacts(const RelatedOwner& owner);
 
-/// Writes a new contact at once, and answers its id.
+/// Adds a contact and returns its id.
 std::int32_t AddContact(const RelatedOwner& owner);
 
-/// Opens a contact's row to write it; one that has gone comes back under its number.
+/// Opens a contact's row for writing; a contact deleted in the meantime is added again under its
+/// id.
 void OpenContact(platform::Recordset& row, std::int32_t idContact, const RelatedOwner& owner);
 
-/// Asks, and removes a contact; false when it stays.
+/// Deletes a contact after asking; returns false if the user declines.
 bool DeleteContact(std::int32_t idContact);
 
 } // namespace records

@@ -40,7 +40,7 @@ platform::Recordset OpenDeposits(DepositScope scope, const DepositPlace& place) 
     add(DepositScope::Global,
         "SELECT IdDeposit, Description, 'Global' AS [Type], Amount "
         "FROM Deposit WHERE (IdUnit = 0) AND (IdBuilding = 0) ");
-    // What isn't saved has the id 0, which here stands for every building or unit.
+    // A building or unit that isn't saved yet has the id 0, which a template stores for "every".
     if (place.idBuilding != 0) {
         add(DepositScope::Building,
             "SELECT IdDeposit, Description, 'Building' AS [Type], Amount "

@@ -9,18 +9,18 @@
 
 namespace records {
 
-// Deposit templates: what every new lease is charged, or one of a building, or one of a unit.
+// Deposit templates: the deposits charged to every new lease, or to those of a building or a unit.
 
-/// Which leases a template is for; All stands for any of them, in a list.
+/// The leases that a template applies to; All lists the templates of every scope.
 enum class DepositScope { All, Global, Building, Unit };
 
-/// The building and unit whose templates are listed; 0 for one that isn't saved.
+/// The building and unit whose templates are listed; 0 for one that isn't saved yet.
 struct DepositPlace {
     std::int32_t idBuilding = 0;
     std::int32_t idUnit = 0;
 };
 
-/// A template as its screen holds it.
+/// A template as entered on its screen.
 struct DepositEntry {
     DepositScope scope = DepositScope::Global;
     std::int32_t idBuilding = 0;
@@ -28,18 +28,18 @@ struct DepositEntry {
     std::string description;
 };
 
-/// What is wrong with it, a line each.
+/// Returns the errors in the entries, a line each; empty if they can be saved.
 std::vector<std::string> DepositErrors(const DepositEntry& entry);
 
-/// Whom a stored template is for.
+/// Returns the scope of a stored template.
 DepositScope ScopeOf(std::int32_t idBuilding, std::int32_t idUnit);
 
-/// The templates of a scope by their description: id, description, the scope's word, amount. They
-/// aren't open when that fails.
+/// Returns the templates of a scope, sorted by description: id, description, scope, amount. The row
+/// set isn't open if the read fails.
 platform::Recordset OpenDeposits(DepositScope scope, const DepositPlace& place);
 
-/// Deletes a template after asking, if the person is to be asked, and tells the screens; false when
-/// the answer is No. Failures are thrown.
+/// Deletes a template and broadcasts the change, after asking if ConfirmDelete is on. Returns false
+/// if the user declines. Throws on failure.
 bool DeleteDeposit(std::int32_t idDeposit);
 
 } // namespace records

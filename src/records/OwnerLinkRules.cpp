@@ -12,7 +12,7 @@ namespace records {
 
 namespace {
 
-/// A text that is no number counts as 0, one past all numbers as too many.
+/// Text that isn't a number counts as 0, and a number that doesn't fit as infinity.
 double PercentOf(const std::string& text) {
     try {
         return platform::TryParseNumber(text).value_or(0);
@@ -50,7 +50,7 @@ std::vector<std::string> OwnerErrors(const OwnerEntry& entry) {
     std::vector<std::string> lines;
     if (entry.idBuilding == 0) lines.emplace_back("A building must be selected.");
     if (entry.idAccount == 0) lines.emplace_back("An owner must be selected.");
-    // Said so that what isn't a number at all is outside too.
+    // Written as a negation so that NaN is out of range too.
     const double percent = PercentOf(entry.percent);
     const bool isShare = percent >= 1 && percent <= 100;
     if (!isShare) {

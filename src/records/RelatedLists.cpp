@@ -117,8 +117,8 @@ std::span<const RelatedList> ListsOf(std::int16_t ownerKind) {
     return found == std::end(kOwners) ? std::span<const RelatedList>() : found->lists;
 }
 
-/// The statement with its dates as they are stored: one text that isn't a date makes DateValue fail
-/// for the whole list.
+/// Returns the statement with its dates read as stored text: DateValue would fail the whole list
+/// for one value that isn't a date.
 std::string WithDatesAsText(std::string_view sql) {
     static const std::regex kDateValue(R"(DateValue\(([^()]*)\))");
     return std::regex_replace(std::string(sql), kDateValue, "$1");

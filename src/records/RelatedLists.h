@@ -9,7 +9,7 @@
 
 namespace records {
 
-/// A record that others belong to.
+/// A record that other records belong to.
 struct RelatedOwner {
     std::int16_t kind = 0;
     std::int32_t id = 0; ///< 0 while it isn't saved
@@ -17,7 +17,7 @@ struct RelatedOwner {
     friend bool operator==(const RelatedOwner&, const RelatedOwner&) = default;
 };
 
-/// One list of the records that belong to another.
+/// One list of the records that belong to an owner.
 struct RelatedList {
     std::string_view caption;
     std::string_view gridKey;            ///< the name that its column widths are kept under
@@ -29,15 +29,16 @@ struct RelatedList {
 /// Shown for an owner without lists.
 inline constexpr std::string_view kNoDbType = "No DB type selected";
 
-/// The lists that a building or a unit shows in tabs, in their order; none for another kind.
+/// Returns the lists that a building or a unit shows as tabs, in order; empty for other kinds.
 std::span<const RelatedList> TabbedLists(std::int16_t ownerKind);
-/// The one list of a tenant, a work order or an appliance; null for another kind.
+/// Returns the list of a tenant, a work order or an appliance; null for other kinds.
 const RelatedList* SingleList(std::int16_t ownerKind);
 
 /// Reads a list. Throws DatabaseError if it can't be read.
 platform::Recordset OpenRelated(const RelatedList& list, const RelatedOwner& owner);
 
-/// How a record of the list is opened: an existing one, or with id 0 a new one of this owner.
+/// Returns the request that opens a record of the list: an existing one, or with id 0 a new one
+/// that belongs to the owner.
 core::EditRequest RelatedRequest(const RelatedList& list, const RelatedOwner& owner,
                                  std::int32_t id);
 

@@ -6,17 +6,18 @@
 
 namespace records {
 
-/// The words that a tenant's status is chosen from, parted by commas; the first is a new one's.
+/// The choices for a tenant's status, separated by commas; a new tenant starts with the first.
 inline constexpr std::string_view kTenantStatuses = "Pending,Approved,Rejected,Current,Archived";
 
-/// How grave an incident is, parted by commas; the first is a new one's.
+/// The choices for an incident's severity, separated by commas; a new incident starts with the
+/// first.
 inline constexpr std::string_view kSeverities =
     "0 - Informational,1 - Caution,2 - Warning,3 - Critical";
 
-/// What is wrong with a tenant, a line each.
+/// Returns the errors in a tenant's entries, a line each; empty if they can be saved.
 std::vector<std::string> TenantErrors(std::string_view lastName);
 
-/// What is wrong with an incident, a line each.
+/// Returns the errors in an incident's entries, a line each; empty if they can be saved.
 std::vector<std::string> IncidentErrors(std::string_view description);
 
 } // namespace records

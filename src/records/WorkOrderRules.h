@@ -9,16 +9,16 @@
 
 namespace records {
 
-/// The words that a work order's status is chosen from, parted by commas; the first is a new one's.
+/// The choices for a work order's status, separated by commas; a new order starts with the first.
 inline constexpr std::string_view kWorkOrderStatuses = "Open,Vendor,Completed,Closed";
 
-// What is wrong with what was entered, a line each.
+// The errors in the entries, a line each; empty if they can be saved.
 
 std::vector<std::string> WorkOrderErrors(std::string_view shortDesc);
-/// Of an entry of a work order's history.
+/// Checks an entry of a work order's history.
 std::vector<std::string> HistoryErrors(std::string_view description);
 
-/// Offers the owners of the building that a unit stands in, for FillChoices' selection.
+/// Fills a list with the owners of the unit's building; selects as FillChoices does.
 void FillOwnersOfUnit(core::ChoiceList& list, std::int32_t idUnit, std::int32_t selectedId = 0);
 
 } // namespace records

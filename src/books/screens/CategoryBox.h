@@ -6,20 +6,20 @@ class QComboBox;
 
 namespace books::screens {
 
-// The box of categories: "No Category Selected", then those of the books; each item carries its
-// class. None of these makes the box tell of a change.
+// The category box: "No Category Selected", then the categories of the books, each item with its
+// class. None of these emits the box's change signals.
 
-/// Fills it; nothing is selected but the words.
+/// Fills the box and selects "No Category Selected".
 void FillCategories(QComboBox& box);
-/// Fills the box of an event's trigger, which offers the payments' categories besides.
+/// Fills the box of an event's trigger, which also offers the categories of payments.
 void FillTriggerCategories(QComboBox& box);
-/// Fills it again; the selected category stays selected, offered or not.
+/// Fills the box again; the selected category stays selected, whether or not it is still offered.
 void RefreshCategories(QComboBox& box);
 void RefreshTriggerCategories(QComboBox& box);
 
-/// Puts a category before all others, and selects it.
+/// Inserts a category before all others and selects it.
 void PresetCategory(QComboBox& box, const Category& category);
-/// Selects the category of a row, which joins the list if it isn't offered.
+/// Selects the category of a row; adds it to the list if it isn't offered.
 void ShowCategory(QComboBox& box, const Category& category);
 
 Category ChosenCategory(const QComboBox& box);

@@ -11,16 +11,16 @@ class QRadioButton;
 
 namespace books::screens {
 
-/// The transactions of an account, a tenant or a unit, newest first, with what adds, opens and
-/// deletes them. It keeps itself current.
+/// The transactions of an account, a tenant or a unit, newest first, with buttons to add, open and
+/// delete them. It refreshes itself.
 class General_Ledger : public core::grid::RecordList {
     Q_OBJECT
 
   public:
     explicit General_Ledger(QWidget* parent = nullptr);
 
-    /// Whose transactions: an account, a tenant or a unit with its building. Nothing can be done
-    /// here while the id is 0.
+    /// Sets whose transactions to show: an account, a tenant or a unit with its building. The panel
+    /// is disabled while the id is 0.
     void SetParty(std::int16_t dbType, std::int32_t id, std::int32_t idBuilding = 0);
     void Refresh();
 

@@ -1,4 +1,4 @@
-// The list of the mileage log, its filter, and the wiring of the form.
+// The mileage log's list and filter, and the connections of the form.
 
 #include <QMenuBar>
 #include <QScopedValueRollback>
@@ -35,7 +35,7 @@ constexpr int kFirstShown = 1;
 constexpr int kMileage = 5;
 constexpr int kMeal = 8;
 
-/// The list changes, the text that was entered stays.
+/// Replaces the list and keeps the entered text.
 void Offer(QComboBox& combo, core::ChoiceList list) {
     list.SetText(FromScreen(combo.currentText()));
     core::binding::ShowInCombo(list, combo);
@@ -109,7 +109,7 @@ void frmMileage::ConnectOdometer() {
     typed(ui_->txtOBegin, &Odometer::TypeBegin);
     typed(ui_->txtOEnd, &Odometer::TypeEnd);
     typed(ui_->txtMileage, &Odometer::TypeDistance);
-    // Not while a stored trip is shown: its readings must not move.
+    // Not while a stored trip is shown, whose readings must not change.
     connect(ui_->cboVehicle, &QComboBox::currentIndexChanged, this, [this] {
         if (!Loading() && !filling_) Guarded([this] { VehicleChosen(); });
     });
@@ -150,7 +150,7 @@ void frmMileage::Refresh(std::int16_t kind) {
     FillFilterItems();
 }
 
-/// What was chosen stays chosen while it is offered.
+/// The choice stays selected while it is still offered.
 void frmMileage::FillFilterItems() {
     const QScopedValueRollback filling(filling_, true);
     const std::int32_t id = GetSelectedId(*ui_->cboFilterItem);

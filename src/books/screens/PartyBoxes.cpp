@@ -24,8 +24,8 @@ PartyBoxes::PartyBoxes(QComboBox& type, QComboBox& party, Nobody nobody, QObject
     connect(&type_, &QComboBox::currentIndexChanged, this, [this] { Fill(0); });
 }
 
-/// A typed name that happens to be a later record's is still only a name: neither may the box
-/// complete it, nor look it up when it is left.
+/// A typed name that happens to equal a later record's is still only a name: the box must neither
+/// complete it nor look it up when it loses the focus.
 void PartyBoxes::LetNamesStand() {
     if (!party_.isEditable()) return;
     party_.setInsertPolicy(QComboBox::NoInsert);
@@ -39,7 +39,7 @@ void PartyBoxes::Show(std::int16_t type, std::int32_t id) {
 }
 
 void PartyBoxes::ShowStored(std::int32_t id) {
-    // A list selects its first row where it selects nothing: nobody, when that is offered.
+    // A list without a selection selects its first row, which is "nobody" if that is offered.
     party_.setCurrentIndex(-1);
     Fill(id);
 }
@@ -57,14 +57,14 @@ void PartyBoxes::Refresh(std::int16_t kind) {
     const core::ChoiceList before = ReadCombo(party_);
     FillList(kind, party_, {.addNone = nobody_ == Nobody::Offered});
     if (!party_.isEditable()) return;
-    // A name that nobody in the list stands for, or stands for any more, remains a name.
+    // A name that doesn't, or no longer, belong to a record in the list stays a name.
     core::ChoiceList list = ReadCombo(party_);
     if (before.Selected() && core::GetSelectedId(list) == core::GetSelectedId(before)) return;
     list.SetText(before.Text());
     core::binding::ShowInCombo(list, party_);
 }
 
-/// As far as the list can be filled.
+/// Fills as much of the list as can be read.
 void PartyBoxes::Fill(std::int32_t id) {
     core::forms::Guarded([&] {
         FillList(Type(), party_, {.selectedId = id, .addNone = nobody_ == Nobody::Offered});

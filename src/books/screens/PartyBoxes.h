@@ -9,24 +9,24 @@ class QComboBox;
 
 namespace books::screens {
 
-/// Whether the boxes offer a row for nobody.
+/// Whether the boxes offer a row for no party.
 enum class Nobody { NotOffered, Offered };
 
-/// The two boxes that name one side of a transaction: what kind of party it is, and who. The second
-/// offers the records of the kind; where it can be typed in, any name will do.
+/// The two boxes for a party of a transaction: its kind, and the party. The second offers the
+/// records of the kind; if it can be typed in, any name will do.
 class PartyBoxes : public QObject {
     Q_OBJECT
 
   public:
     PartyBoxes(QComboBox& type, QComboBox& party, Nobody nobody, QObject* parent);
 
-    /// Fills both for a kind and a record of it; the first row for id 0.
+    /// Fills both boxes for a kind and a record of it; selects the first row for id 0.
     void Show(std::int16_t type, std::int32_t id);
-    /// Fills the second for the kind that the first shows now, as the row has it: a record.
+    /// Fills the second box for the kind shown in the first, and selects a stored row's record.
     void ShowStored(std::int32_t id);
-    /// The same for a party that may be only a name.
+    /// The same for a party that may be a mere name.
     void ShowStored(std::int32_t id, std::string_view name);
-    /// Records of a kind changed: who is named stays named.
+    /// Refills the boxes after records of a kind changed; the party stays selected.
     void Refresh(std::int16_t kind);
 
     std::int16_t Type() const;

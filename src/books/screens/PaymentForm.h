@@ -17,8 +17,8 @@ class DateEdit;
 
 namespace books::screens {
 
-/// The screen of a payment that settles charges of a ledger, new or stored. A derived screen adds
-/// its list of charges, and what its kind of payment has besides.
+/// The screen of a new or stored payment that settles charges of a ledger. A derived screen adds
+/// its list of charges and the parts particular to its kind of payment.
 class PaymentForm : public core::forms::EntryForm {
     Q_OBJECT
 
@@ -28,28 +28,28 @@ class PaymentForm : public core::forms::EntryForm {
   protected:
     explicit PaymentForm(QWidget* parent = nullptr);
 
-    /// Connects what setupUi made; the boxes have the same names on every such screen. The menu bar
-    /// ends with the charges, whose menu is the list's context menu too.
+    /// Connects the controls created by setupUi, which have the same names on every such screen.
+    /// The charges' menu comes last in the menu bar and is also the list's context menu.
     void WirePayment(QAbstractItemView& charges, QMenu* before = nullptr);
     QMenu& ChargeMenu() { return *chargeMenu_; }
-    /// Adds an item to a menu; what it throws is shown.
+    /// Adds an item to a menu; errors of its command are shown.
     QAction* AddItem(QMenu& menu, const char* name, const QString& text,
                      const std::function<void()>& work);
 
     /// Reads the payment and shows it; the screen doesn't open if `read` throws.
     void OpenPayment(std::int32_t idTransaction, const std::function<void()>& read);
-    /// Shows all of the payment.
+    /// Shows the whole payment.
     virtual void ShowPayment() = 0;
     /// Fills the lists of payers and receivers.
     virtual void FillParties() = 0;
 
-    /// Shows the entries that all payments have; the payment may have one of these types.
+    /// Shows the entries that all payments have; `types` are the categories to choose from.
     void ShowEntries(const Payment& payment, const std::vector<std::string>& types);
-    /// Reads them back. The kind of the payer stays.
+    /// Reads the entries back. The kind of the payer doesn't change.
     void ReadEntries(Payment& payment) const;
     /// Reads the receiver.
     void ReadReceiver(Payment& payment) const;
-    /// Lists the records of a kind; a name that was typed stays, and nobody is chosen for it.
+    /// Lists the records of a kind; a typed name stays a mere name.
     static void FillParty(int kind, QComboBox& combo);
 
   private:

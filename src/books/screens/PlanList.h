@@ -11,8 +11,8 @@ class QTreeWidgetItem;
 
 namespace books::screens {
 
-/// A list with boxes below it, from which rows are added, changed and deleted. A derived list has
-/// the rows and says what of them shows where.
+/// A list with boxes below it, for adding, changing and deleting rows. A derived list holds the
+/// rows and provides their texts.
 class PlanList : public QWidget {
     Q_OBJECT
 
@@ -20,28 +20,28 @@ class PlanList : public QWidget {
     using QWidget::QWidget;
 
   Q_SIGNALS:
-    /// The user changed a row, or which rows there are.
+    /// Emitted when the user changed, added or deleted a row.
     void Changed();
 
   protected:
-    /// `add` may be null. The column `wide` takes the room that the others leave.
+    /// `add` may be null. The column `wide` takes the remaining width.
     void Connect(QTreeWidget& list, int wide, QPushButton* add, QPushButton& update,
                  QPushButton& remove);
-    /// Fills the list and selects a row, the nearest one if there are fewer.
+    /// Fills the list and selects a row, the last one if there are fewer.
     void ShowRows(int select);
-    /// The selected row, -1 for none.
+    /// Returns the selected row, -1 if none is.
     int Row() const;
 
     virtual int Count() const = 0;
     virtual QStringList Cells(int row) const = 0;
-    /// Whether a row is ticked; nothing for rows without a box.
+    /// Returns whether a row is ticked; nothing for rows without a check box.
     virtual std::optional<bool> IsTicked(int row) const = 0;
     virtual void Tick(int row, bool isOn) = 0;
     /// Shows a row in the boxes.
     virtual void ShowBoxes(int row) = 0;
-    /// What is wrong with the boxes, a line each. The row of a new one is Count().
+    /// Returns the errors in the boxes, a line each. For a new row, `row` is Count().
     virtual std::vector<std::string> Errors(int row) const = 0;
-    /// Writes the boxes to a row; Count() adds one.
+    /// Writes the boxes to a row; adds a row for Count().
     virtual void Store(int row) = 0;
     virtual void Remove(int row) = 0;
 

@@ -43,7 +43,7 @@ class VehiclesPage : public PlanList {
     std::vector<PlanVehicle> vehicles_;
 };
 
-/// The buildings of a plan with their distances, and how far trips may be from them.
+/// The buildings of a plan with their distances, and how far the length of a trip may vary.
 class BuildingsPage : public PlanList {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ class BuildingsPage : public PlanList {
     void Show(std::vector<PlanBuilding> buildings);
     const std::vector<PlanBuilding>& Buildings() const { return buildings_; }
     double Variance() const;
-    /// Offers the buildings of the books.
+    /// Fills the box of buildings.
     void FillChoices();
 
   protected:
@@ -74,7 +74,7 @@ class BuildingsPage : public PlanList {
     std::vector<PlanBuilding> buildings_;
 };
 
-/// The trips that were made up, to be looked at and changed before they are submitted.
+/// The reconstructed trips, to be checked and changed before they are submitted.
 class TripsPage : public PlanList {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ class TripsPage : public PlanList {
     explicit TripsPage(QWidget* parent);
     ~TripsPage() override;
 
-    /// `leftOut` is the number of transactions that no trip was made up for.
+    /// `leftOut` is the number of transactions without a trip.
     void Show(const TripPlan& plan, std::vector<PlannedTrip> trips, std::size_t leftOut);
     const std::vector<PlannedTrip>& Planned() const { return trips_; }
 

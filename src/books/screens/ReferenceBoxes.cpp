@@ -30,7 +30,7 @@ ReferenceBoxes::ReferenceBoxes(const Boxes& boxes, QObject* parent)
 
 void ReferenceBoxes::Fill(const References& chosen) {
     for (const Box& box : all_) {
-        // A list that can't be filled to its end is no reason to leave the others empty.
+        // A list that can't be read doesn't keep the others from being filled.
         Guarded([&] {
             FillList(box.kind, *box.combo, {.selectedId = chosen.*box.id, .addNone = true});
         });
@@ -78,7 +78,7 @@ void ReferenceBoxes::MortgageChosen() {
     Select(*boxes_.building, core::GetMortgageBuilding(idMortgage));
 }
 
-/// One that isn't offered is nothing.
+/// A record that isn't offered selects nothing.
 void ReferenceBoxes::Select(QComboBox& combo, std::int32_t id) {
     core::binding::SelectById(combo, id, {.selectFirst = true});
 }

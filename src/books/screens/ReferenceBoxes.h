@@ -10,8 +10,8 @@ class QComboBox;
 
 namespace books::screens {
 
-/// The six boxes that name them. Choosing a lease chooses its tenant, unit and building; a unit
-/// chooses its building, which can't be chosen then; a mortgage chooses its building.
+/// The six boxes of a transaction's references. Choosing a lease also chooses its tenant, unit and
+/// building; a unit chooses its building, which is then disabled; a mortgage chooses its building.
 class ReferenceBoxes : public QObject {
     Q_OBJECT
 
@@ -28,9 +28,9 @@ class ReferenceBoxes : public QObject {
     ReferenceBoxes(const Boxes& boxes, QObject* parent);
 
     void Fill(const References& chosen);
-    /// Records of a kind changed: what is chosen stays so.
+    /// Refills the boxes after records of a kind changed; the choices stay.
     void Refresh(std::int16_t kind);
-    /// The building can be chosen only while no unit is. To be called when code changed a box.
+    /// Enables the building only while no unit is chosen. Called after code has changed a box.
     void ShowAvailable();
 
     References Chosen() const;

@@ -85,7 +85,7 @@ void frmAutoEvent::FillLists() {
 }
 
 void frmAutoEvent::ShowRow(Recordset& row) {
-    // The categories first, so that one that isn't offered joins its list with its class.
+    // The categories are shown first, so that one that isn't offered is added with its class.
     const Ien ien{CountOf(row["IEN"])};
     if (!row["TaxCategory"].IsNull()) {
         ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), ien});
@@ -114,7 +114,7 @@ void frmAutoEvent::WriteRow(Recordset& row) {
     if (WritesNewRow() || IsTouched(*ui_->cboCategory))
         row["IEN"].Set(static_cast<std::int16_t>(ChosenCategory(*ui_->cboCategory).ien));
     if (Type() != EventType::Scheduled) return;
-    // A screen that has its record's tag edits a stored event.
+    // A screen with its record's id as tag edits a stored event.
     const bool isNew = OpenRecordId() == 0;
     if (isNew || StartsAgain()) {
         const platform::Date seed = SeedOf(Schedule(), platform::Today());

@@ -16,7 +16,7 @@ class frmAutoEvent;
 
 namespace books::screens {
 
-/// An event that runs by itself: what starts it, and what it does.
+/// An automated event: what starts it and what it does.
 class frmAutoEvent : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -39,7 +39,7 @@ class frmAutoEvent : public core::forms::RecordForm {
     void ShowAvailable();
     EventType Type() const;
     EventSchedule Schedule() const;
-    /// The interval of a stored event was changed: it starts again like a new one.
+    /// Returns whether the interval of a stored event was changed: it starts again like a new one.
     bool StartsAgain() const;
     void ShowLastRun();
 
@@ -48,7 +48,7 @@ class frmAutoEvent : public core::forms::RecordForm {
     std::unique_ptr<PartyBoxes> from_;
     std::unique_ptr<PartyBoxes> to_;
     std::unique_ptr<ReferenceBoxes> references_;
-    /// The schedule as it was read, nothing for a new event and for a triggered one.
+    /// The schedule as it was read; empty for a new event and for a triggered one.
     std::optional<EventSchedule> stored_;
     QString lastRun_;
 };

@@ -11,7 +11,7 @@ class frmAutoEventList;
 
 namespace books::screens {
 
-/// All events that run by themselves.
+/// The list of all automated events.
 class frmAutoEventList : public core::forms::Form {
     Q_OBJECT
 

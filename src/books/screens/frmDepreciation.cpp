@@ -42,7 +42,8 @@ constexpr std::array<ChartType, 10> kChartTypes = {{
 }};
 constexpr int kFlatBars = 1;
 
-/// Amounts end at the right; the narrow columns beside them are centred, so as not to touch them.
+/// Amounts are right-aligned; the narrow columns next to them are centred so that the texts don't
+/// touch.
 Qt::Alignment AlignmentOf(int column) {
     constexpr int kFirstAmount = 2;
     constexpr int kMethod = 5;
@@ -130,7 +131,7 @@ void frmDepreciation::ShowChart() {
 }
 
 void frmDepreciation::CopyClip() const {
-    // Cells and lines as spreadsheets take them from the clipboard.
+    // In the cells and lines that spreadsheets read from the clipboard.
     QString text = ToScreen(depreciation_.GetClip());
     QApplication::clipboard()->setText(text.replace(u'|', u'\t').replace(u';', u'\n'));
 }

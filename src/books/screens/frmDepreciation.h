@@ -21,15 +21,15 @@ class frmDepreciation : public core::forms::Form {
     explicit frmDepreciation(QWidget* parent = nullptr);
     ~frmDepreciation() override;
 
-    /// Shows the schedule of a building. Throws an Error for a start date that is not a valid date
-    /// and for a basis too large for money; the form then doesn't open.
+    /// Shows the schedule of a building. Throws an Error if the start date isn't valid or the basis
+    /// is too large for money; the form then doesn't open.
     void Setup(std::int32_t id, std::string_view description, double basis,
                std::string_view startDate, std::string_view method, double life);
 
-    /// The building whose schedule is shown.
+    /// Returns the building whose schedule is shown.
     std::int32_t BuildingId() const { return idBuilding_; }
 
-    /// Brings the schedule of this building to the front; false if none is open.
+    /// Brings the schedule of this building to the front; returns false if it isn't open.
     static bool BringToFront(std::int32_t id);
 
   private:

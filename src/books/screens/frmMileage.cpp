@@ -71,13 +71,13 @@ void frmMileage::Store() {
 
 void frmMileage::WriteRow(platform::Recordset& row) {
     RecordForm::WriteRow(row);
-    // The three go together, whichever of them was changed elsewhere.
+    // The three fields are saved together, since they depend on each other.
     if (IsTouched(*ui_->txtOBegin) || IsTouched(*ui_->txtOEnd) || IsTouched(*ui_->txtMileage)) {
         row["OBegin"].Set(odometer_.Begin());
         row["OEnd"].Set(odometer_.End());
         row["Mileage"].Set(odometer_.Distance().value_or(0));
     }
-    // One that comes back after it was deleted keeps what it had.
+    // A restored trip keeps these fields.
     if (isNew_) SetNewTripFields(row);
 }
 
@@ -100,7 +100,7 @@ std::vector<std::string> frmMileage::Errors() {
     return lines;
 }
 
-/// A new trip starts today, with the usual vehicle, where that one stands.
+/// Proposes a trip today with the usual vehicle, starting at its last reading.
 void frmMileage::Propose() {
     beginTyped_ = false;
     const std::string vehicle = core::GetDefaultCar();
@@ -146,7 +146,7 @@ bool frmMileage::MayLeaveTrip() {
     return !Dirty() || MayClose();
 }
 
-/// Adds what the boxes hold as a trip of its own; the selected one stays as it was.
+/// Adds the entries as a new trip; the selected one stays unchanged.
 void frmMileage::Add() {
     if (!Dirty()) return;
     if (Id() != 0) {
@@ -167,7 +167,7 @@ void frmMileage::NewTrip() {
     ui_->dpEntryDate->setFocus();
 }
 
-/// The same trip again, today and from where the vehicle stands.
+/// Proposes the same trip for today, starting at the vehicle's last reading.
 void frmMileage::CopyTrip() {
     if (Id() == 0 || !MayLeaveTrip()) return;
     const double miles = MilesIn(*ui_->txtMileage);

@@ -16,7 +16,7 @@ class frmMileage;
 
 namespace books::screens {
 
-/// The mileage log: the trips of a period, and the boxes of the selected one or of a new one.
+/// The mileage log: the trips of a period, and the entries of the selected or a new trip.
 class frmMileage : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ class frmMileage : public core::forms::RecordForm {
     explicit frmMileage(QWidget* parent = nullptr);
     ~frmMileage() override;
 
-    /// Opens on a trip, or on a new one.
+    /// Opens a trip, or a new one for id 0.
     void Setup(std::int32_t id = 0);
 
   protected:

@@ -103,7 +103,7 @@ void frmMileageWiz::Setup() {
     Begin();
 }
 
-/// A day that is still being typed is no reason to read the lists.
+/// The lists aren't read for a date that is still being typed.
 void frmMileageWiz::PeriodTyped() {
     const auto from = period_->dpStart->Day();
     const auto to = period_->dpEnd->Day();
@@ -117,7 +117,7 @@ void frmMileageWiz::PeriodTyped() {
 void frmMileageWiz::Init() {
     const Date from = period_->dpStart->Day().value_or(Date());
     const Date to = period_->dpEnd->Day().value_or(Date());
-    // A period that ends before it begins is refused when the page is left.
+    // A period that ends before it begins is refused when the user leaves the page.
     if (!from.IsSet() || !to.IsSet() || to < from) return;
     FillCategories(PlanCategories(from, to));
 
@@ -140,7 +140,7 @@ void frmMileageWiz::Init() {
     to_ = to;
 }
 
-/// All are ticked at first; what the user unticked stays so.
+/// All are ticked at first; those that the user unticked stay so.
 void frmMileageWiz::FillCategories(const std::vector<std::string>& categories) {
     QStringList unticked;
     QListWidget& list = *period_->lstCategories;
@@ -190,7 +190,7 @@ std::vector<std::string> frmMileageWiz::StepErrors(int step) {
 }
 
 void frmMileageWiz::ShowStep(int step) {
-    // Changes by hand stay while nothing of the plan is changed.
+    // Manual changes are kept as long as nothing in the plan changes.
     if (Page{step} == Page::Preview && !(hasPreview_ && shown_ == Plan())) Preview();
 }
 

@@ -22,7 +22,8 @@ class frmMileageWiz : public core::forms::frmWizard {
     Q_OBJECT
 
   public:
-    /// Without a seed the chance is seeded from the clock, so that two wizards give different logs.
+    /// Without a seed the random numbers are seeded from the clock, so that two wizards give
+    /// different logs.
     explicit frmMileageWiz(QWidget* parent = nullptr, std::optional<std::uint32_t> seed = {});
     ~frmMileageWiz() override;
 
@@ -39,7 +40,7 @@ class frmMileageWiz : public core::forms::frmWizard {
   private:
     void MakeSteps();
     void Connect();
-    /// Reads the lists of the period; what the user set for a row that stays is kept.
+    /// Reads the lists of the period; the user's settings of rows that stay are kept.
     void Init();
     void FillCategories(const std::vector<std::string>& categories);
     void PeriodTyped();
@@ -52,7 +53,7 @@ class frmMileageWiz : public core::forms::frmWizard {
     BuildingsPage* buildings_ = nullptr;
     TripsPage* trips_ = nullptr;
     SeededChance chance_;
-    /// The period that the lists were read for.
+    /// The period for which the lists were read.
     platform::Date from_;
     platform::Date to_;
     TripPlan shown_; ///< what the preview was made from

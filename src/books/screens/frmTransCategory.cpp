@@ -35,7 +35,7 @@ frmTransCategory::frmTransCategory(QWidget* parent)
     connect(ui_->cmdRemove, &QPushButton::clicked, this, &frmTransCategory::Remove);
     ui_->cmdAction->Apply().hide();
     ui_->cmdAction->Cancel().hide();
-    // Enter belongs to nobody: it can't know which of the three lists a new name is meant for.
+    // No button is the default: Enter can't know which of the three lists a new name is meant for.
     for (QPushButton* const button : findChildren<QPushButton*>())
         button->setAutoDefault(false);
     ui_->cmdAction->Close().setDefault(false);
@@ -66,7 +66,7 @@ void frmTransCategory::Fill() {
     current_ = nullptr;
 }
 
-/// One item at a time is the one that Remove is about, and shows as it.
+/// Only one list has a selected item: the one that Remove deletes.
 void frmTransCategory::ListChosen(QListWidget& list) {
     current_ = &list;
     for (const Column& column : columns_) {

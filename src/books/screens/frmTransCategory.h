@@ -16,7 +16,7 @@ class frmTransCategory;
 
 namespace books::screens {
 
-/// The categories of transactions, a list for each class, with what adds and removes them.
+/// The categories of transactions, a list for each class, with buttons to add and remove them.
 class frmTransCategory : public core::forms::Form {
     Q_OBJECT
 

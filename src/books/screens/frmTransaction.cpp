@@ -63,7 +63,7 @@ void frmTransaction::FillNew(const TransactionSetup& setup) {
     if (setup.idTransaction == 0 && setup.idTemplate != 0) ShowTemplate(setup.idTemplate);
 }
 
-/// The copy is of today, and becomes a row of its own.
+/// The copy is dated today and becomes a new row.
 void frmTransaction::ShowTemplate(std::int32_t idTemplate) {
     Recordset row = core::Read("SELECT * FROM Transactions WHERE IdTransaction = ?", {idTemplate});
     if (row.Eof()) return;
@@ -80,7 +80,7 @@ void frmTransaction::ShowRow(Recordset& row) {
 }
 
 void frmTransaction::ShowFields(Recordset& row) {
-    // First, so that a category that isn't offered joins its list with its class.
+    // Shown first, so that a category that isn't offered is added to the list with its class.
     if (!row["TaxCategory"].IsNull()) {
         ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), Ien{CountOf(row["IEN"])}});
     }

@@ -16,8 +16,8 @@ class frmTransaction;
 
 namespace books::screens {
 
-/// What the transaction screen opens with. All but the first and the last two matters only to a new
-/// row.
+/// The start of the transaction screen. All but the first and the last two members matter only for
+/// a new row.
 struct TransactionSetup {
     std::int32_t idTransaction = 0;
     std::int16_t fromType = core::kAccount;
@@ -26,7 +26,7 @@ struct TransactionSetup {
     std::int32_t toId = 0;
     /// The To box starts empty, so that nobody is paid whom the user didn't choose.
     bool toIsToBeChosen = false;
-    /// Text, "|", class: "Deposit Refund|2". Empty for none.
+    /// Text, "|", class: "Deposit Refund|2". May be empty.
     std::string category;
     platform::Currency amount;
     std::string description;
@@ -37,7 +37,7 @@ struct TransactionSetup {
     std::int16_t flags = 0;
 };
 
-/// A movement of money.
+/// The screen of one transaction.
 class frmTransaction : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -46,8 +46,8 @@ class frmTransaction : public core::forms::RecordForm {
     ~frmTransaction() override;
 
     void Setup(const TransactionSetup& setup);
-    /// The same, and waits until the screen is closed; the caller, who owns the screen, then asks
-    /// what became of it.
+    /// The same, but waits until the screen is closed; the caller owns the screen and can then read
+    /// the result.
     void SetupModal(const TransactionSetup& setup);
 
     /// False once a save succeeded.

@@ -14,7 +14,7 @@ namespace core::binding {
 
 namespace {
 
-/// What such a widget is made of is its own affair.
+/// The parts inside such a widget are its own business.
 bool IsWhole(const QWidget& widget) {
     return widget.property("panel").toBool() || qobject_cast<const QComboBox*>(&widget) ||
            qobject_cast<const QAbstractSpinBox*>(&widget) ||

@@ -8,25 +8,25 @@
 
 namespace core::binding {
 
-/// What becomes of a control whose field the row set doesn't have.
+/// What to do with a control whose field isn't in the row set.
 enum class CheckFields {
     No, ///< a FieldError
     Yes ///< it is passed over
 };
 
-/// The controls inside `form` that are its own, in the order they were made. The inside of a panel
-/// (a child with the property "panel" set) belongs to the panel.
+/// Returns the controls of `form`, in creation order. Controls inside a panel (a child with the
+/// property "panel" set) belong to the panel.
 std::vector<QWidget*> ControlsOf(const QWidget& form);
 
 /// Shows the current row in the controls of `form` whose property "tag" names a field: a sigil,
-/// then the field, or table and field parted by a point where `table` chooses among them. A null
-/// leaves its control as it is.
+/// then the field, or table and field separated by a point, with only the fields of `table` shown
+/// if it is given. A null leaves its control unchanged.
 void BindFromRecord(QWidget& form, platform::Recordset& row, std::string_view table = {},
                     CheckFields check = CheckFields::No);
 
-/// Puts what the controls show into the current row; the caller updates it. Labels only show. What
-/// doesn't convert is thrown: a text that is no amount or no day, a number that the field can't
-/// hold.
+/// Copies the contents of the controls to the current row; the caller updates it. Labels are never
+/// written. Throws if a value doesn't convert: text that isn't a valid amount or date, or a number
+/// outside the field's range.
 void BindToRecord(const QWidget& form, platform::Recordset& row, std::string_view table = {},
                   CheckFields check = CheckFields::No);
 

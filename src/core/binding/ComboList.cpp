@@ -13,14 +13,14 @@ namespace core::binding {
 
 namespace {
 
-// What a list was filled with, so that a choice can be named later.
+// The kind a list was filled with, so that a choice can be named later.
 constexpr const char* kListKind = "listKind";
 constexpr const char* kListParent = "listParent";
 
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
-/// Selects what the list has selected, without touching the rows.
+/// Selects the list's selected row without touching the rows.
 void ShowSelection(const ChoiceList& list, QComboBox& combo) {
     const QSignalBlocker quiet(combo);
     combo.setCurrentIndex(list.Selected() ? static_cast<int>(*list.Selected()) : -1);
@@ -34,7 +34,7 @@ void ShowSelection(const ChoiceList& list, QComboBox& combo) {
     combo.setCurrentIndex(combo.count() - 1);
 }
 
-/// What a list is to be filled with.
+/// What to fill a list with.
 struct Filling {
     int kind = 0;
     std::int32_t parentId = 0;

@@ -28,7 +28,7 @@ using platform::Value;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
-/// Nothing if the control can't be typed in.
+/// Returns nothing if the control can't be typed in.
 std::optional<std::string> TextOf(const QWidget& control) {
     if (const auto* const line = qobject_cast<const QLineEdit*>(&control)) {
         return FromScreen(line->text());
@@ -103,8 +103,8 @@ Value ReadMoney(const std::string& text) {
     return {*amount};
 }
 
-/// The fraction in single precision, spelled by the fewest digits that name it: 7.5 becomes 0.075
-/// and not the double nearest to the single.
+/// Returns the fraction in single precision, in the fewest digits that identify it: 7.5 becomes
+/// 0.075, not the double nearest to the single.
 Value ReadPercent(const std::string& text) {
     const float fraction = platform::StrToSingle(text) / 100.0F;
     std::array<char, 32> digits{};
@@ -209,7 +209,7 @@ void ShowContent(QWidget& control, const QVariant& content) {
         const QSignalBlocker quiet(*combo);
         combo->setCurrentIndex(-1);
         if (combo->isEditable()) combo->clearEditText();
-        // A list without rows of identifiers has 0 in all of them.
+        // In a list without ids every row has id 0, so the text decides.
         SelectByText(*combo, FromScreen(parts[0].toString()));
         if (GetSelectedId(*combo) != parts[1].toInt()) SelectById(*combo, parts[1].toInt());
         return;

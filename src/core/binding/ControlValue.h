@@ -8,20 +8,19 @@
 
 namespace core::binding {
 
-/// Shows a value that isn't null in a control, in the form that the sigil asks for. A control that
-/// can't show it stays as it is.
+/// Shows a non-null value in a control, in the form that the sigil calls for. A control that can't
+/// show it stays unchanged.
 void ShowValue(QWidget& control, char sigil, const platform::Value& value);
 
-/// What the control holds, by its sigil; nothing for a label, for a control that has no value of
-/// that sort, and for an option button that isn't the chosen one.
+/// Returns the control's value by its sigil; nothing for a label, for a control that has no value
+/// of that type, and for an option button that isn't chosen.
 std::optional<platform::Value> ReadValue(const QWidget& control, char sigil);
 
-/// Lets a list offer a choice that isn't among its rows: a record by its name, any other code or
-/// text as it is. Nothing happens for other controls, for a blank choice and for one that is
-/// offered.
+/// Adds a choice that a list doesn't offer: a record by its name, any other code or text as it is.
+/// Does nothing for other controls, a blank choice or one that is offered.
 void OfferChoice(QWidget& control, char sigil, const platform::Value& value);
 
-/// Everything that a control holds, whether it can be read as a value or not, and back.
+/// Returns everything a control holds, whether or not it converts to a value, and restores it.
 QVariant ContentOf(const QWidget& control);
 void ShowContent(QWidget& control, const QVariant& content);
 

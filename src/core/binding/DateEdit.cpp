@@ -34,7 +34,7 @@ DateEdit::DateEdit(QWidget* parent) : QLineEdit(parent) {
     open_->setToolTip(tr("Pick a day (Alt+Down)"));
     open_->setText(tr("Pick a day"));
     connect(open_, &QAction::triggered, this, &DateEdit::ShowCalendar);
-    // A day that is being typed is no day yet: it is marked when the box is left.
+    // A half-typed date isn't valid yet, so it is marked only when the box loses the focus.
     connect(this, &QLineEdit::textChanged, this, [this] {
         const auto day = Day();
         if (day && day->IsSet()) last_ = *day;
@@ -107,7 +107,7 @@ void DateEdit::changeEvent(QEvent* event) {
     if (event->type() == QEvent::EnabledChange) open_->setEnabled(isEnabled());
 }
 
-/// Typed short forms ("3/7/24") are spelled out when the box is left.
+/// Typed short forms ("3/7/24") are spelled out when the box loses the focus.
 void DateEdit::Tidy() {
     const auto typed = Day();
     if (!typed) return;

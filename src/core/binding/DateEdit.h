@@ -9,8 +9,8 @@ class QCalendarWidget;
 
 namespace core::binding {
 
-/// A day, typed as mm/dd/yyyy or picked from a calendar; blank is no day. A text that is no day is
-/// kept as it was typed, and marked.
+/// A date, typed as mm/dd/yyyy or picked from a calendar; blank means no date. Text that isn't a
+/// valid date is kept as typed, and marked.
 class DateEdit : public QLineEdit {
     Q_OBJECT
     Q_PROPERTY(bool required READ IsRequired WRITE SetRequired)
@@ -18,18 +18,18 @@ class DateEdit : public QLineEdit {
   public:
     explicit DateEdit(QWidget* parent = nullptr);
 
-    /// A required date can't be left blank: the box goes back to the last date it held.
+    /// A required date can't be left blank: the box goes back to its last date.
     bool IsRequired() const { return required_; }
     void SetRequired(bool required) { required_ = required; }
 
-    /// The day shown, unset for a blank box; nothing when the text is no day.
+    /// Returns the date shown: unset for a blank box, nothing if the text isn't a valid date.
     std::optional<platform::Date> Day() const;
     void SetDay(platform::Date day);
-    /// A stored text: a day in whatever form shows as mm/dd/yyyy, any other text as it stands.
+    /// Shows stored text: a date in any form as mm/dd/yyyy, other text unchanged.
     void SetStoredText(const QString& text);
     bool IsValid() const { return Day().has_value(); }
 
-    /// Opens the calendar on the day shown, or on today.
+    /// Opens the calendar at the date shown, or at today.
     void ShowCalendar();
 
   protected:

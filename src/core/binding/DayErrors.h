@@ -10,10 +10,11 @@ namespace core::binding {
 
 class DateEdit;
 
-/// The line of the error roll for a box whose text is no day.
+/// Returns the error line for a box whose text isn't a valid date.
 std::string NotADay(const DateEdit& box);
 
-/// One such line for each box of the form that doesn't hold a valid date and that `counts`.
+/// Returns such a line for each box of the form that doesn't hold a valid date and for which
+/// `counts` returns true.
 std::vector<std::string> DayErrors(const QWidget& form,
                                    const std::function<bool(const QWidget& box)>& counts = {});
 

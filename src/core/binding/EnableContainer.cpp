@@ -7,7 +7,7 @@ namespace core::binding {
 
 namespace {
 
-/// A frame or group in the plain sense; many other widgets are frames by descent.
+/// Whether the widget is a plain frame or group box; many other widgets derive from a frame.
 bool IsContainer(const QWidget& widget) {
     return qobject_cast<const QGroupBox*>(&widget) ||
            widget.metaObject() == &QFrame::staticMetaObject ||

@@ -4,8 +4,8 @@ class QWidget;
 
 namespace core::binding {
 
-/// Makes each control inside `container` available or not, those in frames and groups inside it
-/// too; the container itself stays as it is.
+/// Enables or disables each control inside `container`, also those in frames and groups inside it;
+/// the container itself stays as it is.
 void EnableContainer(QWidget& container, bool enabled);
 
 } // namespace core::binding

@@ -18,7 +18,8 @@ std::optional<std::size_t> PointAt(std::u32string_view text) {
     return at;
 }
 
-/// Digits and one point; `decimals` is how far behind the point the caret may stand for a digit.
+/// Accepts digits and one point; `decimals` is how many places after the point a digit may be
+/// typed.
 bool NumberTakes(const KeyedBox& box, char32_t key, std::optional<std::size_t> decimals) {
     const auto point = PointAt(box.text);
     if (key == U'.') return !point;
@@ -26,7 +27,7 @@ bool NumberTakes(const KeyedBox& box, char32_t key, std::optional<std::size_t> d
     return !decimals || !point || box.caret < *point + 1 + *decimals;
 }
 
-/// The digit is tried at the end of the text wherever the caret stands: so 10 takes a 0 but no 1.
+/// The digit is tried at the end of the text wherever the caret is, so 10 takes a 0 but not a 1.
 bool PercentTakes(const KeyedBox& box, char32_t key) {
     if (key == U'.') return !PointAt(box.text);
     if (!IsDigit(key)) return false;

@@ -6,7 +6,7 @@
 
 namespace core::binding {
 
-/// What a key press depends on in a box. The positions count characters from 0.
+/// The state of a box that decides about a key press. Positions count characters from 0.
 struct KeyedBox {
     std::string_view tag; ///< binding tag; its first character names the filter
     std::u32string_view text;
@@ -18,8 +18,8 @@ struct KeyedBox {
 inline constexpr char32_t kBackspace = 8;
 inline constexpr char32_t kNoKey = 0;
 
-/// The character that a key press puts into the box: the key itself, its capital, or kNoKey when
-/// the box takes no such key.
+/// Returns the character that a key press types into the box: the key itself, its capital, or
+/// kNoKey if the box rejects it.
 char32_t FilterKey(const KeyedBox& box, char32_t key);
 
 } // namespace core::binding

@@ -21,7 +21,7 @@ char32_t Filtered(const QLineEdit& edit, char32_t key) {
     KeyedBox box;
     box.tag = tag;
     box.text = text;
-    // What is typed goes where the selection begins, wherever in it the caret stands.
+    // Typed text replaces the selection from its start, wherever in it the caret is.
     box.caret = static_cast<std::size_t>(edit.hasSelectedText() ? edit.selectionStart()
                                                                 : edit.cursorPosition());
     box.selected = static_cast<std::size_t>(edit.selectedText().size());
@@ -31,8 +31,8 @@ char32_t Filtered(const QLineEdit& edit, char32_t key) {
 
 constexpr const char* kRefusing = "refusing";
 
-/// An operator or sign in a number box is refused where the user sees it, and what is typed after
-/// it too, until they do something else: "12+3" must not become 123.
+/// A number box visibly refuses an operator or sign, and what is typed after it until the user does
+/// something else: "12+3" must not become 123.
 bool RefusesSum(QLineEdit& edit, const QString& text) {
     constexpr std::string_view kNumbers = "#&$%";
     const std::string tag = TagOf(edit);
@@ -48,7 +48,7 @@ bool RefusesSum(QLineEdit& edit, const QString& text) {
     return true;
 }
 
-/// True when none of the text may go in as it stands; a capital goes in instead of its letter.
+/// Returns true if the text is not to be typed as it is; a capital is typed in place of its letter.
 bool TakesOver(QLineEdit& edit, const QString& text) {
     const std::u32string keys = text.toStdU32String();
     for (const char32_t key : keys) {

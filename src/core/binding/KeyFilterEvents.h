@@ -6,8 +6,8 @@ class QLineEdit;
 
 namespace core::binding {
 
-/// Runs what is typed into a line edit through FilterKey, by the edit's property "tag". What is
-/// pasted passes; the reading of the box judges it.
+/// Runs text typed into a line edit through FilterKey, by the edit's property "tag". Pasted text
+/// isn't filtered; it is checked when the box is read.
 class KeyFilterEvents : public QObject {
     Q_OBJECT
 

@@ -20,7 +20,7 @@ void MaskedEdit::focusInEvent(QFocusEvent* event) {
 
 void MaskedEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    // Its own context menu takes the focus only for a moment.
+    // Its own context menu takes the focus only briefly.
     if (masking_ && event->reason() != Qt::PopupFocusReason) setEchoMode(QLineEdit::Password);
 }
 

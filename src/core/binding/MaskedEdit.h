@@ -4,15 +4,15 @@
 
 namespace core::binding {
 
-/// A box for numbers that nobody looking over a shoulder should read: cards, bank accounts, social
-/// security. What it holds shows as dots until the box has the focus.
+/// A box for numbers that must not be read over the user's shoulder: cards, bank accounts, social
+/// security. Its text shows as dots until the box has the focus.
 class MaskedEdit : public QLineEdit {
     Q_OBJECT
 
   public:
     explicit MaskedEdit(QWidget* parent = nullptr);
 
-    /// False shows the text all the time, for a box that holds something secret only at times.
+    /// False always shows the text, for a box whose text is only sometimes secret.
     void SetMasking(bool masking);
 
   protected:

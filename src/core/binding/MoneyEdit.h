@@ -7,14 +7,15 @@
 
 namespace core::binding {
 
-/// An amount of money, typed plainly and shown as money is shown everywhere.
+/// An amount of money, typed plainly and shown in the program's money format.
 class MoneyEdit : public QLineEdit {
     Q_OBJECT
 
   public:
     explicit MoneyEdit(QWidget* parent = nullptr);
 
-    /// The amount, zero for a blank box; nothing when the text is no amount or too large a one.
+    /// Returns the amount, zero for a blank box; nothing if the text isn't a valid amount or is too
+    /// large.
     std::optional<platform::Currency> Amount() const;
     void SetAmount(platform::Currency amount);
 

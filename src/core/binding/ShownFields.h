@@ -12,7 +12,7 @@
 
 namespace core::binding {
 
-/// Which bound controls of a row are written.
+/// Which bound controls are written to the row.
 enum class WriteFields {
     Touched, ///< those whose contents differ from what was shown
     All,     ///< for a new row
@@ -20,27 +20,28 @@ enum class WriteFields {
 
 using Controls = std::set<const QWidget*>;
 
-/// What the bound controls of a form held when a row was last shown in them. A control counts as
-/// touched when it holds something else since: only that is written, so that a save changes nothing
-/// that the user didn't, whatever the lists offer, the boxes round or other programs wrote.
+/// Remembers what the bound controls of a form held when a row was last shown in them. A control
+/// counts as touched if it holds something else since. Only touched controls are written, so a save
+/// changes nothing that the user didn't, whatever the lists offer, the boxes round or other
+/// programs wrote.
 class ShownFields {
   public:
-    /// `table` chooses among tags that name a table as well, as in BindFromRecord.
+    /// `table` selects among tags that also name a table, as in BindFromRecord.
     explicit ShownFields(std::string table = {}) : table_(std::move(table)) {}
 
-    /// Remembers what the controls hold without a row: a null shows as this. Only the first call
-    /// counts.
+    /// Remembers the contents of the controls before any row is shown; a null is shown that way.
+    /// Only the first call counts.
     void KeepBlanks(const QWidget& form);
     /// Shows the row. A stored choice that a list doesn't offer joins it under its name.
     void Show(QWidget& form, platform::Recordset& row);
-    /// Takes what the controls hold now for what was shown: to be called when the screen has done
-    /// its part of showing the row. Those in `touched` stay touched.
+    /// Takes the present contents of the controls as shown; called when the screen has finished its
+    /// own part of showing the row. Controls in `touched` stay touched.
     void Settle(const QWidget& form, const Controls& touched = {});
     /// Shows the row again in the controls outside `touched` whose field or contents have changed.
     void ShowUntouched(QWidget& form, platform::Recordset& row, const Controls& touched);
-    /// Shows no row: every control as it was without one.
+    /// Shows every control as it was before any row was shown.
     void ShowBlanks(QWidget& form);
-    /// From now on every control counts as touched.
+    /// Makes every control count as touched from now on.
     void Forget() { shown_.clear(); }
 
     bool IsTouched(const QWidget& control) const;

@@ -8,7 +8,7 @@ class QObject;
 
 namespace core::binding {
 
-/// The sigils that bind a control to a field, in the order they are known by.
+/// The sigils that bind a control to a field, in order of precedence.
 inline constexpr std::string_view kSigils = "_#&$@!?*%:";
 
 /// Which field of which table a control shows, and how.
@@ -18,15 +18,15 @@ struct Binding {
     std::string field;
 };
 
-/// A control's dynamic property "tag"; empty without one.
+/// Returns a control's dynamic property "tag"; empty if it has none.
 std::string TagOf(const QObject& control);
 void SetTag(QObject& control, std::string_view tag);
 
-/// Nothing for a tag of one character or less, or one whose first character is no sigil. With a
-/// `table` the name is parted at its point, and a tag of another table is no binding.
+/// Returns nothing for a tag of one character or less, or one whose first character isn't a sigil.
+/// With a `table` the name is split at its point, and the tag of another table is no binding.
 std::optional<Binding> ReadTag(std::string_view tag, std::string_view table);
 
-/// The field's bare name of any tag: behind the sigil, and behind the point if there is one.
+/// Returns a tag's bare field name: what follows the sigil, and the point if there is one.
 std::string FieldOfTag(std::string_view tag);
 
 } // namespace core::binding

@@ -25,7 +25,8 @@ bool HoldsNumber(const QObject& control) {
     return !tag.empty() && kNumbers.find(tag.front()) != std::string_view::npos;
 }
 
-/// The wheel scrolls the page, not a list, date or number that happens to be under the pointer.
+/// Makes the wheel scroll the page, not a list, date or number that happens to be under the
+/// pointer.
 class WheelGuard : public QObject {
   public:
     using QObject::QObject;
@@ -37,8 +38,8 @@ class WheelGuard : public QObject {
     }
 };
 
-/// Gives a box that only shows its text the colour of the page around it, also after the program
-/// has changed from light to dark.
+/// Gives a read-only box the colour of the page around it, also after the program has changed
+/// between light and dark.
 class ReadOnlyLook : public QObject {
   public:
     explicit ReadOnlyLook(QWidget& box) : QObject(&box) {

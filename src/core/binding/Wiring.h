@@ -7,13 +7,13 @@ class QWidget;
 
 namespace core::binding {
 
-/// What all forms have in common once their controls are made: keys are filtered by tag, numbers
-/// stand at the right edge, a box that remembers no typed text doesn't grow by it, and what a label
-/// says is the accessible name of its control.
+/// Sets up what all forms share once their controls exist: keys are filtered by tag, numbers are
+/// right-aligned, an editable list doesn't add typed text to itself, and each label gives its
+/// control its accessible name.
 void WireControls(QWidget& form);
 
-/// Calls `changed` whenever a control of `form` changes, by the person or by code. A control with
-/// the property "noDirty" holds nothing that is saved and isn't heard.
+/// Calls `changed` whenever a control of `form` changes, whether by the user or by code. Controls
+/// with the property "noDirty" hold nothing that is saved and are left out.
 void ConnectChanges(QWidget& form, QObject& context, const std::function<void()>& changed);
 
 } // namespace core::binding

@@ -6,8 +6,8 @@ class QPushButton;
 
 namespace core::forms {
 
-/// The row of buttons that every record screen ends with. Each button's property "tag" is its word:
-/// HELP, CANCEL, APPLY, CLOSE.
+/// The row of buttons at the bottom of every record screen. Each button's property "tag" is its
+/// command: HELP, CANCEL, APPLY, CLOSE.
 class ActionBar : public QWidget {
     Q_OBJECT
 

@@ -10,39 +10,40 @@ namespace core::forms {
 
 class ActionBar;
 
-/// A screen whose entries the logic takes as a whole, rather than a row that it edits: a payment, a
-/// split. It becomes dirty, asks before changes are lost, and closes once it has submitted.
+/// A screen whose entries are submitted to the logic as a whole, instead of editing a row: a
+/// payment, a split. It becomes dirty, asks before changes are lost, and closes after submitting.
 ///
-/// It is made in this order: setupUi, Wire, and from the screen's own Setup, Begin.
+/// It is constructed in this order: setupUi, Wire, then from the screen's own Setup, Begin.
 class EntryForm : public Form {
     Q_OBJECT
 
   public:
     bool Dirty() const { return dirty_; }
 
-    /// What the button does: the screen stays when the entries are refused, or can't be kept.
+    /// Submits the entries; the screen stays open if they are refused or can't be saved.
     void Submit();
 
   protected:
     using Form::Form;
 
-    /// Connects the controls that setupUi made. The button that submits says `text`, and `tag` is
-    /// its word.
+    /// Connects the controls created by setupUi. The submit button shows `text`, and `tag` is its
+    /// command.
     void Wire(const QString& text, const QString& hint, std::string_view tag);
-    /// Fills the controls, which is nobody's change, and shows the form; what `fill` throws is
+    /// Fills the controls without making the form dirty, and shows it; an error thrown by `fill` is
     /// shown.
     void Begin(const std::function<void()>& fill);
 
-    /// Gives the entries to the logic. Failures are thrown.
+    /// Submits the entries to the logic. Throws on failure.
     virtual void Store() = 0;
-    /// What is wrong with what was entered, a line each; by itself, typed days that are none.
+    /// Returns the errors in the entries, a line each; by default a line for each typed date that
+    /// isn't valid.
     virtual std::vector<std::string> Errors();
-    /// Asks what there is to ask once nothing is wrong; No keeps the screen open.
+    /// Asks any questions once the entries are valid; returns false to keep the screen open.
     virtual bool Agreed() { return true; }
-    /// Refreshes what depends on records of `kind`, which is nobody's change either.
+    /// Refreshes the parts that depend on records of `kind`, without making the form dirty.
     virtual void Refresh(std::int16_t kind);
 
-    /// Runs what changes controls by code.
+    /// Runs `work`, whose changes to the controls don't make the form dirty.
     void Quietly(const std::function<void()>& work);
     bool Loading() const { return loading_; }
     void MarkDirty();

@@ -5,7 +5,7 @@
 namespace core::forms {
 
 std::string ErrorRollText(const std::vector<std::string>& lines) {
-    // The spelling is what people know the roll by.
+    // Users know the list by this spelling.
     std::string text = "The following errors have occured:\n\n";
     for (const std::string& line : lines)
         text.append(line).append("\n");

@@ -6,17 +6,17 @@
 
 namespace core::forms {
 
-/// The text of the roll: its head line, an empty line, and every line with a line end.
+/// Returns the text of the error list: its heading, an empty line, and every error on its own line.
 std::string ErrorRollText(const std::vector<std::string>& lines);
 
-/// Tells the person all that is wrong at once; true when there was nothing to tell.
+/// Shows the user all errors at once; returns true if there are none.
 bool ShowErrorRoll(const std::vector<std::string>& lines);
 
-/// The box for a failure that isn't the person's doing.
+/// Shows the message box for a failure that the user didn't cause.
 void ShowFailure(const std::exception& failure);
 
-/// Runs what an event asks for, and shows what it throws; true when it went through. Nothing that
-/// an event handler throws may reach the event loop.
+/// Runs the work of an event and shows any error; returns true if there was none. No exception of
+/// an event handler may reach the event loop.
 template <class Work>
 bool Guarded(Work&& work) {
     try {

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kTitleHeight = 40; // until the window system has said how high its frame is
 
-/// Wants the room of its page, and makes do with less.
+/// Asks for the size of its page, but can be smaller.
 class PageArea : public QScrollArea {
   public:
     explicit PageArea(QWidget* parent) : QScrollArea(parent) {
@@ -61,7 +61,7 @@ bool HoldsOnlyButtons(const QLayout* row) {
     return true;
 }
 
-/// Puts an item into another layout, which takes its controls along.
+/// Moves an item with its controls to another layout.
 void MoveItem(QLayoutItem& item, QVBoxLayout& rows) {
     if (item.layout()) {
         rows.addLayout(item.layout());

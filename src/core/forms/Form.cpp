@@ -26,7 +26,7 @@ Form::Form(QWidget* parent, FormSizing sizing)
     auto* const help = new QShortcut(QKeySequence(QKeySequence::HelpContents), this);
     connect(help, &QShortcut::activated, this, [this] { ShowHelp(*this); });
     AddOpenForm(*this);
-    // A drop-down takes Ctrl+Tab for itself.
+    // A drop-down list takes Ctrl+Tab for itself.
     for (const int step : {1, -1}) {
         const auto* const keys = step > 0 ? "Ctrl+Tab" : "Ctrl+Shift+Tab";
         auto* const turn = new QShortcut(QKeySequence(QLatin1String(keys)), this);
@@ -77,7 +77,7 @@ void Form::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
-/// To the next page of the tabs that can be chosen.
+/// Shows the next page among the enabled tabs.
 void Form::TurnPage(int step) {
     auto* const tabs = findChild<QTabWidget*>();
     if (!tabs || tabs->count() == 0) return;
@@ -94,7 +94,7 @@ void Form::Restore() {
     isPlaced_ = true;
     if (sizing_ == FormSizing::Resizable) {
         LetPagesScroll(*this);
-        // A page that scrolls would be content with two thirds of the screen.
+        // A scrolling page would be content with two thirds of the screen.
         if (!testAttribute(Qt::WA_Resized)) resize(sizeHint());
     }
     const bool scrolls = LetFormScroll(*this);

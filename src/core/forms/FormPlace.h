@@ -6,8 +6,9 @@
 
 namespace core::forms {
 
-/// The place of a form on the screens that there are: as wanted when enough of its top edge to take
-/// hold of is on one of them, else moved and shrunk into the nearest. Without a screen as wanted.
+/// Returns where to put a form: the wanted place if enough of its top edge to drag it by is on a
+/// screen, else the place moved and shrunk into the nearest screen. Without a screen, the wanted
+/// place.
 FormRectangle RescuedPlace(const FormRectangle& wanted, const std::vector<FormRectangle>& screens);
 
 } // namespace core::forms

@@ -7,16 +7,16 @@ class QWidget;
 
 namespace core::forms {
 
-/// Shows a page of the help ("frmOwnerLink", "contents") over the window that asks.
+/// Shows a page of the help ("frmOwnerLink", "contents") over its owner's window.
 using HelpOpener = std::function<void(QWidget* owner, const QString& topic)>;
 
-/// The topic that stands for looking for words rather than for a page.
+/// The topic that opens the search instead of a page.
 inline constexpr const char* kHelpSearch = "search";
 
-/// Gives the process its help window; without one nothing is shown.
+/// Sets the process's help window; without one ShowHelp does nothing.
 void SetHelpOpener(HelpOpener opener);
 
-/// The page of a form, which has the form's name.
+/// Shows a form's page, which has the form's name.
 void ShowHelp(QWidget& form);
 void ShowHelpTopic(QWidget& form, const QString& topic);
 

@@ -14,7 +14,7 @@ namespace core::forms {
 
 namespace {
 
-/// Beside the program's files, or beside the program where that can't be written.
+/// In the program's data folder, or beside the program if that can't be written.
 QString FindHelpFile() {
     const QString name = QStringLiteral("Vestrel.qch");
     QString besideFiles = platform::qt::ToScreen(App().AppPath) + name;

@@ -45,7 +45,7 @@ bool MayCloseAllForms() {
 }
 
 void CloseAllForms() {
-    // What closes may close others, so each is looked at again when its turn comes.
+    // Closing a form may close others, so each pointer is checked when its turn comes.
     const std::vector<QPointer<Form>> forms = Forms();
     for (const QPointer<Form>& form : forms | std::views::reverse) {
         if (!form) continue;

@@ -9,10 +9,10 @@
 
 namespace core::forms {
 
-// What other rooms add to every record form: reports, receipts, documents, files. They register it
-// once, and each form of such a record has it, without the form knowing of them.
+// Additions to every record form by other rooms: reports, receipts, documents, files. A room
+// registers an addition once, and every form of such records has it without knowing of it.
 
-/// A record that a form shows; id 0 until it is saved. A building's form shows two: the building,
+/// A record shown on a form; id 0 until it is saved. A building's form shows two: the building,
 /// then the unit.
 struct Subject {
     std::int16_t kind = 0;
@@ -25,16 +25,16 @@ struct Subject {
 /// kind, or is the form's own first menu; it begins with Apply and ends with Close.
 enum class RecordMenu { Record, Reports, Documents };
 
-/// What a filler works with. A report or letter shows what is stored, so its action calls `save`
-/// first and does nothing if that returns false: the user kept the form from saving.
+/// What a filler gets. A report or letter shows stored data, so its action calls `save` first and
+/// does nothing if that returns false: the user refused the save, or it failed.
 struct MenuFilling {
     QMenu& menu;
     const std::vector<Subject>& subjects;
     std::function<bool()> save;
 };
 
-/// Adds its actions to the menu, none if it has nothing for these records. It is called when a
-/// record is shown and whenever the menu opens; what it added before has been removed then.
+/// Adds actions to the menu; none if there are none for these records. It is called when a record
+/// is shown and whenever the menu opens, after its former actions were removed.
 using MenuFiller = std::function<void(const MenuFilling& filling)>;
 
 /// Registers a filler under a name of its own; the same name replaces it and an empty filler
@@ -42,17 +42,17 @@ using MenuFiller = std::function<void(const MenuFilling& filling)>;
 /// Documents menu shows only on forms opened after something was registered for it.
 void RegisterRecordMenu(RecordMenu menu, const std::string& name, MenuFiller filler);
 
-/// A page of the tab bar named "tabs" of the forms of some kinds.
+/// A page of the tab bar named "tabs", on the forms of some kinds.
 struct RecordPage {
     std::string caption;
     std::vector<std::int16_t> kinds;
-    /// Makes the page for a form, which owns it.
+    /// Creates the page; the form owns it.
     std::function<QWidget*(QWidget& form)> make;
     /// Shows the records of the form; called when a record is loaded, and once for a new one.
     std::function<void(QWidget& page, const std::vector<Subject>& subjects)> show;
 };
 
-/// Registers a page, as RegisterRecordMenu does a filler; one without `make` is removed.
+/// Registers a page, as RegisterRecordMenu registers a filler; a page without `make` is removed.
 void RegisterRecordPage(const std::string& name, RecordPage page);
 
 } // namespace core::forms

@@ -21,14 +21,15 @@ class RecordBar : public QObject {
     struct Commands {
         std::function<void()> apply;
         std::function<void()> close;
-        /// Saves what was changed; false if it wasn't saved.
+        /// Saves the changes; returns false if nothing was saved.
         std::function<bool()> save;
     };
 
-    /// Adds the standard menus to the form's bar, which is made if it has none, and its pages.
+    /// Adds the standard menus to the form's menu bar, which is created if necessary, and the
+    /// pages.
     RecordBar(QDialog& form, std::int16_t kind, Commands commands);
 
-    /// The records that the form shows now.
+    /// Sets the records that the form shows.
     void Show(std::vector<Subject> subjects);
     void SetCanApply(bool can);
 
@@ -52,8 +53,7 @@ class RecordBar : public QObject {
     std::vector<std::pair<QWidget*, std::string>> pages_;
 };
 
-/// The title with a letter to jump to it that nothing else of the form has; without one if all are
-/// taken.
+/// Returns the title with a mnemonic that is free on the form; without one if all letters are used.
 QString WithFreeMnemonic(const QWidget& form, const QString& title);
 
 } // namespace core::forms

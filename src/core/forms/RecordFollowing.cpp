@@ -1,4 +1,4 @@
-// How a record's screen follows changes that are made elsewhere, deletion included.
+// How a record's screen follows changes made elsewhere, deletion included.
 
 #include <QBoxLayout>
 #include <QEvent>
@@ -26,11 +26,11 @@ void RecordForm::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::i
     const LoadingGuard loading(*this);
     const binding::Controls touched = Touched();
     Refresh(kind);
-    // What this form saves itself it loads again after the save.
+    // The form reloads its own saves itself.
     if (!storing_) FollowRow(touched);
 }
 
-/// Another program says nothing of its changes, so they are looked for when the user comes back.
+/// Another program doesn't broadcast, so its changes are looked up when the window is activated.
 void RecordForm::changeEvent(QEvent* event) {
     Form::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || IsBusy()) return;
@@ -38,7 +38,7 @@ void RecordForm::changeEvent(QEvent* event) {
         const LoadingGuard loading(*this);
         FollowRow(Touched());
     } catch (const std::exception&) {
-        // The save tells what is wrong with the database.
+        // A database that can't be read is reported by the save.
     }
 }
 
@@ -56,7 +56,7 @@ void RecordForm::FollowRow(const binding::Controls& touched) {
     fields_.Settle(*this, touched);
 }
 
-/// The line at the top of a screen whose record was deleted elsewhere.
+/// Shows or hides the line at the top of a screen whose record was deleted elsewhere.
 void RecordForm::ShowDeleted(bool isDeleted) {
     if (!deleted_ && !isDeleted) return;
     if (!deleted_) {
@@ -81,8 +81,8 @@ RecordForm::RowState RecordForm::FindState() {
     return row.Eof() ? RowState::Deleted : RowState::Stored;
 }
 
-/// A record that was deleted elsewhere comes back only if the user means it: with changes of their
-/// own under the line that says so, or when asked.
+/// A record deleted elsewhere is restored only if the user means it: they changed something below
+/// the line that says so, or they are asked.
 bool RecordForm::AgreedToRestore() {
     const bool knows = deleted_ && deleted_->isVisible() && dirty_;
     if (knows) return true;

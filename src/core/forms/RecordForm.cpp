@@ -56,7 +56,7 @@ void RecordForm::OpenRecord(std::int32_t id, const std::function<void()>& fillLi
     read_.clear();
     fields_.Forget();
     binding::SetTag(*this, {});
-    // A list that can't be filled to its end is no reason not to open.
+    // A list that can't be read completely doesn't keep the form from opening.
     Guarded(fillLists);
     fields_.KeepBlanks(*this);
     if (id_ != 0) Guarded([this] { Load(); });
@@ -208,8 +208,8 @@ void RecordForm::ShowDirty() {
     if (bar_) bar_->SetCanApply(dirty_);
 }
 
-/// The screen's own lines, and one for each typed date that isn't valid. A stored text that isn't a
-/// date keeps nobody from saving the rest.
+/// Returns the screen's own errors and a line for each typed date that isn't valid. Stored text
+/// that isn't a date doesn't stop the rest from being saved.
 std::vector<std::string> RecordForm::AllErrors() {
     std::vector<std::string> lines = Errors();
     const auto touched = [this](const QWidget& box) { return IsTouched(box); };

@@ -22,31 +22,29 @@ struct RecordPlace {
     std::int16_t kind = 0;
     std::string table;
     std::string idField;
-    /// The table in the tags of a screen that edits rows of two tables; empty if the tags name
-    /// none.
+    /// The table whose tags are bound, for a screen that edits rows of two tables; otherwise empty.
     std::string tagTable = {};
 };
 
 /// The life of a screen that edits one row: it loads, becomes dirty, validates and saves. A derived
-/// screen adds its lists, its rules and what follows a save.
+/// screen adds its lists, its rules and what follows a save. It is constructed in this order:
+/// setupUi, Wire, then from the screen's own Setup, OpenRecord.
 ///
-/// It is made in this order: setupUi, Wire, and from the screen's own Setup, OpenRecord.
-///
-/// A save writes the controls that the user touched, and all of them for a new record; a stored
-/// record that wasn't changed isn't written at all. When records change elsewhere the untouched
-/// controls follow and the touched ones stay.
+/// A save writes the controls that the user touched, or all of them for a new record; a stored
+/// record without changes isn't written at all. If records change elsewhere, untouched controls are
+/// refreshed and touched ones stay.
 class RecordForm : public Form {
     Q_OBJECT
 
   public:
-    /// 0 while the record is new.
+    /// Returns 0 while the record is new.
     std::int32_t Id() const { return id_; }
-    /// Something was changed since the last load or save.
+    /// Whether something was changed since the last load or save.
     bool Dirty() const { return dirty_; }
     /// True while code fills the controls; change signals are not user edits.
     bool Loading() const { return loading_; }
 
-    /// The commands of the buttons. Both save first, and do nothing more if that fails.
+    /// The commands of the buttons. Both save first and stop if that fails.
     void Apply();
     void SaveAndClose();
 
@@ -54,7 +52,7 @@ class RecordForm : public Form {
     explicit RecordForm(RecordPlace place, QWidget* parent = nullptr,
                         FormSizing sizing = FormSizing::Resizable);
 
-    /// Connects the controls that setupUi made.
+    /// Connects the controls created by setupUi.
     void Wire();
     /// Fills the lists, loads the record, or fills in what a new one starts with (id 0, or an id
     /// that doesn't exist), and shows the form.
@@ -63,61 +61,63 @@ class RecordForm : public Form {
 
     /// Opens the record's row to read it; no current row if it doesn't exist.
     virtual void FindRow(platform::Recordset& row);
-    /// Opens the record's row to write it: a new row under a new id for a new record; a deleted one
-    /// comes back under its id, with all that it held when it was read.
+    /// Opens the record's row for writing: a new row under a new id for a new record; a deleted one
+    /// is restored under its id, with every field as it was last read.
     virtual void FindRowToWrite(platform::Recordset& row);
     /// Fills the lists that depend on other fields of the row (the rooms of its unit), before the
     /// row is shown.
     virtual void FillListsFor(platform::Recordset& row);
     /// Copies the row to the controls.
     virtual void ShowRow(platform::Recordset& row);
-    /// Copies what is to be written to the row.
+    /// Copies the fields to be written to the row.
     virtual void WriteRow(platform::Recordset& row);
-    /// The record of the id doesn't exist; the screen goes on with a new one.
+    /// Called if no record has the id; the screen goes on with a new one.
     virtual void RowMissing() {}
     virtual void ShowCaption() = 0;
-    /// What is wrong with what was entered, a line each.
+    /// Returns the errors in the entries, a line each; empty if they can be saved.
     virtual std::vector<std::string> Errors() { return {}; }
-    /// Asks what there is to ask once nothing is wrong; No stops the save.
+    /// Asks any questions once the entries are valid; returns false to stop the save.
     virtual bool Agreed() { return true; }
-    /// Writes what was entered, within a unit of work. A screen whose save is more than its row
-    /// gives all of it to the logic, and sets the id that a new record got.
+    /// Writes the entries, within a unit of work. A screen that saves more than its row leaves all
+    /// of it to the logic and sets a new record's id.
     virtual void Store();
-    /// Whether Close saves a new record that nothing was entered in.
+    /// Whether Close saves a new record without entries.
     virtual bool SavesUntouched() const { return true; }
-    /// Does what follows a save beyond its row.
+    /// Called after a save, for what follows it.
     virtual void AfterSave() {}
-    /// Refills what depends on records of `kind`; nothing that changes here makes the form dirty.
+    /// Refreshes the parts that depend on records of `kind`; it never makes the form dirty.
     virtual void Refresh(std::int16_t kind);
-    /// Follows other rows that the screen shows; `touched` controls must stay. Called whenever the
-    /// record itself is looked up again.
+    /// Refreshes other rows that the screen shows; `touched` controls must stay. Called whenever
+    /// the record itself is read again.
     virtual void FollowOthers(const binding::Controls& touched);
 
-    /// The records that the screen shows, for what other rooms add to it.
+    /// Returns the records that the screen shows, for the additions of other rooms.
     virtual std::vector<Subject> Subjects() const;
 
-    /// Shows another record in the same form, or a new one with id 0; what was entered is dropped.
+    /// Shows another record in the same form, or a new one with id 0; the entries are dropped.
     void ShowRecord(std::int32_t id);
-    /// What the controls hold is a new record's from now on.
+    /// Turns the present contents into those of a new record.
     void BecomeNew();
     void Load();
-    /// False if the entries are refused; throws a failure of the database, the form stays dirty.
+    /// Returns false if the entries are refused. Throws if the database fails; the form stays
+    /// dirty.
     bool Save();
     void MarkDirty();
     void SetId(std::int32_t id) { id_ = id; }
 
-    /// The row being written is a new one, or comes back after it was deleted.
+    /// Whether the row being written is new, or is restored after its deletion.
     bool WritesNewRow() const { return writesNewRow_; }
-    /// True for a new record, and for a control that the user changed since the row was shown.
+    /// Returns true for a new record, and for a control changed by the user since the row was
+    /// shown.
     bool IsTouched(const QWidget& control) const { return fields_.IsTouched(control); }
-    /// The bound controls that the user changed.
+    /// Returns the bound controls that the user changed.
     binding::Controls Touched() const { return fields_.Touched(*this); }
 
     bool MayClose() override;
     void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) final;
     void changeEvent(QEvent* event) override;
 
-    /// Sets Loading while it lives.
+    /// Sets Loading during its lifetime.
     class LoadingGuard {
       public:
         explicit LoadingGuard(RecordForm& form) : form_(form), before_(form.loading_) {

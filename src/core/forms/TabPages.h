@@ -4,8 +4,8 @@
 
 namespace core::forms {
 
-/// Lets the Tab key reach the buttons of `bar` behind everything else of `form`: they are made
-/// before what stands on the pages of a tabbed form.
+/// Moves the buttons of `bar` to the end of the tab order: they are created before the controls on
+/// the pages of a tabbed form.
 void PutLastInTabOrder(QWidget& form, const QWidget& bar);
 
 } // namespace core::forms

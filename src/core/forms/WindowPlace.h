@@ -6,10 +6,10 @@ class QWidget;
 
 namespace core::forms {
 
-/// Puts a window where one of its object name was when it was last closed; on a screen in any case.
+/// Restores a window's place, stored by its object name; in any case it is put on a screen.
 void RestoreWindow(QWidget& window, FormSizing sizing);
 
-/// Remembers where a window is that closes.
+/// Stores the place of a closing window.
 void SaveWindow(const QWidget& window);
 
 } // namespace core::forms

@@ -53,7 +53,7 @@ void HelpPage::doSetSource(const QUrl& url, QTextDocument::ResourceType type) {
     QTextBrowser::doSetSource(url, type);
 }
 
-/// The colour of a link is settled when a page is read.
+/// The colour of a link is fixed when a page is read.
 void HelpPage::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && source().isValid()) reload();
@@ -109,7 +109,7 @@ QString frmHelp::Topic() const {
     return QFileInfo(page_->source().path()).completeBaseName();
 }
 
-/// The collection remembers a help file by its path; one that was written anew is read anew.
+/// The collection knows a help file by its path; a file that has changed since is registered again.
 void frmHelp::RegisterFile(const QString& file) {
     engine_.setupData();
     const QString stamp = file + QFileInfo(file).lastModified().toString(Qt::ISODateWithMs);

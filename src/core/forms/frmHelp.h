@@ -10,7 +10,7 @@ class QTabWidget;
 
 namespace core::forms {
 
-/// Shows pages of the compiled help; other addresses go to the browser.
+/// Shows pages of the compiled help; other addresses open in the browser.
 class HelpPage : public QTextBrowser {
     Q_OBJECT
 
@@ -31,10 +31,10 @@ class frmHelp : public Form {
     Q_OBJECT
 
   public:
-    /// Reads the compiled help `file`; its collection is kept in `cacheFolder`.
+    /// Reads the compiled help `file`; keeps its collection in `cacheFolder`.
     frmHelp(const QString& file, const QString& cacheFolder, QWidget* parent = nullptr);
 
-    /// Shows a page by its name; the first page for one that isn't there.
+    /// Shows a page by name; the first page if it doesn't exist.
     void Setup(const QString& topic);
     bool HasTopic(const QString& topic) const;
     QString Topic() const;
@@ -52,8 +52,8 @@ class frmHelp : public Form {
     QTabWidget* ways_;
 };
 
-/// Lets HELP and F1 open the help that stands beside the program. One window serves all; it comes
-/// to the front.
+/// Makes HELP and F1 open the help installed with the program. All callers share one window, which
+/// comes to the front.
 void RegisterHelpWindow();
 
 } // namespace core::forms

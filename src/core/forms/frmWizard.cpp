@@ -65,7 +65,7 @@ QFrame& frmWizard::AddStep(const QString& word, const QString& heading) {
 
 void frmWizard::WireSteps() {
     binding::WireControls(*this);
-    // The buttons were made before what stands on the steps.
+    // The buttons were created before the controls of the steps.
     QWidget* last = ui_->fraStep;
     for (QWidget* const button : std::initializer_list<QWidget*>{
              ui_->chkSkip, ui_->cmdHelp, ui_->cmdCancel, ui_->cmdBack, ui_->cmdNext}) {
@@ -110,7 +110,7 @@ void frmWizard::closeEvent(QCloseEvent* event) {
     Form::closeEvent(event);
 }
 
-/// A button is known by the first four letters of its word.
+/// A button is identified by the first four letters of its command.
 void frmWizard::Act(const std::string& tag) {
     const std::string word = tag.substr(0, 4);
     if (word == "CANC") close();
@@ -128,7 +128,7 @@ void frmWizard::Show(int step) {
     ui_->fraStep->setCurrentIndex(step);
     ui_->lblHeading->setText(steps_[static_cast<std::size_t>(step)]->toolTip());
     ShowButtons();
-    // Not the step's last button but its first entry.
+    // The focus goes to the step's first entry, not to its last button.
     QWidget* const first = ui_->fraStep->currentWidget()->nextInFocusChain();
     if (step > 0 && ui_->fraStep->currentWidget()->isAncestorOf(first)) first->setFocus();
 }

@@ -15,11 +15,11 @@ class frmWizard;
 
 namespace core::forms {
 
-/// The frame that wizards share: steps one after the other, with the way back, on and to any of
-/// them, and the choice to pass over the introduction (step 0) from now on.
+/// The base of all wizards: consecutive steps with buttons to move back, forward and to any step,
+/// and a choice to skip the introduction (step 0) from now on.
 ///
-/// A derived wizard is made so: AddStep for each step, its controls into the frames that are
-/// answered, then WireSteps; its own Setup fills the controls and calls Begin.
+/// A derived wizard calls AddStep for each step, puts its controls into the returned frames, then
+/// calls WireSteps; its own Setup fills the controls and calls Begin.
 class frmWizard : public Form {
     Q_OBJECT
 
@@ -27,31 +27,32 @@ class frmWizard : public Form {
     ~frmWizard() override;
 
     int Step() const;
-    /// Goes to a step. On the way forward each step before it is tested, and the first with
-    /// something wrong stays, with the error roll.
+    /// Goes to a step. On the way forward each step is validated first; the first one with errors
+    /// is shown with its error list instead.
     void GoTo(int step);
 
   protected:
-    /// `name` is what the choice about the introduction is remembered under.
+    /// `name` is the key under which skipping the introduction is remembered.
     explicit frmWizard(std::string name, QWidget* parent = nullptr);
 
-    /// A new last step. The heading stands above it, the word in the list of steps.
+    /// Adds a step at the end. Its heading is shown above it, and `word` in the list of steps.
     QFrame& AddStep(const QString& word, const QString& heading);
     /// Connects the controls of all steps.
     void WireSteps();
-    /// Shows the wizard at its first step, or at the one behind the introduction.
+    /// Shows the wizard at its first step, or after the introduction if that is skipped.
     void Begin();
 
-    /// What is wrong with a step, a line each.
+    /// Returns the errors of a step, a line each.
     virtual std::vector<std::string> StepErrors(int step);
-    /// Asks what there is to ask before Finish, once nothing is wrong; false keeps the wizard open.
+    /// Asks any questions before Finish, once there are no errors; returns false to keep the wizard
+    /// open.
     virtual bool Agreed() { return true; }
-    /// What the button of the last step says; "Finish" unless this is called.
+    /// Sets the last step's button; "Finish" by default.
     void SetFinishText(const QString& text);
-    /// A step is about to show, a summary for one.
+    /// Called before a step is shown, to fill a summary for example.
     virtual void ShowStep(int step);
-    /// Does what the wizard is for; the wizard closes then. What it throws is shown and keeps the
-    /// wizard open.
+    /// Does the wizard's work, after which it closes. If it throws, the error is shown and the
+    /// wizard stays open.
     virtual void Finish() = 0;
 
     void closeEvent(QCloseEvent* event) override;

@@ -150,7 +150,7 @@ void Grid::keyPressEvent(QKeyEvent* event) {
         ChooseRow();
         return;
     }
-    // Without a selection the first step is onto the current row, not over it.
+    // If nothing is selected the first arrow key selects the current row instead of skipping it.
     const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
     if (isArrow && SelectedCount() == 0 && currentIndex().isValid()) {
         setCurrentIndex(currentIndex());

@@ -11,8 +11,8 @@
 
 namespace core::grid {
 
-/// The colours of a status that asks for attention, and of one that is worse. They are the same in
-/// light and dark windows.
+/// The colours of a status that needs attention, and of a worse one. They are the same in light and
+/// dark windows.
 inline constexpr QRgb kPaleYellow = 0xFFFFFF80;
 inline constexpr QRgb kPaleRed = 0xFFFF8080;
 
@@ -23,7 +23,7 @@ enum class Sizing {
     FitText = 2, ///< each as wide as its widest text
 };
 
-/// A table of a row set's rows, to read and to choose from. Its first column usually holds the
+/// A table for reading and choosing the rows of a row set. Its first column usually holds the
 /// records' ids and is hidden. Its settings are stored under its property "tag", or else under its
 /// object name.
 class Grid : public QTableView {
@@ -40,7 +40,7 @@ class Grid : public QTableView {
     std::int32_t SelectedId() const;
     int SelectedCount() const;
     /// Returns the numbers in the first column of the selected rows, from top to bottom, without
-    /// the cells that hold none.
+    /// empty cells.
     std::vector<std::int32_t> SelectedIds() const;
     /// Selects the row with this id; returns false if there is none.
     bool SelectId(std::int32_t id);
@@ -61,18 +61,18 @@ class Grid : public QTableView {
     void Fit(int firstColumn, Sizing sizing);
     /// Gives the columns that the user has resized their widths back.
     void ApplyOwnWidths();
-    /// Forgets the widths that the user has set if other columns are shown now.
+    /// Forgets the user's widths if other columns are shown now.
     void ColumnsLoaded();
-    /// Sets widths that are not the user's doing; a width of 0 hides the column.
+    /// Sets widths on the program's behalf, not the user's; a width of 0 hides the column.
     void SetWidths(const std::vector<int>& widths, int firstColumn);
-    /// Whether the grid has been visible. Widths of one that hasn't mean nothing.
+    /// Whether the grid was ever visible. Widths of a grid that wasn't are meaningless.
     bool WasSeen() const { return wasSeen_; }
     QString StoreName() const;
 
   Q_SIGNALS:
-    /// Other rows are selected than before.
+    /// Emitted when the selection changes.
     void SelectionMoved();
-    /// A double click or Enter on the only selected row.
+    /// Emitted by a double click or Enter if exactly one row is selected.
     void RowChosen(std::int32_t id);
     void HeaderClicked(const QString& caption);
 
@@ -110,8 +110,8 @@ void SetupGrid(Grid& grid);
 
 enum class HeaderFont { Plain, Bold };
 
-/// Shows the rows of an open row set, which the grid keeps, and returns the first column's type.
-/// Columns may be resized from now on; a narrowed view shows all its rows again.
+/// Shows the rows of an open row set, which the grid takes over, and returns the first column's
+/// type. Columns may be resized from now on; a filter is removed.
 platform::FieldType LoadGrid(Grid& grid, platform::Recordset rows,
                              HeaderFont header = HeaderFont::Bold);
 /// The same with any table.
@@ -136,7 +136,7 @@ void AutoSizeByLength(Grid& grid, int firstColumn);
 void LoadColumnWidths(Grid& grid);
 /// Stores the widths; does nothing if the grid was never visible or has no columns.
 void SaveColumnWidths(const Grid& grid);
-/// Returns what SaveColumnWidths stores, nothing if it stores nothing.
+/// Returns what SaveColumnWidths would store; nothing if it wouldn't.
 std::optional<platform::RegistryText> ColumnWidthsText(const Grid& grid);
 
 } // namespace core::grid

@@ -11,7 +11,7 @@ void SizeColumns(Grid& grid, int firstColumn) {
         grid.setColumnHidden(column, true);
     const auto sizing = static_cast<Sizing>(Preferences().AutoSize);
     if (sizing == Sizing::Manual) {
-        // Columns that were never set by hand start with the widths of their texts.
+        // Columns that were never resized by the user start with the widths of their texts.
         AutoSizeGrid(grid, firstColumn, Sizing::FitText);
         LoadColumnWidths(grid);
         grid.ApplyOwnWidths();

@@ -64,7 +64,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
             if (const auto color = ColorOf(index)) return *color;
             return {};
         case Qt::ForegroundRole:
-            // A coloured cell keeps its colour in a dark window, so its ink must suit the cell.
+            // A coloured cell keeps its colour in a dark window, so its text colour must suit the
+            // cell.
             if (const auto color = ColorOf(index)) {
                 return QColor(color->lightness() < 128 ? Qt::white : Qt::black);
             }

@@ -16,33 +16,32 @@
 
 namespace core::grid {
 
-/// The colour of a cell by its value; nothing for a plain cell.
+/// Returns the colour of a cell by its value; nothing for a plain cell.
 using ColorRule = std::function<std::optional<QColor>(const platform::Value&)>;
 
-/// The rows of any table as text. A cell is formatted when it is shown, so a view of a million rows
-/// costs what is shown of it.
+/// Shows the rows of any table as text. A cell is formatted when it is painted, so a million rows
+/// cost only what is visible of them.
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
     explicit GridModel(QObject* parent = nullptr);
 
-    /// Takes over a table; every column starts with the table's format. Null leaves nothing to
-    /// show.
+    /// Takes over a table; every column starts with the table's format. Null shows nothing.
     void SetTable(std::unique_ptr<core::Table> table);
-    /// The same with the rows of a row set, which may be closed.
+    /// The same for the rows of a row set, which may be closed.
     void SetRows(platform::Recordset rows);
-    /// Reads the rows of a row set that is read as it is needed, some at a time while the person
-    /// goes on, until AllRead. What is shown meanwhile is read at once.
+    /// Reads a lazily read row set in slices while the user works, until AllRead. Rows that become
+    /// visible before that are read immediately.
     void ReadOn();
-    /// How many rows show without being waited for.
+    /// Returns how many rows can be shown without reading on.
     int RowsAtHand() const;
     /// Whether there is a table with columns.
     bool IsLoaded() const { return !columns_.empty(); }
 
-    /// Shows only the rows that have `text` in any column but the hidden first ones, without regard
-    /// to case; all rows for an empty text. In a long list the first rows found show at once and
-    /// the others join them as they are found, until NarrowingEnded.
+    /// Shows only the rows with `text` in any visible column, ignoring case; all rows for empty
+    /// text. In a long list the first matches show at once and the others join them as they are
+    /// found, until NarrowingEnded.
     void Narrow(const QString& text, int firstColumn);
     bool IsNarrowing() const { return search_.has_value(); }
 
@@ -57,13 +56,13 @@ class GridModel : public QAbstractTableModel {
     platform::FieldType TypeOf(int column) const;
 
     void SetFormat(int column, ColumnFormat format);
-    /// Outside the grid nothing happens.
+    /// Does nothing for a cell outside the grid.
     void SetColor(int column, int row, QColor color);
     void SetColorRule(int column, ColorRule rule);
     void SetBoldHeader(bool bold);
 
   Q_SIGNALS:
-    /// All rows that have the text are there.
+    /// Emitted when all matching rows have been found.
     void NarrowingEnded();
     void AllRead();
 

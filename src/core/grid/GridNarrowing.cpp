@@ -5,7 +5,7 @@ namespace core::grid {
 
 namespace {
 
-// Rows that are looked through before the person is heard again: some hundredths of a second.
+// Rows searched before user input is processed again: some hundredths of a second.
 constexpr std::int32_t kSlice = 20'000;
 
 } // namespace
@@ -20,7 +20,7 @@ GridModel::GridModel(QObject* parent) : QAbstractTableModel(parent) {
 
 void GridModel::Narrow(const QString& text, int firstColumn) {
     if (text == narrowed_) return;
-    // A longer text can only lose rows of those that the shorter one left.
+    // A longer text can only match rows that the shorter one matched.
     const bool continues = !narrowed_.isEmpty() && text.startsWith(narrowed_) && !IsNarrowing() &&
                            std::ssize(shown_) <= kSlice;
     beginResetModel();
@@ -51,7 +51,7 @@ RowSearch GridModel::MakeSearch(const QString& text, int firstColumn) const {
     return {platform::qt::FromScreen(text), formats, types, static_cast<std::size_t>(firstColumn)};
 }
 
-/// The rows found in the next slice; ends the search behind the last row.
+/// Returns the matching rows of the next slice; ends the search after the last row.
 std::vector<std::int32_t> GridModel::SearchOn() {
     std::vector<std::int32_t> found;
     const auto end = static_cast<std::int32_t>(

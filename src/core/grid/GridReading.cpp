@@ -6,7 +6,7 @@ namespace core::grid {
 
 namespace {
 
-// Rows that are read before the person is heard again: some hundredths of a second.
+// Rows read before user input is processed again: some hundredths of a second.
 constexpr std::int64_t kSlice = 10'000;
 
 } // namespace
@@ -23,7 +23,7 @@ int GridModel::RowsAtHand() const {
 
 void GridModel::ReadSlice() {
     atHand_ = std::min(rowCount_, atHand_ + kSlice);
-    // Asking for the last of them reads those before it.
+    // Reading the last of them reads the rows before it.
     if (atHand_ > 0) (void)table_->ValueAt(atHand_ - 1, 0);
     if (atHand_ < rowCount_) return;
     nextRead_.stop();

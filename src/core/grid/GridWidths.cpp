@@ -20,8 +20,8 @@ constexpr int kFirstSamples = 60; // while rows are still read, after which the 
 
 constexpr std::string_view kGridInfoKey = R"(SOFTWARE\Vestrel\GridInfo)";
 
-/// Where the widths of a grid are kept; a panel that keeps its own names the place in the grid's
-/// property "registryKey".
+/// Returns the registry key of a grid's widths; a panel with settings of its own names the key in
+/// the grid's property "registryKey".
 std::string WidthsKey(const Grid& grid) {
     const QString own = grid.property("registryKey").toString();
     return own.isEmpty() ? std::string(kGridInfoKey) : platform::qt::FromScreen(own);
@@ -31,7 +31,7 @@ std::string WidthsName(const Grid& grid) {
     return "ColData_" + platform::qt::FromScreen(grid.StoreName());
 }
 
-/// The rows to judge a grid by: all, or as many as `samples` evenly spread from first to last.
+/// Returns the rows to measure: all of them, or `samples` rows spread evenly from first to last.
 std::vector<int> SampleRows(int rowCount, int samples = kSamples) {
     std::vector<int> rows(static_cast<std::size_t>(std::min(rowCount, samples)));
     const int count = static_cast<int>(rows.size());
@@ -43,8 +43,8 @@ std::vector<int> SampleRows(int rowCount, int samples = kSamples) {
     return rows;
 }
 
-/// Where there is less room than the columns want, the widest give way, so that dates and amounts
-/// stay whole: no column stands above the one width that all can have.
+/// If the columns want more than there is room for, the widest give way, so that dates and amounts
+/// stay whole: every column is cut down to the largest common width that fits.
 std::vector<int> Capped(std::vector<int> wanted, int first, int total) {
     const auto columns = std::ranges::subrange(wanted.begin() + first, wanted.end());
     const auto sumUnder = [&](int cap) {
@@ -65,7 +65,7 @@ std::vector<int> Capped(std::vector<int> wanted, int first, int total) {
     return wanted;
 }
 
-/// `total` parted by weight, to the last pixel; nothing goes to columns before `first`.
+/// Splits `total` by weight, to the last pixel; columns before `first` get nothing.
 std::vector<int> Share(const std::vector<int>& weights, int first, int total) {
     std::vector<int> shares(weights.size(), 0);
     const auto begin = weights.begin() + first;
@@ -92,7 +92,7 @@ void Grid::SetWidths(const std::vector<int>& widths, int firstColumn) {
 }
 
 void Grid::ColumnResized(int column, int before, int now) {
-    // To and from 0 a column is hidden and shown.
+    // A width changing to or from 0 means that the column is hidden or shown.
     if (!sizingColumns_ && before > 0 && now > 0) ownWidths_[column] = now;
 }
 
@@ -150,8 +150,8 @@ void Grid::Fit(int firstColumn, Sizing sizing) {
     ShareWidth();
 }
 
-/// Shares a width out; a column that the user has resized keeps its own if that leaves the others
-/// something.
+/// Splits a width among the columns; one resized by the user keeps its width if that leaves
+/// something for the others.
 std::vector<int> Grid::SharedWidths(int width) const {
     std::vector<int> weights = wanted_;
     int own = 0;
@@ -176,7 +176,7 @@ std::vector<int> Grid::SharedWidths(int width) const {
     return widths;
 }
 
-/// Shares out what is left beside the vertical scroll bar, if there has to be one.
+/// Splits the width that remains beside the vertical scroll bar, if one is needed.
 void Grid::ShareWidth() {
     if (static_cast<int>(wanted_.size()) != model_.columnCount()) return;
     const int rowsHeight = model_.rowCount() * verticalHeader()->defaultSectionSize();

@@ -18,7 +18,7 @@ constexpr int kIdRole = Qt::UserRole;
 constexpr int kFlagsRole = Qt::UserRole + 1;
 constexpr int kSortRole = Qt::UserRole + 2;
 
-/// Sorts days as days and money as money.
+/// Sorts dates as dates and money as money.
 class Row : public QTreeWidgetItem {
   public:
     bool operator<(const QTreeWidgetItem& other) const override {

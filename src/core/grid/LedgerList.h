@@ -10,7 +10,7 @@
 namespace core::grid {
 
 /// Rows of a ledger to look at and choose from; several can be selected, and with ticks each has a
-/// check box. They stand as they were given until a click on a caption sorts by it.
+/// check box. They keep their given order until a click on a caption sorts them.
 class LedgerList : public QTreeWidget {
     Q_OBJECT
 
@@ -19,30 +19,30 @@ class LedgerList : public QTreeWidget {
 
     void SetTicks(bool ticks) { ticks_ = ticks; }
 
-    /// The selected rows from the top, or else the current one.
+    /// Returns the selected rows from top to bottom; the current row if none is selected.
     std::vector<std::int32_t> SelectedIds() const;
-    /// The row in focus, or else the first selected one; 0 without one.
+    /// Returns the current row, or else the first selected one; 0 if there is neither.
     std::int32_t CurrentId() const;
 
   Q_SIGNALS:
-    /// A double click, F2 or Enter on a row. With ticks Enter is the form's, which it submits, and
-    /// Space ticks the row.
+    /// Emitted by a double click, F2 or Enter on a row. In a list with ticks Enter submits the form
+    /// instead, and Space ticks the row.
     void RowChosen(std::int32_t id);
     void DeleteAsked();
 
   protected:
-    /// The first role that a derived list may keep things under.
+    /// The first item data role free for derived lists.
     static constexpr int kOwnRole = Qt::UserRole + 3;
 
-    /// A row yet to be shown: its day stands in the first column.
+    /// Creates a row that isn't shown yet, with its date in the first column.
     QTreeWidgetItem* MakeRow(std::int32_t id, int flags, platform::Date date, bool ticked) const;
     static void SetMoney(QTreeWidgetItem& row, int column, platform::Currency amount);
     static std::int32_t IdOf(const QTreeWidgetItem& row);
     static int FlagsOf(const QTreeWidgetItem& row);
 
-    /// Shows these rows alone. The one that is current stays so.
+    /// Replaces the shown rows. The current row stays current.
     void ShowRows(const QList<QTreeWidgetItem*>& rows);
-    /// Changes made by `work` are not the person's.
+    /// Runs `work`, whose changes to the items don't count as the user's.
     template <class Work>
     void Fill(Work&& work) {
         filling_ = true;

@@ -21,7 +21,7 @@ constexpr int kRowsWanted = 6; // a lower list isn't worth its place
 
 RecordList::RecordList(QWidget* parent) : QWidget(parent), head_(new QHBoxLayout) {
     setProperty("panel", true);
-    // Tab goes through them in the order of their making.
+    // The tab order is the order of creation.
     add_ = MakeButton("add", tr("Add"), QStringLiteral("cmdAdd"));
     edit_ = MakeButton("edit", tr("Edit"), QStringLiteral("cmdEdit"));
     delete_ = MakeButton("delete", tr("Delete"), QStringLiteral("cmdDelete"));
@@ -48,14 +48,14 @@ RecordList::~RecordList() {
     KeepWidths();
 }
 
-/// The widths of a list that was never seen are nobody's choice.
+/// The widths of a list that was never visible were chosen by nobody.
 void RecordList::KeepWidths() {
     if (wasSeen_) SaveColumnWidths(*grid_);
 }
 
 void RecordList::SetHead(QWidget* head) {
     head_->insertWidget(0, head);
-    // It was made after the rest of the panel, and stands before it.
+    // It was created after the rest of the panel but is placed before it.
     const auto inside = head->findChildren<QWidget*>();
     setTabOrder(inside.isEmpty() ? head : inside.last(), add_);
     setTabOrder(add_, edit_);

@@ -12,9 +12,8 @@ class QToolButton;
 
 namespace core::grid {
 
-/// A list of records under buttons to add, open and delete one (Insert, Enter, Delete), for the
-/// panels that show what hangs from a record. It is a panel: the form around it doesn't know its
-/// controls.
+/// A list of records below buttons to add, open and delete one (Insert, Enter, Delete), for panels
+/// of the records that belong to another. As a panel its controls aren't the form's.
 class RecordList : public QWidget {
     Q_OBJECT
 
@@ -25,12 +24,12 @@ class RecordList : public QWidget {
     /// Puts a caption or tabs beside the buttons.
     void SetHead(QWidget* head);
 
-    /// Shows rows, their id in the first column, in a grid that keeps its widths under `gridKey`.
-    /// The record that was selected stays so.
+    /// Shows rows with their id in the first column, in a grid that stores its widths under
+    /// `gridKey`. The selected record stays selected.
     void ShowRows(platform::Recordset rows, std::string_view gridKey);
-    /// Nothing to show, and why.
+    /// Shows no rows but the reason why.
     void ShowNothing(const QString& reason);
-    /// Which of the buttons there is something for; one is available only with a row besides.
+    /// Sets which buttons apply at all; Edit and Delete also need a selected row.
     void Allow(bool add, bool edit, bool remove);
 
     Grid& List() { return *grid_; }

@@ -4,7 +4,7 @@
 
 namespace core::grid {
 
-/// Draws the rows of a list with some space around them, and check boxes that can also be seen on a
+/// Draws the rows of a list with some space around them, and check boxes that are also visible in a
 /// dark list: they are filled with a lighter colour than the list.
 class RowDelegate : public QStyledItemDelegate {
   public:

@@ -13,7 +13,7 @@ char Lower(char letter) {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
-/// What the cells of a column are made of; empty for a column that may hold anything.
+/// Returns the characters that can occur in a column's cells; empty if any may.
 std::string_view LettersOf(const ColumnFormat& format, platform::FieldType type) {
     using platform::FieldType;
     if (format.kind == ColumnFormat::Kind::YesNo) return "yesno ";

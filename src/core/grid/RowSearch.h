@@ -10,10 +10,10 @@
 
 namespace core::grid {
 
-/// Looks for a text in the rows of a grid, as its columns show them and without regard to case.
+/// Searches the rows of a grid for text, as its columns show them and ignoring case.
 class RowSearch {
   public:
-    /// `formats` are those of all columns; the first `firstColumn` of them aren't looked at.
+    /// `formats` has an entry for every column; the first `firstColumn` of them aren't searched.
     RowSearch(std::string_view text, const std::vector<ColumnFormat>& formats,
               const std::vector<platform::FieldType>& types, std::size_t firstColumn);
 

@@ -18,11 +18,11 @@ namespace {
 
 void AddLetters(const MenuFilling& filling, const std::function<void()>& manage) {
     if (filling.subjects.empty()) return;
-    // A building's letters are made of the unit that its form shows.
+    // A building's letters are merged with the unit that its form shows.
     const std::size_t subject = filling.subjects.size() - 1;
     const std::int16_t kind = DocKindOf(filling.subjects[subject].kind);
     if (!HasMergeSource(kind)) return;
-    // The record may get its id by the save.
+    // A new record gets its id only when it is saved.
     const auto choose = [subjects = &filling.subjects, save = filling.save, subject,
                          kind](std::int32_t idDoc) {
         if (!save() || subject >= subjects->size()) return;

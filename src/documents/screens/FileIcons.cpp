@@ -10,7 +10,7 @@ namespace documents::screens {
 namespace {
 
 QIcon IconOfKind(const QFileInfo& file) {
-    // By its name alone: reading into a file could take long on a slow disk.
+    // Decided by the name only: reading the file could take long on a slow disk.
     const QMimeType kind = QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension);
     for (const QString& name : {kind.iconName(), kind.genericIconName()}) {
         if (QIcon::hasThemeIcon(name)) return QIcon::fromTheme(name);
@@ -18,7 +18,7 @@ QIcon IconOfKind(const QFileInfo& file) {
     return platform::qt::LoadIcon(QStringLiteral("file"));
 }
 
-/// In its own colours on a selected line too.
+/// Keeps the picture's own colours when its line is selected.
 QIcon IconOfPicture(const QImage& image) {
     const QPixmap picture = QPixmap::fromImage(image);
     QIcon icon(picture);

@@ -8,23 +8,23 @@
 
 namespace documents::screens {
 
-/// The icons of files, each taken once: a picture's is the picture itself as soon as it was read,
-/// another file's that of its kind on this desktop, a missing file's says so.
+/// The icons of files, each created once: for a picture the picture itself as soon as it has been
+/// read, for other files the desktop's icon of their type, for a missing file a warning.
 class FileIcons : public QObject {
     Q_OBJECT
 
   public:
-    /// Device pixels that a picture's icon is read at.
+    /// The size at which a picture is read, in device pixels.
     static constexpr QSize kPictureSize{96, 96};
 
     explicit FileIcons(QObject* parent = nullptr);
 
     QIcon GetFileIcon(const QString& path, bool isPicture);
-    /// Takes all of them anew.
+    /// Forgets all icons, so that they are created again.
     void Clear();
 
   Q_SIGNALS:
-    /// The icon of a file has become another.
+    /// Emitted when the icon of a file has changed.
     void Changed(const QString& path);
 
   private:

@@ -8,13 +8,13 @@
 
 namespace documents::screens {
 
-/// What a line of the list shows of its file.
+/// A line of the list: the looks of its file.
 struct FileLook {
     bool path = false; ///< instead of the description
     bool icon = true;
 };
 
-/// The files of a record as lines of a list, whose descriptions can be edited.
+/// The files of a record as lines of a list with editable descriptions.
 class FileListModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -24,9 +24,9 @@ class FileListModel : public QAbstractListModel {
     void SetFiles(std::vector<FileRow> files);
     void SetLook(FileLook look);
 
-    /// Null for an index outside the list.
+    /// Returns null for an index outside the list.
     const FileRow* FileAt(const QModelIndex& index) const;
-    /// Invalid when the file isn't in the list.
+    /// Returns an invalid index if the file isn't in the list.
     QModelIndex IndexOf(std::int32_t id) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -35,7 +35,7 @@ class FileListModel : public QAbstractListModel {
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
   Q_SIGNALS:
-    /// The person gave a file another description.
+    /// Emitted when the user has edited a description.
     void Described(std::int32_t id, const QString& description);
 
   private:

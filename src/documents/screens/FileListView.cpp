@@ -21,7 +21,7 @@ FileListView::FileListView(QWidget* parent) : QListView(parent) {
     setEditTriggers(QAbstractItemView::EditKeyPressed);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setTabKeyNavigation(false);
-    // The panel takes what is dropped.
+    // Drops are handled by the panel.
     setDragDropMode(QAbstractItemView::NoDragDrop);
     connect(this, &QListView::doubleClicked, this, &FileListView::FileChosen);
 }

@@ -4,15 +4,15 @@
 
 namespace documents::screens {
 
-/// A list of files. A double click or Enter chooses one, Insert and Delete ask for their commands,
-/// F2 edits a description.
+/// A list of files. A double click or Enter opens one, Insert and Delete emit their commands, F2
+/// edits a description.
 class FileListView : public QListView {
     Q_OBJECT
 
   public:
     explicit FileListView(QWidget* parent = nullptr);
 
-    /// What an empty list says instead.
+    /// Sets the text that an empty list shows.
     void SetEmptyText(const QString& text);
 
   Q_SIGNALS:

@@ -71,7 +71,7 @@ void FileObjects::Connect() {
     connect(ui_->lvwFile, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         options_->popup(ui_->lvwFile->viewport()->mapToGlobal(at));
     });
-    // Afterwards, since the list is read again while its editor still closes.
+    // Queued, since the list is read again while its editor is still closing.
     connect(
         files_, &FileListModel::Described, this,
         [](std::int32_t id, const QString& text) {
@@ -184,7 +184,7 @@ void FileObjects::AddFile() {
     AttachFiles({QString()});
 }
 
-/// An empty path is asked for.
+/// AttachFile asks for a path if it is empty.
 void FileObjects::AttachFiles(const QStringList& paths) {
     bool attached = false;
     Guarded([&] {
@@ -218,10 +218,10 @@ void FileObjects::dragEnterEvent(QDragEnterEvent* event) {
 
 void FileObjects::dropEvent(QDropEvent* event) {
     const QStringList files = LocalFiles(*event->mimeData());
-    // Nothing of the file is moved, and the program it came from mustn't think so.
+    // The file isn't moved, and the program it was dragged from must not think so.
     event->setDropAction(Qt::LinkAction);
     event->accept();
-    // That program waits until this event is over, so questions come after it.
+    // That program waits until this event has been handled, so any questions come after it.
     QMetaObject::invokeMethod(
         this, [this, files] { AttachFiles(files); }, Qt::QueuedConnection);
 }

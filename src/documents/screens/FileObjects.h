@@ -20,9 +20,9 @@ namespace documents::screens {
 
 class FileListModel;
 
-/// The panel of the files that are attached to a record: their list, the picture and the properties
-/// of the selected one. Files are added from a dialog or by dropping them here. The panel keeps
-/// itself current; its settings are kept under the names of its form and its own.
+/// The panel of the files attached to a record: their list, and the picture and properties of the
+/// selected one. Files are added from a dialog or by dropping them here. The panel refreshes
+/// itself; its settings are stored under its form's name and its own.
 class FileObjects : public QWidget {
     Q_OBJECT
 
@@ -30,19 +30,18 @@ class FileObjects : public QWidget {
     explicit FileObjects(QWidget* parent = nullptr);
     ~FileObjects() override;
 
-    /// Shows the files of a record. Without an id (a record that isn't saved) there is nothing to
-    /// do here.
+    /// Shows the files of a record; the panel is disabled if the record has no id yet.
     void SetRecord(std::int16_t dbType, std::int32_t id);
     /// Shows the files of all records instead; files are still added to the record.
     void SetShowAll(bool all);
 
-    /// Reads the list again; the selected file stays so.
+    /// Reads the list again; the selected file stays selected.
     void Refresh();
     /// Shows the picture and the properties of the selected file again.
     void UpdateFileList();
-    /// Selects a file; nothing when it isn't in the list.
+    /// Selects a file; does nothing if it isn't in the list.
     void ShowFileObject(std::int32_t id);
-    /// The selected file's id, 0 without one.
+    /// Returns the selected file's id, 0 if none is selected.
     std::int32_t SelectedId() const;
 
   protected:

@@ -7,8 +7,8 @@
 
 namespace documents::screens {
 
-/// Reads pictures behind the screen's back, one after the other, so that large ones don't hold it
-/// up. It touches nothing but their files.
+/// Reads pictures on a thread of its own, one after the other, so that large ones don't block the
+/// window. It uses nothing but the files.
 class PictureLoader : public QObject {
     Q_OBJECT
 
@@ -16,9 +16,9 @@ class PictureLoader : public QObject {
     explicit PictureLoader(QObject* parent = nullptr);
     ~PictureLoader() override;
 
-    /// Reads a picture; Loaded follows from the event loop.
+    /// Reads a picture; Loaded is emitted from the event loop.
     void Load(const QString& path, QSize bound);
-    /// Gives up what waits to be read.
+    /// Drops the pictures that haven't been read yet.
     void Forget();
 
   Q_SIGNALS:

@@ -6,7 +6,7 @@
 
 namespace documents::screens {
 
-/// Shows one picture as large as there is room, or says why there is none.
+/// Shows one picture as large as possible, or the reason why it can't be shown.
 class PicturePreview : public QWidget {
     Q_OBJECT
 
@@ -15,10 +15,10 @@ class PicturePreview : public QWidget {
 
     /// Reads and shows a picture.
     void ShowPicture(const QString& path);
-    /// Shows a text instead.
+    /// Shows text instead.
     void ShowText(const QString& text);
 
-    /// Null while no picture shows.
+    /// Returns null while no picture is shown.
     const QImage& Shown() const { return image_; }
     const QString& Text() const { return text_; }
 

@@ -9,17 +9,17 @@ namespace documents::screens {
 
 namespace {
 
-// Some formats are read whole before they are scaled down.
+// Some formats are decoded completely before they are scaled down.
 constexpr int kMostMegabytes = 256;
 constexpr qint64 kMostPixels = 300'000'000;
 
-/// The limit is the whole process's, and pictures are read on several threads.
+/// The limit applies to the whole process, and pictures are read on several threads.
 void LimitMemory() {
     static std::once_flag once;
     std::call_once(once, [] { QImageReader::setAllocationLimit(kMostMegabytes); });
 }
 
-/// The size to read at: the picture's own, or as much less as the bound asks for.
+/// Returns the size to read at: the picture's own, scaled down to the bound if necessary.
 QSize ReadSize(const QImageReader& reader, QSize own, QSize bound) {
     if (reader.transformation() & QImageIOHandler::TransformationRotate90) bound.transpose();
     if (own.width() <= bound.width() && own.height() <= bound.height()) return own;
@@ -29,7 +29,7 @@ QSize ReadSize(const QImageReader& reader, QSize own, QSize bound) {
 } // namespace
 
 PictureRead ReadPicture(const QString& path, QSize bound) {
-    // Anything but a file (a pipe, say) might never end.
+    // Reading anything but a file (a pipe, say) might never end.
     if (!QFileInfo(path).isFile()) return {{}, PictureFault::Missing};
     QImageReader reader(path);
     LimitMemory();

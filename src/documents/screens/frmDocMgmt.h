@@ -13,8 +13,8 @@ class frmDocMgmt;
 
 namespace documents::screens {
 
-/// The list of letter templates: which files there are, and for which kinds of records each is
-/// offered. What is ticked is written at once.
+/// The list of letter templates: the files, and the kinds of records that each is offered for.
+/// Ticks are saved immediately.
 class frmDocMgmt : public core::forms::Form {
     Q_OBJECT
 

@@ -17,7 +17,7 @@ namespace {
 constexpr int kName = 0;
 constexpr int kCount = 1;
 
-/// Names sort without regard to case, counts by their size.
+/// Sorts names ignoring case, and counts as numbers.
 class AccountRow : public QTreeWidgetItem {
   public:
     using QTreeWidgetItem::QTreeWidgetItem;

@@ -10,19 +10,18 @@ class QTreeWidget;
 
 namespace exchange::screens {
 
-// The accounts of the financial export, each with a check box; its id is the property of the row
-// that AccountOf reads.
+// The accounts of the financial export, a check box each. AccountOf returns the id of a row.
 
 enum class ShowCount { No, Yes };
 
 std::int32_t AccountOf(const QTreeWidgetItem& row);
-/// The checked accounts from the top.
+/// Returns the checked accounts from top to bottom.
 std::vector<std::int32_t> CheckedAccounts(const QTreeWidget& list);
 void CheckAll(QTreeWidget& list, Qt::CheckState state);
 
-/// Reads the accounts again; those that are checked stay so.
+/// Reads the accounts again; the checked ones stay checked.
 void FillAccounts(QTreeWidget& list);
-/// Counts what the export of each account would take, or hides the counts.
+/// Shows how many transactions of each account would be exported, or hides the counts.
 void FillCounts(QTreeWidget& list, const ExportRange& range, ShowCount show);
 
 } // namespace exchange::screens

@@ -96,7 +96,7 @@ void frmBackup::ShowConfig() {
     ui_->lblLastBackup->setText(ToScreen(LastBackupText(config_)));
 }
 
-/// A choice that was never made keeps what the file has.
+/// A setting that the user never made keeps its value from the file.
 void frmBackup::ReadConfig() {
     config_.backupPath = FromScreen(ui_->txtBackupPath->text().trimmed());
     if (!config_.backupPath.empty()) {
@@ -139,8 +139,8 @@ bool frmBackup::MayClose() {
     return core::forms::ShowErrorRoll(Errors());
 }
 
-/// A configuration that can't be written doesn't keep the screen, and with it the end of the
-/// program.
+/// A configuration that can't be saved doesn't keep the screen from closing, or the program from
+/// ending.
 void frmBackup::closeEvent(QCloseEvent* event) {
     Form::closeEvent(event);
     if (!event->isAccepted()) return;
@@ -149,7 +149,7 @@ void frmBackup::closeEvent(QCloseEvent* event) {
     if (closed_) std::exchange(closed_, {})();
 }
 
-/// Completes the line of a step that was running, or adds a line.
+/// Completes the line of a running step, or adds a line.
 void frmBackup::AddLine(const BackupLine& line) {
     const QString action = ToScreen(line.action);
     QTreeWidgetItem* row = nullptr;

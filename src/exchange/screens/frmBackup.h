@@ -12,7 +12,7 @@ class frmBackup;
 
 namespace exchange::screens {
 
-/// Makes backups, and says how and how often they are made.
+/// Makes backups, and holds the settings of how and how often they are made.
 class frmBackup : public core::forms::Form {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ class frmBackup : public core::forms::Form {
     explicit frmBackup(QWidget* parent = nullptr);
     ~frmBackup() override;
 
-    /// `closed` is called when the screen has closed; it may be empty.
+    /// `closed` is called after the screen has closed; it may be empty.
     void Setup(std::function<void()> closed = {});
 
   protected:

@@ -11,7 +11,7 @@ class frmCheck;
 
 namespace exchange::screens {
 
-/// Checks the database and the books, and shows what was found.
+/// Checks the database and the books, and lists the findings.
 class frmCheck : public core::forms::Form {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ class frmCheck : public core::forms::Form {
     explicit frmCheck(QWidget* parent = nullptr);
     ~frmCheck() override;
 
-    /// Shows the screen and checks.
+    /// Shows the screen and runs the check.
     void Setup();
 
   private:

@@ -46,7 +46,7 @@ int Selected(const std::array<QRadioButton*, 3>& choices) {
     return chosen;
 }
 
-/// The path that the export is remembered by.
+/// Returns the path under which the export is remembered.
 std::string WithoutExtension(const std::filesystem::path& file) {
     return (file.parent_path() / file.stem()).string();
 }
@@ -83,7 +83,7 @@ void frmFinExport::Connect() {
         box->setMinimumWidth(box->minimumSizeHint().width() +
                              box->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")));
         connect(box, &QLineEdit::editingFinished, this, [this, box] { DayEntered(*box); });
-        // A day picked from the calendar is written out in full; one that is being typed waits.
+        // A date picked from the calendar is already complete; one that is being typed isn't.
         connect(box, &QLineEdit::textChanged, this, [this, box](const QString& text) {
             if (!box->hasFocus() && text.size() == kWrittenOut) DayEntered(*box);
         });
@@ -127,7 +127,7 @@ void frmFinExport::ShowSettings() {
                                                                             : Qt::AscendingOrder);
 }
 
-/// The days are kept where they are entered.
+/// The dates are stored when they are entered.
 void frmFinExport::ReadSettings() {
     settings_.finType = static_cast<FinType>(Selected(types_));
     settings_.range.range = static_cast<TransRange>(Selected(ranges_));
@@ -156,7 +156,7 @@ void frmFinExport::FillList() {
 }
 
 void frmFinExport::RangeChanged() {
-    // While the settings are being shown, the later controls don't have theirs yet.
+    // While the settings are loaded, later controls don't show theirs yet.
     if (loading_) return;
     ReadSettings();
     const bool isDays = settings_.range.range == TransRange::DateRange;
@@ -166,7 +166,7 @@ void frmFinExport::RangeChanged() {
                settings_.showCount ? ShowCount::Yes : ShowCount::No);
 }
 
-/// A day that can't be used gives way to the former one.
+/// An invalid date is replaced by the previous one.
 void frmFinExport::DayEntered(core::binding::DateEdit& box) {
     if (loading_) return;
     const bool isStart = &box == ui_->dpTransStart;

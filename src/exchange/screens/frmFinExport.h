@@ -18,7 +18,7 @@ class DateEdit;
 
 namespace exchange::screens {
 
-/// The export of transactions for an outside bookkeeping program.
+/// The export of transactions to another bookkeeping program.
 class frmFinExport : public core::forms::Form {
     Q_OBJECT
 

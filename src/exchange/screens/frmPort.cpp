@@ -78,7 +78,7 @@ void frmPort::TabChanged() {
                                 : tr("Check the file, then write its records to the database"));
 }
 
-/// The box is filled by choosing a file.
+/// A click into the box chooses a file.
 bool frmPort::eventFilter(QObject* watched, QEvent* event) {
     const bool isClick = event->type() == QEvent::MouseButtonRelease &&
                          static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
@@ -107,7 +107,8 @@ void frmPort::Run(const std::function<void()>& work) {
     enable(true);
 }
 
-// While records are written no window messages run, so the status and progress are painted here.
+// No window messages are processed while records are written, so status and progress are painted
+// here.
 PortWatcher frmPort::Watcher() {
     return {.status =
                 [this](std::string_view lines) {
@@ -130,7 +131,7 @@ void frmPort::Execute() {
     }
 }
 
-/// In the order of the list, in whatever order they were selected.
+/// In the order of the list, not of the selection.
 void frmPort::Export() {
     std::vector<std::string> tables;
     for (int row = 0; row < ui_->lstTables->count(); ++row) {

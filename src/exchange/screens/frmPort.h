@@ -12,7 +12,7 @@ class frmPort;
 
 namespace exchange::screens {
 
-/// Moves the contents of tables to a text file and back.
+/// Exports tables to a text file and imports them.
 class frmPort : public core::forms::Form {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ class frmPort : public core::forms::Form {
     void Export();
     void Import(ImportMode mode);
     PortWatcher Watcher();
-    /// Runs `work` with the controls disabled; a failure is shown.
+    /// Runs `work` with the controls disabled; an error is shown.
     void Run(const std::function<void()>& work);
 
     std::unique_ptr<Ui::frmPort> ui_;

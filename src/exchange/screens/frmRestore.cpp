@@ -49,7 +49,7 @@ QTreeWidgetItem* MakeRow(const ContainerEntry& entry) {
     return row;
 }
 
-/// A folder beside the backup that isn't there yet.
+/// Returns the path of a new folder beside the backup.
 fs::path FreeFolderFor(const fs::path& container) {
     const fs::path wanted = container.parent_path() / (container.stem().string() + " restored");
     fs::path folder = wanted;

@@ -13,18 +13,18 @@ class frmRestore;
 
 namespace exchange::screens {
 
-/// Shows what a backup holds and extracts it into a new folder.
+/// Shows the contents of a backup and extracts it into a new folder.
 class frmRestore : public core::forms::Form {
     Q_OBJECT
 
   public:
-    /// Opens the database of a folder to be looked at.
+    /// Opens the database in a folder for reading.
     using OpenBooks = std::function<void(const std::filesystem::path& folder)>;
 
     explicit frmRestore(QWidget* parent = nullptr);
     ~frmRestore() override;
 
-    /// What was restored is offered to `open`, which may be empty.
+    /// `open`, which may be empty, is offered to the user after a restore.
     void Setup(OpenBooks open = {});
 
   private:

@@ -22,7 +22,7 @@ std::int32_t IdOf(const QListWidgetItem* item) {
     return item ? item->data(Qt::UserRole).toInt() : 0;
 }
 
-/// The key presses the button while the list has the focus.
+/// Makes the key press the button while the list has the focus.
 void AddShortcut(Qt::Key key, QWidget& list, QPushButton& button) {
     auto* const shortcut = new QShortcut(QKeySequence(key), &list);
     shortcut->setContext(Qt::WidgetShortcut);
@@ -93,8 +93,8 @@ void Contacts::Remove() {
     FillContacts(0);
 }
 
-/// Fields that can't be written stay on the screen, and the list goes back to their contact once it
-/// has finished moving.
+/// Fields that can't be saved stay on the screen, and once the list has finished moving it returns
+/// to their contact.
 void Contacts::MoveTo(QListWidgetItem* to) {
     if (Guarded([this] { SaveCurrent(); })) {
         id_ = IdOf(to);

@@ -14,8 +14,8 @@ class Contacts;
 
 namespace records::screens {
 
-/// The people and firms that belong to a record: their list, and the fields of one of them. A
-/// contact is written when it is added, when another is selected, and when its record is saved.
+/// The contacts of a record: a list of them, and the fields of the selected one. A contact is saved
+/// when it is added, when another is selected, and when its record is saved.
 class Contacts : public QWidget {
     Q_OBJECT
 
@@ -23,13 +23,13 @@ class Contacts : public QWidget {
     explicit Contacts(QWidget* parent = nullptr);
     ~Contacts() override;
 
-    /// Shows the contacts of a record of kind `dbType`; without an id there is nothing to do here.
+    /// Shows the contacts of a record of kind `dbType`; the panel is disabled if it has no id yet.
     void Load(std::int16_t dbType, std::int32_t idRelated);
-    /// Writes what was changed in the fields. Failures are thrown, the changes stay.
+    /// Saves the changed fields. Throws on failure, and the changes stay on the screen.
     void SaveCurrent();
 
   Q_SIGNALS:
-    /// Something in the fields isn't saved yet.
+    /// Emitted if the fields hold something that isn't saved yet.
     void Changed();
 
   private:

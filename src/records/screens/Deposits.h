@@ -8,7 +8,7 @@ class QTabBar;
 
 namespace records::screens {
 
-/// The deposit templates that a lease of a building's unit is charged by.
+/// The deposit templates that apply to a lease of a building's unit.
 class Deposits : public core::grid::RecordList {
     Q_OBJECT
 

@@ -5,8 +5,7 @@
 
 namespace records::screens {
 
-/// Puts a panel on the page of a tab that is made for it, under the name that its settings are kept
-/// by.
+/// Puts a panel on a tab's page, under the name that its settings are stored by.
 template <class Panel>
 Panel* PlacePanel(Panel* panel, QWidget& page, const char* name) {
     panel->setObjectName(QLatin1String(name));

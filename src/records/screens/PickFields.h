@@ -4,12 +4,12 @@ class QWidget;
 
 namespace records::screens {
 
-// The combo boxes of a form that remember what was typed into them: those with the property
-// "pickList" set.
+// Combo boxes that remember what was typed into them: those of a form with the property "pickList"
+// set.
 
-/// Offers what is remembered and leaves the boxes blank.
+/// Fills the boxes with the remembered texts and leaves them blank.
 void LoadPickFields(QWidget& form);
-/// Remembers what is new in them.
+/// Remembers the texts that are new in the boxes.
 void SavePickFields(const QWidget& form);
 
 } // namespace records::screens

@@ -6,14 +6,14 @@ class QTabBar;
 
 namespace records::screens {
 
-/// What hangs from a building or a unit, a tab for each list.
+/// The lists of everything that belongs to a building or a unit, a tab for each.
 class RelatedDBm : public RelatedPanel {
     Q_OBJECT
 
   public:
     explicit RelatedDBm(QWidget* parent = nullptr);
 
-    /// Shows the lists of a record; the tab stays where the kind does.
+    /// Shows the lists of a record; the tab stays selected if the kind doesn't change.
     void Load(std::int16_t dbType, std::int32_t id);
 
   private:

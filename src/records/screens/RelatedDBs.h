@@ -6,7 +6,7 @@ class QLabel;
 
 namespace records::screens {
 
-/// The one list that hangs from a tenant, a work order or an appliance.
+/// The list of what belongs to a tenant, a work order or an appliance.
 class RelatedDBs : public RelatedPanel {
     Q_OBJECT
 

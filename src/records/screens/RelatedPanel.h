@@ -6,15 +6,15 @@
 
 namespace records::screens {
 
-/// What RelatedDBm and RelatedDBs have in common: the present list of an owner, kept current by
-/// itself.
+/// The common part of RelatedDBm and RelatedDBs: shows one list of an owner and refreshes it when
+/// its records change.
 class RelatedPanel : public core::grid::RecordList {
     Q_OBJECT
 
   protected:
     explicit RelatedPanel(QWidget* parent);
 
-    /// Shows the records of an owner; none while it has no id, or without a list.
+    /// Shows the records of an owner; nothing while it has no id, or without a list.
     void ShowList(const RelatedList* list, const RelatedOwner& owner);
 
   private:

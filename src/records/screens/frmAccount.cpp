@@ -97,7 +97,7 @@ void frmAccount::Refresh(std::int16_t kind) {
     if (kind == core::kAccount) FillTypes();
 }
 
-/// The text in the box stays: it is the account's own, or being typed.
+/// Refills the list but keeps the text in the box: it is the account's own type, or being typed.
 void frmAccount::FillTypes() {
     const std::string text = FromScreen(details_->cboAccountType->currentText());
     const QSignalBlocker quiet(details_->cboAccountType);

@@ -24,7 +24,7 @@ namespace records::screens {
 
 class Contacts;
 
-/// A party that money goes to or comes from, or a bank account of the owner's own.
+/// A party that money comes from or goes to, or the owner's own bank account.
 class frmAccount : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ class frmAccount : public core::forms::RecordForm {
     explicit frmAccount(QWidget* parent = nullptr);
     ~frmAccount() override;
 
-    /// Opens an account, or a new one of the type.
+    /// Opens an account, or a new one of type `newType`.
     void Setup(std::int32_t id, std::string_view newType = {});
 
   protected:

@@ -26,7 +26,7 @@ class frmAppliance : public core::forms::RecordForm {
     explicit frmAppliance(QWidget* parent = nullptr);
     ~frmAppliance() override;
 
-    /// Opens an appliance, or a new one of `parentUnit`.
+    /// Opens an appliance, or a new one in `parentUnit`.
     void Setup(std::int32_t id, std::int32_t parentUnit);
 
   protected:

@@ -1,4 +1,4 @@
-// The life of the building's screen: its making, what it reads and what it writes.
+// The building's screen: construction, reading and saving.
 
 #include "records/screens/frmBuilding.h"
 
@@ -99,7 +99,7 @@ void frmBuilding::FillAccounts() {
           services_->cboSewageAccount, services_->cboCableAccount, services_->cboTrashAccount});
 }
 
-/// Accounts are only proposed where any name may be typed; what is there stays.
+/// Accounts are only proposed where any name may be typed; the typed text stays.
 void frmBuilding::FillFreeAccounts() {
     for (QComboBox* const combo : {financial_->cboPurchFrom, financial_->cboPurchAgent,
                                    financial_->cboSoldTo, financial_->cboCloseAgent}) {
@@ -113,8 +113,8 @@ void frmBuilding::Propose(std::int32_t fromUnit) {
     place_->txtCounty->setText(ToScreen(core::Config().DefaultCounty));
     place_->txtState->setText(ToScreen(core::Config().DefaultState));
     if (fromUnit == 0) return;
-    // Shown as of a stored building, so that no list loses what it doesn't offer, and then the
-    // contents of a new one.
+    // Shown first as a stored building, so that the lists add values they don't offer, and then as
+    // the copy that a new one starts with.
     ShownFields building{std::string(kBuildingTable)};
     ShownFields unit{std::string(kUnitTable)};
     platform::Recordset row = FindById(kBuildingTable, core::GetUnitBuilding(fromUnit));
@@ -129,7 +129,7 @@ void frmBuilding::ShowRow(platform::Recordset& row) {
     ShowUnit();
 }
 
-/// Without a unit of its own choice the screen shows the building's first.
+/// Shows the unit, or the building's first if none was asked for.
 void frmBuilding::ShowUnit() {
     if (idUnit_ == 0) {
         const auto units = UnitsOf(Id());
@@ -163,7 +163,7 @@ std::vector<std::string> frmBuilding::Errors() {
     return BuildingErrors(FromScreen(place_->txtAddress->text()));
 }
 
-/// The building and its unit, both or neither.
+/// Saves the building and its unit, both or neither.
 void frmBuilding::Store() {
     const std::int32_t building = Id();
     const std::int32_t unit = idUnit_;
@@ -210,7 +210,7 @@ void frmBuilding::Refresh(std::int16_t kind) {
     if (kind == core::kUnit && Id() != 0) FillUnits();
 }
 
-/// Leases write the status of their unit, other screens its other fields.
+/// Leases change the unit's status, and other screens its other fields.
 void frmBuilding::FollowOthers(const core::binding::Controls& /*touched*/) {
     platform::Recordset row = FindById(kUnitTable, idUnit_);
     if (row.Eof()) return ShowAnotherUnit();

@@ -36,15 +36,15 @@ class frmBuilding : public core::forms::RecordForm {
     explicit frmBuilding(QWidget* parent = nullptr);
     ~frmBuilding() override;
 
-    /// Opens a building, or the building of a unit; with neither a new one, which starts as a copy
+    /// Opens a building, or a unit's building. With neither, a new building, which starts as a copy
     /// of `fromUnit` and its building unless that is 0.
     void Setup(std::int32_t idBuilding, std::int32_t idUnit, std::int32_t fromUnit = 0);
 
     std::int32_t UnitId() const { return idUnit_; }
-    /// Shows another unit of the building; changes are saved first, and when they are refused
-    /// nothing happens. False then.
+    /// Saves the changes and shows another unit of the building. Returns false and does nothing if
+    /// the save is refused.
     bool SelectUnit(std::int32_t idUnit);
-    /// Adds a unit to a building of several, or makes a building of several of this one.
+    /// Adds a unit to a building of several, or turns this property into a building of several.
     void AddUnit();
 
   protected:
@@ -98,7 +98,8 @@ class frmBuilding : public core::forms::RecordForm {
     core::binding::ShownFields unitFields_{"Unit"};
 };
 
-/// Opens a building or unit as asked, in the form that has the building open if there is one.
+/// Opens the building or unit of a request, in the form that shows the building already if there is
+/// one.
 void OpenBuilding(const core::EditRequest& request);
 
 } // namespace records::screens

@@ -67,7 +67,7 @@ void frmBuilding::Connect() {
     });
 }
 
-/// A link keeps the colour of the palette that it was made in.
+/// A link keeps the colour of the palette it was created with, so it is made again.
 void frmBuilding::changeEvent(QEvent* event) {
     RecordForm::changeEvent(event);
     if (event->type() != QEvent::PaletteChange || !isVisible()) return;
@@ -96,7 +96,7 @@ void frmBuilding::ShowDepreciation() {
                     FromScreen(financial_->dpPurchDate->text()),
                     FromScreen(financial_->cboDeprMethod->currentText()),
                     NumberIn(*financial_->txtDeprPeriod));
-    // It destroys itself when it closes.
+    // The window deletes itself when it closes.
     static_cast<void>(schedule.release());
 }
 

@@ -1,4 +1,4 @@
-// The units of a building on its screen: choosing one, adding one, and what hangs from it.
+// The units on the building's screen: choosing one, adding one, and the lists that belong to it.
 
 #include <QApplication>
 #include <QTabBar>
@@ -25,7 +25,7 @@ using core::forms::Guarded;
 
 namespace {
 
-/// The form that has the building open.
+/// Returns the form that shows the building; null if there is none.
 frmBuilding* FindOpen(std::int32_t idBuilding) {
     for (QWidget* const window : QApplication::topLevelWidgets()) {
         auto* const form = qobject_cast<frmBuilding*>(window);
@@ -81,7 +81,7 @@ void frmBuilding::UnitChosen() {
     core::binding::SelectById(*ui_->cboSelUnit, idUnit_);
 }
 
-/// Saves what was changed; false when that was refused or failed.
+/// Saves the changes; returns false if the save is refused or fails.
 bool frmBuilding::SaveChanges() {
     if (Dirty()) Apply();
     return !Dirty();

@@ -23,7 +23,7 @@ class frmContent : public core::forms::RecordForm {
     explicit frmContent(QWidget* parent = nullptr);
     ~frmContent() override;
 
-    /// Opens an item, or a new one of `parentUnit`.
+    /// Opens an item, or a new one in `parentUnit`.
     void Setup(std::int32_t id, std::int32_t parentUnit);
 
   protected:

@@ -68,7 +68,7 @@ void frmDeposit::ShowScope(DepositScope scope) {
     OfferPlaces();
 }
 
-/// A template is for one of the three, so the others name no building and no unit.
+/// A template has one scope, so the boxes of the other scopes name no building and no unit.
 void frmDeposit::OfferPlaces() {
     const DepositScope scope = Scope();
     ui_->cboBuilding->setEnabled(scope == DepositScope::Building);

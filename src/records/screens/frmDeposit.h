@@ -12,7 +12,7 @@ class frmDeposit;
 
 namespace records::screens {
 
-/// A deposit that new leases are charged: all of them, those of a building or those of a unit.
+/// A deposit template: for all new leases, or for those of a building or a unit.
 class frmDeposit : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ class frmDeposit : public core::forms::RecordForm {
     explicit frmDeposit(QWidget* parent = nullptr);
     ~frmDeposit() override;
 
-    /// Opens a template, or a new one that is proposed for `scope` of `place`.
+    /// Opens a template, or a new one proposed for `scope` of `place`.
     void Setup(std::int32_t id, DepositScope scope, const DepositPlace& place);
 
   protected:
@@ -37,7 +37,7 @@ class frmDeposit : public core::forms::RecordForm {
     std::unique_ptr<Ui::frmDeposit> ui_;
 };
 
-/// Opens a template (0 for a new one) unless it is open, which brings it to the front.
+/// Opens a template (0 for a new one), or brings its open screen to the front.
 void OpenDeposit(std::int32_t id, DepositScope scope, const DepositPlace& place);
 
 } // namespace records::screens

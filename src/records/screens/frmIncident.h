@@ -19,7 +19,7 @@ class frmIncident : public core::forms::RecordForm {
     explicit frmIncident(QWidget* parent = nullptr);
     ~frmIncident() override;
 
-    /// Opens an incident, or a new one of `parentTenant`, dated today.
+    /// Opens an incident, or a new one for `parentTenant`, dated today.
     void Setup(std::int32_t id, std::int32_t parentTenant);
 
   protected:

@@ -11,7 +11,7 @@ class frmManagerLink;
 
 namespace records::screens {
 
-/// One manager of a building, and the terms.
+/// One manager of a building, with the terms.
 class frmManagerLink : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ class frmManagerLink : public core::forms::RecordForm {
     explicit frmManagerLink(QWidget* parent = nullptr);
     ~frmManagerLink() override;
 
-    /// Opens a manager, or a new one of `parentBuilding`.
+    /// Opens a manager, or a new one for `parentBuilding`.
     void Setup(std::int32_t id, std::int32_t parentBuilding);
 
   protected:

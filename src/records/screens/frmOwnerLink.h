@@ -19,7 +19,7 @@ class frmOwnerLink : public core::forms::RecordForm {
     explicit frmOwnerLink(QWidget* parent = nullptr);
     ~frmOwnerLink() override;
 
-    /// Opens an owner, or a new one of `parentBuilding`.
+    /// Opens an owner, or a new one for `parentBuilding`.
     void Setup(std::int32_t id, std::int32_t parentBuilding);
 
   protected:

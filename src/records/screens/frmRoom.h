@@ -23,7 +23,7 @@ class frmRoom : public core::forms::RecordForm {
     explicit frmRoom(QWidget* parent = nullptr);
     ~frmRoom() override;
 
-    /// Opens a room, or a new one of `parentUnit`.
+    /// Opens a room, or a new one in `parentUnit`.
     void Setup(std::int32_t id, std::int32_t parentUnit);
 
   protected:

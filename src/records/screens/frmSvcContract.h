@@ -19,7 +19,7 @@ class frmSvcContract : public core::forms::RecordForm {
     explicit frmSvcContract(QWidget* parent = nullptr);
     ~frmSvcContract() override;
 
-    /// Opens a contract, or a new one on a building and, unless that is 0, an appliance.
+    /// Opens a contract, or a new one for a building and, unless `idAppliance` is 0, its appliance.
     void Setup(std::int32_t id, std::int32_t idBuilding, std::int32_t idAppliance);
 
   protected:

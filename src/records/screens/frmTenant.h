@@ -25,7 +25,7 @@ namespace records::screens {
 class Contacts;
 class RelatedDBs;
 
-/// A person who rents, or wants to.
+/// A tenant or an applicant.
 class frmTenant : public core::forms::RecordForm {
     Q_OBJECT
 
