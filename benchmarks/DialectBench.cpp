@@ -1,4 +1,4 @@
-// What compiling a statement of the dialect costs: all statements that the program uses, against
+// The cost of compiling a statement of the dialect: all statements that the program uses, against
 // the tables of the books.
 #include <algorithm>
 #include <chrono>

@@ -5,7 +5,7 @@
 
 namespace bench {
 
-/// What one piece of work cost.
+/// The cost of one piece of work.
 struct Cost {
     double seconds = 0;
     /// Peak resident size of the process that did it.

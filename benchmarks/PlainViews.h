@@ -6,7 +6,7 @@
 
 namespace bench {
 
-// What the window is held against: the same statements, run by the engine's own C calls. A
+// The reference of the window: the same statements, run by the engine's own C calls. A
 // statement is one of the program's dialect; it is compiled outside the time that is taken.
 
 /// Counts the rows of a statement, then reads the first `rows` of it: what a page of a list needs.

@@ -45,7 +45,7 @@ void OpenBooks(const support::TemporaryFolder& folder) {
     reports::LoadReportList();
 }
 
-/// What a run of the viewer was like for who sat before it.
+/// How a run of the viewer felt to its user.
 struct Patience {
     double firstPage = 0;
     double longestPause = 0;

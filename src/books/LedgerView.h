@@ -23,7 +23,7 @@ inline constexpr std::array<LedgerPeriod, 7> kLedgerPeriods = {{{"Last 30 days",
                                                                 {"Last 2 Years", 731},
                                                                 {"All", 0}}};
 
-/// Whether a unit's ledger shows its own transactions or those of the whole building.
+/// Whether a unit's ledger also shows the transactions of its whole building.
 enum class LedgerScope { Unit, Building };
 
 /// The record whose transactions a ledger shows, and which of them.

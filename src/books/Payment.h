@@ -32,7 +32,7 @@ struct Payment {
 /// Returns the transaction of a payment, as far as the payment's own entries determine it.
 Transaction TransactionOf(const Payment& payment, platform::Currency amount);
 
-/// Posts the transaction of a new payment, or rewrites that of a stored one; returns its id.
+/// Posts the transaction of a new payment, or rewrites a stored payment's; returns its id.
 std::int32_t StoreTransaction(const Payment& payment, const Transaction& transaction);
 
 /// Rows of a charge ledger to be deleted after a question.

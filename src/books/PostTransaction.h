@@ -51,7 +51,7 @@ struct Transaction : References {
 enum class Triggers { Fire, Skip };
 
 /// Adds a row to the transactions; rows reach the table in no other way. Before the commit, the
-/// events of its debit party run, then those of its credit party, and the registered listeners are
+/// events of its debit party run, then its credit party's, and the registered listeners are
 /// called; all of it is one unit of work. Open lists are refreshed after the commit of the
 /// outermost unit. Returns the new row's id. Throws on failure.
 std::int32_t PostTransaction(const Transaction& transaction, Triggers triggers = Triggers::Fire);

@@ -81,8 +81,8 @@ class SeededChance {
     std::mt19937 engine_;
 };
 
-/// Returns a vehicle for a day, at random by the shares of the vehicles in use then; null if there
-/// are none.
+/// Returns a vehicle for a day, at random by the shares of the vehicles in use then; null if no
+/// vehicle is in use.
 const PlanVehicle* PickVehicle(const TripPlan& plan, platform::Date day, const Chance& chance);
 
 /// Returns the length of a trip to a building, spread evenly around its distance.

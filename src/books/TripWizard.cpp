@@ -51,7 +51,7 @@ std::vector<std::string> PlanCategories(Date from, Date to) {
 
 std::vector<PlanVehicle> PlanVehicles(Date from, Date to) {
     constexpr double kWhole = 100;
-    // Those of the log, after the row "All".
+    // The vehicles of the log, after the row "All".
     std::vector<core::Choice> known = TripFilterItems(TripField::Vehicle).Rows();
     if (!known.empty()) known.erase(known.begin());
     if (known.empty()) known = KnownVehicles().Rows();

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Returns the first table or field of the books that this database lacks; empty if it has all.
+/// Returns the first table or field that this database lacks; empty if it has all.
 std::string MissingPart(const platform::dialect::Catalog& tables) {
     for (const store::TableDefinition& wanted : store::BooksTables()) {
         const auto* const table = tables.Find(wanted.name);

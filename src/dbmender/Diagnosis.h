@@ -19,7 +19,7 @@ enum class Condition {
     Damaged,    ///< the engine's check finds faults in the file
 };
 
-/// What is known of a database.
+/// The state of a database.
 struct Diagnosis {
     Condition condition = Condition::Ready;
     std::filesystem::path folder; ///< empty if it isn't registered
@@ -30,13 +30,13 @@ struct Diagnosis {
 /// Whether the engine checks the whole file, which takes a while for large books.
 enum class Depth { Tables, WholeFile };
 
-/// Examines the database in a folder, which is only read.
+/// Examines the database in a folder without changing it.
 Diagnosis Examine(const std::filesystem::path& folder, Depth depth = Depth::Tables);
 
 /// Examines the whole database that is registered under this name.
 Diagnosis ExamineRegistered(const std::string& dbName);
 
-/// Returns what is wrong, with its place, in a sentence for the user.
+/// Returns a sentence for the user about what is wrong, and where.
 std::string Explain(const Diagnosis& diagnosis);
 
 } // namespace dbmender

@@ -7,7 +7,7 @@ namespace dbmender {
 
 using platform::EqualIgnoringCase;
 
-// Paths contain "/", so here a switch is a whole argument and its value the rest of it.
+// Paths contain "/", so here a switch is a whole argument, with its value.
 MenderLine ReadMenderLine(std::span<const char* const> words) {
     MenderLine line;
     line.dbName = core::kDefaultDatabase;

@@ -9,7 +9,7 @@ namespace dbmender {
 struct MenderLine {
     /// Whether to ask the user to close the other programs; the caller may have done so.
     bool warns = true;
-    /// The program to start afterwards; empty for none.
+    /// The program to start afterwards; may be empty.
     std::string appStart;
     /// The registered name of the database.
     std::string dbName;

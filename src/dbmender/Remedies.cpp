@@ -54,8 +54,8 @@ std::string ObjectionToMaking(const fs::path& folder) {
     return {};
 }
 
-/// Makes the zip codes and tax offices, which lie beside the program once for all databases. The
-/// books can do without them.
+/// Creates the zip codes and tax offices, which are stored beside the program once for all
+/// databases. The books can do without them.
 void MakeReferences() {
     if (core::App().HasReferences) return;
     try {

@@ -26,14 +26,14 @@ struct Choice {
 std::vector<Remedy> RemediesFor(const Diagnosis& diagnosis);
 
 /// Returns the folder to propose: the database's own if it can be used, otherwise one without a
-/// database. Never proposes to make a database inside a build folder.
+/// database. Never proposes to create a database inside a build folder.
 std::filesystem::path ProposedFolder(const Diagnosis& diagnosis, Remedy remedy);
 
 /// Returns why the choice isn't possible; empty if it is.
 std::string Objection(const Choice& choice);
 
-/// Applies the remedy and registers the folder under the name. Throws Error if that fails; a
-/// database that was made by then stays. What `progress` throws ends the making of the sample.
+/// Applies the remedy and registers the folder under the name. Throws Error on failure; a database
+/// created by then stays. An exception from `progress` ends the making of the sample.
 void Apply(const Choice& choice, const std::string& dbName,
            const shell::SampleProgress& progress = {});
 

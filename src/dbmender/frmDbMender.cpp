@@ -26,7 +26,7 @@ constexpr std::array kRemedies = {Remedy::WriteVersion, Remedy::UseExisting, Rem
                                   Remedy::MakeSample};
 constexpr std::string_view kTitle = "Database Mender";
 
-/// Thrown to end the making of a sample when the user cancels it.
+/// Thrown to stop making a sample when the user cancels it.
 struct Cancelled {};
 
 } // namespace
@@ -81,7 +81,7 @@ void frmDbMender::OfferRemedies() {
     ButtonOf(offered.front()).setChecked(true);
 }
 
-/// Keeps a folder that the user has given; replaces a proposal by the next one.
+/// Keeps a folder entered by the user; replaces a proposal by the next one.
 void frmDbMender::RemedyChosen() {
     const Remedy remedy = Chosen().remedy;
     const bool isOwn = !ui_->txtFolder->text().isEmpty() && ui_->txtFolder->text() != proposed_;

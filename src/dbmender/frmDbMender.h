@@ -34,7 +34,7 @@ class frmDbMender : public QDialog {
 
     void Setup();
 
-    /// Escape and Cancel: first ends the making of a sample.
+    /// Escape and Cancel: the first one only stops making a sample.
     void reject() override;
 
   protected:
@@ -48,7 +48,7 @@ class frmDbMender : public QDialog {
     void MakeRoom();
     void Browse();
     void Restore();
-    /// Opens what was restored to be read only, and proposes to use it.
+    /// Opens restored books read-only, and proposes to use them.
     void OpenRestored(const std::filesystem::path& folder);
     void Mend();
     void StartAgain();

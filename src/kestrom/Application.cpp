@@ -21,7 +21,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 /// Shows one box at a time: a window that fails while it is painted would fail again behind the
-/// box, without end.
+/// box, endlessly.
 void Application::Show(const std::exception& failure) {
     std::fprintf(stderr, "kestrom: %s\n", failure.what());
     if (showing_) return;

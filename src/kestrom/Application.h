@@ -4,7 +4,7 @@
 
 namespace kestrom {
 
-/// Owns the event loop. Shows an error that an event handler lets through, and goes on.
+/// Owns the event loop. Shows an error that escapes from an event handler, and continues.
 class Application : public QApplication {
     Q_OBJECT
 

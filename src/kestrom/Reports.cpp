@@ -28,7 +28,7 @@ void PrintSelected(const shell::screens::Selection& selection) {
     reports::PrintReport(selection.id, index);
 }
 
-/// The paper and the margins that reports are laid out for.
+/// Shows the page set-up that reports are laid out for.
 void SetUpPages() {
     static QPointer<reports::screens::frmPageSetup> form;
     if (form) return form->activateWindow();

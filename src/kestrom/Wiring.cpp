@@ -51,7 +51,7 @@ namespace kestrom {
 
 namespace {
 
-/// Opens a screen of which there is only one; brings it to the front if it is open.
+/// Opens a screen that exists only once, or brings it to the front.
 template <class Screen>
 void OpenOnce() {
     for (QWidget* const window : QApplication::topLevelWidgets()) {
@@ -64,7 +64,7 @@ void OpenOnce() {
     (new Screen)->Setup();
 }
 
-/// Registers the editor of a record that belongs to one other.
+/// Registers the editor of a record that belongs to another one.
 template <class Screen>
 void RegisterChild(std::int16_t kind) {
     core::RegisterOpener(kind, [](const core::EditRequest& request) {

@@ -4,10 +4,10 @@
 
 namespace kestrom {
 
-/// Registers what needs windows: dialogs, help, the open records and the message pump.
+/// Registers everything that needs windows: dialogs, help, the open records and the message pump.
 void RegisterPlatform();
 
-/// Registers the editor of each record kind, and the menu of letters that all editors have.
+/// Registers the editor of each record kind, and the letters menu that all editors have.
 void RegisterEditors();
 
 /// Returns the menu items that open screens of other rooms.

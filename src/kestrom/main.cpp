@@ -43,7 +43,7 @@ shell::screens::WindowServices Services(const shell::CommandLine& line) {
             reports::RunReport(reports::kScratchReport);
         };
     }
-    // Books that are only looked at aren't backed up either.
+    // Books opened read-only aren't backed up either.
     if (!line.readOnly) {
         services.backupNotice = exchange::BackupNotice;
         services.end.isBackupWanted = exchange::IsBackupDue;
@@ -75,7 +75,7 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
         endAsked = true;
         platform::qt::DismissDialogs();
         if (!window) return;
-        // The backup screen may stand there after the window has ended.
+        // The backup screen may still be open after the window has ended.
         if (window->HasEnded()) QCoreApplication::quit();
         window->EndUnasked();
     });

@@ -4,9 +4,9 @@
 
 namespace leases {
 
-/// Charges a new lease with every deposit template that applies to its unit: the global ones, those
-/// of the unit's building and those of the unit. Dated today; one unit of work; failures are
-/// thrown.
+/// Charges a new lease with every deposit template that applies to its unit: the templates for all
+/// leases, for the unit's building and for the unit. Dated today. One unit of work. Throws on
+/// failure.
 void ChargeDeposits(std::int32_t idLease, std::int32_t idUnit);
 
 } // namespace leases

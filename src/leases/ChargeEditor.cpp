@@ -45,7 +45,7 @@ platform::Currency InCents(platform::Currency amount) {
 
 void SaveCharge(platform::Recordset& row, std::int32_t idTransactionRead) {
     platform::UnitOfWork unit(core::App().Connection);
-    // A charge paid since would be settled by a payment of another amount.
+    // A charge paid since then would be settled by a payment of another amount.
     if (platform::IdOf(row["IdTransaction"]) != idTransactionRead) {
         throw platform::ConflictError(
             idTransactionRead == 0

@@ -10,17 +10,17 @@
 
 namespace leases {
 
-/// What the screen of one charge is called, by the class of the charge.
+/// Returns the title of the screen of one charge, by the charge's class.
 std::string_view ChargeCaption(RentClass rentClass);
 
-/// The categories that the screen offers. The last one is what a new charge starts with.
+/// Returns the categories that the screen offers. A new charge starts with the last one.
 std::vector<std::string> ChargeCategories(RentClass rentClass);
 
-/// Saves a row of the ledger as the screen has filled it in, and the lease's balances with it, in
-/// one unit of work. Throws ConflictError if the row isn't settled by `idTransactionRead` any more
-/// (0: open), as it was when the screen read it.
+/// Saves a row of the ledger, filled in by the screen, and the lease's balances in one unit of
+/// work. Throws ConflictError if the row's payment is no longer `idTransactionRead` (0: open), as
+/// it was when the screen read it.
 void SaveCharge(platform::Recordset& row, std::int32_t idTransactionRead);
-/// An amount in whole cents, halves away from zero.
+/// Rounds an amount to whole cents, halves away from zero.
 platform::Currency InCents(platform::Currency amount);
 
 } // namespace leases

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t kNamed = 10;
 
-/// "05/06/2024, Late Fee, 40.00" on a line of its own; empty for a row that was deleted.
+/// Returns "05/06/2024, Late Fee, 40.00" on a line of its own; empty for a deleted row.
 std::string NameOf(std::int32_t idRentLog) {
     platform::Recordset row = core::Read(
         "SELECT DatePosted, Description, Amount FROM RentLog WHERE IdRentLog = ?", {idRentLog});
@@ -28,7 +28,7 @@ std::string NameOf(std::int32_t idRentLog) {
                        platform::FormatMoney(MoneyOf(row["Amount"])));
 }
 
-/// Empty for one row, which is asked about as any other record.
+/// Returns an empty question for one row, which gets the usual question of its kind.
 std::string QuestionOf(std::string_view question, const std::vector<std::int32_t>& ids) {
     if (ids.size() == 1) return {};
     const std::string names = books::NameFirst(ids, kNamed, NameOf);

@@ -8,7 +8,7 @@
 
 namespace leases {
 
-/// What a person does to a lease by hand.
+/// The commands by which the user changes a lease by hand.
 enum class LeaseCommand {
     GiveNotice,
     BreakLease,
@@ -18,17 +18,17 @@ enum class LeaseCommand {
     RollForward
 };
 
-/// Asks whether it is meant; true for Yes.
+/// Asks the user to confirm a command; returns true for Yes.
 bool AskWhether(LeaseCommand command);
 
-/// Does it to a stored lease. `noticeDays` is the time that a tenant has who gives notice. One unit
-/// of work; failures are thrown. Nothing for a lease that isn't there.
+/// Runs a command on a stored lease. `noticeDays` is the tenant's period of notice. One unit of
+/// work. Throws on failure. Does nothing if the lease doesn't exist.
 void RunCommand(LeaseCommand command, std::int32_t idLease, int noticeDays);
 
-/// What the commands of a lease do once the user has agreed: sets its status and the vacating date
-/// (unset clears it), lets the calendar work out the true status of today, makes unit and tenant
-/// follow, and tells the open screens. "Pending" stands for "whatever the dates say". One unit of
-/// work; failures are thrown. Nothing for a lease that isn't there.
+/// The work of the lease commands once the user has agreed: sets the status and the vacating date
+/// (unset clears it), lets the calendar determine today's true status, updates unit and tenant, and
+/// broadcasts the changes. "Pending" means "whatever the dates say". One unit of work. Throws on
+/// failure. Does nothing if the lease doesn't exist.
 void ChangeStatus(std::int32_t idLease, std::string_view newStatus, platform::Date vacating);
 
 } // namespace leases

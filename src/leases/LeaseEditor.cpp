@@ -67,7 +67,7 @@ std::vector<std::string> LeaseErrors(const LeaseEntry& entry) {
     if (entry.idUnit == 0) lines.emplace_back("A unit must be specified.");
     if (entry.idTenant == 0) lines.emplace_back("A tenant must be specified.");
     if (entry.rent.IsZero()) lines.emplace_back("Rent rate should not be zero.");
-    // Nothing could be charged, and nothing would fall due.
+    // Without it nothing could be charged or fall due.
     if (!entry.hasNextDue) lines.emplace_back("A next due date must be specified.");
     return lines;
 }
@@ -77,7 +77,7 @@ void SaveLease(Recordset& row, LeaseAge age) {
     const bool isNew = age == LeaseAge::New;
     if (isNew) BeginLease(row);
     SetLeaseStatus(row, platform::Today(), isNew ? StatusChange::Force : StatusChange::IfDifferent);
-    // The screen showed the balances rounded, and may have shown them for long.
+    // The balances on the screen are rounded, and may be out of date.
     SetLeaseBalances(row);
     SetRentStatus(row);
     row.Update();

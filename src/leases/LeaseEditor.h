@@ -11,14 +11,14 @@
 
 namespace leases {
 
-/// The day that a new lease is proposed to start on.
+/// Returns the date on which a new lease is proposed to start.
 platform::Date FirstOfNextMonth();
 
-/// Opens `row` on a lease that isn't stored, with what a new one starts from: the first of the next
-/// month, and the settings of the books. For a screen to show; failures are thrown.
+/// Opens `row` on a new lease that isn't stored, with its proposed contents: the first of the next
+/// month, and the settings of the books. For a screen to show. Throws on failure.
 void ProposeLease(platform::Recordset& row);
 
-/// What the lease screen holds that is tested before a save.
+/// The entries of the lease screen that are checked before a save.
 struct LeaseEntry {
     std::int32_t idUnit = 0;
     std::int32_t idTenant = 0;
@@ -26,30 +26,30 @@ struct LeaseEntry {
     bool hasNextDue = false;
 };
 
-/// What is wrong with it, a line each.
+/// Returns the errors in the entries, a line each; empty if they can be saved.
 std::vector<std::string> LeaseErrors(const LeaseEntry& entry);
 
 enum class LeaseAge { New, Stored };
 
-/// Writes a lease's row that the screen has filled in. A new lease is pending until its dates say
-/// otherwise, takes the accounts of the settings and is charged the deposits of its unit; unit and
-/// tenant take their status at once. One unit of work; failures are thrown.
+/// Saves a lease's row, filled in by the screen. A new lease is pending until its dates say
+/// otherwise, takes its accounts from the settings and is charged the deposits of its unit; unit
+/// and tenant get their status. One unit of work. Throws on failure.
 void SaveLease(platform::Recordset& row, LeaseAge age);
 
-/// What a lease of a status allows on its screen.
+/// What a lease of some status allows on its screen.
 struct LeaseAvailability {
     bool giveNotice = false;
     bool breakLease = false;
     bool cancelNotice = false;
     bool renewLease = false;
-    /// Reprocess and roll forward.
+    /// Whether Reprocess and Roll Forward are allowed.
     bool runs = true;
     bool dateActive = true;
     bool dateRenewed = true;
     bool dateVacating = true;
-    /// The day of leaving has no meaning, so none shows.
+    /// Whether the vacating date has no meaning and is left blank.
     bool blankVacating = false;
-    /// Tenant and unit can still be chosen.
+    /// Whether tenant and unit can still be chosen.
     bool parties = false;
 
     friend bool operator==(const LeaseAvailability&, const LeaseAvailability&) = default;
@@ -57,16 +57,16 @@ struct LeaseAvailability {
 
 LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view word);
 
-/// Whether a lease of this term type has an end: one that runs on from week to week or month to
-/// month has none.
+/// Returns whether a lease of this term type has an end; one that runs from week to week or month
+/// to month has none.
 bool HasEnd(std::string_view termType);
 
-/// The balances of a lease as its ledger has them now, in a row that is not written: for a screen
-/// to show. No current row when the lease has gone.
+/// Opens `row` with the lease's balances as its ledger has them now; the row isn't stored, only
+/// shown on a screen. There is no current row if the lease was deleted.
 void ReadBalances(platform::Recordset& row, std::int32_t idLease);
 
-/// Stores the balances of a lease after a change of its ledger and tells the screens; does nothing
-/// for a lease that was deleted. Failures are thrown.
+/// Stores a lease's balances after a change of its ledger and broadcasts it; does nothing if the
+/// lease was deleted. Throws on failure.
 void StoreBalances(std::int32_t idLease);
 
 } // namespace leases

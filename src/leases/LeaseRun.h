@@ -4,9 +4,9 @@
 
 namespace leases {
 
-/// Brings every lease up to date, in the order of the table. A lease that fails is told to the
-/// listener and left as it was; the others go on. Many leases are kept at a time, and told once
-/// they are.
+/// Brings every lease up to date, in the order of the table. A lease that fails is reported to the
+/// listener and left unchanged; the others are processed. Many leases are committed together, and
+/// reported after that.
 void UpdateLeases(core::RunListener& listener);
 
 } // namespace leases

@@ -7,26 +7,26 @@
 
 namespace leases {
 
-/// What one day's test of a lease's status changed.
+/// The changes of one day's test of a lease's status.
 struct StatusStep {
-    /// The status was set (again, where that was forced), so unit and tenant follow it.
+    /// Whether the status was set, even to the same value, so that unit and tenant are updated.
     bool statusSet = false;
-    /// The lease began a new term; `LeaseTerms::dateRenewed` says when.
+    /// Whether a new term began, on `LeaseTerms::dateRenewed`.
     bool renewed = false;
 
     bool Changed() const { return statusSet || renewed; }
 };
 
-/// Brings `terms.status` and `terms.dateRenewed` to where they stand on `onDate`: a pending lease
-/// begins, a term ends by its option, a notice runs out. One term at most is renewed a day. With
-/// `force` the status counts as set even if it stays. A FieldError for a date or term that the
-/// status needs and that can't be read; the terms are then as before.
+/// Updates `terms.status` and `terms.dateRenewed` to `onDate`: a pending lease begins, a term ends
+/// by its option, a notice runs out. At most one term is renewed per day. With `force` the status
+/// counts as set even if it stays the same. Throws FieldError if the status needs a date or term
+/// that can't be read; the terms are then unchanged.
 StatusStep StepLeaseStatus(LeaseTerms& terms, platform::Date onDate, bool force);
 
-/// Whether a lease of this status word is charged.
+/// Returns whether leases of this status are charged.
 bool IsCharged(std::string_view word);
 
-/// Whether a lease of this status word is over: its unit free, its tenant archived.
+/// Returns whether a lease of this status is over: its unit free, its tenant archived.
 bool IsOver(std::string_view word);
 
 } // namespace leases

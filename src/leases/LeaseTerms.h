@@ -11,9 +11,9 @@
 
 namespace leases {
 
-/// What the calendar run knows of a lease: the fields of its row, read once.
+/// The fields of a lease's row that the daily run uses, read once.
 struct LeaseTerms {
-    /// Reads the current row; nothing fails until a value that can't be read is used.
+    /// Reads the current row; a value that can't be read throws only when it is used.
     static LeaseTerms Read(platform::Recordset& row);
 
     std::string status;
@@ -23,7 +23,7 @@ struct LeaseTerms {
     Reading<platform::Date> dateRenewed;
     Reading<platform::Date> dateVacating;
     Reading<platform::Date> dateNextDue;
-    /// Last day already charged; unset before the first run.
+    /// The last day already charged; unset before the first run.
     Reading<platform::Date> dateUpdated;
     Reading<std::int16_t> term;
     Reading<std::int16_t> discountDays;
@@ -37,12 +37,12 @@ struct LeaseTerms {
     Reading<bool> subsidised;
 };
 
-/// The interval that a term of this type is counted in.
+/// Returns the interval in which terms of this type are counted.
 platform::Interval TermInterval(std::string_view termType);
 
-/// The interval at which the run charges rent. It knows the years by another word than TermInterval
-/// ("Years(s)"), so a lease of "Year(s)" is charged monthly while its term runs in years; books
-/// that were kept so depend on it.
+/// Returns the interval at which rent is charged. It spells the years differently from TermInterval
+/// ("Years(s)"), so a lease of "Year(s)" is charged monthly while its term runs in years; existing
+/// books depend on that.
 platform::Interval BillingInterval(std::string_view termType);
 
 } // namespace leases

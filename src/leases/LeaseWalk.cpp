@@ -11,8 +11,8 @@ using platform::Interval;
 
 namespace {
 
-/// The due date that the walk stands at, and the days reckoned from it. `DateNextDue` itself moves
-/// only with a payment, so the fee days start from the oldest unpaid due date.
+/// The due date that the walk has reached, and the days counted from it. `DateNextDue` itself moves
+/// only with a payment, so fee days count from the oldest unpaid due date.
 class DueDates {
   public:
     explicit DueDates(const LeaseTerms& terms)
@@ -32,7 +32,7 @@ class DueDates {
     bool IsDiscountDay(Date day) const { return day == discountDate_; }
     bool IsOneTimeDay(Date day) const { return day == oneTimeDate_; }
     bool IsDailyFeeDay(Date day) const { return day > dailyDate_; }
-    /// The next one-time fee belongs to the due date reached by now.
+    /// The next one-time fee is for the due date reached now.
     void MoveOneTimeDay() { oneTimeDate_ = DateAdd(Interval::Day, oneTimeDays_, nextDue_); }
 
   private:

@@ -14,13 +14,13 @@ namespace leases {
 
 enum class ChargeKind : std::uint8_t { Rent, Subsidy, Discount, OneTimeFee, DailyFee };
 
-/// One row that the walk puts into the rent log.
+/// A row that the walk adds to the rent log.
 struct Charge {
     ChargeKind kind = ChargeKind::Rent;
-    /// The day it is posted on.
+    /// The day on which it is posted.
     platform::Date date;
     platform::Currency amount;
-    /// The due date that it is about.
+    /// The due date that it is for.
     platform::Date due;
 };
 
@@ -29,27 +29,26 @@ RentFlags FlagsOf(ChargeKind kind);
 std::string_view CategoryOf(ChargeKind kind);
 std::string DescriptionOf(const Charge& charge);
 
-/// How a run treats the lease beyond the plain catching up to today.
+/// What a run does besides catching the lease up to today.
 enum class WalkMode {
     CatchUp,
     RollForward, ///< on to the next due date, discounts included, for a tenant who pays ahead
     Reprocess,   ///< again from a month before the next due date, whatever was charged since
 };
 
-/// What the walk of one lease came to. Nothing is written yet.
+/// The result of walking one lease. Nothing has been written yet.
 struct LeaseWalk {
     /// The terms after the last day: status, start of the term, last day charged.
     LeaseTerms terms;
     std::vector<Charge> charges;
-    /// The statuses that the lease went through, in order; unit and tenant follow each.
+    /// The statuses that the lease passed through, in order; unit and tenant are updated for each.
     std::vector<std::string> statuses;
-    /// A new term began; `terms.dateRenewed` is its first day.
+    /// Whether a new term began, with `terms.dateRenewed` as its first day.
     bool renewed = false;
 };
 
-/// Walks a lease day by day from the last day charged up to today (or to its next due date).
-/// Charges of zero are left out. A FieldError for a value that the walk needs and that can't be
-/// read.
+/// Walks a lease day by day from the last day charged up to today, or to its next due date. Charges
+/// of zero are left out. Throws FieldError if a value that the walk needs can't be read.
 LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, platform::Date today);
 
 } // namespace leases

@@ -23,7 +23,7 @@ namespace {
 
 constexpr std::string_view kNotes = "Added by Lease Wizard";
 
-/// Starts a row of a table under a new id.
+/// Opens a new row of a table under a new id.
 core::RowToWrite AddRow(std::string_view table, std::string_view idField) {
     core::RowToWrite row(table, idField);
     row["Hide"].Set(false);
@@ -65,7 +65,7 @@ std::int32_t AddTenant(const LeaseWizardEntry& entry) {
     return Keep(tenant);
 }
 
-/// What every lease of the wizard starts with, whatever was asked.
+/// Sets what every lease of the wizard starts with, whatever the entries.
 void SetSettings(Recordset& row) {
     const core::ConfigValues& config = core::Config();
     row["ExpireOption"].Set(config.ExpireOption);

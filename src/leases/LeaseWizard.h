@@ -9,7 +9,7 @@
 
 namespace leases {
 
-/// What the lease wizard has asked. A property or a tenant is one that there is, or a new one.
+/// The entries of the lease wizard. The property and the tenant are each an existing or a new one.
 struct LeaseWizardEntry {
     bool newProperty = false;
     std::int32_t idUnit = 0;
@@ -34,12 +34,12 @@ struct LeaseWizardEntry {
 
 enum class LeaseWizardStep { Introduction, Property, Tenant, Terms, Summary };
 
-/// What is wrong with a step, a line each.
+/// Returns the errors in a step, a line each.
 std::vector<std::string> LeaseWizardErrors(LeaseWizardStep step, const LeaseWizardEntry& entry);
 
-/// Makes the lease, and before it its property and its tenant where those are new; charges it up to
-/// today and with its deposits, and tells the open screens. One unit of work; failures are thrown.
-/// Answers the lease's id.
+/// Adds the lease, first its property and tenant if they are new; charges it up to today and with
+/// its deposits, and broadcasts the changes. One unit of work. Returns the lease's id. Throws on
+/// failure.
 std::int32_t FinishLeaseWizard(const LeaseWizardEntry& entry);
 
 } // namespace leases

@@ -101,7 +101,7 @@ books::Transaction ProposeDepositCharge(std::int32_t idLease) {
 void WriteDepositRow(std::int32_t idTransaction, const books::Transaction& transaction) {
     const RentFlags flags{transaction.flags};
     if (flags != RentFlags::DepositRefund && flags != RentFlags::DepositCharge) return;
-    // An ordinary transaction has no class, and never a row in a ledger.
+    // An ordinary transaction has no class and never has a ledger row.
     if (transaction.transactionClass == 0) return;
     platform::UnitOfWork unit(core::App().Connection);
     Recordset row = core::Read("SELECT IdRentLog, IdLease FROM RentLog WHERE IdTransaction = ?",

@@ -39,23 +39,23 @@ struct LedgerRow {
     std::string category;
     std::string description;
     platform::Currency amount;
-    /// Of open rows: what was open after this one, counted from the oldest.
+    /// For open rows: the sum still open after this row, counted from the oldest.
     std::optional<platform::Currency> openTotal;
 };
 
-/// A tab's rows of a lease, the latest first. Failures are thrown.
+/// Returns a tab's rows of a lease, the latest first. Throws on failure.
 std::vector<LedgerRow> ReadLedger(std::int32_t idLease, const LedgerTab& tab);
 
-/// What takes a deposit back out of a lease: the refund to its tenant, or what is charged against
-/// it, for the transaction screen to finish. A refund goes from the deposit account to the tenant;
-/// a charge goes to an account that is still to be chosen. Both propose the balance of the deposit.
-/// A lease that isn't there is a DatabaseError.
+/// Return the transaction that takes a deposit out of a lease, for the transaction screen to
+/// complete: a refund from the deposit account to the tenant, or a charge against the deposit to an
+/// account still to be chosen. Both propose the deposit's balance. Throws DatabaseError if the
+/// lease doesn't exist.
 books::Transaction ProposeDepositRefund(std::int32_t idLease);
 books::Transaction ProposeDepositCharge(std::int32_t idLease);
 
-/// Keeps the ledger row that belongs to such a transaction whenever it is saved, and the balances
-/// of its lease (of both leases if it was moved to another); does nothing for other transactions.
-/// Failures are thrown.
+/// Writes the ledger row of such a transaction whenever it is saved, and the balances of its lease
+/// (of both leases if it was moved to another); does nothing for other transactions. Throws on
+/// failure.
 void WriteDepositRow(std::int32_t idTransaction, const books::Transaction& transaction);
 
 } // namespace leases

@@ -22,7 +22,7 @@ std::string DescribeDueDate(platform::Recordset& lease, int periods) {
     if (!due.IsSet()) return "the lease has no next due date";
     if (periods == 0) return "next due date stays " + due.ToText();
     const auto interval = TermInterval(TextOf(lease["TermType"]));
-    // Step by step, as the payment moves it: a month's last day may shorten on the way.
+    // Moved one period at a time, as the payment does: a shorter month on the way lowers the day.
     Date moved = due;
     for (int i = 0; i < periods; ++i)
         moved = DateAdd(interval, 1, moved);

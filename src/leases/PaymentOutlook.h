@@ -6,9 +6,9 @@
 
 namespace leases {
 
-/// Describes in one line what submitting the payment will do: how many charges it settles, where
-/// the next due date moves, the option credit that is earned, and whether no account of the books
-/// receives the money. Of a lease that was deleted, only the charges. Failures are thrown.
+/// Returns a line about what submitting the payment will do: how many charges it settles, where the
+/// next due date moves, the option credit earned, and whether the receiver is an account of the
+/// books. For a deleted lease it has only the charges. Throws on failure.
 std::string DescribeOutlook(const RentPayment& payment);
 
 } // namespace leases

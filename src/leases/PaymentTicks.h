@@ -8,23 +8,23 @@
 
 namespace leases {
 
-/// The user's ticks on a payment screen, kept while its charges are read again: that ticks every
-/// open charge of a new payment, whatever the user had chosen.
+/// The user's ticks on a payment screen, preserved while its charges are read again: reading ticks
+/// every open charge of a new payment, whatever the user had chosen.
 class PaymentTicks {
   public:
-    /// Keeps the ticks as they are now.
+    /// Remembers the present ticks.
     void Keep(const RentPayment& payment);
-    /// A kept charge was split: its tick goes to the first part, and the second, the deferred one,
-    /// is not ticked.
+    /// Follows the split of a charge: its tick goes to the first part, and the deferred second part
+    /// isn't ticked.
     void Split(std::int32_t idRentLog, const std::array<std::int32_t, 2>& parts);
 
-    /// True if the payment's ticks are not the ones kept.
+    /// Returns true if the payment's ticks differ from the remembered ones.
     bool DifferFrom(const RentPayment& payment) const;
-    /// Puts the kept ticks back; a charge that wasn't there when they were kept stays as it is.
+    /// Restores the remembered ticks; a charge that is new since then stays as it is.
     void Restore(RentPayment& payment) const;
 
   private:
-    /// By IdRentLog. Charges that were deleted stay, so that a split can ask for them.
+    /// Keyed by IdRentLog. Deleted charges stay, so that a split can look them up.
     std::map<std::int32_t, bool> ticks_;
 };
 

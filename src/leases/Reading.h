@@ -8,7 +8,7 @@
 
 namespace leases {
 
-/// A field's value, or the reason why it couldn't be read, which is thrown only where the value is
+/// A field's value, or the reason why it can't be read, which is thrown only when the value is
 /// used: a fee that never falls due may be missing.
 template <class T>
 class Reading {

@@ -5,10 +5,10 @@
 
 namespace leases {
 
-/// What a row of the rent log, or a transaction against a lease, is about.
+/// The class of a row in the rent log, or of a transaction of a lease.
 enum class RentClass : std::int16_t { Rent = 1, Subsidy = 2, Deposit = 3, OptionCredit = 4 };
 
-/// Flags of a row of the rent log; of a deposit's transaction the last two.
+/// Flags of a row in the rent log; a deposit's transaction uses the last two.
 enum class RentFlags : std::int16_t {
     Ordinary = 0,
     PeriodRent = 1, ///< the rent of one period: paying it moves the next due date on
@@ -17,8 +17,8 @@ enum class RentFlags : std::int16_t {
     DepositCharge = 4,
 };
 
-// Words that the ledger keeps in `Category`. The blank of the subsidy's belongs to it: ledgers hold
-// it so, and reports compare with it.
+// Values of the ledger's field `Category`. The subsidy's trailing blank is part of it: stored
+// ledgers have it, and reports compare with it.
 inline constexpr std::string_view kCategoryRent = "Rent";
 inline constexpr std::string_view kCategorySubsidy = "Rent Subsidy ";
 inline constexpr std::string_view kCategoryDiscount = "Rent Discount";

@@ -66,7 +66,7 @@ void AddOwnRows(RentPayment& payment) {
     AddRows(payment, rows, true);
 }
 
-/// A subsidy's payor is an account or a tenant; a lease that names neither is paid by its tenant.
+/// A subsidy's payor is an account or a tenant; a lease that has neither is paid by its tenant.
 void SetPayer(RentPayment& payment, Recordset& lease) {
     const auto kind = static_cast<std::int16_t>(IdOf(lease["SubsidyType"]));
     const bool byPayor = payment.rentClass == RentClass::Subsidy &&

@@ -32,7 +32,7 @@ void OpenCharge(Recordset& row, std::int32_t idRentLog) {
     row = core::Read("SELECT * FROM RentLog WHERE IdRentLog = ?", {idRentLog});
 }
 
-/// Two parts in the place of a charge that was paid meanwhile would be owed once more.
+/// If the charge has been paid in the meantime, its parts would be owed a second time.
 void CheckUnchanged(const RentSplit& split) {
     Recordset row;
     OpenCharge(row, split.idRentLog);

@@ -22,7 +22,7 @@ using platform::Recordset;
 
 namespace {
 
-/// Who paid or changed a charge since the payment was read decides: the two would pay it twice.
+/// Someone else paid or changed a charge since the payment was read; submitting would pay it twice.
 [[noreturn]] void ThrowConflict(const RentPayment& payment, const PaymentCharge& charge) {
     const auto settledBy = core::SettledBy(core::kRentLedger, charge.idRentLog);
     throw ConflictError(fmt::format(
@@ -46,9 +46,9 @@ void CheckLease(std::int32_t idLease) {
     throw ConflictError("The lease was deleted after this payment was opened. Nothing was posted.");
 }
 
-/// The payment as the books have it now, read inside the unit of work that posts it. Throws
-/// ConflictError if a charge that it settles can't be settled as it was shown, or if it has settled
-/// one since that was not shown.
+/// Returns the payment as the books have it now, read inside the unit of work that posts it. Throws
+/// ConflictError if a charge can't be settled as it was shown, or if the payment has since settled
+/// one that wasn't shown.
 RentPayment CheckUnchanged(const RentPayment& payment) {
     if (payment.IsNew()) CheckLease(payment.idLease);
     RentPayment now = payment;
@@ -61,7 +61,7 @@ RentPayment CheckUnchanged(const RentPayment& payment) {
         const auto same = std::ranges::find_if(
             now.charges, [&](const auto& other) { return IsSameCharge(charge, other); });
         if (same == now.charges.end()) ThrowConflict(payment, charge);
-        // Another edit released it; a deleted payment released all, and is posted again.
+        // Another edit has reopened it; a deleted payment has reopened all, and is posted again.
         if (isStored && charge.settled && !same->settled) ThrowPaymentChanged();
     }
     for (const PaymentCharge& settled : now.charges) {
@@ -99,15 +99,15 @@ books::Transaction TransactionOf(const RentPayment& payment) {
     return transaction;
 }
 
-/// The next payment proposes the account that took this one.
+/// The next payment proposes the account that received this one.
 void RememberAccount(const RentPayment& payment) {
     if (payment.rentClass != RentClass::Rent && payment.rentClass != RentClass::Subsidy) return;
     core::Execute("UPDATE Lease SET RentAccount = ? WHERE IdLease = ?",
                   {payment.to.id, payment.idLease});
 }
 
-/// A stored payment's row takes an amount of 0 too: left as it was, it would be money that nobody
-/// paid.
+/// A stored payment's row is written even for an amount of 0: left unchanged it would be money that
+/// nobody paid.
 void WritePaymentRow(const RentPayment& payment, std::int32_t idTransaction,
                      std::int32_t idPaymentRow) {
     const RentLogEntry entry = {.idLease = payment.idLease,

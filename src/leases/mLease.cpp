@@ -48,7 +48,7 @@ std::vector<Charge> UpdateStored(std::int32_t idLease, WalkMode mode) {
 std::vector<Charge> UpdateLease(Recordset& row, WalkMode mode) {
     LeaseWalk walk = WalkLease(LeaseTerms::Read(row), mode, platform::Today());
 
-    // On most days the lease's own row is all that is written, which one statement does whole.
+    // On most days only the lease's own row is written, which one statement does atomically.
     std::optional<UnitOfWork> unit;
     if (!walk.charges.empty() || !walk.statuses.empty()) unit.emplace(core::App().Connection);
     for (const std::string& word : walk.statuses)
@@ -92,7 +92,7 @@ void SetRentStatus(Recordset& row) {
     try {
         row["RentStatus"].Set(RentStatusOf(row));
     } catch (const platform::Error&) {
-        // A lease whose dates can't be read keeps the word it had.
+        // A lease whose dates can't be read keeps its rent status.
     }
 }
 

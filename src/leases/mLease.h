@@ -12,10 +12,10 @@
 namespace leases {
 
 // The calendar-driven life of a lease. The operations on a row work on an open, updatable row of
-// `Lease`. Failures are thrown; what one of them wrote until then is taken back.
+// `Lease`. They throw on failure, and what they wrote is rolled back.
 
-/// Brings a lease up to date: walks it by the calendar, posts its charges, sets unit and tenant,
-/// computes balances and rent status, writes the row and tells the screens. One unit of work.
+/// Brings a lease up to date: walks it by the calendar, posts its charges, updates unit and tenant,
+/// computes balances and rent status, writes the row and broadcasts the changes. One unit of work.
 /// Returns the charges posted. Throws ConflictError if the row was written since it was read.
 std::vector<Charge> UpdateLease(platform::Recordset& row, WalkMode mode);
 
@@ -25,21 +25,21 @@ std::vector<Charge> UpdateLeaseById(std::int32_t idLease, WalkMode mode);
 
 enum class StatusChange { IfDifferent, Force };
 
-/// Sets the status that the lease has on `onDate`, and unit and tenant with it; true if anything
+/// Sets the lease's status on `onDate`, and unit and tenant with it; returns true if anything
 /// changed. The caller writes the row.
 bool SetLeaseStatus(platform::Recordset& row, platform::Date onDate, StatusChange change);
 
-/// Sets the rent status that the lease has today. A field that can't be read leaves the old word.
+/// Sets the lease's rent status as of today. If a field can't be read the old status stays.
 void SetRentStatus(platform::Recordset& row);
 
 enum class OptionCredit { None, Add };
 enum class Broadcast { No, Yes };
 
-/// Moves the next due date one period on, since a period's rent was paid; a lease with a purchase
-/// option earns its credit. Nothing for a lease that isn't there.
+/// Moves the next due date by one period, since a period's rent was paid; a lease with a purchase
+/// option earns its credit. Does nothing if the lease doesn't exist.
 void AdvanceNextDue(std::int32_t idLease, OptionCredit credit, Broadcast broadcast);
 
-/// Tenant, unit and building of a lease; 0 for what isn't there.
+/// Returns the tenant, unit and building of a lease; 0 for any that doesn't exist.
 books::References GetLeaseLinks(std::int32_t idLease);
 
 } // namespace leases

@@ -14,7 +14,7 @@ using P = AmortPeriod;
 
 constexpr std::string_view kNumber = "No.";
 
-/// In the order in which they stand in the grid.
+/// In the order of the grid.
 constexpr std::array<AmortColumn, 16> kColumns = {{
     {kNumber, AmortFormat::Count, nullptr, nullptr},
     {"Due", AmortFormat::Day, &V::showDue, nullptr},
@@ -34,7 +34,7 @@ constexpr std::array<AmortColumn, 16> kColumns = {{
     {"PPM Penalty", AmortFormat::Money, &V::showDetail, &P::Penalty},
 }};
 
-/// Places in kColumns: a printed schedule begins with these, a full one goes on with the others.
+/// Indexes into kColumns: the columns of a printed schedule, followed by the others in a full one.
 constexpr std::array<std::size_t, 8> kPrinted = {0, 2, 3, 6, 7, 10, 13, 14};
 constexpr std::array<std::size_t, 8> kPrintedInFull = {1, 4, 5, 8, 9, 11, 12, 15};
 

@@ -9,7 +9,7 @@
 
 namespace mortgages {
 
-/// Which of the schedule's columns are looked at, beside those that always are.
+/// The optional columns of the schedule that are shown.
 struct AmortView {
     bool showDue = false;
     bool showDetail = false; ///< principal, interest, periods remaining, penalty
@@ -17,7 +17,7 @@ struct AmortView {
     bool showTotal = false;  ///< the sums since the first period
 };
 
-/// How a column's values are shown.
+/// The format of a column's values.
 enum class AmortFormat { Count, Day, Rate, Money };
 
 /// One column of a schedule.
@@ -28,7 +28,7 @@ struct AmortColumn {
     double AmortPeriod::*amount = nullptr; ///< of money columns
 };
 
-/// A loan's schedule as a table of columns and rows, whose cells are made as they are asked for.
+/// A loan's schedule as a table; cells are made when they are asked for.
 class AmortGrid {
   public:
     AmortGrid(const clsMortgage& mortgage, std::vector<AmortColumn> columns)
@@ -38,11 +38,11 @@ class AmortGrid {
     std::size_t RowCount() const { return mortgage_->Schedule().size(); }
 
     // Rows and columns count from 0.
-    /// The value with all its digits; a rate in percent.
+    /// Returns the value with all its digits; rates in percent.
     platform::Value Value(std::size_t row, std::size_t column) const;
-    /// The value as it is shown.
+    /// Returns the value as it is shown.
     std::string Text(std::size_t row, std::size_t column) const;
-    /// Every second row, from the first on, stands on a tint.
+    /// Every second row, starting with the first, is tinted.
     static bool IsTinted(std::size_t row) { return row % 2 == 0; }
 
   private:
@@ -50,7 +50,7 @@ class AmortGrid {
     std::vector<AmortColumn> columns_;
 };
 
-/// The eight columns of a printed schedule, or with `full` all sixteen.
+/// Returns the eight columns of a printed schedule, or with `full` all sixteen.
 std::vector<AmortColumn> PrintedColumns(bool full);
 
 } // namespace mortgages

@@ -7,7 +7,7 @@
 
 namespace mortgages {
 
-/// A day as the schedule keeps it, "mm/dd/yyyy": ten characters, whatever it is.
+/// A date as the schedule stores it, "mm/dd/yyyy": ten characters.
 class DueText {
   public:
     DueText() { text_.fill(' '); }
@@ -21,8 +21,8 @@ class DueText {
     std::array<char, 10> text_;
 };
 
-/// One row of a loan's schedule. Amounts carry all the digits that their reckoning gave; the names
-/// are those of the schedule's columns.
+/// One row of a loan's schedule. Amounts have all the digits of their calculation; the members are
+/// named after the schedule's columns.
 struct AmortPeriod {
     DueText Due;
     double BeginBal = 0;

@@ -15,8 +15,8 @@ double Finite(double number) {
 
 } // namespace
 
-// log1p and expm1 rather than a power: at small rates, and where little is left of a loan, one plus
-// the rate and one less the discount keep too few digits.
+// Uses log1p and expm1 instead of a power: at low rates, and towards the end of a loan, one plus
+// the rate and one minus the discount lose too many digits.
 Annuity::Annuity(double rate) : rate_(rate), logGrowth_(std::log1p(rate)) {
     if (rate <= -1) throw platform::Error("The rate loses more than there is.");
 }

@@ -2,10 +2,9 @@
 
 namespace mortgages {
 
-/// The formulas of level payments at one rate per period, paid at each period's end. What is
-/// received is positive and what is paid negative, as is usual. A result that isn't there (a
-/// payment that never pays the loan off, no periods) is an Error, one that is no number an
-/// OverflowError.
+/// The formulas of level payments at one rate per period, paid at the end of each period. Amounts
+/// received are positive, amounts paid negative. Throws Error if there is no result (a payment that
+/// never pays off the loan, no periods), OverflowError if it isn't a number.
 class Annuity {
   public:
     /// `rate` is a fraction per period; 0 is a loan without interest.
@@ -13,11 +12,11 @@ class Annuity {
 
     double Rate() const { return rate_; }
 
-    /// The payment of each of `periods` that pays off `presentValue`.
+    /// Returns the payment that pays off `presentValue` in `periods`.
     double Pmt(double periods, double presentValue) const;
-    /// The periods that `payment` needs for `presentValue`, with their fraction.
+    /// Returns the number of periods, with a fraction, in which `payment` pays off `presentValue`.
     double NPer(double payment, double presentValue) const;
-    /// Of the first such payment, what goes to interest and what to principal.
+    /// Return the interest and the principal in the first payment.
     double FirstIPmt(double presentValue) const;
     double FirstPPmt(double periods, double presentValue) const;
 

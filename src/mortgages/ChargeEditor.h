@@ -16,10 +16,11 @@ inline constexpr std::array<std::string_view, 7> kChargeCategories = {
 /// Returns the charge proposed today.
 MortgageLogEntry NewCharge(std::int32_t idMortgage);
 
-/// True for a row of extra principal that a payment booked.
+/// Returns true for a row of extra principal booked by a payment.
 bool IsExtraPrincipal(const MortgageLogEntry& entry);
 
-/// True for a charge whose category and split the schedule depends on: they can't be edited.
+/// Returns true for a charge whose category and split the schedule depends on; they can't be
+/// edited.
 bool KeepsSplit(const MortgageLogEntry& entry);
 
 /// Reads a row of the log. Returns false, with a message to the user, if there is none; if several
@@ -27,8 +28,8 @@ bool KeepsSplit(const MortgageLogEntry& entry);
 bool ReadCharge(std::int32_t idMortgageLog, MortgageLogEntry& entry);
 
 /// Writes a charge, a new one for id 0, and refreshes the open screens; returns its id. Throws
-/// ConflictError and writes nothing if a stored charge is no longer as it was `read`: another
-/// program has paid, changed or deleted it.
+/// ConflictError and writes nothing if the stored charge differs from `read`: another program has
+/// paid, changed or deleted it.
 std::int32_t SaveCharge(const MortgageLogEntry& entry, const MortgageLogEntry& read,
                         std::int32_t idMortgageLog);
 

@@ -13,7 +13,7 @@ double LeadingNumber(std::string_view piece) {
     piece = platform::Trim(piece);
     if (piece.starts_with('+')) piece.remove_prefix(1);
     const std::string_view digits = piece.starts_with('-') ? piece.substr(1) : piece;
-    // The words for infinity and for no number are words here, not numbers.
+    // "inf" and "nan" are ordinary words here, not numbers.
     if (digits.empty() || (digits[0] != '.' && (digits[0] < '0' || digits[0] > '9'))) return 0;
     double number = 0;
     const auto result = std::from_chars(piece.data(), piece.data() + piece.size(), number);

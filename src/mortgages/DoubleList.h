@@ -7,13 +7,14 @@
 
 namespace mortgages {
 
-// Lists of numbers as the books keep them in a text: "0,0,250.5".
+// Lists of numbers as they are stored in a text field: "0,0,250.5".
 
-/// The numbers parted by commas, each in its shortest form; empty for none.
+/// Returns the numbers separated by commas, each in its shortest form; an empty string for an empty
+/// list.
 std::string JoinDoubleList(const std::vector<double>& numbers);
 
-/// Reads the pieces between commas, each by the number that it begins with (0 where it begins with
-/// none), and answers how many there are; a blank text has none.
+/// Reads the items between commas, each as the number at its start (0 if there is none), and
+/// returns their count; 0 for blank text.
 std::size_t SplitDoubleList(std::string_view text, std::vector<double>& numbers);
 
 } // namespace mortgages

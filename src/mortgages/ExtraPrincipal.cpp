@@ -36,7 +36,7 @@ MortgageLogEntry EntryOf(const MortgagePayment& payment, std::int32_t idTransact
     return entry;
 }
 
-/// What is left of the loan once the period's payment, and what is booked on it, are paid.
+/// Returns the balance left once the period's payment, and the principal booked on it, are paid.
 double LeftAfter(const clsMortgage& loan, std::int32_t idMortgage, std::int16_t period,
                  Currency payDown) {
     const AmortPeriod& row = loan.Schedule()[static_cast<std::size_t>(period) - 1];
@@ -82,7 +82,7 @@ std::string ExtraFault(const MortgagePayment& payment) {
 bool LoadWithEntry(clsMortgage& loan, std::int32_t idMortgage, std::int16_t period) {
     if (!loan.LoadMtg(idMortgage)) return false;
     if (period <= loan.ArraySize()) return true;
-    // A row that came without lists as long as its loan: the schedule lengthens them.
+    // A row can have shorter lists than its loan needs: building the schedule lengthens them.
     loan.ReCalc();
     loan.SaveMtg(idMortgage);
     loan = clsMortgage();
@@ -92,7 +92,7 @@ bool LoadWithEntry(clsMortgage& loan, std::int32_t idMortgage, std::int16_t peri
 void EnterExtra(clsMortgage& loan, std::int32_t idMortgage, std::int16_t period, Currency payDown) {
     const Currency booked = BookedExtra(idMortgage, period);
     double extra = (payDown + booked).ToDouble();
-    // An entry of its own would take the place of what is paid every month.
+    // An entry for the period replaces the monthly extra principal.
     if (payDown.IsZero() && !booked.IsZero()) extra += loan.GetXPRI(0);
     loan.SetXPri(period, extra);
 }

@@ -5,8 +5,8 @@
 
 namespace mortgages {
 
-/// The terms of one loan as they are kept: rates and shares as fractions, periods in months. The
-/// names are those of the fields in the books.
+/// The terms of a loan as they are stored: rates and shares as fractions, periods in months. The
+/// members are named after the fields in the books.
 struct LoanTerms {
     std::string Description = "New Mortgage";
     std::int16_t CurrentPeriod = 1;

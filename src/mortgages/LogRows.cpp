@@ -35,10 +35,10 @@ LogRow RowOf(Recordset& rows) {
     return row;
 }
 
-/// More rows than these would make a question that doesn't fit the screen.
+/// More rows would make a question that doesn't fit the screen.
 constexpr std::size_t kMostNamed = 12;
 
-/// The row as the question names it, on a line of its own; a deleted row has an empty line.
+/// Returns the row as the question names it, on a line of its own; an empty line for a deleted row.
 std::string NameOf(std::int32_t idMortgageLog) {
     Recordset row =
         core::Read("SELECT DatePosted, Description, Total FROM MortgageLog WHERE IdMortgageLog = ?",

@@ -27,15 +27,15 @@ std::int32_t TransactionOfLogRow(std::int32_t idMortgageLog);
 /// A row of the log as a screen shows it.
 struct ShownCharge {
     std::int32_t idMortgageLog = 0;
-    /// The transaction that settled it, 0 for an open one.
+    /// The transaction that settled it, 0 if it is open.
     std::int32_t idTransaction = 0;
 };
 
-/// Whether a single row is deleted with the question of its record kind, or with the same one as
-/// several rows.
+/// Whether deleting a single row asks the usual question of its kind, or the question for several
+/// rows.
 enum class SingleRow { AsRecord, AsSeveral };
 
-/// Deletes rows of the log as one unit of work after the user has agreed to `question`, which is
+/// Deletes rows of the log in one unit of work after the user has agreed to `question`, which is
 /// shown with the rows named below it; refreshes the open screens. Returns true if they were
 /// deleted. Throws ConflictError and deletes nothing if a row has been paid, or its payment
 /// deleted, since it was shown.

@@ -33,7 +33,7 @@ void Make(clsMortgage& loan, const LenderBalance& adjustment) {
     loan.BalanceMtg(adjustment.day, adjustment.balance.ToDouble(), adjustment.rate);
 }
 
-/// What is paid every month becomes an entry of each period before, since it holds for them.
+/// The monthly extra principal becomes an entry of each earlier period, for which it still holds.
 void Make(clsMortgage& loan, const ExtraFrom& adjustment) {
     const double before = loan.GetXPRI(0);
     loan.SetXPri(0, 0);

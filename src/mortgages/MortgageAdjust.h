@@ -10,30 +10,30 @@
 
 namespace mortgages {
 
-// Adjustments of a running mortgage: changes made by hand that act from a period on, so that what
-// was paid before stays. Rates are fractions.
+// Manual adjustments of a running mortgage, which take effect from a period on and leave earlier
+// periods as they are. Rates are fractions.
 
 /// A new rate from a period on.
 struct RateFrom {
     int period = 0;
     double rate = 0;
 };
-/// The balance, and the rate, that the lender states before the payment due on a day.
+/// The balance and rate stated by the lender as of before the payment due on a date.
 struct LenderBalance {
     platform::Date day;
     platform::Currency balance;
     double rate = 0;
 };
-/// Extra principal with every payment from a period on, in place of what was paid every month.
+/// Extra principal with every payment from a period on, replacing the monthly extra principal.
 struct ExtraFrom {
     int period = 0;
     platform::Currency amount;
 };
-/// Takes the extra principal of one period out of the schedule.
+/// Removes the extra principal of one period from the schedule.
 struct WithoutExtra {
     int period = 0;
 };
-/// Moves the current period on, or back for a negative count.
+/// Moves the current period forward, or back for a negative count.
 struct MovePeriod {
     int periods = 0;
 };

@@ -16,7 +16,7 @@ enum class LogFlags : std::int16_t {
     Escrow = 8,
 };
 
-// Words that the log keeps in `Category`.
+// Values of the log's field `Category`.
 inline constexpr std::string_view kCategoryPayment = "Mortgage Payment";
 inline constexpr std::string_view kCategoryPayoff = "Mortgage Payoff";
 inline constexpr std::string_view kCategoryPmi = "PMI Payment";

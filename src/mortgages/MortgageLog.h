@@ -11,7 +11,7 @@
 
 namespace mortgages {
 
-/// A row of the mortgage log. Positive amounts are owed to the lender.
+/// A row of the mortgage log. Amounts owed to the lender are positive.
 struct MortgageLogEntry {
     std::int32_t idMortgage = 0;
     /// The paying transaction, 0 while the row is open.
@@ -32,10 +32,10 @@ struct MortgageLogEntry {
 };
 
 /// Writes the row `idMortgageLog`, or a new one if that is 0 or the row was deleted; returns the
-/// row's id. Failures are thrown.
+/// row's id. Throws on failure.
 std::int32_t WriteMortgageLog(const MortgageLogEntry& entry, std::int32_t idMortgageLog = 0);
 
-/// Adds the charges of a walk to the log of a mortgage, in their order. Failures are thrown.
+/// Adds the charges of a walk to the log of a mortgage, in order. Throws on failure.
 void WriteCharges(std::int32_t idMortgage, std::span<const Charge> charges);
 
 } // namespace mortgages

@@ -20,7 +20,7 @@ books::Party AccountOf(std::int32_t id) {
     return {core::kAccount, id, core::GetDescription(core::kAccount, id, 0, false)};
 }
 
-/// Reads one side: the account's id and present name, or the stored name without an account.
+/// Reads one party: the account's id and present name, or the stored name without an account.
 books::Party ReadParty(Recordset& row, std::string_view idField, std::string_view nameField) {
     const std::int32_t id = IdOf(row[idField]);
     books::Party party = AccountOf(id);
@@ -106,7 +106,7 @@ MortgagePayment ReadMortgagePayment(std::int32_t idTransaction) {
 }
 
 void ReadCharges(MortgagePayment& payment) {
-    // A new payment has settled nothing, and no row of another mortgage is its own.
+    // A new payment has settled no charges, and no rows of other mortgages.
     const std::int32_t settledBy = payment.idTransaction == 0 ? -1 : payment.idTransaction;
     Recordset rows = core::Read(
         "SELECT *, 'True' AS [Selected] FROM MortgageLog WHERE (IdTransaction = ?) "
@@ -123,7 +123,7 @@ void ReadCharges(MortgagePayment& payment) {
         charge.selected = WasSelected(payment.charges, charge.idMortgageLog, charge.selected);
         charges.push_back(std::move(charge));
     }
-    // Charges of one day stay in the order they were posted in.
+    // Charges of one day stay in the order they were posted.
     std::sort(charges.begin(), charges.end(), [](const auto& a, const auto& b) {
         return std::pair(a.datePosted, a.idMortgageLog) < std::pair(b.datePosted, b.idMortgageLog);
     });
@@ -153,7 +153,7 @@ std::string_view Select(MortgagePayment& payment, std::size_t charge, bool selec
 void SelectAll(MortgagePayment& payment, ChargeChoice choice, bool selected) {
     const std::size_t count = payment.charges.size();
     for (std::size_t i = 0; i < count; ++i) {
-        // The last ones first where they are taken out, so that none stands in another's way.
+        // Deselecting begins with the last, so that no gap is left in between.
         const std::size_t at = selected ? i : count - 1 - i;
         if (choice == ChargeChoice::All || payment.charges[at].IsBasePayment())
             Select(payment, at, selected);

@@ -12,10 +12,10 @@
 
 namespace mortgages {
 
-/// One charge of the log that a payment can settle.
+/// A charge of the log that a payment can settle.
 struct PaymentCharge {
     std::int32_t idMortgageLog = 0;
-    /// The transaction that settled it, 0 for an open one.
+    /// The transaction that settled it, 0 if it is open.
     std::int32_t idTransaction = 0;
     platform::Date datePosted;
     std::int16_t period = 0;
@@ -29,23 +29,23 @@ struct PaymentCharge {
     bool IsBasePayment() const { return flags == LogFlags::BasePayment; }
 };
 
-/// A payment of a mortgage before it is submitted, from one account to another; a side's id is 0 if
-/// only a name was typed.
+/// A payment of a mortgage before it is submitted, from one account to another; a party's id is 0
+/// if only a name was typed.
 struct MortgagePayment : books::Payment {
     std::int32_t idMortgage = 0;
-    /// Ordered by the day they were posted on.
+    /// Ordered by the date they were posted.
     std::vector<PaymentCharge> charges;
-    /// Principal that a new payment pays beyond the selected charges.
+    /// Principal paid by a new payment beyond the selected charges.
     platform::Currency extraPrincipal;
 
-    /// The selected charges and the extra principal.
+    /// Returns the sum of the selected charges and the extra principal.
     platform::Currency PaidAmount() const;
-    /// The lowest period among the base payments listed, 0 without one.
+    /// Returns the lowest period among the listed base payments, 0 if there are none.
     std::int16_t FromPeriod() const;
 };
 
 /// Returns the payment proposed today: from the account that paid last to the lender, with all open
-/// charges and none of them selected. Throws DatabaseError if there is no such mortgage.
+/// charges, none of them selected. Throws DatabaseError if there is no such mortgage.
 MortgagePayment ProposeMortgagePayment(std::int32_t idMortgage);
 
 /// Returns a stored payment with the charges it settled, which are selected, and the open ones.
@@ -55,8 +55,8 @@ MortgagePayment ReadMortgagePayment(std::int32_t idTransaction);
 /// Reads the charges again; those selected before stay selected.
 void ReadCharges(MortgagePayment& payment);
 
-/// Selects or deselects a charge. Base payments are paid in the order they fell due: a change that
-/// would leave a gap isn't made, and the return value says why; otherwise it is empty.
+/// Selects or deselects a charge. Base payments must be paid in the order of their due dates: a
+/// change that would leave a gap isn't made, and the reason is returned; otherwise an empty string.
 std::string_view Select(MortgagePayment& payment, std::size_t charge, bool selected);
 
 enum class ChargeChoice { All, BasePayments };
@@ -64,18 +64,18 @@ enum class ChargeChoice { All, BasePayments };
 /// Selects or deselects all charges, or only the base payments.
 void SelectAll(MortgagePayment& payment, ChargeChoice choice, bool selected);
 
-/// Returns what is wrong with a payment before it is submitted, a line each.
+/// Returns the errors in a payment before it is submitted, a line each.
 std::vector<std::string> PaymentErrors(const MortgagePayment& payment);
 
-/// Posts a payment as one unit of work: the transaction and its log row; the selected charges are
-/// settled by it and the ones it settled before are open again. Each base payment that a new
-/// payment settles moves the current period on. Extra principal enters the schedule in the period
-/// of the last base payment settled, or in the current one. The mortgage's stored figures are then
+/// Posts a payment in one unit of work: the transaction and its log row; the selected charges are
+/// settled by it, and those it settled before are open again. Each base payment that a new payment
+/// settles moves the current period forward. Extra principal enters the schedule in the period of
+/// the last base payment settled, or in the current one. The mortgage's stored figures are then
 /// recalculated, and open screens refreshed.
 ///
-/// Throws ConflictError and changes nothing if another program has meanwhile paid, changed or
-/// deleted a selected charge, the payment or the mortgage; throws Error if PaymentErrors names a
-/// fault. Returns the transaction's id.
+/// Throws ConflictError and changes nothing if another program has in the meantime paid, changed or
+/// deleted a selected charge, the payment or the mortgage. Throws Error if PaymentErrors finds an
+/// error. Returns the transaction's id.
 std::int32_t SubmitMortgagePayment(const MortgagePayment& payment);
 
 } // namespace mortgages

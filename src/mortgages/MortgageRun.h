@@ -4,8 +4,9 @@
 
 namespace mortgages {
 
-/// Brings every mortgage up to date, in the order of the table. One that fails is told to the
-/// listener and left as it was; the others go on. Many are kept at a time, and told once they are.
+/// Brings every mortgage up to date, in the order of the table. One that fails is reported to the
+/// listener and left unchanged; the others are processed. Many are committed together, and reported
+/// after that.
 void UpdateMortgages(core::RunListener& listener);
 
 } // namespace mortgages

@@ -12,7 +12,7 @@ namespace {
 /// Whether a field that can't be read throws or is skipped.
 enum class Fault { Thrown, PassedOver };
 
-/// Reads fields of the current row into values; a null leaves its value as it was.
+/// Reads fields of the current row into variables; a null leaves its variable unchanged.
 class TermsReader {
   public:
     TermsReader(Recordset& row, Fault fault) : row_(row), fault_(fault) {}
@@ -22,7 +22,7 @@ class TermsReader {
         if (auto read = Read<T>(name)) value = std::move(*read);
     }
 
-    /// The count of the list's entries; nothing for a null.
+    /// Returns the number of the list's entries; nothing for a null.
     std::optional<std::size_t> List(std::string_view name, std::vector<double>& numbers) {
         const auto text = Read<std::string>(name);
         if (!text) return {};
@@ -45,7 +45,7 @@ class TermsReader {
     Fault fault_;
 };
 
-/// The fields that both ways of loading read alike.
+/// Reads the fields that both ways of loading share.
 void ReadTerms(TermsReader& read, LoanTerms& terms) {
     read("Description", terms.Description);
     read("CurrentPeriod", terms.CurrentPeriod);
@@ -69,7 +69,7 @@ void ReadTerms(TermsReader& read, LoanTerms& terms) {
     read("ARMPerCap", terms.ARMPerCap);
 }
 
-/// The fields that both ways of saving write alike.
+/// Writes the fields that both ways of saving share.
 void WriteTerms(Recordset& row, const LoanTerms& terms, const std::vector<double>& xPri,
                 const std::vector<double>& xRate) {
     row["Description"].Set(terms.Description);
@@ -128,13 +128,14 @@ bool clsMortgage::LoadRS(Recordset& row) {
     TermsReader read(row, Fault::PassedOver);
     ReadTerms(read, terms_);
     // The books have no field of this name. The run and the screens depend on that: a loan whose
-    // balloon isn't paid goes on being charged.
+    // balloon isn't paid continues to be charged.
     read("Balloon", terms_.Balloon);
     if (const auto count = read.List("xPri", xPri_)) arraySize_ = static_cast<int>(*count);
     if (const auto count = read.List("xRate", xRate_)) {
         arraySize_ = static_cast<int>(*count);
     } else {
-        // Without a list every rate is the loan's own, not the one of the object loaded into.
+        // Without a stored list every rate is the loan's own, not a rate left in this object by
+        // another loan.
         ClearRate();
     }
     return true;

@@ -40,7 +40,7 @@ void SettleRemainder(clsMortgage& mortgage) {
     const int paid = mortgage.CurrentPeriod() - 1;
     const double left = mortgage.GetPV(0);
     if (paid < 1 || left <= 0 || left >= kHalfACent) return;
-    // More than is left: the schedule cuts it to what ends the loan.
+    // If it exceeds the balance, the schedule cuts it to what pays off the loan.
     const double extra = mortgage.Schedule()[static_cast<std::size_t>(paid) - 1].XPri;
     mortgage.SetXPri(paid, extra + kHalfACent);
     mortgage.ReCalc();

@@ -20,8 +20,8 @@ Date Needed(Date date, const char* field) {
     return date;
 }
 
-/// The due date that the walk stands at, and the last day of grace. The day after a due day still
-/// belongs to it.
+/// The due date that the walk has reached, and the last day of grace. The day after a due date
+/// still counts as that due date's.
 class DueDays {
   public:
     DueDays(Date nextDue, int graceDays)

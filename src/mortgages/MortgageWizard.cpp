@@ -34,8 +34,8 @@ std::int32_t AddLender(const WizardEntries& entries) {
     return rows.id;
 }
 
-/// The loan as its current figures say it runs: what is owed less than scheduled was paid with the
-/// period before.
+/// Returns the loan as its current figures describe it: a balance below the schedule's was paid off
+/// with the period before.
 clsMortgage LoanOf(const WizardEntries& entries, std::string_view description) {
     const double rate = entries.origRate * 0.01;
     const double currentRate = entries.currentRate * 0.01;

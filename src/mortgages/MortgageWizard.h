@@ -9,9 +9,9 @@
 
 namespace mortgages {
 
-/// What a person told of a loan that may be running already.
+/// The wizard's entries about a loan that may be running already.
 struct WizardEntries {
-    /// The lender: a new account of this name, or the account chosen (0 for none).
+    /// The lender: a new account of this name, or the chosen account (0 if none was chosen).
     bool newAccount = true;
     std::string accountName;
     std::int32_t idAccount = 0;
@@ -32,15 +32,15 @@ struct WizardEntries {
     double currentRate = 0; ///< percent
 };
 
-/// The steps of the wizard, in their order.
+/// The steps of the wizard, in order.
 enum class WizardStep { Intro, Lender, Terms, Details, Current, Last };
 
-/// What is wrong with the entries of one step, the first fault alone; empty when nothing is.
+/// Returns the first error in a step; an empty string if there is none.
 std::string_view StepFault(WizardStep step, const WizardEntries& entries);
 
-/// Adds the mortgage (and its lender, where that is new), aligned with its current figures; nothing
-/// is charged for the days up to today. The screens are told. One unit of work; failures are
-/// thrown. Answers the mortgage's id.
+/// Adds the mortgage (and its lender, if new), aligned with its current figures; nothing is charged
+/// for the days up to today. The changes are broadcast. One unit of work. Returns the mortgage's
+/// id. Throws on failure.
 std::int32_t FinishWizard(const WizardEntries& entries);
 
 } // namespace mortgages

@@ -12,15 +12,15 @@ namespace {
 
 using std::chrono::year_month_day;
 
-/// One calendar month on. The day is reckoned from the one before, so a loan that is first due on
-/// the 31st is due on the 28th from the first February on.
+/// Returns the date one month later. It counts from the date before, so a loan first due on the
+/// 31st is due on the 28th from its first February on.
 year_month_day MonthAfter(year_month_day day) {
     const year_month_day next = day + std::chrono::months(1);
     if (next.ok()) return next;
     return next.year() / next.month() / std::chrono::last;
 }
 
-/// Builds the rows of a schedule one after the other.
+/// Builds the rows of a schedule one after another.
 class ScheduleBuilder {
   public:
     ScheduleBuilder(const LoanTerms& terms, int periods, const std::vector<double>& xPri,
@@ -34,7 +34,7 @@ class ScheduleBuilder {
           balance_(terms.OrigPV),
           term_(terms.OrigPer) {}
 
-    /// Fills row `i`; `before` is null for the first. True when the loan is paid off with it.
+    /// Fills row `i`; `before` is null for the first. Returns true if it pays off the loan.
     bool Fill(int i, AmortPeriod& row, const AmortPeriod* before) {
         ++sinceChange_;
         if (before != nullptr) day_ = MonthAfter(day_);
@@ -77,9 +77,9 @@ class ScheduleBuilder {
         row.Int = -annuity_.FirstIPmt(row.BeginBal);
     }
 
-    /// What is left at this balance and payment. Until extra principal shortens it, that is what is
-    /// left of the term: the formula would answer the same, and add a rounding that a long and dear
-    /// loan magnifies from row to row.
+    /// Returns the periods left at this balance and payment. Until extra principal shortens the
+    /// term, they are counted: the formula would give the same with a rounding error that grows
+    /// from row to row on a long and expensive loan.
     double PeriodsLeft(const AmortPeriod& row) const {
         if (!extraPaid_) return term_ - (sinceChange_ - 1);
         return annuity_.NPer(row.Pmt, -row.BeginBal);
@@ -102,7 +102,7 @@ class ScheduleBuilder {
         row.IntTTD = total.IntTTD + row.Int;
     }
 
-    /// At most one penalty a calendar year.
+    /// Adds a penalty, at most one per calendar year.
     void AddPenalty(int i, AmortPeriod& row, const AmortPeriod* before) {
         row.PctPri = (row.Pri + row.XPri) / terms_.OrigPV;
         row.PctPriYTD = row.PctPri;
@@ -118,8 +118,8 @@ class ScheduleBuilder {
         }
     }
 
-    /// The next rate differs: from the next row on, the balance is paid off over what is left of
-    /// the first term.
+    /// The next rate is different: from the next row on, the balance is paid off over the remaining
+    /// periods of the original term.
     void Reamortise(const AmortPeriod& row) {
         balance_ = row.EndBal;
         term_ -= sinceChange_;
@@ -128,7 +128,7 @@ class ScheduleBuilder {
         stale_ = true;
     }
 
-    /// The last payment is what is left. The sums keep what was reckoned before.
+    /// The last payment is the remaining balance. The sums keep the amounts before the cut.
     static void CutOvershoot(AmortPeriod& row) {
         if (row.BeginBal < row.Pri) {
             row.Pri = row.BeginBal;
@@ -183,8 +183,7 @@ void clsMortgage::ReCalc() {
 void clsMortgage::GrowArrays() {
     const auto held = static_cast<std::size_t>(arraySize_);
     const auto wanted = static_cast<std::size_t>(std::max<int>(periods_, arraySize_));
-    // What stands past the held entries counts for nothing, and a list that was loaded can be
-    // shorter than they are.
+    // Entries beyond the held ones don't count, and a loaded list can be shorter than these.
     if (xRate_.size() > held && wanted > held) xRate_.resize(held);
     const double rate = xRate_.empty() ? terms_.OrigRate : xRate_.back();
     if (xRate_.size() < wanted) xRate_.resize(wanted, rate);

@@ -7,7 +7,7 @@
 
 namespace mortgages {
 
-/// One point of the schedule as it is drawn by years.
+/// One point of the schedule drawn by years.
 struct YearPoint {
     std::string label; ///< "Year 1"
     double balance = 0;
@@ -18,8 +18,9 @@ struct YearPoint {
 /// The names of the three series, in the order of YearPoint.
 inline constexpr std::string_view kYearSeries[] = {"Balance", "Principle TTD", "Interest TTD"};
 
-/// The first year is drawn by its first period, each later one by the last of the year before.
-/// Nothing without a schedule; a loan shorter than a year has its one.
+/// Returns a point per year: the first year is drawn by its first period, each later one by the
+/// last period of the year before. Empty without a schedule; a loan shorter than a year has one
+/// point.
 std::vector<YearPoint> ScheduleYears(const clsMortgage& mortgage);
 
 } // namespace mortgages

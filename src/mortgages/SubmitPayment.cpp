@@ -33,7 +33,7 @@ bool MortgageExists(std::int32_t idMortgage) {
                                     charge.description, charge.datePosted.ToText(), fate));
 }
 
-/// What the screen offered was read before this unit of work began.
+/// The charges on the screen were read before this unit of work began.
 void CheckCharge(const MortgagePayment& payment, const PaymentCharge& charge) {
     Recordset row = core::Read(
         "SELECT IdTransaction, Total, PayDown, Period, Flags FROM MortgageLog "
@@ -44,7 +44,7 @@ void CheckCharge(const MortgagePayment& payment, const PaymentCharge& charge) {
     if (paidBy != 0 && paidBy != payment.idTransaction) {
         ThrowConflict(charge, "has already been paid");
     }
-    // Another edit of the same payment released it.
+    // Another edit of the same payment has reopened it.
     if (paidBy != charge.idTransaction && paidBy != payment.idTransaction) {
         ThrowConflict(charge, "has been changed");
     }
@@ -87,7 +87,7 @@ void CheckUnchanged(const MortgagePayment& payment) {
     if (!errors.empty()) throw platform::Error(errors.front());
 }
 
-/// A payment of a mortgage that was deleted keeps the building it was booked for.
+/// A payment of a deleted mortgage keeps the building it was posted for.
 std::int32_t BuildingOf(const MortgagePayment& payment) {
     if (payment.IsNew() || MortgageExists(payment.idMortgage)) {
         return core::GetMortgageBuilding(payment.idMortgage);
@@ -118,7 +118,7 @@ MortgageLogEntry PaymentRowOf(const MortgagePayment& payment, std::int32_t idTra
     return entry;
 }
 
-/// The schedule isn't rebuilt here: until the mortgage is recalculated, its row has a wrong due
+/// The schedule isn't rebuilt here: until the mortgage is recalculated, its row has the wrong due
 /// date and balance.
 void ApplyBasePayment(std::int32_t idMortgage, const PaymentCharge& charge, bool isNew) {
     clsMortgage mortgage;
@@ -137,7 +137,7 @@ void SettleCharges(const MortgagePayment& payment, std::int32_t idTransaction) {
     }
 }
 
-/// The split of the base payments in the log follows the extra principal paid; their totals stay.
+/// Splits the base payments in the log again after the extra principal; their totals stay.
 void RefreshSplits(const MortgagePayment& payment) {
     const std::int16_t from = payment.FromPeriod();
     clsMortgage mortgage;

@@ -2,10 +2,10 @@
 
 namespace mortgages {
 
-/// How the schedule is drawn by years, by the numbers that the settings keep.
+/// How the schedule is drawn by years; the numbers are stored in the settings.
 enum class ChartType { Lines = 0, Bars = 1, Areas = 2 };
 
-/// What the screen of a mortgage shows of the schedule; kept for the machine.
+/// What a mortgage's screen shows of the schedule; stored on this machine.
 struct ViewSettings {
     bool detail = false;
     bool yearToDate = false;

@@ -31,8 +31,8 @@ clsMortgage::clsMortgage() {
 void clsMortgage::CreateMtg(std::string_view firstDue, double presentValue, double& periods,
                             double rate, double& payment, bool interestOnly, bool adjustable) {
     if (interestOnly) {
-        // A year's interest with its sign turned: what whoever set up the loan has always been
-        // given; ReCalc reckons the payment itself.
+        // A year's interest, negated: callers have always been given this; ReCalc calculates the
+        // payment itself.
         payment = presentValue * rate * -1;
     } else if (payment != 0) {
         periods = Annuity(rate / 12).NPer(-payment, presentValue);

@@ -17,103 +17,107 @@ class AmortGrid;
 struct AmortView;
 
 /// The calculator of one loan: holds its terms, expands them into a schedule of monthly periods and
-/// answers questions about it. It knows what the terms say should happen, and nothing of payments
-/// made. A change of a term shows in the schedule after the next ReCalc.
+/// answers questions about it. It knows what should happen by the terms, and nothing of payments
+/// made. A changed term takes effect in the schedule after the next ReCalc.
 ///
-/// Periods count from 1. Where a period is asked for, 0 mostly means the current one; what lies
-/// outside the schedule is 0. Rates and shares are percent in the properties and fractions
+/// Periods count from 1. In period arguments 0 usually means the current one; the result for a
+/// period outside the schedule is 0. Rates and shares are percent in the properties and fractions
 /// everywhere else.
 class clsMortgage {
   public:
-    /// An ordinary loan that begins this month, with its schedule.
+    /// Creates an ordinary loan that begins this month, with its schedule.
     clsMortgage();
 
-    /// Rebuilds the schedule. A loan that can't be reckoned is an Error; the schedule then stands
-    /// as far as it was built.
+    /// Rebuilds the schedule. Throws Error if the loan can't be calculated; the schedule then ends
+    /// where it failed.
     void ReCalc();
-    /// Sets up a loan from scratch. A `payment` that isn't 0 decides on `periods`, otherwise
-    /// `periods` on the payment; of a loan of interest alone the payment comes back as a year's
+    /// Sets up a loan from scratch. A `payment` other than 0 determines `periods`, otherwise
+    /// `periods` determines the payment; for an interest-only loan `payment` returns a year's
     /// interest, negative. `rate` is a fraction.
     void CreateMtg(std::string_view firstDue, double presentValue, double& periods, double rate,
                    double& payment, bool interestOnly, bool adjustable);
     /// Aligns the schedule with a balance (and a rate, a fraction) known for the period of `date`:
-    /// what it is lower than scheduled counts as extra principal of the period before. A balance
-    /// that is higher, and the first and the last period, change nothing.
+    /// if it is lower than scheduled, the difference counts as extra principal of the period
+    /// before. A higher balance, and the first and last period, change nothing.
     void BalanceMtg(platform::Date date, double balance, double rate);
 
-    // Loading puts the stored values straight in, past the limits of the properties; a null keeps
-    // what was there. ReCalc is left to the caller.
+    // Loading sets the stored values directly, ignoring the limits of the properties; a null leaves
+    // its member unchanged. The caller calls ReCalc.
 
-    /// Reads the mortgage of this id; false without one.
+    /// Reads the mortgage of this id; returns false if there is none.
     bool LoadMtg(std::int32_t idMortgage);
-    /// Reads the current row, passing over every field that fails; always true. The row's flag of a
-    /// balloon is not looked for: a loan loaded so runs on past its balloon.
+    /// Reads the current row, skipping every field that fails; always returns true. The row's
+    /// balloon flag is not read: a loan loaded this way runs on past its balloon.
     bool LoadRS(platform::Recordset& row);
-    /// Writes the mortgage of this id, a new row if there is none. Its balance is the one after the
-    /// current period. Failures are thrown.
+    /// Writes the mortgage of this id, as a new row if there is none. Its balance is the one after
+    /// the current period. Throws on failure.
     void SaveMtg(std::int32_t idMortgage) const;
-    /// Puts the fields into the current row, which the caller writes. Its balance is the one before
-    /// the current period; past the schedule there is no due date and nothing left.
+    /// Copies the fields to the current row, which the caller writes. Its balance is the one before
+    /// the current period; past the schedule there is no due date and no balance.
     void SaveRS(platform::Recordset& row) const;
 
-    /// The schedule as a table to look at. It must not outlive the loan nor its schedule.
+    /// Returns the schedule as a table. It must not outlive the loan or its schedule.
     AmortGrid ShowGrid(const AmortView& view) const;
-    /// The schedule as a report prints it: a row a period, the titles and the column formats parted
-    /// by "|". `full` is sixteen columns, otherwise eight.
+    /// Returns the schedule as a report prints it: a row per period, and the titles and column
+    /// formats separated by "|". `full` has sixteen columns, otherwise eight.
     void GetAmortization(std::vector<std::vector<std::string>>& table, std::string& header,
                          std::string& format, bool full) const;
 
-    /// The extra principal entered for a period, 0 past the entries; of period 0 that of all.
+    /// Returns the extra principal entered for a period, 0 beyond the entries; for period 0, that
+    /// of all periods.
     double GetXPRI(int period) const;
-    /// Sets it; a period past the entries is passed over.
+    /// Sets it; a period beyond the entries is skipped.
     void SetXPri(int period, double amount);
     void ClearXPri();
-    /// The most that the rates of an adjustable loan can rise to, as its own; nothing otherwise.
+    /// Raises the rates of an adjustable loan to the highest possible; does nothing for other
+    /// loans.
     void SetMaxRates();
-    /// Every period back at the first rate.
+    /// Sets every period back to the first rate.
     void ClearRate();
     double GetRate(int period) const;
-    /// Sets the rate (a fraction, at most 30 percent) of a period from the second on, and of all
-    /// after it.
+    /// Sets the rate (a fraction, at most 30 percent) of a period, from the second on, and of all
+    /// later ones.
     void SetRate(int period, double rate);
 
-    /// The due date of the current period, unset outside the schedule.
+    /// Returns the due date of the current period, unset outside the schedule.
     platform::Date NextDue() const;
     double GetPV(int period) const;
-    /// The sums up to a period; past the end those of the last one.
+    /// Return the sums up to a period; beyond the end, up to the last one.
     double GetPriTTD(int period) const;
     double GetIntTTD(int period) const;
-    /// The sums of a calendar year ("2026", empty for the present one), 0 where nothing falls due.
+    /// Return the sums of a calendar year ("2026", empty for the present one), 0 if nothing falls
+    /// due in it.
     double GetIntYTD(std::string_view year) const;
     double GetPriYTD(std::string_view year) const;
     double GetPeriods() const { return periods_; }
     int GetPeriodsRemaining() const { return periods_ - terms_.CurrentPeriod + 1; }
-    /// "Pending", "Current" or "Closed", by the period of `date`.
+    /// Returns "Pending", "Current" or "Closed", by the period of `date`.
     std::string_view GetStatus(platform::Date date) const;
     platform::Currency GetPPMT(int period) const;
     platform::Currency GetPMT(int period) const;
     platform::Currency GetIPMT(int period) const;
-    /// The period that the calendar month of `date` is, 0 outside the loan's.
+    /// Returns the period of `date`'s calendar month, 0 outside the loan.
     int GetPeriod(platform::Date date) const;
 
-    /// The rows of the schedule, and the terms as they are kept.
+    /// The rows of the schedule, and the terms as they are stored.
     const std::vector<AmortPeriod>& Schedule() const { return schedule_; }
     const LoanTerms& Terms() const { return terms_; }
-    /// The entries of extra principal and rates; there can be more than periods.
+    /// The number of entries for extra principal and rates; there can be more than periods.
     int ArraySize() const { return arraySize_; }
 
     const std::string& Description() const { return terms_.Description; }
     void SetDescription(std::string_view text);
     std::int16_t CurrentPeriod() const { return terms_.CurrentPeriod; }
     void SetCurrentPeriod(int period);
-    /// On to the next period, also past the schedule's last: for a loan whose schedule isn't built.
+    /// Moves to the next period, also beyond the end of the schedule: for a loan whose schedule
+    /// isn't built.
     void AdvanceCurrentPeriod();
     double OrigPV() const { return terms_.OrigPV; }
     void SetOrigPV(double amount);
     double OrigPer() const { return terms_.OrigPer; }
     void SetOrigPer(double periods);
     double OrigRate() const { return terms_.OrigRate * 100; }
-    /// A rate that differs from the present one becomes every period's.
+    /// If it differs from the present rate, it becomes every period's rate.
     void SetOrigRate(double percent);
     double OrigPmt() const { return terms_.OrigPmt; }
     const std::string& FirstDue() const { return terms_.FirstDue; }
@@ -145,10 +149,10 @@ class clsMortgage {
     void SetARMPerCap(double percent);
 
   private:
-    /// The row of a period, the current one's for 0; null outside the schedule.
+    /// Returns the row of a period, the current one for 0; null outside the schedule.
     const AmortPeriod* Row(int period) const;
     const AmortPeriod* RowUpTo(int period) const;
-    /// The period by the calendar months since the first due date, wherever that is.
+    /// Returns the period by the calendar months since the first due date, within the loan or not.
     int PeriodOf(platform::Date date) const;
     void GrowArrays();
 

@@ -19,7 +19,7 @@ using platform::UnitOfWork;
 
 namespace {
 
-/// Most days change nothing in a row; what isn't set isn't written.
+/// On most days nothing in a row changes, and an unchanged field isn't written.
 void SetWord(Recordset& row, std::string_view field, std::string_view word) {
     auto stored = row[field];
     if (stored.IsNull() || stored.AsText() != word) stored.Set(word);
@@ -29,7 +29,7 @@ bool HasBalance(Recordset& row) {
     return row["CurrentPV"].IsNull() || row["CurrentPV"].AsDouble() != 0;
 }
 
-/// What the last payment leaves: no balance and no due date to reckon charges from.
+/// Returns whether the loan is paid off: no balance, and no due date to count charges from.
 bool IsPaidOff(Recordset& row) {
     return row["NextDue"].IsBlank() && !HasBalance(row);
 }

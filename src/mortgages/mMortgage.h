@@ -9,18 +9,18 @@
 namespace mortgages {
 
 // The calendar-driven life of a mortgage. The operations on a row work on an open, updatable row of
-// `Mortgage`. Failures are thrown; what one of them wrote until then is taken back.
+// `Mortgage`. They throw on failure, and what they wrote is rolled back.
 
-/// Brings a mortgage up to date: walks it by the calendar, posts its charges, sets its status words
-/// and writes the row. The next due date stays: it moves with payments alone. One unit of work.
-/// Answers the charges posted.
+/// Brings a mortgage up to date: walks it by the calendar, posts its charges, sets its statuses and
+/// writes the row. The next due date stays, since only payments move it. One unit of work. Returns
+/// the charges posted.
 std::vector<Charge> UpdateMortgage(platform::Recordset& row, RunMode mode);
 
-/// The same for the mortgage of this id; nothing for one that isn't there.
+/// The same for the mortgage of this id; does nothing if it doesn't exist.
 void UpdateMortgageById(std::int32_t idMortgage, RunMode mode);
 
-/// Sets `Status` by the balance, and `PmtStatus` by today and the next due date; a row without one
-/// keeps the word it has. The caller writes the row.
+/// Sets `Status` by the balance, and `PmtStatus` by today and the next due date; without one,
+/// PmtStatus stays. The caller writes the row.
 void SetMortgageStatus(platform::Recordset& row);
 
 } // namespace mortgages

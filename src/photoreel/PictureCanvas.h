@@ -5,7 +5,7 @@
 
 namespace photoreel {
 
-/// One picture on a dark background, as large as possible; or a text.
+/// Shows one picture on a dark background, as large as possible, or text.
 class PictureCanvas : public QWidget {
     Q_OBJECT
 
@@ -18,9 +18,9 @@ class PictureCanvas : public QWidget {
     const QString& Text() const { return text_; }
 
   Q_SIGNALS:
-    /// A left click, or the wheel turned down.
+    /// Emitted by a left click, or by turning the wheel down.
     void NextAsked();
-    /// A right click, or the wheel turned up.
+    /// Emitted by a right click, or by turning the wheel up.
     void PreviousAsked();
 
   protected:

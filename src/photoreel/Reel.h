@@ -12,8 +12,8 @@ namespace photoreel {
 /// Returns why a picture can't be shown; empty if it can.
 using Obstacle = std::function<std::string(const documents::ShowPicture& picture)>;
 
-/// A sequence of pictures to go through in both directions, around the ends too. Pictures that
-/// can't be shown are skipped.
+/// A sequence of pictures to go through in both directions, wrapping around at the ends. Pictures
+/// that can't be shown are skipped.
 class Reel {
   public:
     explicit Reel(documents::ShowList list) : list_(std::move(list)) {}
@@ -43,8 +43,8 @@ class Reel {
     std::vector<std::string> skipped_;
 };
 
-/// Returns the list file of the command line ("/loadfile FILE" or "/loadfile=FILE"); empty without
-/// one.
+/// Returns the list file on the command line ("/loadfile FILE" or "/loadfile=FILE"), or an empty
+/// string.
 std::string ListFileOf(std::span<const std::string> words);
 
 } // namespace photoreel

@@ -18,8 +18,8 @@ struct AccountName {
 /// Returns the errors in an account's entries, a line each; empty if they can be saved.
 std::vector<std::string> AccountErrors(const AccountName& name);
 
-/// Returns the name that lists show: the company, or the person's name ("Smith, Ann B") if there is
-/// no company or the account is to be shown as an individual.
+/// Returns the name that lists show: the company, or the contact's name ("Smith, Ann B") if there
+/// is no company or the account is to be shown as an individual.
 std::string ShowAs(const AccountName& name);
 
 /// Returns the types offered for an account, separated by commas: the types in use, then the

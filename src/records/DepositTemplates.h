@@ -9,7 +9,8 @@
 
 namespace records {
 
-// Deposit templates: the deposits charged to every new lease, or to those of a building or a unit.
+// Deposit templates: the deposits charged to every new lease, or to the leases of a building or a
+// unit.
 
 /// The leases that a template applies to; All lists the templates of every scope.
 enum class DepositScope { All, Global, Building, Unit };

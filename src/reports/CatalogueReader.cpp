@@ -67,7 +67,7 @@ constexpr auto kDateRanges = std::to_array<Word<DateRange>>({
     {"SELECT", DateRange::Select},
 });
 
-/// The meaning of a value that is one of the words, in any case and with blanks around it.
+/// Returns the meaning of a value that is one of the words, ignoring case and blanks around it.
 template <typename Words>
 auto Find(const Words& words, std::string_view value)
     -> std::optional<decltype(words.front().meaning)> {

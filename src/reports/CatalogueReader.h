@@ -11,9 +11,9 @@ namespace reports {
 /// ignored.
 void ReadCatalogueKeys(std::string_view text, ReportDef& report);
 
-/// True for a catalogue key in upper case.
+/// Returns true for a catalogue key in upper case.
 bool IsCatalogueKey(std::string_view key);
-/// True for a value that a catalogue key accepts; any value of a key with free text is.
+/// Returns true for a value that a catalogue key accepts; a key with free text accepts any.
 bool IsCatalogueValue(std::string_view key, std::string_view value);
 
 } // namespace reports

@@ -16,7 +16,7 @@ struct ReportFault {
 
 /// Returns the faults of a definition in the order of its lines: unknown keys, commands that the
 /// section's class lacks, values that are not numbers, statements that don't compile, tags that
-/// nobody fills. Statements are tried on a new, empty database, so no books are needed.
+/// nothing fills. Statements are tried on a new, empty database, so no books are needed.
 std::vector<ReportFault> CheckReport(std::string_view text, ReportKind kind);
 
 } // namespace reports

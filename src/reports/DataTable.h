@@ -18,11 +18,10 @@ struct DataColumns {
 
 DataColumns ColumnsOf(platform::Recordset& rows, platform::Twips printWidth);
 
-/// A value of a query as a table shows it: money by the money format, booleans as Yes or No.
+/// Returns a query's value as a table shows it: money in the money format, booleans as Yes or No.
 std::string CellText(const platform::Field& field);
 
-/// Makes the rows of an open query the rows of a table, from the first on. The query must outlive
-/// it.
+/// Presents the rows of an open query as the rows of a table. The query must outlive it.
 class QueryRows : public platform::TableRows {
   public:
     explicit QueryRows(platform::Recordset& rows);
@@ -37,7 +36,7 @@ class QueryRows : public platform::TableRows {
 /// Styles the header row of the table that was added last: grey, bold and higher than the rows.
 void StyleHeader(platform::PrintSurface& page);
 
-/// Prints "No records found." and goes back to the default style.
+/// Prints "No records found." and returns to the default style.
 void PrintNoRecords(platform::PrintSurface& page);
 
 /// Prints a text in a named style, unless it is empty.

@@ -7,7 +7,7 @@ namespace reports {
 
 namespace {
 
-/// The characters of the bytes 0x80 to 0x9F; all other bytes have the code of their own number.
+/// The characters of the bytes 0x80 to 0x9F; every other byte has its own number as its code.
 constexpr std::array<char16_t, 32> kUpperControls = {
     0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -17,7 +17,7 @@ bool IsTail(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80;
 }
 
-/// The length in bytes of the first character of `text`; 0 if it isn't well-formed.
+/// Returns the length in bytes of the first character of `text`; 0 if it isn't well-formed.
 std::size_t CharacterLength(std::string_view text) {
     const auto at = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned lead = at(0);

@@ -19,8 +19,8 @@ struct ExportWords {
 
 const ExportWords& WordsOf(ExportFormat format);
 
-/// The first name "rpt0001.html", "rpt0002.html", ... that isn't taken in `folder`
-/// (empty, or with its last separator); the last of 9999 names if all are taken.
+/// Returns the first free name of "rpt0001.html", "rpt0002.html", ... in `folder` (empty, or with
+/// its last separator); the last of 9999 names if none is free.
 std::string ProposeExportFile(std::string_view folder, ExportFormat format);
 
 } // namespace reports

@@ -10,7 +10,7 @@ namespace reports {
 
 namespace {
 
-/// True for a text such as "RENT DUE", false for the text between the signs of "5% of 10%".
+/// Returns true for a text such as "RENT DUE", false for the text between the signs of "5% of 10%".
 bool LooksLikeName(const std::string& text) {
     const auto isLetter = [](char c) {
         return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';

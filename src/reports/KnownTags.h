@@ -6,25 +6,25 @@
 
 namespace reports {
 
-/// The tags that something fills in one place of a definition, each with a value to try statements
-/// with. Case doesn't matter in their names.
+/// The tags that are filled in one place of a definition, each with a sample value to try
+/// statements with. Their names ignore case.
 class KnownTags {
   public:
-    /// Nothing is filled.
+    /// Creates an empty set.
     KnownTags() = default;
-    /// The tags of a subtitle and of a loop's query.
+    /// Returns the tags of a subtitle and of a loop's query.
     static KnownTags OfRun();
-    /// The tags of the texts and statements of sections.
+    /// Returns the tags of the texts and statements of sections.
     static KnownTags OfSection();
 
     void Add(const std::string& name, const std::string& sample);
     bool Has(const std::string& name) const;
 
-    /// The text with each tag's sample in its place.
+    /// Returns the text with each tag replaced by its sample.
     std::string Fill(std::string text) const;
 
-    /// The names between two "%" that nobody fills, as they are written. None for a text with LIKE,
-    /// in whose patterns "%" matches any characters.
+    /// Returns the names between two "%" that aren't known, as written. None for text with LIKE, in
+    /// whose patterns "%" matches any characters.
     std::set<std::string> Unfilled(const std::string& text) const;
 
   private:

@@ -10,7 +10,7 @@ namespace reports {
 
 namespace {
 
-/// No key of ours is longer.
+/// None of our keys is longer.
 constexpr std::size_t kLongestKey = 40;
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";

@@ -7,18 +7,18 @@
 
 namespace reports {
 
-/// The blanks around the key and the value of a line with "=": the catalogue keeps them, so that
-/// "DESCRIPTION = x" is not a description there; a run removes them.
+/// Whether blanks around the key and the value of a line with "=" are kept: the catalogue keeps
+/// them, so "DESCRIPTION = x" is not a description there; a run trims them.
 enum class Blanks { Keep, Trim };
 
-/// One line of a definition that is neither empty nor a comment.
+/// A line of a definition that is neither empty nor a comment.
 struct DefinitionLine {
     int number = 0;         ///< counts from 1
     std::string key;        ///< in upper case; a key too long to be one of ours is left empty
     std::string_view name;  ///< the key as it is written
     std::string_view value; ///< what follows the first "=", empty without one
 
-    /// True for "[DATA]" and the like, if `section` is the word between the brackets.
+    /// Returns true for "[DATA]" and the like, if `section` is the word between the brackets.
     bool Opens(std::string_view section) const;
 };
 
@@ -29,7 +29,7 @@ class LineReader {
     /// `text` must outlive the reader and the lines it returns.
     LineReader(std::string_view text, Blanks blanks) : rest_(text), blanks_(blanks) {}
 
-    /// The next line; nothing at the end of the text.
+    /// Returns the next line; nothing at the end of the text.
     std::optional<DefinitionLine> Next();
 
   private:
@@ -40,8 +40,8 @@ class LineReader {
     int number_ = 0;
 };
 
-/// The text of a definition file as UTF-8: a byte order mark is removed, and a text that is not
-/// UTF-8 is read as Windows-1252. Nothing if the file is missing or can't be read.
+/// Returns the text of a definition file as UTF-8: a byte order mark is removed, and text that is
+/// not UTF-8 is read as Windows-1252. Returns nothing if the file is missing or can't be read.
 std::optional<std::string> ReadDefinition(const std::filesystem::path& file);
 
 } // namespace reports

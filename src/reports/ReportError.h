@@ -7,16 +7,16 @@
 
 namespace reports {
 
-/// A fault in a report's definition that ends the run: where it is and why.
+/// An error in a report's definition that ends the run, with its line.
 class ReportError : public platform::Error {
   public:
     /// `line` counts from 1. The text is one line: "line 12: reason".
     ReportError(int line, std::string_view reason);
-    /// The same with the file in front: "Owner.rpt, line 12: reason".
+    /// The same, beginning with the file: "Owner.rpt, line 12: reason".
     ReportError(std::string_view file, const ReportError& inFile);
 
     int Line() const { return line_; }
-    /// Without file and line.
+    /// Returns the reason without file and line.
     const std::string& Reason() const { return reason_; }
 
   private:
@@ -24,9 +24,9 @@ class ReportError : public platform::Error {
     std::string reason_;
 };
 
-/// Does a part of a run, and turns a value that can't be converted or a row that can't be read into
-/// a ReportError with the line. Other failures, such as a full disk, aren't the definition's fault
-/// and are passed on.
+/// Runs a part of a run and turns a value that can't be converted, or a row that can't be read,
+/// into a ReportError with the line. Other failures, such as a full disk, aren't the definition's
+/// fault and pass through.
 template <typename Work>
 void AtLine(int line, Work work) {
     const auto fail = [line](const platform::Error& fault) {

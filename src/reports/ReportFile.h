@@ -13,14 +13,14 @@
 
 namespace reports {
 
-/// A definition that was read for a run.
+/// A definition read for a run.
 struct ReportFile {
     std::string Title = "Vestrel Report";
     std::string SubTitle;
     bool ShowTitle = true;
     bool ShowHeader = true;
     bool ShowFooter = true;
-    /// Nothing if the file leaves the orientation to the catalogue.
+    /// Unset if the file leaves the orientation to the catalogue.
     std::optional<platform::PageOrientation> FileOrientation;
     bool DebugOn = false;
     std::int32_t ScaleX = 0;

@@ -34,7 +34,7 @@ bool HasExtension(const std::string& name, std::string_view extension) {
            platform::EqualIgnoringCase(name.substr(name.size() - extension.size()), extension);
 }
 
-/// The files of the folder with this extension, in the folder's own order.
+/// Returns the files of the folder with this extension, in the folder's own order.
 std::vector<std::string> FilesOf(const fs::path& folder, std::string_view extension) {
     std::vector<std::string> names;
     std::error_code failure;

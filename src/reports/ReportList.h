@@ -7,7 +7,7 @@
 
 namespace reports {
 
-/// The scratch report's place in the catalogue.
+/// The scratch report's number in the catalogue.
 inline constexpr int kScratchReport = 1;
 
 /// Rebuilds the catalogue from the definition files of the reports folder: the scratch report, then
@@ -18,10 +18,10 @@ void LoadReportList();
 /// Reports are numbered from 1 to ReportCount. Once loaded, the catalogue has at least the scratch
 /// report.
 int ReportCount();
-/// The report of a number; null for a number that isn't one.
+/// Returns the report of a number; null if there is none.
 ReportDef* FindReport(int index);
-/// The first report of this description, or else of this file name, without regard to case; 0 if
-/// there is none.
+/// Returns the number of the first report of this description, or else of this file name, ignoring
+/// case; 0 if there is none.
 int FindReportNamed(std::string_view name);
 
 } // namespace reports

@@ -9,7 +9,7 @@
 
 namespace reports {
 
-/// The form on which records of a kind are edited; None for a kind without reports.
+/// Returns the form on which records of a kind are edited; None for a kind without reports.
 RecordForm FormOfKind(std::int16_t recordKind);
 
 /// An item of a report menu: its caption, with "&" before its key, and the report's number.
@@ -26,13 +26,13 @@ struct ReportMenu {
     std::vector<ReportMenuItem> items;
 };
 
-/// The reports of a form, numbered "(&1) Rent roll", in catalogue order. `mark` goes between the
-/// number and the description, for a menu with the reports of several forms.
+/// Returns the reports of a form, numbered "(&1) Rent roll", in catalogue order. `mark` is inserted
+/// between the number and the description, for a menu with the reports of several forms.
 ReportMenu ReportsOf(RecordForm form, std::string_view mark = {});
-/// The receipts of a form: "Print Rent receipt".
+/// Returns the receipts of a form: "Print Rent receipt".
 std::vector<ReportMenuItem> ReceiptsOf(RecordForm form);
 
-/// The building's and the unit's reports as the main window's menu lists them.
+/// Returns the reports of buildings and units as the main window's menu lists them.
 ReportMenu ReportsOfBuilding();
 ReportMenu ReportsOfSelectedUnit();
 

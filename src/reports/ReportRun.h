@@ -23,18 +23,18 @@ class ReportRun {
     /// Reads the report's file in the reports folder. An orientation that the file gives is stored
     /// in `report`, which must outlive the run.
     explicit ReportRun(ReportDef& report);
-    /// The same of a file elsewhere.
+    /// The same for a file elsewhere.
     ReportRun(ReportDef& report, std::filesystem::path file);
 
     const ReportDef& Definition() const { return *report_; }
     const ReportFile& File() const { return file_; }
     const std::string& Title() const { return file_.Title; }
-    /// True if the file fixes the page's orientation.
+    /// Returns true if the file fixes the page's orientation.
     bool FixesOrientation() const { return file_.FileOrientation.has_value(); }
     const std::string& SelectedDescription() const { return selectedDescription_; }
     platform::Date StartDate() const { return start_; }
     platform::Date EndDate() const { return end_; }
-    /// The machine's paper and margins in the report's orientation.
+    /// Returns the machine's paper and margins in the report's orientation.
     platform::PageSetup Setup() const;
 
     /// Draws the whole document, from StartDoc to EndDoc. The run can be drawn once.

@@ -22,14 +22,14 @@ class ReportSection {
     ReportSection& operator=(const ReportSection&) = delete;
 
     /// Draws the section at the current position. Throws a ReportError for a fault in the
-    /// definition that the section can't go on from.
+    /// definition that stops the section.
     virtual void ShowData(platform::PrintSurface& page) = 0;
 
     int Line = 0; ///< of the section's header in the file
     LoopPhase Sequence = LoopPhase::Before;
     Detail DetailLevel = Detail::Always;
 
-    // Set by whoever runs the report.
+    // Set by the caller that runs the report.
     bool EnableDebug = false;
     std::int32_t SelectedId = 0;
     std::string SelectedDescription;

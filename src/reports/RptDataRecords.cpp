@@ -14,7 +14,7 @@ namespace {
 
 constexpr platform::Twips kLabelWidth = 2880;
 
-/// True for the names of fields whose rows have no label.
+/// Returns true for the names of fields whose rows have no label.
 bool IsSpacer(std::string_view name) {
     constexpr std::string_view kSpace = "SPACE";
     return platform::EqualIgnoringCase(name.substr(0, kSpace.size()), kSpace);

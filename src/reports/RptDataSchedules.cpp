@@ -47,7 +47,7 @@ double NumberOf(const platform::Field& field) {
     return field.IsNull() ? 0 : field.AsDouble();
 }
 
-/// Prints what is missing; true if nothing is.
+/// Prints the missing terms; returns true if there are none.
 bool HasAllTerms(PrintSurface& page, platform::Recordset& building) {
     struct Term {
         bool isThere;

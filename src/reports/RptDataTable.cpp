@@ -40,8 +40,8 @@ class GrandTotal {
     bool isMoney_ = true;
 };
 
-/// The rows of a one-column query as texts, as many as there are rows. They are joined and split
-/// at carriage returns, so that a value with a carriage return shifts the groups after it.
+/// Returns the rows of a one-column query as texts, as many as there are rows. They are joined and
+/// split at carriage returns, so a value with a carriage return shifts the groups after it.
 std::vector<std::string> GroupValues(platform::Recordset& rows) {
     const auto count = static_cast<std::size_t>(rows.RecordCount());
     std::string all;

@@ -18,8 +18,8 @@ bool IsNumeric(char c) {
     return (c >= '0' && c <= '9') || c == '.';
 }
 
-/// A plain number with or without a sign. An amount in parentheses is not one: a negative amount
-/// that was formatted already can't be calculated with.
+/// Returns a plain number, with or without a sign. An amount in parentheses is not one: a negative
+/// amount that is already formatted can't be calculated with.
 std::optional<double> Operand(std::string_view text) {
     const std::size_t digits = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
     if (digits == text.size() || !IsNumeric(text[digits])) return std::nullopt;
@@ -31,8 +31,8 @@ std::optional<double> Operand(std::string_view text) {
     return number;
 }
 
-/// "A op B", where A may carry a sign: 0 for an operator that isn't known and without one. Nothing
-/// if an operand is not a number or the result isn't.
+/// Calculates "A op B", where A may have a sign; 0 for an unknown or missing operator. Returns
+/// nothing if an operand or the result is not a number.
 std::optional<double> Calculate(std::string_view expression) {
     std::size_t at = 1;
     while (at < expression.size() && IsNumeric(expression[at]))

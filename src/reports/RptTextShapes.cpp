@@ -1,4 +1,4 @@
-// The commands of a [TEXT] section that work in cells of the page: lines, boxes, positions and the
+// The commands of a [TEXT] section that use cells of the page: lines, boxes, positions and the
 // layout grid.
 
 #include <fmt/core.h>
@@ -15,7 +15,7 @@ using platform::Twips;
 namespace {
 
 constexpr int kGridParts = 20;
-/// A finer grid has more lines than the page has twips: only the numbered ones are drawn.
+/// A finer grid would have more lines than the page has twips: only the numbered ones are drawn.
 constexpr int kFinestGrid = 20'000;
 constexpr platform::PrintColor kNumberedLine = 0x808080;
 constexpr platform::PrintColor kPlainLine = 0xC0C0C0;
@@ -63,7 +63,7 @@ int GridStep(int scale) {
     return step;
 }
 
-/// Calls `draw` with each line of one direction and whether it has its number.
+/// Calls `draw` for each line of one direction, with whether it is numbered.
 template <typename Draw>
 void ForEachGridLine(int scale, int step, Draw draw) {
     const std::int64_t between = scale > kFinestGrid ? step : 1;

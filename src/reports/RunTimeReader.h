@@ -8,17 +8,17 @@
 
 namespace reports {
 
-/// True for a key in upper case that sets up the page, whatever section it is in.
+/// Returns true for a key in upper case that sets up the page, whichever section it is in.
 bool IsPageKey(std::string_view key);
 
-/// Reads a definition for a run, line by line; the state says where a line belongs.
+/// Reads a definition for a run, line by line, keeping track of the section a line belongs to.
 class RunTimeReader {
   public:
     /// Throws a ReportError for a command that the section's class lacks and for a number that is
     /// not one; the line then has no effect.
     void Read(const DefinitionLine& line);
 
-    /// The report as far as it was read. Its sections keep their addresses.
+    /// Returns the report as read so far. Its sections keep their addresses.
     const ReportFile& Report() const { return report_; }
     ReportFile TakeReport() { return std::move(report_); }
 

@@ -6,8 +6,8 @@
 
 namespace reports {
 
-/// New, empty books to try statements on; deleted with the object. Throws an Error if they
-/// can't be made.
+/// New, empty books to try statements on, deleted with the object. Throws an Error if they can't be
+/// created.
 class SampleBooks {
   public:
     SampleBooks();

@@ -26,7 +26,7 @@ Detail DetailOf(std::string_view word) {
     return Detail::Always;
 }
 
-// The value itself, for a property that is a text.
+// Returns the value itself, for a text property.
 template <auto Member>
 void DataText(clsRptData& section, Line line) {
     section.*Member = line.value;
@@ -42,7 +42,7 @@ void TextWithValue(clsRptText& section, Line line) {
     (section.*Command)(line.value, line.number);
 }
 
-// Attributes go to the command queued last; before the first command they are lost.
+// Attributes apply to the command queued last; before the first command they are lost.
 template <auto Member>
 void TextAttribute(clsRptText& section, Line line) {
     if (TextCommand* command = section.Last()) command->*Member = line.value;
@@ -75,7 +75,7 @@ constexpr auto kCommands = std::to_array<SectionCommand>({
      [](clsRptData& s, Line l) { s.DetailLevel = DetailOf(l.value); }},
     {"SQLQUERY", kCommand, TextWithValue<&clsRptText::SQLQuery>, DataText<&clsRptData::SQLQuery>},
 
-    // Of [DATA].
+    // Commands of [DATA].
     {"SQLFIELDS", kCommand, kNotInText, DataText<&clsRptData::SQLFields>},
     {"SQLTABLES", kCommand, kNotInText, DataText<&clsRptData::SQLTables>},
     {"SQLFILTER", kCommand, kNotInText, DataText<&clsRptData::SQLFilter>},
@@ -101,7 +101,7 @@ constexpr auto kCommands = std::to_array<SectionCommand>({
     {"MAXRECORDS", kCommand, kNotInText,
      [](clsRptData& s, Line l) { s.MaxRecords = platform::StrToInt16(l.value); }},
 
-    // Of [TEXT]: commands, then their attributes.
+    // Commands of [TEXT], then their attributes.
     {"PARAGRAPH", kCommand, TextWithValue<&clsRptText::Paragraph>, kNotInData},
     {"TABLE", kCommand, TextWithValue<&clsRptText::Table>, kNotInData},
     {"SEPLINE", kCommand, TextWithValue<&clsRptText::SepLine>, kNotInData},

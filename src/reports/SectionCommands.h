@@ -9,7 +9,7 @@
 namespace reports {
 
 /// A command of the sections, with a function for each class of section; null for a class that
-/// lacks the command, in whose sections it ends the run.
+/// lacks the command, which then ends the run.
 struct SectionCommand {
     std::string_view key;
     bool isAttribute; ///< of a [TEXT] section's last command
@@ -17,7 +17,7 @@ struct SectionCommand {
     void (*ofData)(clsRptData& section, const DefinitionLine& line);
 };
 
-/// The command of a key in upper case; null for a key that isn't a command.
+/// Returns the command of a key in upper case; null if there is none.
 const SectionCommand* FindSectionCommand(std::string_view key);
 
 } // namespace reports

@@ -16,14 +16,14 @@ struct ConsoleAnswer {
     ConsoleColor color = ConsoleColor::Plain;
     /// Why a statement failed; empty if it didn't.
     std::string reason;
-    /// The rows to show: open only for a select that gave some, and for the list of tables.
+    /// The rows to show: open only for a select with rows, and for the list of tables.
     platform::Recordset rows;
 };
 
 /// Runs a statement as it was typed. A line end counts as a blank.
 ConsoleAnswer ExecuteInConsole(std::string_view text);
 
-/// The tables of the open database.
+/// Lists the tables of the open database.
 ConsoleAnswer ListTablesInConsole();
 
 /// Writes a definition that prints a query's rows as the scratch report. Throws an Error if the

@@ -48,7 +48,7 @@ class Findings {
     SampleBooks books_;
 };
 
-/// Looks through one [TEXT] section.
+/// Checks one [TEXT] section.
 class TextCheck {
   public:
     TextCheck(const ReportFile& report, const clsRptText& section, Findings& findings)
@@ -113,7 +113,7 @@ class TextCheck {
     KnownTags tags_ = KnownTags::OfSection();
 };
 
-/// Looks through one [DATA] section.
+/// Checks one [DATA] section.
 class DataCheck {
   public:
     DataCheck(const clsRptData& section, std::size_t number, const KeyLines& lines,
@@ -142,7 +142,7 @@ class DataCheck {
     }
 
   private:
-    /// The line of a key, the section's own for a key that isn't there.
+    /// Returns the line of a key; the section's own line if the key is missing.
     int LineOf(const char* key) const {
         const auto found = lines_.find({number_, key});
         return found == lines_.end() ? section_.Line : found->second;

@@ -9,13 +9,13 @@
 
 namespace reports {
 
-/// The lines of the keys of sections, by the section's number (0 the first) and the key.
+/// The line of each key in the sections, by the section's number (0 the first) and the key.
 using KeyLines = std::map<std::pair<std::size_t, std::string>, int>;
 
-/// The section number in KeyLines of the page's keys, which belong to no section.
+/// The section number in KeyLines for the page's keys, which belong to no section.
 inline constexpr std::size_t kOfPage = static_cast<std::size_t>(-1);
 
-/// Adds the faults in the statements and texts of a definition that was read.
+/// Adds the faults in the statements and texts of a definition.
 void CheckStatements(const ReportFile& report, const KeyLines& lines,
                      std::vector<ReportFault>& faults);
 

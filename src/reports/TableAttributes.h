@@ -19,8 +19,8 @@ struct TableAttributes {
 /// an unknown word.
 platform::TableBorder BorderOfWord(std::string_view word);
 
-/// Sets the attributes and the wrapping of all columns. A table without rows or columns stays as it
-/// is.
+/// Sets the attributes and the wrapping of all columns. A table without rows or columns is left
+/// unchanged.
 void ApplyAttributes(platform::PrintTable& table, const TableAttributes& attributes, bool colWrap);
 
 } // namespace reports

@@ -9,10 +9,10 @@ using platform::PageSetup;
 namespace {
 
 constexpr std::string_view kKey = R"(SOFTWARE\Vestrel\Global\Settings)";
-/// The last folder has a key of its own, without a backslash in front of "rpt".
+/// The last folder has a key of its own, without a backslash before "rpt".
 constexpr std::string_view kSaveDirKey = R"(SOFTWARE\Vestrel\Global\Settingsrpt)";
 
-/// Read under one spelling and written under the other: names of values ignore case.
+/// Read under one spelling and written under the other: value names ignore case.
 constexpr std::string_view kOpenExport = R"(rpt\OpenExport)";
 constexpr std::string_view kOpenExportWritten = R"(rpt\Openexport)";
 constexpr std::string_view kPaper = R"(rpt\Paper)";

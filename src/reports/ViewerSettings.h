@@ -9,16 +9,16 @@ namespace reports {
 
 // The report viewer's settings on this machine.
 
-/// Whether an exported file is opened when it is written.
+/// Returns whether an exported file is opened afterwards.
 bool ReadOpenExport();
 void SaveOpenExport(bool open);
 
-/// The paper and the margins; the orientation is the report's.
+/// Returns the paper and the margins; the orientation is the report's.
 platform::PageSetup ReadPageSetup();
-/// Saves the margins and the orientation, and the paper unless it is the machine's own.
+/// Saves the margins and the orientation, and the paper unless it is the machine's default.
 void SavePageSetup(const platform::PageSetup& setup);
 
-/// The folder of the last export with its last separator, empty before the first.
+/// Returns the folder of the last export with its last separator; empty before the first.
 std::string LastSaveDir();
 void SaveLastSaveDir(std::string_view folder);
 

@@ -24,8 +24,8 @@ constexpr auto kExtensions = std::to_array<std::pair<std::string_view, FileForma
     {".txt", FileFormat::Text},
 });
 
-/// A finished file is known by the report's title; the name of the document, which the catalogue
-/// gives, is for the printer's queue.
+/// A finished file has the report's title; the document's name, from the catalogue, is for the
+/// printer's queue.
 class TitledPdf : public platform::PdfWriter {
   public:
     TitledPdf(platform::ByteSink& sink, const platform::FontBook& fonts, std::string title)
@@ -49,7 +49,7 @@ void DrawPdf(ReportRun& run, platform::ByteSink& out) {
 }
 
 void DrawFlow(ReportRun& run, platform::FlowSink& flow) {
-    // Without pages nothing is measured but the height of a header row.
+    // Without pages only the height of a header row is measured.
     platform::FixedMetrics metrics;
     platform::PrintSurface surface(metrics, nullptr, &flow);
     run.Draw(surface);

@@ -13,12 +13,12 @@ namespace reports {
 
 enum class FileFormat : std::uint8_t { Pdf, Html, Rtf, Text };
 
-/// The format of a file's extension, in any case; nothing for an unknown extension.
+/// Returns the format for a file's extension, in any case; nothing for an unknown extension.
 std::optional<FileFormat> FormatOfFile(std::string_view file);
 
-/// Draws a run into a file, which takes its name only when it is whole: after a failure an older
-/// file of the name is as it was. Needs no display. Throws what ReportRun::Draw does, and an Error
-/// if the file can't be written or, for PDF, the fonts are missing.
+/// Draws a run into a file, which gets its name only when it is complete: after a failure an older
+/// file of that name is unchanged. Needs no display. Throws what ReportRun::Draw throws, and an
+/// Error if the file can't be written or, for PDF, the fonts are missing.
 void WriteReport(ReportRun& run, FileFormat format, const std::filesystem::path& file);
 
 } // namespace reports

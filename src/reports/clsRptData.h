@@ -35,7 +35,7 @@ class clsRptData : public ReportSection {
     void ShowData(platform::PrintSurface& page) override;
 
     DataMode Mode = DataMode::None;
-    /// A whole query; the parts below aren't used with one.
+    /// A complete query; if it is set, the parts below aren't used.
     std::string SQLQuery;
     std::string SQLFields;
     std::string SQLTables;
@@ -58,7 +58,7 @@ class clsRptData : public ReportSection {
     class TableRun;
 
     std::string Expand(std::string text) const;
-    /// The composed query with `groupTest` in front of its order; tags are not expanded.
+    /// Returns the composed query with `groupTest` before its order; tags are not expanded.
     std::string ComposeQuery(std::string_view groupTest) const;
 
     void DrawLine(platform::PrintSurface& page, std::string_view caption) const;

@@ -52,7 +52,7 @@ struct ReportVariable {
     std::int16_t FieldType = 0; ///< 0 of a calculation
 };
 
-/// Names a variable that is shown in a format.
+/// Sets the format in which a variable is shown.
 struct TagFormatCommand {
     std::string Tag;
     std::string Format;
@@ -77,8 +77,8 @@ class clsRptText : public ReportSection {
     void DrawBox(std::string_view coordinates, int line);
     void Locate(std::string_view coordinates, int line);
 
-    /// The command that attributes go to, the one queued last; null before the first command, when
-    /// attributes are lost.
+    /// Returns the command that attributes apply to, the one queued last; null before the first
+    /// command, when attributes are lost.
     TextCommand* Last() { return commands_.empty() ? nullptr : &commands_.back(); }
 
     /// Shows the variable of this name in a format.

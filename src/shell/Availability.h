@@ -36,7 +36,7 @@ struct Availability {
 /// editor for its kind, and books that can only be read can't be changed.
 Availability EnableEditButtons(const WindowState& state);
 
-/// The menu items that only some views show.
+/// The menu items that appear only in some views.
 struct ExtraItems {
     bool refreshSummary = false;
     bool payRent = false;

@@ -5,10 +5,11 @@
 
 namespace shell {
 
-/// How a status cell is coloured: yellow for what is due, red for what is worse.
+/// The colour of a status cell: yellow if it needs attention, red if it is worse.
 enum class Mark { None, Yellow, Red };
 
-/// Returns the column of a view whose cells are marked, counted from the id column; -1 for none.
+/// Returns the column of a view whose cells are marked, counted from the id column; -1 if there is
+/// none.
 int MarkedColumn(std::int16_t kind);
 
 /// Returns the mark of a status in that column. A mortgage turns red when it is late, a lease only

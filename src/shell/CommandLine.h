@@ -14,11 +14,11 @@ struct CommandLine {
     std::optional<std::string> data;
     /// The date to use as today.
     std::optional<platform::Date> today;
-    /// Whether the books are opened to be read only.
+    /// Whether to open the books read-only.
     bool readOnly = false;
-    /// Everything else as it was written, the "/name=value" switches among it.
+    /// Everything else, unchanged, including the "/name=value" switches.
     std::string rest;
-    /// What is wrong with it; empty if it is valid.
+    /// The error in the command line; empty if it is valid.
     std::string fault;
 };
 

@@ -36,7 +36,7 @@ void MarkAsMulti(platform::Connection& books, std::int32_t idBuilding) {
     books.Execute("UPDATE Building SET Multi = True WHERE IdBuilding = ?", {idBuilding});
 }
 
-/// What the move changes besides the unit comes with it or not at all.
+/// Writes the unit and everything that moves with it, all or nothing.
 bool Write(std::int32_t idUnit, std::int32_t idBuilding) {
     platform::Connection& books = core::App().Connection;
     platform::UnitOfWork unit(books);
@@ -50,7 +50,7 @@ bool Write(std::int32_t idUnit, std::int32_t idBuilding) {
         MarkAsMulti(books, idBuilding);
         mark.Commit();
     } catch (const platform::Error&) {
-        // The move stays without it.
+        // The move is kept even if this fails.
     }
     unit.Commit();
     return true;

@@ -4,11 +4,11 @@
 
 namespace shell {
 
-/// Asks, unless the preference ConfirmMoves is off, and moves a unit to another building with its
-/// automated events and transactions. The building becomes a multi-unit one if it has more than
-/// one unit then; the one left behind stays as it is. Notifies the open forms. False if the user
-/// said No, or if either record was deleted in the meantime; nothing is changed then. Throws on
-/// failure, the books as before.
+/// Asks, unless the preference ConfirmMoves is off, and moves a unit with its automated events and
+/// transactions to another building. If that building has more than one unit then, it becomes a
+/// multi-unit one; the building left behind doesn't change. Notifies the open forms. Returns false,
+/// without any change, if the user said No or either record was deleted in the meantime. Throws on
+/// failure, and the books stay unchanged.
 bool MoveUnit(std::int32_t idUnit, std::int32_t idBuilding);
 
 } // namespace shell

@@ -28,7 +28,7 @@ std::string UnitText(const std::string& unit) {
 /// Confirms a node that exists; renames it if its text has changed.
 template <class Node>
 void Confirm(Node& node, std::string text, PropertyNode key, std::vector<TreeChange>& changes) {
-    // Of two rows with one number the first gives the text.
+    // If two rows have the same id, the first gives the text.
     if (node.isConfirmed) return;
     node.isConfirmed = true;
     if (node.text == text) return;

@@ -22,7 +22,7 @@ struct PropertyNode {
 /// Returns "root", "unclaimed", "b+12" or "u+31".
 std::string KeyOf(const PropertyNode& node);
 
-/// A step that brings a shown tree up to date. Steps are taken in their order.
+/// A step that brings a displayed tree up to date. The steps are applied in order.
 struct TreeChange {
     enum class Action : std::uint8_t {
         Add,    ///< as the last child of `parent`
@@ -36,17 +36,17 @@ struct TreeChange {
     std::string text;
 };
 
-/// The buildings with their units, and the units whose building can't be found, as they were when
-/// last read. It knows no widget: a screen takes the changes.
+/// The buildings with their units, and the units whose building doesn't exist, as last read. It
+/// knows no widget: a screen applies the changes.
 class PropertyTree {
   public:
-    /// Reads the books again and returns the changes, so that what a screen has selected and
-    /// expanded stays. A node that is there isn't moved, even if its unit is in another building
-    /// now; only a unit whose building's node goes moves to "Unclaimed". Throws on failure; the
-    /// tree then is as before.
+    /// Reads the books again and returns the changes, so that the screen's selection and expanded
+    /// nodes stay. An existing node isn't moved even if its unit belongs to another building now;
+    /// only a unit whose building's node is removed moves to "Unclaimed". Throws on failure; the
+    /// tree is then unchanged.
     std::vector<TreeChange> Refresh();
 
-    /// Notes that a unit's node was made a child of a building's.
+    /// Records that a unit's node was moved to a building's.
     void Move(std::int32_t idUnit, std::int32_t idBuilding);
 
     std::size_t UnitCount() const { return units_.size(); }

@@ -15,7 +15,7 @@ namespace shell {
 
 namespace {
 
-/// What goes with a building is more than a user wants to enter again.
+/// A building's records are more than a user wants to enter again.
 bool KeepCopyBeforeRemoval() {
     try {
         exchange::KeepCopy(exchange::CopyReason::Removal);

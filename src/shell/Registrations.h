@@ -2,8 +2,8 @@
 
 namespace shell {
 
-/// Hangs the rooms' logic into the places that call upwards: the steps of the bring-up-to-date run.
-/// Both programs call it first, once.
+/// Registers the logic that lower rooms call: the steps of the daily run. Both programs call it
+/// once, before anything else.
 void RegisterLogic();
 
 } // namespace shell

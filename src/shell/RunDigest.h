@@ -19,7 +19,7 @@ struct DigestRow {
     std::size_t description = 0;
 };
 
-/// The rows that a daily run has posted and the records that it skipped, for the user's return.
+/// The rows that a daily run has posted and the records that it skipped, to be shown to the user.
 class RunDigest : public core::RunListener {
   public:
     void Posted(int recordKind, std::int32_t id, std::string_view description,

@@ -10,10 +10,10 @@ class SampleBorrower {
   public:
     explicit SampleBorrower(const store::SampleLoan& plan);
 
-    /// Pays the open charges if this is a day of payment. To be called for each day in order, with
-    /// the clock set to it.
+    /// Pays the open charges if this is a day of payment. Called for each day in order, with the
+    /// clock set to it.
     void LiveThrough(platform::Date day);
-    /// Writes the owner's present equity in the building.
+    /// Stores the owner's present equity in the building.
     void NoteEquity() const;
 
   private:

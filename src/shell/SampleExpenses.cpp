@@ -27,7 +27,7 @@ std::vector<Party> AccountsOfType(const char* type) {
     return accounts;
 }
 
-/// An amount that differs from bill to bill, yet is the same each time the sample is made.
+/// Returns an amount that varies from bill to bill, but is the same whenever the sample is made.
 Currency AmountOf(std::int32_t idBuilding, Date day, int from, int spread) {
     const auto mixed = static_cast<std::uint32_t>(idBuilding) * 2654435761U +
                        static_cast<std::uint32_t>(day.Serial()) * 40503U;

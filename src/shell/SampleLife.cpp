@@ -33,7 +33,7 @@ class OpenSession {
     static Connection& Session() { return core::App().Connection; }
 };
 
-/// Identifiers begin at the minute of midnight, so that the same day gives the same ones.
+/// Ids begin at the minute of midnight, so that the same date gives the same ids.
 void MakeSettings(Connection& connection, Date today) {
     core::CreateDefaultConfiguration(connection);
     constexpr int kMinutesPerDay = 1440;
@@ -57,7 +57,7 @@ void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress
         unit.Commit();
         if (progress) progress(day.Serial() - cast.begins.Serial() + 1, days);
     }
-    // The automated events are switched on last: the two years that were made up are not theirs.
+    // The automated events are switched on last, so that they don't run during the simulated years.
     core::Execute("UPDATE AutoEvent SET Enabled = True");
     core::UpdateRecords();
     platform::UnitOfWork unit(core::App().Connection);

@@ -7,13 +7,13 @@
 
 namespace shell {
 
-/// One lease of the sample portfolio, with its tenant's doings.
+/// One lease of the sample portfolio, with everything that its tenant does.
 class SampleTenant {
   public:
     explicit SampleTenant(const store::SampleHabit& habit);
 
     /// Does what happens to the lease on this day, which the clock is set to: charges deposits,
-    /// pays charges, gives notice. To be called for each day in order; nothing happens on most.
+    /// pays charges, gives notice. Called for each day in order; on most days nothing happens.
     void LiveThrough(platform::Date day);
 
   private:
@@ -24,7 +24,7 @@ class SampleTenant {
     store::SampleHabit habit_;
     /// Returns the next day on which the tenant pays; unset once nothing more will be paid.
     platform::Date nextPayment_;
-    /// The day on which the lease is over: its unit is free from then on, whoever lets it next.
+    /// The day on which the lease is over and its unit is free to be let again.
     platform::Date ends_;
     bool depositPaid_ = false;
 };

@@ -25,7 +25,7 @@ struct View {
     std::string_view notHidden;
 };
 
-// A name joined with `+` is empty as soon as one part of it is unset.
+// A name joined with `+` is null if any part of it is null.
 constexpr std::array<View, 6> kViews = {{
     {core::kAccount, "IdAccount, ",
      "ShowAs AS [Description], City, State, Phone, FAX, AccountType AS [Account Type], "
@@ -73,7 +73,7 @@ constexpr std::string_view kTransactionColumns =
     "DateValue(DateEffective) AS [Effective Date], DebitDesc AS [From], CreditDesc AS [To], "
     "Amount, TaxCategory AS [Category], CheckNum AS [Check #], Description ";
 
-// The day before every transaction.
+// The program's date zero, which is before every transaction.
 const Date kZeroDate(1899, 12, 30);
 
 struct FilterColumn {

@@ -10,7 +10,7 @@
 
 namespace shell {
 
-/// The state of a view that is kept on this machine: the chosen status and the captions of the two
+/// The state of a view, stored on this machine: the chosen status and the captions of the two
 /// columns that it is sorted by.
 struct ViewState {
     std::string view = "All";
@@ -36,8 +36,8 @@ void SaveViewState(std::string_view tag, const ViewState& state);
 /// same order, and moves the previous one to second place; the same column reverses its order.
 void ClickHeader(ViewState& state, std::string_view caption);
 
-/// Returns the order for a row set, "[Rent] ASC, [Address] DESC"; empty for none. A column that the
-/// view doesn't have is left out.
+/// Returns the order for a row set, "[Rent] ASC, [Address] DESC"; empty if the view isn't sorted. A
+/// column that the view doesn't have is left out.
 std::string SortText(const ViewState& state,
                      const std::function<bool(std::string_view caption)>& hasColumn);
 

@@ -16,7 +16,7 @@ struct Need {
     std::string_view text;
 };
 
-/// The records that one of a kind needs first.
+/// The records that must exist before one of a kind can.
 constexpr std::array<Need, 5> kNeeds = {{
     {core::kLease, " A lease needs a unit and a tenant."},
     {core::kMortgage, " A mortgage needs a building."},

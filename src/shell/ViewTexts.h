@@ -19,14 +19,14 @@ std::string NarrowedText(std::int64_t shown, std::int64_t count);
 /// An empty list, for EmptyText.
 struct EmptyView {
     std::int16_t kind = 0;
-    /// As for StatusText, of the rows before the search narrowed them.
+    /// As for StatusText: the number of rows before the search narrowed them.
     std::int64_t count = 0;
     std::string_view search;
     ViewFilter filter;
-    /// Why the list can't be read, if that is known.
+    /// Why the list can't be read, if known.
     std::string_view fault{};
 };
-/// Returns why a list shows no row, and what to do about it.
+/// Returns why a list shows no rows, and what to do about it.
 std::string EmptyText(const EmptyView& view);
 
 /// Returns the title of the main window.

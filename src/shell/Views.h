@@ -25,7 +25,7 @@ struct ViewFilter {
 
 enum class IdColumn { First, Omitted };
 
-/// Returns the statement of the main view of a record kind, empty for a kind that has none. Hidden
+/// Returns the statement of the main view of a record kind; empty if the kind has none. Hidden
 /// records are left out unless asked for; transactions can't be hidden.
 std::string BuildViewSql(std::int16_t kind, const ViewFilter& filter, IdColumn idColumn);
 

@@ -29,7 +29,7 @@ TEST_F(PostTransaction, WritesTheRowAndTellsWhenItIsKept) {
         const platform::UnitOfWork larger(core::App().Connection);
         books::PostTransaction(Payment());
     }
-    EXPECT_EQ(told, "10") << "a part of larger work is told by that work";
+    EXPECT_EQ(told, "10") << "a part of larger work is announced by that work";
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "1");
 }
 

@@ -70,7 +70,7 @@ TEST_F(BackupTest, KeepsItsSettingsToTheByte) {
     bytes += std::string("\2\0\0\0\xF2\xFF\xFF\xFF\3\0\0\0\2\1\0\0\xFF\xFF", 18);
     bytes += "02/29/2024" + std::string(1000, '\0');
     EXPECT_EQ(ReadText(BackupConfigPath()), bytes);
-    // What another version keeps in the reserved bytes stays.
+    // The reserved bytes, which another version may use, are preserved.
     bytes.back() = 'x';
     WriteText(BackupConfigPath(), bytes);
     LoadBackupConfig(config);
@@ -176,7 +176,7 @@ TEST_F(BackupTest, PacksEverythingIntoANewContainer) {
 }
 
 TEST_F(BackupTest, TakesTheDatabaseAsItIsWhileItIsUsed) {
-    // What is committed is still in the log; what isn't must stay out.
+    // Committed rows are still in the log; uncommitted ones must stay out.
     Run("INSERT INTO Account (IdAccount, ShowAs) VALUES (2, 'Committed')");
     const platform::UnitOfWork unit(core::App().Connection);
     Run("INSERT INTO Account (IdAccount, ShowAs) VALUES (3, 'Pending')");
@@ -280,7 +280,7 @@ TEST_F(BackupTest, SurvivesAStopAtEveryStep) {
             }
         });
     EXPECT_GT(steps, 15);
-    // A full disk is told, and leaves what is whole.
+    // A full disk is reported, and whole entries stay.
     WithLittleRoom(300'000, [this] {
         const BackupReport report = BackUp();
         if (report.outcome == BackupOutcome::Success) return;

@@ -110,7 +110,7 @@ TEST_F(PortTest, BringsEveryTableBackEqual) {
         ASSERT_TRUE(Import(ImportMode::Write, ImportRows::Overwrite).Succeeded()) << status_;
         EXPECT_EQ(Dump(), before) << seed;
         EXPECT_EQ(percent_, 100);
-        // What came back is written the same again.
+        // The imported rows are exported the same again.
         const std::string first = ReadText(PathTo("database.csv"));
         ExportAll();
         EXPECT_EQ(ReadText(PathTo("database.csv")), first);

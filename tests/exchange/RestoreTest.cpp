@@ -142,7 +142,7 @@ TEST_F(RestoreTest, RefusesPathsThatClimbOut) {
         header.fileType = static_cast<std::int16_t>(each.type);
         EXPECT_EQ(PlaceOf(header), each.place) << each.path;
     }
-    // The others of such a container are restored all the same, and it is told.
+    // The other entries of such a container are restored, and the fault is reported.
     EntryHeader climbing{
         .filePath = "/a/../../../out",
         .fileType = 3,

@@ -14,12 +14,12 @@ int StopAtEveryStep(const std::filesystem::path& folder, const std::function<voi
                     const std::function<void(bool wasStopped)>& check);
 
 /// Runs `work` in a process of its own in which no file may grow beyond `bytes`, as on a full disk;
-/// what it throws is passed over. The process's books are open in it.
+/// its exceptions are ignored. The process's books are open in it.
 void WithLittleRoom(std::size_t bytes, const std::function<void()>& work);
 
 std::string ReadText(const std::filesystem::path& file);
 void WriteText(const std::filesystem::path& file, const std::string& text);
-/// The names of what a folder holds, sorted and parted by blanks.
+/// The names of a folder's files, sorted and separated by blanks.
 std::string NamesIn(const std::filesystem::path& folder);
 
 } // namespace tests

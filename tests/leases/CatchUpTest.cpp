@@ -103,7 +103,7 @@ void MakePortfolio(const std::filesystem::path& folder, std::uint64_t seed) {
                                        {id + 2000});
         AddRandomLease(leases, random, id);
     }
-    // What the payments of some tenants set off.
+    // The events that some tenants' payments trigger.
     for (std::int32_t id = 1; id <= kLeases; id += 3) {
         core::App().Connection.Execute(
             "INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, TriggerType, TriggerID, "
@@ -239,7 +239,7 @@ TEST_P(CatchUp, PostsTheSameBetweenPayments) {
     }
 }
 
-/// What the ledger says, against what the lease and its transactions say.
+/// Compares the ledger with the lease and its transactions.
 TEST_P(CatchUp, EveryPaymentBalances) {
     const support::TemporaryFolder folder;
     MakePortfolio(folder.Path() / "db", GetParam());

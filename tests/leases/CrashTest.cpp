@@ -52,7 +52,7 @@ class Crash : public testing::Test {
 };
 
 TEST_F(Crash, APaymentIsNeverHalf) {
-    // What it sets off on either side is a part of it.
+    // The events it triggers on either side are part of it.
     for (const auto* values : {"500, 5, 103", "501, 1, 105"}) {
         core::App().Connection.Execute(
             "INSERT INTO AutoEvent (IdAutoEvent, TriggerType, TriggerID, EventType, Enabled, "

@@ -7,7 +7,7 @@
 
 namespace tests {
 
-/// What came of stopping a routine again and again.
+/// The result of stopping a routine again and again.
 struct Crashes {
     /// How many writing statements the routine has, its units' begins and ends among them.
     int statements = 0;

@@ -168,7 +168,7 @@ TEST_F(LeaseRun, WritesNoRowOfZeroAndRewritesTheRowItIsGiven) {
     const std::int32_t id = leases::WriteRentLog(entry);
     entry.amount = Currency::FromUnits(20);
     EXPECT_EQ(leases::WriteRentLog(entry, id), id);
-    EXPECT_NE(leases::WriteRentLog(entry, 4711), 4711) << "a row that is gone is written anew";
+    EXPECT_NE(leases::WriteRentLog(entry, 4711), 4711) << "a deleted row is written again";
     EXPECT_EQ(Count("SELECT Count(*) FROM RentLog WHERE Amount = 20"), 2);
 }
 

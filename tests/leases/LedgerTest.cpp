@@ -195,7 +195,7 @@ TEST_F(Split, PutsThePartsInThePlaceOfTheCharge) {
                12'000'000,
                -2'000'000,
                {"02/01/2024 0 1,200.00 -", "02/01/2024 0 (200.00) -"}},
-          // What doesn't add up is taken as it is: the person saw the difference.
+          // Parts that don't add up are accepted: the user saw the difference.
           Case{RentFlags::Ordinary,
                0,
                1'000'000,

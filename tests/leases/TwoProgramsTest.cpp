@@ -111,7 +111,8 @@ TEST_F(TwoPrograms, AnEditOfAPaymentThatWasEditedSinceIsRefused) {
     leases::SubmitPayment(mine);
     EXPECT_EQ(Ask("SELECT Amount FROM Transactions WHERE Description = 'Mine'"), "1040");
 
-    // What the other edit released or settled is known, but not as it is now.
+    // The charges that the other edit reopened or settled are listed, but not in their present
+    // state.
     for (const bool released : {true, false}) {
         RentPayment stale = leases::ReadPayment(id);
         leases::ReadCharges(stale, leases::OpenCharges::Offer);

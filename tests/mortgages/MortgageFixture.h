@@ -29,7 +29,7 @@ class BooksWithOneMortgage {
 /// Writes a field of the one mortgage from its text; "NULL" unsets it.
 void SetMortgageField(std::string_view field, std::string_view value);
 
-/// The rows of a select, cells parted by "|", null as "null".
+/// The rows of a select, cells separated by "|", null as "null".
 std::vector<std::string> Rows(std::string_view statement);
 
 /// The charges and payments in the log: "day category period total flags".

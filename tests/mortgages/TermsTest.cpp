@@ -99,7 +99,7 @@ TEST_F(Terms, AnswerZeroOutsideTheSchedule) {
     EXPECT_EQ(loan.GetPriTTD(0), loan.GetPriTTD(12));
     EXPECT_EQ(loan.GetPriTTD(-1), 0);
     EXPECT_EQ(loan.GetXPRI(361), 0);
-    loan.SetXPri(361, 5); // passed over
+    loan.SetXPri(361, 5); // skipped
     EXPECT_EQ(loan.ArraySize(), 360);
 }
 

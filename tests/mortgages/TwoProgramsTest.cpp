@@ -51,7 +51,7 @@ void PayAll() {
     SubmitMortgagePayment(AllOpen());
 }
 
-/// What the work was refused with; empty when it was done.
+/// The reason why the work was refused; empty if it was done.
 std::string Refusal(const std::function<void()>& work) {
     try {
         work();

@@ -61,7 +61,7 @@ TEST_F(BuildingRulesTest, TheEquityIsWhatTheMortgagesLeave) {
 TEST_F(BuildingRulesTest, AScheduleWantsABasisAndATerm) {
     const std::string basis = "Depreciation basis must be greater than 0.";
     const std::string term = "Depreciation term must be greater than 0.";
-    EXPECT_EQ(records::DepreciationFault(Currency(), 0), basis) << "the basis is told first";
+    EXPECT_EQ(records::DepreciationFault(Currency(), 0), basis) << "the basis is reported first";
     EXPECT_EQ(records::DepreciationFault(Currency::FromUnits(-1), 27.5), basis);
     EXPECT_EQ(records::DepreciationFault(Currency::FromUnits(1), 0), term);
     EXPECT_EQ(records::DepreciationFault(Currency::FromUnits(1), 0.1), std::nullopt);

@@ -51,7 +51,7 @@ class RelatedListsTest : public tests::CoreRecords {
         }
         throw std::runtime_error("no such list");
     }
-    /// All cells, the id among them, parted by "|"; a line each.
+    /// All cells, including the id, separated by "|"; a line each.
     static std::string Rows(const RelatedList& list, const RelatedOwner& owner) {
         platform::Recordset rows = records::OpenRelated(list, owner);
         if (!rows.IsOpen()) return "failed";
@@ -73,7 +73,7 @@ TEST_F(RelatedListsTest, EachTabShowsWhatHangsFromItsOwnerAlone) {
     EXPECT_EQ(Rows(Tab(core::kBuilding, "Owners"), building),
               "91||||False\n"
               "90|Al Owner|N1|60.5|True\n")
-        << "a link whose account has gone is shown, to be removed";
+        << "a link whose account was deleted is shown, so that it can be removed";
     EXPECT_EQ(Rows(Tab(core::kBuilding, "Managers"), building),
               "92|Al Owner|555|01/01/2024|Year(s)|2|Fixed|True\n");
     EXPECT_EQ(Rows(Tab(core::kBuilding, "Mortgages"), building),

@@ -17,7 +17,7 @@ using platform::Date;
 
 const std::set<std::string> kRunning = {"Contracted", "MTM", "WTW", "Notice"};
 
-/// What a page shows of an amount: two decimals.
+/// An amount as a page shows it: with two decimals.
 std::int64_t Cents(Currency amount) {
     return std::llround(static_cast<double>(amount.Scaled()) / 100);
 }

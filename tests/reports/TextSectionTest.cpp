@@ -157,7 +157,7 @@ TEST_F(TextSection, PutsShapesOnTheGridOfThePage) {
     EXPECT_TRUE(items[2].filled);
     EXPECT_NEAR(items[2].x1, x(10), 1);
     EXPECT_NEAR(items[2].y2, y(40), 1);
-    // Attributes that a command doesn't set are those of the command before: only the brush, the
+    // Attributes that a command doesn't set keep the previous command's values: only the brush, the
     // bold, italic and underline start afresh.
     EXPECT_EQ(items[2].color, 255U);
 

@@ -92,7 +92,7 @@ TEST_F(PropertyTreeTest, MovesAUnitWithItsRowsAfterAsking) {
 TEST_F(PropertyTreeTest, LeavesTheBooksAloneWhenAMoveCannotBe) {
     core::Preferences().ConfirmMoves = false;
     support::ScriptedDialogs dialogs;
-    EXPECT_FALSE(shell::MoveUnit(20, 999)) << "the building was deleted meanwhile";
+    EXPECT_FALSE(shell::MoveUnit(20, 999)) << "the building was deleted in the meantime";
     EXPECT_FALSE(shell::MoveUnit(999, 11));
     EXPECT_EQ(2U, dialogs.Heard().size()) << "said, not asked";
     core::App().Connection.RunScript("DROP TABLE Transactions");

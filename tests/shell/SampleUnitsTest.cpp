@@ -43,7 +43,7 @@ std::vector<std::string> Contradictions() {
 
 enum class Least { Note, Fault };
 
-/// What the check of the books finds, from notes or faults on.
+/// The findings of the check of the books, from notes or from faults on.
 std::vector<std::string> Findings(Least least) {
     std::vector<std::string> found;
     for (const exchange::Finding& finding : exchange::CheckBooks(core::App().Connection, {})) {

@@ -58,7 +58,7 @@ class WritesAreTold : public tests::Portfolio {
         for (const char* const days :
              {"DiscountDays", "OneTimeDays", "DailyDays", "EvictDays", "NoticeDays", "Term"})
             SetNulls("Lease", days, "30");
-        // What a payment sets off: an event on the payer's side.
+        // A payment triggers an event on the payer's side.
         Run("INSERT INTO AutoEvent (IdAutoEvent, EventType, Description, Enabled, Alert, "
             "IntervalPeriod, IntervalType, TriggerType, TriggerID, TriggerTaxCategory, "
             "EventAction, LastRun, DebitType, DebitId, CreditType, CreditId, Amount, TaxCategory) "

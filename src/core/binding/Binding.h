@@ -8,10 +8,10 @@
 
 namespace core::binding {
 
-/// What to do with a control whose field isn't in the row set.
+/// Whether a control whose field isn't in the row set is allowed.
 enum class CheckFields {
     No, ///< a FieldError
-    Yes ///< it is passed over
+    Yes ///< it is skipped
 };
 
 /// Returns the controls of `form`, in creation order. Controls inside a panel (a child with the

@@ -96,7 +96,7 @@ class RecordForm : public Form {
 
     /// Shows another record in the same form, or a new one with id 0; the entries are dropped.
     void ShowRecord(std::int32_t id);
-    /// Turns the present contents into those of a new record.
+    /// Makes the present contents a new record's.
     void BecomeNew();
     void Load();
     /// Returns false if the entries are refused. Throws if the database fails; the form stays

@@ -16,7 +16,7 @@ namespace {
 constexpr int kMargin = 17;       // 250 twips, a sixth of an inch
 constexpr int kLeastWidth = 24;   // of a column beside those that the user has resized
 constexpr int kSamples = 500;     // rows that are measured; up to so many, all of them
-constexpr int kFirstSamples = 60; // while rows are still read, after which the widths come anew
+constexpr int kFirstSamples = 60; // until all rows are read, when they are measured again
 
 constexpr std::string_view kGridInfoKey = R"(SOFTWARE\Vestrel\GridInfo)";
 

@@ -10,7 +10,7 @@
 
 namespace leases::screens {
 
-/// One charge or credit of the ledger as a list shows it.
+/// A line of the list: one charge or credit of the ledger.
 struct ChargeLine {
     std::int32_t idRentLog = 0;
     RentFlags flags = RentFlags::Ordinary;
@@ -22,7 +22,7 @@ struct ChargeLine {
     bool ticked = false;
 };
 
-/// Which charges a command takes together.
+/// Which charges a command selects together.
 enum class ChargePick { All, Rent, Other };
 
 /// Charges of a lease to look at and choose from.
@@ -32,10 +32,10 @@ class ChargeList : public core::grid::LedgerList {
   public:
     explicit ChargeList(QWidget* parent = nullptr);
 
-    /// What the columns are called, and how much of the width each takes; one without a share is
-    /// hidden. In the order date, category, description, amount, running total.
+    /// Sets the captions of the columns, in the order date, category, description, amount, running
+    /// total, and the share of the width that each takes; a column without a share is hidden.
     void SetColumns(const QStringList& captions, const std::vector<int>& percents);
-    /// The row that is current stays so.
+    /// Shows these lines. The current row stays current.
     void ShowLines(const std::vector<ChargeLine>& lines);
 
     std::vector<std::int32_t> TickedIds() const;

@@ -227,7 +227,7 @@ void Lease_Ledger::OpenDeposit(const books::Transaction& proposed, std::string_v
     (new books::screens::frmTransaction)->Setup(setup);
 }
 
-/// A transaction's removal and a deposit's refund change the ledger too.
+/// Deleting a transaction and refunding a deposit change the ledger too.
 void Lease_Ledger::Hear(std::int16_t kind) {
     if (idLease_ == 0 || (kind != core::kRentLog && kind != core::kTransaction)) return;
     ShowRows();

@@ -14,22 +14,22 @@ namespace leases::screens {
 
 class ChargeList;
 
-/// The ledger of a lease on its screen: a tab a sort of rows, the running total of what is open,
-/// and the commands on them. It follows every change of the ledger, wherever it was made.
+/// The ledger of a lease on its screen: a tab per class of rows, the running total of the open
+/// ones, and their commands. It follows every change of the ledger, wherever it was made.
 class Lease_Ledger : public QWidget {
     Q_OBJECT
 
   public:
     explicit Lease_Ledger(QWidget* parent = nullptr);
 
-    /// Shows the ledger of a lease; nothing can be done with that of a new one (0).
+    /// Shows the ledger of a lease; the panel is disabled for a new one (0).
     void Load(std::int32_t idLease);
-    /// The tabs of a subsidy and of a purchase option, which not every lease has.
+    /// Shows or hides the tabs of subsidies and purchase options, which not every lease has.
     void OfferTabs(bool subsidy, bool option);
     std::int32_t LeaseId() const { return idLease_; }
 
   Q_SIGNALS:
-    /// The ledger was changed, and with it the balances.
+    /// Emitted when the ledger, and with it the balances, has changed.
     void Changed();
 
   private:

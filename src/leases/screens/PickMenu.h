@@ -7,7 +7,7 @@
 
 namespace leases::screens {
 
-/// Adds the items that take all charges, the rents, or the others; their names begin with
+/// Adds the items that select all charges, the rents, or the others; their names begin with
 /// `prefix`: "mnuSelect" makes mnuSelectAll, mnuSelectRent, mnuSelectOther.
 void AddPickMenu(QMenu& menu, const QString& prefix,
                  const std::function<void(ChargePick pick)>& picked);

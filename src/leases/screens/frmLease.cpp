@@ -114,7 +114,7 @@ void frmLease::Connect() {
 void frmLease::Setup(std::int32_t idLease) {
     bool found = idLease == 0;
     if (idLease != 0) {
-        // A lease that can't be brought up to date must still be opened, to be mended.
+        // A lease that can't be brought up to date must still open, so that it can be mended.
         Guarded([&] { UpdateLeaseById(idLease, WalkMode::CatchUp); });
         platform::Recordset rows;
         found = core::OneRecordFound(
@@ -135,7 +135,7 @@ void frmLease::FillLists() {
         more_->cboSubsidyType->addItem(tr("Account"), core::kAccount);
         more_->cboSubsidyType->addItem(tr("Tenant"), core::kTenant);
     }
-    // A list that can't be filled to its end doesn't keep the others from being filled.
+    // A list that can't be read doesn't keep the others from being filled.
     Guarded([this] { FillPayors(); });
     Guarded([this] { FillList(core::kUnit, *terms_->cboIdUnit, {.addNone = true}); });
     Guarded([this] { FillList(core::kTenant, *terms_->cboIdTenant, {.addNone = true}); });
@@ -149,7 +149,7 @@ void frmLease::FillPayorsOf(std::int32_t kind) {
     FillList(kind, *more_->cboSubsidy, {.addNone = true});
 }
 
-/// What a new lease starts with is shown as a stored one is, and never stored by that.
+/// Shows the proposed contents of a new lease like a stored row, without storing them.
 void frmLease::ShowProposal() {
     platform::Recordset row;
     ProposeLease(row);
@@ -247,7 +247,7 @@ void frmLease::ShowAvailable() {
     terms_->dpDateVacating->setEnabled(can.dateVacating);
     const LoadingGuard loading(*this);
     if (can.blankVacating) terms_->dpDateVacating->clear();
-    // Another can be chosen if the tenant or the unit was deleted, or nothing could be saved.
+    // Another can be chosen if the tenant or unit was deleted, or while nothing is saved.
     const auto isThere = [](std::int16_t kind, const QComboBox& party) {
         return core::RecordExists(kind, GetSelectedId(party));
     };
@@ -255,7 +255,7 @@ void frmLease::ShowAvailable() {
     terms_->cboIdUnit->setEnabled(can.parties || !isThere(core::kUnit, *terms_->cboIdUnit));
 }
 
-/// What one choice makes another depend on.
+/// Shows the parts of the screen that depend on the choices.
 void frmLease::ShowParts() {
     const bool ends = HasEnd(FromScreen(terms_->cboTermType->currentText()));
     terms_->txtTerm->setEnabled(ends);
@@ -268,7 +268,7 @@ void frmLease::ShowParts() {
     ucLL_->OfferTabs(subsidy, option);
 }
 
-/// The sums of the ledger, as they are now.
+/// Shows the present sums of the ledger.
 void frmLease::ShowBalances() {
     if (Id() == 0) return;
     const LoadingGuard loading(*this);

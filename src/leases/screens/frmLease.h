@@ -27,7 +27,7 @@ namespace leases::screens {
 
 class Lease_Ledger;
 
-/// A lease: its terms, its ledger, and the commands that move it through its life by hand.
+/// A lease: its terms, its ledger, and the commands that change its status by hand.
 class frmLease : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ class frmLease : public core::forms::RecordForm {
     explicit frmLease(QWidget* parent = nullptr);
     ~frmLease() override;
 
-    /// Opens a lease, brought up to date, or a new one (0).
+    /// Opens a lease, after bringing it up to date, or a new one (0).
     void Setup(std::int32_t idLease);
 
   protected:
@@ -74,7 +74,7 @@ class frmLease : public core::forms::RecordForm {
     Lease_Ledger* ucLL_ = nullptr;
     documents::screens::FileObjects* ucFOB_ = nullptr;
     std::array<QAction*, 6> commands_{};
-    /// Until a save has succeeded, also where one failed midway.
+    /// New until a save has succeeded; one that failed midway doesn't count.
     LeaseAge age_ = LeaseAge::New;
     bool saved_ = false;
 };

@@ -14,7 +14,7 @@ class frmLeaseWizardTerms;
 
 namespace leases::screens {
 
-/// Makes a lease in five steps, and where they are new its property and its tenant.
+/// Adds a lease in five steps, together with its property and tenant if they are new.
 class frmLeaseWizard : public core::forms::frmWizard {
     Q_OBJECT
 

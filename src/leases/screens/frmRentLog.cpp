@@ -21,7 +21,7 @@ using platform::qt::ToScreen;
 
 namespace {
 
-/// Tells the person where there isn't exactly one row to show.
+/// Returns whether there is a row; tells the user unless there is exactly one.
 bool IsThere(std::int32_t id) {
     platform::Recordset rows;
     return core::OneRecordFound(
@@ -83,7 +83,7 @@ void frmRentLog::WriteRow(platform::Recordset& row) {
     SaveCharge(row, entry_.idTransaction);
 }
 
-/// A stored row without a date may stay so; none is made.
+/// A stored row may stay without a date, but a new one needs it.
 std::vector<std::string> frmRentLog::Errors() {
     const auto day = ui_->dpDatePosted->Day();
     const bool isBlank = day && !day->IsSet();

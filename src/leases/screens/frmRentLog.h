@@ -31,7 +31,7 @@ class frmRentLog : public core::forms::RecordForm {
 
   private:
     std::unique_ptr<Ui::frmRentLog> ui_;
-    /// What the screen doesn't show.
+    /// The fields that the screen doesn't show.
     RentLogEntry entry_;
 };
 

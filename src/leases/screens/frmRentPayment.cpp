@@ -55,7 +55,7 @@ QMenu* frmRentPayment::MakePaymentMenu() {
     return payment;
 }
 
-/// The receipts of the catalogue, for a payment that has been posted.
+/// Fills in the receipts of the catalogue, for a payment that has been posted.
 void frmRentPayment::FillReceipts() {
     receiptMenu_->clear();
     const auto items = reports::ReceiptsOf(reports::RecordForm::Lease);
@@ -176,7 +176,7 @@ void frmRentPayment::TicksChanged() {
     ShowTotal();
 }
 
-/// Every open charge is ticked again, but the user's own ticks are not forgotten.
+/// Ticks every open charge again, but remembers the user's own ticks.
 void frmRentPayment::RereadCharges() {
     ReadTicks();
     if (!tickedAgain_) ticks_.Keep(payment_);
@@ -265,7 +265,7 @@ void frmRentPayment::Store() {
     try {
         SubmitPayment(payment_, update_);
     } catch (const platform::ConflictError&) {
-        // The list shows what the books have now before the user reads why nothing was posted.
+        // The list shows the present charges before the user reads why nothing was posted.
         Quietly([this] { RereadCharges(); });
         throw;
     }

@@ -15,7 +15,7 @@ class frmRentPayment;
 
 namespace leases::screens {
 
-/// Takes a payment against the charges of a lease, or edits one that was taken.
+/// Takes a payment against the charges of a lease, or edits a stored one.
 class frmRentPayment : public books::screens::PaymentForm {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ class frmRentPayment : public books::screens::PaymentForm {
     ~frmRentPayment() override;
 
     /// Opens a stored payment, or a new one (0) for the open charges of a lease and class. `update`
-    /// says whether the lease is brought up to date after it.
+    /// says whether the lease is brought up to date afterwards.
     void Setup(std::int32_t idTransaction, std::int32_t idLease, RentClass rentClass,
                LeaseUpdate update);
 
@@ -61,7 +61,7 @@ class frmRentPayment : public books::screens::PaymentForm {
     QMenu* receiptMenu_ = nullptr;
     RentPayment payment_;
     PaymentTicks ticks_;
-    /// The charges were ticked by a rereading, differently from how the user left them.
+    /// Whether reading the charges again has changed the user's ticks.
     bool tickedAgain_ = false;
     LeaseUpdate update_ = LeaseUpdate::Yes;
 };

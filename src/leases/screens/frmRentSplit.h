@@ -22,7 +22,7 @@ class frmRentSplit;
 
 namespace leases::screens {
 
-/// Makes two charges of one, so that a part of it can be paid.
+/// Splits a charge in two, so that part of it can be paid.
 class frmRentSplit : public core::forms::EntryForm {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ class frmRentSplit : public core::forms::EntryForm {
     void Setup(std::int32_t idRentLog);
 
   Q_SIGNALS:
-    /// The charge was replaced by its parts; 0 for a part that wasn't written.
+    /// Emitted when the charge was replaced by its parts; 0 for a part that was left out.
     void Saved(std::int32_t idRentLog, const std::array<std::int32_t, 2>& parts);
 
   protected:

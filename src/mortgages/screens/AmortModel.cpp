@@ -15,7 +15,7 @@ namespace {
 constexpr QRgb kTint = 0xFFE2FEEB;
 constexpr QRgb kTintOnDark = 0xFF24382B;
 
-/// The tint of every second row, dark in dark windows, so that their text stays readable.
+/// Returns the tint of every second row, dark in dark windows so that its text stays readable.
 QColor Tint() {
     const bool isDark = QGuiApplication::palette().color(QPalette::Base).lightness() < 128;
     return {isDark ? kTintOnDark : kTint};

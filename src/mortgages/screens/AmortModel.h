@@ -7,14 +7,14 @@
 
 namespace mortgages::screens {
 
-/// A loan's schedule for a table view; cells are made when they show.
+/// A loan's schedule for a table view; cells are formatted when they are painted.
 class AmortModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Keeps a copy of the loan with its schedule.
+    /// Shows a copy of the loan with its schedule.
     void Show(const clsMortgage& mortgage, const AmortView& view);
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -155,7 +155,7 @@ void AmortPage::ShowAll() {
     UpdateChart();
 }
 
-/// Each column as wide as its texts, and what room is left shared among them.
+/// Makes each column as wide as its texts, and splits the remaining width among them.
 void AmortPage::FitColumns() {
     table_->resizeColumnsToContents();
     const int count = model_->columnCount();

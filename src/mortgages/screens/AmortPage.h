@@ -25,14 +25,14 @@ class AmortPage : public QWidget {
     explicit AmortPage(QWidget* parent = nullptr);
 
     void Show(const clsMortgage& mortgage);
-    /// Shows another schedule of the loan under a caption that says what it is, with a button that
-    /// asks for the loan's own.
+    /// Shows another schedule of the loan under `caption`, with a button to return to the loan's
+    /// own.
     void ShowInstead(const clsMortgage& mortgage, const QString& caption);
-    /// Shows why there is no schedule, or only a part of it; an empty reason hides the line.
+    /// Shows why there is no schedule, or only part of one; an empty reason hides the line.
     void ShowFault(std::string_view reason);
 
   Q_SIGNALS:
-    /// The user wants to see the loan's own schedule again.
+    /// Emitted when the user asks for the loan's own schedule again.
     void OwnScheduleAsked();
 
   protected:

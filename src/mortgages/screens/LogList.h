@@ -8,7 +8,7 @@
 
 namespace mortgages::screens {
 
-/// One row of the mortgage log as a list shows it: its day, texts, then amounts.
+/// A line of the list: a row of the mortgage log as its date, texts and amounts.
 struct LogLine {
     std::int32_t idMortgageLog = 0;
     LogFlags flags = LogFlags::Ordinary;
@@ -25,19 +25,19 @@ class LogList : public core::grid::LedgerList {
   public:
     explicit LogList(QWidget* parent = nullptr);
 
-    /// What the columns are called: the day, `texts` of words, the others of money. The one at
-    /// `wide` takes the room that is left.
+    /// Sets the captions of the columns: the date, `texts` text columns, then amounts. The column
+    /// `wide` takes the remaining width.
     void SetColumns(const QStringList& captions, int texts, int wide);
-    /// The row that is current stays so.
+    /// Shows these lines. The current row stays current.
     void ShowLines(const std::vector<LogLine>& lines);
-    /// Sets the ticks alone, in the order of the lines shown.
+    /// Sets only the ticks, in the order of the lines.
     void ShowTicks(const std::vector<bool>& ticks);
 
-    /// Selects exactly the base payments, or exactly the others.
+    /// Selects exactly the base payments, or exactly the other rows.
     void SelectBasePayments(bool basePayments);
 
   Q_SIGNALS:
-    /// A person ticked the line of this number, or took the tick out.
+    /// Emitted when the user ticks or unticks a line.
     void Ticked(std::size_t line, bool on);
 
   private:

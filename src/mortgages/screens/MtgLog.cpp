@@ -146,7 +146,7 @@ void MtgLog::Add() {
     core::EditRecord(core::kMortgageLog, 0, idMortgage_);
 }
 
-/// What was paid is edited on the payment that did.
+/// A settled charge is edited on its payment.
 void MtgLog::Edit(std::int32_t id) {
     if (id == 0) return;
     if (Part() == LogPart::PaymentDue) {

@@ -14,15 +14,15 @@ namespace mortgages::screens {
 
 class LogList;
 
-/// The log of a mortgage on its screen: what is due and what was paid, and the commands on both.
-/// It follows every change of the log, wherever it was made.
+/// The log of a mortgage on its screen: charges due and payments made, with their commands. It
+/// follows every change of the log, wherever it was made.
 class MtgLog : public QWidget {
     Q_OBJECT
 
   public:
     explicit MtgLog(QWidget* parent = nullptr);
 
-    /// Shows the log of a mortgage; nothing can be done with that of a new one (0).
+    /// Shows the log of a mortgage; the panel is disabled for a new one (0).
     void Load(std::int32_t idMortgage);
 
   private:

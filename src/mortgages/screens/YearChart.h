@@ -8,14 +8,14 @@
 
 namespace mortgages::screens {
 
-/// A loan by years: its balance, and what was paid of principal and interest.
+/// A loan by years: its balance, and the principal and interest paid.
 class YearChart : public platform::qt::SeriesChart {
     Q_OBJECT
 
   public:
     explicit YearChart(QWidget* parent = nullptr);
 
-    /// Draws the years in place of those before; none leave the chart as it is.
+    /// Draws these years; the chart stays as it is if there are none.
     void Show(const std::vector<YearPoint>& years, ChartType type, bool legend);
 };
 

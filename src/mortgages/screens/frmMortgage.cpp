@@ -129,7 +129,7 @@ void frmMortgage::Store() {
     platform::Recordset row;
     FindRowToWrite(row);
     if (!WritesNewRow()) {
-        // The loan may have moved on since it was read: a payment, or another program.
+        // The loan may have changed since it was read: by a payment, or another program.
         stored_ = clsMortgage();
         stored_.LoadRS(row);
         loan_ = stored_;

@@ -30,8 +30,8 @@ class AmortPage;
 class MtgLog;
 class frmMortgageAdjust;
 
-/// A mortgage: its parties and terms, its log, its schedule, and the commands on it. The
-/// origination of a saved one can't be changed.
+/// A mortgage: its parties and terms, its log, its schedule, and its commands. The origination of a
+/// saved mortgage can't be changed.
 class frmMortgage : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -39,7 +39,7 @@ class frmMortgage : public core::forms::RecordForm {
     explicit frmMortgage(QWidget* parent = nullptr);
     ~frmMortgage() override;
 
-    /// Opens a mortgage, or a new one (0) of the building.
+    /// Opens a mortgage, or a new one (0) on the building.
     void Setup(std::int32_t idMortgage, std::int32_t parentBuilding);
 
   protected:
@@ -93,12 +93,11 @@ class frmMortgage : public core::forms::RecordForm {
     QAction* changeBalance_ = nullptr;
     QAction* changeTerms_ = nullptr;
     QAction* takeBack_ = nullptr;
-    /// The loan as it was read, and with the changes that aren't saved yet: the terms entered, and
-    /// adjustments.
+    /// The loan as it was read, and with the unsaved changes: entered terms and adjustments.
     clsMortgage stored_;
     clsMortgage loan_;
     std::vector<Adjustment> adjustments_;
-    /// What the boxes and ticks of the terms showed when the loan was read.
+    /// The contents of the controls of the terms when the loan was read.
     std::map<const QWidget*, QString> shownTerms_;
     bool saved_ = false;
 };

@@ -84,8 +84,8 @@ void frmMortgageAdjust::SetupTerms(const clsMortgage& loan) {
 
 void frmMortgageAdjust::SetupTakeBack(const clsMortgage& loan) {
     Prepare(Mode::TakeBack, loan);
-    setWindowTitle(tr("Take Back Extra Principal"));
-    Wire(tr("&Take Back"), tr("Show the schedule without this entry (Enter)"), "TAKEBACK");
+    setWindowTitle(tr("Remove Extra Principal"));
+    Wire(tr("&Remove"), tr("Show the schedule without this entry (Enter)"), "TAKEBACK");
     Begin([&] {
         for (const ExtraEntry& entry : ExtraEntries(loan)) {
             const QString text = tr("Payment %1, due %2: %3")
@@ -94,7 +94,7 @@ void frmMortgageAdjust::SetupTakeBack(const clsMortgage& loan) {
                                           ToScreen(platform::FormatMoney(entry.amount)));
             ui_->cboTakeBack->addItem(text, entry.period);
         }
-        // The latest adjustment is the one most likely to be a slip.
+        // The latest adjustment is the most likely slip.
         const int before = ui_->cboTakeBack->findData(loan.CurrentPeriod() - 1);
         ui_->cboTakeBack->setCurrentIndex(std::max(before, 0));
     });

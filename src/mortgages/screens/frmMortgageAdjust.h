@@ -12,7 +12,7 @@ class frmMortgageAdjust;
 namespace mortgages::screens {
 
 /// Asks for one adjustment of a mortgage: a rate or extra principal from a period on, the balance
-/// that the lender states, or an entry to take back. It changes nothing itself.
+/// stated by the lender, or an entry to remove. It changes nothing itself.
 class frmMortgageAdjust : public core::forms::EntryForm {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ class frmMortgageAdjust : public core::forms::EntryForm {
     explicit frmMortgageAdjust(QWidget* parent = nullptr);
     ~frmMortgageAdjust() override;
 
-    // Each opens the screen with one of its frames, for a loan as it is shown now.
+    // Each opens the screen with one of its frames, for the loan as it is shown.
     void SetupInt(const clsMortgage& loan);
     void SetupBalance(const clsMortgage& loan);
     void SetupTerms(const clsMortgage& loan);

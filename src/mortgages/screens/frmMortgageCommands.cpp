@@ -42,7 +42,7 @@ void frmMortgage::MakeMenu() {
     changeBalance_ = AddAction("mnuChangeBalance", tr("Adjust to Lender's &Balance..."),
                                [this] { OpenAdjustment(&frmMortgageAdjust::SetupBalance); });
     changeBalance_->setToolTip(tr("When the lender's balance is lower than the schedule's"));
-    takeBack_ = AddAction("mnuTakeBack", tr("Take Back &Extra Principal..."),
+    takeBack_ = AddAction("mnuTakeBack", tr("Remove &Extra Principal..."),
                           [this] { OpenAdjustment(&frmMortgageAdjust::SetupTakeBack); });
     takeBack_->setToolTip(tr("Takes an entry out of the schedule, a mistyped balance for one"));
     menu->addSeparator();
@@ -55,7 +55,8 @@ void frmMortgage::MakeMenu() {
     }
 }
 
-/// A command works on what is stored, so what was changed is saved before it; true when all is.
+/// Commands work on the stored mortgage, so changes are saved first; returns true if everything is
+/// saved.
 bool frmMortgage::SaveFirst() {
     if (!Dirty()) return true;
     saved_ = false;
@@ -82,7 +83,7 @@ void frmMortgage::OpenAdjustment(void (frmMortgageAdjust::*setup)(const clsMortg
     (form->*setup)(loan_);
 }
 
-/// Kept until the save, which makes it on the loan as it is stored then.
+/// Kept until the save, which applies it to the loan as it is stored then.
 void frmMortgage::AdjustLoan(const Adjustment& adjustment) {
     adjustments_.push_back(adjustment);
     Reckon();
@@ -96,8 +97,8 @@ void frmMortgage::MakeChangesOn(clsMortgage& loan) const {
         Adjust(loan, adjustment);
 }
 
-/// The stored mortgage may have been changed, by a payment for one: what is shown follows it, and
-/// changes that aren't saved yet stay. Without such changes the form loads the row again.
+/// The stored mortgage may have changed, by a payment for example: the screen follows it, and
+/// unsaved changes stay. Without unsaved changes the form loads the row again.
 void frmMortgage::FollowOthers(const core::binding::Controls& /*touched*/) {
     if (!Dirty()) return;
     platform::Recordset row;

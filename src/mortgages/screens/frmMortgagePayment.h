@@ -12,7 +12,7 @@ class frmMortgagePayment;
 
 namespace mortgages::screens {
 
-/// Pays charges of a mortgage, or edits a payment that was made.
+/// Pays charges of a mortgage, or edits a stored payment.
 class frmMortgagePayment : public books::screens::PaymentForm {
     Q_OBJECT
 

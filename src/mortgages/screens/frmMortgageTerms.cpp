@@ -40,13 +40,13 @@ double AmountIn(const core::binding::MoneyEdit& box) {
     return box.Amount().value_or(Currency()).ToDouble();
 }
 
-/// Shows all digits that a user may have typed, and none that only the calculation made.
+/// Shows all digits that a user may have typed, without those that only a calculation produces.
 void ShowNumber(QLineEdit& box, double number) {
     box.setText(ToScreen(platform::FormatNumber(number, "0.##########")));
     if (box.text().endsWith(QLatin1Char('.'))) box.setText(box.text().chopped(1));
 }
 
-/// What a control of the terms holds, to tell later whether it was changed.
+/// Returns the contents of a control of the terms, to detect changes.
 QString TermText(const QWidget& control) {
     if (const auto* const box = qobject_cast<const QLineEdit*>(&control)) return box->text();
     if (const auto* const tick = qobject_cast<const QAbstractButton*>(&control))
@@ -64,7 +64,7 @@ void frmMortgage::ShowTerms() {
     const LoadingGuard loading(*this);
     loan_ = stored_;
     ShowAmount(*origin_->txtOrigPV, loan_.OrigPV());
-    // Whole periods: the terms of older books are solved from their payment, as 360.0093213495.
+    // Shown as whole periods: older books solved the term from the payment, as 360.0093213495.
     ShowNumber(*origin_->txtOrigPer, std::round(loan_.OrigPer()));
     ShowNumber(*origin_->txtOrigRate, loan_.OrigRate());
     origin_->dpDue->SetStoredText(ToScreen(loan_.FirstDue()));
@@ -99,8 +99,8 @@ bool frmMortgage::IsChanged(const QWidget& control) const {
     return shown == shownTerms_.end() || shown->second != TermText(control);
 }
 
-/// Only a new loan takes all terms; the origination of a saved one can't be changed, and of the
-/// rest what the user left alone keeps its stored digits.
+/// Only a new loan takes all terms. The origination of a saved one can't be changed, and terms that
+/// the user left alone keep their stored digits.
 void frmMortgage::ReadTerms(clsMortgage& loan) const {
     if (Id() != 0) return ReadSavedTerms(loan);
     loan.SetOrigPV(AmountIn(*origin_->txtOrigPV));
@@ -137,7 +137,7 @@ void frmMortgage::TermsChanged() {
     if (!Loading()) Reckon();
 }
 
-/// The most that an adjustable loan can come to, shown on a copy: the loan keeps its rates.
+/// Shows the highest rates that an adjustable loan can reach, on a copy: the loan keeps its own.
 void frmMortgage::ShowWorstCase() {
     clsMortgage worst = loan_;
     worst.SetMaxRates();
@@ -148,8 +148,7 @@ void frmMortgage::ShowWorstCase() {
     ui_->tabs->setCurrentWidget(ui_->tabAmortization);
 }
 
-/// Terms that can't be calculated, while they are being typed for one, are reported beside the
-/// schedule.
+/// Terms that can't be calculated, such as half-typed ones, are reported beside the schedule.
 void frmMortgage::Reckon() {
     try {
         loan_ = stored_;

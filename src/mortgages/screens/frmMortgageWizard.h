@@ -16,7 +16,7 @@ class frmMortgageWizardTerms;
 
 namespace mortgages::screens {
 
-/// Adds a mortgage that may be running already, from what its lender's papers say.
+/// Adds a mortgage that may be running already, from the figures on its lender's statement.
 class frmMortgageWizard : public core::forms::frmWizard {
     Q_OBJECT
 

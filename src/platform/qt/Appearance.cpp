@@ -77,9 +77,9 @@ State& Present() {
     return state;
 }
 
-/// Uses the system's palette as it is, coloured and high-contrast ones too. Only if it is light
-/// although the desktop prefers dark, our dark one replaces it: that platform theme ignores the
-/// preference.
+/// Uses the system's palette as it is, including coloured and high-contrast ones. Our dark palette
+/// replaces it only if it is light although the desktop prefers dark: that platform theme ignores
+/// the preference.
 void ApplySystemPalette() {
     QApplication::setPalette(QPalette());
     const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;

@@ -20,7 +20,7 @@ QString Filters(const FileQuestion& question) {
     return filters.join(QStringLiteral(";;"));
 }
 
-/// "html" of "*.html *.htm"; empty if any file will do.
+/// Returns "html" for "*.html *.htm"; empty if any file will do.
 QString SuffixOf(const QString& patterns) {
     const QString first = patterns.section(QLatin1Char(' '), 0, 0);
     return first.contains(QLatin1Char('.')) && !first.endsWith(QLatin1Char('*'))
@@ -28,7 +28,7 @@ QString SuffixOf(const QString& patterns) {
                : QString();
 }
 
-/// The patterns of "Web pages (*.html *.htm)".
+/// Returns the patterns in "Web pages (*.html *.htm)".
 QString PatternsOf(const QString& filter) {
     return filter.section(QLatin1Char('('), -1).chopped(1);
 }
@@ -49,7 +49,7 @@ class ChooserBoxes : public Choosers {
         QFileDialog dialog(QApplication::activeWindow(), ToScreen(question.title), {},
                            Filters(question));
         dialog.setAcceptMode(QFileDialog::AcceptSave);
-        // The dialog asks before a file is replaced, also one whose extension wasn't typed.
+        // The dialog also asks before replacing a file whose extension wasn't typed.
         const auto setSuffix = [&dialog](const QString& filter) {
             dialog.setDefaultSuffix(SuffixOf(PatternsOf(filter)));
         };

@@ -47,7 +47,8 @@ class MessageBoxes : public Dialogs {
                         ToScreen(text).remove(QChar::CarriageReturn), buttons,
                         QApplication::activeWindow());
         box.setTextFormat(Qt::PlainText);
-        // Every question is about something that can't be undone: a stray Enter must not agree.
+        // Every question is about something that can't be undone: an accidental Enter must not
+        // agree.
         if (buttons.testFlag(QMessageBox::No)) {
             box.setDefaultButton(QMessageBox::No);
             box.setEscapeButton(QMessageBox::No);

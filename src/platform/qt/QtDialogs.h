@@ -15,8 +15,8 @@ std::unique_ptr<Dialogs> MakeDialogs();
 std::unique_ptr<Choosers> MakeChoosers();
 std::unique_ptr<Desktop> MakeDesktop();
 
-/// Closes the dialogs that are open, and shows no more messages and questions: from now on each
-/// question is answered No. For a program that is told to end.
+/// Closes the open dialogs and shows no more messages and questions: every further question is
+/// answered No. For a program that is asked to end.
 void DismissDialogs();
 
 } // namespace platform::qt

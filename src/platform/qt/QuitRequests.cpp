@@ -32,7 +32,7 @@ Pipe& SignalPipe() {
     return pipe;
 }
 
-// Nothing but a write is safe here; the event loop reads the other end.
+// Only a write is safe here; the event loop reads the other end.
 void OnSignal(int /*number*/) {
     const int kept = errno;
     const char byte = 1;

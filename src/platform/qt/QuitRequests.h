@@ -17,7 +17,7 @@ class QuitRequests : public QObject {
     ~QuitRequests() override;
 
   Q_SIGNALS:
-    /// The program must end now and in order, without any question.
+    /// Emitted if the program must end now, in order and without questions.
     void QuitAsked();
 
   private:

@@ -23,7 +23,7 @@ QString RuntimeFile(const QString& name) {
 
 SingleInstance::SingleInstance(const QString& name)
     : name_(RuntimeFile(name)), lock_(name_ + QStringLiteral(".lock")) {
-    // A lock is stale when its process is gone, never by its age.
+    // A lock is stale if its process has ended, never by its age.
     lock_.setStaleLockTime(0);
     isFirst_ = lock_.tryLock(0);
     if (!isFirst_) return;

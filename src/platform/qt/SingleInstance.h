@@ -21,7 +21,7 @@ class SingleInstance : public QObject {
     bool AskFirstToShow() const;
 
   Q_SIGNALS:
-    /// In the first process: the program was started again.
+    /// Emitted in the first process when the program is started again.
     void ShowAsked();
 
   private:

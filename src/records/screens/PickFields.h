@@ -4,8 +4,8 @@ class QWidget;
 
 namespace records::screens {
 
-// Combo boxes that remember what was typed into them: those of a form with the property "pickList"
-// set.
+// A form's combo boxes that remember the texts typed into them: the boxes with the property
+// "pickList" set.
 
 /// Fills the boxes with the remembered texts and leaves them blank.
 void LoadPickFields(QWidget& form);

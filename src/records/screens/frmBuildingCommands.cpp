@@ -29,7 +29,7 @@ namespace {
 
 constexpr std::string_view kPeriodFormat = "#,###.0";
 
-/// What is no number, or past all numbers, counts as 0.
+/// Text that isn't a number, or too large a one, counts as 0.
 double NumberIn(const QLineEdit& box) {
     try {
         return platform::TryParseNumber(FromScreen(box.text())).value_or(0);

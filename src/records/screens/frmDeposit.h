@@ -12,7 +12,7 @@ class frmDeposit;
 
 namespace records::screens {
 
-/// A deposit template: for all new leases, or for those of a building or a unit.
+/// A deposit template: for all new leases, or for the leases of a building or a unit.
 class frmDeposit : public core::forms::RecordForm {
     Q_OBJECT
 

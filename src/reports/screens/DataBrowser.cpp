@@ -19,8 +19,8 @@ using platform::qt::ToScreen;
 
 namespace {
 
-/// The message's colour as it can be read on the palette's window: pure blue and red are too dark
-/// on a dark one.
+/// Returns a message's colour adapted to the palette: pure blue and red are too dark in a dark
+/// window.
 QColor ReadableColor(ConsoleColor color, const QPalette& palette) {
     constexpr int kDark = 128;
     const bool isDark = palette.color(QPalette::Window).lightness() < kDark;
@@ -56,7 +56,7 @@ DataBrowser::DataBrowser(QWidget* parent)
 
 DataBrowser::~DataBrowser() = default;
 
-/// Ctrl+Enter, which the box would take for a line end.
+/// Handles Ctrl+Enter, which the box would take as a line end.
 bool DataBrowser::eventFilter(QObject* watched, QEvent* event) {
     if (watched == ui_->txtSQL && event->type() == QEvent::KeyPress) {
         const auto& key = static_cast<const QKeyEvent&>(*event);

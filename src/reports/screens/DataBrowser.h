@@ -12,8 +12,7 @@ class DataBrowser;
 
 namespace reports::screens {
 
-/// The SQL console: a panel that runs statements as they are typed, shows their rows and prints
-/// them.
+/// The SQL console: a panel that runs typed statements, shows their rows and prints them.
 class DataBrowser : public QWidget {
     Q_OBJECT
 
@@ -22,7 +21,7 @@ class DataBrowser : public QWidget {
     ~DataBrowser() override;
 
   protected:
-    /// Says whether there is a database.
+    /// Shows whether a database is open.
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -17,8 +17,8 @@ using core::forms::Subject;
 
 namespace {
 
-/// A caption as the catalogue has it; the "&" of a description is a letter of it, and only the one
-/// of the number marks the key.
+/// Returns a catalogue caption for a menu: an "&" in the description is shown, and only the one of
+/// the number marks the key.
 QString MenuText(const std::string& caption) {
     QString text = platform::qt::ToScreen(caption);
     const bool isNumbered = text.startsWith(QLatin1String("(&"));
@@ -39,7 +39,7 @@ QAction* Add(const MenuFilling& filling, const QString& text, const char* name, 
     } else if (!canRun) {
         action->setToolTip(QObject::tr("There is no report viewer"));
     }
-    // The form may show another record, or a saved one, when the item is chosen.
+    // By the time the item is chosen the form may show another record, or a saved one.
     QObject::connect(action, &QAction::triggered, action,
                      [subjects = &filling.subjects, subject, index, save = filling.save] {
                          core::forms::Guarded([&] {

@@ -2,8 +2,8 @@
 
 namespace reports::screens {
 
-/// Gives every record form the menus of its reports and receipts: what the catalogue holds for the
-/// form when the menu opens.
+/// Adds to every record form the menus of its reports and receipts, filled from the catalogue
+/// whenever they open.
 void RegisterReportMenus();
 
 } // namespace reports::screens

@@ -5,8 +5,8 @@
 
 namespace reports::screens {
 
-/// The picture of a report in the catalogue by its code, 1 to 8; the page of a report for any
-/// other.
+/// Returns the picture of a report in the catalogue by its code, 1 to 8; the general one for any
+/// other code.
 QIcon ReportIcon(std::int16_t code);
 
 } // namespace reports::screens

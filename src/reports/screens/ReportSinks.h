@@ -9,16 +9,16 @@
 
 namespace reports::screens {
 
-/// Called with what is done so far; false stops the work.
+/// Called with the amount done so far; returns false to stop the work.
 using Progress = std::function<bool(std::size_t done)>;
 
-/// What a sink throws when the work is to stop. It is no failure.
+/// Thrown by a sink to stop the work. It is not an error.
 class Cancelled : public std::exception {
   public:
     const char* what() const noexcept override { return "Cancelled."; }
 };
 
-/// Hands pages on and asks after each one whether to go on.
+/// Passes pages on and asks after each one whether to continue.
 class WatchedPages : public platform::PageSink {
   public:
     WatchedPages(platform::PageSink& pages, Progress progress)
@@ -34,7 +34,7 @@ class WatchedPages : public platform::PageSink {
     std::size_t done_ = 0;
 };
 
-/// Hands a flow on and asks now and then whether to go on.
+/// Passes a flow on and asks now and then whether to continue.
 class WatchedFlow : public platform::FlowSink {
   public:
     WatchedFlow(platform::FlowSink& flow, Progress progress)

@@ -143,7 +143,7 @@ void frmReportViewer::SetUpToolBar() {
         button->setFocusPolicy(Qt::StrongFocus);
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         ui_->toolBar->addWidget(button);
-        // The menu's text would come back whenever the action changes.
+        // The menu's text would be restored whenever the action changes.
         connect(Action(action), &QAction::changed, button,
                 [button, text] { button->setText(text); });
     };
@@ -172,7 +172,7 @@ QString frmReportViewer::ReasonToWait() const {
 }
 
 void frmReportViewer::EnableActions() {
-    // An empty reason makes a command available, and its tooltip its own text.
+    // An empty reason enables a command, and its tooltip is its own text.
     const auto allow = [this](const char* name, const QString& reason) {
         Action(name)->setEnabled(reason.isEmpty());
         Action(name)->setToolTip(reason);
@@ -183,7 +183,7 @@ void frmReportViewer::EnableActions() {
         whole = tr("The report is incomplete: press F5 to run it again");
     for (const char* name : {"mnuPrint", "mnuExportHTML", "mnuExportPDF", "mnuExportRTF"})
         allow(name, whole);
-    // A page is whole even if the report isn't.
+    // A page is complete even if the report isn't.
     allow("mnuPrintPage", wait.isEmpty() && document_.PageCount() > 0 ? wait : whole);
     const QString none = reportIndex_ == 0 ? tr("No report has been run") : QString();
     allow("mnuPageSetup", none.isEmpty() ? wait : none);

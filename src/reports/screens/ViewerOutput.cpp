@@ -25,7 +25,7 @@ namespace reports::screens {
 
 namespace {
 
-/// "Rich Text File (*.rtf)|*.rtf" as the file dialogs take it.
+/// Converts "Rich Text File (*.rtf)|*.rtf" for the file dialogs.
 platform::FileFilter FilterOf(std::string_view words) {
     const auto bar = words.find('|');
     const auto bracket = words.find(" (");
@@ -33,7 +33,7 @@ platform::FileFilter FilterOf(std::string_view words) {
             .patterns = std::string(words.substr(bar + 1))};
 }
 
-/// The file to write; a name without an ending gets the format's.
+/// Returns the file to write; a name without an extension gets the format's.
 std::optional<std::string> AskFile(const ExportWords& words, ExportFormat format) {
     const auto chosen =
         platform::TheChoosers().SaveFile({.title = std::string(words.title),
@@ -59,7 +59,7 @@ void DrawFlow(ReportRun& run, platform::ByteSink& out, Progress progress) {
     run.Draw(surface);
 }
 
-/// The pages as they are shown, as a PDF file.
+/// Writes the pages as they are shown to a PDF file.
 void WritePages(const platform::PrintedDocument& document, platform::DocumentInfo info,
                 platform::PageSink& sink) {
     sink.BeginPages(info);
@@ -82,7 +82,7 @@ void frmReportViewer::Export(ExportFormat format) {
             WriteExport(format, *path);
             isWritten = true;
         } catch (const Cancelled&) {
-            // An older file of the name is as it was.
+            // An older file of that name is unchanged.
         }
     });
     EndWork();

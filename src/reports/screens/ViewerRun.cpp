@@ -43,7 +43,7 @@ void frmReportViewer::RunOnce(int index) {
             Lay(*report);
             wasLaid = true;
         } catch (const Cancelled&) {
-            // The pages so far stay, and the line below says that they aren't all.
+            // The pages so far stay, and the line below them says that they are incomplete.
         }
     });
     EndWork();
@@ -140,7 +140,7 @@ void frmReportViewer::BeginWork(Work work) {
     sinceMessages_.start();
 }
 
-/// Lets the window take its messages every now and then; false once the work is to stop.
+/// Processes window messages now and then; returns false once the work is to stop.
 bool frmReportViewer::GoOn(std::size_t done) {
     if (sinceMessages_.elapsed() >= kBetweenMessagesMs) {
         ShowProgress(done);
@@ -151,7 +151,7 @@ bool frmReportViewer::GoOn(std::size_t done) {
 }
 
 void frmReportViewer::ShowProgress(std::size_t done) {
-    // Only long work gets so far: until here nothing needs to be disabled.
+    // Only long work gets here: until now nothing needed to be disabled.
     EnableActions();
     ui_->cmdCancel->show();
     const auto count = static_cast<qulonglong>(done);

@@ -16,7 +16,7 @@ using platform::Twips;
 
 namespace {
 
-/// Margins are shown in inches, or in millimetres where A4 is the usual paper.
+/// Margins are shown in inches, or in millimetres if A4 is the usual paper.
 struct Unit {
     double twips;
     int decimals;

@@ -13,7 +13,7 @@ class frmPageSetup;
 
 namespace reports::screens {
 
-/// Whether the orientation may be chosen; a definition may fix it.
+/// Whether the orientation can be chosen; a definition may fix it.
 enum class OrientationChoice : std::uint8_t { Free, Fixed };
 
 /// Asks for the paper, the orientation and the margins of reports. Deletes itself when it closes.

@@ -36,7 +36,7 @@ frmReportViewer::~frmReportViewer() = default;
 
 void frmReportViewer::RunReport(int index) {
     if (work_ != Work::None) {
-        // The work under way ends first.
+        // The running work ends first.
         nextRun_ = index;
         isCancelled_ = true;
         return;
@@ -61,7 +61,7 @@ void frmReportViewer::reject() {
     }
 }
 
-/// A window can't go while its own work is on the way: the work is stopped, and the window closes
+/// A window can't close while its own work is running: the work is stopped, and the window closes
 /// after it.
 void frmReportViewer::closeEvent(QCloseEvent* event) {
     if (work_ != Work::None) {
@@ -76,7 +76,7 @@ void frmReportViewer::closeEvent(QCloseEvent* event) {
 
 void frmReportViewer::SaveSettings() const {
     SaveOpenExport(Action("mnuOpenExport")->isChecked());
-    // Without pages there is no orientation that anybody has seen.
+    // Without pages nobody has seen an orientation.
     if (document_.PageCount() == 0) return;
     // The margins may have been changed since the last run.
     platform::PageSetup setup = ReadPageSetup();

@@ -35,15 +35,15 @@ class frmReportViewer : public core::forms::Form {
     explicit frmReportViewer(QWidget* parent = nullptr);
     ~frmReportViewer() override;
 
-    /// Runs the report of this number of the catalogue with its present choices, and shows it; the
-    /// viewer also refreshes itself by it. A number that isn't one does nothing. While a run is
-    /// under way it is given up for the new one.
+    /// Runs the report of this number with its present choices and shows it; also used to refresh
+    /// the viewer. Does nothing for an unknown number. A run in progress is stopped for the new
+    /// one.
     void RunReport(int index);
 
     bool InRun() const { return inRun_; }
     const platform::PrintedDocument& Document() const { return document_; }
 
-    /// Escape: stops what is under way, leaves the search, or else closes.
+    /// Escape: stops the running work, ends the search, or else closes.
     void reject() override;
 
   protected:
@@ -61,7 +61,7 @@ class frmReportViewer : public core::forms::Form {
     void ConnectChoices();
     QAction* AddAction(QMenu& menu, const char* name, const QString& text, const char* icon = "");
     QAction* Action(const char* name) const;
-    /// Why the commands have to wait, empty if they don't.
+    /// Returns why the commands have to wait; empty if they don't.
     QString ReasonToWait() const;
     void EnableActions();
 
@@ -75,7 +75,7 @@ class frmReportViewer : public core::forms::Form {
     void StoreChosenDates();
     void OpenPageSetup();
 
-    // Long work: lets the window live, and stops when the user asks.
+    // Long work: keeps the window alive, and stops when the user asks.
     void BeginWork(Work work);
     bool GoOn(std::size_t done);
     void EndWork();
@@ -112,10 +112,10 @@ class frmReportViewer : public core::forms::Form {
     QElapsedTimer sinceMessages_;
 };
 
-/// Runs a report in the viewer, which is opened if it isn't.
+/// Runs a report in the viewer, opening it if necessary.
 void ViewReport(int index);
 
-/// How the viewer opens the catalogue screen; without it the command is disabled.
+/// Sets how the viewer opens the catalogue screen; without it the command is disabled.
 void SetCatalogueOpener(std::function<void()> opener);
 
 } // namespace reports::screens

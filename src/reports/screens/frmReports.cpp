@@ -23,7 +23,7 @@ using platform::qt::ToScreen;
 namespace {
 
 constexpr int kReportRole = Qt::UserRole;
-/// How far back the years go.
+/// How many past years are offered.
 constexpr int kYears = 30;
 
 int ReportOf(const QListWidgetItem* item) {
@@ -58,7 +58,7 @@ void frmReports::Connect() {
             [this] { Guarded([this] { ShowTab(); }); });
     connect(ui_->lvw, &QListWidget::currentItemChanged, this,
             [this] { Guarded([this] { Choose(); }); });
-    // Enter is the button's own.
+    // Enter belongs to the default button.
     connect(ui_->lvw, &QListWidget::itemDoubleClicked, ui_->cmdReport, &QPushButton::click);
     auto* const dates = new QButtonGroup(this);
     for (QRadioButton* const option :
@@ -104,10 +104,10 @@ void frmReports::ShowTab() {
     Choose();
 }
 
-/// The answers belong to the report that was left; the questions are those of the new one.
+/// The answers belong to the report that was shown; the questions are the new report's.
 void frmReports::Choose() {
     if (!StoreAnswers()) {
-        // The date that is not valid stays on screen with its report.
+        // Stays on the report whose date is not valid.
         for (int row = 0; row < ui_->lvw->count(); ++row) {
             if (ReportOf(ui_->lvw->item(row)) != shown_) continue;
             const QSignalBlocker quiet(ui_->lvw);
@@ -219,12 +219,12 @@ void frmReports::Run() {
 }
 
 void frmReports::closeEvent(QCloseEvent* event) {
-    // A date that is not valid goes with the screen.
+    // A date that is not valid is dropped with the screen.
     if (ReportDef* const report = FindReport(shown_)) static_cast<void>(StoreIn(*report));
     Form::closeEvent(event);
 }
 
-/// Records come and go while the catalogue is open.
+/// Records are added and deleted while the catalogue is open.
 void frmReports::NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) {
     Form::NotifyUpdate(kind, action, id);
     const ReportDef* const report = FindReport(shown_);

@@ -16,7 +16,7 @@ struct ReportDef;
 
 namespace reports::screens {
 
-/// The catalogue: the user picks a report, answers what it asks, and runs it.
+/// The catalogue: the user chooses a report, answers its questions, and runs it.
 class frmReports : public core::forms::Form {
     Q_OBJECT
 
@@ -40,9 +40,9 @@ class frmReports : public core::forms::Form {
     void ShowQuestions(ReportDef& report);
     void ShowDates(const ReportDef& report);
     void EnableDates();
-    /// Stores the answers on screen with the report they belong to; false if a date is not valid.
+    /// Stores the answers on screen with their report; returns false if a date is not valid.
     bool StoreAnswers();
-    /// Stores them in a report; returns what is wrong with the dates, which stay as they were then.
+    /// Stores them in a report; returns the errors in the dates, which then stay unchanged.
     std::vector<std::string> StoreIn(ReportDef& report) const;
     std::vector<std::string> StoreDates(ReportDef& report) const;
     void Run();

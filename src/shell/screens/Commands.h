@@ -11,8 +11,8 @@ class QMenu;
 
 namespace shell::screens {
 
-/// What a command works on: the kind of the view, and the id in the row that was selected last, 0
-/// for none.
+/// The selection that a command works on: the kind of the view, and the id in the row that was
+/// selected last, 0 if there is none.
 struct Selection {
     std::int16_t kind = 0;
     std::int32_t id = 0;
@@ -25,12 +25,12 @@ using Command = std::function<void(const Selection& selection)>;
 /// is chosen.
 using SubmenuFiller = std::function<void(QMenu& menu, const std::function<Selection()>& selection)>;
 
-/// The work of menu items that other rooms do, by the items' names. An item without work is
-/// disabled.
+/// The functions behind menu items whose work is done by other rooms, by the items' names. An item
+/// without a function is disabled.
 class Commands {
   public:
     void Add(const QString& item, Command command) { commands_[item] = std::move(command); }
-    /// Makes an item a submenu.
+    /// Turns an item into a submenu.
     void AddSubmenu(const QString& item, SubmenuFiller filler) {
         submenus_[item] = std::move(filler);
     }
@@ -41,7 +41,7 @@ class Commands {
         const auto found = commands_.find(item);
         if (found != commands_.end()) found->second(selection);
     }
-    /// Returns the filler of a submenu, an empty one for any other item.
+    /// Returns the filler of a submenu; empty for any other item.
     SubmenuFiller Submenu(const QString& item) const {
         const auto found = submenus_.find(item);
         return found == submenus_.end() ? SubmenuFiller() : found->second;

@@ -24,7 +24,7 @@ namespace shell::screens {
 
 namespace {
 
-/// Returns the file for notes that can't be written beside their database.
+/// Returns the file for notes that can't be saved beside their database.
 std::filesystem::path RescueFile() {
     return platform::DataHome() / "Vestrel" / "Notes that were not saved.txt";
 }

@@ -18,8 +18,8 @@ class Alerts;
 
 namespace shell::screens {
 
-/// The page that the program opens on: what needs attention, and above it one line each about books
-/// that can't be used as usual, the first steps in empty books, and what the daily run has posted.
+/// The page shown when the program starts: the alerts, and above them a line each for books with
+/// restrictions, the first steps in empty books, and the rows posted by the daily run.
 class HomePage : public QWidget {
     Q_OBJECT
 
@@ -28,11 +28,11 @@ class HomePage : public QWidget {
 
     /// Makes the side menu's wizard items trigger these actions.
     void BindWizards(QAction& lease, QAction& mortgage);
-    /// Finds again what needs attention.
+    /// Reads the alerts again.
     void Refresh();
-    /// Writes the notes; asks whether to go on if they can't be written.
+    /// Saves the notes; asks whether to continue if they can't be saved.
     bool AskToClose();
-    /// Writes the notes, to another file if necessary, so that they aren't lost.
+    /// Saves the notes, to another file if necessary, so that they aren't lost.
     void SaveNotesOrRescue();
     /// Shows the line about what was posted, which opens the list of it. `digest` must outlive the
     /// page.

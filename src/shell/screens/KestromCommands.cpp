@@ -54,7 +54,7 @@ std::string CalculatorFile() {
     return core::App().AppPath + "SumDesk.exe";
 }
 
-// The settings may name a tool; otherwise one of those that come with desktops.
+// Returns the tool named in the settings, or else one that desktops provide.
 std::string SystemInformationTool() {
     const std::string_view tools = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
     const std::string_view location = R"(SOFTWARE\Microsoft\Shared Tools Location)";
@@ -107,7 +107,7 @@ void frmKestrom::On(const QString& item, const std::function<void()>& work) {
 }
 
 void frmKestrom::ConnectCommands() {
-    // An item whose work no room does yet is disabled.
+    // An item without a function is disabled.
     for (QAction* const action : findChildren<QAction*>()) {
         const QString item = action->objectName();
         if (!item.startsWith(QLatin1String("mnu")) || action->menu() != nullptr) continue;
@@ -182,7 +182,7 @@ void frmKestrom::PrintGrid() {
     if (services_.viewReport) services_.viewReport(WriteGridReport(view_->PrintSql()));
 }
 
-// The restoration only adds what is missing, though the question says more.
+// The restoration only adds the missing categories, though the question says more.
 void frmKestrom::RestoreTransCategories() {
     const bool agreed = platform::TheDialogs().AskYesNo(
         "Confirm Action",

@@ -20,7 +20,7 @@ constexpr int kTryAgainMs = 50;
 
 } // namespace
 
-/// Returns whether the books are busy with something that lets window messages run.
+/// Returns whether the books are busy with work that processes window messages.
 bool frmKestrom::IsBusy() const {
     return loading_ || updating_ || core::App().Connection.InUnitOfWork();
 }
@@ -65,7 +65,7 @@ void frmKestrom::End() {
     };
     steps.unloadForms = [] { core::forms::CloseAllForms(); };
     steps.isBackupWanted = [this, isDue = services_.end.isBackupWanted] {
-        // Nobody may be there to press Start when the session of the desktop ends.
+        // At the end of a desktop session nobody may be there to press Start.
         return !endsUnasked_ && (IsBackupOnExit() || (isDue && isDue()));
     };
     ShutDown(steps);

@@ -9,14 +9,14 @@ namespace shell::screens {
 
 inline constexpr std::string_view kNotInThisVersion = "Not available in this version.";
 
-/// Enables a menu item if `reason` is empty; otherwise disables it, and its tooltip tells the
-/// reason as well.
+/// Enables a menu item if `reason` is empty; otherwise disables it and shows the reason in its
+/// tooltip.
 void SetAvailable(QAction& item, std::string_view reason);
 
-/// Makes the menu show the tooltips of its disabled items, not those of the others.
+/// Makes the menu show tooltips for its disabled items only.
 void ShowReasons(QMenu& menu);
 
-/// Sets an item's tooltip while it is enabled: what it does, and its key.
+/// Sets the tooltip of an item for while it is enabled: its description and its key.
 void SetTip(QAction& item);
 
 } // namespace shell::screens

@@ -108,7 +108,7 @@ void PropertyTreeView::Apply(const std::vector<TreeChange>& changes) {
 void PropertyTreeView::Remove(const PropertyNode& node) {
     QTreeWidgetItem* const item = ItemOf(node);
     if (item == nullptr) return;
-    // Nothing else becomes the selection in its place.
+    // No other node becomes the selection instead.
     if (item == currentItem()) setCurrentItem(nullptr);
     while (item->childCount() > 0)
         ItemOf({PropertyKind::Unclaimed, 0})->addChild(item->takeChild(0));
@@ -161,7 +161,7 @@ void PropertyTreeView::startDrag(Qt::DropActions actions) {
     if (Selected().kind == PropertyKind::Unit) QTreeWidget::startDrag(actions);
 }
 
-/// The unit's id, in a format of this process: the books of another one may be others.
+/// The unit's id, in a format of this process: another process may have other books open.
 QMimeData* PropertyTreeView::mimeData(const QList<QTreeWidgetItem*>& items) const {
     auto* const carried = new QMimeData;
     if (items.size() == 1 && NodeOf(*items.front()).kind == PropertyKind::Unit)
@@ -190,7 +190,7 @@ void PropertyTreeView::dragMoveEvent(QDragMoveEvent* event) {
     }
 }
 
-// The base class would move the node before anybody is asked.
+// The base class would move the node before the user is asked.
 void PropertyTreeView::dropEvent(QDropEvent* event) {
     const QTreeWidgetItem* const building = BuildingUnder(*event);
     stopAutoScroll();

@@ -8,20 +8,20 @@
 
 namespace shell::screens {
 
-/// Shows the property tree. A unit can be dragged onto a building; nothing moves by itself, the
-/// form that owns the view decides.
+/// Shows the property tree. A unit can be dragged to a building; the view itself moves nothing, its
+/// form decides.
 class PropertyTreeView : public QTreeWidget {
     Q_OBJECT
 
   public:
     explicit PropertyTreeView(QWidget* parent = nullptr);
 
-    /// Takes the steps in their order; what is selected and expanded stays.
+    /// Applies the changes in order; the selection and expanded nodes stay.
     void Apply(const std::vector<TreeChange>& changes);
-    /// Makes a unit's node a child of a building's.
+    /// Moves a unit's node to a building's.
     void MoveUnder(const PropertyNode& unit, const PropertyNode& building);
 
-    /// The selected node; the folder "Buildings" if nothing is selected.
+    /// Returns the selected node; the folder "Buildings" if nothing is selected.
     PropertyNode Selected() const;
     void Select(const PropertyNode& node);
 

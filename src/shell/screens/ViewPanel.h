@@ -20,8 +20,8 @@ class ViewPanel;
 
 namespace shell::screens {
 
-/// The list of one kind of records, with filters and a search above it, sorted by a click on a
-/// caption. The state of each kind's list is kept.
+/// The list of one kind of records, with filters and a search above it, sorted by clicks on its
+/// captions. The state of each kind's list is stored.
 class ViewPanel : public QWidget {
     Q_OBJECT
 
@@ -31,10 +31,10 @@ class ViewPanel : public QWidget {
 
     /// Shows the records of a kind, with the state of that kind's list.
     void ShowKind(std::int16_t kind);
-    /// Stores the state of the present kind's list; does nothing before ShowKind, and for a kind
+    /// Stores the state of the present kind's list; does nothing before ShowKind and for a kind
     /// without a view.
     void Remember() const;
-    /// Releases the rows, which end with the session.
+    /// Releases the rows before the session is closed.
     void Release();
 
     /// Why the rows are read again: the user's choice, or a broadcast. After a broadcast SelectedId
@@ -57,7 +57,7 @@ class ViewPanel : public QWidget {
   Q_SIGNALS:
     void SelectionMoved();
     void StatusChanged();
-    /// A double click or Enter on the selected record.
+    /// Emitted by a double click or Enter on the selected record.
     void RecordChosen();
     void MenuAsked(const QPoint& globalPosition);
 

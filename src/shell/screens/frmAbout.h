@@ -21,7 +21,8 @@ class frmAbout : public core::forms::Form {
     void Setup();
 
   private:
-    /// Returns the text to copy: the name, the version, and what a report of a fault needs besides.
+    /// Returns the text to copy: the name, the version, and the other facts that a bug report
+    /// needs.
     QString Text() const;
 
     std::unique_ptr<Ui::frmAbout> ui_;

@@ -134,7 +134,7 @@ void frmDBExplorer::DeleteNode(const PropertyNode& node) {
     if (kind == core::kNone) return;
     if (!removal::DeleteRecord(kind, node.id, removal::Confirm::Ask, removal::Tell::Screens))
         return;
-    // Otherwise the neighbour would be selected, and the next Delete would take it.
+    // Otherwise the neighbour would be selected, and the next Delete would delete it.
     ui_->trv->setCurrentItem(nullptr);
     ui_->ucFOB->SetRecord(core::kNone, 0);
     RefreshTree();
@@ -154,7 +154,7 @@ void frmDBExplorer::MoveToBuilding() {
     const auto move = [this, node](std::int32_t idBuilding) {
         Guarded([&] { Move(node.id, idBuilding); });
     };
-    // The explorer may be closed before the other form is.
+    // The explorer may be closed before the other form.
     connect(this, &QObject::destroyed, form, &QWidget::close);
     form->Setup(ui_->trv->currentItem()->text(0), move);
 }

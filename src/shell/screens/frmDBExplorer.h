@@ -13,8 +13,8 @@ class frmDBExplorer;
 
 namespace shell::screens {
 
-/// The property side of the books as a tree: buildings with their units, and the units whose
-/// building can't be found. Units are moved from one building to another here.
+/// The buildings with their units as a tree, and the units whose building doesn't exist. Units are
+/// moved between buildings here.
 class frmDBExplorer : public core::forms::Form {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ class frmDBExplorer : public core::forms::Form {
 
     void Setup();
 
-    /// Reads the tree again; what is selected and expanded stays.
+    /// Reads the tree again; the selection and expanded nodes stay.
     void RefreshTree();
 
   protected:

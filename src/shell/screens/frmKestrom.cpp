@@ -88,7 +88,7 @@ void frmKestrom::Setup(RunDigest digest) {
     core::forms::RestoreWindow(*this, core::FormSizing::Resizable);
     show();
     repaint();
-    // The run has just been done: the first tick only remembers the day.
+    // The run has just finished: the first tick only remembers the day.
     dayChange_.Tick([] {});
     tmr_->start(kTickMs);
 }
@@ -125,9 +125,9 @@ void frmKestrom::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::i
     if (hasEnded_) return;
     if (kind == core::kConfiguration) ShowTitle();
     if (selectedDb_ == core::kAlert) {
-        // A save broadcasts several kinds in a row, which take one refresh. During a run of the
-        // books there is none: each deletes the messages that it has listed, and those of the run
-        // would be gone before anybody has seen them.
+        // A save broadcasts several kinds in a row, which take one refresh. There is none during a
+        // run of the books: each refresh deletes the messages it has listed, and the run's messages
+        // would be deleted before anyone has seen them.
         if (!updating_) homeRefresh_->start(0);
     } else if (kind == selectedDb_) {
         view_->Reload(ViewPanel::Cause::Broadcast);

@@ -27,22 +27,22 @@ namespace shell::screens {
 class HomePage;
 class ViewPanel;
 
-/// What the main window needs from the program around it.
+/// The functions of the program around it that the main window uses.
 struct WindowServices {
     Commands commands;
     /// Returns whether the records of a kind have an editor.
     std::function<bool(std::int16_t kind)> hasEditor;
     /// Opens a report definition in the viewer; without it nothing can be printed.
     std::function<void(const std::filesystem::path& definition)> viewReport;
-    /// What the status bar says of an overdue backup; empty for nothing. May be missing.
+    /// Returns the status bar's text about an overdue backup; empty if none is due. May be unset.
     std::function<std::string()> backupNotice;
     /// The steps of shutting down that aren't the window's own. Without startBackup there is no
     /// backup.
     ShutDownSteps end;
 };
 
-/// The one window that stays open: the home page or the records of one kind, and the menus that
-/// reach every other screen. Closing it ends the program.
+/// The window that stays open: the home page or the records of one kind, and the menus that reach
+/// every other screen. Closing it ends the program.
 class frmKestrom : public QMainWindow {
     Q_OBJECT
 
@@ -56,7 +56,7 @@ class frmKestrom : public QMainWindow {
     void SetSelectedDb(std::int16_t kind);
     void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id);
     void EnableEditButtons();
-    /// Does the work of the day-change timer.
+    /// Called by the day-change timer.
     void Tick();
 
     std::int16_t SelectedDb() const { return selectedDb_; }
@@ -64,9 +64,9 @@ class frmKestrom : public QMainWindow {
     bool IsBackupOnExit() const;
     bool HasEnded() const { return hasEnded_; }
 
-    /// Ends the program in order and without a question.
+    /// Ends the program in order without asking.
     void EndUnasked();
-    /// Brings the window before all others.
+    /// Brings the window in front of all others.
     void ComeToFront();
 
   protected:
@@ -78,7 +78,7 @@ class frmKestrom : public QMainWindow {
     void ConnectCategories();
     void ConnectCommands();
     void ConnectOwnCommands();
-    /// Makes a menu item do this work; failures are shown.
+    /// Makes a menu item do this work; errors are shown.
     void On(const QString& item, const std::function<void()>& work);
     void MakeSubmenu(QAction& item);
     Selection Selected() const;

@@ -58,7 +58,7 @@ void frmMoveUnit::Narrow(const QString& text) {
     }
     const QListWidgetItem* const current = ui_->lstBuildings->currentItem();
     if (current != nullptr && !current->isHidden()) return;
-    // Enter then takes the first match.
+    // So that Enter takes the first match.
     int first = text.isEmpty() ? ui_->lstBuildings->count() : 0;
     while (first < ui_->lstBuildings->count() && ui_->lstBuildings->item(first)->isHidden())
         ++first;

@@ -12,7 +12,7 @@ class frmMoveUnit;
 
 namespace shell::screens {
 
-/// Asks for the building that a unit moves to: the keyboard's way of what a drag does in the tree.
+/// Asks for the building to move a unit to: the keyboard's alternative to dragging it in the tree.
 class frmMoveUnit : public core::forms::Form {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ class frmMoveUnit : public core::forms::Form {
     explicit frmMoveUnit(QWidget* parent = nullptr);
     ~frmMoveUnit() override;
 
-    /// `move` gets the building that was chosen.
+    /// `move` is called with the chosen building.
     void Setup(const QString& unit, std::function<void(std::int32_t idBuilding)> move);
 
   private:

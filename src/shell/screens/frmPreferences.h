@@ -13,7 +13,7 @@ class frmPreferences;
 
 namespace shell::screens {
 
-/// The preferences of this machine. Closing takes the entries over, cancelling drops them.
+/// The preferences of this machine. Close saves the entries, Cancel drops them.
 class frmPreferences : public core::forms::Form {
     Q_OBJECT
 

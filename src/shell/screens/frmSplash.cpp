@@ -27,7 +27,7 @@ void frmSplash::Setup() {
     }
     show();
     repaint();
-    // The window system must show it before the program gets busy.
+    // The window system must show it before the program is busy.
     QCoreApplication::processEvents();
 }
 

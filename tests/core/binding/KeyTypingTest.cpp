@@ -56,7 +56,8 @@ TEST_F(Typing, ASumIsRefusedAndNeverRunTogether) {
     QToolTip::hideText();
     support::Type(money, "-5");
     EXPECT_EQ(money.text(), QStringLiteral("5"));
-    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("no signs"))) << "a dropped sign is told";
+    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("no signs")))
+        << "a dropped sign is reported";
     QLineEdit& words = Box("_Notes");
     support::Type(words, "12+3");
     EXPECT_EQ(words.text(), QStringLiteral("12+3"));

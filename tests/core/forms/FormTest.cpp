@@ -192,7 +192,7 @@ TEST(FormPlace, KeepsWhatCanBeHeldAndRescuesTheRest) {
              PlaceCase{"mostly off, yet to be held", {-200, 20, 300, 200}, {-200, 20, 300, 200}},
              PlaceCase{"too little to hold", {-290, 20, 300, 200}, {0, 20, 300, 200}},
              PlaceCase{"title above the screen", {10, -100, 300, 200}, {10, 0, 300, 200}},
-             PlaceCase{"on a screen that is gone", {5000, 20, 300, 200}, {2900, 20, 300, 200}},
+             PlaceCase{"on a screen that was removed", {5000, 20, 300, 200}, {2900, 20, 300, 200}},
              PlaceCase{"below", {10, 900, 300, 200}, {10, 600, 300, 200}},
              PlaceCase{"larger than the screen", {-9000, 0, 4000, 3000}, {0, 0, 1280, 800}},
              PlaceCase{

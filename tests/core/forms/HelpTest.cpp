@@ -92,7 +92,7 @@ TEST_F(HelpTest, TheSearchFindsTheWordsInThePages) {
     };
     for (const auto& [words, page] : {std::pair{"speaks for the building", "frmOwnerLink.html"},
                                       {"week to week", "frmConfig.html"}}) {
-        // The engine may read the pages once more, and finds none meanwhile.
+        // The engine may read the pages once more, but finds no changes.
         EXPECT_TRUE(QTest::qWaitFor(
             [&] { return pagesWith(words).contains(QString::fromLatin1(page)); }, 20000))
             << words;

@@ -119,7 +119,7 @@ class RecordFormTest : public support::ScreenTest {
         return line && line->isVisible();
     }
     static void Broadcast(std::int16_t kind) { core::NotifyAll(kind, core::kRecordsChanged, 0); }
-    /// What another program writes into the same file.
+    /// A write of another program to the same file.
     static void Elsewhere(std::string_view sql) {
         platform::Connection other;
         other.Open(core::App().Connection.File());

@@ -89,7 +89,7 @@ TEST_F(MenderScreen, PointsAtAnExistingDatabaseOfAnotherName) {
     support::Type(FolderBox(), PathTo("mine"));
     EXPECT_EQ(Objection(), "");
     Pick("optMakeEmpty");
-    EXPECT_EQ(FromScreen(FolderBox().text()), PathTo("mine")) << "the person's folder stays";
+    EXPECT_EQ(FromScreen(FolderBox().text()), PathTo("mine")) << "the user's folder stays";
     EXPECT_THAT(Objection(), HasSubstr("a database in this folder already"));
     EXPECT_FALSE(Mend().isEnabled());
     Pick("optUseExisting");

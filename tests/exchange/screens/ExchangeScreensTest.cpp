@@ -141,7 +141,7 @@ TEST_F(ExchangeScreens, ExportsTheCheckedAccounts) {
     EXPECT_EQ(kept.finType, exchange::FinType::Iif);
     EXPECT_TRUE(kept.markExported && kept.showCount && !kept.limitLength);
     EXPECT_EQ(kept.lastFileName, PathTo("second"));
-    // What is only shown stays as it was kept.
+    // Settings that are only shown stay as they were stored.
     form = Open<frmFinExport>();
     ClickAction(*form, "CLOSE");
     support::SettleEvents();

@@ -47,7 +47,7 @@ class Editors : public tests::SampleEditors {
             fields.push_back(row[i].Name() + (row[i].IsNull() ? "" : " = " + row[i].AsText()));
         return fields;
     }
-    /// What differs of two readings of a row.
+    /// The differences between two readings of a row.
     static std::vector<std::string> Changes(const std::vector<std::string>& before,
                                             const std::vector<std::string>& after) {
         std::vector<std::string> changes;
@@ -84,7 +84,7 @@ class Editors : public tests::SampleEditors {
             }
         }
     }
-    /// What is wrong with how a screen looks and is used, page by page.
+    /// The faults in how a screen looks and is used, page by page.
     static std::vector<std::string> Faults(Form& form) {
         const std::string name = "sample-" + FromScreen(form.objectName());
         std::vector<std::string> faults = support::NameFaults(form);

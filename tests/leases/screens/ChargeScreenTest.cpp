@@ -202,7 +202,7 @@ TEST_F(ChargeScreen, OnlyARentAsksWhichPartStaysIt) {
     EXPECT_TRUE(Find<QRadioButton>(*rent, "optIsRent1").isVisible());
     EXPECT_TRUE(Find<QRadioButton>(*rent, "optIsRent1").isChecked());
     Split(4711);
-    EXPECT_EQ(Heard().size(), 1U) << "a charge that has gone is told";
+    EXPECT_EQ(Heard().size(), 1U) << "a deleted charge is reported";
 }
 
 TEST_F(ChargeScreen, AChargePaidMeanwhileIsNotSplit) {

@@ -36,7 +36,7 @@ class LeaseScreenTest : public support::ScreenTest {
     static void Set(std::string_view field, std::string_view value);
     static std::string Lease(std::string_view field);
     static std::string Text(const QWidget& form, const char* box);
-    /// The rows of a list of charges as they show, cells parted by "|", ticked ones with "x ".
+    /// The rows of a list of charges as they show, cells separated by "|", ticked ones with "x ".
     static Said Rows(const QWidget& form, const char* list);
     /// The form of this class that is open last.
     template <class Screen>

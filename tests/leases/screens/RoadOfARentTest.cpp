@@ -39,7 +39,7 @@ class RoadOfARent : public LeaseScreenTest {
         core::RegisterRunStep(core::RunStep::Leases, leases::UpdateLeases);
         page_.resize(900, 560);
         page_.show();
-        // What her payment sets off: the manager's fee.
+        // Her payment triggers the manager's fee.
         Run("INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, TriggerType, TriggerID, "
             "TriggerTaxCategory, EventAction, DebitType, DebitId, CreditType, CreditId, Amount, "
             "TaxCategory, IEN, Description) VALUES (500, 2, True, 5, 30, 'Rent Payment', 1, 1, 60, "

@@ -31,7 +31,7 @@ class MortgageScreenTest : public support::ScreenTest {
 
     static std::string Loan(std::string_view field);
     static std::string Text(const QWidget& form, const char* box);
-    /// The rows of a list as they show, cells parted by "|", ticked ones with "x ".
+    /// The rows of a list as they show, cells separated by "|", ticked ones with "x ".
     static Said Lines(const QWidget& form, const char* list);
     static void Tick(const QWidget& form, int row, bool ticked);
     static void Trigger(const QWidget& form, const char* item);

@@ -135,7 +135,7 @@ TEST_F(AccountTest, NeedsACompanyOrALastName) {
     Type(Box(*form, "txtCompany"), "Lee & Co");
     ClickAction(*form, "APPLY");
     EXPECT_EQ(Ask("SELECT ShowAs FROM Account WHERE IdAccount = 1000"), "Lee & Co")
-        << "made anew at each save";
+        << "made again at each save";
 }
 
 TEST_F(AccountTest, NumbersThatAreNobodysBusinessShowOnlyWithTheFocus) {

@@ -7,7 +7,7 @@ namespace tests {
 using support::FieldEntry;
 
 /// Every field of a building and of a unit, with something in it. The accounts are 65 "City Light",
-/// a utility, and 66 "Sure & Sons", an insurer, besides those of the books.
+/// a utility, and 66 "Sure & Sons", an insurer, besides the books' own.
 inline const std::vector<FieldEntry> kBuildingFields = {
     {"txtAddress", "7 O'Hara's \"Row\"", "Address", ""},
     {"txtZip", "97301", "Zip", ""},

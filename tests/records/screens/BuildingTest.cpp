@@ -140,7 +140,7 @@ TEST_F(BuildingTest, ANewOneIsEnteredAndReopened) {
     support::Enter(*form, kUnitFields);
     ClickAction(*form, "APPLY");
     EXPECT_EQ(Heard(), Said{});
-    EXPECT_TRUE(addDeposit.isEnabled()) << "what hangs from it can be added now";
+    EXPECT_TRUE(addDeposit.isEnabled()) << "records that belong to it can be added now";
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Building: 7 O'Hara's \"Row\""));
     EXPECT_EQ(Title(*form), "Editing Building: 7 O'Hara's \"Row\"");
     EXPECT_EQ(support::StoredFaults("Building", "IdBuilding = 1000", kBuildingFields), Said{});

@@ -94,7 +94,7 @@ TEST_F(ContactsTest, SavesWithItsRecordAndKeepsItsPlace) {
     panel_.SaveCurrent();
     EXPECT_EQ(Listed(), "Boss|*Aunt");
     panel_.Load(core::kTenant, 30);
-    EXPECT_EQ(Listed(), "*Aunt|Boss") << "sorted anew";
+    EXPECT_EQ(Listed(), "*Aunt|Boss") << "sorted again";
 }
 
 TEST_F(ContactsTest, DeletingAsksAndMovesOn) {

@@ -27,8 +27,8 @@ using Said = std::vector<std::string>;
 
 const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
 
-/// What the three screens have in common: a new one of unit 20 takes every field, shows it again,
-/// and is changed under its number.
+/// The common behaviour of the three screens: a new one of unit 20 takes every field, shows it
+/// again, and is changed under its number.
 struct Furnishing {
     std::string_view table;
     std::string_view idField;

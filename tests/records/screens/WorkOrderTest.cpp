@@ -196,7 +196,7 @@ TEST_F(WorkOrderTest, HistoryIsWrittenToItsOrder) {
     Run("DELETE * FROM WOItem");
     item = new frmWoItem;
     item->Setup(1000, 0);
-    EXPECT_EQ(item->Id(), 0) << "the entry has gone meanwhile";
+    EXPECT_EQ(item->Id(), 0) << "the entry was deleted in the meantime";
     item->CloseUnasked();
 }
 

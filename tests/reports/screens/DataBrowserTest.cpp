@@ -88,7 +88,7 @@ TEST_F(DataBrowserTest, ShowsRowsAndTablesAndPrintsTheLastQuery) {
     const std::string sql = "SELECT IdTenant,\n LastName FROM Tenant ORDER BY 1";
     Execute(sql);
     ASSERT_TRUE(CanPrint());
-    // What is typed afterwards is not what the rows are of.
+    // Text typed afterwards isn't the statement of the rows.
     Find<QPlainTextEdit>(browser_, "txtSQL").setPlainText(QStringLiteral("DELETE FROM Tenant"));
     ClickAction(browser_, "PRINT");
     EXPECT_EQ(run_, reports::kScratchReport);

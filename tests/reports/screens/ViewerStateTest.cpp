@@ -15,8 +15,8 @@
 #include "support/ScriptedChoosers.h"
 #include "support/screens/Driving.h"
 
-// The viewer beside everything else that the user does meanwhile: settings that change under it,
-// commands given twice or during a run, and ends in the middle of it.
+// The viewer beside everything else that the user does in the meantime: settings that change under
+// it, commands given twice or during a run, and ends in the middle of it.
 
 namespace {
 

@@ -148,7 +148,7 @@ TEST_F(DBExplorer, DeletesWhatIsSelectedAfterAQuestion) {
         Tree().Select(folder);
         QTest::keyClick(&Tree(), Qt::Key_Delete);
     }
-    EXPECT_TRUE(Heard().empty()) << "a folder is no record";
+    EXPECT_TRUE(Heard().empty()) << "a folder isn't a record";
     Tree().Select({PropertyKind::Unit, 20});
     Answer({false, true});
     QTest::keyClick(&Tree(), Qt::Key_Delete);

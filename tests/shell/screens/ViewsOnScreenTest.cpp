@@ -76,7 +76,7 @@ TEST_F(ViewsOnScreen, ShowALongListBeforeAllOfItIsRead) {
     EXPECT_EQ(Status(), "Selected 1501 Transaction records");
     EXPECT_LT(Grid().Model().RowsAtHand(), 1501);
     Run("DELETE FROM Transactions WHERE IdTransaction = 3500");
-    EXPECT_TRUE(Grid().SelectId(3500)) << "it is shown as it was read until it is told of";
+    EXPECT_TRUE(Grid().SelectId(3500)) << "it is shown as it was read until a broadcast";
     support::Type(Find<QLineEdit>(Window(), "txtSearch"), "zoe");
     support::SettleEvents();
     EXPECT_EQ(Column("From"), "Zoe\n");

@@ -24,9 +24,9 @@ namespace platform::qt {
 
 namespace {
 
-/// Readable on light and on dark, and apart for those who see no red.
+/// Readable on light and dark, and distinguishable without seeing red.
 constexpr std::array<QRgb, 3> kColors = {0xFF2F7ED8, 0xFF2CA25F, 0xFFE08214};
-/// More of them stand upright.
+/// With more labels they are drawn vertically.
 constexpr qsizetype kMostFlatLabels = 12;
 constexpr int kLineWidth = 2;
 constexpr int kRaisedWidth = 6;
@@ -37,7 +37,7 @@ QColor ColorOf(std::size_t series) {
     return QColor(kColors.at(series % kColors.size()));
 }
 
-/// From lit to shaded, across a bar or down an area.
+/// Shades a bar across or an area downwards.
 QBrush Shaded(const QColor& color, QPointF to) {
     QLinearGradient gradient(QPointF(0, 0), to);
     gradient.setCoordinateMode(QGradient::ObjectBoundingMode);
@@ -125,7 +125,7 @@ void SeriesChart::AddBars(std::size_t first, std::size_t last, ChartDepth depth)
 }
 
 void SeriesChart::AddLine(std::size_t index, ChartShape shape, ChartDepth depth) {
-    // Over its own bars a line takes the next colour.
+    // A line over its own bars takes the next colour.
     const bool isOverBars = shape == ChartShape::Combo && series_.size() == 1;
     QColor color = ColorOf(isOverBars ? index + 2 : index);
     QLineSeries* const line = MakeLine(series_[index], shape);
@@ -203,7 +203,7 @@ QString SeriesChart::TextAt(QPoint position) const {
     if (labels_.isEmpty() || chart()->series().isEmpty()) return {};
     const QPointF inChart = chart()->mapFromScene(mapToScene(position));
     if (!chart()->plotArea().contains(inChart)) return {};
-    // The middle of a category has the category's number.
+    // The middle of a category is at the category's number.
     const double across = chart()->mapToValue(inChart, chart()->series().front()).x();
     const auto label = std::clamp<qsizetype>(std::lround(across), 0, labels_.size() - 1);
     QString text = labels_[label];

@@ -6,8 +6,8 @@
 
 namespace platform::qt {
 
-/// How values are drawn over their labels. Combo draws the first series as bars and the others as
-/// lines; with one series its line runs over its own bars.
+/// How values are drawn above their labels. Combo draws the first series as bars and the others as
+/// lines; a single series is drawn as bars with a line over them.
 enum class ChartShape : std::uint8_t { Bars, Lines, Areas, Steps, Combo };
 /// Raised shapes are shaded, so that they stand out from the page.
 enum class ChartDepth : std::uint8_t { Flat, Raised };
@@ -17,14 +17,14 @@ struct ChartSeries {
     std::vector<double> values; ///< one for each label
 };
 
-/// Money over time, with the colours of the palette: something to look at, nothing to do in.
+/// A read-only chart of money over time, in the colours of the palette.
 class SeriesChart : public QChartView {
     Q_OBJECT
 
   public:
     explicit SeriesChart(QWidget* parent = nullptr);
 
-    /// Draws the series in place of those before; nothing without labels.
+    /// Replaces the series; clears the chart if there are no labels.
     void Show(const QStringList& labels, std::vector<ChartSeries> series, ChartShape shape,
               ChartDepth depth, bool legend);
 
@@ -34,7 +34,7 @@ class SeriesChart : public QChartView {
     bool viewportEvent(QEvent* event) override;
 
   private:
-    /// Returns the label under a position of the view, with its values, or an empty text.
+    /// Returns the label at a position of the view with its values; empty if there is none.
     QString TextAt(QPoint position) const;
     void AddBars(std::size_t first, std::size_t last, ChartDepth depth);
     void AddLine(std::size_t index, ChartShape shape, ChartDepth depth);

@@ -15,7 +15,7 @@ namespace platform::qt {
 /// the same places of the page.
 class PagePainter {
   public:
-    /// The faces of the pages are those of `fonts`.
+    /// Draws the pages with the faces of `fonts`.
     explicit PagePainter(const FontBook& fonts) : fonts_(fonts) {}
 
     /// Draws a page with its upper left corner at the painter's origin; a twip is `scale` of the

@@ -25,7 +25,7 @@ PagePreview::PagePreview(QWidget* parent) : QAbstractScrollArea(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Pages of the report"));
     viewport()->setCursor(Qt::OpenHandCursor);
-    // Fitting to the width would otherwise come and go with the bar.
+    // Fitting to the width would otherwise alternate with the bar.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
@@ -67,7 +67,7 @@ double PagePreview::PageTop(int page) const {
     return kGap + page * (PageSize().height() + kGap);
 }
 
-/// Where a page is in the view.
+/// Returns the place of a page in the view.
 QRectF PagePreview::PageRect(int page) const {
     const QSizeF size = PageSize();
     const double room = viewport()->width();
@@ -85,7 +85,7 @@ int PagePreview::CurrentPage() const {
 void PagePreview::GoToPage(int page) {
     if (PageCount() == 0) return;
     page = std::clamp(page, 0, PageCount() - 1);
-    // A page that is smaller than the view is shown in its middle.
+    // A page smaller than the view is centred.
     const double spare = std::max(viewport()->height() - PageSize().height(), 2 * kGap) / 2;
     verticalScrollBar()->setValue(static_cast<int>(std::lround(PageTop(page) - spare)));
     TellCurrentPage();
@@ -270,7 +270,7 @@ bool PagePreview::Find(const QString& text, SearchDirection direction) {
     return match_.has_value();
 }
 
-/// Where the found text is in the view.
+/// Returns the place of the found text in the view.
 QRectF PagePreview::MatchRect() const {
     const PrintedPage page = document_->Page(match_->page);
     const PageItem& item = page.Items()[match_->item];

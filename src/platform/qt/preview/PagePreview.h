@@ -25,24 +25,24 @@ class PagePreview : public QAbstractScrollArea {
     /// Shows a document from its first page; null for none. Both must outlive the view or the next
     /// call.
     void SetDocument(const PrintedDocument* document, const FontBook* fonts);
-    /// To be called when the document has got more pages.
+    /// Called when pages were added to the document.
     void PagesAdded();
 
     int PageCount() const;
-    /// The page that takes up most of the view; -1 without pages.
+    /// Returns the page that takes up most of the view; -1 if there are no pages.
     int CurrentPage() const;
     void GoToPage(int page);
 
     PageFit Fit() const { return fit_; }
     void SetFit(PageFit fit);
-    /// In percent of the paper's own size.
+    /// In percent of the paper's size.
     double Zoom() const { return zoom_; }
     void SetZoom(double percent);
     void ZoomIn();
     void ZoomOut();
 
-    /// Marks and shows the next or the previous place of a text, starting over at the other end.
-    /// False if the document doesn't have it; an empty text only takes the mark away.
+    /// Marks and shows the next or previous occurrence of a text, wrapping around at the ends.
+    /// Returns false if there is none; empty text only removes the mark.
     bool Find(const QString& text, SearchDirection direction);
 
     QSize sizeHint() const override { return {800, 640}; }

@@ -10,7 +10,8 @@ namespace platform::qt {
 
 class ThumbnailModel;
 
-/// Small pictures of a document's pages with their numbers; choosing one tells its page, from 0.
+/// Small pictures of a document's pages with their numbers; choosing one emits its page, counted
+/// from 0.
 class PageThumbnails : public QListView {
     Q_OBJECT
 
@@ -22,7 +23,7 @@ class PageThumbnails : public QListView {
     void SetDocument(const PrintedDocument* document, const FontBook* fonts);
     void PagesAdded();
 
-    /// Selects a page without telling.
+    /// Selects a page without emitting anything.
     void ShowPage(int page);
 
     QSize sizeHint() const override { return {150, 400}; }

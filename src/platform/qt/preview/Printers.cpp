@@ -22,7 +22,7 @@ void SetUpPrinter(QPrinter& printer, const PageSetup& setup) {
     const auto orientation = setup.orientation == PageOrientation::Landscape
                                  ? QPageLayout::Landscape
                                  : QPageLayout::Portrait;
-    // The pages bring their margins.
+    // The pages include their margins.
     printer.setFullPage(true);
     printer.setPageLayout(QPageLayout(QPageSize(size), orientation, QMarginsF()));
 }
@@ -67,7 +67,8 @@ std::unique_ptr<QPrinter> SystemPrinters::Usual() {
     return std::make_unique<QPrinter>(info, QPrinter::HighResolution);
 }
 
-/// Hands the pages of an order to `draw`, as long as `progress` wants to go on; false if it didn't.
+/// Passes the pages of an order to `draw` while `progress` returns true; returns false if it
+/// stopped.
 bool ForEachPage(const PrintOrder& order, const PrintedDocument& document,
                  const std::function<bool(int done)>& progress,
                  const std::function<void(PrintedPage)>& draw) {

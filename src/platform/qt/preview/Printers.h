@@ -20,7 +20,7 @@ struct PrintQuestion {
     int currentPage = 0; ///< from 0
 };
 
-/// A printer and a range of pages; pages count from 0, both ends belong to the range.
+/// A printer and a range of pages, counted from 0, including both ends.
 struct PrintOrder {
     std::unique_ptr<QPrinter> printer;
     int first = 0;
@@ -31,15 +31,15 @@ struct PrintOrder {
 class PrinterChooser {
   public:
     virtual ~PrinterChooser() = default;
-    /// Asks; nothing when the user cancels.
+    /// Asks the user; returns nothing if they cancel.
     virtual std::optional<PrintOrder> Ask(QWidget* owner, const PrintQuestion& question) = 0;
-    /// The printer that was chosen last, or else the machine's own, for printing without asking;
-    /// nothing if there is none.
+    /// Returns the printer chosen last, or else the default printer, for printing without asking;
+    /// null if there is none.
     virtual std::unique_ptr<QPrinter> Usual() = 0;
 };
 
-/// The chooser of this process: the system's print dialog until SetPrinterChooser gives another;
-/// null brings it back.
+/// The chooser of this process: the system's print dialog unless SetPrinterChooser sets another;
+/// null restores it.
 PrinterChooser& ThePrinterChooser();
 void SetPrinterChooser(std::unique_ptr<PrinterChooser> chooser);
 

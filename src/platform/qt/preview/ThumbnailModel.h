@@ -11,7 +11,7 @@
 
 namespace platform::qt {
 
-/// The pages of a document as rows, with their pictures made when they are first seen.
+/// The pages of a document as rows; their pictures are made when they are first visible.
 class ThumbnailModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ class ThumbnailModel : public QAbstractListModel {
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
-    /// The size of a picture in the view's units.
+    /// Returns the size of a picture in the view's units.
     QSize PictureSize() const;
     QPixmap Picture(int page, double ratio) const;
 
