@@ -17,7 +17,7 @@ void OpenBooks(const std::filesystem::path& folder);
 /// Settles every open charge of the process's books, and moves the due dates on to `nextDue`.
 void PayEverything(platform::Date nextDue);
 
-/// Runs the leases up to `today`; answers the number of rows posted.
+/// Runs the leases up to `today`; returns the number of rows posted.
 double RunLeases(platform::Date today);
 
 } // namespace bench

@@ -75,7 +75,7 @@ class OpenPage {
         QCoreApplication::processEvents();
     }
 
-    /// The number of alerts is not known here: answers 1.
+    /// The number of alerts is not known here: returns 1.
     double Refresh() {
         auto& label = *page_->findChild<QWidget*>(QStringLiteral("lblAlerts"));
         const bench::PaintWatch watch(label);

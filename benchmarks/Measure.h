@@ -14,14 +14,18 @@ struct Cost {
     double rows = 0;
 };
 
-/// Runs `setUp` and then `work`, which answers its count of rows, in a process of their own, so
+inline bool IsQuicker(const Cost& one, const Cost& other) {
+    return one.seconds < other.seconds;
+}
+
+/// Runs `setUp` and then `work`, which returns its count of rows, in a process of their own, so
 /// that the peak of memory is theirs; only `work` is timed. The peak counts both.
 Cost InOwnProcess(const std::function<void()>& setUp, const std::function<double()>& work);
 
 /// Prints a measured ratio beside the limit it is held against; remembers whether all were kept.
 void Report(std::string_view what, double measured, double limit, std::string_view unit = "times");
 
-/// What `run` answers; 1 with the reason on standard error if it throws.
+/// Returns what `run` returns; 1 with the reason on standard error if it throws.
 int Guarded(const std::function<int()>& run) noexcept;
 
 /// 0 when every reported limit was kept, otherwise 1.

@@ -94,22 +94,17 @@ void MakeBooks(const std::filesystem::path& folder) {
     core::App().Connection.Close();
 }
 
-/// The work three times, on new books each time; the quickest counts.
+/// Runs `work` on new books.
 template <class Work>
 Cost OnNewBooks(Work work) {
-    Cost best;
-    for (int i = 0; i < 3; ++i) {
-        const support::TemporaryFolder folder;
-        const auto books = folder.Path() / "books";
-        bench::InOwnProcess([&] { MakeBooks(books); }, [] { return 0.0; });
-        const Cost cost = work(books);
-        if (i == 0 || cost.seconds < best.seconds) best = cost;
-    }
-    return best;
+    const support::TemporaryFolder folder;
+    const auto books = folder.Path() / "books";
+    bench::InOwnProcess([&] { MakeBooks(books); }, [] { return 0.0; });
+    return work(books);
 }
 
-void BenchRun() {
-    const Cost ours = OnNewBooks([](const std::filesystem::path& books) {
+Cost RunOurs() {
+    return OnNewBooks([](const std::filesystem::path& books) {
         return bench::InOwnProcess(
             [&] {
                 core::App().Connection.Open(books / "Vestrel.mdb");
@@ -121,11 +116,24 @@ void BenchRun() {
                 return counter.count;
             });
     });
-    const int rows = static_cast<int>(ours.rows) / kMortgages;
-    const Cost plain = OnNewBooks([rows](const std::filesystem::path& books) {
+}
+
+Cost RunPlain(int rows) {
+    return OnNewBooks([rows](const std::filesystem::path& books) {
         return bench::InOwnProcess(
             [] {}, [&] { return bench::RunPlainMortgages(books, kMortgages, rows); });
     });
+}
+
+void BenchRun() {
+    constexpr int kRounds = 7; // in turn, so that a busy moment of the machine hits both
+    Cost ours = RunOurs();
+    const int rows = static_cast<int>(ours.rows) / kMortgages;
+    Cost plain = RunPlain(rows);
+    for (int round = 1; round < kRounds; ++round) {
+        ours = std::min(ours, RunOurs(), bench::IsQuicker);
+        plain = std::min(plain, RunPlain(rows), bench::IsQuicker);
+    }
     fmt::print("catch-up of 12 months, {} mortgages, {} rows each {:>8.3f} s {:>8.1f} MB\n",
                kMortgages, rows, ours.seconds, ours.peakMegabytes);
     fmt::print("  the same rows by the engine alone {:>8.3f} s {:>8.1f} MB\n", plain.seconds,

@@ -5,7 +5,7 @@
 namespace bench {
 
 /// Fills the seventeen fields of every row of a level loan's schedule `times` over, with the same
-/// formulas in plain C, and answers a sum over them that depends on all.
+/// formulas in plain C, and returns a sum over them that depends on all.
 double RunPlainSchedules(int periods, int times);
 
 /// What the mortgage run is held against: the engine's own C calls, a write-ahead log, full

@@ -111,7 +111,7 @@ void WriteCell(std::FILE* out, sqlite3_stmt* row, int column, Kind kind) {
     }
 }
 
-/// One item at `text`; answers where the next one begins, null at the end of the line. Its own
+/// One item at `text`; returns where the next one begins, null at the end of the line. Its own
 /// quotes are left out in place.
 char* TakeItem(char* text, char*& item) {
     item = text;
