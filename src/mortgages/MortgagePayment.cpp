@@ -114,6 +114,7 @@ void ReadCharges(MortgagePayment& payment) {
         "WHERE (IdMortgage = ?) AND (IdTransaction = 0) ORDER BY DateValue(DatePosted)",
         {settledBy, payment.idMortgage});
     std::vector<PaymentCharge> charges;
+    payment.idPaymentRow = 0;
     for (; !rows.Eof(); rows.MoveNext()) {
         PaymentCharge charge = ChargeOf(rows);
         if (charge.selected && charge.flags == LogFlags::Payment) {

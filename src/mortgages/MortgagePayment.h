@@ -52,7 +52,7 @@ MortgagePayment ProposeMortgagePayment(std::int32_t idMortgage);
 /// Throws DatabaseError if there is no such transaction.
 MortgagePayment ReadMortgagePayment(std::int32_t idTransaction);
 
-/// Reads the charges again; those selected before stay selected.
+/// Reads the charges and the payment's own row again; charges selected before stay selected.
 void ReadCharges(MortgagePayment& payment);
 
 /// Selects or deselects a charge. Base payments must be paid in the order of their due dates: a

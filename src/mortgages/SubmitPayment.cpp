@@ -118,6 +118,14 @@ MortgageLogEntry PaymentRowOf(const MortgagePayment& payment, std::int32_t idTra
     return entry;
 }
 
+/// Returns the row of a stored payment as it is now, 0 without one: another program may have added,
+/// deleted or replaced it since the payment was read, and a payment has one row.
+std::int32_t PaymentRowNow(MortgagePayment payment) {
+    if (payment.IsNew()) return 0;
+    ReadCharges(payment);
+    return payment.idPaymentRow;
+}
+
 /// The schedule isn't rebuilt here: until the mortgage is recalculated, its row has the wrong due
 /// date and balance.
 void ApplyBasePayment(std::int32_t idMortgage, const PaymentCharge& charge, bool isNew) {
@@ -169,7 +177,7 @@ std::int32_t SubmitMortgagePayment(const MortgagePayment& payment) {
     platform::UnitOfWork unit(core::App().Connection);
     CheckUnchanged(payment);
     const std::int32_t idTransaction = books::StoreTransaction(payment, TransactionOf(payment));
-    WriteMortgageLog(PaymentRowOf(payment, idTransaction), payment.idPaymentRow);
+    WriteMortgageLog(PaymentRowOf(payment, idTransaction), PaymentRowNow(payment));
     core::Execute("UPDATE Mortgage SET IdLastPmt = ? WHERE IdMortgage = ?",
                   {payment.from.id, payment.idMortgage});
     SettleCharges(payment, idTransaction);

@@ -141,6 +141,42 @@ TEST_F(TwoProgramsOnAMortgage, RefuseAnEditOfAPaymentThatWasEditedSince) {
     ExpectRefused([&] { edit(last, false); }, [&] { SubmitMortgagePayment(both); }, "changed");
 }
 
+TEST_F(TwoProgramsOnAMortgage, WriteOneRowForAPaymentWhoseRowWasLost) {
+    PayAll();
+    const auto paymentRows = [] {
+        return Rows("SELECT Count(*), Sum(Total) FROM MortgageLog WHERE Flags = 2");
+    };
+    const std::vector<std::string> one = paymentRows();
+    const std::int32_t id = std::stoi(Rows("SELECT IdTransaction FROM Transactions")[0]);
+    const auto edit = [id] { SubmitMortgagePayment(mortgages::ReadMortgagePayment(id)); };
+    const auto loseRow = [] {
+        core::App().Connection.Execute("DELETE * FROM MortgageLog WHERE Flags = 2");
+    };
+    loseRow();
+    MortgagePayment withoutRow = mortgages::ReadMortgagePayment(id);
+    {
+        const Rival other(edit);
+        SubmitMortgagePayment(withoutRow);
+        EXPECT_TRUE(other.HasWorked());
+    }
+    EXPECT_EQ(paymentRows(), one);
+
+    const MortgagePayment withFormerRow = mortgages::ReadMortgagePayment(id);
+    {
+        const Rival other([&] {
+            loseRow();
+            edit();
+        });
+        SubmitMortgagePayment(withFormerRow);
+        EXPECT_TRUE(other.HasWorked());
+    }
+    EXPECT_EQ(paymentRows(), one);
+
+    loseRow();
+    mortgages::ReadCharges(withoutRow);
+    EXPECT_EQ(withoutRow.idPaymentRow, 0);
+}
+
 TEST_F(TwoProgramsOnAMortgage, DoNotBringADeletedPaymentBack) {
     PayAll();
     const MortgagePayment stored = mortgages::ReadMortgagePayment(
