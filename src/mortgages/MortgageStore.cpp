@@ -142,6 +142,7 @@ bool clsMortgage::LoadRS(Recordset& row) {
 }
 
 void clsMortgage::SaveMtg(std::int32_t idMortgage) const {
+    if (idMortgage == 0) return; // no mortgage's id: a new row would get an id of its own
     core::RowToWrite stored("Mortgage", "IdMortgage", idMortgage);
     WriteTerms(stored.row, terms_, xPri_, xRate_);
     WriteCurrent(stored.row, Row(0), &AmortPeriod::EndBal, GetPeriodsRemaining());

@@ -49,8 +49,8 @@ class clsMortgage {
     /// Reads the current row, skipping every field that fails; always returns true. The row's
     /// balloon flag is not read: a loan loaded this way runs on past its balloon.
     bool LoadRS(platform::Recordset& row);
-    /// Writes the mortgage of this id, as a new row if there is none. Its balance is the one after
-    /// the current period. Throws on failure.
+    /// Writes the mortgage of this id, a new row if there is none; id 0 writes nothing. Its balance
+    /// is the one after the current period. Throws on failure.
     void SaveMtg(std::int32_t idMortgage) const;
     /// Copies the fields to the current row, which the caller writes. Its balance is the one before
     /// the current period; past the schedule there is no due date and no balance.

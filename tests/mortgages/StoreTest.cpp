@@ -133,6 +133,8 @@ TEST_F(MortgageStore, TheTwoWaysOfSavingDifferInTheBalance) {
     row.Update();
     EXPECT_THAT(Rows(current), ElementsAre("|0|0|0|0"));
 
+    loan.SaveMtg(0); // no mortgage
+    EXPECT_THAT(Rows("SELECT Count(*) FROM Mortgage"), ElementsAre("1"));
     loan.SaveMtg(777); // a row that isn't there yet
     EXPECT_THAT(Rows("SELECT Description, OrigPer FROM Mortgage WHERE IdMortgage = 777"),
                 ElementsAre("Elm's loan|360"));
