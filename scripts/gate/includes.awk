@@ -13,7 +13,7 @@ function roomOf(path,    part, n) {
     return part[1]
 }
 
-function isWindowProgram(room) { return room ~ /^(kestrom|dbmender|photoreel)$/ }
+function isWindowProgram(room) { return room ~ /^(kestrom|dbmender|photoreel|sumdesk)$/ }
 function isProgram(room) { return isWindowProgram(room) || room == "vestrelctl" }
 function mayKnowQt(room) { return isScreen[room] || isWindowProgram(room) }
 

@@ -37,6 +37,28 @@ double Annuity::NPer(double payment, double presentValue) const {
     return Finite(-std::log1p(interestShare) / logGrowth_);
 }
 
+Annuity Annuity::OfPayment(double periods, double payment, double presentValue) {
+    // No formula gives the rate. A higher one always means a higher payment, so it is enclosed.
+    constexpr double kHighest = 1;
+    double low = 0;
+    double high = kHighest;
+    const auto isEnough = [&](double rate) {
+        return -Annuity(rate).Pmt(periods, presentValue) <= -payment;
+    };
+    if (!isEnough(low)) throw platform::Error("The payments don't even pay back the loan.");
+    if (isEnough(high)) throw platform::Error("The payments are too large for any rate.");
+    for (double middle = 0.5; middle > low && middle < high; middle = low + (high - low) / 2) {
+        (isEnough(middle) ? low : high) = middle;
+    }
+    return Annuity(low);
+}
+
+double Annuity::PV(double periods, double payment) const {
+    if (periods <= 0) return 0;
+    if (rate_ == 0) return Finite(-payment * periods);
+    return Finite(payment * std::expm1(-periods * logGrowth_) / rate_);
+}
+
 double Annuity::FirstIPmt(double presentValue) const {
     return -presentValue * rate_;
 }

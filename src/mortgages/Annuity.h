@@ -10,12 +10,18 @@ class Annuity {
     /// `rate` is a fraction per period; 0 is a loan without interest.
     explicit Annuity(double rate);
 
+    /// Returns the formulas at the rate per period, up to 1, at which `payment` pays off
+    /// `presentValue` in `periods`.
+    static Annuity OfPayment(double periods, double payment, double presentValue);
+
     double Rate() const { return rate_; }
 
     /// Returns the payment that pays off `presentValue` in `periods`.
     double Pmt(double periods, double presentValue) const;
     /// Returns the number of periods, with a fraction, in which `payment` pays off `presentValue`.
     double NPer(double payment, double presentValue) const;
+    /// Returns what is owed while `periods` such payments are still to come, 0 after the last.
+    double PV(double periods, double payment) const;
     /// Return the interest and the principal in the first payment.
     double FirstIPmt(double presentValue) const;
     double FirstPPmt(double periods, double presentValue) const;

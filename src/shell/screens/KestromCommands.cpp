@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 #include <array>
 
+#include "core/AppPath.h"
 #include "core/EditRecord.h"
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
@@ -51,7 +52,7 @@ constexpr std::string_view kDownloads = "https://www.vestrel.example/downloads";
 constexpr std::string_view kForum = "https://forum.vestrel.example/";
 
 std::string CalculatorFile() {
-    return core::App().AppPath + "SumDesk.exe";
+    return core::SiblingProgram("SumDesk.exe").string();
 }
 
 // Returns the tool named in the settings, or else one that desktops provide.
