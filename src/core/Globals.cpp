@@ -52,7 +52,7 @@ void SetAppPath(std::string_view directory) {
 }
 
 void InitGlobals(std::string_view commandLine) {
-    SetAppPath(ChooseAppPath(platform::ExecutablePath().parent_path(), platform::DataHome()));
+    FindAppPath();
     ParseCommandLine(commandLine);
     MakeDirectories();
 }
@@ -69,7 +69,7 @@ void ParseCommandLine(std::string_view commandLine) {
 void MakeDirectories() {
     for (const std::string_view name : {"db", "Backup", "Docs", "Files"}) {
         std::error_code ignored;
-        std::filesystem::create_directory(std::filesystem::path(App().AppPath) / name, ignored);
+        std::filesystem::create_directories(std::filesystem::path(App().AppPath) / name, ignored);
     }
 }
 

@@ -117,16 +117,6 @@ void Install(const fs::path& shipped, const fs::path& folder, Manifest& known) {
 
 } // namespace
 
-fs::path ShippedFolder(std::string_view name) {
-    const fs::path program = platform::ExecutablePath().parent_path();
-    for (const fs::path& folder :
-         {program / "share" / name, program.parent_path() / "share" / "Vestrel" / name}) {
-        std::error_code failure;
-        if (fs::is_directory(folder, failure)) return folder;
-    }
-    return {};
-}
-
 void InstallShippedFiles(const fs::path& shipped, const fs::path& folder) {
     std::error_code failure;
     if (shipped.empty()) return;

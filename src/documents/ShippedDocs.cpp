@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/AppPath.h"
 #include "core/Globals.h"
 #include "core/ShippedFiles.h"
 #include "documents/AttachFile.h"
@@ -37,7 +38,7 @@ std::string ShippedDocsFolder() {
 }
 
 void InstallShippedDocs() {
-    core::InstallShippedFiles(core::ShippedFolder("Templates"), ShippedDocsFolder());
+    core::InstallShippedFiles(core::ShippedPath("Templates"), ShippedDocsFolder());
 }
 
 void AddShippedDocs(const std::string& folder) {

@@ -5,6 +5,7 @@
 
 #include <fmt/core.h>
 
+#include "core/AppPath.h"
 #include "core/FindDatabase.h"
 #include "core/Globals.h"
 #include "core/ShippedFiles.h"
@@ -55,7 +56,7 @@ void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEn
 }
 
 void InstallFiles() {
-    core::InstallShippedFiles(core::ShippedFolder("Reports"), core::App().ReportPath);
+    core::InstallShippedFiles(core::ShippedPath("Reports"), core::App().ReportPath);
     documents::InstallShippedDocs();
 }
 

@@ -2,6 +2,7 @@
 #include <memory>
 #include <string>
 
+#include "core/AppPath.h"
 #include "core/Globals.h"
 #include "core/ShippedFiles.h"
 #include "platform/system/Paths.h"
@@ -45,7 +46,7 @@ void UseReportsFolder(const std::string& folder) {
 void LoadCatalogue() {
     const core::Globals& app = core::App();
     if (app.ReportPath == platform::AddBackslash(app.AppPath + "Reports"))
-        core::InstallShippedFiles(core::ShippedFolder("Reports"), app.ReportPath);
+        core::InstallShippedFiles(core::ShippedPath("Reports"), app.ReportPath);
     reports::LoadReportList();
 }
 

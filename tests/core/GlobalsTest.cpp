@@ -49,12 +49,31 @@ TEST_F(CommandLine, SwitchesAreReadAsTheyAreWritten) {
     }
 }
 
-TEST_F(ProgramDirectory, IsWhereTheProgramStandsOrTheHomeOfItsData) {
-    EXPECT_EQ(core::ChooseAppPath(Folder(), Folder() / "home"), Folder().string());
-    EXPECT_FALSE(platform::FileExists(PathTo("home")));
+TEST_F(ProgramDirectory, IsWhereTheProgramIsUnlessThatIsInstalledOrReadOnly) {
+    namespace fs = std::filesystem;
+    const fs::path home = Folder() / "home";
+    const std::string homeOfFiles = (home / "Vestrel").string();
+    const fs::path build = Folder() / "build/bin";
+    const fs::path installed = Folder() / "usr/lib/vestrel";
+    const fs::path copied = Folder() / "usr/lib/copied";
+    const fs::path copiedShare = copied / "share";
+    const fs::path installedShare = Folder() / "usr/share/vestrel";
+    for (const fs::path& folder : {build, installed, copiedShare, installedShare})
+        fs::create_directories(folder);
+
+    EXPECT_EQ(core::ChooseAppPath(build, home), build.string()) << "its files aren't there yet";
+    EXPECT_EQ(core::ShippedFolderOf(build), fs::path());
+    EXPECT_EQ(core::ChooseAppPath(installed, home), homeOfFiles) << "writable, as it is for root";
+    EXPECT_EQ(core::ShippedFolderOf(installed), installedShare);
+    EXPECT_EQ(core::ChooseAppPath(copied, home), copied.string()) << "what is beside it is its own";
+    EXPECT_EQ(core::ShippedFolderOf(copied), copiedShare);
     // A directory that isn't there can't be written, whoever runs this.
-    EXPECT_EQ(core::ChooseAppPath(Folder() / "none", Folder() / "home"), PathTo("home/Vestrel"));
-    EXPECT_TRUE(platform::FileExists(PathTo("home/Vestrel")));
+    EXPECT_EQ(core::ChooseAppPath(Folder() / "none", home), homeOfFiles);
+    EXPECT_FALSE(platform::FileExists(home.string())) << "finding writes nothing";
+
+    core::SetAppPath(homeOfFiles);
+    core::MakeDirectories();
+    EXPECT_TRUE(fs::is_directory(home / "Vestrel/Docs"));
 }
 
 TEST_F(ProgramDirectory, MissingDirectoriesAreMadeAroundWhatStandsThere) {
