@@ -1,11 +1,38 @@
 #include "dbmender/MenderLine.h"
 
+#include <array>
+
 #include "core/RegistryKeys.h"
 #include "platform/values/Text.h"
 
 namespace dbmender {
 
 using platform::EqualIgnoringCase;
+
+namespace {
+
+constexpr std::array kOptions = {
+    platform::HelpEntry{"-h,--help", "Print this help and exit"},
+    platform::HelpEntry{"--version", "Print the version and exit"},
+    platform::HelpEntry{"/nowarning", "Don't ask to close the other programs first"},
+    platform::HelpEntry{"/appstart=PROGRAM", "Start this program afterwards"},
+    platform::HelpEntry{"/altdb=NAME", "Mend the books registered under this name"},
+};
+
+constexpr std::array kSections = {platform::HelpSection{"Options", kOptions}};
+
+constexpr platform::ProgramHelp kHelp = {
+    .name = "dbmender",
+    .summary = "Finds, makes or restores the books that Vestrel can't open.",
+    .usage = "[OPTIONS]",
+    .sections = kSections,
+};
+
+} // namespace
+
+const platform::ProgramHelp& MenderHelp() {
+    return kHelp;
+}
 
 // Paths contain "/", so here a switch is a whole argument, with its value.
 MenderLine ReadMenderLine(std::span<const char* const> words) {

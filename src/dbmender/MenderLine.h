@@ -3,6 +3,8 @@
 #include <span>
 #include <string>
 
+#include "platform/system/ProgramHelp.h"
+
 namespace dbmender {
 
 /// The repair tool's command line.
@@ -19,5 +21,8 @@ struct MenderLine {
 /// names are compared without regard to case. Others are ignored. A database's name is converted to
 /// lower case, as in the window program.
 MenderLine ReadMenderLine(std::span<const char* const> words);
+
+/// Describes the repair tool and its command line.
+const platform::ProgramHelp& MenderHelp();
 
 } // namespace dbmender

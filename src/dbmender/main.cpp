@@ -5,17 +5,18 @@
 
 #include "core/Globals.h"
 #include "core/Preferences.h"
+#include "dbmender/MenderLine.h"
 #include "dbmender/frmDbMender.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/system/Process.h"
-#include "platform/system/Version.h"
+#include "platform/system/ProgramHelp.h"
 #include "shell/Registrations.h"
 
 int main(int argc, char** argv) {
     const std::span all(argv, static_cast<std::size_t>(argc));
-    if (platform::PrintVersionIfAsked("dbmender", all)) return 0;
+    if (platform::AnswerIfAsked(dbmender::MenderHelp(), all)) return 0;
     try {
         const QApplication application(argc, argv);
         QApplication::setApplicationName(QStringLiteral("dbmender"));

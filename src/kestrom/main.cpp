@@ -20,7 +20,7 @@
 #include "platform/qt/QuitRequests.h"
 #include "platform/qt/SingleInstance.h"
 #include "platform/system/Clock.h"
-#include "platform/system/Version.h"
+#include "platform/system/ProgramHelp.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportList.h"
 #include "shell/CommandLine.h"
@@ -118,7 +118,7 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
 
 int main(int argc, char** argv) {
     const std::span words(argv, static_cast<std::size_t>(argc));
-    if (platform::PrintVersionIfAsked("kestrom", words)) return 0;
+    if (platform::AnswerIfAsked(shell::WindowHelp(), words)) return 0;
     kestrom::Application application(argc, argv);
     kestrom::Application::setApplicationName(QStringLiteral("kestrom"));
     kestrom::Application::setApplicationDisplayName({});

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <array>
 #include <cstdio>
 #include <exception>
 #include <span>
@@ -9,11 +10,32 @@
 #include "photoreel/frmPhotoReel.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/Icons.h"
-#include "platform/system/Version.h"
+#include "platform/system/ProgramHelp.h"
+
+namespace {
+
+constexpr std::array kOptions = {
+    platform::HelpEntry{"-h,--help", "Print this help and exit"},
+    platform::HelpEntry{"--version", "Print the version and exit"},
+    platform::HelpEntry{"/loadfile FILE",
+                        "Show the pictures listed in this file: a title, then a\n"
+                        "picture a line"},
+};
+
+constexpr std::array kSections = {platform::HelpSection{"Options", kOptions}};
+
+constexpr platform::ProgramHelp kHelp = {
+    .name = "PhotoReel",
+    .summary = "Shows pictures one after another.",
+    .usage = "[OPTIONS]",
+    .sections = kSections,
+};
+
+} // namespace
 
 int main(int argc, char** argv) {
     const std::span all(argv, static_cast<std::size_t>(argc));
-    if (platform::PrintVersionIfAsked("PhotoReel", all)) return 0;
+    if (platform::AnswerIfAsked(kHelp, all)) return 0;
     try {
         const QApplication application(argc, argv);
         QApplication::setApplicationName(QStringLiteral("PhotoReel"));

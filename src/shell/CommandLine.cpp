@@ -1,8 +1,56 @@
 #include "shell/CommandLine.h"
 
+#include <array>
 #include <string_view>
 
 namespace shell {
+
+namespace {
+
+constexpr std::array kOptions = {
+    platform::HelpEntry{"-h,--help", "Print this help and exit"},
+    platform::HelpEntry{"--version", "Print the version and exit"},
+    platform::HelpEntry{"--data DIR", "Open the books in this directory, not the registered ones"},
+    platform::HelpEntry{"--today MM/DD/YYYY", "Take this day for today"},
+    platform::HelpEntry{"--read-only", "Change nothing: look at the books only"},
+    platform::HelpEntry{"/altdb=NAME", "Open the books registered under this name"},
+    platform::HelpEntry{"/expert", "Show the expert commands"},
+};
+
+constexpr std::array kStatus = {
+    platform::HelpEntry{"0", "The program was closed, or is running already"},
+    platform::HelpEntry{"1", "The books can't be opened"},
+    platform::HelpEntry{"2", "The command line is wrong"},
+};
+
+constexpr std::array kFiles = {
+    platform::HelpEntry{"~/.config/Vestrel/registry.json",
+                        "The settings, and where the books are (below $XDG_CONFIG_HOME, if set)"},
+    platform::HelpEntry{"~/.local/share/Vestrel/",
+                        "Reports, letter templates and new books, unless you choose another\n"
+                        "folder (below $XDG_DATA_HOME, if set). A copy of the program that is\n"
+                        "not installed keeps them in its own folder."},
+    platform::HelpEntry{"Vestrel.mdb", "The books: an SQLite file in the directory of the books"},
+};
+
+constexpr std::array kSections = {
+    platform::HelpSection{"Options", kOptions},
+    platform::HelpSection{"Exit status", kStatus},
+    platform::HelpSection{"Files", kFiles},
+};
+
+constexpr platform::ProgramHelp kHelp = {
+    .name = "vestrel",
+    .summary = "Keeps the books of rental property.",
+    .usage = "[OPTIONS]",
+    .sections = kSections,
+};
+
+} // namespace
+
+const platform::ProgramHelp& WindowHelp() {
+    return kHelp;
+}
 
 CommandLine ReadCommandLine(std::span<const char* const> words) {
     CommandLine line;

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 
+#include "platform/system/ProgramHelp.h"
 #include "platform/values/Date.h"
 
 namespace shell {
@@ -25,5 +26,8 @@ struct CommandLine {
 /// Reads the arguments after the program's name: "--data DIR", "--today mm/dd/yyyy",
 /// "--read-only", and the rest.
 CommandLine ReadCommandLine(std::span<const char* const> words);
+
+/// Describes the window program and its command line.
+const platform::ProgramHelp& WindowHelp();
 
 } // namespace shell

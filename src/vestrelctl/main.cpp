@@ -8,6 +8,7 @@
 #include <fmt/core.h>
 #include <CLI/CLI.hpp>
 
+#include "core/AppPath.h"
 #include "core/Globals.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Version.h"
@@ -20,6 +21,20 @@ namespace {
 
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
+
+constexpr const char* kFooter = R"(Exit status:
+  0                           It was done
+  1                           It failed; one line on standard error says why
+  2                           The command line is wrong
+
+Files:
+  ~/.config/Vestrel/registry.json
+                              The settings, and where the books are (below
+                              $XDG_CONFIG_HOME, if set)
+  ~/.local/share/Vestrel/     Reports and letter templates (below $XDG_DATA_HOME, if
+                              set). A copy of the program that is not installed keeps
+                              them in its own folder.
+  Vestrel.mdb                 The books: an SQLite file in the directory of the books)";
 
 std::string SetToday(const std::string& text) {
     const auto day = platform::Date::TryParse(text);
@@ -89,6 +104,9 @@ int Run(int argc, char** argv) {
                                           "The folder of the report definitions")
         ->type_name("DIR");
 
+    // Before the work of a command, but not for its help.
+    line.parse_complete_callback(core::MakeDirectories);
+
     vestrelctl::AddInit(line);
     vestrelctl::AddRegister(line);
     vestrelctl::AddUpdate(line, options);
@@ -108,6 +126,8 @@ int Run(int argc, char** argv) {
     vestrelctl::AddBackup(line, options);
     vestrelctl::AddRestore(line);
     vestrelctl::AddCheck(line, options);
+    // Now, as the commands would have taken it over.
+    line.footer(kFooter);
 
     try {
         line.parse(ArgumentsOf(argc, argv));
@@ -124,7 +144,7 @@ int Run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     try {
-        core::InitGlobals("");
+        core::FindAppPath();
         shell::RegisterLogic();
         return Run(argc, argv);
     } catch (const std::exception& error) {
