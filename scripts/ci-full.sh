@@ -6,6 +6,7 @@
 #   bench     builds and runs every benchmark against its limit
 #   tidy      clang-tidy on every file
 #   programs  two programs at random on the same books, for ten minutes
+#   package   makes the package and the folder that users install, and checks them
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -22,6 +23,7 @@ run() {
             scripts/build.sh test build test bench window
             scripts/two-programs.sh build/test/bin/vestrelctl
             ;;
+        package) scripts/package.sh ;;
         *)
             echo "there is no part $1" >&2
             return 2
@@ -29,7 +31,7 @@ run() {
     esac
 }
 
-[ $# -gt 0 ] || set -- logic sanitize bench tidy programs
+[ $# -gt 0 ] || set -- logic sanitize bench tidy programs package
 figures=()
 failed=()
 for part in "$@"; do
