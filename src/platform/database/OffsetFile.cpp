@@ -10,7 +10,10 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t kWriteSize = 1 << 18;
+/// The bytes are written in blocks that begin at multiples of this in the file. The database itself
+/// begins anywhere: otherwise each block would end within a page of the system's cache, and the
+/// next one would have to complete that page.
+constexpr std::int64_t kBlockSize = 1 << 18;
 
 /// An open file as the engine holds it.
 struct OpenFile {
@@ -118,26 +121,30 @@ bool OffsetFile::Read(void* bytes, int count, std::int64_t at, int& got) {
 }
 
 bool OffsetFile::Write(const void* bytes, int count, std::int64_t at) {
-    const bool follows = at == collectedAt_ + static_cast<std::int64_t>(collected_.size()) &&
-                         collected_.size() < kWriteSize;
-    if (!follows) {
+    if (at != collectedAt_ + Collected()) {
         if (!Flush()) return false;
         collectedAt_ = at;
     }
     collected_.append(static_cast<const char*>(bytes), static_cast<std::size_t>(count));
     size_ = std::max(size_, at + count);
-    return true;
+    const std::int64_t end = offset_ + collectedAt_ + Collected();
+    const std::int64_t whole = end - end % kBlockSize - (offset_ + collectedAt_);
+    return whole <= 0 || WriteOut(whole);
+}
+
+bool OffsetFile::Flush() {
+    return WriteOut(Collected());
 }
 
 // The engine is C: what is thrown here must not pass through it.
-bool OffsetFile::Flush() {
+bool OffsetFile::WriteOut(std::int64_t count) {
     if (failure_) return false;
-    if (collected_.empty()) return true;
+    if (count == 0) return true;
+    const auto size = static_cast<std::size_t>(count);
     try {
-        out_.WriteAt(offset_ + collectedAt_, collected_);
-        out_.StartWriting(offset_ + collectedAt_, static_cast<std::int64_t>(collected_.size()));
-        collectedAt_ += static_cast<std::int64_t>(collected_.size());
-        collected_.clear();
+        out_.WriteAt(offset_ + collectedAt_, std::string_view(collected_).substr(0, size));
+        collectedAt_ += count;
+        collected_.erase(0, size);
         return true;
     } catch (...) {
         failure_ = std::current_exception();

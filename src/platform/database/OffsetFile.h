@@ -32,6 +32,9 @@ class OffsetFile {
 
   private:
     bool Flush();
+    /// Writes this many of the collected bytes.
+    bool WriteOut(std::int64_t count);
+    std::int64_t Collected() const { return static_cast<std::int64_t>(collected_.size()); }
 
     DiskFile& out_;
     std::int64_t offset_;

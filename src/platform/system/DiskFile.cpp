@@ -85,11 +85,6 @@ void DiskFile::WriteAt(std::int64_t offset, std::string_view bytes) {
     }
 }
 
-void DiskFile::StartWriting(std::int64_t offset, std::int64_t size) {
-    // Only a hint: Sync finds out whether it succeeded.
-    sync_file_range(descriptor_, offset, size, SYNC_FILE_RANGE_WRITE);
-}
-
 void DiskFile::Sync() {
     ProbeFile();
     if (fsync(descriptor_) != 0) FailToWrite(file_);

@@ -47,8 +47,6 @@ class DiskFile {
     void Write(std::string_view bytes);
     /// Writes at an offset counted from 0.
     void WriteAt(std::int64_t offset, std::string_view bytes);
-    /// Has the system begin to write these bytes to the disk, so that Sync waits less.
-    void StartWriting(std::int64_t offset, std::int64_t size);
     /// Waits until everything written is on the disk.
     void Sync();
 
