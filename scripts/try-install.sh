@@ -10,7 +10,6 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 version=$(sed -nE 's/^project\(Vestrel VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt)
 arch=$(dpkg --print-architecture)
 
-makeMachine
 for part in "$@"; do
     case $part in
         deb) file=build/package/vestrel_${version}_$arch.deb ;;
@@ -24,7 +23,10 @@ for part in "$@"; do
         echo "there is no $file: run scripts/package.sh first" >&2
         exit 1
     }
-    cp "$file" "$machine/tmp/"
-    cp scripts/package/user-session.sh "$machine/tmp/"
+    echo "== $part"
+    # Each on a machine that has seen nothing of the other.
+    makeMachine
+    cp "$file" scripts/package/user-session.sh "$machine/tmp/"
+    runInMachine bash -s "$part" <scripts/package/try-install-inside.sh
+    leaveMachine
 done
-runInMachine bash -s "$@" <scripts/package/try-install-inside.sh

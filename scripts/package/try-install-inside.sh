@@ -1,4 +1,5 @@
-# Runs as root of a bare machine, for try-install.sh: installs, lets a user work, removes.
+# Runs as root of a bare machine, for try-install.sh: installs the part that it is given, lets a user
+# work with it, and removes it.
 # shellcheck shell=bash
 set -euo pipefail
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
@@ -45,6 +46,7 @@ checkLinks() {
 
 installTools() {
     quietly apt-get install -y --no-install-recommends xvfb xauth xdotool procps
+    mkdir -p -m 1777 /tmp/.X11-unix
 }
 
 tryDeb() {
@@ -74,12 +76,11 @@ tryDeb() {
 tryTarball() {
     local folder
     # The libraries that every desktop has.
-    [ -e /usr/bin/xdotool ] || quietly apt-get update
+    quietly apt-get update
     quietly apt-get install -y --no-install-recommends xz-utils libegl1 libgl1 libopengl0 \
         libfontconfig1 libdbus-1-3 libglib2.0-0 libx11-xcb1 libsm6 libxkbcommon0 libwayland-cursor0 \
         libwayland-egl1 libcups2
     installTools
-    quietly apt-get purge -y --auto-remove 'libqt6*' 'libsqlitecpp*' 'fonts-*'
     quietly useradd -m -s /bin/bash bert
     su - bert -c 'mkdir Programs && tar -C Programs -xf /tmp/vestrel-*.tar.xz'
     folder=$(ls -d /home/bert/Programs/vestrel-*)
@@ -88,10 +89,7 @@ tryTarball() {
     work bert "$folder" "$folder/vestrel" "$folder/vestrelctl"
 }
 
-for part in "$@"; do
-    echo "== $part"
-    case $part in
-        deb) tryDeb ;;
-        tarball) tryTarball ;;
-    esac
-done
+case $1 in
+    deb) tryDeb ;;
+    tarball) tryTarball ;;
+esac

@@ -42,7 +42,8 @@ reports=$("$companion" reports | tail -n +2 | wc -l)
 [ "$(head -c 5 roll.pdf)" = %PDF- ] || fail "no PDF file was written"
 echo "reports: $reports found, one printed into $(stat -c %s roll.pdf) bytes"
 
-export DISPLAY=:77
+export DISPLAY=:77 XDG_RUNTIME_DIR=$HOME/.run
+mkdir -m 700 "$XDG_RUNTIME_DIR"
 Xvfb :77 -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
 display=$!
 trap 'kill $display 2>/dev/null || true' EXIT
@@ -50,7 +51,7 @@ waitFor display xdotool getmouselocation
 
 "$window" &
 pid=$!
-waitFor 'main window' shown 'Vestrel.*books|books.*Vestrel|^Vestrel'
+waitFor 'main window' shown 'Sample'
 sleep 2
 xdotool mousemove 640 400 key F1
 waitFor 'help window' shown Help
