@@ -43,11 +43,18 @@ checkVersion() {
     done
 }
 
+# What debhelper leaves in the tree; its own cleaning would also delete files of the user.
+removeTraces() {
+    rm -rf debian/vestrel debian/.debhelper debian/files debian/debhelper-build-stamp \
+        debian/vestrel.substvars
+}
+
 makeDeb() {
-    rm -rf debian/vestrel debian/.debhelper $out/vestrel_*.deb
+    rm -f $out/vestrel_*.deb
+    removeTraces
     # debhelper gives the build another home, where the compiler's cache is not.
     CCACHE_DIR=$(ccache -k cache_dir) fakeroot debian/rules binary
-    debian/rules clean
+    removeTraces
 }
 
 checkDeb() {

@@ -10,7 +10,7 @@ mapfile -t cmake < <(find . -path ./build -prune -o \( -name CMakeLists.txt -o -
     sed 's|^\./||' | sort)
 mapfile -t shell < <({
     [ ! -d scripts ] || find scripts tests -name '*.sh'
-    ls run test bench .ci/run
+    ls run test bench .ci/run share/desktop/vestrel share/completion/*
 } 2>/dev/null | sort)
 
 faults=$(
