@@ -46,7 +46,7 @@ checkVersion() {
 # What debhelper leaves in the tree; its own cleaning would also delete files of the user.
 removeTraces() {
     rm -rf debian/vestrel debian/.debhelper debian/files debian/debhelper-build-stamp \
-        debian/vestrel.substvars
+        debian/vestrel.substvars debian/vestrel.debhelper.log
 }
 
 makeDeb() {
