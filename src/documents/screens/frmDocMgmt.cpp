@@ -89,8 +89,10 @@ frmDocMgmt::frmDocMgmt(QWidget* parent) : Form(parent), ui_(std::make_unique<Ui:
         captions += ToScreen(flag.caption);
     ui_->grd->setColumnCount(static_cast<int>(captions.size()));
     ui_->grd->setHorizontalHeaderLabels(captions);
+    for (const int text : {kName, kPath})
+        ui_->grd->horizontalHeaderItem(text)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui_->grd->verticalHeader()->hide();
-    ui_->grd->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
+    ui_->grd->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     ui_->cmdAction->Apply().hide();
     ui_->cmdAction->Cancel().hide();
     Connect();
@@ -118,7 +120,7 @@ void frmDocMgmt::Connect() {
         if (column < kFirstFlag) Guarded([this] { Edit(); });
     });
     connect(ui_->chkShowPath, &QCheckBox::toggled, this, [this](bool isOn) {
-        ui_->grd->setColumnHidden(kPath, !isOn);
+        ShowPaths(isOn);
         core::SetRegFlag(kKey, kShowPath, isOn);
     });
     connect(ui_->cmdAction, &core::forms::ActionBar::CloseClicked, this, &QWidget::close);
@@ -141,11 +143,18 @@ void frmDocMgmt::ConnectOptions() {
 void frmDocMgmt::Setup() {
     const bool showsPath = core::GetRegFlag(kKey, kShowPath, false);
     ui_->chkShowPath->setChecked(showsPath);
-    ui_->grd->setColumnHidden(kPath, !showsPath);
+    ShowPaths(showsPath);
     Guarded([this] { Fill(); });
     LoadOptions();
     Open();
     ui_->grd->setFocus();
+}
+
+/// The descriptions take the room that is left, which long paths need for themselves.
+void frmDocMgmt::ShowPaths(bool isOn) {
+    ui_->grd->setColumnHidden(kPath, !isOn);
+    ui_->grd->horizontalHeader()->setSectionResizeMode(
+        kName, isOn ? QHeaderView::ResizeToContents : QHeaderView::Stretch);
 }
 
 void frmDocMgmt::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
@@ -174,7 +183,6 @@ void frmDocMgmt::Fill() {
         ui_->grd->setItem(0, kName, TextCell("No Files Found."));
         ui_->grd->setSpan(0, 0, 1, ui_->grd->columnCount());
     }
-    ui_->grd->resizeColumnsToContents();
     ShowSelected();
     ShowShipped();
 }

@@ -30,6 +30,7 @@ class frmDocMgmt : public core::forms::Form {
   private:
     void Connect();
     void ConnectOptions();
+    void ShowPaths(bool isOn);
     void Fill();
     void ShowSelected();
     void ShowShipped();

@@ -6,8 +6,8 @@
 #include <QDBusReply>
 #include <QDBusVariant>
 #include <QPalette>
-#include <QStyle>
-#include <QStyleFactory>
+
+#include "platform/qt/ScreenStyle.h"
 
 namespace platform::qt {
 
@@ -90,9 +90,8 @@ void ApplySystemPalette() {
 
 void ApplyAppearance(Appearance appearance) {
     Present().chosen = appearance;
-    if (QApplication::style()->name().compare(QLatin1String("fusion"), Qt::CaseInsensitive) != 0) {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    }
+    if (dynamic_cast<ScreenStyle*>(QApplication::style()) == nullptr)
+        QApplication::setStyle(new ScreenStyle);
     switch (appearance) {
         case Appearance::Light:
             QApplication::setPalette(LightPalette());

@@ -1,6 +1,7 @@
 #include "documents/screens/frmDocMgmt.h"
 
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -52,6 +53,9 @@ TEST_F(DocMgmtScreen, AddsTicksAndDeletesTemplates) {
     ASSERT_EQ(1U, choosers.Asked().size());
     EXPECT_EQ("Select File", choosers.Asked()[0].title);
     EXPECT_EQ("Late", Cell(form, 0, 0));
+    support::SettleEvents();
+    const auto& head = *Find<QTableWidget>(form, "grd").horizontalHeader();
+    EXPECT_EQ(head.length(), head.viewport()->width()) << "the descriptions take what is left";
 
     auto& grid = Find<QTableWidget>(form, "grd");
     grid.setCurrentCell(0, 0);

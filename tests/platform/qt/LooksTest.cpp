@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QImage>
+#include <QPainter>
 #include <QPalette>
+#include <QPushButton>
+#include <QStyleOption>
 #include <cmath>
 
 #include "platform/qt/Appearance.h"
@@ -65,6 +68,35 @@ TEST_P(LooksTest, PicturesTakeTheColourOfTheText) {
         }
     }
     EXPECT_GT(inked, 20);
+}
+
+TEST_P(LooksTest, EmptyBoxesCanBeSeenOnAList) {
+    const QPalette palette = QApplication::palette();
+    for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton}) {
+        QImage image(20, 20, QImage::Format_RGB32);
+        image.fill(palette.color(QPalette::Base));
+        QPainter painter(&image);
+        QStyleOptionButton box;
+        box.palette = palette;
+        box.rect = QRect(3, 3, 14, 14);
+        box.state = QStyle::State_Enabled | QStyle::State_Off;
+        QApplication::style()->drawPrimitive(element, &box, &painter);
+        painter.end();
+        double greatest = 1;
+        for (int x = 0; x < image.width(); ++x)
+            greatest = std::max(greatest,
+                                Contrast(image.pixelColor(x, 10), palette.color(QPalette::Base)));
+        EXPECT_GE(greatest, 1.5) << element;
+    }
+}
+
+TEST_P(LooksTest, AButtonLeavesRoomAroundItsWords) {
+    for (const char* const words : {"OK", "Restore a Backup..."}) {
+        const QPushButton button(QString::fromLatin1(words));
+        EXPECT_GE(button.sizeHint().width(),
+                  button.fontMetrics().horizontalAdvance(button.text()) + 16)
+            << words;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Both, LooksTest, testing::Values(Appearance::Light, Appearance::Dark));
