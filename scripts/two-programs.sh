@@ -31,6 +31,8 @@ SELECT * FROM Mortgage ORDER BY IdMortgage;
 SELECT * FROM AutoEvent ORDER BY IdAutoEvent;
 SELECT NextId FROM Configuration;
 SELECT IdUnit, Status FROM Unit ORDER BY 1;
+SELECT IdLease, SettleCharges FROM LeaseCredit ORDER BY 1;
+SELECT c.IdLease, p.DatePosted, p.Amount, p.Category, o.DatePosted AS Paid, o.Amount AS Ahead, IIf(c.IdReturn = 0, 0, 1) AS Returned, IIf(p.IdTransaction = 0, 0, 1) AS Spent FROM (RentCredit AS c INNER JOIN RentLog AS p ON c.IdRentLog = p.IdRentLog) INNER JOIN RentLog AS o ON c.IdOrigin = o.IdRentLog ORDER BY 1, 2, 3, 4, 5, 6, 7, 8;
 SELECT IdTenant, Status FROM Tenant ORDER BY 1;
 SELECT EntryDate, Description FROM Alerts ORDER BY 1, 2;
 SELECT DateEffective, DebitId, DebitDesc, CreditId, CreditDesc, Amount, CheckNum, TaxCategory, IEN, Class, Flags, Description, IdTenant, IdBuilding, IdUnit, IdLease, IdMortgage FROM Transactions ORDER BY 1, 2, 4, 6, 7, 8, 12, 13, 14, 15, 16, 17;
@@ -47,8 +49,14 @@ pick() { echo "${@:1+RANDOM%$#:1}"; }
 # draw CHECK: one command of a program, a word a line. Payments carry CHECK, so that a charge paid
 # twice shows.
 draw() {
-    case $((RANDOM % 10)) in
-        0 | 1 | 2 | 3) printf '%s\n' pay "$lease" --class "$(pick 1 1 1 2 3)" --check "$1" ;;
+    case $((RANDOM % 14)) in
+        0 | 1 | 2) printf '%s\n' pay "$lease" --class "$(pick 1 1 1 2 3)" --check "$1" ;;
+        3 | 10 | 11)
+            printf '%s\n' pay "$lease" --class "$(pick 1 1 1 2 3)" --check "$1" \
+                --amount "$((RANDOM % 3000 + 1)).50" --rent-part "$(pick open open paid)"
+            ;;
+        12) printf '%s\n' return-payment "$payment" --fee "$(pick 0 25)" ;;
+        13) printf '%s\n' credit "$lease" --settle "$(pick on on off)" ;;
         4 | 5) printf '%s\n' pay-mortgage "$mortgage" --check "$1" ;;
         6 | 7) printf '%s\n' update ;;
         8)
@@ -112,6 +120,8 @@ while [ "$SECONDS" -lt "$seconds" ]; do
     day=$((day + RANDOM % 9))
     today=$(today)
     lease=$(pick "${leases[@]}") mortgage=$(pick "${mortgages[@]}") account=$(pick "${accounts[@]}")
+    # One of the last payments of a lease, so that some are returned twice.
+    payment=$(pick $(idsOf "SELECT TOP 5 IdTransaction FROM Transactions WHERE Class BETWEEN 1 AND 3 AND Flags = 0 ORDER BY IdTransaction DESC"))
     [ $((RANDOM % 3)) -gt 0 ] || run books update >/dev/null 2>&1 || true
     mapfile -t first < <(draw "A$rounds")
     # Every second time the other program does the very same.

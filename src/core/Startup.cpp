@@ -1,6 +1,7 @@
 #include "core/Startup.h"
 
 #include <exception>
+#include <utility>
 
 #include "core/Configuration.h"
 #include "core/Globals.h"
@@ -22,7 +23,25 @@ bool OpenToRead() {
     }
 }
 
+BooksStep& StepOfBooks() {
+    static BooksStep step;
+    return step;
+}
+
+void AddWhatIsMissing() {
+    if (!StepOfBooks()) return;
+    try {
+        StepOfBooks()(App().Connection);
+    } catch (const std::exception&) {
+        // Books that can't be written to, or aren't open, stay as they are.
+    }
+}
+
 } // namespace
+
+void SetBooksStep(BooksStep step) {
+    StepOfBooks() = std::move(step);
+}
 
 bool OpenBooks(BooksUse use) {
     std::string path;
@@ -32,6 +51,7 @@ bool OpenBooks(BooksUse use) {
 }
 
 void LoadBooks() {
+    AddWhatIsMissing();
     if (CountTable("Configuration") == 0) CreateDefaultConfiguration(App().Connection);
     LoadConfiguration();
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+
+#include "platform/database/Connection.h"
+
 namespace core {
 
 // The steps of the start that need no window, in the order of their call: InitGlobals,
@@ -14,8 +18,13 @@ enum class BooksUse {
 /// the program goes on all the same, with empty views.
 bool OpenBooks(BooksUse use = BooksUse::Keep);
 
-/// Gives books that have no settings the default ones, and reads the settings into memory. Failures
-/// are ignored.
+/// Adds to books what an earlier version of the program didn't make.
+using BooksStep = std::function<void(platform::Connection& books)>;
+/// Gives LoadBooks this step; an empty one takes it away.
+void SetBooksStep(BooksStep step);
+
+/// Brings books of an earlier version up to this one's tables, gives books that have no settings
+/// the default ones, and reads the settings into memory. Failures are ignored.
 void LoadBooks();
 
 /// Deletes the temporary files in the program's directory; failures are ignored.

@@ -110,6 +110,21 @@ constexpr auto kPaymentQuestions = std::to_array<Question>({
      "transaction", "of a mortgage without a row in its ledger", kRemoveTransaction},
 });
 
+/// Credit that was paid ahead, in all its parts, against what the payment has for it.
+void CheckCredits(platform::Connection& books, std::vector<Finding>& findings) {
+    if (books.Tables().Find("RentCredit") == nullptr) return;
+    const FoundIds found =
+        FindIds(books,
+                "SELECT c.IdOrigin FROM (RentCredit AS c INNER JOIN RentLog AS p ON c.IdRentLog = "
+                "p.IdRentLog) INNER JOIN RentLog AS o ON c.IdOrigin = o.IdRentLog "
+                "GROUP BY c.IdOrigin, o.Amount HAVING Sum(p.Amount) + o.Amount < 0");
+    if (!found.Any()) return;
+    findings.push_back({Severity::Fault,
+                        fmt::format("{} paid ahead of which more was credited than was paid: {}",
+                                    Counted(found.count, "amount"), found.List()),
+                        "Open the credit in the lease's ledger and correct its amount."});
+}
+
 } // namespace
 
 void CheckBalances(platform::Connection& books, std::vector<Finding>& findings) {
@@ -144,6 +159,7 @@ void CheckBalances(platform::Connection& books, std::vector<Finding>& findings) 
 }
 
 void CheckPayments(platform::Connection& books, std::vector<Finding>& findings) {
+    CheckCredits(books, findings);
     for (const Question& question : kPaymentQuestions) {
         const FoundIds found = FindIds(books, question.sql);
         if (!found.Any()) continue;

@@ -70,6 +70,26 @@ void ChargeDay(LeaseWalk& walk, DueDates& dates, Date day, WalkMode mode) {
     }
 }
 
+/// Settles what the day has charged, the rent before the subsidy. Returns true if that moved the
+/// next due date.
+bool SettleDay(LeaseWalk& walk, CreditPurse& purse, Date day, std::size_t first) {
+    if (first == walk.charges.size()) return false;
+    const Date due = walk.terms.dateNextDue.Get();
+    Date moved = due;
+    for (const RentClass rentClass : {RentClass::Rent, RentClass::Subsidy}) {
+        auto payment = purse.Settle(day, rentClass, walk.charges, first);
+        if (!payment) continue;
+        for (const Use& settled : payment->charges) {
+            if (MovesNextDue(settled, walk.charges))
+                moved = DateAdd(TermInterval(walk.terms.termType), 1, moved);
+        }
+        walk.payments.push_back(std::move(*payment));
+    }
+    if (moved == due) return false;
+    walk.terms.dateNextDue = moved;
+    return true;
+}
+
 Date StartOfWalk(const LeaseTerms& terms, WalkMode mode) {
     const Date updated = terms.dateUpdated.Get();
     if (!updated.IsSet()) return DateAdd(Interval::Month, -1, terms.dateActive.Get());
@@ -79,7 +99,12 @@ Date StartOfWalk(const LeaseTerms& terms, WalkMode mode) {
 
 } // namespace
 
-LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, Date today) {
+bool MovesNextDue(const Use& settled, std::span<const Charge> charges) {
+    const Charge& charge = charges[settled.place];
+    return charge.kind == ChargeKind::Rent && settled.amount == charge.amount;
+}
+
+LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, Date today, CreditPurse purse) {
     LeaseWalk walk;
     walk.terms = std::move(terms);
     const Date end = mode == WalkMode::RollForward ? walk.terms.dateNextDue.Get() : today;
@@ -92,7 +117,10 @@ LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, Date today) {
         const StatusStep step = StepLeaseStatus(walk.terms, day, false);
         if (step.statusSet) walk.statuses.push_back(walk.terms.status);
         walk.renewed = walk.renewed || step.renewed;
+        const std::size_t before = walk.charges.size();
         if (IsCharged(walk.terms.status)) ChargeDay(walk, dates, day, mode);
+        // The fee days start from the oldest unpaid due date, as they do in a run of the next day.
+        if (SettleDay(walk, purse, day, before)) dates = DueDates(walk.terms);
     }
     if (end > start) walk.terms.dateUpdated = end;
     return walk;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "leases/CreditPurse.h"
 #include "leases/LeaseTerms.h"
 #include "leases/RentCodes.h"
 #include "platform/values/Currency.h"
@@ -45,10 +47,20 @@ struct LeaseWalk {
     std::vector<std::string> statuses;
     /// Whether a new term began, with `terms.dateRenewed` as its first day.
     bool renewed = false;
+    /// Charges that the tenant's credit settles, in the order of their days. Each period's rent
+    /// that is settled whole has moved `terms.dateNextDue`.
+    std::vector<CreditPayment> payments;
 };
 
-/// Walks a lease day by day from the last day charged up to today, or to its next due date. Charges
-/// of zero are left out. Throws FieldError if a value that the walk needs can't be read.
-LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, platform::Date today);
+/// Returns whether a payment from credit settles the whole rent of a period, which moves the next
+/// due date.
+bool MovesNextDue(const Use& settled, std::span<const Charge> charges);
+
+/// Walks a lease day by day from the last day charged up to today (or to its next due date).
+/// Charges of zero are left out. Charges are settled from `purse` on the day they are posted, so
+/// that a lease walked after a closed month settles what it would have settled day by day. A
+/// FieldError for a value that the walk needs and that can't be
+/// read.
+LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, platform::Date today, CreditPurse purse = {});
 
 } // namespace leases

@@ -5,33 +5,23 @@
 #include <fmt/core.h>
 
 #include "core/Rows.h"
-#include "leases/LeaseTerms.h"
-#include "platform/database/FieldReadings.h"
-#include "platform/database/Recordset.h"
+#include "leases/DueMove.h"
 #include "platform/values/Format.h"
 
 namespace leases {
 
 using platform::Currency;
-using platform::Date;
 
 namespace {
 
-std::string DescribeDueDate(platform::Recordset& lease, int periods) {
-    const Date due = DateOf(lease["DateNextDue"]);
-    if (!due.IsSet()) return "the lease has no next due date";
-    if (periods == 0) return "next due date stays " + due.ToText();
-    const auto interval = TermInterval(TextOf(lease["TermType"]));
-    // Moved one period at a time, as the payment does: a shorter month on the way lowers the day.
-    Date moved = due;
-    for (int i = 0; i < periods; ++i)
-        moved = DateAdd(interval, 1, moved);
-    return fmt::format("next due date moves from {} to {}", due.ToText(), moved.ToText());
+std::string DescribeDueDate(const DueMove& move) {
+    if (!move.from.IsSet()) return "the lease has no next due date";
+    if (move.to == move.from) return "next due date stays " + move.from.ToText();
+    return fmt::format("next due date moves from {} to {}", move.from.ToText(), move.to.ToText());
 }
 
-std::string DescribeCredit(platform::Recordset& lease, int periods) {
-    if (periods == 0 || !FlagOf(lease["Option"])) return {};
-    const Currency credit = MoneyOf(lease["OptionCredit"]) * periods;
+std::string DescribeCredit(const DueMove& move, int periods) {
+    const Currency credit = move.optionCredit * periods;
     return credit.IsZero() ? "" : ", option credit " + platform::FormatMoney(credit);
 }
 
@@ -52,12 +42,11 @@ std::string DescribeCharges(const RentPayment& payment) {
     if (count == 0) return "Nothing is ticked: a payment of 0.00 will be posted";
     std::string line = fmt::format("{} charge{}", count, count == 1 ? "" : "s");
 
-    platform::Recordset lease = core::Read(
-        "SELECT TermType, DateNextDue, Option, OptionCredit FROM Lease WHERE IdLease = ?",
-        {payment.idLease});
-    if (lease.Eof()) return line;
+    if (!core::Exists("SELECT IdLease FROM Lease WHERE IdLease = ?", {payment.idLease}))
+        return line;
     const int periods = PeriodsPaid(payment);
-    return line + ", " + DescribeDueDate(lease, periods) + DescribeCredit(lease, periods);
+    const DueMove move = ReadDueMove(payment.idLease, periods);
+    return line + ", " + DescribeDueDate(move) + DescribeCredit(move, periods);
 }
 
 } // namespace

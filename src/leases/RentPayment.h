@@ -61,6 +61,17 @@ bool IsPeriodRent(RentFlags flags);
 /// a new payment of rent settles. A stored payment never moves it, in either direction.
 int PeriodsPaid(const RentPayment& payment);
 
+/// Returns whether two readings of a charge are of the same row, which says the same about what is
+/// owed.
+bool IsSameCharge(const PaymentCharge& a, const PaymentCharge& b);
+
+/// Returns the payment as the books have it now. Throws ConflictError if a charge that it settles
+/// was paid, changed or deleted since it was read, or if the payment was edited or returned since.
+RentPayment CheckUnchanged(const RentPayment& payment);
+
+/// Returns the transaction that posts the payment.
+books::Transaction TransactionOf(const RentPayment& payment);
+
 enum class LeaseUpdate { No, Yes };
 
 /// Posts a payment: the transaction, the payment row, the selected charges as settled by it and the

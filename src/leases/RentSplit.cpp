@@ -5,6 +5,7 @@
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "leases/ChargeEditor.h"
+#include "leases/Credits.h"
 #include "leases/LeaseEditor.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -46,6 +47,13 @@ void CheckUnchanged(const RentSplit& split) {
     }
     throw platform::ConflictError(
         "The charge was changed or removed since it was read, so it can't be split.");
+}
+
+/// The credit that came from the row would name a row that isn't there.
+void CheckCredit(std::int32_t idRentLog) {
+    if (!IsOrigin(idRentLog)) return;
+    throw platform::ConflictError(
+        "Money that was paid ahead can't be split where the payment has it. Split the credit.");
 }
 
 } // namespace
@@ -93,6 +101,7 @@ std::optional<RentSplit> ReadSplit(std::int32_t idRentLog) {
 std::array<std::int32_t, 2> SaveSplit(const RentSplit& split) {
     platform::UnitOfWork unit(core::App().Connection);
     CheckUnchanged(split);
+    CheckCredit(split.idRentLog);
     std::array<std::int32_t, 2> parts = {};
     for (std::size_t i = 0; i < split.parts.size(); ++i) {
         const SplitPart& part = split.parts[i];
@@ -106,6 +115,8 @@ std::array<std::int32_t, 2> SaveSplit(const RentSplit& split) {
                                  .description = part.description,
                                  .flags = isRent ? RentFlags::PeriodRent : RentFlags::Ordinary});
     }
+    for (const std::int32_t part : parts)
+        TiePart(part, split.idRentLog);
     removal::RemoveRecord(core::kRentLog, split.idRentLog, removal::Tell::Nobody);
     StoreBalances(split.charge.idLease);
     core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);

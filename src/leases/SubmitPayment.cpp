@@ -7,6 +7,7 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
+#include "leases/Credits.h"
 #include "leases/RentLog.h"
 #include "leases/RentPayment.h"
 #include "leases/mLease.h"
@@ -37,41 +38,21 @@ namespace {
     throw ConflictError("The payment was changed after it was opened. Nothing was posted.");
 }
 
-bool IsSameCharge(const PaymentCharge& a, const PaymentCharge& b) {
-    return a.idRentLog == b.idRentLog && a.amount == b.amount && a.flags == b.flags;
-}
-
 void CheckLease(std::int32_t idLease) {
     if (core::Exists("SELECT IdLease FROM Lease WHERE IdLease = ?", {idLease})) return;
     throw ConflictError("The lease was deleted after this payment was opened. Nothing was posted.");
 }
 
-/// Returns the payment as the books have it now, read inside the unit of work that posts it. Throws
-/// ConflictError if a charge can't be settled as it was shown, or if the payment has since settled
-/// one that wasn't shown.
-RentPayment CheckUnchanged(const RentPayment& payment) {
-    if (payment.IsNew()) CheckLease(payment.idLease);
-    RentPayment now = payment;
-    ReadCharges(now, OpenCharges::Offer);
-    const bool isStored =
-        !payment.IsNew() &&
-        core::Exists("SELECT 1 FROM Transactions WHERE IdTransaction = ?", {payment.idTransaction});
-    for (const PaymentCharge& charge : payment.charges) {
-        if (!charge.selected) continue;
-        const auto same = std::ranges::find_if(
-            now.charges, [&](const auto& other) { return IsSameCharge(charge, other); });
-        if (same == now.charges.end()) ThrowConflict(payment, charge);
-        // Another edit has reopened it; a deleted payment has reopened all, and is posted again.
-        if (isStored && charge.settled && !same->settled) ThrowPaymentChanged();
-    }
-    for (const PaymentCharge& settled : now.charges) {
-        if (!settled.settled) continue;
-        const auto shown =
-            std::ranges::find(payment.charges, settled.idRentLog, &PaymentCharge::idRentLog);
-        if (shown == payment.charges.end() || (!shown->selected && !shown->settled))
-            ThrowPaymentChanged();
-    }
-    return now;
+/// The two sides of a returned payment stay as they were posted; its texts can be edited.
+void CheckReturn(const RentPayment& payment) {
+    if (ReturnOf(payment.idTransaction) == 0 && PaymentReturnedBy(payment.idTransaction) == 0)
+        return;
+    const bool isSame = std::ranges::all_of(payment.charges, [](const PaymentCharge& charge) {
+        return charge.selected == charge.settled;
+    });
+    if (isSame) return;
+    throw ConflictError(
+        "The payment was returned, so its charges can't be changed. Nothing was posted.");
 }
 
 /// A stored payment whose lease was removed keeps the unit and building that it was posted with.
@@ -85,18 +66,6 @@ books::References LinksOf(const RentPayment& payment) {
     links.idUnit = IdOf(row["IdUnit"]);
     links.idBuilding = IdOf(row["IdBuilding"]);
     return links;
-}
-
-books::Transaction TransactionOf(const RentPayment& payment) {
-    books::Transaction transaction = books::TransactionOf(payment, payment.Total());
-    transaction.ien =
-        payment.rentClass == RentClass::Deposit ? books::Ien::Unclassified : books::Ien::Income;
-    transaction.description = platform::Trim(payment.description);
-    transaction.transactionClass = static_cast<std::int16_t>(payment.rentClass);
-    static_cast<books::References&>(transaction) = LinksOf(payment);
-    // The payer's id, even if the payer is an account.
-    transaction.idTenant = payment.from.id;
-    return transaction;
 }
 
 /// The next payment proposes the account that received this one.
@@ -134,6 +103,47 @@ void SettleCharges(const RentPayment& payment, std::int32_t idTransaction) {
 }
 
 } // namespace
+
+bool IsSameCharge(const PaymentCharge& a, const PaymentCharge& b) {
+    return a.idRentLog == b.idRentLog && a.amount == b.amount && a.flags == b.flags;
+}
+
+RentPayment CheckUnchanged(const RentPayment& payment) {
+    payment.IsNew() ? CheckLease(payment.idLease) : CheckReturn(payment);
+    RentPayment now = payment;
+    ReadCharges(now, OpenCharges::Offer);
+    const bool isStored =
+        !payment.IsNew() &&
+        core::Exists("SELECT 1 FROM Transactions WHERE IdTransaction = ?", {payment.idTransaction});
+    for (const PaymentCharge& charge : payment.charges) {
+        if (!charge.selected) continue;
+        const auto same = std::ranges::find_if(
+            now.charges, [&](const auto& other) { return IsSameCharge(charge, other); });
+        if (same == now.charges.end()) ThrowConflict(payment, charge);
+        // Another edit has reopened it; a deleted payment has reopened all, and is posted again.
+        if (isStored && charge.settled && !same->settled) ThrowPaymentChanged();
+    }
+    for (const PaymentCharge& settled : now.charges) {
+        if (!settled.settled) continue;
+        const auto shown =
+            std::ranges::find(payment.charges, settled.idRentLog, &PaymentCharge::idRentLog);
+        if (shown == payment.charges.end() || (!shown->selected && !shown->settled))
+            ThrowPaymentChanged();
+    }
+    return now;
+}
+
+books::Transaction TransactionOf(const RentPayment& payment) {
+    books::Transaction transaction = books::TransactionOf(payment, payment.Total());
+    transaction.ien =
+        payment.rentClass == RentClass::Deposit ? books::Ien::Unclassified : books::Ien::Income;
+    transaction.description = platform::Trim(payment.description);
+    transaction.transactionClass = static_cast<std::int16_t>(payment.rentClass);
+    static_cast<books::References&>(transaction) = LinksOf(payment);
+    // The payer's id, even if the payer is an account.
+    transaction.idTenant = payment.from.id;
+    return transaction;
+}
 
 std::int32_t SubmitPayment(const RentPayment& payment, LeaseUpdate update) {
     platform::UnitOfWork unit(core::App().Connection);

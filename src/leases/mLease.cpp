@@ -1,5 +1,6 @@
 #include "leases/mLease.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "core/Codes.h"
@@ -8,8 +9,10 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
+#include "leases/Credits.h"
 #include "leases/LeaseStatus.h"
 #include "leases/RentLog.h"
+#include "leases/SettleFromCredit.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/system/Clock.h"
 
@@ -20,6 +23,8 @@ using platform::Recordset;
 using platform::UnitOfWork;
 
 namespace {
+
+constexpr std::string_view kPaidFromCredit = "Paid from credit";
 
 void SetUnitAndTenant(Recordset& row, std::string_view leaseStatus) {
     const bool over = IsOver(leaseStatus);
@@ -38,42 +43,68 @@ std::string_view RentStatusOf(Recordset& row) {
     return late < 0 ? core::kPaymentOk : core::kPaymentDue;
 }
 
-std::vector<Charge> UpdateStored(std::int32_t idLease, WalkMode mode) {
+PostedRows UpdateStored(std::int32_t idLease, WalkMode mode) {
     Recordset row = core::Write("SELECT * FROM Lease WHERE IdLease = ?", {idLease});
-    return row.Eof() ? std::vector<Charge>() : UpdateLease(row, mode);
+    return row.Eof() ? PostedRows() : UpdateLease(row, mode);
+}
+
+/// Returns charges and payments from credit, day by day.
+PostedRows RowsOf(const LeaseWalk& walk) {
+    PostedRows rows;
+    for (const Charge& charge : walk.charges)
+        rows.push_back({charge.date, CategoryOf(charge.kind), charge.amount});
+    for (const CreditPayment& payment : walk.payments)
+        rows.push_back({payment.day, kPaidFromCredit, payment.Total()});
+    std::ranges::stable_sort(rows, {}, &core::PostedRow::date);
+    return rows;
 }
 
 } // namespace
 
-std::vector<Charge> UpdateLease(Recordset& row, WalkMode mode) {
-    LeaseWalk walk = WalkLease(LeaseTerms::Read(row), mode, platform::Today());
-
-    // On most days only the lease's own row is written, which one statement does atomically.
+PostedRows UpdateLease(Recordset& row, WalkMode mode) {
+    const std::int32_t idLease = row["IdLease"].AsLong();
     std::optional<UnitOfWork> unit;
-    if (!walk.charges.empty() || !walk.statuses.empty()) unit.emplace(core::App().Connection);
+    std::vector<OpenCredit> credits;
+    if (mode == WalkMode::CatchUp && SettlesCharges(idLease)) {
+        // Read inside the unit of work, so that no other program spends them too.
+        unit.emplace(core::App().Connection);
+        credits = ReadCredits(idLease);
+    }
+    const LeaseWalk walk =
+        WalkLease(LeaseTerms::Read(row), mode, platform::Today(), CreditPurse(credits));
+
+    // On most days the lease's own row is all that is written, which one statement does whole.
+    if (!unit && (!walk.charges.empty() || !walk.statuses.empty()))
+        unit.emplace(core::App().Connection);
     for (const std::string& word : walk.statuses)
         SetUnitAndTenant(row, word);
     if (!walk.statuses.empty()) row["Status"].Set(walk.terms.status);
-    WriteCharges(row["IdLease"].AsLong(), walk.charges);
+    if (walk.payments.empty()) {
+        WriteCharges(idLease, walk.charges);
+    } else {
+        WriteSettledWalk(idLease, walk, credits);
+        row["DateNextDue"].Set(walk.terms.dateNextDue.Get().ToText());
+    }
     row["DateUpdated"].Set(walk.terms.dateUpdated.Get().ToText());
     if (walk.renewed) row["DateRenewed"].Set(walk.terms.dateRenewed.Get().ToText());
     SetLeaseBalances(row);
     SetRentStatus(row);
     if (row.Update()) core::NotifyAll(core::kLease, core::kRecordsChanged, 0);
+    if (!walk.payments.empty()) core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
     if (unit) unit->Commit();
-    return std::move(walk.charges);
+    return RowsOf(walk);
 }
 
-std::vector<Charge> UpdateLeaseById(std::int32_t idLease, WalkMode mode) {
+PostedRows UpdateLeaseById(std::int32_t idLease, WalkMode mode) {
     if (idLease == 0) return {};
     try {
         return UpdateStored(idLease, mode);
     } catch (const platform::ConflictError&) {
         // Another program wrote the lease after it was read. Inside the unit of work none can.
         UnitOfWork unit(core::App().Connection);
-        std::vector<Charge> charges = UpdateStored(idLease, mode);
+        PostedRows rows = UpdateStored(idLease, mode);
         unit.Commit();
-        return charges;
+        return rows;
     }
 }
 

@@ -14,14 +14,17 @@ namespace leases {
 // The calendar-driven life of a lease. The operations on a row work on an open, updatable row of
 // `Lease`. They throw on failure, and what they wrote is rolled back.
 
-/// Brings a lease up to date: walks it by the calendar, posts its charges, updates unit and tenant,
-/// computes balances and rent status, writes the row and broadcasts the changes. One unit of work.
-/// Returns the charges posted. Throws ConflictError if the row was written since it was read.
-std::vector<Charge> UpdateLease(platform::Recordset& row, WalkMode mode);
+using PostedRows = std::vector<core::PostedRow>;
+
+/// Brings a lease up to date: walks it by the calendar, posts its charges, settles them from credit
+/// if the lease says so, sets unit and tenant, computes balances and rent status, writes the row
+/// and tells the screens. One unit of work. Returns what was posted. Throws ConflictError if the
+/// row was written since it was read.
+PostedRows UpdateLease(platform::Recordset& row, WalkMode mode);
 
 /// The same for the lease of this id, read again if another program writes it in between. Does
 /// nothing for id 0 or a lease that doesn't exist.
-std::vector<Charge> UpdateLeaseById(std::int32_t idLease, WalkMode mode);
+PostedRows UpdateLeaseById(std::int32_t idLease, WalkMode mode);
 
 enum class StatusChange { IfDifferent, Force };
 

@@ -12,6 +12,7 @@
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "removal/RemovalTable.h"
+#include "removal/RentCredits.h"
 
 namespace removal {
 
@@ -42,6 +43,10 @@ void Removal::Remove(std::int16_t kind, std::int32_t id, Charges charges) {
             break;
         case core::kTransaction:
             RemoveTransaction(id, charges);
+            break;
+        case core::kRentLog:
+            ForgetCredit(id);
+            RemoveStatements(kind, id);
             break;
         default:
             RemoveStatements(kind, id);

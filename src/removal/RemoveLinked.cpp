@@ -8,6 +8,7 @@
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "removal/Removal.h"
+#include "removal/RentCredits.h"
 
 namespace removal {
 
@@ -29,6 +30,7 @@ void Removal::RemoveLease(std::int32_t id) {
 
     // Posted rows belong to their transactions, and stay.
     Execute("DELETE * FROM RentLog WHERE (IdLease = ?) AND (IdTransaction = 0)", {id});
+    ForgetLeaseCredits(id);
     Execute("DELETE * FROM Lease WHERE IdLease = ?", {id});
 }
 

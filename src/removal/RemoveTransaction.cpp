@@ -3,10 +3,12 @@
 #include <fmt/core.h>
 
 #include "core/ChargeLedger.h"
+#include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "platform/dialogs/Dialogs.h"
 #include "removal/Removal.h"
+#include "removal/RentCredits.h"
 
 namespace removal {
 
@@ -41,6 +43,10 @@ void Removal::FreeCharges(const ChargeLedger& ledger, std::int32_t idTransaction
 
 void Removal::RemoveTransaction(std::int32_t id, Charges charges) {
     const ChargeLedger* const ledger = core::LedgerOfTransaction(id);
+    if (ledger == &core::kRentLedger) {
+        UndoReturn(id);
+        if (ReleaseCredits(id)) Note(core::kRentLog, core::kRecordsChanged);
+    }
     if (ledger != nullptr && charges == Charges::Remove) {
         Execute(fmt::format("DELETE * FROM {} WHERE IdTransaction = ?", ledger->table), {id});
     } else if (ledger != nullptr) {

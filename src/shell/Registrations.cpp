@@ -3,6 +3,7 @@
 #include "books/ScheduledEvents.h"
 #include "books/TransactionListeners.h"
 #include "core/DailyRun.h"
+#include "core/Startup.h"
 #include "exchange/KeepCopy.h"
 #include "leases/LeaseRun.h"
 #include "leases/Ledger.h"
@@ -10,6 +11,7 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Errors.h"
 #include "removal/DeleteRecord.h"
+#include "store/CreateDatabase.h"
 
 namespace shell {
 
@@ -32,6 +34,7 @@ bool KeepCopyBeforeRemoval() {
 } // namespace
 
 void RegisterLogic() {
+    core::SetBooksStep(store::AddMissingTables);
     core::RegisterRunStep(core::RunStep::ScheduledEvents, books::RunDueEvents);
     core::RegisterRunStep(core::RunStep::Mortgages, mortgages::UpdateMortgages);
     core::RegisterRunStep(core::RunStep::Leases, leases::UpdateLeases);

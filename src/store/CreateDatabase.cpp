@@ -1,6 +1,7 @@
 #include "store/CreateDatabase.h"
 
 #include <string>
+#include <vector>
 
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
@@ -13,9 +14,24 @@ namespace fs = std::filesystem;
 
 void CreateTables(platform::Connection& connection) {
     platform::UnitOfWork work(connection);
-    connection.RunScript(SchemaScript(BooksTables()));
+    connection.RunScript(SchemaScript(BooksTables()) + SchemaScript(AddedTables()));
     InitTransCategories(connection);
     work.Commit();
+}
+
+void AddMissingTables(platform::Connection& connection) {
+    if (connection.IsReadOnly()) return;
+    std::vector<TableDefinition> missing;
+    for (const TableDefinition& table : AddedTables()) {
+        if (connection.Tables().Find(table.name) == nullptr) missing.push_back(table);
+    }
+    if (missing.empty()) return;
+    try {
+        connection.RunScript(SchemaScript(missing));
+    } catch (const platform::DatabaseError&) {
+        // Another program has added them since the books were opened: the tables are read again.
+        connection.RunScript("SELECT 1;");
+    }
 }
 
 NewDatabase::NewDatabase(const fs::path& directory)

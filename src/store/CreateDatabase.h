@@ -39,4 +39,8 @@ void CreateDatabase(const std::filesystem::path& directory);
 /// The same tables and categories in an open, empty database.
 void CreateTables(platform::Connection& connection);
 
+/// Adds the tables that books of an earlier version lack; their rows stay as they are. Does nothing
+/// if the books are only read.
+void AddMissingTables(platform::Connection& connection);
+
 } // namespace store

@@ -23,5 +23,7 @@ std::vector<TableDefinition> PropertyTables();
 std::vector<TableDefinition> PeopleTables();
 std::vector<TableDefinition> MoneyTables();
 std::vector<TableDefinition> SupportTables();
+// The credits of tenants, which came later.
+std::vector<TableDefinition> CreditTables();
 
 } // namespace store

@@ -54,6 +54,11 @@ const std::vector<TableDefinition>& BooksTables() {
     return tables;
 }
 
+const std::vector<TableDefinition>& AddedTables() {
+    static const std::vector<TableDefinition> tables = CreditTables();
+    return tables;
+}
+
 const std::vector<TableDefinition>& ReferenceTables() {
     static const std::vector<TableDefinition> tables = {
         MakeTable("ZipCodes", {{FieldKind::Long, "Zip"}, {FieldKind::Text, "City State County"}},

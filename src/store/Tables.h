@@ -35,6 +35,10 @@ struct TableDefinition {
 /// Every table of the books.
 const std::vector<TableDefinition>& BooksTables();
 
+/// Tables that the books of earlier versions lack: what became of money that was paid ahead or was
+/// returned. Books that never use them keep them empty.
+const std::vector<TableDefinition>& AddedTables();
+
 /// The tables of the reference database: zip codes and the pages of the tax offices.
 const std::vector<TableDefinition>& ReferenceTables();
 

@@ -7,6 +7,7 @@
 #include "core/Descriptions.h"
 #include "core/RecordKinds.h"
 #include "platform/values/Conversions.h"
+#include "platform/values/Csv.h"
 #include "platform/values/Date.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Text.h"
@@ -74,8 +75,24 @@ books::Party ReadParty(std::string_view option, const std::string& text) {
     return {kind, id, NameOf(option, kind, id)};
 }
 
+platform::Currency ReadAmount(std::string_view option, const std::string& text) {
+    const auto amount = platform::TryParseMoney(text);
+    if (!amount) throw platform::Error(fmt::format("{}: '{}' is not an amount", option, text));
+    return *amount;
+}
+
 std::string AccountName(std::string_view option, std::int32_t id) {
     return NameOf(option, core::kAccount, id);
+}
+
+void PrintPreview(const leases::PreviewRows& rows) {
+    std::cout << "\"What\",\"Date\",\"Category\",\"Description\",\"Amount\"\n";
+    for (const leases::PreviewRow& row : rows) {
+        std::cout << fmt::format("{},{},{},{},{}\n", platform::CsvText(row.what),
+                                 platform::CsvText(row.date.ToText()),
+                                 platform::CsvText(row.category),
+                                 platform::CsvText(row.description), platform::CsvCell(row.amount));
+    }
 }
 
 void PrintPaid(std::int32_t idTransaction, std::size_t charges, platform::Currency amount) {

@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include "books/PostTransaction.h"
+#include "leases/PreviewRow.h"
 #include "platform/values/Currency.h"
 
 namespace vestrelctl {
@@ -30,8 +31,14 @@ inline constexpr const char* kPartyForms = "account:ID|tenant:ID|name:TEXT";
 /// without a record. Throws an Error if it has another form, or there is no such record.
 books::Party ReadParty(std::string_view option, const std::string& text);
 
+/// Reads an amount of money. Throws an Error that names the option if it is none.
+platform::Currency ReadAmount(std::string_view option, const std::string& text);
+
 /// The name of an account as a transaction keeps it. Throws an Error if there is no such account.
 std::string AccountName(std::string_view option, std::int32_t id);
+
+/// Prints what a payment will write, as CSV.
+void PrintPreview(const leases::PreviewRows& rows);
 
 /// Prints the line that a payment ends with.
 void PrintPaid(std::int32_t idTransaction, std::size_t charges, platform::Currency amount);

@@ -28,6 +28,8 @@ void AddReports(CLI::App& line);
 void AddReport(CLI::App& line, const Options& options);
 void AddPost(CLI::App& line, const Options& options);
 void AddPay(CLI::App& line, const Options& options);
+void AddReturnPayment(CLI::App& line, const Options& options);
+void AddCredit(CLI::App& line, const Options& options);
 void AddPayMortgage(CLI::App& line, const Options& options);
 void AddMerge(CLI::App& line, const Options& options);
 void AddExport(CLI::App& line, const Options& options);

@@ -1,11 +1,17 @@
+#include <algorithm>
 #include <cstdint>
+#include <iostream>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <fmt/core.h>
 
+#include "leases/AmountPayment.h"
 #include "leases/RentPayment.h"
+#include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Text.h"
 #include "vestrelctl/Arguments.h"
@@ -24,6 +30,10 @@ struct PayArguments {
     std::string from;
     std::optional<std::int32_t> to;
     std::string check;
+    std::optional<std::string> amount;
+    std::vector<std::int32_t> order;
+    leases::RentPart rentPart = leases::RentPart::Open;
+    bool preview = false;
 };
 
 void SetParties(leases::RentPayment& payment, const PayArguments& given) {
@@ -44,22 +54,83 @@ void SetParties(leases::RentPayment& payment, const PayArguments& given) {
     }
 }
 
-void Pay(const PayArguments& given) {
+/// Puts these charges before the others, in this order.
+void SetOrder(leases::RentPayment& payment, const std::vector<std::int32_t>& order) {
+    auto next = payment.charges.begin();
+    for (const std::int32_t id : order) {
+        const auto found = std::find_if(next, payment.charges.end(), [id](const auto& charge) {
+            return charge.idRentLog == id;
+        });
+        if (found == payment.charges.end())
+            throw platform::Error(fmt::format("--order: {} is no open charge of the lease", id));
+        std::rotate(next, found, found + 1);
+        ++next;
+    }
+}
+
+leases::RentPayment ReadPayment(const PayArguments& given) {
     leases::RentPayment payment =
         leases::ProposePayment(given.lease, static_cast<leases::RentClass>(given.rentClass));
-    if (payment.charges.empty()) throw platform::Error("There is no open charge to pay");
     SetParties(payment, given);
     if (!given.date.empty()) payment.dateEffective = platform::Date::Parse(given.date);
     payment.checkNumber = given.check;
     payment.description = platform::Trim(payment.description);
+    return payment;
+}
+
+void PayCharges(const PayArguments& given) {
+    const leases::RentPayment payment = ReadPayment(given);
+    if (payment.charges.empty()) throw platform::Error("There is no open charge to pay");
     const std::int32_t id = leases::SubmitPayment(payment);
     PrintPaid(id, payment.charges.size(), payment.Total());
+}
+
+leases::AmountPayment ReadAmountPayment(const PayArguments& given) {
+    leases::AmountPayment amount{ReadPayment(given),
+                                 ReadAmount("--amount", given.amount.value_or("")), given.rentPart};
+    const std::vector<std::string> errors = leases::AmountErrors(amount);
+    if (!errors.empty()) throw platform::Error("--amount: " + errors.front());
+    SetOrder(amount.payment, given.order);
+    return amount;
+}
+
+void PayAmount(const PayArguments& given) {
+    const leases::AmountPayment amount = ReadAmountPayment(given);
+    const std::string outlook = leases::DescribeAmount(amount);
+    const std::int32_t id = leases::SubmitAmount(amount);
+    std::cout << fmt::format("Transaction {}: {}: {}\n", id,
+                             platform::MoneyToFixedText(amount.received), outlook);
+}
+
+void AddAmountOptions(CLI::App& command, PayArguments& given) {
+    CLI::Option* amount =
+        command
+            .add_option("--amount", given.amount,
+                        "What came in: pays the oldest charges first, the last one in part; what "
+                        "is over becomes the tenant's credit")
+            ->type_name("A")
+            ->check(IsValue());
+    command.add_option("--order", given.order, "The charges (IdRentLog) that are paid first")
+        ->type_name("ID,ID")
+        ->delimiter(',')
+        ->needs(amount);
+    command
+        .add_option("--rent-part", given.rentPart,
+                    "Of a rent paid in part, the part that moves the next due date when it is "
+                    "paid: the open one (as a rule) or the paid one")
+        ->transform(CLI::CheckedTransformer(std::map<std::string, leases::RentPart>{
+            {"open", leases::RentPart::Open}, {"paid", leases::RentPart::Paid}}))
+        ->type_name("open|paid")
+        ->needs(amount);
+    command.add_flag("--preview", given.preview, "Print what would be written, and change nothing")
+        ->needs(amount);
 }
 
 } // namespace
 
 void AddPay(CLI::App& line, const Options& options) {
-    CLI::App* command = line.add_subcommand("pay", "Pay all open charges of a lease");
+    CLI::App* command =
+        line.add_subcommand("pay", "Pay all open charges of a lease, or an amount that came in");
     auto given = std::make_shared<PayArguments>();
     command->add_option("lease", given->lease, "The lease's IdLease")->required();
     command
@@ -83,9 +154,11 @@ void AddPay(CLI::App& line, const Options& options) {
     command->add_option("--check", given->check, "The check's number")
         ->type_name("N")
         ->check(IsValue());
+    AddAmountOptions(*command, *given);
     command->callback([given, &options] {
-        OpenBooks(options, Purpose::Write);
-        BookAndPrint([&] { Pay(*given); });
+        OpenBooks(options, given->preview ? Purpose::Read : Purpose::Write);
+        if (given->preview) return PrintPreview(leases::PreviewAmount(ReadAmountPayment(*given)));
+        BookAndPrint([&] { given->amount ? PayAmount(*given) : PayCharges(*given); });
     });
 }
 

@@ -106,12 +106,6 @@ books::Category ReadCategory(const std::string& text) {
     return {text, books::Ien{ien.AsInteger()}};
 }
 
-platform::Currency ReadAmount(const std::string& text) {
-    const auto amount = platform::TryParseMoney(text);
-    if (!amount) throw platform::Error(fmt::format("--amount: '{}' is not an amount", text));
-    return *amount;
-}
-
 /// Prints the new row, and those that it triggered.
 void PrintFrom(std::int32_t firstId) {
     platform::Recordset rows = core::Read(
@@ -133,7 +127,7 @@ void Post(const PostArguments& given) {
         given.date.empty() ? platform::Today() : platform::Date::Parse(given.date);
     transaction.debit = ReadParty("--debit", given.debit);
     transaction.credit = ReadParty("--credit", given.credit);
-    transaction.amount = ReadAmount(given.amount);
+    transaction.amount = ReadAmount("--amount", given.amount);
     const books::Category category = ReadCategory(given.category);
     transaction.taxCategory = category.text;
     transaction.ien = category.ien;

@@ -118,6 +118,8 @@ int Run(int argc, char** argv) {
     vestrelctl::AddReport(line, options);
     vestrelctl::AddPost(line, options);
     vestrelctl::AddPay(line, options);
+    vestrelctl::AddReturnPayment(line, options);
+    vestrelctl::AddCredit(line, options);
     vestrelctl::AddPayMortgage(line, options);
     vestrelctl::AddMerge(line, options);
     vestrelctl::AddExport(line, options);

@@ -89,6 +89,13 @@ TEST_F(CheckBooksTest, FindsEachFaultByItself) {
         {"INSERT INTO MortgageLog (IdMortgageLog, Flags, Principal, PayDown, Interest, Other, "
          "Total) VALUES (30, 2, 0, 0, 0, -5, -5)",
          Severity::Fault, "1 mortgage payment without a transaction: 30"},
+        {"INSERT INTO RentCredit (IdRentLog, IdOrigin, IdLease) VALUES (6, 77, 4)", Severity::Note,
+         "1 record of RentCredit whose IdOrigin names no RentLog: 6"},
+        {"INSERT INTO LeaseCredit (IdLease, SettleCharges) VALUES (77, True)", Severity::Note,
+         "1 record of LeaseCredit whose IdLease names no Lease: 77"},
+        // The payment of 100 is credited with itself, against a refund of 40.
+        {"INSERT INTO RentCredit (IdRentLog, IdOrigin, IdLease) VALUES (8, 9, 4)", Severity::Fault,
+         "1 amount paid ahead of which more was credited than was paid: 9"},
     };
     for (const auto& each : cases) {
         const platform::UnitOfWork takenBack(core::App().Connection);
@@ -100,6 +107,8 @@ TEST_F(CheckBooksTest, FindsEachFaultByItself) {
         EXPECT_FALSE(findings.front().advice.empty());
         EXPECT_EQ(HasFaults(findings), each.severity == Severity::Fault);
     }
+    core::App().Connection.RunScript("DROP TABLE RentCredit; DROP TABLE LeaseCredit;");
+    EXPECT_EQ(CheckSummary(Check()), "Everything is in order.");
     // A payment that lost its transaction is an open amount of the ledger besides.
     Run("UPDATE RentLog SET IdTransaction = 0 WHERE IdRentLog = 8");
     Run("DELETE * FROM Transactions WHERE IdTransaction = 20");

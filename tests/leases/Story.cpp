@@ -6,11 +6,15 @@
 #include <fmt/core.h>
 
 #include "core/Globals.h"
+#include "leases/AmountPayment.h"
 #include "leases/ChargeDeposits.h"
+#include "leases/Credits.h"
 #include "leases/LeaseFixture.h"
 #include "leases/RentPayment.h"
+#include "leases/ReturnPayment.h"
 #include "leases/mLease.h"
 #include "platform/system/Clock.h"
+#include "platform/values/Conversions.h"
 #include "platform/values/Format.h"
 #include "platform/values/Text.h"
 
@@ -33,6 +37,12 @@ std::pair<std::string, std::string> SplitField(const std::string& line) {
 
 void Pay(RentClass rentClass) {
     leases::SubmitPayment(leases::ProposePayment(kLeaseId, rentClass));
+}
+
+std::int32_t LastPayment() {
+    return core::App()
+        .Connection.Scalar("SELECT Max(IdTransaction) FROM Transactions WHERE Amount > 0")
+        ->AsLong();
 }
 
 void StartProgram(Date day) {
@@ -59,6 +69,15 @@ void Happen(const std::string& event) {
         Pay(RentClass::Subsidy);
     } else if (event == "pay deposit") {
         Pay(RentClass::Deposit);
+    } else if (event.starts_with("pay amount ")) {
+        leases::SubmitAmount({leases::ProposePayment(kLeaseId, RentClass::Rent),
+                              platform::StrToMoney(rest("pay amount "))});
+    } else if (event.starts_with("return payment, fee ")) {
+        leases::PaymentReturn returned = leases::ProposeReturn(LastPayment());
+        returned.fee = platform::StrToMoney(rest("return payment, fee "));
+        leases::SubmitReturn(returned);
+    } else if (event == "settle from credit") {
+        leases::SetSettlesCharges(kLeaseId, true);
     } else if (event == "charge deposits") {
         leases::ChargeDeposits(kLeaseId, kUnitId);
     } else if (event.starts_with("set ")) {

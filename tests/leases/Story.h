@@ -12,9 +12,10 @@ namespace tests {
 ///
 ///   given               fields of the lease that matter, `Field = value`; the others are ordinary
 ///   when                `today DATE` (the program starts on that day), `daily DATE` (it starts
-///   every
-///                       day up to that one), `roll forward`, `reprocess`, `pay
-///                       rent|subsidy|deposit`, `charge deposits`, `set Field = value`
+///                       every day up to that one), `roll forward`, `reprocess`, `pay
+///                       rent|subsidy|deposit`, `pay amount A` (of rent), `return payment, fee A`
+///                       (the last one), `settle from credit`, `charge deposits`, `set Field =
+///                       value`
 ///   then                the whole ledger, a row a line: `date | class.flags | 'category' | amount
 ///   |
 ///                       description` and `| paid` once a transaction has settled it; then fields

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "leases/AmountPlan.h"
+#include "leases/PreviewRow.h"
+#include "leases/RentPayment.h"
+#include "platform/values/Currency.h"
+
+namespace leases {
+
+/// Which part of a period's rent that is paid in part stays the period's rent: paying that part
+/// moves the next due date.
+enum class RentPart {
+    Open, ///< the rent is paid once its rest is
+    Paid, ///< the landlord is content with the part; the rest is owed besides
+};
+
+/// A new payment of an amount that came in, however much of the charges it covers.
+struct AmountPayment {
+    /// The charges that may be settled are selected, and in the order in which they are settled.
+    RentPayment payment;
+    platform::Currency received;
+    RentPart rentPart = RentPart::Open;
+};
+
+/// Returns what is wrong with it, a line each.
+std::vector<std::string> AmountErrors(const AmountPayment& amount);
+
+/// Returns every row that SubmitAmount will write or change, in that order. Empty if there are
+/// errors. Failures are thrown.
+PreviewRows PreviewAmount(const AmountPayment& amount);
+
+/// Describes in one line what submitting will do.
+std::string DescribeAmount(const AmountPayment& amount);
+
+/// Splits the charge or the credit that is used in part, writes what is over as a credit of the
+/// tenant, and submits the payment of the rest, all as one unit of work. Throws FieldError if there
+/// are errors, and ConflictError if a charge was paid, changed or deleted since the payment was
+/// read; nothing is changed then. Returns the transaction's id.
+std::int32_t SubmitAmount(const AmountPayment& amount, LeaseUpdate update = LeaseUpdate::Yes);
+
+/// Moves a charge of a payment by one place towards the front (-1) or the end (1); false at the
+/// edge, and for a charge that isn't there.
+bool MoveCharge(RentPayment& payment, std::int32_t idRentLog, int step);
+
+} // namespace leases

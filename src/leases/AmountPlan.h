@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "leases/RentPayment.h"
+#include "platform/values/Currency.h"
+
+namespace leases {
+
+/// What an amount does to one charge, or how much of a credit it takes in. Both amounts have the
+/// sign of the row.
+struct AmountStep {
+    std::int32_t idRentLog = 0;
+    platform::Currency settled;
+    /// What is split off and stays open; zero if the whole row is settled.
+    platform::Currency rest;
+
+    bool IsPart() const { return !rest.IsZero(); }
+    friend bool operator==(const AmountStep&, const AmountStep&) = default;
+};
+
+/// How an amount that came in is spread over charges.
+struct AmountPlan {
+    /// In the order of the charges; a charge that gets nothing is left out. At most one is a part.
+    std::vector<AmountStep> steps;
+    /// What is over, and becomes a credit of the tenant.
+    platform::Currency credit;
+
+    /// The step of a charge; null if it gets nothing.
+    const AmountStep* StepOf(std::int32_t idRentLog) const;
+};
+
+/// Spreads `received`, which is positive, over the selected charges in their order. Selected
+/// credits are taken in, in their order too, as far as the amount doesn't reach; those that aren't
+/// needed stay open.
+AmountPlan PlanAmount(std::span<const PaymentCharge> charges, platform::Currency received);
+
+} // namespace leases

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/values/Currency.h"
+#include "platform/values/Date.h"
+
+namespace leases {
+
+/// One row that submitting will write, change or delete, for the user to look at before.
+struct PreviewRow {
+    /// What happens, in words: "Charge paid", "Part left open".
+    std::string what;
+    platform::Date date;
+    std::string category;
+    std::string description;
+    platform::Currency amount;
+
+    friend bool operator==(const PreviewRow&, const PreviewRow&) = default;
+};
+
+using PreviewRows = std::vector<PreviewRow>;
+
+} // namespace leases

@@ -1,0 +1,126 @@
+#include "leases/ReturnRows.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "leases/Credits.h"
+
+namespace leases {
+
+using platform::Currency;
+
+namespace {
+
+constexpr std::size_t kLongestDescription = 255;
+
+/// A row of the ledger that the return writes.
+RentLogEntry EntryOf(const PaymentReturn& returned, std::string_view category, Currency amount,
+                     std::string description) {
+    return {.idLease = returned.payment.idLease,
+            .idTransaction = 0,
+            .datePosted = returned.date,
+            .rentClass = returned.payment.rentClass,
+            .category = std::string(category),
+            .amount = amount,
+            .description = std::move(description)};
+}
+
+/// A deposit has no fees; what the bank takes is owed with the rent.
+RentLogEntry FeeOf(const PaymentReturn& returned) {
+    RentLogEntry fee =
+        EntryOf(returned, kCategoryReturnFee, returned.fee,
+                "Payment of " + returned.payment.dateEffective.ToText() + " returned");
+    if (fee.rentClass == RentClass::Deposit) fee.rentClass = RentClass::Rent;
+    return fee;
+}
+
+bool IsOriginOf(std::span<const removal::CreditOrigin> credits, const PaymentCharge& charge) {
+    return std::ranges::find(credits, charge.idRentLog, &removal::CreditOrigin::idRentLog) !=
+           credits.end();
+}
+
+/// Cut between characters.
+std::string Shortened(std::string text) {
+    if (text.size() <= kLongestDescription) return text;
+    std::size_t end = kLongestDescription;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
+        --end;
+    text.resize(end);
+    return text;
+}
+
+PreviewRow RowOf(std::string what, const RentLogEntry& entry) {
+    return {std::move(what), entry.datePosted, entry.category, entry.description, entry.amount};
+}
+
+void AddCredits(PreviewRows& rows, const ReturnPlan& plan) {
+    for (const removal::CreditOrigin& credit : plan.credits) {
+        const std::string description = "Credit of the payment";
+        if (!credit.open.IsZero()) {
+            rows.push_back({"Credit withdrawn", plan.returned.datePosted,
+                            std::string(kCategoryCredit), description, -credit.open});
+        }
+        const Currency spent = credit.amount - credit.open;
+        if (!spent.IsZero()) {
+            rows.push_back({"Credit spent, owed again", plan.returned.datePosted,
+                            std::string(kCategoryOverpayment), description, spent});
+        }
+    }
+}
+
+} // namespace
+
+ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::CreditOrigin> credits) {
+    const RentPayment& payment = returned.payment;
+    const std::string paid = payment.dateEffective.ToText();
+    ReturnPlan plan;
+    plan.reversal = TransactionOf(payment);
+    plan.reversal.dateEffective = returned.date;
+    plan.reversal.amount = -returned.amount;
+    plan.reversal.description = Shortened("Return of " + paid + ": " + payment.description);
+    plan.credits = std::move(credits);
+    for (const PaymentCharge& charge : payment.charges) {
+        if (!IsOriginOf(plan.credits, charge)) plan.reopened.push_back(charge);
+    }
+    plan.returned =
+        EntryOf(returned, kCategoryReturned, returned.amount, "Returned " + returned.date.ToText());
+    plan.returned.idTransaction = payment.idTransaction;
+    plan.counterpart =
+        EntryOf(returned, kCategoryReturned, -returned.amount, "Return of the payment of " + paid);
+    plan.payment = EntryOf(returned, payment.paymentType, returned.amount, payment.paymentType);
+    plan.payment.flags = RentFlags::Payment;
+    plan.fee = FeeOf(returned);
+    plan.optionCredit = EntryOf(returned, kCategoryOptionCredit, -returned.optionCredit,
+                                "Payment of " + paid + " returned");
+    plan.optionCredit.rentClass = RentClass::OptionCredit;
+    plan.description = Shortened(removal::ReturnMark(returned.date) + payment.description);
+    plan.dueNow = returned.dueNow;
+    plan.dueAfter = returned.dueAfter;
+    return plan;
+}
+
+PreviewRows RowsOf(const ReturnPlan& plan) {
+    PreviewRows rows;
+    const books::Transaction& reversal = plan.reversal;
+    rows.push_back({"Transaction", reversal.dateEffective, reversal.taxCategory,
+                    reversal.description, reversal.amount});
+    for (const PaymentCharge& charge : plan.reopened) {
+        rows.push_back({charge.amount < Currency() ? "Credit open again" : "Charge open again",
+                        charge.datePosted, charge.category, charge.description, charge.amount});
+    }
+    AddCredits(rows, plan);
+    rows.push_back(RowOf("In the place of the charges", plan.returned));
+    rows.push_back(RowOf("Settled by the return", plan.counterpart));
+    rows.push_back(RowOf("Payment in the ledger", plan.payment));
+    if (!plan.fee.amount.IsZero()) rows.push_back(RowOf("Fee charged", plan.fee));
+    if (!plan.optionCredit.amount.IsZero())
+        rows.push_back(RowOf("Option credit withdrawn", plan.optionCredit));
+    if (plan.dueAfter != plan.dueNow) {
+        rows.push_back(
+            {"Next due date", plan.dueAfter, {}, "until now " + plan.dueNow.ToText(), {}});
+    }
+    rows.push_back({"Payment marked", plan.returned.datePosted, {}, plan.description, {}});
+    return rows;
+}
+
+} // namespace leases

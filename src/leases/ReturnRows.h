@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "books/PostTransaction.h"
+#include "leases/PreviewRow.h"
+#include "leases/RentLog.h"
+#include "leases/ReturnPayment.h"
+#include "removal/RentCredits.h"
+
+namespace leases {
+
+/// All that the return of a payment writes, worked out before anything is written.
+struct ReturnPlan {
+    /// The reversal: the payment's sides with the negative amount.
+    books::Transaction reversal;
+    /// Charges of the payment that are open again, and credits that it had taken in.
+    std::vector<PaymentCharge> reopened;
+    /// What the payment had brought as credit: still open, so withdrawn, and spent, so owed again.
+    std::vector<removal::CreditOrigin> credits;
+    /// The row that the payment settles in the place of its charges.
+    RentLogEntry returned;
+    /// What the reversal settles: the counterpart of that row, and its own payment row.
+    RentLogEntry counterpart;
+    RentLogEntry payment;
+    /// The amount is zero if there is none.
+    RentLogEntry fee;
+    RentLogEntry optionCredit;
+    /// What the payment is described as from now on.
+    std::string description;
+    platform::Date dueNow;
+    platform::Date dueAfter;
+};
+
+ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::CreditOrigin> credits);
+
+PreviewRows RowsOf(const ReturnPlan& plan);
+
+} // namespace leases

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "leases/LeaseWalk.h"
+
+namespace leases {
+
+/// Writes the charges of a walk day by day. The payments from credit follow the charges of their
+/// day: each is a transaction of 0.00, since no money moves, that settles charge and credit. A
+/// charge or a credit that is used in part is split; the rest of a period's rent stays the period's
+/// rent. `credits` are those that the walk was given. The lease's row stays the caller's. Failures
+/// are thrown.
+void WriteSettledWalk(std::int32_t idLease, const LeaseWalk& walk,
+                      std::span<const OpenCredit> credits);
+
+} // namespace leases
