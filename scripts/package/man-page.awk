@@ -23,7 +23,8 @@ function printName(entry,    n, part, i) {
         note = note (index(entry, " Needs: " part[i]) ? "; only with " : "; not with ") part[i]
     entry = part[1]
     if (sub(/ REQUIRED/, "", entry)) note = "; required" note
-    if (match(entry, /=[^ =]+$/)) {
+    # A default follows the name of a value; "/altdb=NAME" has none.
+    if (entry ~ / / && match(entry, /=[^ =]+$/)) {
         note = note "; by default " substr(entry, RSTART + 1)
         entry = substr(entry, 1, RSTART - 1)
     }

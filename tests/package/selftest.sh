@@ -80,6 +80,7 @@ Options:
                               On the next line
   --units INT:INT in [1 - 9]=4 Needs: --data
                               How many
+  /altdb=NAME                 Other ones
 HELP
 END
 chmod +x "$scratch/small"
@@ -90,6 +91,7 @@ checkEntry '\-\-data DIR' 'The .books/of all/(required)/'
 checkEntry '\-\-twelve\-letters\-and\-so ab' 'Starts in its own column/'
 checkEntry '\-\-a\-name\-that\-fills\-its FILE' 'On the next line/(not with \-\-data)/'
 checkEntry '\-\-units [1 \- 9]' 'How many/(only with \-\-data; by default 4)/'
+checkEntry '/altdb=NAME' 'Other ones/'
 
 . "$project/share/completion/vestrelctl"
 mkdir "$scratch/here" "$scratch/here/books"

@@ -21,6 +21,7 @@ constexpr platform::ProgramHelp kHelp = {
 
 bool IsAnswered(std::vector<std::string> words) {
     std::vector<char*> pointers;
+    pointers.reserve(words.size());
     for (std::string& word : words)
         pointers.push_back(word.data());
     return platform::AnswerIfAsked(kHelp, pointers);
