@@ -26,6 +26,13 @@ waitFor() {
 
 shown() { xdotool search --onlyvisible --name "$1"; }
 
+# press KEY TITLE: there is no window manager here to give a window the keyboard.
+press() {
+    xdotool windowfocus "$(shown "$2" | tail -n 1)"
+    sleep 1
+    xdotool key "$1"
+}
+
 "$window" --version
 "$companion" --version
 for program in dbmender.exe PhotoReel.exe; do
@@ -53,19 +60,17 @@ waitFor display xdotool getmouselocation
 pid=$!
 waitFor 'main window' shown 'Sample'
 sleep 2
-xdotool mousemove 640 400 key F1
-waitFor 'help window' shown Help
+press F1 Sample
+waitFor 'help window' shown 'Vestrel Help'
 echo "window: it opens, and F1 opens the help"
 kill -TERM $pid
 wait $pid || fail "the window program ended with $?"
 
 # Books that can't be found start the repair tool, which is beside the program.
 "$window" /altdb=nowhere &
-for ((i = 0; i < 50; i++)); do
-    xdotool mousemove 640 400 key Return 2>/dev/null || true
-    if pgrep -u "$(id -u)" -f dbmender.exe >/dev/null; then break; fi
-    sleep 0.2
-done
-waitFor 'repair tool' pgrep -u "$(id -u)" -f dbmender.exe
+waitFor 'notice that the books are missing' shown 'Database Notice'
+press Return 'Database Notice'
+repairTool() { pgrep -n -u "$(id -u)" -f "^$programs/dbmender.exe"; }
+waitFor 'repair tool' repairTool
 echo "repair tool: found beside the program and started"
-pkill -u "$(id -u)" -f dbmender.exe || true
+kill "$(repairTool)"
