@@ -10,7 +10,7 @@ build=$1
 folder=$2
 
 # Libraries that belong to the machine: its C and C++ runtime, graphics, display and services.
-kOfTheMachine='^(ld-linux.*|lib(c|m|dl|rt|pthread|resolv|stdc\+\+|gcc_s|gomp|GL|GLX|GLdispatch|OpenGL|EGL'
+kOfTheMachine='^(ld-linux.*|lib(c|m|dl|rt|pthread|resolv|stdc\+\+|gcc_s|GL|GLX|GLdispatch|OpenGL|EGL'
 kOfTheMachine+='|drm|gbm|vulkan|X11|X11-xcb|xcb|Xau|Xdmcp|Xext|ICE|SM|fontconfig|freetype|expat|z'
 kOfTheMachine+='|uuid|glib-2\.0|gobject-2\.0|gio-2\.0|gthread-2\.0|dbus-1|systemd|udev|cap|gcrypt'
 kOfTheMachine+='|gpg-error|selinux|mount|blkid|wayland-.*|cups|crypto|ssl))\.so'
@@ -48,8 +48,9 @@ ldd "${programs[@]}" "${pluginFiles[@]}" | awk '$2 == "=>" && $3 ~ /^\// { print
         [[ $(basename "$library") =~ $kOfTheMachine ]] || cp -L "$library" "$folder/lib/"
     done
 
-# A path that a library inherits from the program that loads it, which a newer one would not be.
+# Everything finds the libraries of this folder by itself, whoever loads it.
 patchelf --force-rpath --set-rpath "\$ORIGIN/lib" "${programs[@]}"
+patchelf --force-rpath --set-rpath "\$ORIGIN" "$folder"/lib/*
 for file in "${pluginFiles[@]}"; do
     patchelf --force-rpath --set-rpath "\$ORIGIN/../../lib" "$file"
 done
