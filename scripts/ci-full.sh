@@ -7,6 +7,7 @@
 #   tidy      clang-tidy on every file
 #   programs  two programs at random on the same books, for ten minutes
 #   package   makes the package and the folder that users install, and checks them
+#   install   installs, uses and removes both on a bare Debian 12 (needs root)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -24,6 +25,7 @@ run() {
             scripts/two-programs.sh build/test/bin/vestrelctl
             ;;
         package) scripts/package.sh ;;
+        install) scripts/try-install.sh ;;
         *)
             echo "there is no part $1" >&2
             return 2
@@ -31,7 +33,7 @@ run() {
     esac
 }
 
-[ $# -gt 0 ] || set -- logic sanitize bench tidy programs package
+[ $# -gt 0 ] || set -- logic sanitize bench tidy programs package install
 figures=()
 failed=()
 for part in "$@"; do
