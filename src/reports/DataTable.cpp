@@ -19,9 +19,9 @@ struct ColumnWeight {
     Side side;
 };
 
-/// Texts have no declared size: they count as texts of the usual 255 characters, which have the
-/// greatest width.
-ColumnWeight WeightOf(FieldType type) {
+constexpr int kLongText = 60;
+
+ColumnWeight WeightOf(FieldType type, int textSize) {
     switch (type) {
         case FieldType::Long:
             return {8, Side::Right};
@@ -33,8 +33,9 @@ ColumnWeight WeightOf(FieldType type) {
         case FieldType::Boolean:
             return {6, Side::Left};
         case FieldType::Text:
+            return {std::min(textSize + 4, kLongText), Side::Left};
         case FieldType::Memo:
-            return {60, Side::Left};
+            return {kLongText, Side::Left};
         case FieldType::Integer:
             break;
     }
@@ -46,14 +47,19 @@ constexpr double kHeaderHeight = 1.3; // of a line
 
 } // namespace
 
-DataColumns ColumnsOf(platform::Recordset& rows, platform::Twips printWidth) {
+DataColumns ColumnsOf(platform::Recordset& rows, std::span<const int> textSizes,
+                      platform::Twips printWidth) {
+    std::vector<ColumnWeight> weights;
     double sum = 0;
-    for (std::size_t i = 0; i < rows.FieldCount(); ++i)
-        sum += WeightOf(rows[i].Type()).weight;
+    for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
+        const int size = i < textSizes.size() ? textSizes[i] : kLongText;
+        weights.push_back(WeightOf(rows[i].Type(), size));
+        sum += weights.back().weight;
+    }
 
     DataColumns columns;
     for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
-        const auto [weight, side] = WeightOf(rows[i].Type());
+        const auto [weight, side] = weights[i];
         const std::int32_t width = platform::RoundToInt32(printWidth / sum * weight);
         if (i > 0) columns.format += '|';
         columns.format += (side == Side::Right ? ">" : "<") + std::to_string(width);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,7 +17,10 @@ struct DataColumns {
     std::vector<std::string> captions;
 };
 
-DataColumns ColumnsOf(platform::Recordset& rows, platform::Twips printWidth);
+/// `textSizes` has how many characters each column of texts leaves room for; one that isn't there
+/// may be long.
+DataColumns ColumnsOf(platform::Recordset& rows, std::span<const int> textSizes,
+                      platform::Twips printWidth);
 
 /// Returns a query's value as a table shows it: money in the money format, booleans as Yes or No.
 std::string CellText(const platform::Field& field);

@@ -111,12 +111,13 @@ class clsRptData::TableRun {
         if (pass > 0) page_.Text("");
         std::string sql = section_.SQLQuery;
         if (sql.empty()) sql = section_.ComposeQuery(IsGrouped() ? GroupTest(pass) : std::string());
+        sql = section_.Expand(sql);
         platform::Recordset rows;
-        if (OpenQuery(rows, section_.Expand(sql))) {
+        if (OpenQuery(rows, sql)) {
             someHadData_ = true;
             if (pass > 0 && section_.LineBetween) section_.DrawLine(page_, "-");
             ShowHead(pass);
-            ShowRows(rows);
+            ShowRows(rows, sql);
             rows.Close();
         }
         ReadTotal(pass);
@@ -132,8 +133,8 @@ class clsRptData::TableRun {
         page_.ApplyStyle("Table");
     }
 
-    void ShowRows(platform::Recordset& rows) {
-        if (!columns_) columns_ = ColumnsOf(rows, page_.PrintWidth());
+    void ShowRows(platform::Recordset& rows, std::string_view sql) {
+        if (!columns_) columns_ = ColumnsOf(rows, TextSizesOf(sql), page_.PrintWidth());
         page_.StartTable();
         page_.AddTableArray(columns_->format, columns_->captions,
                             std::make_unique<QueryRows>(rows));

@@ -29,12 +29,11 @@ ConsoleAnswer Select(const std::string& sql) {
         if (answer.rows.RecordCount() > 0) {
             answer.message = "Command completed successfully";
             answer.color = ConsoleColor::Good;
-            return answer;
         }
     } catch (const std::exception& failure) {
         answer.reason = failure.what();
+        core::CloseRecordset(answer.rows);
     }
-    core::CloseRecordset(answer.rows);
     return answer;
 }
 

@@ -16,7 +16,8 @@ struct ConsoleAnswer {
     ConsoleColor color = ConsoleColor::Plain;
     /// Why a statement failed; empty if it didn't.
     std::string reason;
-    /// The rows to show: open only for a select with rows, and for the list of tables.
+    /// The rows to show: open for a select, also one without rows, and for the list of
+    /// tables.
     platform::Recordset rows;
 };
 

@@ -33,8 +33,9 @@ constexpr std::string_view kStyleSheet =
     ".rows tr{border-bottom:1px solid}.below thead{border-bottom:1px solid}"
     "hr{border:0;border-top:1px solid}"
     "header,footer{color:#555;font-size:.85em;display:flex;justify-content:space-between;gap:1em}"
-    "@media(max-width:40em){body{margin:.5em 0;padding:0 .6em}}"
-    "@media print{div{overflow:visible}thead{display:table-header-group}"
+    "@media(max-width:40em){body{margin:.5em 0;padding:0 .6em}th,td{padding:.15em .25em}}"
+    "@media print{div{overflow:visible}table{min-width:0!important}"
+    "thead{display:table-header-group}"
     "tr{break-inside:avoid}}";
 
 /// Bytes that need no escape in HTML.
@@ -166,6 +167,23 @@ std::string FrameElement(std::string_view tag, const FrameLine& line) {
     return fmt::format("<{0}>{1}</{0}>\n", tag, parts);
 }
 
+/// The width in em, 0 for any, at which each column of amounts is as wide as they need. A table of
+/// many columns is moved sideways on a phone; its totals, which are a table of their own, then stay
+/// below their columns. One of few columns fits better as wide as its texts need.
+double LeastWidth(const PrintTable& table, std::span<const Twips> widths, double sum) {
+    constexpr std::size_t kManyColumns = 7;
+    constexpr double kAmount = 6; // "12,345.00" in bold and the room beside it
+    constexpr double kMostPerColumn = 8;
+    double least = 0;
+    if (widths.size() < kManyColumns) return least;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        const TableColumn& column = table.columns[i];
+        const bool isAmount = column.alignCurrency || column.align == TextAlign::Right;
+        if (isAmount && widths[i] > 0) least = std::max(least, kAmount * sum / widths[i]);
+    }
+    return std::min(least, kMostPerColumn * static_cast<double>(widths.size()));
+}
+
 } // namespace
 
 void HtmlWriter::BeginFlow(const DocumentInfo& info) {
@@ -205,6 +223,10 @@ void HtmlWriter::BeginTable(const PrintStyle& style, const PrintTable& table,
     for (const Twips width : widths)
         sum += width;
     std::string attributes = StyleAttribute(style, false);
+    if (const double least = LeastWidth(table, widths, sum); least > 0) {
+        attributes.pop_back();
+        attributes += fmt::format(";min-width:{:.0f}em\"", least);
+    }
     // A narrow table stays narrow where there is room.
     if (const double share = sum / std::max(printWidth_, 1); share < 0.95) {
         attributes.pop_back();

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/printing/RtfText.h"
+#include "platform/printing/WholeText.h"
 
 namespace platform {
 
@@ -26,14 +27,14 @@ struct CellEdges {
     bool right;
 };
 
-/// The size in half points at which an amount fits into a cell, 0 if it fits at the table's own
-/// size: an amount that continues in a second line would be misread. Its width is estimated, since
-/// there is no font to measure with.
+/// The size in half points at which an amount or a day fits into a cell, 0 if it fits at the
+/// table's own size: what continues in a second line would be misread. Its width is estimated,
+/// since there is no font to measure with.
 int AmountSize(std::string_view text, Twips room, double usual) {
     constexpr double kDigit = 0.56; // of an em
-    constexpr int kLeast = 8;
+    constexpr int kLeast = 2;
     const double width = kDigit * static_cast<double>(text.size()) * usual * kTwipsPerPoint;
-    if (width <= room || !LooksLikeAmount(text)) return 0;
+    if (width <= room || !StaysInOneLine(text)) return 0;
     return std::max(static_cast<int>(2 * usual * room / width), kLeast);
 }
 

@@ -1,9 +1,14 @@
 #include "platform/printing/TableRowLayout.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <optional>
+
+#include <fmt/core.h>
 
 #include "platform/printing/Unicode.h"
+#include "platform/printing/WholeText.h"
 
 namespace platform {
 
@@ -11,6 +16,12 @@ namespace {
 
 /// In points. Smaller text couldn't be read; it is wrapped more often instead.
 constexpr double kLeastSize = 4;
+constexpr double kLeastTitleSize = 3;
+/// Of a text whose words are too long for its column.
+constexpr double kLeastWordSize = 6;
+/// Of what stays in one line however narrow its column is: it can still be read enlarged on the
+/// screen, while digits over several lines are misread.
+constexpr double kLeastWholeSize = 1;
 
 double TextScale(const PrintStyle& style, double scale) {
     return std::max(scale, std::min(1.0, kLeastSize / std::max(style.fontSize, 1.0)));
@@ -23,9 +34,7 @@ TextInk MakeInk(FontMetrics& metrics, PrintStyle style, double scale, Weight wei
             .underline = style.fontUnderline};
 }
 
-/// The part of a text that must stay in one line: an amount, or the longest word of a title.
-std::string_view WholePart(std::string_view text, RowKind kind, const TextMeasure& measure) {
-    if (kind == RowKind::Body) return LooksLikeAmount(text) ? text : std::string_view();
+std::string_view WidestWord(std::string_view text, const TextMeasure& measure) {
     std::string_view widest;
     while (!text.empty()) {
         const std::string_view word = text.substr(0, text.find_first_of(" \n"));
@@ -33,6 +42,42 @@ std::string_view WholePart(std::string_view text, RowKind kind, const TextMeasur
         text.remove_prefix(std::min(text.size(), word.size() + 1));
     }
     return widest;
+}
+
+/// The end of the word that a text begins with: at a blank, or after a hyphen between letters.
+std::size_t WordEnd(std::string_view text) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == ' ' || text[at] == '\n') return at;
+        const char next = at + 1 < text.size() ? text[at + 1] : ' ';
+        if (text[at] == '-' && next != '-' && next != ' ' && (next < '0' || next > '9'))
+            return at + 1;
+    }
+    return text.size();
+}
+
+/// The word of the most letters, found without measuring. Empty if it is longer than any column,
+/// or may have letters of a script without blanks, which is broken anywhere.
+std::string_view LongestWord(std::string_view text) {
+    constexpr unsigned char kFirstOfThree = 0xE0; // bytes of a letter
+    constexpr std::size_t kMost = 200;
+    std::string_view longest;
+    while (!text.empty()) {
+        const std::string_view word = text.substr(0, WordEnd(text));
+        if (word.size() > longest.size()) longest = word;
+        text.remove_prefix(std::max<std::size_t>(word.size(), 1));
+    }
+    const bool isPlain = std::ranges::all_of(
+        longest, [](char c) { return static_cast<unsigned char>(c) < kFirstOfThree; });
+    return isPlain && longest.size() < kMost ? longest : std::string_view();
+}
+
+/// The number that a text such as "-12.345" is; nothing for another text.
+std::optional<double> PlainNumber(std::string_view text) {
+    double value = 0;
+    if (!LooksLikeAmount(text)) return std::nullopt;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (read.ec != std::errc() || read.ptr != text.data() + text.size()) return std::nullopt;
+    return value;
 }
 
 Twips Scaled(Twips length, double scale) {
@@ -72,11 +117,12 @@ void TableRowLayout::FillCell(std::size_t column, std::string_view text) {
     const std::size_t begin = lines_.size();
     const TextInk* ink = &InkOf(column);
     if (!BreakCell(column, *ink, text)) {
-        const TextInk* fitting = &FittingInk(column, text);
-        if (fitting != ink) {
+        const std::string_view shorter = Shortened(column, text);
+        const TextInk* fitting = &FittingInk(column, shorter);
+        if (fitting != ink || shorter.data() != text.data()) {
             ink = fitting;
             lines_.resize(begin);
-            BreakCell(column, *ink, text);
+            BreakCell(column, *ink, shorter);
         }
     }
     cells_.push_back({begin, lines_.size(), ink});
@@ -100,16 +146,45 @@ bool TableRowLayout::BreakCell(std::size_t column, const TextInk& ink, std::stri
     return isWhole;
 }
 
-/// The column's font, smaller where an amount or a word of a title is too wide for the column:
-/// "18,205" above ".00" would be misread.
+/// A number rounded to the decimals that its column has room for, at least two.
+std::string_view TableRowLayout::Shortened(std::size_t column, std::string_view text) {
+    constexpr std::size_t kLeastDecimals = 2;
+    const auto point = text.find('.');
+    if (kind_ == RowKind::Header || point == std::string_view::npos) return text;
+    std::size_t decimals = text.size() - point - 1;
+    const auto value = decimals > kLeastDecimals ? PlainNumber(text) : std::nullopt;
+    if (!value) return text;
+    const TextMeasure& measure = InkOf(column).measure;
+    const Twips room = columns_.widths[column] - 2 * Inset(column);
+    std::string shorter(text);
+    while (measure.Width(shorter) > room && decimals > kLeastDecimals)
+        shorter = fmt::format("{:.{}f}", *value, --decimals);
+    return made_.emplace_back(std::move(shorter));
+}
+
+/// The part of a cell's text that should stay in one line: an amount or a day, or a word.
+TableRowLayout::WholeText TableRowLayout::WholePart(std::size_t column,
+                                                    std::string_view text) const {
+    if (kind_ == RowKind::Header) return {WidestWord(text, InkOf(column).measure), kLeastTitleSize};
+    if (StaysInOneLine(text)) return {text, kLeastWholeSize};
+    if (table_.columns[column].wrap == Wrap::Ellipsis) return {};
+    return {LongestWord(text), kLeastWordSize};
+}
+
+/// The column's font, smaller where an amount, a day or a word is too wide for the column: "18,205"
+/// above ".00" would be misread.
 const TextInk& TableRowLayout::FittingInk(std::size_t column, std::string_view text) {
     constexpr int kTenths = 10;
     const TextInk& usual = InkOf(column);
     const Twips room = std::max(columns_.widths[column] - 2 * Inset(column), 1);
-    const Twips width = usual.measure.Width(WholePart(text, kind_, usual.measure));
+    const auto [whole, least] = WholePart(column, text);
+    const Twips width = usual.measure.Width(whole);
     if (width <= room) return usual;
     const auto size = static_cast<double>(usual.measure.Size());
-    const double wanted = std::max(std::floor(size * room / width * kTenths) / kTenths, kLeastSize);
+    const double fitting = std::floor(size * room / width * kTenths) / kTenths;
+    // A word that has to be broken anyway is as large as the others.
+    if (fitting < least && least == kLeastWordSize) return usual;
+    const double wanted = std::max(fitting, least);
     if (wanted >= size) return usual;
     const bool bold = &usual == &bold_;
     const auto key = std::pair(bold, static_cast<int>(std::lround(wanted * kTenths)));

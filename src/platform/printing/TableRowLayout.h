@@ -46,6 +46,13 @@ class TableRowLayout {
     Twips Inset(std::size_t column) const;
     void FillCell(std::size_t column, std::string_view text);
     bool BreakCell(std::size_t column, const TextInk& ink, std::string_view text);
+    /// A part of a text, and the least size in points that it is set in to stay in one line.
+    struct WholeText {
+        std::string_view text;
+        double leastSize = 0;
+    };
+    WholeText WholePart(std::size_t column, std::string_view text) const;
+    std::string_view Shortened(std::size_t column, std::string_view text);
     const TextInk& FittingInk(std::size_t column, std::string_view text);
     Twips LineX(std::size_t column, const MeasuredLine& line) const;
     Twips CurrencyX(const TextMeasure& measure, Twips right, const MeasuredLine& line) const;
@@ -64,7 +71,7 @@ class TableRowLayout {
     Twips lineHeight_;
     std::vector<Cell> cells_;
     std::vector<MeasuredLine> lines_;
-    std::deque<std::string> made_; ///< texts that were cleaned or cut
+    std::deque<std::string> made_; ///< texts that were cleaned, cut or shortened
     std::size_t lineCount_ = 1;
 };
 

@@ -5,6 +5,7 @@
 #include "platform/printing/FontMetrics.h"
 #include "platform/printing/TextMeasure.h"
 #include "platform/printing/Unicode.h"
+#include "platform/printing/WholeText.h"
 #include "platform/values/Text.h"
 
 namespace platform {
@@ -14,8 +15,9 @@ namespace {
 /// The width of one character on the page.
 constexpr Twips kCharacter = 100;
 constexpr std::size_t kGap = 2;
-/// The least width of a column of numbers, so that they are never broken: "(999,999.99)".
+/// The least width of a column of numbers, "(999,999.99)", and of another, which may hold days.
 constexpr std::size_t kNumberWidth = 12;
+constexpr std::size_t kDayWidth = 10;
 
 std::size_t CharacterCount(std::string_view text) {
     return static_cast<std::size_t>(std::ranges::count_if(
@@ -99,7 +101,9 @@ void TextWriter::BeginTable(const PrintStyle&, const PrintTable& table,
         const TableColumn& column = columns_[widths_.size()];
         const bool isNumber = column.alignCurrency || column.align == TextAlign::Right;
         const std::size_t share = next > last + kGap ? next - last - kGap : 1;
-        widths_.push_back(isNumber ? std::max(share, kNumberWidth) : share);
+        // One that is less than half as wide as a day holds none.
+        const std::size_t least = isNumber ? kNumberWidth : share < kDayWidth / 2 ? 0 : kDayWidth;
+        widths_.push_back(std::max(share, least));
         last = next;
     }
     if (table.header.cells.empty()) return;
@@ -125,7 +129,10 @@ void TextWriter::WriteRow(std::span<const std::string_view> cells, bool header) 
     std::vector<std::vector<std::string_view>> lines;
     std::size_t count = 1;
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        lines.push_back(LinesOf(CleanText(cells[i], cleaned[i]), widths_[i]));
+        const std::string_view text = CleanText(cells[i], cleaned[i]);
+        // An amount that is wider than its column moves the rest of its line.
+        const bool isWhole = !header && StaysInOneLine(text);
+        lines.push_back(LinesOf(text, isWhole ? std::max(widths_[i], text.size()) : widths_[i]));
         count = std::max(count, lines.back().size());
     }
     for (std::size_t row = 0; row < count; ++row) {

@@ -85,7 +85,7 @@ void DataBrowser::Execute() {
     ui_->cmdPrint->setEnabled(false);
     const std::string text = FromScreen(ui_->txtSQL->toPlainText());
     ConsoleAnswer answer = ExecuteInConsole(text);
-    const bool hasRows = answer.rows.IsOpen();
+    const bool hasRows = answer.rows.IsOpen() && answer.rows.RecordCount() > 0;
     if (hasRows) lastQuery_ = text;
     Show(std::move(answer));
     ui_->cmdPrint->setEnabled(hasRows && HasReportViewer());

@@ -8,6 +8,7 @@
 #include "platform/printing/PrintSurface.h"
 #include "platform/printing/PrintedDocument.h"
 #include "platform/printing/SearchPages.h"
+#include "platform/printing/WholeText.h"
 #include "platform/values/Errors.h"
 
 namespace platform {
@@ -108,7 +109,7 @@ TEST_F(Surface, GoesOnOnTheNextPageWithHeaderAndFooter) {
               "13800,11460 Page 2\n1440,11460 Roll\n1440,1620 line 40\n");
 }
 
-TEST_F(Surface, SetsAmountsAndTitlesSmallerRatherThanBreakThem) {
+TEST_F(Surface, SetsWhatBelongsTogetherSmallerRatherThanBreakIt) {
     Start();
     struct Case {
         std::string header;
@@ -119,10 +120,12 @@ TEST_F(Surface, SetsAmountsAndTitlesSmallerRatherThanBreakThem) {
     // A column of 500 twips, of which 376 are for text: three letters at 10 points.
     for (const auto& [header, cell, rows, smallest] :
          {Case{"", "1.0", 1, 10}, Case{"", "1,205.00", 1, 4.7}, Case{"", "(205.00)", 1, 4.7},
-          Case{"", "ab cd", 2, 10}, Case{"", "abcdef", 2, 10}, Case{"No. Amount", "1", 3, 6.2},
-          Case{"", "12345678901234567890", 3, 4}}) {
+          Case{"", "ab cd", 2, 10}, Case{"", "abcdef", 1, 6.2}, Case{"", "abcdefghi", 3, 10},
+          Case{"", "ab-cd", 2, 10}, Case{"", "ab-12", 1, 7.5}, Case{"No. Amount", "1", 3, 6.2},
+          Case{"", "1.23456", 1, 9.4}, Case{"", "-0.125", 1, 7.5},
+          Case{"", "12345678901234567890", 1, 1.8}, Case{"", "05/17/2024", 1, 3.7}}) {
         for (const Wrap wrap : {Wrap::Wrap, Wrap::Ellipsis}) {
-            if (wrap == Wrap::Ellipsis && rows > 1) continue;
+            if (wrap == Wrap::Ellipsis && !StaysInOneLine(cell)) continue; // it is cut
             document.Clear();
             surface.StartDoc();
             surface.StartTable();

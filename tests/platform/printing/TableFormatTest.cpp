@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/printing/PrintTable.h"
+#include "platform/printing/WholeText.h"
 
 namespace platform {
 namespace {
@@ -26,6 +27,14 @@ TEST(TableFormat, ReadsAlignmentAndWidthOfEachColumn) {
     EXPECT_EQ(Told(">~6.25% | 12pt ; "), ">~6% <240 ");
     EXPECT_EQ(Told("<0|>-5|<abc|"), "<0 >5 <0 <0 ");
     EXPECT_EQ(Told(""), "");
+}
+
+TEST(TableText, KeepsAmountsAndDaysInOneLine) {
+    for (const char* whole : {"05/17/2024", "1,234.50", "(12.00)", "-5%"})
+        EXPECT_TRUE(platform::StaysInOneLine(whole)) << whole;
+    for (const char* text :
+         {"", "05/17/20245", "5/17/2024", "05-17/2024", "12 Elm St", "05/1a/2024"})
+        EXPECT_FALSE(platform::StaysInOneLine(text)) << text;
 }
 
 TEST(TableText, SplitsRowsAndCells) {

@@ -156,6 +156,41 @@ TEST(Writers, KeepAColumnOfAmountsBoldInHtml) {
     EXPECT_NE(html.find("<td class=\"r b\">(2.00)</td>"), std::string::npos) << html;
 }
 
+/// A table of one row without a header, by a writer.
+template <typename Writer>
+std::string RowBy(std::string_view format, std::string_view row) {
+    StringSink sink;
+    Writer writer(sink);
+    FixedMetrics metrics;
+    PrintSurface surface(metrics, nullptr, &writer);
+    surface.StartDoc();
+    surface.StartTable();
+    surface.AddTable(format, "", row);
+    surface.EndTable();
+    surface.EndDoc();
+    return sink.Text();
+}
+
+// Then the totals of a table of many months stay below their months on a phone.
+TEST(Writers, KeepColumnsOfAmountsWideEnoughInHtml) {
+    const auto leastWidth = [](std::string_view format, std::string_view row) {
+        const std::string html = RowBy<HtmlWriter>(format, row);
+        const auto at = html.find("min-width:", html.find("<table"));
+        return at == std::string::npos ? std::string() : html.substr(at + 10, 4);
+    };
+    // Each fills the page.
+    const std::string_view row = "a|1|2|3|4|5|6";
+    EXPECT_EQ(leastWidth("<3120|>2600|>2600|>2600|>2600|>2600|>2600", row), "43em");
+    EXPECT_EQ(leastWidth("<17520|>200|>200|>200|>200|>200|>200", row), "56em") << "8 em a column";
+    EXPECT_EQ(leastWidth("<3120|<2600|<2600|<2600|<2600|<2600|<2600", row), "") << "texts wrap";
+    EXPECT_EQ(leastWidth("<8720|>2000|>2000|>2000|>2000|>2000", "a|1|2|3|4|5"), "") << "they fit";
+}
+
+TEST(Writers, KeepDaysAndAmountsWholeInText) {
+    const std::string text = RowBy<TextWriter>("<800|<800|>300", "05/17/2024|12,345,678.00|1");
+    EXPECT_NE(text.find("05/17/2024  12,345,678.00             1\n"), std::string::npos) << text;
+}
+
 TEST(OutputFile, TakesItsNameOnlyWhenItIsWhole) {
     const fs::path folder = fs::temp_directory_path() / "vestrel-output-test";
     fs::remove_all(folder);

@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -84,6 +86,11 @@ TEST_F(DataBrowserTest, ShowsRowsAndTablesAndPrintsTheLastQuery) {
     EXPECT_EQ(Result(), "Tables retrieved successfully");
     EXPECT_FALSE(CanPrint());
     EXPECT_THAT(support::GridText(grid), testing::HasSubstr("Transactions|TABLE"));
+
+    Execute("SELECT LastName FROM Tenant WHERE False");
+    EXPECT_THAT(support::GridText(grid), testing::Not(testing::HasSubstr("TABLE")))
+        << "the rows of another command would be taken for its result";
+    EXPECT_FALSE(CanPrint());
 
     const std::string sql = "SELECT IdTenant,\n LastName FROM Tenant ORDER BY 1";
     Execute(sql);

@@ -31,6 +31,8 @@ BoundPtr Binder::FindColumn(const ScopeSource& source, const Expression& express
     if (source.table != nullptr) {
         if (const Column* column = source.table->Find(expression.text)) {
             found = MakeBound(BoundKind::Column, column->type, column->name, expression.position);
+            found->ofTable = source.table->name;
+            found->ofField = column->name;
         }
     } else {
         for (std::size_t i = 0; i < source.columns->size() && !found; ++i) {
@@ -38,6 +40,8 @@ BoundPtr Binder::FindColumn(const ScopeSource& source, const Expression& express
             if (!EqualIgnoringCase(column.name, expression.text)) continue;
             found =
                 MakeBound(BoundKind::Column, column.type, NumberedName(i + 1), expression.position);
+            found->ofTable = column.table;
+            found->ofField = column.field;
         }
     }
     if (found) found->table = source.alias;

@@ -48,7 +48,17 @@ void Binder::BindUnion(BoundQuery& query) {
             BoundPtr& value = select.items[column].value;
             value = ToType(std::move(value), type);
         }
-        query.columns.push_back({query.selects[0].items[column].name, type});
+        ResultColumn result{query.selects[0].items[column].name, type};
+        const BoundExpression& first = *query.selects[0].items[column].value;
+        const bool areOneField = std::ranges::all_of(query.selects, [&](const BoundSelect& select) {
+            const BoundExpression& value = *select.items[column].value;
+            return value.ofTable == first.ofTable && value.ofField == first.ofField;
+        });
+        if (areOneField) {
+            result.table = first.ofTable;
+            result.field = first.ofField;
+        }
+        query.columns.push_back(std::move(result));
     }
 }
 

@@ -75,18 +75,22 @@ void Binder::BindStar(const Expression& star, BoundSelect& select) {
     for (const ScopeSource& source : scope_->sources) {
         if (!star.table.empty() && !EqualIgnoringCase(star.table, source.alias)) continue;
         any = true;
-        const auto add = [&](const std::string& name, FieldType type, std::string column) {
-            BoundPtr value = MakeBound(BoundKind::Column, type, std::move(column), star.position);
+        const auto add = [&](const auto& column, std::string name, std::string_view ofTable,
+                             std::string_view ofField) {
+            BoundPtr value =
+                MakeBound(BoundKind::Column, column.type, std::move(name), star.position);
             value->table = source.alias;
-            select.items.push_back({std::move(value), name, source.alias});
+            value->ofTable = ofTable;
+            value->ofField = ofField;
+            select.items.push_back({std::move(value), column.name, source.alias});
         };
         if (source.table != nullptr) {
             for (const Column& column : source.table->columns)
-                add(column.name, column.type, column.name);
+                add(column, column.name, source.table->name, column.name);
         } else {
             for (std::size_t i = 0; i < source.columns->size(); ++i) {
                 const ResultColumn& column = (*source.columns)[i];
-                add(column.name, column.type, NumberedName(i + 1));
+                add(column, NumberedName(i + 1), column.table, column.field);
             }
         }
     }

@@ -57,6 +57,9 @@ struct BoundExpression {
     std::string text;
     /// The name of a column's table in its query.
     std::string_view table;
+    /// The table and field that a column's values come from, also through other queries.
+    std::string_view ofTable;
+    std::string_view ofField;
     std::vector<std::unique_ptr<BoundExpression>> operands;
     std::unique_ptr<BoundQuery> query;
 

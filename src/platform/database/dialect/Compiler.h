@@ -14,6 +14,9 @@ enum class StatementKind { Select, Insert, Update, Delete };
 struct ResultColumn {
     std::string name;
     FieldType type = FieldType::Text;
+    /// The table and field whose values it shows as they are; empty for a computed column.
+    std::string table = {};
+    std::string field = {};
 };
 
 /// A statement of the dialect in the engine's SQL.

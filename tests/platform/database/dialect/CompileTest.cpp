@@ -52,6 +52,24 @@ TEST(Compile, EmitsPlainConditionsWithNoMoreParenthesesThanNeeded) {
         EXPECT_EQ(CompileText(statement).sql, sql);
 }
 
+TEST(Compile, KnowsTheFieldsThatColumnsShow) {
+    const auto fields = [](std::string_view text) {
+        std::vector<std::string> found;
+        for (const ResultColumn& column : CompileText(text).columns)
+            found.push_back(column.field.empty() ? "" : column.table + "." + column.field);
+        return found;
+    };
+    EXPECT_THAT(fields("SELECT category AS C, P.Category, Category & '', Due FROM Pay AS P"),
+                ElementsAre("Pay.Category", "Pay.Category", "", "Pay.Due"));
+    EXPECT_THAT(fields("SELECT * FROM (SELECT DISTINCT Category FROM Pay) AS P"),
+                ElementsAre("Pay.Category"));
+    EXPECT_THAT(fields("SELECT P.C, 1 FROM (SELECT Category AS C FROM Pay) AS P"),
+                ElementsAre("Pay.Category", ""));
+    EXPECT_THAT(fields("SELECT Category FROM Pay UNION SELECT Category FROM Pay"),
+                ElementsAre("Pay.Category"));
+    EXPECT_THAT(fields("SELECT Category FROM Pay UNION SELECT Name FROM Person"), ElementsAre(""));
+}
+
 TEST(Compile, TakesParametersTypesFromTheirPlaces) {
     struct Case {
         const char* statement;
