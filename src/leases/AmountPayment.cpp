@@ -195,14 +195,10 @@ std::int32_t SubmitAmount(const AmountPayment& amount, LeaseUpdate update) {
     return idTransaction;
 }
 
-bool MoveCharge(RentPayment& payment, std::int32_t idRentLog, int step) {
-    auto& charges = payment.charges;
-    const auto found = std::ranges::find(charges, idRentLog, &PaymentCharge::idRentLog);
-    if (found == charges.end()) return false;
-    const auto place = found - charges.begin() + step;
-    if (place < 0 || place >= static_cast<std::ptrdiff_t>(charges.size())) return false;
-    std::swap(*found, charges[static_cast<std::size_t>(place)]);
-    return true;
+void SortCharges(RentPayment& payment, std::span<const std::int32_t> order) {
+    std::ranges::stable_sort(payment.charges, {}, [order](const PaymentCharge& charge) {
+        return std::ranges::find(order, charge.idRentLog) - order.begin();
+    });
 }
 
 } // namespace leases

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -42,8 +43,7 @@ std::string DescribeAmount(const AmountPayment& amount);
 /// read; nothing is changed then. Returns the transaction's id.
 std::int32_t SubmitAmount(const AmountPayment& amount, LeaseUpdate update = LeaseUpdate::Yes);
 
-/// Moves a charge of a payment by one place towards the front (-1) or the end (1); false at the
-/// edge, and for a charge that isn't there.
-bool MoveCharge(RentPayment& payment, std::int32_t idRentLog, int step);
+/// Puts the charges of a payment in this order; those that it doesn't name follow as they are.
+void SortCharges(RentPayment& payment, std::span<const std::int32_t> order);
 
 } // namespace leases

@@ -9,8 +9,8 @@
 
 namespace leases {
 
-/// What an amount does to one charge, or how much of a credit it takes in. Both amounts have the
-/// sign of the row.
+/// One charge that an amount settles, or one credit that is used with it, whole or in part. Both
+/// amounts have the sign of the row.
 struct AmountStep {
     std::int32_t idRentLog = 0;
     platform::Currency settled;

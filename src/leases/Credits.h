@@ -39,7 +39,7 @@ std::int32_t PaymentReturnedBy(std::int32_t idTransaction);
 platform::Currency CreditBalance(std::int32_t idLease, RentClass rentClass);
 
 /// Returns the open credits of rent and subsidy that can settle new charges, in the order in which
-/// they are used. A discount for early payment is none.
+/// they are used. A discount for early payment is left out.
 std::vector<OpenCredit> ReadCredits(std::int32_t idLease);
 
 /// Returns whether the lease settles new charges from credit by itself, on the day they fall due.

@@ -8,7 +8,7 @@
 
 namespace leases {
 
-/// What paying rents does to a lease beside the ledger of its charges.
+/// The effect of paid rents on a lease beside the ledger of its charges.
 struct DueMove {
     /// The next due date as it is; unset if the lease has none.
     platform::Date from;

@@ -15,6 +15,7 @@
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/Text.h"
+#include "removal/RentCredits.h"
 
 namespace leases {
 
@@ -138,6 +139,10 @@ books::Transaction TransactionOf(const RentPayment& payment) {
     transaction.ien =
         payment.rentClass == RentClass::Deposit ? books::Ien::Unclassified : books::Ien::Income;
     transaction.description = platform::Trim(payment.description);
+    if (ReturnOf(payment.idTransaction) != 0) {
+        transaction.description =
+            removal::KeepReturnMark(payment.idTransaction, transaction.description);
+    }
     transaction.transactionClass = static_cast<std::int16_t>(payment.rentClass);
     static_cast<books::References&>(transaction) = LinksOf(payment);
     // The payer's id, even if the payer is an account.

@@ -18,6 +18,14 @@ constexpr std::string_view kMarkStart = "Returned ";
 constexpr std::string_view kMarkEnd = ": ";
 constexpr std::size_t kMarkLength = kMarkStart.size() + 10 + kMarkEnd.size();
 
+/// The mark that a description begins with; empty if it has none.
+std::string MarkOf(const std::string& description) {
+    const std::string mark = description.substr(0, kMarkLength);
+    const bool isMark = mark.starts_with(kMarkStart) && mark.ends_with(kMarkEnd) &&
+                        platform::Date::TryParse(mark.substr(kMarkStart.size(), 10)).has_value();
+    return isMark ? mark : std::string();
+}
+
 bool HasCredits() {
     return core::TableExists("RentCredit");
 }
@@ -126,6 +134,13 @@ std::string ReturnMark(platform::Date day) {
     return std::string(kMarkStart) + day.ToText() + std::string(kMarkEnd);
 }
 
+std::string KeepReturnMark(std::int32_t idTransaction, const std::string& description) {
+    const auto stored = core::ReadValue(
+        "SELECT Description FROM Transactions WHERE IdTransaction = ?", {idTransaction});
+    const std::string mark = MarkOf(platform::AsOr0<std::string>(stored));
+    return description.starts_with(mark) ? description : mark + description;
+}
+
 void UndoReturn(std::int32_t idReturn) {
     if (!HasCredits()) return;
     Recordset payment = core::Read(
@@ -135,10 +150,8 @@ void UndoReturn(std::int32_t idReturn) {
         {idReturn});
     if (!payment.Eof()) {
         const std::string text = TextOf(payment["Description"]);
-        if (text.starts_with(kMarkStart) && text.substr(0, kMarkLength).ends_with(kMarkEnd)) {
-            core::Execute("UPDATE Transactions SET Description = ? WHERE IdTransaction = ?",
-                          {text.substr(kMarkLength), IdOf(payment["IdTransaction"])});
-        }
+        core::Execute("UPDATE Transactions SET Description = ? WHERE IdTransaction = ?",
+                      {text.substr(MarkOf(text).size()), IdOf(payment["IdTransaction"])});
     }
     core::Execute("UPDATE RentCredit SET IdReturn = 0 WHERE IdReturn = ?", {idReturn});
 }

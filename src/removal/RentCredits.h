@@ -45,6 +45,9 @@ void ForgetLeaseCredits(std::int32_t idLease);
 /// The text that marks the description of a payment returned on a day: "Returned 11/20/2026: ".
 std::string ReturnMark(platform::Date day);
 
+/// Returns a description for a payment that is saved again: with the mark that the stored one has.
+std::string KeepReturnMark(std::int32_t idTransaction, const std::string& description);
+
 /// Takes the mark off the payment that this transaction has returned, before the transaction is
 /// deleted; does nothing for other transactions.
 void UndoReturn(std::int32_t idReturn);

@@ -56,16 +56,12 @@ void SetParties(leases::RentPayment& payment, const PayArguments& given) {
 
 /// Puts these charges before the others, in this order.
 void SetOrder(leases::RentPayment& payment, const std::vector<std::int32_t>& order) {
-    auto next = payment.charges.begin();
     for (const std::int32_t id : order) {
-        const auto found = std::find_if(next, payment.charges.end(), [id](const auto& charge) {
-            return charge.idRentLog == id;
-        });
-        if (found == payment.charges.end())
+        if (std::ranges::find(payment.charges, id, &leases::PaymentCharge::idRentLog) ==
+            payment.charges.end())
             throw platform::Error(fmt::format("--order: {} is no open charge of the lease", id));
-        std::rotate(next, found, found + 1);
-        ++next;
     }
+    leases::SortCharges(payment, order);
 }
 
 leases::RentPayment ReadPayment(const PayArguments& given) {

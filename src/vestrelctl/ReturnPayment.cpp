@@ -54,8 +54,8 @@ void Return(const ReturnArguments& given) {
 } // namespace
 
 void AddReturnPayment(CLI::App& line, const Options& options) {
-    CLI::App* command = line.add_subcommand(
-        "return-payment", "Undo a payment of a lease that the bank returned");
+    CLI::App* command =
+        line.add_subcommand("return-payment", "Undo a payment of a lease that the bank returned");
     auto given = std::make_shared<ReturnArguments>();
     command->add_option("transaction", given->transaction, "The payment's IdTransaction")
         ->required();

@@ -149,9 +149,9 @@ TEST_F(PayAmount, FollowsAnOrderOfTheUsersOwn) {
     const auto rent = Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
     const auto fee = Charge(Date(2024, 1, 9), 40);
     AmountPayment amount = Amount(100);
-    EXPECT_FALSE(leases::MoveCharge(amount.payment, rent, -1));
-    EXPECT_FALSE(leases::MoveCharge(amount.payment, 4711, 1));
-    EXPECT_TRUE(leases::MoveCharge(amount.payment, fee, -1));
+    leases::SortCharges(amount.payment, std::vector<std::int32_t>{4711, fee});
+    ASSERT_EQ(amount.payment.charges.size(), 2U);
+    EXPECT_EQ(amount.payment.charges.back().idRentLog, rent);
     EXPECT_EQ(leases::DescribeAmount(amount),
               "1 charge paid and one in part, next due date stays 01/01/2024");
     leases::SubmitAmount(amount);

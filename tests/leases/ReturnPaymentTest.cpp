@@ -218,8 +218,11 @@ TEST_F(Return, LeavesAPaymentWhoseTextsCanBeEditedAndNothingElse) {
     const std::int32_t reversal = GiveBack(id);
     for (const std::int32_t side : {id, reversal}) {
         leases::RentPayment edit = leases::ReadPayment(side);
-        edit.checkNumber = "17";
+        edit.description = "Of Ann"; // a screen that was opened before shows no mark
         leases::SubmitPayment(edit);
+        EXPECT_EQ(
+            Ask(fmt::format("SELECT Description FROM Transactions WHERE IdTransaction = {}", side)),
+            side == id ? "Returned 03/05/2024: Of Ann" : "Of Ann");
         ExpectBalanced();
         edit = leases::ReadPayment(side);
         edit.charges.front().selected = false;

@@ -57,6 +57,25 @@ std::vector<std::int32_t> ChargeList::TickedIds() const {
     return ids;
 }
 
+std::vector<std::int32_t> ChargeList::ShownIds() const {
+    std::vector<std::int32_t> ids;
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        ids.push_back(IdOf(*topLevelItem(i)));
+    return ids;
+}
+
+bool ChargeList::MoveCurrent(int step) {
+    const int from = indexOfTopLevelItem(currentItem());
+    const int to = from + step;
+    if (from < 0 || to < 0 || to >= topLevelItemCount()) return false;
+    Fill([&] {
+        QTreeWidgetItem* const row = takeTopLevelItem(from);
+        insertTopLevelItem(to, row);
+        setCurrentItem(row);
+    });
+    return true;
+}
+
 bool ChargeList::IsPicked(const QTreeWidgetItem& row, ChargePick pick) {
     if (pick == ChargePick::All) return true;
     const RentFlags flags{static_cast<std::int16_t>(FlagsOf(row))};

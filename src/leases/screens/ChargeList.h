@@ -39,6 +39,10 @@ class ChargeList : public core::grid::LedgerList {
     void ShowLines(const std::vector<ChargeLine>& lines);
 
     std::vector<std::int32_t> TickedIds() const;
+    /// All rows, from the top.
+    std::vector<std::int32_t> ShownIds() const;
+    /// Moves the row in focus up (-1) or down (1) by one place; false at the edge.
+    bool MoveCurrent(int step);
 
     /// Selects exactly these rows.
     void Select(ChargePick pick);

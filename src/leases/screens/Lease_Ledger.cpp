@@ -8,6 +8,7 @@
 #include <QTabBar>
 
 #include "books/screens/frmTransaction.h"
+#include "core/ChargeLedger.h"
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
 #include "core/binding/Tags.h"
@@ -16,6 +17,7 @@
 #include "leases/screens/ChargeList.h"
 #include "leases/screens/PickMenu.h"
 #include "leases/screens/frmRentPayment.h"
+#include "leases/screens/frmReturnPayment.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Format.h"
@@ -83,6 +85,9 @@ void Lease_Ledger::MakeButtons() {
     rent_ = MakeButton(tr("Pay Rent..."), tr("Take a payment for what is open here"), "cmdRent");
     refund_ =
         MakeButton(tr("Refund Deposit..."), tr("Give the deposit back to the tenant"), "cmdRefund");
+    return_ = MakeButton(tr("Returned..."),
+                         tr("The bank has returned the payment that settled the row in focus"),
+                         "cmdReturn");
     charge_ = MakeButton(tr("Charge Deposit..."), tr("Keep a part of the deposit"), "cmdCharge");
 
     auto* const row = new QHBoxLayout;
@@ -91,7 +96,7 @@ void Lease_Ledger::MakeButtons() {
     row->addStretch();
     row->addWidget(total_);
     row->addStretch();
-    for (QWidget* const button : {charge_, refund_, rent_})
+    for (QWidget* const button : {return_, charge_, refund_, rent_})
         row->addWidget(button);
     static_cast<QVBoxLayout*>(layout())->addLayout(row);
 }
@@ -122,6 +127,7 @@ void Lease_Ledger::Connect() {
     on(edit_, [this] { Edit(list_->CurrentId()); });
     on(delete_, [this] { Delete(); });
     on(rent_, [this] { Pay(); });
+    on(return_, [this] { Return(); });
     on(refund_, [this] { OpenDeposit(ProposeDepositRefund(idLease_), "Deposit Refund|2"); });
     on(charge_, [this] { OpenDeposit(ProposeDepositCharge(idLease_), "Deposit Charge|0"); });
 }
@@ -184,6 +190,8 @@ void Lease_Ledger::ShowAvailable() {
     rent_->setText(Tab().rentClass == RentClass::Rent ? tr("Pay Rent...")
                    : isDeposit                        ? tr("Pay Deposit...")
                                                       : tr("Pay Subsidy..."));
+    return_->setVisible(Tab().rows == LedgerRows::Settled);
+    return_->setEnabled(isSelected);
     for (QPushButton* const button : {refund_, charge_}) {
         button->setVisible(isDeposit);
         button->setEnabled(isStored);
@@ -206,6 +214,11 @@ void Lease_Ledger::Delete() {
 
 void Lease_Ledger::Pay() {
     (new frmRentPayment)->Setup(0, idLease_, Tab().rentClass, LeaseUpdate::Yes);
+}
+
+void Lease_Ledger::Return() {
+    const auto payment = core::SettledBy(core::kRentLedger, list_->CurrentId());
+    if (payment.value_or(0) != 0) (new frmReturnPayment)->Setup(*payment);
 }
 
 void Lease_Ledger::OpenDeposit(const books::Transaction& proposed, std::string_view category) {

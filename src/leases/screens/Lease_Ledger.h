@@ -46,6 +46,7 @@ class Lease_Ledger : public QWidget {
     void Edit(std::int32_t id);
     void Delete();
     void Pay();
+    void Return();
     void OpenDeposit(const books::Transaction& proposed, std::string_view category);
     void Hear(std::int16_t kind);
 
@@ -60,6 +61,7 @@ class Lease_Ledger : public QWidget {
     QPushButton* rent_ = nullptr;
     QPushButton* refund_ = nullptr;
     QPushButton* charge_ = nullptr;
+    QPushButton* return_ = nullptr;
     core::NotifyToken token_;
 };
 

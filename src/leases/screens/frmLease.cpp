@@ -16,6 +16,7 @@
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
+#include "leases/Credits.h"
 #include "leases/mLease.h"
 #include "leases/screens/Lease_Ledger.h"
 #include "platform/database/FieldReadings.h"
@@ -154,6 +155,7 @@ void frmLease::ShowProposal() {
     platform::Recordset row;
     ProposeLease(row);
     core::binding::BindFromRecord(*this, row);
+    ShowSettles(false);
     ShowEnabled();
 }
 
@@ -164,12 +166,21 @@ void frmLease::FillListsFor(platform::Recordset& row) {
 
 void frmLease::ShowRow(platform::Recordset& row) {
     RecordForm::ShowRow(row);
+    ShowSettles(SettlesCharges(platform::IdOf(row["IdLease"])));
     ShowEnabled();
+}
+
+/// The setting isn't a field of the lease's row.
+void frmLease::ShowSettles(bool settles) {
+    settles_ = settles;
+    fees_->chkSettleCharges->setChecked(settles);
 }
 
 void frmLease::WriteRow(platform::Recordset& row) {
     RecordForm::WriteRow(row);
     SaveLease(row, age_);
+    const bool settles = fees_->chkSettleCharges->isChecked();
+    if (settles != settles_) SetSettlesCharges(platform::IdOf(row["IdLease"]), settles);
 }
 
 void frmLease::AfterSave() {
@@ -285,6 +296,8 @@ void frmLease::ShowBalances() {
 }
 
 void frmLease::FollowOthers(const core::binding::Controls& /*touched*/) {
+    if (Id() != 0 && fees_->chkSettleCharges->isChecked() == settles_)
+        ShowSettles(SettlesCharges(Id()));
     ShowAvailable();
     ShowBalances();
 }

@@ -56,6 +56,7 @@ class frmLease : public core::forms::RecordForm {
     void FillPayors();
     void FillPayorsOf(std::int32_t kind);
     void ShowProposal();
+    void ShowSettles(bool settles);
 
     void DateActiveChanged();
     void UnitChosen();
@@ -77,6 +78,8 @@ class frmLease : public core::forms::RecordForm {
     /// New until a save has succeeded; one that failed midway doesn't count.
     LeaseAge age_ = LeaseAge::New;
     bool saved_ = false;
+    /// Whether the lease settles charges from credit, as it was read.
+    bool settles_ = false;
 };
 
 } // namespace leases::screens

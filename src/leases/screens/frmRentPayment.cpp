@@ -1,5 +1,6 @@
 #include "leases/screens/frmRentPayment.h"
 
+#include <QHeaderView>
 #include <QMenu>
 #include <algorithm>
 
@@ -12,6 +13,7 @@
 #include "leases/PaymentOutlook.h"
 #include "leases/screens/PickMenu.h"
 #include "leases/screens/frmRentSplit.h"
+#include "leases/screens/frmReturnPayment.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
@@ -52,6 +54,8 @@ QMenu* frmRentPayment::MakePaymentMenu() {
     receiptMenu_ = payment->addMenu(tr("Print &Receipt"));
     receiptMenu_->setObjectName(QStringLiteral("mnuReceipts"));
     receiptMenu_->setToolTipsVisible(true);
+    return_ = AddItem(*payment, "mnuReturnPayment", tr("Re&turned by the Bank..."),
+                      [this] { ReturnPayment(); });
     return payment;
 }
 
@@ -108,6 +112,20 @@ void frmRentPayment::Connect() {
             [this] { Guarded([this] { RemoveCharges(); }); });
     connect(ui_->chkShowPending, &QCheckBox::toggled, this,
             [this] { Guarded([this] { Quietly([this] { RereadCharges(); }); }); });
+    connect(ui_->amountPanel, &AmountPanel::Changed, this, [this] {
+        if (!Loading()) Guarded([this] { ShowTotal(); });
+    });
+    connect(ui_->amountPanel, &AmountPanel::MoveAsked, this,
+            [this](int step) { Guarded([&] { MoveCharge(step); }); });
+    // An amount settles the charges in the order in which the list shows them.
+    connect(ui_->lvwCharges->header(), &QHeaderView::sectionClicked, this,
+            [this] { Guarded([this] { ShowTotal(); }); });
+    for (QLineEdit* const box :
+         std::initializer_list<QLineEdit*>{ui_->dpEffectiveDate, ui_->txtDescription}) {
+        connect(box, &QLineEdit::textChanged, this, [this] {
+            if (!Loading() && ui_->amountPanel->IsUsed()) Guarded([this] { ShowTotal(); });
+        });
+    }
     connect(ui_->cmdSplit, &QPushButton::clicked, this,
             [this] { Guarded([this] { SplitCharge(); }); });
 }
@@ -127,6 +145,8 @@ void frmRentPayment::ShowPayment() {
         tr("%1: %2").arg(ToScreen(payment_.paymentType),
                          ToScreen(core::GetDescription(core::kLease, payment_.idLease))));
     ui_->chkShowPending->setVisible(!payment_.IsNew());
+    ui_->amountPanel->setVisible(payment_.IsNew());
+    return_->setEnabled(!payment_.IsNew());
     ShowEntries(payment_, PaymentWords(payment_.rentClass));
     FillReceipts();
     ShowCharges();
@@ -183,6 +203,7 @@ void frmRentPayment::RereadCharges() {
     ReadCharges(payment_,
                 ui_->chkShowPending->isChecked() ? OpenCharges::Offer : OpenCharges::Leave);
     tickedAgain_ = ticks_.DifferFrom(payment_);
+    if (!order_.empty()) SortCharges(payment_, order_);
     ListCharges();
 }
 
@@ -201,7 +222,42 @@ void frmRentPayment::RestoreTicks() {
     ui_->lvwCharges->setFocus();
 }
 
+AmountPayment frmRentPayment::ReadAmount() {
+    ReadTicks();
+    AmountPayment amount{payment_, ui_->amountPanel->Received().value_or(platform::Currency()),
+                         ui_->amountPanel->Part()};
+    ReadEntries(amount.payment);
+    amount.payment.from.type = static_cast<std::int16_t>(GetSelectedId(*ui_->cboFromType));
+    SortCharges(amount.payment, ui_->lvwCharges->ShownIds());
+    return amount;
+}
+
+void frmRentPayment::ShowAmount() {
+    const AmountPayment amount = ReadAmount();
+    ui_->amountPanel->ShowPreview(PreviewAmount(amount));
+    ui_->txtAmount->setText(ToScreen(platform::FormatNumber(amount.received, "#.00")));
+    ui_->lblOutlook->setText(ToScreen(DescribeAmount(amount)));
+    ui_->cmdRestoreTicks->setVisible(tickedAgain_);
+    // The preview needs room that the form may not have had until now.
+    const int least = layout()->totalMinimumSize().height();
+    if (height() < least) resize(width(), least);
+}
+
+void frmRentPayment::MoveCharge(int step) {
+    if (!ui_->lvwCharges->MoveCurrent(step)) return;
+    order_ = ui_->lvwCharges->ShownIds();
+    MarkDirty();
+    ShowTotal();
+}
+
+/// This screen shows the payment as it was before, so it closes.
+void frmRentPayment::ReturnPayment() {
+    const std::int32_t id = payment_.idTransaction;
+    if (close()) (new frmReturnPayment)->Setup(id);
+}
+
 void frmRentPayment::ShowTotal() {
+    if (payment_.IsNew() && ui_->amountPanel->IsUsed()) return ShowAmount();
     ReadTicks();
     ReadReceiver(payment_);
     ui_->txtAmount->setText(ToScreen(platform::FormatNumber(payment_.Total(), "#.00")));
@@ -255,6 +311,13 @@ std::vector<std::string> frmRentPayment::Errors() {
     std::vector<std::string> lines = EntryForm::Errors();
     const auto day = ui_->dpEffectiveDate->Day();
     if (day && !day->IsSet()) lines.emplace_back("A payment date must be entered.");
+    if (!payment_.IsNew() || !ui_->amountPanel->IsUsed()) return lines;
+    if (!ui_->amountPanel->Received()) {
+        lines.emplace_back("The amount received is not an amount of money.");
+        return lines;
+    }
+    const std::vector<std::string> amount = AmountErrors(ReadAmount());
+    lines.insert(lines.end(), amount.begin(), amount.end());
     return lines;
 }
 
@@ -263,7 +326,11 @@ void frmRentPayment::Store() {
     ReadEntries(payment_);
     payment_.from.type = static_cast<std::int16_t>(GetSelectedId(*ui_->cboFromType));
     try {
-        SubmitPayment(payment_, update_);
+        if (payment_.IsNew() && ui_->amountPanel->IsUsed()) {
+            SubmitAmount(ReadAmount(), update_);
+        } else {
+            SubmitPayment(payment_, update_);
+        }
     } catch (const platform::ConflictError&) {
         // The list shows the present charges before the user reads why nothing was posted.
         Quietly([this] { RereadCharges(); });

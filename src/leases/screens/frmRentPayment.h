@@ -4,9 +4,11 @@
 #include <memory>
 
 #include "books/screens/PaymentForm.h"
+#include "leases/AmountPayment.h"
 #include "leases/PaymentTicks.h"
 #include "leases/RentPayment.h"
 
+class QAction;
 class QMenu;
 
 namespace Ui {
@@ -50,6 +52,10 @@ class frmRentPayment : public books::screens::PaymentForm {
     void ChargeSplit(std::int32_t idRentLog, const std::array<std::int32_t, 2>& parts);
     void RestoreTicks();
     void ShowTotal();
+    AmountPayment ReadAmount();
+    void ShowAmount();
+    void MoveCharge(int step);
+    void ReturnPayment();
     void ShowAvailable();
 
     void AddCharge();
@@ -59,10 +65,13 @@ class frmRentPayment : public books::screens::PaymentForm {
 
     std::unique_ptr<Ui::frmRentPayment> ui_;
     QMenu* receiptMenu_ = nullptr;
+    QAction* return_ = nullptr;
     RentPayment payment_;
     PaymentTicks ticks_;
     /// Whether reading the charges again has changed the user's ticks.
     bool tickedAgain_ = false;
+    /// The charges as the user has ordered them, empty while they are in the order of their days.
+    std::vector<std::int32_t> order_;
     LeaseUpdate update_ = LeaseUpdate::Yes;
 };
 

@@ -19,6 +19,7 @@
 #include "kestrom/screens/SampleEditors.h"
 #include "leases/screens/frmRentPayment.h"
 #include "leases/screens/frmRentSplit.h"
+#include "leases/screens/frmReturnPayment.h"
 #include "mortgages/screens/frmMortgagePayment.h"
 #include "platform/qt/Text.h"
 #include "shell/screens/frmPosted.h"
@@ -60,6 +61,11 @@ class EveryForm : public tests::SampleEditors {
                                 (new leases::screens::frmRentPayment)
                                     ->Setup(0, Id("SELECT Max(IdLease) FROM Lease"),
                                             leases::RentClass::Rent, leases::LeaseUpdate::Yes);
+                            }});
+        openings.push_back({"frmReturnPayment", [] {
+                                (new leases::screens::frmReturnPayment)
+                                    ->Setup(Id("SELECT Max(IdTransaction) FROM Transactions WHERE "
+                                               "Class = 1 AND Amount > 0"));
                             }});
         openings.push_back({"frmMortgagePayment", [] {
                                 (new mortgages::screens::frmMortgagePayment)
