@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,20 +7,6 @@
 #include "platform/values/Date.h"
 
 namespace books {
-
-struct LedgerPeriod {
-    std::string_view text;
-    int days; ///< back from today, 0 for all
-};
-
-/// The periods that a ledger offers. Two years are a day more than two of 365.
-inline constexpr std::array<LedgerPeriod, 7> kLedgerPeriods = {{{"Last 30 days", 30},
-                                                                {"Last 60 days", 60},
-                                                                {"Last 90 days", 90},
-                                                                {"Last 180 days", 180},
-                                                                {"Last Year", 365},
-                                                                {"Last 2 Years", 731},
-                                                                {"All", 0}}};
 
 /// Whether a unit's ledger also shows the transactions of its whole building.
 enum class LedgerScope { Unit, Building };
@@ -32,7 +17,7 @@ struct LedgerView {
     std::int32_t id = 0;
     std::int32_t idBuilding = 0;
     LedgerScope scope = LedgerScope::Unit;
-    int days = 0;
+    int days = 0; ///< back from today, 0 for all
 };
 
 /// Returns the select of the rows, newest first, with the transaction's id in the first column;

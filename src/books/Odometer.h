@@ -1,8 +1,12 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 namespace books {
+
+inline constexpr std::string_view kEndsBelowStart =
+    "The ending odometer reading must not be below the starting one.";
 
 /// The readings of a trip while they are typed, in miles with one decimal. The distance is the end
 /// less the start. Whichever of end and distance was typed last stays, and the other is calculated.

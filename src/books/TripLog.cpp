@@ -37,10 +37,17 @@ std::string Condition(const TripFilter& filter) {
     return {};
 }
 
+constexpr std::string_view kVehicles =
+    "SELECT DISTINCT Vehicle AS [Description], 0 AS [ID] FROM Mileage ORDER BY 1";
+constexpr std::string_view kDestinations =
+    "SELECT DISTINCT Destination AS [Description], 0 AS [ID] FROM Mileage ORDER BY 1";
+constexpr std::string_view kBuildings =
+    "SELECT DISTINCT Address AS [Description], IdBuilding AS [ID] FROM Building ORDER BY 1";
+
 /// Adds the rows of a statement with the columns Description and ID; rows without a description are
 /// left out.
-void AddRows(core::ChoiceList& list, const std::string& sql) {
-    platform::Recordset rows = core::Read(sql + " ORDER BY 1");
+void AddRows(core::ChoiceList& list, std::string_view sql) {
+    platform::Recordset rows = core::Read(sql);
     for (; !rows.Eof(); rows.MoveNext()) {
         const std::string text = platform::TextOf(rows["Description"]);
         if (!text.empty()) list.Add(text, rows["ID"].AsLong());
@@ -74,23 +81,26 @@ std::string TripListSql(const TripFilter& filter) {
 core::ChoiceList TripFilterItems(TripField field) {
     core::ChoiceList list;
     list.Add(kAll, 0);
-    if (field == TripField::Vehicle)
-        AddRows(list, "SELECT DISTINCT Vehicle AS [Description], 0 AS [ID] FROM Mileage");
-    if (field == TripField::Building)
-        AddRows(list, "SELECT DISTINCT Address AS [Description], IdBuilding AS [ID] FROM Building");
+    if (field == TripField::Vehicle) AddRows(list, kVehicles);
+    if (field == TripField::Building) AddRows(list, kBuildings);
     list.Select(0);
     return list;
 }
 
 core::ChoiceList KnownDestinations() {
     core::ChoiceList list;
-    AddRows(list, "SELECT DISTINCT Destination AS [Description], 0 AS [ID] FROM Mileage");
+    AddRows(list, kDestinations);
+    return list;
+}
+
+core::ChoiceList LoggedVehicles() {
+    core::ChoiceList list;
+    AddRows(list, kVehicles);
     return list;
 }
 
 core::ChoiceList KnownVehicles() {
-    core::ChoiceList list;
-    AddRows(list, "SELECT DISTINCT Vehicle AS [Description], 0 AS [ID] FROM Mileage");
+    core::ChoiceList list = LoggedVehicles();
     const std::string own = core::GetDefaultCar();
     const bool isKnown = std::ranges::any_of(list.Rows(), [&](const core::Choice& row) {
         return platform::EqualIgnoringCase(row.text, own);

@@ -15,7 +15,6 @@
 
 namespace books {
 
-using platform::CursorMode;
 using platform::Date;
 using platform::Recordset;
 using platform::dialect::QuoteDate;
@@ -51,9 +50,7 @@ std::vector<std::string> PlanCategories(Date from, Date to) {
 
 std::vector<PlanVehicle> PlanVehicles(Date from, Date to) {
     constexpr double kWhole = 100;
-    // The vehicles of the log, after the row "All".
-    std::vector<core::Choice> known = TripFilterItems(TripField::Vehicle).Rows();
-    if (!known.empty()) known.erase(known.begin());
+    std::vector<core::Choice> known = LoggedVehicles().Rows();
     if (known.empty()) known = KnownVehicles().Rows();
     std::vector<PlanVehicle> vehicles;
     vehicles.reserve(known.size());
@@ -113,23 +110,21 @@ void SubmitTrips(const TripPlan& plan, const std::vector<PlannedTrip>& trips, st
             "Other trips of this period were written to the mileage log in the meantime. Nothing "
             "was submitted; please look at the log first.");
     }
-    Recordset rows;
-    rows.Open(core::App().Connection, "Mileage", CursorMode::AppendOnly);
     std::int32_t id = trips.empty() ? 0 : core::NextIds(static_cast<std::int32_t>(trips.size()));
     for (const PlannedTrip& trip : trips) {
-        rows.AddNew();
-        SetNewTripFields(rows);
-        rows["IdMileage"].Set(id++);
-        rows["EntryDate"].Set(trip.date.ToText());
-        rows["Vehicle"].Set(trip.vehicle);
-        rows["OBegin"].Set(trip.begin);
-        rows["OEnd"].Set(trip.end);
-        rows["Mileage"].Set(trip.mileage);
-        rows["Destination"].Set(trip.destination);
-        rows["Purpose"].Set(trip.purpose);
-        rows["Meal"].Set(platform::Currency());
-        rows["IdBuilding"].Set(trip.idBuilding);
-        rows.Update();
+        Recordset row = core::NewRow("Mileage");
+        SetNewTripFields(row);
+        row["IdMileage"].Set(id++);
+        row["EntryDate"].Set(trip.date.ToText());
+        row["Vehicle"].Set(trip.vehicle);
+        row["OBegin"].Set(trip.begin);
+        row["OEnd"].Set(trip.end);
+        row["Mileage"].Set(trip.mileage);
+        row["Destination"].Set(trip.destination);
+        row["Purpose"].Set(trip.purpose);
+        row["Meal"].Set(platform::Currency());
+        row["IdBuilding"].Set(trip.idBuilding);
+        row.Update();
     }
     unit.Commit();
     TellLists({core::kMileage});

@@ -30,10 +30,9 @@ std::optional<platform::Value> Describe(std::string_view sql, std::int32_t id) {
     return std::ranges::count(sql, '?') == 2 ? LookUp(sql, {id, id}) : LookUp(sql, {id});
 }
 
-/// Returns the statement that finds a record; empty unless a list offers the kind's records.
+/// Returns the statement that finds a record; empty for a kind without records of its own.
 std::string ExistenceSql(const KindInfo& info) {
-    const bool isOffered = !info.list.empty() || !info.listOfParent.empty();
-    if (!isOffered || info.key.empty()) return {};
+    if (info.key.empty()) return {};
     return fmt::format("SELECT {0} FROM {1} WHERE {0} = ?", info.key, info.table);
 }
 

@@ -18,8 +18,9 @@ std::string GetDescription(int kind, std::int32_t id, std::size_t maxLength = 0,
 /// Empty for id 0.
 std::string NameOfRecord(int kind, std::int32_t id);
 
-/// Whether there is a record of this id among those that a list of the kind can offer. Throws on
-/// failure.
+/// Returns whether the books hold a record of this id. A kind whose lists offer the records of
+/// another kind (owners are accounts) means those; a kind without records of its own has none.
+/// Throws on failure.
 bool RecordExists(int kind, std::int32_t id);
 
 } // namespace core

@@ -5,6 +5,7 @@
 
 #include "core/ChargeLedger.h"
 #include "core/Codes.h"
+#include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/NotifyAll.h"
@@ -23,10 +24,6 @@ using platform::ConflictError;
 using platform::Recordset;
 
 namespace {
-
-bool MortgageExists(std::int32_t idMortgage) {
-    return core::Exists("SELECT IdMortgage FROM Mortgage WHERE IdMortgage = ?", {idMortgage});
-}
 
 [[noreturn]] void ThrowConflict(const PaymentCharge& charge, std::string_view fate) {
     throw ConflictError(fmt::format("The charge \"{}\" of {} {}. Nothing was paid.",
@@ -56,8 +53,7 @@ void CheckCharge(const MortgagePayment& payment, const PaymentCharge& charge) {
 }
 
 void CheckStoredPayment(const MortgagePayment& payment) {
-    if (!core::Exists("SELECT IdTransaction FROM Transactions WHERE IdTransaction = ?",
-                      {payment.idTransaction})) {
+    if (!core::RecordExists(core::kTransaction, payment.idTransaction)) {
         throw ConflictError("This payment has been deleted. Nothing was saved.");
     }
     Recordset rows = core::Read(
@@ -77,7 +73,7 @@ void CheckStoredPayment(const MortgagePayment& payment) {
 void CheckUnchanged(const MortgagePayment& payment) {
     if (!payment.IsNew()) {
         CheckStoredPayment(payment);
-    } else if (!MortgageExists(payment.idMortgage)) {
+    } else if (!core::RecordExists(core::kMortgage, payment.idMortgage)) {
         throw ConflictError("The mortgage has been deleted. Nothing was paid.");
     }
     for (const PaymentCharge& charge : payment.charges) {
@@ -89,7 +85,7 @@ void CheckUnchanged(const MortgagePayment& payment) {
 
 /// A payment of a deleted mortgage keeps the building it was posted for.
 std::int32_t BuildingOf(const MortgagePayment& payment) {
-    if (payment.IsNew() || MortgageExists(payment.idMortgage)) {
+    if (payment.IsNew() || core::RecordExists(core::kMortgage, payment.idMortgage)) {
         return core::GetMortgageBuilding(payment.idMortgage);
     }
     return platform::AsOr0<std::int32_t>(core::ReadValue(

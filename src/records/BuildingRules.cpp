@@ -1,5 +1,6 @@
 #include "records/BuildingRules.h"
 
+#include "core/Descriptions.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
@@ -28,8 +29,8 @@ std::vector<core::Choice> UnitsOf(std::int32_t idBuilding) {
 }
 
 bool AreStored(std::int32_t idBuilding, std::int32_t idUnit) {
-    return core::Exists("SELECT IdBuilding FROM Building WHERE IdBuilding = ?", {idBuilding}) &&
-           core::Exists("SELECT IdUnit FROM Unit WHERE IdUnit = ?", {idUnit});
+    return core::RecordExists(core::kBuilding, idBuilding) &&
+           core::RecordExists(core::kUnit, idUnit);
 }
 
 std::int32_t MakeNewUnit(std::int32_t idBuilding) {

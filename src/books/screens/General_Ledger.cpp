@@ -7,10 +7,11 @@
 
 #include "books/screens/frmTransaction.h"
 #include "core/EditRecord.h"
+#include "core/Periods.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
+#include "core/binding/PeriodBox.h"
 #include "core/forms/ErrorRoll.h"
-#include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "removal/DeleteRecord.h"
 
@@ -42,9 +43,8 @@ void General_Ledger::MakeHead() {
     cboDays_ = new QComboBox(head);
     cboDays_->setObjectName(QStringLiteral("cboDays"));
     cboDays_->setAccessibleName(tr("Period"));
-    for (const LedgerPeriod& period : kLedgerPeriods)
-        cboDays_->addItem(platform::qt::ToScreen(period.text), period.days);
-    view_.days = kLedgerPeriods.front().days;
+    view_.days = core::kPeriods.front().days;
+    core::binding::FillPeriods(*cboDays_, view_.days);
     optBuilding_ = new QRadioButton(tr("Building"), head);
     optBuilding_->setObjectName(QStringLiteral("optBuilding"));
     optBuilding_->setToolTip(tr("What concerns the building as a whole, and no unit of it"));

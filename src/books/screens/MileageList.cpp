@@ -7,18 +7,17 @@
 #include <fmt/core.h>
 
 #include "books/screens/frmMileage.h"
-#include "core/Globals.h"
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
 #include "core/RegistryKeys.h"
+#include "core/Rows.h"
 #include "core/Settings.h"
 #include "core/binding/ComboList.h"
+#include "core/binding/PeriodBox.h"
 #include "core/binding/Wiring.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/grid/GridColumns.h"
-#include "platform/database/Recordset.h"
 #include "platform/qt/Text.h"
-#include "platform/values/Conversions.h"
 #include "platform/values/Format.h"
 #include "ui_frmMileage.h"
 
@@ -97,18 +96,9 @@ void frmMileage::Connect() {
     key(Qt::Key_Delete, &frmMileage::DeleteTrip);
 }
 
-void frmMileage::ConnectOdometer() {
-    const auto typed = [this](QLineEdit* box, void (Odometer::*type)(double)) {
-        connect(box, &QLineEdit::textEdited, this, [this, box, type] {
-            const auto number = platform::TryParseNumber(FromScreen(box->text()));
-            (odometer_.*type)(number.value_or(0));
-            if (box == ui_->txtOBegin) beginTyped_ = true;
-            ShowOdometer(box);
-        });
-    };
-    typed(ui_->txtOBegin, &Odometer::TypeBegin);
-    typed(ui_->txtOEnd, &Odometer::TypeEnd);
-    typed(ui_->txtMileage, &Odometer::TypeDistance);
+/// The begin of a new trip follows its vehicle until the user types one.
+void frmMileage::ConnectChoices() {
+    connect(ui_->txtOBegin, &QLineEdit::textEdited, this, [this] { beginTyped_ = true; });
     // Not while a stored trip is shown, whose readings must not change.
     connect(ui_->cboVehicle, &QComboBox::currentIndexChanged, this, [this] {
         if (!Loading() && !filling_) Guarded([this] { VehicleChosen(); });
@@ -123,12 +113,7 @@ void frmMileage::ConnectOdometer() {
 
 void frmMileage::FillLists() {
     const QScopedValueRollback filling(filling_, true);
-    ui_->cboDays->clear();
-    for (const TripPeriod& period : kTripPeriods) {
-        ui_->cboDays->addItem(ToScreen(period.text), period.days);
-        if (period.days == core::Preferences().ViewMileageDays)
-            ui_->cboDays->setCurrentIndex(ui_->cboDays->count() - 1);
-    }
+    core::binding::FillPeriods(*ui_->cboDays, core::Preferences().ViewMileageDays);
     ui_->cboFilter->clear();
     ui_->cboFilter->addItems({tr("None"), tr("Vehicle"), tr("Building")});
     Offer(*ui_->cboVehicle, KnownVehicles());
@@ -182,9 +167,7 @@ void frmMileage::PeriodChosen() {
 
 void frmMileage::FillGrid() {
     const QScopedValueRollback filling(filling_, true);
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, TripListSql(Filter()));
-    core::grid::LoadGrid(*ui_->grd, std::move(rows));
+    core::grid::LoadGrid(*ui_->grd, core::Read(TripListSql(Filter())));
     for (int column = kMileage - 2; column <= kMileage; ++column)
         core::grid::FormatColumn(*ui_->grd, column, "#,###.0");
     core::grid::SizeColumns(*ui_->grd, kFirstShown);

@@ -59,4 +59,28 @@ class PlanList : public QWidget {
     bool filling_ = false;
 };
 
+/// A list that holds its rows.
+template <class Item>
+class PlanRows : public PlanList {
+  public:
+    using PlanList::PlanList;
+
+  protected:
+    int Count() const override { return static_cast<int>(rows_.size()); }
+    void Remove(int row) override { rows_.erase(rows_.begin() + row); }
+
+    const std::vector<Item>& Rows() const { return rows_; }
+    const Item& At(int row) const { return rows_.at(static_cast<std::size_t>(row)); }
+    Item& At(int row) { return rows_.at(static_cast<std::size_t>(row)); }
+    /// Returns a row, a new one for Count().
+    Item& AtOrNew(int row) { return row == Count() ? rows_.emplace_back() : At(row); }
+    void SetRows(std::vector<Item> rows) {
+        rows_ = std::move(rows);
+        ShowRows(0);
+    }
+
+  private:
+    std::vector<Item> rows_;
+};
+
 } // namespace books::screens

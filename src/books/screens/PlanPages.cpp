@@ -1,14 +1,13 @@
 #include "books/screens/PlanPages.h"
 
-#include <algorithm>
-
+#include "books/Odometer.h"
 #include "core/Descriptions.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/DayErrors.h"
+#include "core/binding/NumberBox.h"
 #include "platform/qt/Text.h"
-#include "platform/values/Conversions.h"
 #include "platform/values/Format.h"
 #include "platform/values/Text.h"
 #include "ui_PlanBuildings.h"
@@ -16,6 +15,7 @@
 
 namespace books::screens {
 
+using core::binding::NumberIn;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -27,14 +27,10 @@ QString Number(double number, std::string_view format) {
     return ToScreen(platform::FormatNumber(number, format));
 }
 
-double NumberIn(const QLineEdit& box) {
-    return platform::TryParseNumber(FromScreen(box.text())).value_or(0);
-}
-
 } // namespace
 
 VehiclesPage::VehiclesPage(QWidget* parent)
-    : PlanList(parent), ui_(std::make_unique<Ui::PlanVehicles>()) {
+    : PlanRows(parent), ui_(std::make_unique<Ui::PlanVehicles>()) {
     ui_->setupUi(this);
     Connect(*ui_->lvwVehicles, 0, ui_->cmdVehicleAdd, *ui_->cmdVehicleUpdate,
             *ui_->cmdVehicleDelete);
@@ -42,20 +38,11 @@ VehiclesPage::VehiclesPage(QWidget* parent)
 
 VehiclesPage::~VehiclesPage() = default;
 
-void VehiclesPage::Show(std::vector<PlanVehicle> vehicles) {
-    vehicles_ = std::move(vehicles);
-    ShowRows(0);
-}
-
 QStringList VehiclesPage::Cells(int row) const {
     const PlanVehicle& vehicle = At(row);
     return {ToScreen(vehicle.name),           Number(vehicle.begin, kOneDecimal),
             Number(vehicle.end, kOneDecimal), ToScreen(vehicle.from.ToText()),
             ToScreen(vehicle.to.ToText()),    Number(vehicle.percent, kOneDecimal)};
-}
-
-void VehiclesPage::Tick(int row, bool isOn) {
-    vehicles_.at(static_cast<std::size_t>(row)).isUsed = isOn;
 }
 
 void VehiclesPage::ShowBoxes(int row) {
@@ -76,8 +63,7 @@ std::vector<std::string> VehiclesPage::Errors(int row) const {
         if (other != row && platform::EqualIgnoringCase(At(other).name, name))
             lines.push_back(name + " is on the list already.");
     }
-    if (NumberIn(*ui_->txtOEnd) < NumberIn(*ui_->txtOStart))
-        lines.emplace_back("The ending odometer reading must not be below the starting one.");
+    if (NumberIn(*ui_->txtOEnd) < NumberIn(*ui_->txtOStart)) lines.emplace_back(kEndsBelowStart);
     const auto from = ui_->dpDateStart->Day();
     const auto to = ui_->dpDateEnd->Day();
     if (from && to && (!from->IsSet() || *to < *from))
@@ -86,8 +72,7 @@ std::vector<std::string> VehiclesPage::Errors(int row) const {
 }
 
 void VehiclesPage::Store(int row) {
-    if (row == Count()) vehicles_.emplace_back();
-    PlanVehicle& vehicle = vehicles_.at(static_cast<std::size_t>(row));
+    PlanVehicle& vehicle = AtOrNew(row);
     vehicle.name = FromScreen(ui_->txtVehicle->text().trimmed());
     vehicle.begin = NumberIn(*ui_->txtOStart);
     vehicle.end = NumberIn(*ui_->txtOEnd);
@@ -96,12 +81,8 @@ void VehiclesPage::Store(int row) {
     vehicle.percent = NumberIn(*ui_->txtPctUsed);
 }
 
-void VehiclesPage::Remove(int row) {
-    vehicles_.erase(vehicles_.begin() + row);
-}
-
 BuildingsPage::BuildingsPage(QWidget* parent)
-    : PlanList(parent), ui_(std::make_unique<Ui::PlanBuildings>()) {
+    : PlanRows(parent), ui_(std::make_unique<Ui::PlanBuildings>()) {
     ui_->setupUi(this);
     Connect(*ui_->lvwBuildings, 0, ui_->cmdBuildingAdd, *ui_->cmdBuildingUpdate,
             *ui_->cmdBuildingDelete);
@@ -119,21 +100,12 @@ void BuildingsPage::FillChoices() {
     core::binding::FillList(core::kBuilding, *ui_->cboBuilding, {.addNone = true});
 }
 
-void BuildingsPage::Show(std::vector<PlanBuilding> buildings) {
-    buildings_ = std::move(buildings);
-    ShowRows(0);
-}
-
 double BuildingsPage::Variance() const {
     return NumberIn(*ui_->txtBuildingVariance);
 }
 
 QStringList BuildingsPage::Cells(int row) const {
     return {ToScreen(At(row).address), Number(At(row).distance, kOneDecimal)};
-}
-
-void BuildingsPage::Tick(int row, bool isOn) {
-    buildings_.at(static_cast<std::size_t>(row)).isUsed = isOn;
 }
 
 void BuildingsPage::ShowBoxes(int row) {
@@ -153,15 +125,10 @@ std::vector<std::string> BuildingsPage::Errors(int row) const {
 }
 
 void BuildingsPage::Store(int row) {
-    if (row == Count()) buildings_.emplace_back();
-    PlanBuilding& building = buildings_.at(static_cast<std::size_t>(row));
+    PlanBuilding& building = AtOrNew(row);
     building.id = core::binding::GetSelectedId(*ui_->cboBuilding);
     building.address = core::GetDescription(core::kBuilding, building.id, 0, true);
     building.distance = NumberIn(*ui_->txtDistance);
-}
-
-void BuildingsPage::Remove(int row) {
-    buildings_.erase(buildings_.begin() + row);
 }
 
 } // namespace books::screens

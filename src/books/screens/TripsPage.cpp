@@ -1,9 +1,9 @@
 #include <fmt/core.h>
 
+#include "books/screens/OdometerBoxes.h"
 #include "books/screens/PlanPages.h"
 #include "core/binding/DayErrors.h"
 #include "platform/qt/Text.h"
-#include "platform/values/Conversions.h"
 #include "platform/values/Format.h"
 #include "ui_PlanTrips.h"
 
@@ -24,32 +24,32 @@ std::string Text(const QLineEdit& box) {
 
 } // namespace
 
-TripsPage::TripsPage(QWidget* parent) : PlanList(parent), ui_(std::make_unique<Ui::PlanTrips>()) {
+TripsPage::TripsPage(QWidget* parent) : PlanRows(parent), ui_(std::make_unique<Ui::PlanTrips>()) {
     ui_->setupUi(this);
     constexpr int kPurpose = 6;
     Connect(*ui_->lvwTrips, kPurpose, nullptr, *ui_->cmdTripUpdate, *ui_->cmdTripDelete);
     ui_->cmdPreview->setAutoDefault(false);
     connect(ui_->cmdPreview, &QPushButton::clicked, this, &TripsPage::PreviewAsked);
     connect(this, &PlanList::Changed, this, &TripsPage::ShowTotals);
-    ConnectOdometer();
+    odometer_ =
+        std::make_unique<OdometerBoxes>(*ui_->txtTripBegin, *ui_->txtTripEnd, *ui_->txtTripMileage);
 }
 
 TripsPage::~TripsPage() = default;
 
 void TripsPage::Show(const TripPlan& plan, std::vector<PlannedTrip> trips, std::size_t leftOut) {
     plan_ = plan;
-    trips_ = std::move(trips);
     leftOut_ = leftOut;
-    ShowRows(0);
+    SetRows(std::move(trips));
     ShowTotals();
 }
 
 void TripsPage::ShowTotals() {
     double miles = 0;
-    for (const PlannedTrip& trip : trips_)
+    for (const PlannedTrip& trip : Rows())
         miles += trip.mileage;
     std::string text =
-        fmt::format("{} {}, {} miles.", trips_.size(), trips_.size() == 1 ? "trip" : "trips",
+        fmt::format("{} {}, {} miles.", Rows().size(), Rows().size() == 1 ? "trip" : "trips",
                     platform::FormatNumber(miles, "#,##0.0"));
     if (leftOut_ > 0)
         text += fmt::format(" {} {} left out: no vehicle was in use on the day.", leftOut_,
@@ -74,29 +74,7 @@ void TripsPage::ShowBoxes(int row) {
     ui_->txtTripVehicle->setText(ToScreen(trip.vehicle));
     ui_->txtTripDestination->setText(ToScreen(trip.destination));
     ui_->txtTripPurpose->setText(ToScreen(trip.purpose));
-    odometer_ = Odometer::Of(trip.begin, trip.end);
-    ShowOdometer(nullptr);
-}
-
-void TripsPage::ConnectOdometer() {
-    const auto typed = [this](QLineEdit* box, void (Odometer::*type)(double)) {
-        connect(box, &QLineEdit::textEdited, this, [this, box, type] {
-            (odometer_.*type)(platform::TryParseNumber(FromScreen(box->text())).value_or(0));
-            ShowOdometer(box);
-        });
-    };
-    typed(ui_->txtTripBegin, &Odometer::TypeBegin);
-    typed(ui_->txtTripEnd, &Odometer::TypeEnd);
-    typed(ui_->txtTripMileage, &Odometer::TypeDistance);
-}
-
-void TripsPage::ShowOdometer(const QWidget* typed) {
-    const auto show = [&](QLineEdit* box, std::optional<double> miles) {
-        if (box != typed) box->setText(miles ? Miles(*miles) : QString());
-    };
-    show(ui_->txtTripBegin, odometer_.Begin());
-    show(ui_->txtTripEnd, odometer_.End());
-    show(ui_->txtTripMileage, odometer_.Distance());
+    odometer_->Show(Odometer::Of(trip.begin, trip.end));
 }
 
 std::vector<std::string> TripsPage::Errors(int /*row*/) const {
@@ -105,24 +83,19 @@ std::vector<std::string> TripsPage::Errors(int /*row*/) const {
     if (day && (*day < plan_.from || plan_.to < *day))
         lines.emplace_back("The date must be within the period.");
     if (Text(*ui_->txtTripVehicle).empty()) lines.emplace_back("A vehicle must be entered.");
-    if (!odometer_.Distance())
-        lines.emplace_back("The ending odometer reading must not be below the starting one.");
+    if (!odometer_->Readings().Distance()) lines.emplace_back(kEndsBelowStart);
     return lines;
 }
 
 void TripsPage::Store(int row) {
-    PlannedTrip& trip = trips_.at(static_cast<std::size_t>(row));
+    PlannedTrip& trip = At(row);
     trip.date = ui_->dpTripDate->Day().value_or(trip.date);
     trip.vehicle = Text(*ui_->txtTripVehicle);
-    trip.begin = odometer_.Begin();
-    trip.end = odometer_.End();
-    trip.mileage = odometer_.Distance().value_or(0);
+    trip.begin = odometer_->Readings().Begin();
+    trip.end = odometer_->Readings().End();
+    trip.mileage = odometer_->Readings().Distance().value_or(0);
     trip.destination = Text(*ui_->txtTripDestination);
     trip.purpose = Text(*ui_->txtTripPurpose);
-}
-
-void TripsPage::Remove(int row) {
-    trips_.erase(trips_.begin() + row);
 }
 
 } // namespace books::screens

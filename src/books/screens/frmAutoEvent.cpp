@@ -6,6 +6,7 @@
 #include "books/screens/CategoryBox.h"
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
+#include "core/binding/NumberBox.h"
 #include "core/forms/TabPages.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
@@ -123,12 +124,12 @@ void frmAutoEvent::WriteRow(Recordset& row) {
 }
 
 EventSchedule frmAutoEvent::Schedule() const {
-    const auto period = platform::TryParseNumber(FromScreen(ui_->txtIntervalPeriod->text()));
+    const double period = core::binding::NumberIn(*ui_->txtIntervalPeriod);
     EventSchedule schedule;
     schedule.interval =
         IntervalType{static_cast<std::int16_t>(GetSelectedId(*ui_->cboIntervalType))};
     constexpr double kMost = 32'767;
-    schedule.period = platform::RoundToInt16(std::clamp(period.value_or(0), -kMost, kMost));
+    schedule.period = platform::RoundToInt16(std::clamp(period, -kMost, kMost));
     return schedule;
 }
 
@@ -153,8 +154,8 @@ EventType frmAutoEvent::Type() const {
 }
 
 std::vector<std::string> frmAutoEvent::Errors() {
-    const auto period = platform::TryParseNumber(FromScreen(ui_->txtIntervalPeriod->text()));
-    return AutoEventErrors({FromScreen(ui_->txtDescription->text()), Type(), period.value_or(0)});
+    return AutoEventErrors({FromScreen(ui_->txtDescription->text()), Type(),
+                            core::binding::NumberIn(*ui_->txtIntervalPeriod)});
 }
 
 void frmAutoEvent::ShowAvailable() {

@@ -3,23 +3,24 @@
 #include <algorithm>
 #include <array>
 
+#include "books/screens/OdometerBoxes.h"
 #include "books/screens/frmMileageWiz.h"
 #include "core/Lookups.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
+#include "core/binding/NumberBox.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
-#include "platform/values/Conversions.h"
-#include "platform/values/Format.h"
 #include "removal/DeleteRecord.h"
 #include "ui_frmMileage.h"
 
 namespace books::screens {
 
 using core::binding::GetSelectedId;
+using core::binding::NumberIn;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -27,10 +28,6 @@ namespace {
 
 double ReadingOf(const platform::Field& field) {
     return field.IsNull() ? 0 : field.AsDouble();
-}
-
-double MilesIn(const QLineEdit& box) {
-    return platform::TryParseNumber(FromScreen(box.text())).value_or(0);
 }
 
 } // namespace
@@ -41,8 +38,9 @@ frmMileage::frmMileage(QWidget* parent)
     ui_->setupUi(this);
     MakeMenu();
     Wire();
+    odometer_ = std::make_unique<OdometerBoxes>(*ui_->txtOBegin, *ui_->txtOEnd, *ui_->txtMileage);
     Connect();
-    ConnectOdometer();
+    ConnectChoices();
 }
 
 frmMileage::~frmMileage() = default;
@@ -55,13 +53,13 @@ void frmMileage::Setup(std::int32_t id) {
 
 void frmMileage::ShowRow(platform::Recordset& row) {
     RecordForm::ShowRow(row);
-    odometer_ = Odometer::Of(ReadingOf(row["OBegin"]), ReadingOf(row["OEnd"]));
+    odometer_->Take(Odometer::Of(ReadingOf(row["OBegin"]), ReadingOf(row["OEnd"])));
 }
 
 void frmMileage::FollowOthers(const core::binding::Controls& touched) {
     const std::array<const QWidget*, 3> boxes = {ui_->txtOBegin, ui_->txtOEnd, ui_->txtMileage};
     if (std::ranges::any_of(boxes, [&](auto* box) { return touched.contains(box); })) return;
-    odometer_ = Odometer::Of(MilesIn(*ui_->txtOBegin), MilesIn(*ui_->txtOEnd));
+    odometer_->Take(Odometer::Of(NumberIn(*ui_->txtOBegin), NumberIn(*ui_->txtOEnd)));
 }
 
 void frmMileage::Store() {
@@ -72,10 +70,11 @@ void frmMileage::Store() {
 void frmMileage::WriteRow(platform::Recordset& row) {
     RecordForm::WriteRow(row);
     // The three fields are saved together, since they depend on each other.
-    if (IsTouched(*ui_->txtOBegin) || IsTouched(*ui_->txtOEnd) || IsTouched(*ui_->txtMileage)) {
-        row["OBegin"].Set(odometer_.Begin());
-        row["OEnd"].Set(odometer_.End());
-        row["Mileage"].Set(odometer_.Distance().value_or(0));
+    if (IsOdometerTouched()) {
+        const Odometer& readings = odometer_->Readings();
+        row["OBegin"].Set(readings.Begin());
+        row["OEnd"].Set(readings.End());
+        row["Mileage"].Set(readings.Distance().value_or(0));
     }
     // A restored trip keeps these fields.
     if (isNew_) SetNewTripFields(row);
@@ -93,11 +92,13 @@ std::vector<std::string> frmMileage::Errors() {
     std::vector<std::string> lines;
     if (IsTouched(*ui_->cboVehicle) && ui_->cboVehicle->currentText().trimmed().isEmpty())
         lines.emplace_back("A vehicle must be entered.");
-    const bool isOdometerTouched =
-        IsTouched(*ui_->txtOBegin) || IsTouched(*ui_->txtOEnd) || IsTouched(*ui_->txtMileage);
-    if (isOdometerTouched && !odometer_.Distance())
-        lines.emplace_back("The ending odometer reading must not be below the starting one.");
+    if (IsOdometerTouched() && !odometer_->Readings().Distance())
+        lines.emplace_back(kEndsBelowStart);
     return lines;
+}
+
+bool frmMileage::IsOdometerTouched() const {
+    return IsTouched(*ui_->txtOBegin) || IsTouched(*ui_->txtOEnd) || IsTouched(*ui_->txtMileage);
 }
 
 /// Proposes a trip today with the usual vehicle, starting at its last reading.
@@ -109,26 +110,15 @@ void frmMileage::Propose() {
     ui_->cboDestination->setEditText({});
     ui_->cboBuilding->setCurrentIndex(0);
     ui_->txtMeal->SetAmount({});
-    odometer_ = Odometer::At(static_cast<double>(core::GetVehicleMaxOdometer(vehicle)));
-    ShowOdometer();
-}
-
-/// The box that is typed in stays as it is.
-void frmMileage::ShowOdometer(const QWidget* typed) {
-    const auto show = [&](QLineEdit& box, std::optional<double> miles) {
-        if (&box == typed) return;
-        box.setText(miles ? ToScreen(platform::FormatNumber(*miles, "#,###.0")) : QString());
-    };
-    show(*ui_->txtOBegin, odometer_.Begin());
-    show(*ui_->txtOEnd, odometer_.End());
-    show(*ui_->txtMileage, odometer_.Distance());
+    odometer_->Show(Odometer::At(static_cast<double>(core::GetVehicleMaxOdometer(vehicle))));
 }
 
 void frmMileage::VehicleChosen() {
     if (Id() != 0 || beginTyped_) return;
-    odometer_.TypeBegin(static_cast<double>(
+    Odometer readings = odometer_->Readings();
+    readings.TypeBegin(static_cast<double>(
         core::GetVehicleMaxOdometer(FromScreen(ui_->cboVehicle->currentText()))));
-    ShowOdometer();
+    odometer_->Show(readings);
 }
 
 /// Proposes the way there and back for a trip without a distance.
@@ -137,9 +127,10 @@ void frmMileage::BuildingChosen() {
     if (idBuilding == 0) return;
     if (ui_->cboDestination->currentText().isEmpty())
         ui_->cboDestination->setEditText(ui_->cboBuilding->currentText());
-    if (MilesIn(*ui_->txtMileage) != 0) return;
-    odometer_.TypeDistance(2 * static_cast<double>(core::GetBuildingDistance(idBuilding)));
-    ShowOdometer();
+    if (NumberIn(*ui_->txtMileage) != 0) return;
+    Odometer readings = odometer_->Readings();
+    readings.TypeDistance(2 * static_cast<double>(core::GetBuildingDistance(idBuilding)));
+    odometer_->Show(readings);
 }
 
 bool frmMileage::MayLeaveTrip() {
@@ -170,13 +161,14 @@ void frmMileage::NewTrip() {
 /// Proposes the same trip for today, starting at the vehicle's last reading.
 void frmMileage::CopyTrip() {
     if (Id() == 0 || !MayLeaveTrip()) return;
-    const double miles = MilesIn(*ui_->txtMileage);
+    const double miles = NumberIn(*ui_->txtMileage);
     BecomeNew();
     ui_->grd->SelectNone(0);
     ui_->dpEntryDate->SetDay(platform::Today());
     beginTyped_ = false;
-    odometer_ = Odometer::At(0);
-    odometer_.TypeDistance(miles);
+    Odometer readings = Odometer::At(0);
+    readings.TypeDistance(miles);
+    odometer_->Take(readings);
     VehicleChosen();
     MarkDirty();
     ui_->dpEntryDate->setFocus();

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <memory>
 
-#include "books/Odometer.h"
 #include "books/TripLog.h"
 #include "core/forms/RecordForm.h"
 
@@ -15,6 +14,8 @@ class frmMileage;
 }
 
 namespace books::screens {
+
+class OdometerBoxes;
 
 /// The mileage log: the trips of a period, and the entries of the selected or a new trip.
 class frmMileage : public core::forms::RecordForm {
@@ -40,7 +41,7 @@ class frmMileage : public core::forms::RecordForm {
   private:
     void MakeMenu();
     void Connect();
-    void ConnectOdometer();
+    void ConnectChoices();
     void Propose();
     void FillLists();
     void FillFilterItems();
@@ -51,7 +52,7 @@ class frmMileage : public core::forms::RecordForm {
     void RowSelected();
     void VehicleChosen();
     void BuildingChosen();
-    void ShowOdometer(const QWidget* typed = nullptr);
+    bool IsOdometerTouched() const;
     bool MayLeaveTrip();
     void Add();
     void NewTrip();
@@ -64,7 +65,7 @@ class frmMileage : public core::forms::RecordForm {
     QAction* copy_ = nullptr;
     QAction* delete_ = nullptr;
     QPointer<QWidget> wizard_;
-    Odometer odometer_;
+    std::unique_ptr<OdometerBoxes> odometer_;
     bool beginTyped_ = false;
     bool isNew_ = false; ///< the row being written gets a new id
     bool filling_ = false;

@@ -1,6 +1,5 @@
 #include "books/screens/frmMileageWiz.h"
 
-#include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <functional>
@@ -62,20 +61,14 @@ frmMileageWiz::frmMileageWiz(QWidget* parent, std::optional<std::uint32_t> seed)
 frmMileageWiz::~frmMileageWiz() = default;
 
 void frmMileageWiz::MakeSteps() {
-    QFrame& intro = AddStep(tr("Welcome"), tr("Reconstruct a Mileage Log"));
-    auto* const text = new QLabel(
+    AddTextStep(
+        tr("Welcome"), tr("Reconstruct a Mileage Log"),
         tr("This wizard makes up a mileage log from the transactions of a period: one trip to the "
            "building of each transaction.\n\nSuch a log is reconstructed, not measured. The "
            "odometer readings are spread evenly over the period, and the length of each trip "
            "varies by chance around the distance that you give.\n\nYou answer for the log. Check "
            "each trip before you submit it, change what was different, and delete trips that were "
-           "never made. Ask your tax advisor whether a reconstructed log may be used."),
-        &intro);
-    text->setObjectName(QStringLiteral("lblIntro"));
-    text->setWordWrap(true);
-    auto* const column = new QVBoxLayout(&intro);
-    column->addWidget(text);
-    column->addStretch();
+           "never made. Ask your tax advisor whether a reconstructed log may be used."));
     period_->setupUi(&AddStep(tr("Period"), tr("Choose the period and the transactions")));
     vehicles_ = PutInto<VehiclesPage>(
         AddStep(tr("Vehicles"), tr("Enter the readings and the share of each vehicle")));

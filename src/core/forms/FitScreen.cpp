@@ -73,9 +73,13 @@ void MoveItem(QLayoutItem& item, QVBoxLayout& rows) {
     }
 }
 
-/// What a window may take of its screen, its frame left out.
+QSize FrameOf(const QWidget& window) {
+    return window.frameGeometry().size() - window.geometry().size();
+}
+
+/// Returns the largest size of a window that fits its screen, without its frame.
 QSize RoomFor(const QWidget& window) {
-    const QSize frame = window.frameGeometry().size() - window.geometry().size();
+    const QSize frame = FrameOf(window);
     return window.screen()->availableGeometry().size() -
            QSize(frame.width(), std::max(frame.height(), kTitleHeight));
 }
@@ -125,13 +129,12 @@ void FitToScreen(QWidget& window) {
     const QScreen* const screen = window.screen();
     if (!screen || window.isMaximized()) return;
     const QRect available = screen->availableGeometry();
-    const QSize frame = window.frameGeometry().size() - window.geometry().size();
     const QSize room = RoomFor(window);
     // A form's own least size is the one it would like to have.
     window.setMinimumSize(window.minimumSize().boundedTo(room));
     if (window.width() > room.width() || window.height() > room.height())
         window.resize(window.size().boundedTo(room));
-    const QRect now(window.pos(), window.size() + frame);
+    const QRect now(window.pos(), window.size() + FrameOf(window));
     const QPoint place(
         std::clamp(now.left(), available.left(),
                    std::max(available.left(), available.right() + 1 - now.width())),

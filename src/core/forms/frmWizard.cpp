@@ -63,6 +63,18 @@ QFrame& frmWizard::AddStep(const QString& word, const QString& heading) {
     return *step;
 }
 
+void frmWizard::AddTextStep(const QString& word, const QString& heading, const QString& text,
+                            const char* label, QWidget* below) {
+    QFrame& step = AddStep(word, heading);
+    auto* const shown = new QLabel(text, &step);
+    shown->setObjectName(QLatin1String(label));
+    shown->setWordWrap(true);
+    auto* const column = new QVBoxLayout(&step);
+    column->addWidget(shown);
+    if (below) column->addWidget(below);
+    column->addStretch();
+}
+
 void frmWizard::WireSteps() {
     binding::WireControls(*this);
     // The buttons were created before the controls of the steps.

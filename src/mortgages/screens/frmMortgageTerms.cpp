@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/binding/NumberBox.h"
 #include "core/forms/ErrorRoll.h"
 #include "mortgages/screens/AmortPage.h"
 #include "mortgages/screens/frmMortgage.h"
@@ -16,24 +17,16 @@
 
 namespace mortgages::screens {
 
+using core::binding::NumberTyped;
 using platform::Currency;
-using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
 namespace {
 
 constexpr double kMostCounted = 32'767;
 
-double NumberIn(const QLineEdit& box) {
-    try {
-        return platform::TryParseNumber(FromScreen(box.text())).value_or(0);
-    } catch (const platform::Error&) {
-        return 0; // too large to be one
-    }
-}
-
 std::int16_t CountIn(const QLineEdit& box) {
-    return platform::RoundToInt16(std::clamp(NumberIn(box), 0.0, kMostCounted));
+    return platform::RoundToInt16(std::clamp(NumberTyped(box), 0.0, kMostCounted));
 }
 
 double AmountIn(const core::binding::MoneyEdit& box) {
@@ -104,8 +97,8 @@ bool frmMortgage::IsChanged(const QWidget& control) const {
 void frmMortgage::ReadTerms(clsMortgage& loan) const {
     if (Id() != 0) return ReadSavedTerms(loan);
     loan.SetOrigPV(AmountIn(*origin_->txtOrigPV));
-    loan.SetOrigPer(NumberIn(*origin_->txtOrigPer));
-    loan.SetOrigRate(NumberIn(*origin_->txtOrigRate));
+    loan.SetOrigPer(NumberTyped(*origin_->txtOrigPer));
+    loan.SetOrigRate(NumberTyped(*origin_->txtOrigRate));
     loan.SetBalloon(origin_->chkBalloon->isChecked());
     const auto due = origin_->dpDue->Day();
     if (due && due->IsSet()) loan.SetFirstDue(due->ToText());
@@ -120,7 +113,7 @@ void frmMortgage::ReadSavedTerms(clsMortgage& loan) const {
         if (IsChanged(box)) (loan.*set)(CountIn(box));
     };
     const auto number = [&](const QLineEdit& box, void (clsMortgage::*set)(double)) {
-        if (IsChanged(box)) (loan.*set)(NumberIn(box));
+        if (IsChanged(box)) (loan.*set)(NumberTyped(box));
     };
     count(*origin_->txtBalloonPer, &clsMortgage::SetBalloonPer);
     count(*origin_->txtARMLockedPer, &clsMortgage::SetARMLockedPer);

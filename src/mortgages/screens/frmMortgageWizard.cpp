@@ -1,17 +1,15 @@
 #include "mortgages/screens/frmMortgageWizard.h"
 
 #include <QCheckBox>
-#include <QLabel>
-#include <QVBoxLayout>
 
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/EnableContainer.h"
+#include "core/binding/NumberBox.h"
 #include "core/forms/ErrorRoll.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
-#include "platform/values/Conversions.h"
 #include "ui_frmMortgageWizardCurrent.h"
 #include "ui_frmMortgageWizardDetails.h"
 #include "ui_frmMortgageWizardLender.h"
@@ -19,24 +17,10 @@
 
 namespace mortgages::screens {
 
+using core::binding::NumberIn;
 using core::forms::Guarded;
 using platform::Currency;
 using platform::qt::FromScreen;
-
-namespace {
-
-QLabel* MakeText(const QString& text, QFrame& page, const char* name) {
-    auto* const label = new QLabel(text, &page);
-    label->setObjectName(QLatin1String(name));
-    label->setWordWrap(true);
-    return label;
-}
-
-double NumberIn(const QLineEdit& box) {
-    return platform::TryParseNumber(FromScreen(box.text())).value_or(0);
-}
-
-} // namespace
 
 frmMortgageWizard::frmMortgageWizard(QWidget* parent)
     : frmWizard("frmMortgageWizard", parent),
@@ -54,30 +38,22 @@ frmMortgageWizard::frmMortgageWizard(QWidget* parent)
 frmMortgageWizard::~frmMortgageWizard() = default;
 
 void frmMortgageWizard::MakeSteps() {
-    QFrame& intro = AddStep(tr("Welcome"), tr("New Mortgage"));
-    auto* const first = new QVBoxLayout(&intro);
-    first->addWidget(MakeText(tr("This wizard adds a mortgage, also one that has been running for "
-                                 "years. Have the loan's papers and the lender's latest statement "
-                                 "at hand: the first terms stand in the papers, the balance and "
-                                 "the next payment in the statement."),
-                              intro, "lblIntro"));
-    first->addStretch();
+    AddTextStep(tr("Welcome"), tr("New Mortgage"),
+                tr("This wizard adds a mortgage, also one that has been running for years. Have "
+                   "the loan's papers and the lender's latest statement at hand: the first terms "
+                   "stand in the papers, the balance and the next payment in the statement."));
     lender_->setupUi(
         &AddStep(tr("Lender"), tr("Choose the lender that provided the loan (optional):")));
     terms_->setupUi(&AddStep(tr("Terms"), tr("Set up the original terms of the loan:")));
     details_->setupUi(&AddStep(tr("Details"), tr("More loan details:")));
     current_->setupUi(&AddStep(tr("Today"), tr("Please enter the current values for this loan:")));
-    QFrame& last = AddStep(tr("Finish"), tr("The mortgage will be added"));
-    auto* const end = new QVBoxLayout(&last);
-    end->addWidget(MakeText(tr("The schedule is aligned with the current values. Nothing is "
-                               "charged for the days up to today; from tomorrow on the mortgage "
-                               "charges itself. Escrow, insurance and late fees can be entered on "
-                               "its screen."),
-                            last, "lblEnd"));
-    chkOpenMtg_ = new QCheckBox(tr("&Open the new Mortgage"), &last);
+    chkOpenMtg_ = new QCheckBox(tr("&Open the new Mortgage"));
     chkOpenMtg_->setObjectName(QStringLiteral("chkOpenMtg"));
-    end->addWidget(chkOpenMtg_);
-    end->addStretch();
+    AddTextStep(tr("Finish"), tr("The mortgage will be added"),
+                tr("The schedule is aligned with the current values. Nothing is charged for the "
+                   "days up to today; from tomorrow on the mortgage charges itself. Escrow, "
+                   "insurance and late fees can be entered on its screen."),
+                "lblEnd", chkOpenMtg_);
 }
 
 void frmMortgageWizard::Setup() {

@@ -7,12 +7,11 @@
 #include "books/screens/frmDepreciation.h"
 #include "core/References.h"
 #include "core/binding/AddressBox.h"
+#include "core/binding/NumberBox.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/RecordBar.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
-#include "platform/values/Conversions.h"
-#include "platform/values/Errors.h"
 #include "platform/values/Format.h"
 #include "records/BuildingRules.h"
 #include "records/screens/frmBuilding.h"
@@ -22,21 +21,13 @@
 
 namespace records::screens {
 
+using core::binding::NumberTyped;
 using core::forms::Guarded;
 using platform::qt::FromScreen;
 
 namespace {
 
 constexpr std::string_view kPeriodFormat = "#,###.0";
-
-/// Text that isn't a number, or too large a one, counts as 0.
-double NumberIn(const QLineEdit& box) {
-    try {
-        return platform::TryParseNumber(FromScreen(box.text())).value_or(0);
-    } catch (const platform::OverflowError&) {
-        return 0;
-    }
-}
 
 } // namespace
 
@@ -62,7 +53,7 @@ void frmBuilding::Connect() {
         QLineEdit& box = *financial_->txtDeprPeriod;
         if (box.text().isEmpty()) return;
         const QString shown =
-            platform::qt::ToScreen(platform::FormatNumber(NumberIn(box), kPeriodFormat));
+            platform::qt::ToScreen(platform::FormatNumber(NumberTyped(box), kPeriodFormat));
         if (box.text() != shown) box.setText(shown);
     });
 }
@@ -84,7 +75,7 @@ void frmBuilding::CalculateEquity() {
 
 void frmBuilding::ShowDepreciation() {
     const auto basis = financial_->txtDeprBasis->Amount().value_or(platform::Currency());
-    const auto fault = DepreciationFault(basis, NumberIn(*financial_->txtDeprPeriod));
+    const auto fault = DepreciationFault(basis, NumberTyped(*financial_->txtDeprPeriod));
     if (fault) {
         platform::TheDialogs().ShowMessage("Error", *fault, platform::Icon::Exclamation);
         return;
@@ -95,7 +86,7 @@ void frmBuilding::ShowDepreciation() {
     schedule->Setup(Id(), FromScreen(place_->txtAddress->text()), basis.ToDouble(),
                     FromScreen(financial_->dpPurchDate->text()),
                     FromScreen(financial_->cboDeprMethod->currentText()),
-                    NumberIn(*financial_->txtDeprPeriod));
+                    NumberTyped(*financial_->txtDeprPeriod));
     // The window deletes itself when it closes.
     static_cast<void>(schedule.release());
 }
