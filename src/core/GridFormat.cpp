@@ -47,6 +47,8 @@ std::string CellText(const platform::Value& value, const ColumnFormat& format) {
                 return platform::FormatNumber(ShownNumber(*number), format.pattern);
             }
             return platform::Format(value, format.pattern);
+        case ColumnFormat::Kind::Exact:
+            return platform::FormatNumber(value.AsDouble(), format.pattern);
         case ColumnFormat::Kind::Plain:
             break;
     }

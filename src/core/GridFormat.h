@@ -9,7 +9,12 @@ namespace core {
 
 /// How the cells of a column read.
 struct ColumnFormat {
-    enum class Kind { Plain, Pattern, YesNo };
+    enum class Kind {
+        Plain,
+        Pattern,
+        Exact, ///< a pattern on all digits of a number, not only on those that it shows
+        YesNo,
+    };
 
     Kind kind = Kind::Plain;
     std::string pattern; ///< a format of platform::Format

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Table.h"
 #include "mortgages/clsMortgage.h"
-#include "platform/values/Value.h"
 
 namespace mortgages {
 
@@ -17,40 +17,35 @@ struct AmortView {
     bool showTotal = false;  ///< the sums since the first period
 };
 
-/// The format of a column's values.
-enum class AmortFormat { Count, Day, Rate, Money };
+/// The columns of a printed schedule: eight, or all sixteen.
+enum class PrintedColumns { Usual, All };
 
-/// One column of a schedule.
-struct AmortColumn {
-    std::string_view caption;
-    AmortFormat format = AmortFormat::Money;
-    bool AmortView::*shownWith = nullptr;  ///< null for a column that always stands there
-    double AmortPeriod::*amount = nullptr; ///< of money columns
-};
+struct AmortColumn;
 
-/// A loan's schedule as a table; cells are made when they are asked for.
-class AmortGrid {
+/// A loan's schedule as a table. The numbers have all their digits, a rate is in percent.
+class AmortGrid : public core::Table {
   public:
-    AmortGrid(const clsMortgage& mortgage, std::vector<AmortColumn> columns)
-        : mortgage_(&mortgage), columns_(std::move(columns)) {}
+    /// Keeps a copy of the loan with its schedule.
+    AmortGrid(const clsMortgage& mortgage, const AmortView& view);
+    AmortGrid(const clsMortgage& mortgage, PrintedColumns printed);
 
-    const std::vector<AmortColumn>& Columns() const { return columns_; }
-    std::size_t RowCount() const { return mortgage_->Schedule().size(); }
+    const std::vector<core::TableColumn>& Columns() const override { return columns_; }
+    std::int64_t RowCount() const override { return std::ssize(mortgage_.Schedule()); }
+    platform::Value ValueAt(std::int64_t row, std::size_t column) const override;
 
-    // Rows and columns count from 0.
-    /// Returns the value with all its digits; rates in percent.
-    platform::Value Value(std::size_t row, std::size_t column) const;
-    /// Returns the value as it is shown.
-    std::string Text(std::size_t row, std::size_t column) const;
-    /// Every second row, starting with the first, is tinted.
-    static bool IsTinted(std::size_t row) { return row % 2 == 0; }
+    /// Returns a cell as it is shown.
+    std::string Text(std::int64_t row, std::size_t column) const;
+    /// Returns whether a printed column is aligned left: the periods' numbers and days.
+    bool IsPrintedLeft(std::size_t column) const;
+    /// Returns whether a row is tinted: every second one is, the first included.
+    static bool IsTinted(std::int64_t row) { return row % 2 == 0; }
 
   private:
-    const clsMortgage* mortgage_;
-    std::vector<AmortColumn> columns_;
-};
+    void Add(const AmortColumn& column);
 
-/// Returns the eight columns of a printed schedule, or with `full` all sixteen.
-std::vector<AmortColumn> PrintedColumns(bool full);
+    clsMortgage mortgage_;
+    std::vector<const AmortColumn*> sources_;
+    std::vector<core::TableColumn> columns_;
+};
 
 } // namespace mortgages

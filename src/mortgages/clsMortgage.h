@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,8 +57,8 @@ class clsMortgage {
     /// the current period; past the schedule there is no due date and no balance.
     void SaveRS(platform::Recordset& row) const;
 
-    /// Returns the schedule as a table. It must not outlive the loan or its schedule.
-    AmortGrid ShowGrid(const AmortView& view) const;
+    /// Returns the schedule as a table, which keeps a copy of it.
+    std::unique_ptr<AmortGrid> ShowGrid(const AmortView& view) const;
     /// Returns the schedule as a report prints it: a row per period, and the titles and column
     /// formats separated by "|". `full` has sixteen columns, otherwise eight.
     void GetAmortization(std::vector<std::vector<std::string>>& table, std::string& header,

@@ -4,8 +4,8 @@
 
 #include <fmt/core.h>
 
+#include "core/TableCsv.h"
 #include "mortgages/AmortGrid.h"
-#include "platform/values/Csv.h"
 #include "platform/values/Errors.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
@@ -20,22 +20,7 @@ void PrintSchedule(std::int32_t idMortgage) {
         throw platform::Error(fmt::format("There is no mortgage {}", idMortgage));
     }
     mortgage.ReCalc();
-
-    const mortgages::AmortGrid grid(mortgage, mortgages::PrintedColumns(true));
-    std::string line;
-    for (const mortgages::AmortColumn& column : grid.Columns()) {
-        if (!line.empty()) line += ',';
-        line += platform::CsvText(column.caption);
-    }
-    std::cout << line << '\n';
-    for (std::size_t row = 0; row < grid.RowCount(); ++row) {
-        line.clear();
-        for (std::size_t column = 0; column < grid.Columns().size(); ++column) {
-            if (column > 0) line += ',';
-            platform::AppendCsvCell(line, grid.Value(row, column));
-        }
-        std::cout << line << '\n';
-    }
+    core::WriteCsv(mortgages::AmortGrid(mortgage, mortgages::PrintedColumns::All), std::cout);
 }
 
 } // namespace

@@ -21,6 +21,7 @@ enum class Sizing {
     Manual = 0,  ///< as the user left them
     FitGrid = 1, ///< all columns share the grid's width
     FitText = 2, ///< each as wide as its widest text
+    FillGrid,    ///< the same, and the columns share what is left of the grid's width
 };
 
 /// A table for reading and choosing the rows of a row set. Its first column usually holds the

@@ -62,6 +62,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         }
         case Qt::BackgroundRole:
             if (const auto color = ColorOf(index)) return *color;
+            if (const auto color = rowRule_ ? rowRule_(index.row()) : std::nullopt) return *color;
             return {};
         case Qt::ForegroundRole:
             // A coloured cell keeps its colour in a dark window, so its text colour must suit the

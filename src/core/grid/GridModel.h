@@ -19,6 +19,9 @@ namespace core::grid {
 /// Returns the colour of a cell by its value; nothing for a plain cell.
 using ColorRule = std::function<std::optional<QColor>(const platform::Value&)>;
 
+/// Returns the colour of a row, counted from 0; nothing for a plain row.
+using RowRule = std::function<std::optional<QColor>(int row)>;
+
 /// Shows the rows of any table as text. A cell is formatted when it is painted, so a million rows
 /// cost only what is visible of them.
 class GridModel : public QAbstractTableModel {
@@ -59,6 +62,8 @@ class GridModel : public QAbstractTableModel {
     /// Does nothing for a cell outside the grid.
     void SetColor(int column, int row, QColor color);
     void SetColorRule(int column, ColorRule rule);
+    /// Sets the background of whole rows, below the colours of cells.
+    void SetRowRule(RowRule rule) { rowRule_ = std::move(rule); }
     void SetBoldHeader(bool bold);
 
   Q_SIGNALS:
@@ -93,6 +98,7 @@ class GridModel : public QAbstractTableModel {
     std::optional<RowSearch> search_; ///< while rows are still looked through
     std::int32_t nextSearched_ = 0;
     QTimer nextSlice_;
+    RowRule rowRule_;
     bool boldHeader_ = true;
 };
 

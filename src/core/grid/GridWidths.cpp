@@ -154,6 +154,9 @@ void Grid::Fit(int firstColumn, Sizing sizing) {
 /// something for the others.
 std::vector<int> Grid::SharedWidths(int width) const {
     std::vector<int> weights = wanted_;
+    const bool isTooNarrow =
+        width < std::accumulate(wanted_.begin() + firstColumn_, wanted_.end(), 0);
+    if (sizing_ == Sizing::FillGrid && isTooNarrow) return wanted_;
     int own = 0;
     int others = 0;
     for (int column = firstColumn_; column < std::ssize(weights); ++column) {

@@ -2,15 +2,14 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTableView>
-#include <algorithm>
 
-#include "mortgages/screens/AmortModel.h"
+#include "core/grid/Grid.h"
+#include "mortgages/AmortGrid.h"
 #include "mortgages/screens/YearChart.h"
 #include "platform/qt/Text.h"
 
@@ -18,15 +17,22 @@ namespace mortgages::screens {
 
 namespace {
 
-constexpr int kPadding = 12;
+constexpr QRgb kTint = 0xFFE2FEEB;
+constexpr QRgb kTintOnDark = 0xFF24382B;
+
+/// The tint of every second row, dark in dark windows, so that their text stays readable.
+std::optional<QColor> Tint(int row) {
+    if (!AmortGrid::IsTinted(row)) return std::nullopt;
+    const bool isDark = QGuiApplication::palette().color(QPalette::Base).lightness() < 128;
+    return QColor(isDark ? kTintOnDark : kTint);
+}
 
 } // namespace
 
 AmortPage::AmortPage(QWidget* parent)
     : QWidget(parent),
       settings_(LoadViewSettings()),
-      model_(new AmortModel(this)),
-      table_(new QTableView(this)),
+      table_(new core::grid::Grid(this)),
       chart_(new YearChart(this)),
       fault_(new QLabel(this)),
       instead_(new QWidget(this)),
@@ -34,15 +40,8 @@ AmortPage::AmortPage(QWidget* parent)
     setProperty("panel", true);
     table_->setObjectName(QStringLiteral("grdAmort"));
     table_->setAccessibleName(tr("Schedule"));
-    table_->setModel(model_);
-    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setWordWrap(false);
-    table_->setTabKeyNavigation(false);
     table_->setShowGrid(false);
-    table_->verticalHeader()->hide();
-    for (QHeaderView* const header : {table_->horizontalHeader(), table_->verticalHeader()})
-        header->setFocusPolicy(Qt::NoFocus);
-    table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
+    table_->Model().SetRowRule(Tint);
     fault_->setObjectName(QStringLiteral("lblFault"));
     fault_->setWordWrap(true);
     fault_->hide();
@@ -147,34 +146,14 @@ void AmortPage::Choose() {
 }
 
 void AmortPage::ShowAll() {
-    model_->Show(mortgage_, {.showDue = true,
-                             .showDetail = settings_.detail,
-                             .showYear = settings_.yearToDate,
-                             .showTotal = settings_.cumulative});
-    FitColumns();
+    core::grid::LoadGrid(*table_,
+                         mortgage_.ShowGrid({.showDue = true,
+                                             .showDetail = settings_.detail,
+                                             .showYear = settings_.yearToDate,
+                                             .showTotal = settings_.cumulative}),
+                         core::grid::HeaderFont::Plain);
+    core::grid::AutoSizeGrid(*table_, 0, core::grid::Sizing::FillGrid);
     UpdateChart();
-}
-
-/// Makes each column as wide as its texts, and splits the remaining width among them.
-void AmortPage::FitColumns() {
-    table_->resizeColumnsToContents();
-    const int count = model_->columnCount();
-    int wanted = 0;
-    for (int column = 0; column < count; ++column)
-        wanted += table_->columnWidth(column) + kPadding;
-    const int left = std::max(0, table_->viewport()->width() - wanted) / std::max(1, count);
-    for (int column = 0; column < count; ++column)
-        table_->setColumnWidth(column, table_->columnWidth(column) + kPadding + left);
-}
-
-void AmortPage::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    FitColumns();
-}
-
-void AmortPage::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    FitColumns();
 }
 
 void AmortPage::UpdateChart() {

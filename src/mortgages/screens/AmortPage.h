@@ -9,11 +9,13 @@
 class QCheckBox;
 class QComboBox;
 class QLabel;
-class QTableView;
+
+namespace core::grid {
+class Grid;
+}
 
 namespace mortgages::screens {
 
-class AmortModel;
 class YearChart;
 
 /// The page of a loan's schedule: its rows as a table, its years as a chart, and the options of
@@ -35,12 +37,7 @@ class AmortPage : public QWidget {
     /// Emitted when the user asks for the loan's own schedule again.
     void OwnScheduleAsked();
 
-  protected:
-    void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-
   private:
-    void FitColumns();
     void MakeCaption();
     void MakeOptions();
     QCheckBox* MakeCheck(const QString& text, const QString& hint, const char* name, bool on);
@@ -50,8 +47,7 @@ class AmortPage : public QWidget {
 
     ViewSettings settings_;
     clsMortgage mortgage_;
-    AmortModel* model_;
-    QTableView* table_;
+    core::grid::Grid* table_;
     YearChart* chart_;
     QLabel* fault_;
     QWidget* instead_;
