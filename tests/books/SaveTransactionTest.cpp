@@ -165,7 +165,7 @@ TEST_F(SaveTransaction, ForgetsItsTripWhateverThePersonSays) {
         EXPECT_EQ(Ask("SELECT Count(*) FROM Mileage"), trips);
         EXPECT_EQ(TripOf(id), "0");
         ASSERT_EQ(person.Heard().size(), asked);
-        for (const support::Said& question : person.Heard())
+        for (const support::Prompt& question : person.Heard())
             EXPECT_EQ(question.text, "Delete selected Mileage entry?");
         books::EditTransaction(id, Payment(), Payment(), Trip::None);
         EXPECT_EQ(person.Heard().size(), asked) << "asked once";

@@ -67,6 +67,7 @@ TEST_F(Descriptions, NameEveryRecordThatAListMustShow) {
     Run("UPDATE Tenant SET FirstName = NULL WHERE IdTenant = 31");
     Run("UPDATE Tenant SET LastName = NULL, FirstName = NULL WHERE IdTenant = 32");
     Run("UPDATE Unit SET Unit = NULL WHERE IdUnit = 21");
+    Run("INSERT INTO Transactions (IdTransaction) VALUES (70)");
     struct Case {
         int kind;
         std::int32_t id;
@@ -85,6 +86,8 @@ TEST_F(Descriptions, NameEveryRecordThatAListMustShow) {
              Case{core::kSingleUnitBuilding, 10, "12 Elm St", true},
              Case{core::kMortgage, 51, "Mortgage no. 51", true},
              Case{core::kActivities, 7, "Activities no. 7", false},
+             Case{core::kTransaction, 70, "Transaction no. 70", true},
+             Case{core::kTransaction, 71, "Transaction no. 71 (deleted)", false},
              Case{core::kTenant, 0, "", false},
          }) {
         EXPECT_EQ(core::NameOfRecord(c.kind, c.id), c.name);

@@ -207,7 +207,7 @@ TEST_F(LeaseEditor, CommandsAskInTheirOwnWords) {
                                        LeaseCommand::RenewLease, LeaseCommand::Reprocess})
         leases::AskWhether(command);
     Lines titles;
-    for (const support::Said& said : person.Heard())
+    for (const support::Prompt& said : person.Heard())
         titles.push_back(said.title);
     EXPECT_EQ(titles, (Lines{"Give Notice?", "Confirm Roll Forward", "Break Lease?",
                              "Cancel Notice?", "Renew Lease?", "Confirm Reprocess"}));

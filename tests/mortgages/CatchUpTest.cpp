@@ -11,6 +11,7 @@
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 #include "store/CreateDatabase.h"
+#include "support/Random.h"
 #include "support/TemporaryFolder.h"
 
 namespace tests {
@@ -22,24 +23,11 @@ using platform::Date;
 using platform::DateAdd;
 using platform::Interval;
 using platform::Recordset;
+using support::Random;
 
 constexpr int kMortgages = 16;
 const Date kFirstDay(2023, 11, 15);
 const Date kLastDay(2025, 3, 3);
-
-/// The same numbers on every machine.
-class Random {
-  public:
-    explicit Random(std::uint64_t seed) : state_(seed) {}
-
-    int Below(int limit) {
-        state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
-        return static_cast<int>((state_ >> 33) % static_cast<std::uint64_t>(limit));
-    }
-
-  private:
-    std::uint64_t state_;
-};
 
 std::string RandomExtra(Random& random) {
     std::string list;

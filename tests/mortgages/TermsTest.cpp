@@ -200,7 +200,7 @@ TEST(DoubleList, ReadsWhatItWroteAndWhatPeopleWrote) {
 std::string Captions(const mortgages::AmortGrid& grid) {
     std::string captions;
     for (const auto& column : grid.Columns())
-        captions += std::string(column.caption) + ";";
+        captions += column.caption + ";";
     return captions;
 }
 
@@ -224,10 +224,10 @@ TEST_F(Terms, ShowTheYearsByTheFirstPeriodAndThenEachYearsEnd) {
 
 TEST_F(Terms, ShowTheScheduleByItsViewOptions) {
     const clsMortgage loan;
-    EXPECT_EQ(Captions(loan.ShowGrid({})), "No.;Rate;Pmt;Xtra Pri;Balance;");
-    EXPECT_EQ(Captions(loan.ShowGrid({.showDue = true, .showDetail = true})),
+    EXPECT_EQ(Captions(*loan.ShowGrid({})), "No.;Rate;Pmt;Xtra Pri;Balance;");
+    EXPECT_EQ(Captions(*loan.ShowGrid({.showDue = true, .showDetail = true})),
               "No.;Due;Rate;Pmt;Pri;Xtra Pri;Int;Balance;Remaining;PPM Penalty;");
-    EXPECT_EQ(Captions(loan.ShowGrid({.showYear = true, .showTotal = true})),
+    EXPECT_EQ(Captions(*loan.ShowGrid({.showYear = true, .showTotal = true})),
               "No.;Rate;Pmt;Pmt Yr;Pmt TTD;Xtra Pri;Pri Yr;Pri TTD;Int Yr;Int TTD;Balance;");
 
     std::vector<std::vector<std::string>> table;

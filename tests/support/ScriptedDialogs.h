@@ -11,7 +11,7 @@
 namespace support {
 
 /// A message or question that was shown to the user.
-struct Said {
+struct Prompt {
     std::string title;
     std::string text;
     platform::Icon icon = platform::Icon::None;
@@ -32,14 +32,14 @@ class ScriptedDialogs {
     ScriptedDialogs(ScriptedDialogs&&) = delete;
     ScriptedDialogs& operator=(ScriptedDialogs&&) = delete;
 
-    const std::vector<Said>& Heard() const { return script_->heard; }
+    const std::vector<Prompt>& Heard() const { return script_->heard; }
     /// How many answers nobody has asked for.
     std::size_t AnswersLeft() const { return script_->answers.size(); }
 
   private:
     struct Script {
         std::deque<bool> answers;
-        std::vector<Said> heard;
+        std::vector<Prompt> heard;
     };
 
     class Seam : public platform::Dialogs {

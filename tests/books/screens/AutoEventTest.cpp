@@ -1,58 +1,29 @@
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabWidget>
-#include <QTest>
-#include <QToolButton>
 
 #include "books/screens/frmAutoEvent.h"
 #include "books/screens/frmAutoEventList.h"
 #include "core/EditRecord.h"
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/Books.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using books::screens::frmAutoEvent;
 using books::screens::frmAutoEventList;
-using support::Choose;
-using support::ClickAction;
-using support::ClickOn;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
-const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
-
-class AutoEventTest : public support::ScreenTest {
+class AutoEventTest : public ScreenTest {
   protected:
     // A mortgage without an account number ends its list.
     AutoEventTest() { Run("DELETE * FROM Mortgage WHERE IdMortgage = 51"); }
 
-    static QPointer<frmAutoEvent> Open(std::int32_t id = 0) {
-        QPointer<frmAutoEvent> form(new frmAutoEvent);
-        form->Setup(id);
-        return form;
-    }
+    static QPointer<frmAutoEvent> Open(std::int32_t id = 0) { return Show<frmAutoEvent>(id); }
     static std::string Row(std::string_view fields, int id = 1000) {
-        platform::Recordset rows;
-        rows.Open(core::App().Connection,
-                  "SELECT " + std::string(fields) +
-                      " FROM AutoEvent WHERE IdAutoEvent = " + std::to_string(id));
-        std::string text;
-        for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
-            text += (i > 0 ? "|" : "") + (rows[i].IsNull() ? "NULL" : rows[i].AsText());
-        }
-        return text;
+        return support::Rows(core::App().Connection,
+                             "SELECT " + std::string(fields) +
+                                 " FROM AutoEvent WHERE IdAutoEvent = " + std::to_string(id),
+                             "NULL")
+            .at(0);
     }
     static bool TabIsOpen(const frmAutoEvent& form, int tab) {
         return Find<QTabWidget>(form, "tabs").isTabEnabled(tab);
@@ -62,7 +33,7 @@ class AutoEventTest : public support::ScreenTest {
 TEST_F(AutoEventTest, SavesAScheduledEventWithItsTransaction) {
     const auto form = Open();
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Auto Event"));
-    EXPECT_EQ(Find<QLabel>(*form, "lblLastRun").text(), QStringLiteral("Never"));
+    EXPECT_EQ(Text(*form, "lblLastRun"), "Never");
     EXPECT_FALSE(TabIsOpen(*form, 1));
     Type(Find<QLineEdit>(*form, "txtDescription"), "Owner's draw");
     Type(Find<QLineEdit>(*form, "txtIntervalPeriod"), "2");
@@ -84,7 +55,7 @@ TEST_F(AutoEventTest, SavesAScheduledEventWithItsTransaction) {
             "IdLease, IdTenant, IdBuilding, IdUnit, IdMortgage, IdWorkOrder"),
         "1|Owner's draw|True|False|2|2|NULL|1|1|60|5|32|12.5|Repairs|1|40|30|10|20|0|0");
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Auto Event: Owner's draw"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboTo").currentText(), QStringLiteral("Zu, Li"));
+    EXPECT_EQ(Text(*form, "cboTo"), "Zu, Li");
     EXPECT_FALSE(form->Dirty());
 }
 
@@ -139,7 +110,7 @@ TEST_F(AutoEventTest, StartsAStoredEventAgainWhenItsIntervalIsChanged) {
         Find<QCheckBox>(*form, "chkAlert").click();
         ClickAction(*form, "CLOSE");
         EXPECT_EQ(Row("LastRun", 900), lastRun);
-        support::SettleEvents();
+        SettleEvents();
     }
 }
 
@@ -189,12 +160,10 @@ TEST_F(AutoEventTest, ShowsAnEventWhosePartiesAreGone) {
         "TaxCategory, IEN, Amount, TriggerID) VALUES (900, 1, 'Old', False, 5, 3, '02/29/2024', "
         "1, 1, 0, 5, 4711, 'Old Words', 2, 7, 0)");
     const auto form = Open(900);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboFrom").currentText(),
-              QStringLiteral("[ No Account Selected ]"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboTo").currentText(),
-              QStringLiteral("[ No Tenant Selected ]"));
-    EXPECT_EQ(Find<QLabel>(*form, "lblLastRun").text(), QStringLiteral("02/29/2024"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboIntervalType").currentText(), QStringLiteral("Year"));
+    EXPECT_EQ(Text(*form, "cboFrom"), "[ No Account Selected ]");
+    EXPECT_EQ(Text(*form, "cboTo"), "[ No Tenant Selected ]");
+    EXPECT_EQ(Text(*form, "lblLastRun"), "02/29/2024");
+    EXPECT_EQ(Text(*form, "cboIntervalType"), "Year");
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Row("Enabled, DebitId, CreditType, CreditId, TaxCategory, IEN, LastRun", 900),
               "False|0|5|4711|Old Words|2|02/29/2024");
@@ -226,9 +195,7 @@ TEST_F(AutoEventTest, TheListOpensAddsAndDeletesEvents) {
     Run("UPDATE AutoEvent SET LastRun = '03/29/2024'");
     core::NotifyAll(core::kAutoEvent, core::kRecordsChanged, 0);
     EXPECT_EQ(support::GridText(grid), "Description|Enabled|Last Ran\nDraw|Yes|03/29/2024\n");
-    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    EXPECT_EQ(support::Portray(*form, "frmAutoEventList"), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmAutoEventList"), Said{});
     core::RegisterOpener(core::kAutoEvent, {});
 }
 
@@ -238,20 +205,13 @@ TEST_F(AutoEventTest, LooksAndReadsRight) {
         "TaxCategory, IEN, Amount, TriggerType, TriggerID) VALUES (900, 1, 'Draw of the owner', "
         "True, 3, 1, '02/29/2024', 1, 1, 60, 1, 62, 'Repairs', 1, 700, 1, 60)");
     const auto form = Open(900);
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    auto& tabs = Find<QTabWidget>(*form, "tabs");
-    for (int tab = 0; tab < tabs.count(); ++tab) {
-        tabs.setCurrentIndex(tab);
-        support::SettleEvents();
-        EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-        EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-        EXPECT_EQ(support::Portray(*form, "frmAutoEvent" + std::to_string(tab)), Said{});
-    }
-    tabs.setCurrentIndex(0);
+    EXPECT_EQ(LookFaultsOfTabs(*form, "frmAutoEvent"), Said{});
+    Find<QTabWidget>(*form, "tabs").setCurrentIndex(0);
     Find<QRadioButton>(*form, "optTriggered").click();
-    support::SettleEvents();
-    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-    EXPECT_EQ(support::Portray(*form, "frmAutoEventTriggered"), Said{});
+    SettleEvents();
+    EXPECT_EQ(TabOrderFaults(*form), Said{});
+    EXPECT_EQ(Portray(*form, "frmAutoEventTriggered"), Said{});
 }
 
 } // namespace
+} // namespace support

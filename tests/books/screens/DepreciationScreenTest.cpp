@@ -1,31 +1,22 @@
-#include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
-#include <QPointer>
-#include <QTabWidget>
 #include <QTableWidget>
 #include <QtCharts/QChart>
 
 #include "books/screens/frmDepreciation.h"
 #include "platform/qt/charts/SeriesChart.h"
 #include "platform/values/Errors.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using books::screens::frmDepreciation;
 using platform::qt::SeriesChart;
-using support::Find;
 
-class DepreciationScreen : public support::ScreenTest {
+class DepreciationScreen : public ScreenTest {
   protected:
     static QPointer<frmDepreciation> Open() {
-        QPointer<frmDepreciation> form(new frmDepreciation);
-        form->Setup(7, "1 Elm Street", 100000, "07/04/2020", "Straight Line", 39);
-        return form;
+        return Show<frmDepreciation>(7, "1 Elm Street", 100000, "07/04/2020", "Straight Line", 39);
     }
 };
 
@@ -63,22 +54,23 @@ TEST_F(DepreciationScreen, ShowsTheScheduleAsGridAndChart) {
     EXPECT_TRUE(frmDepreciation::BringToFront(7));
     EXPECT_FALSE(frmDepreciation::BringToFront(8));
     support::ClickAction(*form, "CLOSE");
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_TRUE(form.isNull());
     EXPECT_FALSE(frmDepreciation::BringToFront(7));
 }
 
 TEST_F(DepreciationScreen, IsReachedByKeysAndReadAloud) {
     const auto form = Open();
-    EXPECT_THAT(support::MnemonicFaults(*form), testing::IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(*form), testing::IsEmpty());
-    EXPECT_THAT(support::NameFaults(*form), testing::IsEmpty());
-    EXPECT_THAT(support::Portray(*form, "frmDepreciation"), testing::IsEmpty());
+    EXPECT_THAT(MnemonicFaults(*form), testing::IsEmpty());
+    EXPECT_THAT(TabOrderFaults(*form), testing::IsEmpty());
+    EXPECT_THAT(NameFaults(*form), testing::IsEmpty());
+    EXPECT_THAT(Portray(*form, "frmDepreciation"), testing::IsEmpty());
     Find<QTabWidget>(*form, "tabs").setCurrentIndex(1);
-    EXPECT_THAT(support::Portray(*form, "frmDepreciation_chart"), testing::IsEmpty());
+    EXPECT_THAT(Portray(*form, "frmDepreciation_chart"), testing::IsEmpty());
     frmDepreciation junk;
     EXPECT_THROW(junk.Setup(8, "x", 1, "soon", "", 0), platform::ConversionError);
     EXPECT_FALSE(junk.isVisible());
 }
 
 } // namespace
+} // namespace support

@@ -1,34 +1,20 @@
-#include <QApplication>
-#include <QComboBox>
-#include <QRadioButton>
-#include <QTest>
-#include <QToolButton>
-
 #include "books/PostTransaction.h"
 #include "books/screens/General_Ledger.h"
 #include "books/screens/frmTransaction.h"
 #include "core/EditRecord.h"
-#include "core/NotifyAll.h"
 #include "core/Preferences.h"
-#include "core/RecordKinds.h"
 #include "core/forms/OpenForms.h"
 #include "platform/registry/Registry.h"
 #include "platform/system/Clock.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using books::screens::frmTransaction;
 using books::screens::General_Ledger;
-using support::Choose;
-using support::ClickOn;
-using support::Find;
-using Said = std::vector<std::string>;
 
-class GeneralLedgerTest : public support::ScreenTest {
+class GeneralLedgerTest : public ScreenTest {
   protected:
     static void Post(int day, int amount, books::Party from, books::Party to, int idUnit = 0) {
         books::Transaction row;
@@ -129,7 +115,7 @@ TEST_F(GeneralLedgerTest, AddsWithWhatItIsAbout) {
         ASSERT_NE(form, nullptr);
         Answer({true}); // From and To are the same account
         support::ClickAction(*form, "CLOSE");
-        support::SettleEvents();
+        SettleEvents();
         EXPECT_EQ(Ask("SELECT IdTenant & '|' & IdBuilding & '|' & IdUnit FROM Transactions"),
                   references);
     }
@@ -197,9 +183,10 @@ TEST_F(GeneralLedgerTest, LooksAndReadsRight) {
     host.resize(760, 300);
     ledger->resize(760, 300);
     host.show();
-    EXPECT_EQ(support::NameFaults(*ledger), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*ledger), Said{});
-    EXPECT_EQ(support::Portray(host, "General_Ledger"), Said{});
+    EXPECT_EQ(NameFaults(*ledger), Said{});
+    EXPECT_EQ(TabOrderFaults(*ledger), Said{});
+    EXPECT_EQ(Portray(host, "General_Ledger"), Said{});
 }
 
 } // namespace
+} // namespace support

@@ -2,38 +2,20 @@
 
 #include <gmock/gmock.h>
 
-#include <QAction>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-
-#include "core/NotifyAll.h"
 #include "core/Preferences.h"
-#include "core/RecordKinds.h"
 #include "core/Settings.h"
-#include "platform/qt/Text.h"
 #include "support/Books.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using books::screens::frmMileage;
-using platform::qt::FromScreen;
-using support::Choose;
-using support::ClickOn;
-using support::Find;
-using support::Type;
-using support::TypeOn;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 /// The log on 05/17/2024; the usual vehicle is the Van.
-class MileageLog : public support::ScreenTest {
+class MileageLog : public ScreenTest {
   protected:
     MileageLog() {
         Add(101, "05/10/2024", "Van", 100, 115, 10);
@@ -51,7 +33,7 @@ class MileageLog : public support::ScreenTest {
     frmMileage& OpenLog(std::int32_t id = 0) {
         auto* const form = new frmMileage;
         form->Setup(id);
-        support::SettleEvents();
+        SettleEvents();
         return *form;
     }
     static core::grid::Grid& List(const frmMileage& form) {
@@ -219,10 +201,8 @@ TEST_F(MileageLog, FollowsOtherScreensAndLooksRight) {
     List(form).SelectId(104);
     EXPECT_EQ("  ", Odometer(form)) << "nothing of the trip before";
     List(form).SelectId(102);
-    EXPECT_THAT(support::Portray(form, "frmMileage"), IsEmpty());
-    EXPECT_THAT(support::MnemonicFaults(form), IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(form), IsEmpty());
-    EXPECT_THAT(support::NameFaults(form), IsEmpty());
+    EXPECT_EQ(LookFaults(form, "frmMileage"), std::vector<std::string>{});
 }
 
 } // namespace
+} // namespace support

@@ -2,28 +2,13 @@
 
 #include <gmock/gmock.h>
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QTreeWidget>
-
-#include "platform/qt/Text.h"
 #include "support/Books.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using books::screens::frmMileageWiz;
-using platform::qt::FromScreen;
-using platform::qt::ToScreen;
-using support::ClickOn;
-using support::Find;
-using support::Type;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -32,7 +17,7 @@ using testing::SizeIs;
 constexpr std::uint32_t kSeed = 5;
 
 /// The wizard on 05/17/2024, on books with three transactions of that year that name a building.
-class MileageWizard : public support::ScreenTest {
+class MileageWizard : public ScreenTest {
   protected:
     MileageWizard() {
         const auto add = [](int id, std::string_view day, std::string_view category, int building) {
@@ -49,7 +34,7 @@ class MileageWizard : public support::ScreenTest {
             "'Truck')");
         wizard_ = new frmMileageWiz(nullptr, kSeed);
         wizard_->Setup();
-        support::SettleEvents();
+        SettleEvents();
     }
     template <class T>
     T& The(const char* name) {
@@ -88,7 +73,7 @@ TEST_F(MileageWizard, SaysThatTheLogIsReconstructedAndReadsThePeriod) {
     const std::string intro = FromScreen(The<QLabel>("lblIntro").text());
     EXPECT_THAT(intro, HasSubstr("reconstructed, not measured"));
     EXPECT_THAT(intro, HasSubstr("You answer for the log."));
-    EXPECT_THAT(support::Portray(*wizard_, "frmMileageWiz-0"), IsEmpty());
+    EXPECT_THAT(Portray(*wizard_, "frmMileageWiz-0"), IsEmpty());
     Next();
     EXPECT_EQ("01/01/2024", FromScreen(The<QLineEdit>("dpStart").text()));
     EXPECT_EQ("12/31/2024", FromScreen(The<QLineEdit>("dpEnd").text()));
@@ -104,7 +89,7 @@ TEST_F(MileageWizard, SaysThatTheLogIsReconstructedAndReadsThePeriod) {
     EXPECT_THAT(Categories(), ElementsAre("Rent", "Repairs", "Taxes"));
     EXPECT_EQ(Qt::Unchecked, The<QListWidget>("lstCategories").item(0)->checkState());
     EXPECT_THAT(Rows(The<QTreeWidget>("lvwVehicles"))[0], HasSubstr("01/01/2023"));
-    EXPECT_THAT(support::Portray(*wizard_, "frmMileageWiz-1"), IsEmpty());
+    EXPECT_THAT(Portray(*wizard_, "frmMileageWiz-1"), IsEmpty());
     Type(The<QLineEdit>("dpEnd"), "12/31/2022");
     Next();
     EXPECT_EQ(1, wizard_->Step());
@@ -129,7 +114,7 @@ TEST_F(MileageWizard, ChangesVehiclesAndBuildings) {
     ClickOn(The<QPushButton>("cmdVehicleUpdate"));
     EXPECT_THAT(Rows(list), SizeIs(2));
     EXPECT_EQ("Bike|20.0|90.5|01/01/2024|12/31/2024|12.5", Rows(list).back());
-    EXPECT_THAT(support::Portray(*wizard_, "frmMileageWiz-2"), IsEmpty());
+    EXPECT_THAT(Portray(*wizard_, "frmMileageWiz-2"), IsEmpty());
     for (int i = 0; i < 2; ++i)
         ClickOn(The<QPushButton>("cmdVehicleDelete"));
     EXPECT_THAT(Rows(list), IsEmpty());
@@ -139,7 +124,7 @@ TEST_F(MileageWizard, ChangesVehiclesAndBuildings) {
     ClickOn(The<QPushButton>("cmdVehicleAdd"));
     Next();
     ASSERT_EQ(3, wizard_->Step());
-    EXPECT_THAT(support::Portray(*wizard_, "frmMileageWiz-3"), IsEmpty());
+    EXPECT_THAT(Portray(*wizard_, "frmMileageWiz-3"), IsEmpty());
     The<QTreeWidget>("lvwBuildings").topLevelItem(0)->setCheckState(0, Qt::Unchecked);
     ClickOn(The<QPushButton>("cmdBuildingDelete"));
     support::Choose(*wizard_, "cboBuilding", "12 Elm St");
@@ -157,10 +142,7 @@ TEST_F(MileageWizard, ShowsAPreviewThatCanBeChangedAndThrownAgain) {
     EXPECT_THAT(first[0], HasSubstr("|12 Elm St, Salem OR|T201"));
     EXPECT_THAT(FromScreen(The<QLabel>("lblTotals").text()), HasSubstr("3 trips"));
     EXPECT_THAT(FromScreen(The<QLabel>("lblReconstructed").text()), HasSubstr("You answer"));
-    EXPECT_THAT(support::Portray(*wizard_, "frmMileageWiz-4"), IsEmpty());
-    EXPECT_THAT(support::MnemonicFaults(*wizard_), IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(*wizard_), IsEmpty());
-    EXPECT_THAT(support::NameFaults(*wizard_), IsEmpty());
+    EXPECT_EQ(LookFaults(*wizard_, "frmMileageWiz-4"), std::vector<std::string>{});
     ClickOn(The<QPushButton>("cmdPreview"));
     EXPECT_NE(first, Trips()) << "another throw";
     EXPECT_THAT(Heard(), IsEmpty());
@@ -230,3 +212,4 @@ TEST_F(MileageWizard, KeepsThePreviewWhenTheSubmitFails) {
 }
 
 } // namespace
+} // namespace support

@@ -1,32 +1,14 @@
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPointer>
-#include <QPushButton>
-#include <QTest>
-
 #include "books/screens/frmTransCategory.h"
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using books::screens::frmTransCategory;
-using support::ClickOn;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
-class TransCategoryTest : public support::ScreenTest {
+class TransCategoryTest : public ScreenTest {
   protected:
-    QPointer<frmTransCategory> Open() {
-        QPointer<frmTransCategory> form(new frmTransCategory);
-        form->Setup();
-        return form;
-    }
+    QPointer<frmTransCategory> Open() { return Show<frmTransCategory>(); }
     static std::string Items(const frmTransCategory& form, const char* name) {
         const auto& list = Find<QListWidget>(form, name);
         std::string text;
@@ -109,10 +91,8 @@ TEST_F(TransCategoryTest, EnterKeepsTheTypedNameAndTheScreen) {
 TEST_F(TransCategoryTest, LooksAndReadsRight) {
     const auto form = Open();
     Select(*form, "lstExpense", 2);
-    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    EXPECT_EQ(support::Portray(*form, "frmTransCategory"), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmTransCategory"), Said{});
 }
 
 } // namespace
+} // namespace support

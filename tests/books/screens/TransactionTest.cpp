@@ -1,39 +1,24 @@
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 #include "books/TransactionListeners.h"
 #include "books/screens/frmTransaction.h"
-#include "core/NotifyAll.h"
 #include "core/binding/ComboList.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/Books.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using books::screens::frmTransaction;
 using books::screens::TransactionSetup;
-using support::Choose;
-using support::ClickAction;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
-class TransactionTest : public support::ScreenTest {
+class TransactionTest : public ScreenTest {
   protected:
     // A mortgage without an account number ends its list.
     TransactionTest() { Run("DELETE * FROM Mortgage WHERE IdMortgage = 51"); }
 
     QPointer<frmTransaction> Open(const TransactionSetup& setup = {}) {
-        QPointer<frmTransaction> form(new frmTransaction);
-        form->Setup(setup);
-        return form;
+        return Show<frmTransaction>(setup);
     }
     static QPointer<frmTransaction> OpenId(std::int32_t id) {
         QPointer<frmTransaction> form(new frmTransaction);
@@ -42,22 +27,12 @@ class TransactionTest : public support::ScreenTest {
         form->Setup(setup);
         return form;
     }
-    static std::string Text(const frmTransaction& form, const char* box) {
-        return Find<QComboBox>(form, box).currentText().toStdString();
-    }
-    static std::string Line(const frmTransaction& form, const char* box) {
-        return Find<QLineEdit>(form, box).text().toStdString();
-    }
     static std::string Row(std::string_view fields, int id = 1000) {
-        platform::Recordset rows;
-        rows.Open(core::App().Connection,
-                  "SELECT " + std::string(fields) +
-                      " FROM Transactions WHERE IdTransaction = " + std::to_string(id));
-        std::string text;
-        for (std::size_t i = 0; i < rows.FieldCount(); ++i) {
-            text += (i > 0 ? "|" : "") + (rows[i].IsNull() ? "NULL" : rows[i].AsText());
-        }
-        return text;
+        return support::Rows(core::App().Connection,
+                             "SELECT " + std::string(fields) +
+                                 " FROM Transactions WHERE IdTransaction = " + std::to_string(id),
+                             "NULL")
+            .at(0);
     }
     static void AddRow(int id, std::string_view fields, std::string_view values) {
         Run("INSERT INTO Transactions (IdTransaction, " + std::string(fields) + ") VALUES (" +
@@ -68,8 +43,8 @@ class TransactionTest : public support::ScreenTest {
 TEST_F(TransactionTest, OpensEmptyOnToday) {
     const auto form = Open();
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Transaction"));
-    EXPECT_EQ(Line(*form, "dpEffectiveDate"), "05/17/2024");
-    EXPECT_EQ(Line(*form, "txtAmount"), "0.00");
+    EXPECT_EQ(Text(*form, "dpEffectiveDate"), "05/17/2024");
+    EXPECT_EQ(Text(*form, "txtAmount"), "0.00");
     EXPECT_EQ(Text(*form, "cboCategory"), "No Category Selected");
     EXPECT_EQ(Text(*form, "cboFromType"), "Account");
     EXPECT_EQ(Find<QComboBox>(*form, "cboFrom").count(), 3);
@@ -146,7 +121,7 @@ TEST_F(TransactionTest, ATypedNameIsARecordOnlyIfItIsTheFirstOne) {
                       "WHERE IdTransaction = (SELECT Max(IdTransaction) FROM Transactions)"),
                   stored)
             << typed;
-        support::SettleEvents();
+        SettleEvents();
     }
 }
 
@@ -192,7 +167,7 @@ TEST_F(TransactionTest, ShowsAStoredRowAndKeepsWhatIsNotOffered) {
     EXPECT_EQ(Text(*form, "cboToType"), "Tenant");
     EXPECT_EQ(Text(*form, "cboTo"), "O'Brien, Ann") << "a record shows by its name of today";
     EXPECT_EQ(Text(*form, "cboCategory"), "Old Words");
-    EXPECT_EQ(Line(*form, "txtAmount"), "12.30");
+    EXPECT_EQ(Text(*form, "txtAmount"), "12.30");
     EXPECT_FALSE(Find<QComboBox>(*form, "cboBuilding").isEnabled());
     EXPECT_FALSE(form->Dirty());
     Type(Find<QLineEdit>(*form, "txtDescription"), "Pipes");
@@ -217,7 +192,7 @@ TEST_F(TransactionTest, ClosesARowThatNobodyEditedAsItWas) {
         ClickAction(*form, "CLOSE");
         EXPECT_EQ(Row("*", 900), before);
         EXPECT_EQ(Heard(), Said{});
-        support::SettleEvents();
+        SettleEvents();
     }
 }
 
@@ -230,7 +205,7 @@ TEST_F(TransactionTest, CopiesATemplateIntoANewRowOfToday) {
     setup.idTemplate = 900;
     const auto form = Open(setup);
     EXPECT_TRUE(form->Dirty());
-    EXPECT_EQ(Line(*form, "dpEffectiveDate"), "05/17/2024");
+    EXPECT_EQ(Text(*form, "dpEffectiveDate"), "05/17/2024");
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Row("DateEffective, DebitId, CreditId, Amount, TaxCategory, Description, Class, "
                   "IdMileage"),
@@ -372,10 +347,8 @@ TEST_F(TransactionTest, LooksAndReadsRight) {
            "'03/01/2024', 5, 30, '', 1, 60, '', 950, 'Rent Payment', 0, 'Rent of March', 20, 10, "
            "40, 30");
     const auto form = OpenId(900);
-    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    EXPECT_EQ(support::Portray(*form, "frmTransaction"), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmTransaction"), Said{});
 }
 
 } // namespace
+} // namespace support

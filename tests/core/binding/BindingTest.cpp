@@ -1,21 +1,12 @@
 #include "core/binding/Binding.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QRadioButton>
-
 #include "core/binding/DateEdit.h"
 #include "core/binding/Tags.h"
 #include "core/binding/Wiring.h"
 #include "platform/qt/Appearance.h"
-#include "platform/qt/Text.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::binding::BindFromRecord;
@@ -24,7 +15,7 @@ using core::binding::CheckFields;
 using core::binding::DateEdit;
 
 /// A form without a layout, and a table with a field of each sort.
-class BindingTest : public support::ScreenTest {
+class BindingTest : public ScreenTest {
   protected:
     BindingTest() {
         const auto type = [](platform::FieldType field) {
@@ -281,7 +272,7 @@ TEST_F(BindingTest, ReadOnlyBoxesHaveTheColourOfThePage) {
     form_.show();
     for (const Appearance appearance : {Appearance::Dark, Appearance::Light}) {
         platform::qt::ApplyAppearance(appearance);
-        support::SettleEvents();
+        SettleEvents();
         const QColor window = QApplication::palette().color(QPalette::Window);
         EXPECT_EQ(line.palette().color(QPalette::Base), window);
         EXPECT_EQ(page.palette().color(QPalette::Base), window);
@@ -300,3 +291,4 @@ TEST_F(BindingTest, MemosKeepTheirLines) {
 }
 
 } // namespace
+} // namespace support

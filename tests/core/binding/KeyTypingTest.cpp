@@ -1,11 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
 #include <QFocusEvent>
-#include <QLineEdit>
-#include <QTest>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -14,8 +10,9 @@
 #include "core/binding/Tags.h"
 #include "core/binding/Wiring.h"
 #include "platform/system/Clock.h"
-#include "support/screens/Driving.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::binding::DateEdit;
@@ -149,3 +146,4 @@ TEST(MoneyTyping, ShowsMoneyAsEverywhereAndReadsItBack) {
 }
 
 } // namespace
+} // namespace support

@@ -1,11 +1,7 @@
 #include "core/forms/Form.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QTest>
 #include <QVBoxLayout>
 
 #include "core/EditRecord.h"
@@ -16,9 +12,9 @@
 #include "core/forms/FormPlace.h"
 #include "core/forms/Help.h"
 #include "core/forms/OpenForms.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::FormRectangle;
@@ -36,7 +32,7 @@ class SampleForm : public Form {
     using Form::Open;
 };
 
-class FormTest : public support::ScreenTest {
+class FormTest : public ScreenTest {
   protected:
     static void Store(std::string_view place, std::int32_t state = 0) {
         core::SetRegString(R"(SOFTWARE\Vestrel\FormPosition)", "frmSample", place);
@@ -120,7 +116,7 @@ TEST_F(FormTest, AFormTooLargeForTheScreenScrollsWithAllItHolds) {
     buttons->addWidget(next);
     page->addLayout(buttons);
     form->Open();
-    support::SettleEvents();
+    SettleEvents();
     const auto* const area = form->findChild<QScrollArea*>(QStringLiteral("scroll"));
     ASSERT_NE(area, nullptr);
     EXPECT_TRUE(area->isAncestorOf(wide));
@@ -158,7 +154,7 @@ TEST_F(FormTest, ARecordOpensOnceAndComesToTheFront) {
     core::EditRecord(15, 0);
     EXPECT_EQ(opened, 2) << "a new record always opens";
     form->close();
-    support::SettleEvents();
+    SettleEvents();
     core::EditRecord(15, 42);
     EXPECT_EQ(opened, 3);
     core::RegisterOpener(15, [](const core::EditRequest&) {});
@@ -173,7 +169,7 @@ TEST_F(FormTest, AllFormsCloseTheLastOpenedFirst) {
         form->Open();
     }
     core::forms::CloseAllForms();
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(order, (std::vector{3, 2, 1}));
     EXPECT_FALSE(core::forms::BringToFront(42));
 }
@@ -230,3 +226,4 @@ TEST(EnableContainer, ReachesIntoFramesAndLeavesTheContainer) {
 }
 
 } // namespace
+} // namespace support

@@ -2,20 +2,17 @@
 #include <QHelpContentModel>
 #include <QHelpLink>
 #include <QHelpSearchEngine>
-#include <QPointer>
 #include <QRegularExpression>
-#include <QTest>
 
 #include "core/forms/frmHelp.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::forms::frmHelp;
 
-class HelpTest : public support::ScreenTest {
+class HelpTest : public ScreenTest {
   protected:
     QPointer<frmHelp> Open(const QString& topic) {
         QPointer<frmHelp> form(new frmHelp(QStringLiteral(VESTREL_HELP_FILE),
@@ -113,8 +110,9 @@ TEST_F(HelpTest, TheContentsNameEveryPage) {
         return pages;
     };
     EXPECT_EQ(count({}), Pages(*form).size());
-    support::SettleEvents();
-    EXPECT_EQ(support::Portray(*form, "frmHelp"), std::vector<std::string>{});
+    SettleEvents();
+    EXPECT_EQ(Portray(*form, "frmHelp"), std::vector<std::string>{});
 }
 
 } // namespace
+} // namespace support

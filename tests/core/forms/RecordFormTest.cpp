@@ -2,20 +2,13 @@
 
 #include <gmock/gmock.h>
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
-#include <QPointer>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <future>
 #include <thread>
 
 #include "core/MessagePump.h"
-#include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/DateEdit.h"
@@ -23,19 +16,14 @@
 #include "core/binding/Tags.h"
 #include "core/forms/ActionBar.h"
 #include "core/forms/RecordAdditions.h"
-#include "platform/qt/Text.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::binding::SetTag;
-using support::ClickAction;
-using support::Find;
-using support::Type;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Said = std::vector<std::string>;
 
 /// A screen of work orders whose lists don't offer everything.
 class SampleForm : public core::forms::RecordForm {
@@ -88,7 +76,7 @@ class SampleForm : public core::forms::RecordForm {
     }
 };
 
-class RecordFormTest : public support::ScreenTest {
+class RecordFormTest : public ScreenTest {
   protected:
     RecordFormTest() {
         Run("INSERT INTO Account (IdAccount, ShowAs, AccountType) VALUES (63, 'Al Fix', 'Vendor')");
@@ -97,11 +85,7 @@ class RecordFormTest : public support::ScreenTest {
     }
     ~RecordFormTest() override { core::SetMessagePump({}); }
 
-    static QPointer<SampleForm> Open(std::int32_t id) {
-        QPointer<SampleForm> form(new SampleForm);
-        form->Setup(id);
-        return form;
-    }
+    static QPointer<SampleForm> Open(std::int32_t id) { return Show<SampleForm>(id); }
     /// Every field of the row that is set.
     static std::string Row() {
         platform::Recordset row;
@@ -175,7 +159,7 @@ TEST_F(RecordFormTest, FollowsChangesWhereNothingWasTouched) {
     EXPECT_EQ(Shown(*form, "cboStatus"), "Open");
     EXPECT_EQ(Shown(*form, "cboVendor"), "Al Fix");
     EXPECT_EQ(Find<QLineEdit>(*form, "txtEstimate").text(), QString()) << "null shows as blank";
-    EXPECT_EQ(Find<QLineEdit>(*form, "txtRep").text(), QStringLiteral("Jo"));
+    EXPECT_EQ(Text(*form, "txtRep"), "Jo");
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Ask("SELECT Status & Rep FROM WorkOrder"), "OpenJo");
 }
@@ -306,3 +290,4 @@ TEST_F(RecordFormTest, OtherRoomsFillItsMenusAndPages) {
 }
 
 } // namespace
+} // namespace support

@@ -1,24 +1,12 @@
-#include <QCheckBox>
 #include <QFrame>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTest>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "core/Settings.h"
 #include "core/forms/frmWizard.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
-
-using support::ClickAction;
-using support::ClickOn;
-using support::Find;
-using Said = std::vector<std::string>;
 
 /// Three steps, of which those named in `wrong` are refused.
 class SampleWizard : public core::forms::frmWizard {
@@ -57,7 +45,7 @@ class SampleWizard : public core::forms::frmWizard {
     }
 };
 
-class WizardTest : public support::ScreenTest {
+class WizardTest : public ScreenTest {
   protected:
     QPointer<SampleWizard> Open() {
         QPointer<SampleWizard> wizard(new SampleWizard);
@@ -153,9 +141,10 @@ TEST_F(WizardTest, ShowsAStepBeforeItIsSeenAndReadsInOrder) {
     const auto wizard = Open();
     ClickAction(*wizard, "NEXT");
     EXPECT_EQ(wizard->shown, (std::vector<int>{0, 1}));
-    EXPECT_EQ(support::MnemonicFaults(*wizard), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*wizard), Said{});
-    EXPECT_EQ(support::NameFaults(*wizard), Said{});
+    EXPECT_EQ(MnemonicFaults(*wizard), Said{});
+    EXPECT_EQ(TabOrderFaults(*wizard), Said{});
+    EXPECT_EQ(NameFaults(*wizard), Said{});
 }
 
 } // namespace
+} // namespace support

@@ -1,17 +1,15 @@
 #include "core/grid/Grid.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTest>
 #include <numeric>
 
 #include "core/Settings.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::grid::AutoSizeByLength;
@@ -25,7 +23,7 @@ using core::grid::Sizing;
 
 constexpr std::string_view kGridInfo = R"(SOFTWARE\Vestrel\GridInfo)";
 
-class GridTest : public support::ScreenTest {
+class GridTest : public ScreenTest {
   protected:
     GridTest() {
         grid_.setObjectName(QStringLiteral("grd"));
@@ -155,6 +153,26 @@ TEST_F(GridTest, FitGridLetsTheWidestColumnsGiveWay) {
     EXPECT_GE(grid_.columnWidth(3), wanted[3]);
     EXPECT_LT(grid_.columnWidth(2), wanted[2]);
     EXPECT_EQ(TotalWidth(), grid_.viewport()->width());
+}
+
+TEST_F(GridTest, FillGridCutsNoTextAndLeavesNoRoom) {
+    LoadUnits();
+    const std::vector<int> wanted = grid_.WantedWidths();
+    AutoSizeGrid(grid_, 0, Sizing::FillGrid);
+    EXPECT_EQ(TotalWidth(), grid_.viewport()->width());
+    grid_.resize(60, 300);
+    for (int column = 0; column < grid_.Model().columnCount(); ++column)
+        EXPECT_EQ(grid_.columnWidth(column), wanted[static_cast<std::size_t>(column)]) << column;
+}
+
+TEST_F(GridTest, ARowsColourLiesBelowThatOfACell) {
+    LoadUnits();
+    grid_.Model().SetRowRule(
+        [](int row) { return row == 0 ? std::optional<QColor>(Qt::green) : std::nullopt; });
+    SetCellColor(grid_, 1, 0, Qt::red);
+    EXPECT_EQ(Look(0, 1, Qt::BackgroundRole).value<QColor>(), QColor(Qt::red));
+    EXPECT_EQ(Look(0, 2, Qt::BackgroundRole).value<QColor>(), QColor(Qt::green));
+    EXPECT_FALSE(Look(1, 2, Qt::BackgroundRole).isValid());
 }
 
 TEST_F(GridTest, FitTextGivesEachColumnItsWidestText) {
@@ -292,7 +310,7 @@ TEST_F(GridTest, ShowsTheFirstRowsOfALongListWhileTheOthersAreRead) {
     EXPECT_EQ(grid_.Model().RowsAtHand(), platform::kFirstRowsRead);
     const QSignalSpy read(&grid_.Model(), &core::grid::GridModel::AllRead);
     Run("DELETE * FROM Mileage");
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(read.count(), 1);
     EXPECT_EQ(grid_.Model().RowsAtHand(), kRows);
     EXPECT_GT(grid_.columnWidth(1), before) << "the widths are those of all rows now";
@@ -343,3 +361,4 @@ TEST_F(GridTest, ALongListNarrowsInSlicesToTheSameRows) {
 }
 
 } // namespace
+} // namespace support

@@ -1,12 +1,6 @@
-#include <QComboBox>
 #include <QFocusEvent>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
 
 #include "core/EditRecord.h"
-#include "core/RecordKinds.h"
 #include "core/binding/DateEdit.h"
 #include "mortgages/screens/MortgageScreens.h"
 #include "mortgages/screens/frmMortgage.h"
@@ -28,9 +22,7 @@ using mortgages::screens::frmMtgLog;
 class MortgagePaymentScreen : public MortgageScreenTest {
   protected:
     static QPointer<frmMortgagePayment> Open(std::int32_t id = 0) {
-        QPointer<frmMortgagePayment> form(new frmMortgagePayment);
-        form->Setup(id, kLoan);
-        return form;
+        return support::Show<frmMortgagePayment>(id, kLoan);
     }
 };
 
@@ -40,7 +32,7 @@ TEST_F(MortgagePaymentScreen, TicksBasePaymentsInTheirOrder) {
                        "03/01/2024|3|Mortgage Escrow|Mortgage Escrow Payment|250.00",
                        "03/16/2024|3|Late Payment|Late Payment|35.00",
                        "04/01/2024|4|Mortgage Payment|Mortgage P & I Payment Due|719.46"};
-    const Said lines = Lines(*form, "lvwCharges");
+    const Said lines = ListRows(*form, "lvwCharges");
     ASSERT_EQ(lines.size(), 9U);
     EXPECT_EQ(Said(lines.begin(), lines.begin() + 4), open);
     EXPECT_EQ(Text(*form, "txtTotalDue"), ".00");
@@ -49,14 +41,14 @@ TEST_F(MortgagePaymentScreen, TicksBasePaymentsInTheirOrder) {
 
     Tick(*form, 3, true);
     EXPECT_EQ(Heard(), Said{"Note: Previous base payments must be selected"});
-    EXPECT_EQ(Lines(*form, "lvwCharges"), lines) << "the tick doesn't stay";
+    EXPECT_EQ(ListRows(*form, "lvwCharges"), lines) << "the tick doesn't stay";
     EXPECT_FALSE(form->Dirty());
     Tick(*form, 0, true);
     Tick(*form, 3, true);
     EXPECT_EQ(Text(*form, "txtTotalDue"), "1438.92");
     Tick(*form, 0, false);
     EXPECT_EQ(Heard(), Said{"Note: Following base payments must not be selected"});
-    EXPECT_EQ(Lines(*form, "lvwCharges").front().substr(0, 2), "x ");
+    EXPECT_EQ(ListRows(*form, "lvwCharges").front().substr(0, 2), "x ");
     Trigger(*form, "mnuUncheckAll");
     EXPECT_EQ(Text(*form, "txtTotalDue"), ".00");
     Trigger(*form, "mnuCheckPI");
@@ -78,7 +70,7 @@ TEST_F(MortgagePaymentScreen, SubmitsAndShowsTheStoredPaymentAgain) {
     const auto stored = Opened<frmMortgagePayment>();
     ASSERT_TRUE(stored);
     EXPECT_EQ(Text(*stored, "txtTotalDue"), "969.46");
-    EXPECT_EQ(Lines(*stored, "lvwCharges").size(), 9U) << "its own row isn't listed";
+    EXPECT_EQ(ListRows(*stored, "lvwCharges").size(), 9U) << "its own row isn't listed";
     ClickAction(*stored, "SUBMIT");
     EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "969.4606");
     EXPECT_EQ(Ask("SELECT Count(*) FROM MortgageLog WHERE Flags = 2"), "1");
@@ -137,9 +129,9 @@ TEST_F(MortgagePaymentScreen, DeletesTheTickedChargesAndNamesThem) {
         EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete all selected charges?\n\n"
                                 "03/01/2024  Mortgage Escrow Payment  250.00\n"
                                 "03/16/2024  Late Payment  35.00"});
-        EXPECT_EQ(Lines(*form, "lvwCharges").size(), static_cast<std::size_t>(left));
+        EXPECT_EQ(ListRows(*form, "lvwCharges").size(), static_cast<std::size_t>(left));
     }
-    EXPECT_EQ(Lines(*form, "lvwCharges").front(),
+    EXPECT_EQ(ListRows(*form, "lvwCharges").front(),
               "03/01/2024|3|Mortgage Payment|Mortgage P & I Payment Due|719.46");
     EXPECT_EQ(Text(*form, "txtTotalDue"), ".00");
 }
@@ -234,7 +226,7 @@ TEST_F(MortgagePaymentScreen, TheWizardAddsALoanAndOpensIt) {
     form->GoTo(4);
     Type(Find<QLineEdit>(*form, "dpNextDue"), "6/1/2024");
     Type(Find<QLineEdit>(*form, "txtCurrPV"), "98500");
-    EXPECT_EQ(Faults(*form, "frmMortgageWizard-today"), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmMortgageWizard-today"), Said{});
     form->GoTo(5);
     EXPECT_EQ(Heard(), Said{});
     ClickAction(*form, "FINISH");
@@ -248,10 +240,10 @@ TEST_F(MortgagePaymentScreen, TheWizardAddsALoanAndOpensIt) {
 TEST_F(MortgagePaymentScreen, LookRight) {
     const auto payment = Open();
     Tick(*payment, 0, true);
-    EXPECT_EQ(Faults(*payment, "frmMortgagePayment"), Said{});
+    EXPECT_EQ(LookFaults(*payment, "frmMortgagePayment"), Said{});
     auto* const charge = new frmMtgLog;
     charge->Setup(0, kLoan);
-    EXPECT_EQ(Faults(*charge, "frmMtgLog"), Said{});
+    EXPECT_EQ(LookFaults(*charge, "frmMtgLog"), Said{});
     mortgages::clsMortgage loan;
     loan.SetARM(true);
     loan.SetXPri(3, 12345.67);
@@ -265,13 +257,13 @@ TEST_F(MortgagePaymentScreen, LookRight) {
     for (const auto& [name, setup] : kModes) {
         auto* const adjust = new Adjust;
         (adjust->*setup)(loan);
-        EXPECT_EQ(Faults(*adjust, std::string("frmMortgageAdjust-") + name), Said{}) << name;
+        EXPECT_EQ(LookFaults(*adjust, std::string("frmMortgageAdjust-") + name), Said{}) << name;
     }
     auto* const wizard = new frmMortgageWizard;
     wizard->Setup();
-    EXPECT_EQ(Faults(*wizard, "frmMortgageWizard"), Said{});
+    EXPECT_EQ(LookFaults(*wizard, "frmMortgageWizard"), Said{});
     wizard->GoTo(1);
-    EXPECT_EQ(Faults(*wizard, "frmMortgageWizard-lender"), Said{});
+    EXPECT_EQ(LookFaults(*wizard, "frmMortgageWizard-lender"), Said{});
 }
 
 } // namespace

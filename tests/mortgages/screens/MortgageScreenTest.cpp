@@ -1,12 +1,5 @@
-#include <QAbstractItemModel>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QHelpEvent>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTabBar>
-#include <QTabWidget>
-#include <QTableView>
 #include <QToolTip>
 #include <QtCharts/QBarCategoryAxis>
 #include <QtCharts/QChartView>
@@ -15,49 +8,16 @@
 
 #include "core/binding/DateEdit.h"
 #include "mortgages/MortgagePayment.h"
-#include "mortgages/screens/MortgageScreens.h"
-#include "mortgages/screens/frmMortgage.h"
-#include "mortgages/screens/frmMortgageAdjust.h"
+#include "mortgages/screens/MortgageForm.h"
 #include "mortgages/screens/frmMortgagePayment.h"
 #include "mortgages/screens/frmMtgLog.h"
-#include "platform/qt/Text.h"
 
 namespace tests {
 
 namespace {
 
-using mortgages::screens::frmMortgage;
-using mortgages::screens::frmMortgageAdjust;
 using mortgages::screens::frmMortgagePayment;
 using mortgages::screens::frmMtgLog;
-
-class MortgageScreen : public MortgageScreenTest {
-  protected:
-    static QPointer<frmMortgage> Open(std::int32_t id = kLoan) {
-        QPointer<frmMortgage> form(new frmMortgage);
-        form->Setup(id, 10);
-        return form;
-    }
-    static void GoTo(const frmMortgage& form, const char* page) {
-        Find<QTabWidget>(form, "tabs").setCurrentWidget(&Find<QWidget>(form, page));
-    }
-    static int ScheduleRows(const frmMortgage& form) {
-        return Find<QTableView>(form, "grdAmort").model()->rowCount();
-    }
-    static std::string Cell(const frmMortgage& form, int row, int column) {
-        const QAbstractItemModel& rows = *Find<QTableView>(form, "grdAmort").model();
-        return platform::qt::FromScreen(rows.index(row, column).data().toString());
-    }
-    static std::string Captions(const frmMortgage& form) {
-        const QAbstractItemModel& model = *Find<QTableView>(form, "grdAmort").model();
-        std::string line;
-        for (int column = 0; column < model.columnCount(); ++column)
-            line += platform::qt::FromScreen(
-                        model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString()) +
-                    ";";
-        return line;
-    }
-};
 
 TEST_F(MortgageScreen, ShowsALoanWithItsOriginationLocked) {
     const auto form = Open();
@@ -206,9 +166,9 @@ TEST_F(MortgageScreen, APaymentMadeHereShowsAndIsRightHoweverTheScreenIsLeft) {
     ClickAction(*payment, "SUBMIT");
     EXPECT_EQ(Text(*form, "txtNextDue"), "04/01/2024");
     EXPECT_EQ(Text(*form, "txtDescription"), "Renamed") << "what is being changed stays";
-    EXPECT_EQ(Lines(*form, "lvw"), Said{});
+    EXPECT_EQ(ListRows(*form, "lvw"), Said{});
     Find<QTabBar>(*form, "tab").setCurrentIndex(1);
-    EXPECT_EQ(Lines(*form, "lvw").size(), 10U);
+    EXPECT_EQ(ListRows(*form, "lvw").size(), 10U);
     Answer({true});
     ClickAction(*form, "CANCEL");
     EXPECT_EQ(Loan("NextDue"), "04/01/2024");
@@ -238,10 +198,10 @@ TEST_F(MortgageScreen, ChargesAreSelectedByKindAndDeletedTogether) {
                             "05/01/2024  Mortgage P & I Payment Due  719.46\n"
                             "04/01/2024  Mortgage P & I Payment Due  719.46\n"
                             "03/01/2024  Mortgage P & I Payment Due  719.46"});
-    EXPECT_EQ(Lines(*form, "lvw").size(), 9U) << "No keeps them";
+    EXPECT_EQ(ListRows(*form, "lvw").size(), 9U) << "No keeps them";
     Answer({true});
     ClickOn(Find<QPushButton>(*form, "cmdEditDelete"));
-    EXPECT_EQ(Lines(*form, "lvw").size(), 6U);
+    EXPECT_EQ(ListRows(*form, "lvw").size(), 6U);
     EXPECT_EQ(Ask("SELECT Count(*) FROM MortgageLog WHERE Flags = 1"), "0");
     Trigger(*form, "mnuSelectOther");
     EXPECT_EQ(Find<QTreeWidget>(*form, "lvw").selectedItems().size(), 6);
@@ -258,8 +218,8 @@ TEST_F(MortgageScreen, PaysTheLoanOff) {
               "removed. To complete the\nyou need to make the final payment. Once this has been "
               "completed the mortgage status will\nchange to closed and no more charges will be "
               "posted.");
-    EXPECT_EQ(Lines(*form, "lvw"), Said{"05/17/2024|Mortgage Payoff|Mortgage Payoff|119.46|"
-                                        "119,880.54|600.00|0.00|120,600.00"});
+    EXPECT_EQ(ListRows(*form, "lvw"), Said{"05/17/2024|Mortgage Payoff|Mortgage Payoff|119.46|"
+                                           "119,880.54|600.00|0.00|120,600.00"});
     ClickOn(Find<QPushButton>(*form, "cmdPayment"));
     const auto payment = Opened<frmMortgagePayment>();
     Tick(*payment, 0, true);
@@ -273,121 +233,13 @@ TEST_F(MortgageScreen, PaysTheLoanOff) {
 
 TEST_F(MortgageScreen, RepostsAndRollsForwardWhenAgreed) {
     const auto form = Open();
-    const auto before = Lines(*form, "lvw").size();
+    const auto before = ListRows(*form, "lvw").size();
     Trigger(*form, "mnuReprocess");
-    EXPECT_EQ(Lines(*form, "lvw").size(), before);
+    EXPECT_EQ(ListRows(*form, "lvw").size(), before);
     Answer({true});
     Trigger(*form, "mnuReprocess");
-    EXPECT_GT(Lines(*form, "lvw").size(), before);
+    EXPECT_GT(ListRows(*form, "lvw").size(), before);
     EXPECT_FALSE(Open(0)->findChild<QAction*>(QStringLiteral("mnuRollFOrward"))->isEnabled());
-}
-
-TEST_F(MortgageScreen, TakesALendersRateAndBalanceOver) {
-    EXPECT_FALSE(Open()->findChild<QAction*>(QStringLiteral("mnuChangeRate"))->isEnabled());
-    Run("UPDATE Mortgage SET ARM = True");
-    const auto form = Open();
-    Trigger(*form, "mnuChangeRate");
-    auto adjust = Opened<frmMortgageAdjust>();
-    ASSERT_TRUE(adjust);
-    EXPECT_EQ(Text(*adjust, "txtPer_Int"), "1");
-    Type(Find<QLineEdit>(*adjust, "txtPer_Int"), "0");
-    ClickAction(*adjust, "CHANGEI");
-    EXPECT_EQ(Heard(), Said{"Whoa!: The following errors have occured:\n\nPeriod number cannot be "
-                            "zero (or less than).\n"});
-    Type(Find<QLineEdit>(*adjust, "txtPer_Int"), "13");
-    Type(Find<QLineEdit>(*adjust, "txtI_Int"), "7.5");
-    ClickAction(*adjust, "CHANGEI");
-    EXPECT_EQ(Cell(*form, 12, 2), "7.50");
-
-    Trigger(*form, "mnuChangeBalance");
-    adjust = Opened<frmMortgageAdjust>();
-    Type(Find<QLineEdit>(*adjust, "txtBalance"), "120000");
-    Type(Find<QLineEdit>(*adjust, "dpNextDue"), "6/1/2024");
-    ClickAction(*adjust, "PROCEEDBAL");
-    EXPECT_EQ(Heard(), Said{"Whoa!: The following errors have occured:\n\nNew balance must be "
-                            "lower than previous balance.\n"});
-    Type(Find<QLineEdit>(*adjust, "txtBalance"), "100000");
-    ClickAction(*adjust, "PROCEEDBAL");
-    EXPECT_EQ(Cell(*form, 4, 5), "100,000.00");
-    ClickAction(*form, "CLOSE");
-    EXPECT_EQ(Loan("ARM"), "True");
-    EXPECT_NE(Loan("xPri").find("19396.69"), std::string::npos) << Loan("xPri").substr(0, 60);
-}
-
-TEST_F(MortgageScreen, TheWorstCaseIsOnlyShown) {
-    Run("UPDATE Mortgage SET ARM = True, ARMLockedPer = 12, ARMAdjPer = 12, ARMPerCap = 0.02, "
-        "ARMLifeCap = 0.06");
-    const auto form = Open();
-    Find<QLineEdit>(*form, "txtDescription").setText(QStringLiteral("Any"));
-    ClickAction(*form, "CLOSE"); // the lists have their entries from now on
-    const std::string before = Loan("xRate");
-    const auto again = Open();
-    EXPECT_FALSE(Find<QWidget>(*again, "fraInstead").isVisibleTo(again));
-    ClickOn(Find<QPushButton>(*again, "cmdMaxRates"));
-    EXPECT_EQ(Cell(*again, 36, 2), "12.00");
-    EXPECT_TRUE(Find<QWidget>(*again, "fraInstead").isVisible());
-    EXPECT_EQ(Text(*again, "lblCaption"),
-              "Worst case: the highest rates that the terms allow. The "
-              "mortgage itself is not changed.");
-    EXPECT_FALSE(again->Dirty());
-    ClickOn(Find<QPushButton>(*again, "cmdOwnSchedule"));
-    EXPECT_EQ(Cell(*again, 36, 2), "6.00");
-    ClickOn(Find<QPushButton>(*again, "cmdMaxRates"));
-    Find<QLineEdit>(*again, "txtDescription").setText(QStringLiteral("Seen"));
-    ClickAction(*again, "CLOSE");
-    EXPECT_EQ(Loan("xRate"), before);
-    EXPECT_EQ(Loan("Description"), "Seen");
-}
-
-TEST_F(MortgageScreen, AnAdjustmentThatIsNotSavedYetSurvivesAPayment) {
-    const auto form = Open();
-    Trigger(*form, "mnuChangeTerms");
-    auto adjust = Opened<frmMortgageAdjust>();
-    ASSERT_TRUE(adjust);
-    Type(Find<QLineEdit>(*adjust, "txtPer_XPri"), "6");
-    Type(Find<QLineEdit>(*adjust, "txtXPri"), "75");
-    ClickAction(*adjust, "CHANGETERMS");
-    Find<QCheckBox>(*form, "chkPPM").click();
-    EXPECT_EQ(Cell(*form, 4, 4), "0.00");
-    EXPECT_EQ(Cell(*form, 5, 4), "75.00");
-
-    mortgages::MortgagePayment payment = mortgages::ProposeMortgagePayment(kLoan);
-    mortgages::Select(payment, 0, true);
-    mortgages::SubmitMortgagePayment(payment);
-    EXPECT_EQ(Text(*form, "txtNextDue"), "02/01/2024");
-    // One more, which another program takes: this window doesn't hear of it.
-    Run("UPDATE Mortgage SET CurrentPeriod = 3, NextDue = '03/01/2024'");
-    EXPECT_EQ(Cell(*form, 5, 4), "75.00");
-    ClickAction(*form, "CLOSE");
-    EXPECT_EQ(Loan("NextDue"), "03/01/2024");
-    EXPECT_EQ(Loan("CurrentPeriod"), "3");
-    EXPECT_EQ(Loan("PPM"), "True");
-    EXPECT_EQ(Loan("Left(xPri, 17)"), "0,0,0,0,0,75,75,7");
-}
-
-TEST_F(MortgageScreen, TakesAMistypedBalanceBack) {
-    const auto form = Open();
-    const auto balance = [&](const char* amount) {
-        Trigger(*form, "mnuChangeBalance");
-        const auto adjust = Opened<frmMortgageAdjust>();
-        Type(Find<QLineEdit>(*adjust, "txtBalance"), amount);
-        Type(Find<QLineEdit>(*adjust, "dpNextDue"), "6/1/2024");
-        ClickAction(*adjust, "PROCEEDBAL");
-        support::SettleEvents();
-    };
-    EXPECT_FALSE(form->findChild<QAction*>(QStringLiteral("mnuTakeBack"))->isEnabled());
-    balance("1000");
-    ClickAction(*form, "APPLY");
-    EXPECT_EQ(ScheduleRows(*form), 7);
-    Trigger(*form, "mnuTakeBack");
-    const auto back = Opened<frmMortgageAdjust>();
-    ASSERT_TRUE(back);
-    EXPECT_EQ(Text(*back, "cboTakeBack"), "Payment 5, due 05/01/2024: 118,396.69");
-    ClickAction(*back, "TAKEBACK");
-    EXPECT_EQ(ScheduleRows(*form), 360);
-    balance("100000");
-    ClickAction(*form, "CLOSE");
-    EXPECT_EQ(Loan("Left(xPri, 15)"), "0,0,0,0,19396.6");
 }
 
 TEST_F(MortgageScreen, ABalloonSetOnASavedLoanStoresItsAmount) {
@@ -418,17 +270,17 @@ TEST_F(MortgageScreen, LooksRight) {
     for (const char* page : {"tabGeneral", "tabOrigination", "tabEscrow", "tabPayments",
                              "tabAmortization", "tabFiles"}) {
         GoTo(*form, page);
-        EXPECT_EQ(Faults(*form, std::string("frmMortgage-") + page), Said{}) << page;
+        EXPECT_EQ(LookFaults(*form, std::string("frmMortgage-") + page), Said{}) << page;
     }
     const auto fresh = Open(0);
     GoTo(*fresh, "tabOrigination");
     for (const char* box : {"chkBalloon", "chkARM", "chkPPM"})
         Find<QCheckBox>(*fresh, box).setChecked(true);
-    EXPECT_EQ(Faults(*fresh, "frmMortgage-new"), Said{});
+    EXPECT_EQ(LookFaults(*fresh, "frmMortgage-new"), Said{});
     GoTo(*fresh, "tabAmortization");
     Choose(*fresh, "cboChartType", "Bars");
     Find<QCheckBox>(*fresh, "chkViewDetail").setChecked(true);
-    EXPECT_EQ(Faults(*fresh, "frmMortgage-bars"), Said{});
+    EXPECT_EQ(LookFaults(*fresh, "frmMortgage-bars"), Said{});
 }
 
 } // namespace

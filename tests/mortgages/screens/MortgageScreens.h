@@ -1,15 +1,9 @@
 #pragma once
 
-#include <QApplication>
-#include <QPointer>
-#include <QTreeWidget>
 #include <string>
 #include <vector>
 
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace tests {
 
@@ -17,8 +11,14 @@ using support::Choose;
 using support::ClickAction;
 using support::ClickOn;
 using support::Find;
+using support::kRoll;
+using support::ListRows;
+using support::LookFaults;
+using support::Opened;
+using support::Said;
+using support::Text;
+using support::Trigger;
 using support::Type;
-using Said = std::vector<std::string>;
 
 inline constexpr std::int32_t kLoan = 50;
 
@@ -30,22 +30,7 @@ class MortgageScreenTest : public support::ScreenTest {
     ~MortgageScreenTest() override;
 
     static std::string Loan(std::string_view field);
-    static std::string Text(const QWidget& form, const char* box);
-    /// The rows of a list as they show, cells separated by "|", ticked ones with "x ".
-    static Said Lines(const QWidget& form, const char* list);
     static void Tick(const QWidget& form, int row, bool ticked);
-    static void Trigger(const QWidget& form, const char* item);
-    /// The form of this class that is open.
-    template <class Screen>
-    static QPointer<Screen> Opened() {
-        for (QWidget* const window : QApplication::topLevelWidgets()) {
-            auto* const form = qobject_cast<Screen*>(window);
-            if (form && form->isVisible()) return form;
-        }
-        return nullptr;
-    }
-    /// What is wrong with how a screen looks and is driven.
-    static Said Faults(QWidget& form, const std::string& picture);
 };
 
 } // namespace tests

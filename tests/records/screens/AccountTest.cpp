@@ -1,43 +1,18 @@
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
-
 #include "core/Configuration.h"
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "core/binding/MaskedEdit.h"
-#include "platform/qt/Text.h"
 #include "records/screens/frmAccount.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::binding::MaskedEdit;
-using platform::qt::FromScreen;
 using records::screens::frmAccount;
-using support::ClickAction;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
-const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
-
-class AccountTest : public support::ScreenTest {
+class AccountTest : public ScreenTest {
   protected:
     static QPointer<frmAccount> Open(std::int32_t id = 0, std::string_view type = {}) {
-        QPointer<frmAccount> form(new frmAccount);
-        form->Setup(id, type);
-        return form;
+        return Show<frmAccount>(id, type);
     }
     static QLineEdit& Box(const frmAccount& form, const char* name) {
         return Find<QLineEdit>(Page(form), name);
@@ -102,7 +77,7 @@ TEST_F(AccountTest, EveryFieldIsWrittenAndReadBack) {
     EXPECT_EQ(Box(*form, "txtBalance").text(), QStringLiteral("1,234.50"));
     EXPECT_EQ(Find<QPlainTextEdit>(Page(*form), "txtNotes").toPlainText(),
               QStringLiteral("Two\nlines"));
-    EXPECT_EQ(Find<QLabel>(*form, "lblShowAs").text(), QStringLiteral("O'Brien, Zo\u00EB Q"));
+    EXPECT_EQ(Text(*form, "lblShowAs"), "O'Brien, Zo\u00EB Q");
     EXPECT_EQ(Ask("SELECT Hide & Selected & ShowAsIndividual FROM Account WHERE IdAccount = 1000"),
               "TrueTrueTrue");
     EXPECT_EQ(Ask("SELECT AccountNumber FROM Account WHERE IdAccount = 1000"), "007");
@@ -114,7 +89,7 @@ TEST_F(AccountTest, IsEnteredByKeyboardAlone) {
     QApplication::setActiveWindow(form);
     for (const char* const text : {"Building Owner", "", "Lee", "Ann", "B", " ", "1 Elm St", "",
                                    "97301", "Salem", "OR", "555"}) {
-        support::TypeAndTab(*form, text);
+        TypeAndTab(*form, text);
     }
     QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Ask("SELECT AccountType & '|' & ShowAs & '|' & ShowAsIndividual & '|' & Address1 & "
@@ -194,17 +169,10 @@ TEST_F(AccountTest, LooksAndReadsRight) {
         "'503-555-0100', Email = 'desk@river.example', Address1 = '1 Main St', City = 'Salem', "
         "State = 'OR', Zip = '97301', TaxIDFed = '12-3456789' WHERE IdAccount = 60");
     const auto form = Open(60);
-    auto& tabs = Find<QTabWidget>(*form, "tabs");
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    for (int page = 0; page < tabs.count(); ++page) {
-        tabs.setCurrentIndex(page);
-        const std::string name = FromScreen(tabs.tabText(page));
-        EXPECT_EQ(support::MnemonicFaults(*form), Said{}) << name;
-        EXPECT_EQ(support::TabOrderFaults(*form), Said{}) << name;
-        EXPECT_EQ(support::Portray(*form, "frmAccount" + std::to_string(page)), Said{}) << name;
-    }
+    EXPECT_EQ(LookFaultsOfTabs(*form, "frmAccount"), Said{});
     EXPECT_LE(form->sizeHint().width(), 1280);
     EXPECT_LE(form->sizeHint().height(), 760);
 }
 
 } // namespace
+} // namespace support

@@ -1,21 +1,13 @@
-#include <QApplication>
-#include <QMenu>
-#include <QPointer>
-#include <QTest>
-
 #include "core/EditRecord.h"
-#include "core/RecordKinds.h"
 #include "records/screens/frmBuilding.h"
 #include "records/screens/frmManagerLink.h"
 #include "records/screens/frmOwnerLink.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::frmBuilding;
-using support::TypeAndTab;
-using Said = std::vector<std::string>;
 
 /// Opens records of a kind on their screen, while it lives.
 template <class Screen>
@@ -35,7 +27,7 @@ struct Opening {
 };
 
 /// A person without a mouse.
-class BuildingKeyboardTest : public support::ScreenTest {
+class BuildingKeyboardTest : public ScreenTest {
   protected:
     BuildingKeyboardTest() {
         form_ = new frmBuilding;
@@ -58,7 +50,7 @@ class BuildingKeyboardTest : public support::ScreenTest {
     }
     void AddUnit() {
         Press(Qt::Key_N, Qt::ControlModifier);
-        support::SettleEvents();
+        SettleEvents();
     }
 
     QPointer<frmBuilding> form_;
@@ -145,3 +137,4 @@ TEST_F(BuildingKeyboardTest, TheMenuOpensByItsLetter) {
 }
 
 } // namespace
+} // namespace support

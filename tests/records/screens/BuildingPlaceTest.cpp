@@ -1,17 +1,11 @@
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-
 #include "platform/dialogs/Desktop.h"
 #include "records/screens/frmBuilding.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::frmBuilding;
-using support::Find;
-using support::Type;
 
 /// Notes the web pages that are opened.
 class DesktopNote : public platform::Desktop {
@@ -29,7 +23,7 @@ class DesktopNote : public platform::Desktop {
 };
 
 /// The tables of zip codes and assessors' pages stand beside the program.
-class BuildingPlaceTest : public support::ScreenTest {
+class BuildingPlaceTest : public ScreenTest {
   protected:
     BuildingPlaceTest() {
         platform::Connection references;
@@ -93,3 +87,4 @@ TEST_F(BuildingPlaceTest, TheTaxAccountLeadsToTheAssessorsPage) {
 }
 
 } // namespace
+} // namespace support

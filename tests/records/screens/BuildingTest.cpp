@@ -1,19 +1,9 @@
-#include <QAction>
-#include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTabWidget>
 #include <algorithm>
 #include <map>
 
 #include "core/Configuration.h"
 #include "core/EditRecord.h"
 #include "core/Lookups.h"
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "core/binding/Binding.h"
 #include "core/binding/Tags.h"
 #include "core/forms/OpenForms.h"
@@ -21,24 +11,15 @@
 #include "records/screens/BuildingFields.h"
 #include "records/screens/frmBuilding.h"
 #include "removal/DeleteRecord.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::frmBuilding;
-using support::ClickAction;
-using support::ClickOn;
-using support::FieldEntry;
-using support::Find;
-using support::Type;
 using tests::kBuildingFields;
 using tests::kUnitFields;
-using Said = std::vector<std::string>;
 
-const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
 const std::string kConvert =
     "Continue?: To add an additional unit this property will convert to a multi unit building. "
     "Please read the help file\n"
@@ -47,7 +28,7 @@ const std::string kConvert =
     "types of properties within Vestrel.\n"
     "Do you wish to continue?";
 
-class BuildingTest : public support::ScreenTest {
+class BuildingTest : public ScreenTest {
   protected:
     BuildingTest() {
         Run("INSERT INTO Account (IdAccount, ShowAs, AccountType) "
@@ -57,9 +38,7 @@ class BuildingTest : public support::ScreenTest {
     }
     static QPointer<frmBuilding> Open(std::int32_t building, std::int32_t unit = 0,
                                       std::int32_t fromUnit = 0) {
-        QPointer<frmBuilding> form(new frmBuilding);
-        form->Setup(building, unit, fromUnit);
-        return form;
+        return Show<frmBuilding>(building, unit, fromUnit);
     }
     static std::string Title(const frmBuilding& form) {
         return Find<QLabel>(form, "lblTitle").text().toStdString();
@@ -124,13 +103,13 @@ TEST_F(BuildingTest, ANewOneIsEnteredAndReopened) {
     core::Config().DefaultCounty.clear();
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Single Unit Building"));
     EXPECT_EQ(Title(*form), "New Building (Press Apply to Save)");
-    EXPECT_EQ(support::ShownFaults(*form, {{"txtDeprPeriod", "27.5", "", ""},
-                                           {"cboDeprMethod", "Straight Line", "", ""},
-                                           {"cboUnitStatus", "Hold", "", ""},
-                                           {"cboHOAFrequency", "", "", ""},
-                                           {"cboPurchFrom", "", "", ""},
-                                           {"txtCounty", "Polk", "", ""},
-                                           {"txtState", "OR", "", ""}}),
+    EXPECT_EQ(ShownFaults(*form, {{"txtDeprPeriod", "27.5", "", ""},
+                                  {"cboDeprMethod", "Straight Line", "", ""},
+                                  {"cboUnitStatus", "Hold", "", ""},
+                                  {"cboHOAFrequency", "", "", ""},
+                                  {"cboPurchFrom", "", "", ""},
+                                  {"txtCounty", "Polk", "", ""},
+                                  {"txtState", "OR", "", ""}}),
               Said{});
     EXPECT_EQ(Units(*form), "hidden");
     EXPECT_FALSE(form->Dirty());
@@ -143,8 +122,8 @@ TEST_F(BuildingTest, ANewOneIsEnteredAndReopened) {
     EXPECT_TRUE(addDeposit.isEnabled()) << "records that belong to it can be added now";
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Building: 7 O'Hara's \"Row\""));
     EXPECT_EQ(Title(*form), "Editing Building: 7 O'Hara's \"Row\"");
-    EXPECT_EQ(support::StoredFaults("Building", "IdBuilding = 1000", kBuildingFields), Said{});
-    EXPECT_EQ(support::StoredFaults("Unit", "IdBuilding = 1000", kUnitFields), Said{});
+    EXPECT_EQ(StoredFaults("Building", "IdBuilding = 1000", kBuildingFields), Said{});
+    EXPECT_EQ(StoredFaults("Unit", "IdBuilding = 1000", kUnitFields), Said{});
     EXPECT_EQ(Ask("SELECT Multi FROM Building WHERE IdBuilding = 1000"), "False");
     EXPECT_EQ(Ask("SELECT Ccount FROM Unit WHERE IdUnit = 1001"), "0");
 
@@ -159,7 +138,7 @@ TEST_F(BuildingTest, ANewOneIsEnteredAndReopened) {
             if (field.text == "200000.00") field.text = "200,000.00";
             if (field.text == "1000.00") field.text = "1,000.00";
         }
-        return support::ShownFaults(*form, fields);
+        return ShownFaults(*form, fields);
     };
     EXPECT_EQ(shown(kBuildingFields), Said{});
     EXPECT_EQ(shown(kUnitFields), Said{});
@@ -201,9 +180,9 @@ TEST_F(BuildingTest, AnotherUnitIsChosenWithWhatWasChangedSaved) {
     ChooseUnit(*form, "B");
     EXPECT_EQ(Ask("SELECT Faces FROM Unit WHERE IdUnit = 21"), "East");
     EXPECT_EQ(form->UnitId(), 20);
-    EXPECT_EQ(support::ShownFaults(*form, {{"txtRent", "950.50", "", ""},
-                                           {"txtFaces", "", "", ""},
-                                           {"cboUnitStatus", "Hold", "", ""}}),
+    EXPECT_EQ(ShownFaults(*form, {{"txtRent", "950.50", "", ""},
+                                  {"txtFaces", "", "", ""},
+                                  {"cboUnitStatus", "Hold", "", ""}}),
               Said{})
         << "an unset field doesn't show the other unit's";
     EXPECT_FALSE(form->Dirty());
@@ -234,9 +213,9 @@ TEST_F(BuildingTest, ASingleUnitBuildingIsConvertedThenUnitsAreAdded) {
     EXPECT_EQ(Heard(), Said{});
     EXPECT_EQ(Ask("SELECT Bedrooms FROM Unit WHERE IdUnit = 22"), "4") << "nothing typed is lost";
     EXPECT_EQ(Units(*form), "1 *<new> ");
-    EXPECT_EQ(support::ShownFaults(*form, {{"txtUnit", "<new>", "", ""},
-                                           {"txtBedrooms", "", "", ""},
-                                           {"txtRent", "0.00", "", ""}}),
+    EXPECT_EQ(ShownFaults(*form, {{"txtUnit", "<new>", "", ""},
+                                  {"txtBedrooms", "", "", ""},
+                                  {"txtRent", "0.00", "", ""}}),
               Said{});
     Type(Find<QLineEdit>(*form, "txtUnit"), "");
     Choose(*form, "mnuAddUnit");
@@ -249,9 +228,9 @@ TEST_F(BuildingTest, ANewOneStartsAsACopyOfAnother) {
     const auto form = Open(0, 0, 20);
     EXPECT_EQ(form->Id(), 0);
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Single Unit Building"));
-    EXPECT_EQ(support::ShownFaults(
-                  *form, {{"txtAddress", "12 Elm St", "", ""}, {"txtBedrooms", "3", "", ""}}),
-              Said{});
+    EXPECT_EQ(
+        ShownFaults(*form, {{"txtAddress", "12 Elm St", "", ""}, {"txtBedrooms", "3", "", ""}}),
+        Said{});
     EXPECT_FALSE(form->Dirty());
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Ask("SELECT Multi FROM Building WHERE IdBuilding = 1000"), "False");
@@ -263,7 +242,7 @@ TEST_F(BuildingTest, TheEquityIsReckonedFromTheValueShown) {
     const auto form = Open(10);
     Type(Find<QLineEdit>(*form, "txtMktValue"), "300000");
     ClickAction(*form, "CALCEQUITY");
-    EXPECT_EQ(Find<QLineEdit>(*form, "txtEquity").text(), QStringLiteral("179,999.75"));
+    EXPECT_EQ(Text(*form, "txtEquity"), "179,999.75");
     EXPECT_EQ(Ask("SELECT Equity FROM Building WHERE IdBuilding = 10"), "NULL");
     EXPECT_TRUE(form->Dirty());
 }
@@ -299,7 +278,7 @@ TEST_F(BuildingTest, AStatusThatALeaseSetIsNotWrittenBack) {
         EXPECT_EQ(form->Dirty(), dirty);
         ClickAction(*form, "CLOSE");
         EXPECT_EQ(Ask("SELECT Status FROM Unit WHERE IdUnit = 20"), "Leased") << dirty;
-        support::SettleEvents();
+        SettleEvents();
     }
     EXPECT_EQ(Ask("SELECT Faces FROM Unit WHERE IdUnit = 20"), "West");
 }
@@ -308,7 +287,7 @@ TEST_F(BuildingTest, WhatWasDeletedElsewhereComesBackUnderItsNumbers) {
     const auto form = Open(0, 22);
     removal::DeleteRecord(core::kUnit, 22, removal::Confirm::DontAsk);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Building WHERE IdBuilding = 11"), "0");
-    EXPECT_EQ(Find<QLineEdit>(*form, "txtAddress").text(), QStringLiteral("Oak Rd"));
+    EXPECT_EQ(Text(*form, "txtAddress"), "Oak Rd");
     Answer({true}); // to whether it is to be saved again
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Ask("SELECT Address FROM Building WHERE IdBuilding = 11"), "Oak Rd");
@@ -337,7 +316,7 @@ TEST_F(BuildingTest, AnAccountOfAnotherTypeIsNotLost) {
     Run("UPDATE Building SET InsAccount = 61, GasAccount = 999 WHERE IdBuilding = 10");
     auto form = Open(10);
     core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboInsurance").currentText(), QStringLiteral("Al Owner"));
+    EXPECT_EQ(Text(*form, "cboInsurance"), "Al Owner");
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Ask("SELECT InsAccount FROM Building WHERE IdBuilding = 10"), "61");
     EXPECT_EQ(Ask("SELECT GasAccount FROM Building WHERE IdBuilding = 10"), "999")
@@ -369,18 +348,10 @@ TEST_F(BuildingTest, LooksAndReadsRight) {
     support::Enter(*form, kUnitFields);
     ClickAction(*form, "APPLY");
     EXPECT_EQ(Heard(), Said{});
-    QTabWidget& tabs = Find<QTabWidget>(*form, "tabs");
     EXPECT_LE(form->width(), 1280);
     EXPECT_LE(form->height(), 760);
-    for (int tab = 0; tab < tabs.count(); ++tab) {
-        SCOPED_TRACE(tab);
-        tabs.setCurrentIndex(tab);
-        support::SettleEvents();
-        EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-        EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-        EXPECT_EQ(support::NameFaults(*form), Said{});
-        EXPECT_EQ(support::Portray(*form, "frmBuilding-" + std::to_string(tab)), Said{});
-    }
+    EXPECT_EQ(LookFaultsOfTabs(*form, "frmBuilding-"), Said{});
 }
 
 } // namespace
+} // namespace support

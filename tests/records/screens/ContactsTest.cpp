@@ -1,27 +1,14 @@
-#include <QApplication>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 
-#include "core/RecordKinds.h"
-#include "platform/qt/Text.h"
 #include "records/screens/Contacts.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::Contacts;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
-class ContactsTest : public support::ScreenTest {
+class ContactsTest : public ScreenTest {
   protected:
     ContactsTest() {
         AddRow(500, 30, "Mother");
@@ -131,7 +118,7 @@ TEST_F(ContactsTest, WhatCantBeWrittenStaysOnTheScreen) {
     List().setCurrentRow(1);
     EXPECT_EQ(Heard().size(), 1U);
     core::App().Connection.RunScript("ALTER TABLE Gone RENAME TO Contact");
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(Listed(), "*Boss|Mother");
     EXPECT_EQ(Box("txtPhone").text(), QStringLiteral("555"));
     panel_.SaveCurrent();
@@ -139,10 +126,8 @@ TEST_F(ContactsTest, WhatCantBeWrittenStaysOnTheScreen) {
 }
 
 TEST_F(ContactsTest, LooksAndReadsRight) {
-    EXPECT_EQ(support::MnemonicFaults(panel_), Said{});
-    EXPECT_EQ(support::TabOrderFaults(panel_), Said{});
-    EXPECT_EQ(support::NameFaults(panel_), Said{});
-    EXPECT_EQ(support::Portray(panel_, "Contacts"), Said{});
+    EXPECT_EQ(LookFaults(panel_, "Contacts"), Said{});
 }
 
 } // namespace
+} // namespace support

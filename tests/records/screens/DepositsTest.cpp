@@ -1,36 +1,21 @@
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPointer>
-#include <QRadioButton>
 #include <QTabBar>
-#include <QTest>
-#include <QToolButton>
 
 #include "core/Preferences.h"
 #include "core/forms/OpenForms.h"
 #include "records/screens/Deposits.h"
 #include "records/screens/frmDeposit.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::DepositScope;
 using records::screens::Deposits;
 using records::screens::frmDeposit;
-using support::ClickAction;
-using support::ClickOn;
-using support::Find;
-using support::GridText;
-using support::Type;
-using Said = std::vector<std::string>;
 
-const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
 const std::string kHead = "Description|Type|Amount\n";
 
-class DepositsTest : public support::ScreenTest {
+class DepositsTest : public ScreenTest {
   protected:
     static QPointer<frmDeposit> Open(std::int32_t id, DepositScope scope = DepositScope::Global) {
         QPointer<frmDeposit> form(new frmDeposit);
@@ -70,7 +55,7 @@ TEST_F(DepositsTest, ATemplateIsForAllForABuildingOrForAUnit) {
                             {"optUnit", "New Deposit|75.5|False|0|21"}}) {
         auto form = Open(0, DepositScope::Unit);
         EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Deposit"));
-        EXPECT_EQ(Find<QLineEdit>(*form, "txtAmount").text(), QStringLiteral("0.00"));
+        EXPECT_EQ(Text(*form, "txtAmount"), "0.00");
         Find<QRadioButton>(*form, "optBuilding").click();
         support::Choose(*form, "cboBuilding", "Oak Rd");
         Find<QRadioButton>(*form, "optUnit").click();
@@ -136,9 +121,9 @@ TEST_F(DepositsTest, TheListAddsOpensAndDeletes) {
     ClickOn(Find<QToolButton>(list, "cmdAdd"));
     frmDeposit* form = OpenForm();
     ASSERT_TRUE(form);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboBuilding").currentText(), QStringLiteral("12 Elm St"));
+    EXPECT_EQ(Text(*form, "cboBuilding"), "12 Elm St");
     ClickAction(*form, "CLOSE");
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(GridText(list.List()), kHead + "New Deposit|Building|0.00\n");
 
     QTest::keyClick(&list.List(), Qt::Key_Return);
@@ -167,10 +152,8 @@ TEST_F(DepositsTest, TheListAddsOpensAndDeletes) {
 
 TEST_F(DepositsTest, LooksAndReadsRight) {
     const auto form = Open(0, DepositScope::Building);
-    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    EXPECT_EQ(support::Portray(*form, "frmDeposit"), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmDeposit"), Said{});
 }
 
 } // namespace
+} // namespace support

@@ -1,13 +1,7 @@
 #include "records/screens/Fields.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-
 #include "core/Globals.h"
-#include "platform/qt/Text.h"
-#include "support/screens/Driving.h"
+#include "support/screens/Screens.h"
 
 namespace support {
 

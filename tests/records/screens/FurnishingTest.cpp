@@ -1,31 +1,15 @@
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPointer>
-#include <QTabWidget>
-
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "records/screens/Fields.h"
 #include "records/screens/frmAppliance.h"
 #include "records/screens/frmContent.h"
 #include "records/screens/frmRoom.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::frmAppliance;
 using records::screens::frmContent;
 using records::screens::frmRoom;
-using support::ClickAction;
-using support::FieldEntry;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
-
-const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
 
 /// The common behaviour of the three screens: a new one of unit 20 takes every field, shows it
 /// again, and is changed under its number.
@@ -98,7 +82,7 @@ const Furnishing kAppliance = {"Appliance",
                                "Adding New Appliance",
                                "Appliance: Ace Stove"};
 
-class FurnishingTest : public support::ScreenTest {
+class FurnishingTest : public ScreenTest {
   protected:
     FurnishingTest() {
         Run("INSERT INTO Account (IdAccount, ShowAs, AccountType) "
@@ -106,16 +90,14 @@ class FurnishingTest : public support::ScreenTest {
     }
     template <class Screen>
     static QPointer<Screen> Open(std::int32_t id, std::int32_t unit = 20) {
-        QPointer<Screen> form(new Screen);
-        form->Setup(id, unit);
-        return form;
+        return Show<Screen>(id, unit);
     }
     template <class Screen>
     void LivesThrough(const Furnishing& kind) {
         SCOPED_TRACE(kind.table);
         auto form = Open<Screen>(0);
         EXPECT_EQ(form->windowTitle().toStdString(), kind.newCaption);
-        EXPECT_EQ(Find<QComboBox>(*form, "cboUnit").currentText(), QStringLiteral("12 Elm St B"));
+        EXPECT_EQ(Text(*form, "cboUnit"), "12 Elm St B");
         EXPECT_FALSE(form->Dirty());
         ClickAction(*form, "APPLY");
         ClickAction(*form, "CLOSE");
@@ -128,29 +110,26 @@ class FurnishingTest : public support::ScreenTest {
         EXPECT_EQ(form->windowTitle().toStdString(), kind.caption);
         EXPECT_EQ(form->Id(), form->OpenRecordId());
         const std::string where = std::string(kind.idField) + " = " + std::to_string(form->Id());
-        EXPECT_EQ(support::StoredFaults(kind.table, where, kind.fields), Said{});
+        EXPECT_EQ(StoredFaults(kind.table, where, kind.fields), Said{});
 
         Type(Find<QWidget>(*form, "txtmNotes"), "Changed");
         ClickAction(*form, "CLOSE");
-        support::SettleEvents();
+        SettleEvents();
         EXPECT_FALSE(form);
         std::vector<FieldEntry> fields = kind.fields;
         fields.back().text = "Changed";
-        EXPECT_EQ(support::StoredFaults(kind.table, where, fields), Said{});
+        EXPECT_EQ(StoredFaults(kind.table, where, fields), Said{});
         const std::int32_t id = std::stoi(where.substr(where.rfind(' ')));
         form = Open<Screen>(id, 21);
         for (FieldEntry& field : fields)
             if (field.text == "1234.5") field.text = "1,234.50";
-        EXPECT_EQ(support::ShownFaults(*form, fields), Said{}) << "the parent changes nothing";
+        EXPECT_EQ(ShownFaults(*form, fields), Said{}) << "the parent changes nothing";
         EXPECT_FALSE(form->Dirty());
     }
     template <class Screen>
     void LooksRight(std::int32_t id, const std::string& name) {
         const auto form = Open<Screen>(id);
-        EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-        EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-        EXPECT_EQ(support::NameFaults(*form), Said{});
-        EXPECT_EQ(support::Portray(*form, name), Said{});
+        EXPECT_EQ(LookFaults(*form, name), Said{});
     }
 };
 
@@ -162,10 +141,8 @@ TEST_F(FurnishingTest, AreEnteredChangedAndReopened) {
 
 TEST_F(FurnishingTest, AnApplianceStandsInAUnit) {
     const auto form = Open<frmAppliance>(0, 0);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboUnit").currentText(),
-              QStringLiteral("[ No Unit Selected ]"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboDeprMethod").currentText(),
-              QStringLiteral("Straight Line"));
+    EXPECT_EQ(Text(*form, "cboUnit"), "[ No Unit Selected ]");
+    EXPECT_EQ(Text(*form, "cboDeprMethod"), "Straight Line");
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Heard(), Said{kRoll + "No Building / Unit has been selected.\n"
                                     "An appliance type must be specified.\n"});
@@ -199,7 +176,7 @@ TEST_F(FurnishingTest, UnitsAndVendorsThatChangeAreOfferedAtOnce) {
     const auto form = Open<frmAppliance>(70);
     Run("UPDATE Unit SET Unit = 'Z' WHERE IdUnit = 20");
     core::NotifyAll(core::kUnit, core::kRecordsChanged, 0);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboUnit").currentText(), QStringLiteral("12 Elm St Z"));
+    EXPECT_EQ(Text(*form, "cboUnit"), "12 Elm St Z");
     Run("UPDATE Account SET AccountType = 'Vendor' WHERE IdAccount = 60");
     core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
     EXPECT_EQ(Find<QComboBox>(*form, "cboVendor").count(), 3);
@@ -209,14 +186,13 @@ TEST_F(FurnishingTest, UnitsAndVendorsThatChangeAreOfferedAtOnce) {
 TEST_F(FurnishingTest, AUnitThatIsNotOfferedIsNotLost) {
     Run("UPDATE Room SET IdUnit = 999 WHERE IdRoom = 80");
     auto room = Open<frmRoom>(80);
-    EXPECT_EQ(Find<QComboBox>(*room, "cboUnit").currentText(),
-              QStringLiteral("Unit no. 999 (deleted)"));
+    EXPECT_EQ(Text(*room, "cboUnit"), "Unit no. 999 (deleted)");
     core::NotifyAll(core::kUnit, core::kRecordsChanged, 0);
     ClickAction(*room, "CLOSE");
     EXPECT_EQ(Ask("SELECT IdUnit FROM Room WHERE IdRoom = 80"), "999");
     Run("UPDATE Unit SET Unit = NULL WHERE IdUnit = 20");
     const auto stove = Open<frmAppliance>(70);
-    EXPECT_EQ(Find<QComboBox>(*stove, "cboUnit").currentText(), QStringLiteral("12 Elm St"));
+    EXPECT_EQ(Text(*stove, "cboUnit"), "12 Elm St");
     EXPECT_TRUE(Heard().empty());
     ClickAction(*stove, "CLOSE");
     EXPECT_EQ(Ask("SELECT IdUnit FROM Appliance WHERE IdAppliance = 70"), "20");
@@ -228,9 +204,10 @@ TEST_F(FurnishingTest, LookAndReadRight) {
     LooksRight<frmAppliance>(70, "frmAppliance");
     const auto form = Open<frmAppliance>(70);
     Find<QTabWidget>(*form, "tabs").setCurrentIndex(1);
-    EXPECT_EQ(support::Portray(*form, "frmAppliance-contracts"), Said{});
+    EXPECT_EQ(Portray(*form, "frmAppliance-contracts"), Said{});
     Find<QTabWidget>(*form, "tabs").setCurrentIndex(2);
-    EXPECT_EQ(support::Portray(*form, "frmAppliance-files"), Said{});
+    EXPECT_EQ(Portray(*form, "frmAppliance-files"), Said{});
 }
 
 } // namespace
+} // namespace support

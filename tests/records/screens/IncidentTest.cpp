@@ -1,33 +1,16 @@
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QPushButton>
-
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "core/binding/DateEdit.h"
 #include "records/screens/frmIncident.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::frmIncident;
-using support::Choose;
-using support::ClickAction;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
-class IncidentTest : public support::ScreenTest {
+class IncidentTest : public ScreenTest {
   protected:
     static QPointer<frmIncident> Open(std::int32_t id, std::int32_t tenant) {
-        QPointer<frmIncident> form(new frmIncident);
-        form->Setup(id, tenant);
-        return form;
+        return Show<frmIncident>(id, tenant);
     }
     static std::string Row() {
         return Ask(
@@ -39,8 +22,8 @@ class IncidentTest : public support::ScreenTest {
 TEST_F(IncidentTest, ANewOneIsOfItsTenantAndOfToday) {
     const auto form = Open(0, 31);
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Incident"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboTenant").currentText(), QStringLiteral("O'Brien, Ann"));
-    EXPECT_EQ(Find<QLineEdit>(*form, "dpEntryDate").text(), QStringLiteral("05/17/2024"));
+    EXPECT_EQ(Text(*form, "cboTenant"), "O'Brien, Ann");
+    EXPECT_EQ(Text(*form, "dpEntryDate"), "05/17/2024");
     EXPECT_EQ(Find<QComboBox>(*form, "cboSeverity").count(), 4);
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Heard(), Said{"Whoa!: The following errors have occured:\n\n"
@@ -56,8 +39,8 @@ TEST_F(IncidentTest, IsChangedAndReopened) {
     Run("INSERT INTO Incident (IdIncident, IdTenant, EntryDate, Severity, Description) "
         "VALUES (500, 30, '02/29/2024', '2 - Warning', 'Loud')");
     auto form = Open(500, 0);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboTenant").currentText(), QStringLiteral("Smith, John Q"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboSeverity").currentText(), QStringLiteral("2 - Warning"));
+    EXPECT_EQ(Text(*form, "cboTenant"), "Smith, John Q");
+    EXPECT_EQ(Text(*form, "cboSeverity"), "2 - Warning");
     Choose(*form, "cboSeverity", "3 - Critical");
     Choose(*form, "cboTenant", "Zu, Li");
     Type(Find<QLineEdit>(*form, "dpEntryDate"), "02/30/2024");
@@ -68,7 +51,7 @@ TEST_F(IncidentTest, IsChangedAndReopened) {
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Row(), "500|32|03/01/2024|3 - Critical|Loud|Again");
     form = Open(500, 0);
-    EXPECT_EQ(Find<QLineEdit>(*form, "dpEntryDate").text(), QStringLiteral("03/01/2024"));
+    EXPECT_EQ(Text(*form, "dpEntryDate"), "03/01/2024");
     EXPECT_FALSE(form->Dirty());
 }
 
@@ -83,16 +66,14 @@ TEST_F(IncidentTest, HearsOfTenants) {
     const auto form = Open(0, 31);
     Run("UPDATE Tenant SET LastName = 'Ota' WHERE IdTenant = 31");
     core::NotifyAll(core::kTenant, core::kRecordsChanged, 0);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboTenant").currentText(), QStringLiteral("Ota, Ann"));
+    EXPECT_EQ(Text(*form, "cboTenant"), "Ota, Ann");
     EXPECT_FALSE(form->Dirty());
 }
 
 TEST_F(IncidentTest, LooksAndReadsRight) {
     const auto form = Open(0, 30);
-    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    EXPECT_EQ(support::Portray(*form, "frmIncident"), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmIncident"), Said{});
 }
 
 } // namespace
+} // namespace support

@@ -1,66 +1,50 @@
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPointer>
-
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "records/screens/Fields.h"
 #include "records/screens/frmManagerLink.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::frmManagerLink;
-using support::ClickAction;
-using support::Find;
-using Said = std::vector<std::string>;
 
-const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
-
-class ManagerLinkTest : public support::ScreenTest {
+class ManagerLinkTest : public ScreenTest {
   protected:
     ManagerLinkTest() {
         Run("INSERT INTO Account (IdAccount, ShowAs, AccountType) "
             "VALUES (64, 'Mo''s Management', 'Building Manager')");
     }
     static QPointer<frmManagerLink> Open(std::int32_t id = 0, std::int32_t building = 11) {
-        QPointer<frmManagerLink> form(new frmManagerLink);
-        form->Setup(id, building);
-        return form;
+        return Show<frmManagerLink>(id, building);
     }
 };
 
-const std::vector<support::FieldEntry> kFields = {
-    {"cboBuilding", "12 Elm St", "IdBuilding", "10"},
-    {"cboManager", "Mo's Management", "IdAccount", "64"},
-    {"dpDateStart", "02/29/2024", "DateStart", ""},
-    {"txtTerm", "2", "Term", ""},
-    {"cboTermType", "Year(s)", "TermType", ""},
-    {"chkOnSite", "x", "OnSite", "True"},
-    {"cboFeeType", "Percentage", "FeeType", ""},
-    {"txtFirstFee", "50", "FirstFee", ""},
-    {"txtMonthlyFee", "7.5", "MonthlyFee", ""},
-    {"txtRepairLimit", "500.00", "RepairLimit", "500"}};
+const std::vector<FieldEntry> kFields = {{"cboBuilding", "12 Elm St", "IdBuilding", "10"},
+                                         {"cboManager", "Mo's Management", "IdAccount", "64"},
+                                         {"dpDateStart", "02/29/2024", "DateStart", ""},
+                                         {"txtTerm", "2", "Term", ""},
+                                         {"cboTermType", "Year(s)", "TermType", ""},
+                                         {"chkOnSite", "x", "OnSite", "True"},
+                                         {"cboFeeType", "Percentage", "FeeType", ""},
+                                         {"txtFirstFee", "50", "FirstFee", ""},
+                                         {"txtMonthlyFee", "7.5", "MonthlyFee", ""},
+                                         {"txtRepairLimit", "500.00", "RepairLimit", "500"}};
 
 TEST_F(ManagerLinkTest, IsEnteredAndReopened) {
     auto form = Open();
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Manager"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboBuilding").currentText(), QStringLiteral("Oak Rd"));
+    EXPECT_EQ(Text(*form, "cboBuilding"), "Oak Rd");
     EXPECT_EQ(Find<QComboBox>(*form, "cboManager").count(), 1) << "only managers are offered";
-    EXPECT_EQ(Find<QComboBox>(*form, "cboFeeType").currentText(), QStringLiteral("Fixed"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboTermType").currentText(), QStringLiteral("Month(s)"));
+    EXPECT_EQ(Text(*form, "cboFeeType"), "Fixed");
+    EXPECT_EQ(Text(*form, "cboTermType"), "Month(s)");
     support::Enter(*form, kFields);
     ClickAction(*form, "APPLY");
     EXPECT_EQ(Heard(), Said{});
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Manager: Mo's Management"));
-    EXPECT_EQ(support::StoredFaults("ManagerLink", "IdManagerLink = 1000", kFields), Said{});
+    EXPECT_EQ(StoredFaults("ManagerLink", "IdManagerLink = 1000", kFields), Said{});
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Heard(), Said{}) << "it is no duplicate of itself";
     form = Open(1000);
-    EXPECT_EQ(support::ShownFaults(*form, kFields), Said{});
+    EXPECT_EQ(ShownFaults(*form, kFields), Said{});
 }
 
 TEST_F(ManagerLinkTest, TheSamePairIsRefused) {
@@ -90,8 +74,7 @@ TEST_F(ManagerLinkTest, HearsOfNewManagers) {
     Run("UPDATE Account SET AccountType = 'Building Manager' WHERE IdAccount = 61");
     core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
     EXPECT_EQ(Find<QComboBox>(*form, "cboManager").count(), 2);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboManager").currentText(),
-              QStringLiteral("Mo's Management"));
+    EXPECT_EQ(Text(*form, "cboManager"), "Mo's Management");
     EXPECT_FALSE(form->Dirty());
 }
 
@@ -106,10 +89,8 @@ TEST_F(ManagerLinkTest, AnAccountOfAnotherTypeStaysTheManager) {
 
 TEST_F(ManagerLinkTest, LooksAndReadsRight) {
     const auto form = Open();
-    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    EXPECT_EQ(support::Portray(*form, "frmManagerLink"), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmManagerLink"), Said{});
 }
 
 } // namespace
+} // namespace support

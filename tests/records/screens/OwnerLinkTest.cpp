@@ -1,29 +1,13 @@
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTest>
-
 #include "core/Configuration.h"
-#include "core/NotifyAll.h"
 #include "core/Preferences.h"
-#include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
 #include "records/screens/frmOwnerLink.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::frmOwnerLink;
-using support::Choose;
-using support::ClickAction;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
 const std::string kNotice60 =
     "Notice: Note: the total ownership for this building is currently 60%";
@@ -31,14 +15,11 @@ const std::string kMadePrimary =
     "Note:: There are no other owners for this building specified as primary, so this\n"
     "one will automatically be set as primary. If you add another owner and set\n"
     "it as primary this will be overridden.";
-const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
 
-class OwnerLinkTest : public support::ScreenTest {
+class OwnerLinkTest : public ScreenTest {
   protected:
     QPointer<frmOwnerLink> Open(std::int32_t id = 0, std::int32_t building = 10) {
-        QPointer<frmOwnerLink> form(new frmOwnerLink);
-        form->Setup(id, building);
-        return form;
+        return Show<frmOwnerLink>(id, building);
     }
     static void Enter(frmOwnerLink& form, std::string_view owner, std::string_view percent) {
         Choose(form, "cboOwner", owner);
@@ -61,7 +42,7 @@ class OwnerLinkTest : public support::ScreenTest {
 TEST_F(OwnerLinkTest, OpensOnTheParentsBuildingWithNothingToApply) {
     const auto form = Open(0, 11);
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New Owner"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboBuilding").currentText(), QStringLiteral("Oak Rd"));
+    EXPECT_EQ(Text(*form, "cboBuilding"), "Oak Rd");
     EXPECT_EQ(Find<QComboBox>(*form, "cboOwner").count(), 2) << "only owners are offered";
     EXPECT_FALSE(form->Dirty());
     EXPECT_FALSE(CanApply(*form));
@@ -118,7 +99,7 @@ TEST_F(OwnerLinkTest, ThePercentageIsFromOneToAHundred) {
                   !taken)
             << percent;
         if (form) form->CloseUnasked();
-        support::SettleEvents();
+        SettleEvents();
     }
 }
 
@@ -142,7 +123,7 @@ TEST_F(OwnerLinkTest, TheTotalIsToldWhenItIsNotAHundred) {
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Heard(),
               Said{"Notice: Note: the total ownership for this building is currently 120%"});
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_FALSE(form);
 }
 
@@ -175,8 +156,8 @@ TEST_F(OwnerLinkTest, LoadsItsRow) {
     AddLink(500, 62, 33.5, true);
     const auto form = Open(500, 11);
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Owner: Jo Owner"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboBuilding").currentText(), QStringLiteral("12 Elm St"));
-    EXPECT_EQ(Find<QLineEdit>(*form, "txtPctOwned").text(), QStringLiteral("33.5"));
+    EXPECT_EQ(Text(*form, "cboBuilding"), "12 Elm St");
+    EXPECT_EQ(Text(*form, "txtPctOwned"), "33.5");
     EXPECT_FALSE(form->Dirty());
 }
 
@@ -250,10 +231,10 @@ TEST_F(OwnerLinkTest, HearsOfNewBuildingsAndOwnersAndStaysClean) {
     const bool before = form->Dirty();
     core::NotifyAll(core::kBuilding, core::kRecordsChanged, 0);
     EXPECT_EQ(Find<QComboBox>(*form, "cboBuilding").count(), 3);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboBuilding").currentText(), QStringLiteral("Oak Rd"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboOwner").currentText(), QStringLiteral("Jo Owner"));
+    EXPECT_EQ(Text(*form, "cboBuilding"), "Oak Rd");
+    EXPECT_EQ(Text(*form, "cboOwner"), "Jo Owner");
     core::NotifyAll(core::kAccount, core::kRecordsChanged, 0);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboOwner").currentText(), QStringLiteral("Zoe Owner"));
+    EXPECT_EQ(Text(*form, "cboOwner"), "Zoe Owner");
     EXPECT_EQ(form->Dirty(), before);
 }
 
@@ -275,10 +256,8 @@ TEST_F(OwnerLinkTest, AFailureOfTheDatabaseIsShownAndTheScreenStaysDirty) {
 TEST_F(OwnerLinkTest, LooksAndReadsRight) {
     AddLink(500, 62, 60, true);
     const auto form = Open(500);
-    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    EXPECT_EQ(support::Portray(*form, "frmOwnerLink"), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmOwnerLink"), Said{});
 }
 
 } // namespace
+} // namespace support

@@ -1,28 +1,19 @@
 #include <gmock/gmock.h>
 
-#include <QLabel>
 #include <QTabBar>
-#include <QTest>
-#include <QToolButton>
 
 #include "core/EditRecord.h"
-#include "core/NotifyAll.h"
 #include "core/Preferences.h"
-#include "core/RecordKinds.h"
 #include "core/Settings.h"
 #include "records/screens/RelatedDBm.h"
 #include "records/screens/RelatedDBs.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::RelatedDBm;
 using records::screens::RelatedDBs;
-using support::ClickOn;
-using support::Find;
-using support::GridText;
-using Said = std::vector<std::string>;
 
 /// Takes the place of the editors of a kind and notes what it is asked to open.
 class OpenedNote {
@@ -40,7 +31,7 @@ class OpenedNote {
     core::EditRequest last_;
 };
 
-class RelatedPanelTest : public support::ScreenTest {};
+class RelatedPanelTest : public ScreenTest {};
 
 void ShowTab(const RelatedDBm& panel, const char* caption) {
     QTabBar& tabs = Find<QTabBar>(panel, "tabs");
@@ -164,3 +155,4 @@ TEST_F(RelatedPanelTest, TheSingleListIsNamedAfterItsRecords) {
 }
 
 } // namespace
+} // namespace support

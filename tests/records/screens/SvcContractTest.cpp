@@ -1,24 +1,12 @@
 #include "records/screens/frmSvcContract.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPointer>
-
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "records/screens/Fields.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::frmSvcContract;
-using support::ClickAction;
-using support::FieldEntry;
-using support::Find;
-using Said = std::vector<std::string>;
 
 const std::vector<FieldEntry> kFields = {
     {"cboBuilding", "12 Elm St", "IdBuilding", "10"},
@@ -39,7 +27,7 @@ const std::vector<FieldEntry> kFields = {
     {"txtm", "Renews by itself", "Notes", ""},
 };
 
-class SvcContractTest : public support::ScreenTest {
+class SvcContractTest : public ScreenTest {
   protected:
     SvcContractTest() {
         Run("INSERT INTO Account (IdAccount, ShowAs, AccountType) "
@@ -48,9 +36,7 @@ class SvcContractTest : public support::ScreenTest {
     }
     QPointer<frmSvcContract> Open(std::int32_t id = 0, std::int32_t idBuilding = 0,
                                   std::int32_t idAppliance = 0) {
-        QPointer<frmSvcContract> form(new frmSvcContract);
-        form->Setup(id, idBuilding, idAppliance);
-        return form;
+        return Show<frmSvcContract>(id, idBuilding, idAppliance);
     }
     static QString Chosen(const frmSvcContract& form, const char* combo) {
         return Find<QComboBox>(form, combo).currentText();
@@ -63,11 +49,11 @@ TEST_F(SvcContractTest, ANewOneTakesEveryFieldAndShowsItAgain) {
     support::Enter(*form, kFields);
     ClickAction(*form, "APPLY");
     EXPECT_EQ(Heard(), Said{});
-    EXPECT_EQ(support::StoredFaults("SvcContract", "IdSvcContract = 1000", kFields), Said{});
+    EXPECT_EQ(StoredFaults("SvcContract", "IdSvcContract = 1000", kFields), Said{});
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Service Contract: 12 Elm St"));
     ClickAction(*form, "CLOSE");
     form = Open(1000);
-    EXPECT_EQ(support::ShownFaults(*form, kFields), Said{});
+    EXPECT_EQ(ShownFaults(*form, kFields), Said{});
     EXPECT_FALSE(form->Dirty());
 }
 
@@ -122,11 +108,9 @@ TEST_F(SvcContractTest, FollowsOtherScreens) {
 TEST_F(SvcContractTest, LooksRight) {
     const auto form = Open();
     support::Enter(*form, kFields);
-    EXPECT_EQ(support::Portray(*form, "frmSvcContract"), Said{});
-    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-    EXPECT_EQ(support::NameFaults(*form), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmSvcContract"), Said{});
     form->CloseUnasked();
 }
 
 } // namespace
+} // namespace support

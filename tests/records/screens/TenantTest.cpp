@@ -1,45 +1,20 @@
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
-
 #include "core/EditRecord.h"
 #include "core/Lookups.h"
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "core/binding/MaskedEdit.h"
 #include "documents/screens/FileObjects.h"
-#include "platform/qt/Text.h"
 #include "records/screens/frmTenant.h"
 #include "removal/DeleteRecord.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::binding::MaskedEdit;
-using platform::qt::FromScreen;
 using records::screens::frmTenant;
-using support::Choose;
-using support::ClickAction;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
-class TenantTest : public support::ScreenTest {
+class TenantTest : public ScreenTest {
   protected:
-    static QPointer<frmTenant> Open(std::int32_t id = 0) {
-        QPointer<frmTenant> form(new frmTenant);
-        form->Setup(id);
-        return form;
-    }
+    static QPointer<frmTenant> Open(std::int32_t id = 0) { return Show<frmTenant>(id); }
     static QLineEdit& Box(const frmTenant& form, const char* name) {
         for (const char* const page : {"tabTenant", "tabIdentity"}) {
             auto* const box = Find<QWidget>(form, page).findChild<QLineEdit*>(QLatin1String(name));
@@ -113,8 +88,8 @@ TEST_F(TenantTest, EveryFieldIsWrittenAndReadBack) {
     form = Open(1000);
     for (const auto& [name, text] : entries)
         EXPECT_EQ(FromScreen(Box(*form, name).text()), text) << name;
-    EXPECT_EQ(Find<QComboBox>(*form, "cboStatus").currentText(), QStringLiteral("Rejected"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboMaritalStatus").currentText(), QStringLiteral("Widowed"));
+    EXPECT_EQ(Text(*form, "cboStatus"), "Rejected");
+    EXPECT_EQ(Text(*form, "cboMaritalStatus"), "Widowed");
     EXPECT_EQ(Ask("SELECT Hide & Selected & Eviction & LawsuitPending & Bankrupcy & Notes "
                   "FROM Tenant WHERE IdTenant = 1000"),
               "TrueTrueTrueTrueTruen");
@@ -128,7 +103,7 @@ TEST_F(TenantTest, IsEnteredByKeyboardAlone) {
     QApplication::setActiveWindow(form);
     for (const char* const text : {"Lee", "Ann", "B", "Appr", "Bo", "Married", "2", "02/29/1992",
                                    "555", "556", "ann@b.example", "b.example", "Pays early."}) {
-        support::TypeAndTab(*form, text);
+        TypeAndTab(*form, text);
     }
     QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Ask("SELECT LastName & FirstName & Initial & Status & SpouseName & MaritalStatus & "
@@ -152,7 +127,7 @@ TEST_F(TenantTest, AStatusThatALeaseSetMeanwhileIsNotSavedAway) {
     const auto lease = [](const char* status) { core::SetTenantStatus(30, status); };
     auto form = Open(30);
     lease("Current");
-    EXPECT_EQ(Find<QComboBox>(*form, "cboStatus").currentText(), QStringLiteral("Current"));
+    EXPECT_EQ(Text(*form, "cboStatus"), "Current");
     EXPECT_FALSE(form->Dirty());
     lease("Archived");
     ClickAction(*form, "CLOSE");
@@ -232,17 +207,10 @@ TEST_F(TenantTest, LooksAndReadsRight) {
         "'john@elm.example', SSN = '012-34-5678', CCNum = '4111 1111', BankName = 'River Bank' "
         "WHERE IdTenant = 30");
     const auto form = Open(30);
-    auto& tabs = Find<QTabWidget>(*form, "tabs");
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    for (int page = 0; page < tabs.count(); ++page) {
-        tabs.setCurrentIndex(page);
-        const std::string name = FromScreen(tabs.tabText(page));
-        EXPECT_EQ(support::MnemonicFaults(*form), Said{}) << name;
-        EXPECT_EQ(support::TabOrderFaults(*form), Said{}) << name;
-        EXPECT_EQ(support::Portray(*form, "frmTenant" + std::to_string(page)), Said{}) << name;
-    }
+    EXPECT_EQ(LookFaultsOfTabs(*form, "frmTenant"), Said{});
     EXPECT_LE(form->sizeHint().width(), 1280);
     EXPECT_LE(form->sizeHint().height(), 760);
 }
 
 } // namespace
+} // namespace support

@@ -1,36 +1,20 @@
 #include "records/screens/frmWorkOrder.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QTabWidget>
-#include <QToolButton>
-
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "records/screens/Fields.h"
 #include "records/screens/frmWoItem.h"
 #include "removal/DeleteRecord.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using records::screens::frmWoItem;
 using records::screens::frmWorkOrder;
-using support::ClickAction;
-using support::FieldEntry;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
 const std::string kNoDescription =
     "Whoa!: The following errors have occured:\n\nA description must be entered.\n";
 
-class WorkOrderTest : public support::ScreenTest {
+class WorkOrderTest : public ScreenTest {
   protected:
     WorkOrderTest() {
         for (const char* sql : {
@@ -43,9 +27,7 @@ class WorkOrderTest : public support::ScreenTest {
         }
     }
     QPointer<frmWorkOrder> Open(std::int32_t id = 0, std::int32_t idUnit = 0) {
-        QPointer<frmWorkOrder> form(new frmWorkOrder);
-        form->Setup(id, idUnit);
-        return form;
+        return Show<frmWorkOrder>(id, idUnit);
     }
     static QString Chosen(const frmWorkOrder& form, const char* combo) {
         return Find<QComboBox>(form, combo).currentText();
@@ -80,23 +62,21 @@ const std::vector<FieldEntry> kFields = {
 TEST_F(WorkOrderTest, ANewOneTakesEveryFieldAndShowsItAgain) {
     auto form = Open();
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Adding New WorkOrder"));
-    EXPECT_EQ(Find<QLabel>(*form, "lblTitle").text(),
-              QStringLiteral("New WorkOrder (Press Apply to Save)"));
+    EXPECT_EQ(Text(*form, "lblTitle"), "New WorkOrder (Press Apply to Save)");
     EXPECT_EQ(Chosen(*form, "cboStatus"), QStringLiteral("Open"));
     EXPECT_EQ(Chosen(*form, "cboInitiator"), QString());
     EXPECT_FALSE(CanOpenTab(*form, 1) || CanOpenTab(*form, 2));
     support::Enter(*form, kFields);
     ClickAction(*form, "APPLY");
     EXPECT_EQ(Heard(), Said{});
-    EXPECT_EQ(support::StoredFaults("WorkOrder", "IdWorkOrder = 1000", kFields), Said{});
+    EXPECT_EQ(StoredFaults("WorkOrder", "IdWorkOrder = 1000", kFields), Said{});
     EXPECT_EQ(Ask("SELECT IdParent FROM WorkOrder"), "0");
     EXPECT_EQ(form->windowTitle(), QStringLiteral("WorkOrder: Fix Bob's \"stove\""));
-    EXPECT_EQ(Find<QLabel>(*form, "lblTitle").text(),
-              QStringLiteral("Editing WorkOrder: Fix Bob's \"stove\""));
+    EXPECT_EQ(Text(*form, "lblTitle"), "Editing WorkOrder: Fix Bob's \"stove\"");
     EXPECT_TRUE(CanOpenTab(*form, 1) && CanOpenTab(*form, 2));
     ClickAction(*form, "CLOSE");
     form = Open(1000);
-    EXPECT_EQ(support::ShownFaults(*form, kFields), Said{});
+    EXPECT_EQ(ShownFaults(*form, kFields), Said{});
     EXPECT_FALSE(form->Dirty());
 }
 
@@ -138,7 +118,7 @@ TEST_F(WorkOrderTest, VendorFieldsWaitForAVendorAndKeepTheirValues) {
     EXPECT_EQ(Ask("SELECT Rep FROM WorkOrder"), "Ann");
     form = Open(1000);
     EXPECT_FALSE(Find<QLineEdit>(*form, "txtRep").isEnabled());
-    EXPECT_EQ(Find<QLineEdit>(*form, "txtRep").text(), QStringLiteral("Ann"));
+    EXPECT_EQ(Text(*form, "txtRep"), "Ann");
 }
 
 TEST_F(WorkOrderTest, KeepsWhatItDoesNotOffer) {
@@ -184,12 +164,11 @@ TEST_F(WorkOrderTest, HistoryIsWrittenToItsOrder) {
     const std::vector<FieldEntry> fields = {{"txtDescription", "Called Bob's", "Description", ""},
                                             {"dp", "02/29/2024", "EntryDate", ""},
                                             {"txtm", "No answer", "Notes", ""}};
-    EXPECT_EQ(Find<QLineEdit>(*item, "dp").text(), QStringLiteral("05/17/2024"));
+    EXPECT_EQ(Text(*item, "dp"), "05/17/2024");
     support::Enter(*item, fields);
     ClickAction(*item, "APPLY");
     EXPECT_EQ(item->windowTitle(), QStringLiteral("History: Called Bob's"));
-    EXPECT_EQ(support::StoredFaults("WOItem", "IdWOItem = 1000 AND IdWorkOrder = 500", fields),
-              Said{});
+    EXPECT_EQ(StoredFaults("WOItem", "IdWOItem = 1000 AND IdWorkOrder = 500", fields), Said{});
     ClickAction(*item, "CLOSE");
     EXPECT_EQ(support::GridText(Find<core::grid::Grid>(*order, "grd")),
               "Entry Date|Description\n02/29/2024|Called Bob's\n");
@@ -253,21 +232,16 @@ TEST_F(WorkOrderTest, LooksRight) {
     core::NotifyAll(core::kWorkOrderHistory, core::kRecordsChanged, 0);
     auto& tabs = Find<QTabWidget>(*form, "tabs");
     for (const char* name : {"frmWorkOrder", "frmWorkOrder-history", "frmWorkOrder-files"}) {
-        EXPECT_EQ(support::Portray(*form, name), Said{}) << name;
-        EXPECT_EQ(support::MnemonicFaults(*form), Said{}) << name;
-        EXPECT_EQ(support::TabOrderFaults(*form), Said{}) << name;
+        EXPECT_EQ(LookFaults(*form, name), Said{});
         tabs.setCurrentIndex(tabs.currentIndex() + 1);
     }
-    EXPECT_EQ(support::NameFaults(*form), Said{});
     EXPECT_LE(form->height(), 740);
     form->CloseUnasked();
     auto* const item = new frmWoItem;
     item->Setup(510, 0);
-    EXPECT_EQ(support::Portray(*item, "frmWoItem"), Said{});
-    EXPECT_EQ(support::MnemonicFaults(*item), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*item), Said{});
-    EXPECT_EQ(support::NameFaults(*item), Said{});
+    EXPECT_EQ(LookFaults(*item, "frmWoItem"), Said{});
     item->CloseUnasked();
 }
 
 } // namespace
+} // namespace support

@@ -1,11 +1,13 @@
 #include "support/screens/Driving.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <QTreeWidget>
 
 #include "core/binding/Tags.h"
 #include "platform/qt/Text.h"
@@ -71,6 +73,37 @@ std::string GridText(const core::grid::Grid& grid) {
         text += line([&](int column) { return model.CellText(row, column); });
     }
     return text;
+}
+
+std::string Text(const QWidget& form, const char* name) {
+    const QWidget& control = Find<QWidget>(form, name);
+    for (const char* const property : {"currentText", "text"}) {
+        const QVariant text = control.property(property);
+        if (text.isValid()) return FromScreen(text.toString());
+    }
+    return "?";
+}
+
+std::vector<std::string> ListRows(const QWidget& form, const char* list) {
+    const auto& tree = Find<QTreeWidget>(form, list);
+    std::vector<std::string> rows;
+    for (int row = 0; row < tree.topLevelItemCount(); ++row) {
+        const QTreeWidgetItem* const item = tree.topLevelItem(row);
+        std::string line = item->checkState(0) == Qt::Checked ? "x " : "";
+        for (int column = 0; column < tree.columnCount(); ++column) {
+            if (tree.isColumnHidden(column)) continue;
+            line += (column > 0 ? "|" : "") + FromScreen(item->text(column));
+        }
+        rows.push_back(line);
+    }
+    return rows;
+}
+
+void Trigger(const QWidget& form, const char* item) {
+    auto* const action = form.findChild<QAction*>(QLatin1String(item));
+    if (!action) throw std::runtime_error(std::string("no item ") + item);
+    if (!action->isEnabled()) throw std::runtime_error(std::string(item) + " can't be chosen");
+    action->trigger();
 }
 
 } // namespace support

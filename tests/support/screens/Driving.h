@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QPointer>
 #include <QWidget>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/grid/Grid.h"
 
@@ -38,5 +41,28 @@ void SettleEvents();
 
 /// Captions and cells of the columns that show, cells separated by "|", a line each.
 std::string GridText(const core::grid::Grid& grid);
+
+/// The text that a control shows; "?" for a control without one.
+std::string Text(const QWidget& form, const char* control);
+/// The rows of a list, without hidden columns: cells separated by "|", ticked rows with "x ".
+std::vector<std::string> ListRows(const QWidget& form, const char* list);
+/// Chooses a menu item, which must be enabled.
+void Trigger(const QWidget& form, const char* item);
+/// Opens a form of this class.
+template <class Screen, class... Arguments>
+QPointer<Screen> Show(Arguments&&... arguments) {
+    QPointer<Screen> form(new Screen);
+    form->Setup(std::forward<Arguments>(arguments)...);
+    return form;
+}
+/// The form of this class that is open last.
+template <class Screen>
+QPointer<Screen> Opened() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        auto* const form = qobject_cast<Screen*>(window);
+        if (form && form->isVisible()) return form;
+    }
+    return nullptr;
+}
 
 } // namespace support

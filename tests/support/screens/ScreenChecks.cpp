@@ -6,12 +6,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTabWidget>
 #include <algorithm>
 #include <map>
 #include <set>
 
 #include "core/binding/Binding.h"
 #include "platform/qt/Text.h"
+#include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
 
 namespace support {
 
@@ -120,6 +123,25 @@ std::vector<std::string> NameFaults(const QWidget& screen) {
         if (IsEntry(*control) && control->accessibleName().isEmpty()) {
             faults.push_back(NameOf(*control) + " has no name");
         }
+    }
+    return faults;
+}
+
+std::vector<std::string> LookFaults(QWidget& screen, const std::string& name) {
+    std::vector<std::string> faults = Portray(screen, name);
+    for (const auto& more : {MnemonicFaults(screen), TabOrderFaults(screen), NameFaults(screen)})
+        faults.insert(faults.end(), more.begin(), more.end());
+    return faults;
+}
+
+std::vector<std::string> LookFaultsOfTabs(QWidget& form, const std::string& name) {
+    std::vector<std::string> faults;
+    auto* const tabs = form.findChild<QTabWidget*>();
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        SettleEvents();
+        for (const std::string& fault : LookFaults(form, name + std::to_string(page)))
+            faults.push_back("tab " + std::to_string(page) + ": " + fault);
     }
     return faults;
 }

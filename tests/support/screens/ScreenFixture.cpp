@@ -15,7 +15,7 @@ ScreenTest::~ScreenTest() {
 std::vector<std::string> ScreenTest::Heard() {
     std::vector<std::string> said;
     for (; heard_ < person_->Heard().size(); ++heard_) {
-        const Said& one = person_->Heard()[heard_];
+        const Prompt& one = person_->Heard()[heard_];
         said.push_back(one.title + ": " + one.text);
     }
     return said;
