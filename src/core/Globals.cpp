@@ -1,13 +1,21 @@
 #include "core/Globals.h"
 
+#include <utility>
+
 #include "core/AppPath.h"
 #include "core/RegistryKeys.h"
+#include "core/ThreadApp.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Text.h"
 
 namespace core {
 
 namespace {
+
+Globals*& AppOfThread() {
+    thread_local Globals* app = nullptr;
+    return app;
+}
 
 struct Switch {
     std::string_view name;
@@ -40,7 +48,12 @@ void ApplySwitch(std::string_view text) {
 
 Globals& App() {
     static Globals app;
-    return app;
+    Globals* const own = AppOfThread();
+    return own != nullptr ? *own : app;
+}
+
+Globals* SetAppOfThread(Globals* app) {
+    return std::exchange(AppOfThread(), app);
 }
 
 void SetAppPath(std::string_view directory) {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/Globals.h"
+#include "core/ScratchSession.h"
 
 namespace core {
 
@@ -20,7 +21,7 @@ void SetMessagePump(std::function<void()> pump) {
 }
 
 void LetMessagesRun() {
-    if (!Pump() || App().Connection.InUnitOfWork()) return;
+    if (InScratchSession() || !Pump() || App().Connection.InUnitOfWork()) return;
     // The pump may be replaced by what it runs.
     const auto pump = Pump();
     pump();

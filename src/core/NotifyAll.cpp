@@ -8,6 +8,7 @@
 #include "core/Configuration.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/ScratchSession.h"
 
 namespace core {
 
@@ -85,6 +86,7 @@ NotifyToken::~NotifyToken() {
 }
 
 void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id) {
+    if (InScratchSession()) return; // nobody has seen the copy
     const Message message{kind, action, id};
     if (App().Connection.InUnitOfWork()) {
         HoldBack(message);

@@ -27,6 +27,7 @@
 #include "mortgages/screens/frmMortgagePayment.h"
 #include "mortgages/screens/frmMortgageWizard.h"
 #include "mortgages/screens/frmMtgLog.h"
+#include "outlook/screens/frmLookAhead.h"
 #include "platform/qt/QtDialogs.h"
 #include "records/screens/frmAccount.h"
 #include "records/screens/frmAppliance.h"
@@ -181,6 +182,7 @@ shell::screens::Commands MenuCommands() {
     commands.Add(QStringLiteral("mnuCheck"), Opening<exchange::screens::frmCheck>());
     commands.Add(QStringLiteral("mnuAutoEvents"), Opening<books::screens::frmAutoEventList>());
     commands.Add(QStringLiteral("mnuMileage"), Opening<books::screens::frmMileage>());
+    commands.Add(QStringLiteral("mnuLookAhead"), Opening<outlook::screens::frmLookAhead>());
     commands.Add(QStringLiteral("mnuTransCategory"), Opening<books::screens::frmTransCategory>());
     AddDocumentCommands(commands);
     for (const char* const item : {"mnuDocMgmt", "mnuPrintDocMgmt"})

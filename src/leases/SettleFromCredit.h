@@ -2,10 +2,14 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 #include "leases/LeaseWalk.h"
 
 namespace leases {
+
+/// How the run reports a payment from credit, by which no money comes in.
+inline constexpr std::string_view kPaidFromCredit = "Paid from credit";
 
 /// Writes the charges of a walk day by day. The payments from credit follow the charges of their
 /// day: each is a transaction of 0.00, since no money moves, that settles charge and credit. A

@@ -24,8 +24,6 @@ using platform::UnitOfWork;
 
 namespace {
 
-constexpr std::string_view kPaidFromCredit = "Paid from credit";
-
 void SetUnitAndTenant(Recordset& row, std::string_view leaseStatus) {
     const bool over = IsOver(leaseStatus);
     core::SetUnitStatus(row["IdUnit"].AsLong(), over ? core::kUnitAvailable : core::kUnitLeased);

@@ -20,6 +20,7 @@ struct Options {
 void AddInit(CLI::App& line);
 void AddRegister(CLI::App& line);
 void AddUpdate(CLI::App& line, const Options& options);
+void AddPreview(CLI::App& line, const Options& options);
 void AddAlerts(CLI::App& line, const Options& options);
 void AddSql(CLI::App& line, const Options& options);
 void AddAmortize(CLI::App& line, const Options& options);

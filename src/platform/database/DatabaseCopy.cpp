@@ -38,33 +38,53 @@ DatabaseCopy::DatabaseCopy(const std::filesystem::path& database)
 
 DatabaseCopy::~DatabaseCopy() = default;
 
+void DatabaseCopy::CopyPages(SQLite::Database& copy, const Progress& progress) const {
+    copy.exec("PRAGMA page_size = " + std::to_string(pageSize_));
+    copy.exec("PRAGMA journal_mode = OFF");
+    copy.exec("PRAGMA synchronous = OFF");
+    const std::unique_ptr<sqlite3_backup, EndBackup> backup(
+        sqlite3_backup_init(copy.getHandle(), "main", source_->getHandle(), "main"));
+    if (!backup) ThrowEngineError(copy.getHandle());
+    const int pages = static_cast<int>(kBytesAtATime / pageSize_);
+    int result = SQLITE_OK;
+    while ((result = sqlite3_backup_step(backup.get(), pages)) == SQLITE_OK) {
+        if (progress) progress(size_ - pageSize_ * sqlite3_backup_remaining(backup.get()));
+    }
+    if (result != SQLITE_DONE) {
+        throw DatabaseError(DescribeEngineFailure(result, 0, sqlite3_errstr(result)),
+                            result & 0xFF);
+    }
+}
+
 void DatabaseCopy::WriteTo(DiskFile& out, std::int64_t offset, const Progress& progress) const {
     OffsetFile place(out, offset);
     try {
         SQLite::Database copy("copy", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, 0,
                               place.Name());
-        copy.exec("PRAGMA page_size = " + std::to_string(pageSize_));
-        copy.exec("PRAGMA journal_mode = OFF");
-        copy.exec("PRAGMA synchronous = OFF");
         copy.exec("PRAGMA locking_mode = EXCLUSIVE");
-        const std::unique_ptr<sqlite3_backup, EndBackup> backup(
-            sqlite3_backup_init(copy.getHandle(), "main", source_->getHandle(), "main"));
-        if (!backup) ThrowEngineError(copy.getHandle());
-        const int pages = static_cast<int>(kBytesAtATime / pageSize_);
-        int result = SQLITE_OK;
-        while ((result = sqlite3_backup_step(backup.get(), pages)) == SQLITE_OK) {
-            if (progress) progress(size_ - pageSize_ * sqlite3_backup_remaining(backup.get()));
-        }
-        if (result != SQLITE_DONE) {
-            place.Finish(); // the reason is there, if it was the writing
-            throw DatabaseError(DescribeEngineFailure(result, 0, sqlite3_errstr(result)),
-                                result & 0xFF);
-        }
+        CopyPages(copy, progress);
     } catch (const SQLite::Exception& error) {
         throw DatabaseError(error.what(), error.getErrorCode() & 0xFF);
+    } catch (const DatabaseError&) {
+        place.Finish(); // the reason is there, if it was the writing
+        throw;
     }
     place.Finish();
     if (progress) progress(size_);
+}
+
+std::unique_ptr<SQLite::Database> DatabaseCopy::ToMemory(const Progress& progress) const {
+    try {
+        auto copy = std::make_unique<SQLite::Database>(
+            ":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLITE_OPEN_NOMUTEX);
+        CopyPages(*copy, progress);
+        // The copy is rolled back like any database.
+        copy->exec("PRAGMA journal_mode = MEMORY");
+        copy->exec("PRAGMA temp_store = MEMORY");
+        return copy;
+    } catch (const SQLite::Exception& error) {
+        throw DatabaseError(error.what(), error.getErrorCode() & 0xFF);
+    }
 }
 
 } // namespace platform

@@ -13,8 +13,8 @@ class Database;
 
 namespace platform {
 
-/// Copies a database while other connections use it: the copy is the database as it was at one
-/// moment, made by the engine. Every failure is an Error with the reason.
+/// Copies a database, to a file or into memory, while other connections use it: the copy is the
+/// database as it was at one moment, made by the engine. Every failure is an Error with the reason.
 class DatabaseCopy {
   public:
     /// Fixes the moment.
@@ -31,7 +31,12 @@ class DatabaseCopy {
     /// empty; it is called every few megabytes, and what it throws ends the copying.
     void WriteTo(DiskFile& out, std::int64_t offset, const Progress& progress) const;
 
+    /// Makes the copy in memory; `progress` as for WriteTo.
+    std::unique_ptr<SQLite::Database> ToMemory(const Progress& progress) const;
+
   private:
+    void CopyPages(SQLite::Database& copy, const Progress& progress) const;
+
     std::unique_ptr<SQLite::Database> source_;
     std::int64_t pageSize_ = 0;
     std::int64_t size_ = 0;

@@ -23,6 +23,12 @@ std::chrono::milliseconds& BusyTimeout() {
     return timeout;
 }
 
+// The database in memory that waits to be opened.
+Handle& Lent() {
+    thread_local Handle database;
+    return database;
+}
+
 std::string SystemText(int error) {
     return std::generic_category().message(error);
 }
@@ -194,11 +200,24 @@ Handle MakeFile(const fs::path& file) {
 
 } // namespace
 
+InMemory::InMemory(std::unique_ptr<SQLite::Database> database) {
+    Lent() = std::move(database);
+}
+
+InMemory::~InMemory() {
+    Lent().reset();
+}
+
+fs::path InMemory::Name() {
+    return "a copy in memory";
+}
+
 void SetBusyTimeout(std::chrono::milliseconds timeout) {
     BusyTimeout() = timeout;
 }
 
 std::unique_ptr<SQLite::Database> OpenDatabaseFile(const fs::path& file, OpenMode mode) {
+    if (Lent() && file == InMemory::Name()) return std::move(Lent());
     const fs::path full = fs::absolute(file);
     if (mode == OpenMode::Create) return MakeFile(full);
     CheckExists(full);

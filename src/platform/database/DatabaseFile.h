@@ -16,6 +16,18 @@ namespace platform {
 std::unique_ptr<SQLite::Database> OpenDatabaseFile(const std::filesystem::path& file,
                                                    OpenMode mode);
 
+/// Lends a database in memory a name, by which OpenDatabaseFile opens it once, on this thread and
+/// while this lives; in any mode.
+class InMemory {
+  public:
+    explicit InMemory(std::unique_ptr<SQLite::Database> database);
+    ~InMemory();
+    InMemory(const InMemory&) = delete;
+    InMemory& operator=(const InMemory&) = delete;
+
+    static std::filesystem::path Name();
+};
+
 /// Sets how long connections opened from now on wait for another program that is writing; a test
 /// that lets one wait in vain sets less.
 void SetBusyTimeout(std::chrono::milliseconds timeout);

@@ -6,6 +6,9 @@
 #include <array>
 #include <chrono>
 #include <ctime>
+#include <utility>
+
+#include "platform/system/ThreadClock.h"
 
 namespace platform {
 
@@ -13,6 +16,11 @@ namespace {
 
 std::optional<Date>& SetDay() {
     static std::optional<Date> day;
+    return day;
+}
+
+std::optional<Date>& DayOfThread() {
+    thread_local std::optional<Date> day;
     return day;
 }
 
@@ -30,6 +38,7 @@ Date DayOf(const std::tm& local) {
 } // namespace
 
 Date Today() {
+    if (DayOfThread()) return *DayOfThread();
     if (SetDay()) return *SetDay();
     return DayOf(LocalTime(std::time(nullptr)));
 }
@@ -65,6 +74,10 @@ void SetChangedAt(const std::filesystem::path& file, const Moment& moment) {
 
 void SetToday(std::optional<Date> day) {
     SetDay() = day;
+}
+
+std::optional<Date> SetTodayOfThread(std::optional<Date> day) {
+    return std::exchange(DayOfThread(), day);
 }
 
 } // namespace platform

@@ -38,6 +38,7 @@ HomePage::HomePage(QWidget* parent)
       firstStepText_(new QLabel(firstStep_)),
       firstStepCommand_(new QPushButton(firstStep_)),
       posted_(new QToolButton(this)),
+      lookAhead_(new QToolButton(this)),
       alerts_(new alerts::screens::Alerts(this)) {
     SetUpNotices();
     alerts_->setObjectName(QStringLiteral("ucAlerts"));
@@ -48,10 +49,17 @@ HomePage::HomePage(QWidget* parent)
     posted_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     posted_->setFocusPolicy(Qt::StrongFocus);
     posted_->hide();
+    lookAhead_->setObjectName(QStringLiteral("btnLookAhead"));
+    lookAhead_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    lookAhead_->setFocusPolicy(Qt::StrongFocus);
     auto* const rows = new QVBoxLayout(this);
     rows->addWidget(books_);
     rows->addWidget(firstStep_);
-    rows->addWidget(posted_);
+    auto* const run = new QHBoxLayout;
+    run->addWidget(posted_, 1);
+    run->addStretch();
+    run->addWidget(lookAhead_);
+    rows->addLayout(run);
     rows->addWidget(alerts_, 1);
     connect(posted_, &QToolButton::clicked, this, [this] {
         if (digest_ != nullptr) (new frmPosted)->Setup(*digest_);
@@ -108,6 +116,10 @@ void HomePage::ShowFirstStep() {
 void HomePage::BindWizards(QAction& lease, QAction& mortgage) {
     alerts_->BindItem(QStringLiteral("WIZ_LEASE"), lease);
     alerts_->BindItem(QStringLiteral("WIZ_MORTGAGE"), mortgage);
+}
+
+void HomePage::BindLookAhead(QAction& action) {
+    lookAhead_->setDefaultAction(&action);
 }
 
 void HomePage::Refresh() {

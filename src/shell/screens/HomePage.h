@@ -28,6 +28,8 @@ class HomePage : public QWidget {
 
     /// Makes the side menu's wizard items trigger these actions.
     void BindWizards(QAction& lease, QAction& mortgage);
+    /// Makes the button beside the line about the daily run trigger this action.
+    void BindLookAhead(QAction& action);
     /// Reads the alerts again.
     void Refresh();
     /// Saves the notes; asks whether to continue if they can't be saved.
@@ -49,6 +51,7 @@ class HomePage : public QWidget {
     QPushButton* firstStepCommand_;
     const alerts::FirstStep* step_ = nullptr;
     QToolButton* posted_;
+    QToolButton* lookAhead_;
     alerts::screens::Alerts* alerts_;
     const RunDigest* digest_ = nullptr;
 };

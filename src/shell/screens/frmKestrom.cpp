@@ -70,6 +70,7 @@ void frmKestrom::SetUpPages() {
     home_ = new HomePage(this);
     home_->setObjectName(QStringLiteral("homePage"));
     home_->BindWizards(*ui_->mnuLeaseWizard, *ui_->mnuMortgageWizard);
+    home_->BindLookAhead(*ui_->mnuLookAhead);
     view_ = new ViewPanel(this);
     ui_->pages->addWidget(home_);
     ui_->pages->addWidget(view_);

@@ -132,7 +132,7 @@ class EveryForm : public tests::SampleEditors {
         "mnuConfig",         "mnuGeneralReports", "mnuPreferences", "mnuLeaseWizard",
         "mnuMortgageWizard", "mnuFinExport",      "mnuPort",        "mnuCheck",
         "mnuAutoEvents",     "mnuTransCategory",  "mnuDocMgmt",     "mnuHelpAbout",
-        "mnuDBExplorer",     "mnuMileage"};
+        "mnuDBExplorer",     "mnuMileage",        "mnuLookAhead"};
 };
 
 TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {

@@ -116,6 +116,16 @@ TEST_F(Kestrom, OffersTheWizardsOnItsHomePage) {
     EXPECT_THAT(log_, ElementsAre("wizard"));
 }
 
+TEST_F(Kestrom, LooksAheadFromItsHomePageAndItsMenu) {
+    services_.commands.Add(QStringLiteral("mnuLookAhead"),
+                           [this](const auto&) { log_.emplace_back("look ahead"); });
+    const auto& button = support::Find<QToolButton>(Window(), "btnLookAhead");
+    EXPECT_EQ(button.text(), QStringLiteral("Look Ahead"));
+    QTest::mouseClick(&support::Find<QToolButton>(Window(), "btnLookAhead"), Qt::LeftButton);
+    QTest::keyClick(&Window(), Qt::Key_L, Qt::ControlModifier);
+    EXPECT_THAT(log_, ElementsAre("look ahead", "look ahead"));
+}
+
 TEST_F(Kestrom, DeletesTheSelectedRecordOfThoseWhoAgree) {
     Answer({false, true});
     Go("TENANTS");
