@@ -29,6 +29,7 @@ Deposits::Deposits(QWidget* parent)
     for (const QString& title : {tr("All"), tr("Global"), tr("Building"), tr("Unit")})
         tabs_->addTab(title);
     SetHead(tabs_);
+    List().setAccessibleName(tr("Deposits"));
     connect(tabs_, &QTabBar::currentChanged, this, &Deposits::Reload);
     connect(this, &RecordList::AddAsked, this,
             [this] { Guarded([this] { OpenDeposit(0, Scope(), place_); }); });

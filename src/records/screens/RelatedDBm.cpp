@@ -35,6 +35,7 @@ void RelatedDBm::Load(std::int16_t dbType, std::int32_t id) {
 void RelatedDBm::ShowTab() {
     const auto lists = TabbedLists(owner_.kind);
     const auto tab = static_cast<std::size_t>(std::max(0, tabs_->currentIndex()));
+    List().setAccessibleName(tabs_->tabText(tabs_->currentIndex()).remove(QLatin1Char('&')));
     ShowList(tab < lists.size() ? &lists[tab] : nullptr, owner_);
 }
 

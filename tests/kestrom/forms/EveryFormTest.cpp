@@ -2,7 +2,9 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScreen>
@@ -16,6 +18,7 @@
 #include "core/binding/Binding.h"
 #include "exchange/screens/frmBackup.h"
 #include "exchange/screens/frmRestore.h"
+#include "kestrom/forms/LookChecks.h"
 #include "kestrom/screens/SampleEditors.h"
 #include "leases/screens/frmRentPayment.h"
 #include "leases/screens/frmRentSplit.h"
@@ -128,6 +131,25 @@ class EveryForm : public tests::SampleEditors {
         return {};
     }
 
+    /// Controls without a name, and controls whose text is cut off.
+    static Faults LookFaults(const Form& form, const std::string& name) {
+        Faults faults;
+        for (const std::string& fault : tests::NamelessFaults(form))
+            faults.insert(name + ": " + fault);
+        for (const std::string& fault : tests::ClippingFaults(form))
+            faults.insert(name + ": " + fault);
+        return faults;
+    }
+    /// Calls `look` for each page of the form's tabs, or once.
+    static void OnEachPage(Form& form, const std::function<void()>& look) {
+        auto* const tabs = form.findChild<QTabWidget*>();
+        for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
+            if (tabs) tabs->setCurrentIndex(page);
+            support::SettleEvents();
+            look();
+        }
+    }
+
     static constexpr const char* kMenuItems[] = {
         "mnuConfig",         "mnuGeneralReports", "mnuPreferences", "mnuLeaseWizard",
         "mnuMortgageWizard", "mnuFinExport",      "mnuPort",        "mnuCheck",
@@ -146,14 +168,12 @@ TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
             ASSERT_EQ(Open().size(), 1U) << name;
             Form& form = *Open().front();
             faults.merge(FocusFaults(form, name));
-            auto* const tabs = form.findChild<QTabWidget*>();
-            for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
-                if (tabs) tabs->setCurrentIndex(page);
-                support::SettleEvents();
+            OnEachPage(form, [&] {
                 faults.merge(PlaceFaults(form, name));
+                faults.merge(LookFaults(form, name));
                 for (const std::string& fault : support::TabOrderFaults(form))
                     faults.insert(name + ": " + fault);
-            }
+            });
             const std::string key = FromScreen(form.objectName());
             form.CloseUnasked();
             support::SettleEvents();
@@ -161,6 +181,32 @@ TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
             core::SaveForm(key, core::WindowState::Normal, {-30, 200, 3000, 2000});
         }
     }
+    EXPECT_THAT(faults, IsEmpty());
+}
+
+// The size that texts have on a screen at 200 %, and the room that 1920x1080 has for them.
+TEST_F(EveryForm, ShowsAllOfItsTextsAtTwiceTheSize) {
+    if (QGuiApplication::primaryScreen()->size().width() < 1920) {
+        GTEST_SKIP() << "a run of its own has the screen for it";
+    }
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 2);
+    QApplication::setFont(large);
+    std::set<std::string> faults;
+    for (const Opening& opening : Openings()) {
+        opening.open();
+        support::SettleEvents();
+        ASSERT_EQ(Open().size(), 1U) << opening.name;
+        Form& form = *Open().front();
+        OnEachPage(form, [&] {
+            faults.merge(PlaceFaults(form, opening.name));
+            faults.merge(LookFaults(form, opening.name));
+        });
+        form.CloseUnasked();
+        support::SettleEvents();
+    }
+    QApplication::setFont(usual);
     EXPECT_THAT(faults, IsEmpty());
 }
 
