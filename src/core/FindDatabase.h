@@ -38,9 +38,16 @@ struct MenderHandover {
     std::function<void()> endProcess;
 };
 
+/// How a user whose database can't be opened is received.
+enum class MenderGreeting {
+    Notice,  ///< says that the database is missing or too old
+    Welcome, ///< for a user who never had one: the sibling program begins with its welcome page
+};
+
 /// For a database that is missing or too old: informs the user, starts the sibling program that
 /// mends databases (it starts this one again afterwards) and ends this process; says so if there
 /// is no such program.
-void StartDatabaseMender(const MenderHandover& handover);
+void StartDatabaseMender(const MenderHandover& handover,
+                         MenderGreeting greeting = MenderGreeting::Notice);
 
 } // namespace core

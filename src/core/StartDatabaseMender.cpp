@@ -23,12 +23,16 @@ constexpr std::string_view kNoMender =
 
 } // namespace
 
-void StartDatabaseMender(const MenderHandover& handover) {
-    platform::TheDialogs().ShowMessage("Database Notice", kNotice, platform::Icon::Information);
+void StartDatabaseMender(const MenderHandover& handover, MenderGreeting greeting) {
+    const bool welcomes = greeting == MenderGreeting::Welcome;
+    if (!welcomes) {
+        platform::TheDialogs().ShowMessage("Database Notice", kNotice, platform::Icon::Information);
+    }
 
     const std::filesystem::path mender = SiblingProgram("dbmender.exe");
     std::vector<std::string> arguments = {"/nowarning",
                                           "/appstart=" + platform::ExecutablePath().string()};
+    if (welcomes) arguments.emplace_back("/welcome");
     if (App().DbName != kDefaultDatabase) arguments.push_back("/altdb=" + App().DbName);
 
     if (platform::FileExists(mender.string())) {

@@ -79,6 +79,10 @@ Diagnosis ExamineRegistered(const std::string& dbName) {
     return unknown;
 }
 
+bool HasNoBooks(const std::string& dbName) {
+    return ExamineRegistered(dbName).condition == Condition::NotRegistered;
+}
+
 std::string Explain(const Diagnosis& diagnosis) {
     const std::string folder = diagnosis.folder.string();
     const std::string file = (diagnosis.folder / store::kDatabaseFile).string();

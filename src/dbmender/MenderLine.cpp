@@ -15,6 +15,7 @@ constexpr std::array kOptions = {
     platform::HelpEntry{"-h,--help", "Print this help and exit"},
     platform::HelpEntry{"--version", "Print the version and exit"},
     platform::HelpEntry{"/nowarning", "Don't ask to close the other programs first"},
+    platform::HelpEntry{"/welcome", "Welcome a user who has no books yet"},
     platform::HelpEntry{"/appstart=PROGRAM", "Start this program afterwards"},
     platform::HelpEntry{"/altdb=NAME", "Mend the books registered under this name"},
 };
@@ -45,6 +46,7 @@ MenderLine ReadMenderLine(std::span<const char* const> words) {
                                     ? std::string_view()
                                     : platform::Trim(word.substr(equals + 1)));
         if (EqualIgnoringCase(name, "/nowarning")) line.warns = false;
+        if (EqualIgnoringCase(name, "/welcome")) line.welcomes = true;
         if (EqualIgnoringCase(name, "/appstart")) line.appStart = value;
         if (EqualIgnoringCase(name, "/altdb") && !value.empty()) {
             line.dbName = platform::ToLower(value);

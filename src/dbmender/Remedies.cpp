@@ -123,7 +123,7 @@ void Apply(const Choice& choice, const std::string& dbName, const shell::SampleP
                                           std::to_string(store::kDatabaseVersion));
             break;
         case Remedy::MakeEmpty:
-            store::CreateDatabase(choice.folder);
+            MakeFirstBooks(choice.folder, choice.first);
             break;
         case Remedy::MakeSample:
             shell::MakeSamplePortfolio(choice.folder, shell::kSampleUnits, platform::Today(),

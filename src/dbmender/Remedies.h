@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "dbmender/Diagnosis.h"
+#include "dbmender/FirstBooks.h"
 #include "shell/SampleLife.h"
 
 namespace dbmender {
@@ -20,6 +21,7 @@ enum class Remedy {
 struct Choice {
     Remedy remedy = Remedy::MakeEmpty;
     std::filesystem::path folder;
+    FirstEntries first = {}; ///< of an empty database
 };
 
 /// Returns the remedies to offer, the best first.

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "core/RegistryKeys.h"
+#include "core/binding/Wiring.h"
 #include "exchange/screens/frmRestore.h"
 #include "platform/dialogs/Choosers.h"
 #include "platform/dialogs/Dialogs.h"
@@ -37,6 +38,7 @@ frmDbMender::frmDbMender(MenderLine line, StartProgram start, QWidget* parent)
       line_(std::move(line)),
       start_(std::move(start)) {
     ui_->setupUi(this);
+    core::binding::WireControls(*this);
     ui_->prgWork->hide();
     ui_->lblPicture->setPixmap(
         platform::qt::LoadIcon(QStringLiteral("vestrel")).pixmap(ui_->lblPicture->minimumSize()));
@@ -49,6 +51,7 @@ frmDbMender::frmDbMender(MenderLine line, StartProgram start, QWidget* parent)
         });
     }
     connect(ui_->txtFolder, &QLineEdit::textChanged, this, &frmDbMender::ShowObjection);
+    connect(ui_->txtRent, &QLineEdit::textChanged, this, &frmDbMender::ShowObjection);
     connect(ui_->cmdBrowse, &QPushButton::clicked, this, &frmDbMender::Browse);
     connect(ui_->cmdMend, &QPushButton::clicked, this, &frmDbMender::Mend);
     connect(ui_->cmdRestore, &QPushButton::clicked, this, &frmDbMender::Restore);
@@ -67,6 +70,31 @@ void frmDbMender::Setup() {
         platform::TheDialogs().ShowMessage(kTitle,
                                            "Close all other Vestrel programs before you go on.",
                                            platform::Icon::Information);
+    }
+}
+
+void frmDbMender::SetupFor(Beginning beginning, std::function<void()> back) {
+    back_ = std::move(back);
+    line_.warns = false; // no other program has been used yet
+    Setup();
+    ui_->lblFinding->setText(
+        tr("Your books are in one folder of this computer. The one below is fine, unless you "
+           "prefer another."));
+    switch (beginning) {
+        case Beginning::Create:
+            ui_->optMakeEmpty->setChecked(true);
+            ui_->txtCompany->setFocus();
+            break;
+        case Beginning::OpenExisting:
+            ui_->optUseExisting->setChecked(true);
+            Browse();
+            break;
+        case Beginning::Sample:
+            ui_->optMakeSample->setChecked(true);
+            break;
+        case Beginning::Restore:
+            Restore();
+            break;
     }
 }
 
@@ -91,11 +119,16 @@ void frmDbMender::RemedyChosen() {
     }
     ui_->txtFolder->setEnabled(remedy != Remedy::WriteVersion);
     ui_->cmdBrowse->setEnabled(remedy != Remedy::WriteVersion);
+    ui_->grpFirst->setVisible(remedy == Remedy::MakeEmpty);
     ShowObjection();
 }
 
 void frmDbMender::ShowObjection() {
-    const std::string objection = Objection(Chosen());
+    std::string objection = Objection(Chosen());
+    const bool isMaking = ui_->optMakeEmpty->isChecked();
+    if (objection.empty() && isMaking && !ui_->txtRent->Amount()) {
+        objection = "The rent is not an amount of money.";
+    }
     ui_->lblObjection->setText(ToScreen(objection));
     ui_->cmdMend->setEnabled(objection.empty());
     MakeRoom();
@@ -175,6 +208,7 @@ void frmDbMender::SetWorking(bool working) {
     working_ = working;
     cancelled_ = false;
     ui_->grpRemedies->setEnabled(!working);
+    ui_->grpFirst->setEnabled(!working);
     ui_->cmdMend->setEnabled(!working);
     ui_->prgWork->setRange(0, 0);
     ui_->prgWork->setVisible(working);
@@ -188,6 +222,10 @@ Choice frmDbMender::Chosen() const {
         if (ButtonOf(remedy).isChecked()) choice.remedy = remedy;
     }
     choice.folder = FromScreen(ui_->txtFolder->text().trimmed());
+    choice.first = {.company = FromScreen(ui_->txtCompany->text()),
+                    .address = FromScreen(ui_->txtAddress->text()),
+                    .unit = FromScreen(ui_->txtUnit->text()),
+                    .rent = ui_->txtRent->Amount().value_or(platform::Currency())};
     return choice;
 }
 
@@ -210,6 +248,7 @@ void frmDbMender::reject() {
         cancelled_ = true;
         return;
     }
+    if (back_) back_();
     QDialog::reject();
 }
 

@@ -10,6 +10,7 @@
 #include "dbmender/Diagnosis.h"
 #include "dbmender/MenderLine.h"
 #include "dbmender/Remedies.h"
+#include "dbmender/frmWelcome.h"
 
 class QRadioButton;
 
@@ -33,6 +34,9 @@ class frmDbMender : public QDialog {
     ~frmDbMender() override;
 
     void Setup();
+    /// Opens on what the user chose on the welcome page. Cancel calls `back`, which shows that page
+    /// again.
+    void SetupFor(Beginning beginning, std::function<void()> back);
 
     /// Escape and Cancel: the first one only stops making a sample.
     void reject() override;
@@ -60,6 +64,7 @@ class frmDbMender : public QDialog {
     std::unique_ptr<Ui::frmDbMender> ui_;
     MenderLine line_;
     StartProgram start_;
+    std::function<void()> back_;
     Diagnosis diagnosis_;
     QString proposed_; ///< the folder that was put into the box last
     bool working_ = false;

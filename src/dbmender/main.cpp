@@ -5,8 +5,10 @@
 
 #include "core/Globals.h"
 #include "core/Preferences.h"
+#include "dbmender/Diagnosis.h"
 #include "dbmender/MenderLine.h"
 #include "dbmender/frmDbMender.h"
+#include "dbmender/frmWelcome.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/QtDialogs.h"
@@ -31,9 +33,19 @@ int main(int argc, char** argv) {
         shell::RegisterLogic();
 
         const std::span words(argv, static_cast<std::size_t>(argc));
-        dbmender::frmDbMender window(dbmender::ReadMenderLine(words.subspan(1)),
-                                     platform::StartDetached);
-        window.Setup();
+        const dbmender::MenderLine line = dbmender::ReadMenderLine(words.subspan(1));
+        dbmender::frmDbMender window(line, platform::StartDetached);
+        dbmender::frmWelcome welcome;
+        QObject::connect(&welcome, &dbmender::frmWelcome::Chosen, &window,
+                         [&](dbmender::Beginning beginning) {
+                             window.SetupFor(beginning, [&welcome] { welcome.show(); });
+                             welcome.hide();
+                         });
+        if (line.welcomes && dbmender::HasNoBooks(line.dbName)) {
+            welcome.show();
+        } else {
+            window.Setup();
+        }
         return QApplication::exec();
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "dbmender: %s\n", failure.what());

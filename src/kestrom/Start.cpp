@@ -11,6 +11,7 @@
 #include "core/ShippedFiles.h"
 #include "documents/ShippedDocs.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/registry/Registry.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 #include "platform/system/Process.h"
@@ -46,13 +47,18 @@ void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEn
         return;
     }
     if (core::FindDatabase(nullptr) == core::DatabaseState::Ready) return;
-    core::StartDatabaseMender({
-        .start =
-            [&](const std::filesystem::path& program, const std::vector<std::string>& arguments) {
-                return isEnding() || platform::StartDetached(program, arguments);
-            },
-        .endProcess = [] { throw ProcessEnd{0}; },
-    });
+    const bool hadBooks = !core::App().DbPath.empty() || platform::TheRegistry().IsDamaged();
+    const bool welcomes = line.welcomes && !hadBooks;
+    core::StartDatabaseMender(
+        {
+            .start =
+                [&](const std::filesystem::path& program,
+                    const std::vector<std::string>& arguments) {
+                    return isEnding() || platform::StartDetached(program, arguments);
+                },
+            .endProcess = [] { throw ProcessEnd{0}; },
+        },
+        welcomes ? core::MenderGreeting::Welcome : core::MenderGreeting::Notice);
 }
 
 void InstallFiles() {

@@ -14,6 +14,7 @@ constexpr std::array kOptions = {
     platform::HelpEntry{"--today MM/DD/YYYY", "Take this day for today"},
     platform::HelpEntry{"--read-only", "Change nothing: look at the books only"},
     platform::HelpEntry{"/altdb=NAME", "Open the books registered under this name"},
+    platform::HelpEntry{"/welcome", "Welcome a user who has no books yet"},
     platform::HelpEntry{"/expert", "Show the expert commands"},
 };
 
@@ -58,6 +59,10 @@ CommandLine ReadCommandLine(std::span<const char* const> words) {
         const std::string_view word = words[i];
         if (word == "--read-only") {
             line.readOnly = true;
+            continue;
+        }
+        if (word == "/welcome") {
+            line.welcomes = true;
             continue;
         }
         if (word != "--data" && word != "--today") {

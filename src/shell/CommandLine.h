@@ -17,6 +17,8 @@ struct CommandLine {
     std::optional<platform::Date> today;
     /// Whether to open the books read-only.
     bool readOnly = false;
+    /// Whether to welcome a user who never had books, instead of saying that they are missing.
+    bool welcomes = false;
     /// Everything else, unchanged, including the "/name=value" switches.
     std::string rest;
     /// The error in the command line; empty if it is valid.
@@ -24,7 +26,7 @@ struct CommandLine {
 };
 
 /// Reads the arguments after the program's name: "--data DIR", "--today mm/dd/yyyy",
-/// "--read-only", and the rest.
+/// "--read-only", "/welcome", and the rest.
 CommandLine ReadCommandLine(std::span<const char* const> words);
 
 /// Describes the window program and its command line.

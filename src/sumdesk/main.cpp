@@ -1,9 +1,8 @@
 #include <QApplication>
-#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <exception>
 #include <span>
-#include <string_view>
 
 #include "core/Globals.h"
 #include "core/Preferences.h"
@@ -11,31 +10,30 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/system/Version.h"
+#include "platform/system/ProgramHelp.h"
 #include "sumdesk/frmSumDesk.h"
 
 namespace {
 
-constexpr const char* kHelp =
-    "A calculator with a tape: sums, loans, and the days between dates.\n"
-    "Usage: SumDesk [OPTIONS]\n"
-    "\n"
-    "Options:\n"
-    "  -h,--help                   Print this help and exit\n"
-    "  --version                   Print the version and exit\n";
+constexpr std::array kOptions = {
+    platform::HelpEntry{"-h,--help", "Print this help and exit"},
+    platform::HelpEntry{"--version", "Print the version and exit"},
+};
 
-bool PrintHelpIfAsked(std::span<char* const> words) {
-    const auto asks = [](std::string_view word) { return word == "--help" || word == "-h"; };
-    if (!std::ranges::any_of(words, asks)) return false;
-    std::fputs(kHelp, stdout);
-    return true;
-}
+constexpr std::array kSections = {platform::HelpSection{"Options", kOptions}};
+
+constexpr platform::ProgramHelp kHelp = {
+    .name = "SumDesk",
+    .summary = "Works out sums on a tape, loans, and the days between dates.",
+    .usage = "[OPTIONS]",
+    .sections = kSections,
+};
 
 } // namespace
 
 int main(int argc, char** argv) {
     const std::span all(argv, static_cast<std::size_t>(argc));
-    if (platform::PrintVersionIfAsked("SumDesk", all) || PrintHelpIfAsked(all)) return 0;
+    if (platform::AnswerIfAsked(kHelp, all)) return 0;
     try {
         const QApplication application(argc, argv);
         QApplication::setApplicationName(QStringLiteral("SumDesk"));

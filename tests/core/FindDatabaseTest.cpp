@@ -142,4 +142,25 @@ TEST_F(DatabaseMender, IsStartedWithTheWayBackAndTheProcessEnds) {
     }
 }
 
+TEST_F(DatabaseMender, WelcomesAUserWhoNeverHadBooksWithoutTheNotice) {
+    core::SetAppPath(PathTo(""));
+    MakeFile("dbmender.exe");
+    core::App().DbName = core::kDefaultDatabase;
+    const support::ScriptedDialogs person;
+    std::vector<std::string> started;
+    core::StartDatabaseMender(
+        {
+            .start =
+                [&](const std::filesystem::path&, const std::vector<std::string>& arguments) {
+                    started = arguments;
+                    return true;
+                },
+            .endProcess = [] {},
+        },
+        core::MenderGreeting::Welcome);
+    EXPECT_TRUE(person.Heard().empty());
+    ASSERT_FALSE(started.empty());
+    EXPECT_EQ(started.back(), "/welcome");
+}
+
 } // namespace

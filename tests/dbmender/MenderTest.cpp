@@ -5,8 +5,10 @@
 
 #include "core/CoreFixture.h"
 #include "core/RegistryKeys.h"
+#include "core/Rows.h"
 #include "core/Settings.h"
 #include "dbmender/Diagnosis.h"
+#include "dbmender/FirstBooks.h"
 #include "dbmender/MenderLine.h"
 #include "dbmender/Remedies.h"
 #include "platform/database/Connection.h"
@@ -27,15 +29,17 @@ TEST(MenderLine, ReadsEachSwitchAsAWholeWord) {
     const auto read = [](std::vector<const char*> words) {
         return dbmender::ReadMenderLine(words);
     };
-    const auto line = read(
-        {"/NoWarning", "/appstart=/opt/My Vestrel/Kestrom=2", "/altdb= Second ", "/nodb", "x"});
+    const auto line = read({"/NoWarning", "/Welcome", "/appstart=/opt/My Vestrel/Kestrom=2",
+                            "/altdb= Second ", "/nodb", "x"});
     EXPECT_FALSE(line.warns);
+    EXPECT_TRUE(line.welcomes);
     EXPECT_EQ(line.appStart, "/opt/My Vestrel/Kestrom=2");
     EXPECT_EQ(line.dbName, "second");
     for (const auto& words :
          {std::vector<const char*>{}, {"/altdb=", "/appstart"}, {"nowarning"}}) {
         const auto plain = read(words);
         EXPECT_TRUE(plain.warns);
+        EXPECT_FALSE(plain.welcomes);
         EXPECT_EQ(plain.appStart, "");
         EXPECT_EQ(plain.dbName, "Default");
     }
@@ -213,6 +217,37 @@ TEST_F(Mender, LeavesNothingOfASampleThatWasBrokenOff) {
     EXPECT_EQ(dbmender::Objection({Remedy::MakeSample, Books()}), "") << "it can be begun again";
     EXPECT_EQ(Registered(), "-");
     EXPECT_FALSE(core::App().Connection.IsOpen());
+}
+
+class FirstBooks : public Mender {
+  protected:
+    std::string Made(const char* sql) const {
+        platform::Connection books;
+        books.Open(Books() / store::kDatabaseFile, platform::OpenMode::ReadOnly);
+        const platform::Value first = core::ReadValue(sql, {}, books);
+        return first.IsNull() ? "-" : first.AsText();
+    }
+};
+
+TEST_F(FirstBooks, HoldWhatWasEnteredOnceOrNothing) {
+    const auto rent = platform::Currency::FromScaled(9'505'000);
+    dbmender::MakeFirstBooks(Books(), {" Elm & O'Hara ", "12 Elm St", " B ", rent});
+    EXPECT_FALSE(core::App().Connection.IsOpen());
+    EXPECT_EQ(dbmender::Examine(Books()).condition, Condition::Ready);
+    EXPECT_EQ(Made("SELECT CompanyName FROM Configuration"), "Elm & O'Hara");
+    EXPECT_EQ(Made("SELECT Address FROM Building"), "12 Elm St");
+    EXPECT_EQ(Made("SELECT Unit FROM Unit, Building WHERE Unit.IdBuilding = Building.IdBuilding "
+                   "AND Unit.Status = 'Avaliable'"),
+              "B");
+    EXPECT_EQ(Made("SELECT Rent FROM Unit"), "950.5");
+    EXPECT_THROW(dbmender::MakeFirstBooks(Books(), {"Other", "", "", {}}), platform::Error);
+    EXPECT_EQ(Made("SELECT CompanyName FROM Configuration"), "Elm & O'Hara") << "never overwritten";
+}
+
+TEST_F(FirstBooks, HaveNoUnitWithoutABuilding) {
+    dbmender::MakeFirstBooks(Books(), {"", " ", "B", {}});
+    EXPECT_EQ(Made("SELECT Count(*) FROM Configuration"), "1");
+    EXPECT_EQ(Made("SELECT Count(*) FROM Unit"), "0");
 }
 
 } // namespace

@@ -103,6 +103,9 @@ TEST(CommandLine, PartsTheOptionsFromTheSwitches) {
     EXPECT_EQ(line.rest, "/expert /altdb=second house");
     EXPECT_FALSE(line.readOnly);
     EXPECT_TRUE(read({"--data", "/restored", "--read-only"}).readOnly);
+    EXPECT_FALSE(line.welcomes);
+    EXPECT_TRUE(read({"/welcome", "--data", "/books"}).welcomes);
+    EXPECT_EQ(read({"/welcome", "/expert"}).rest, "/expert");
     EXPECT_EQ(read({}).rest, "");
     EXPECT_EQ(read({"--data"}).fault, "--data needs a value");
     EXPECT_EQ(read({"--today", "02/30/2024"}).fault,

@@ -45,7 +45,7 @@ class MenderScreen : public support::ScreenTest {
             return true;
         };
         window_ = std::make_unique<dbmender::frmDbMender>(
-            dbmender::MenderLine{warns, PathTo("kestrom"), dbName}, start);
+            dbmender::MenderLine{warns, false, PathTo("kestrom"), dbName}, start);
         window_->Setup();
         return *window_;
     }
@@ -178,6 +178,62 @@ TEST_F(MenderScreen, LooksAndReadsRight) {
     EXPECT_THAT(support::TabOrderFaults(*window_), IsEmpty());
     EXPECT_THAT(support::NameFaults(*window_), IsEmpty());
     EXPECT_THAT(support::Portray(*window_, "frmDbMender"), IsEmpty());
+}
+
+TEST_F(MenderScreen, CreatesTheFirstBooksOfANewUserByKeyboard) {
+    Open();
+    int backs = 0;
+    window_->SetupFor(dbmender::Beginning::Create, [&] { ++backs; });
+    QApplication::setActiveWindow(window_.get());
+    EXPECT_EQ(window_->focusWidget(), &Find<QLineEdit>(*window_, "txtCompany"));
+    support::TypeAndTab(*window_, "Elm & Sons");
+    support::TypeAndTab(*window_, "12 Elm St");
+    support::TypeAndTab(*window_, "B");
+    support::TypeOn(*window_->focusWidget(), "99999999999999999999");
+    EXPECT_EQ(Objection(), "The rent is not an amount of money.");
+    EXPECT_FALSE(Mend().isEnabled());
+    support::Type(Find<QLineEdit>(*window_, "txtRent"), "950.50");
+    EXPECT_THAT(support::Portray(*window_, "frmDbMender-first"), IsEmpty());
+    EXPECT_THAT(support::MnemonicFaults(*window_), IsEmpty());
+    EXPECT_THAT(support::NameFaults(*window_), IsEmpty());
+    EXPECT_THAT(support::TabOrderFaults(*window_), IsEmpty());
+    Pick("optMakeSample");
+    EXPECT_FALSE(Find<QLineEdit>(*window_, "txtCompany").isVisible());
+    QTest::keyClick(window_.get(), Qt::Key_Escape);
+    EXPECT_EQ(backs, 1) << "back to the welcome page";
+    EXPECT_EQ(Registered("Default"), "-");
+
+    window_->SetupFor(dbmender::Beginning::Create, {});
+    EXPECT_EQ(FromScreen(Find<QLineEdit>(*window_, "txtAddress").text()), "12 Elm St");
+    QTest::keyClick(window_.get(), Qt::Key_Return);
+    EXPECT_THAT(started_, ElementsAre("kestrom"));
+    ASSERT_EQ(Registered("Default"), PathTo("db") + "/");
+    core::App().Connection.Open(PathTo("db/Vestrel.mdb"));
+    EXPECT_EQ(Ask("SELECT CompanyName FROM Configuration"), "Elm & Sons");
+    EXPECT_EQ(Ask("SELECT Rent FROM Unit WHERE Unit = 'B'"), "950.5");
+}
+
+TEST_F(MenderScreen, WelcomesWithFourWaysToBegin) {
+    EXPECT_TRUE(dbmender::HasNoBooks("Default"));
+    dbmender::frmWelcome welcome;
+    std::vector<dbmender::Beginning> chosen;
+    QObject::connect(&welcome, &dbmender::frmWelcome::Chosen, &welcome,
+                     [&](dbmender::Beginning beginning) { chosen.push_back(beginning); });
+    welcome.show();
+    support::SettleEvents();
+    for (const char* const way : {"cmdCreate", "cmdOpen", "cmdSample", "cmdRestore"})
+        ClickOn(Find<QPushButton>(welcome, way));
+    using dbmender::Beginning;
+    EXPECT_THAT(chosen, ElementsAre(Beginning::Create, Beginning::OpenExisting, Beginning::Sample,
+                                    Beginning::Restore));
+    EXPECT_THAT(support::Portray(welcome, "frmWelcome"), IsEmpty());
+    EXPECT_THAT(support::MnemonicFaults(welcome), IsEmpty());
+    EXPECT_THAT(support::NameFaults(welcome), IsEmpty());
+    EXPECT_THAT(support::TabOrderFaults(welcome), IsEmpty());
+    QTest::keyClick(&welcome, Qt::Key_Escape);
+    EXPECT_FALSE(welcome.isVisible());
+    core::SetRegString(core::kDatabasesKey, "Default", PathTo("gone"));
+    EXPECT_FALSE(dbmender::HasNoBooks("Default")) << "there were books once";
 }
 
 } // namespace

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "platform/values/Currency.h"
+
+namespace dbmender {
+
+/// The first entries of new books. Each may be blank.
+struct FirstEntries {
+    std::string company;
+    std::string address; ///< of the first building
+    std::string unit;    ///< its first unit; a building without an address has none
+    platform::Currency rent;
+};
+
+/// Creates a database in `folder` with these entries. Throws Error on failure; then there is no
+/// database, whatever had been made.
+void MakeFirstBooks(const std::filesystem::path& folder, const FirstEntries& entries);
+
+} // namespace dbmender
