@@ -8,6 +8,7 @@
 #include "core/AppPath.h"
 #include "core/FindDatabase.h"
 #include "core/Globals.h"
+#include "core/RegistryKeys.h"
 #include "core/ShippedFiles.h"
 #include "documents/ShippedDocs.h"
 #include "platform/dialogs/Dialogs.h"
@@ -47,7 +48,10 @@ void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEn
         return;
     }
     if (core::FindDatabase(nullptr) == core::DatabaseState::Ready) return;
-    const bool hadBooks = !core::App().DbPath.empty() || platform::TheRegistry().IsDamaged();
+    // A user who names a database has had one.
+    const core::Globals& app = core::App();
+    const bool hadBooks = !app.DbPath.empty() || app.DbName != core::kDefaultDatabase ||
+                          platform::TheRegistry().IsDamaged();
     const bool welcomes = line.welcomes && !hadBooks;
     core::StartDatabaseMender(
         {
