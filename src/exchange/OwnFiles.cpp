@@ -27,7 +27,8 @@ bool IsSame(const fs::path& one, const fs::path& other) {
 void RefuseOwnFile(const fs::path& file) {
     const fs::path database = core::App().DbFile;
     const fs::path folder = database.parent_path();
-    const std::array<fs::path, 7> own = {database,
+    const std::array<fs::path, 8> own = {database,
+                                         fs::path(database).replace_extension(".search"),
                                          database.string() + "-wal",
                                          database.string() + "-shm",
                                          database.string() + "-journal",

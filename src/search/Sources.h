@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace search {
+
+/// One kind of records that can be found, and the select that reads them, newest first. Its columns
+/// are the record's number, and then, by the first letters of their names: Kind, Parent1 and
+/// Parent3, what opens the record, if it isn't opened by its kind and number alone; T, the title;
+/// D, what is shown beside it; W, what is only searched.
+struct Source {
+    std::string_view name; ///< the heading of its results
+    std::string_view icon;
+    std::int16_t kind = 0;
+    std::string_view glue; ///< between the first part of the title and the second
+    std::string_view sql;
+};
+
+/// Returns the sources in the order of their results. What is secret (bank and card numbers,
+/// passwords, social security numbers) isn't read, and so isn't in the index.
+std::span<const Source> Sources();
+
+} // namespace search
