@@ -22,6 +22,7 @@ void AddRegister(CLI::App& line);
 void AddUpdate(CLI::App& line, const Options& options);
 void AddPreview(CLI::App& line, const Options& options);
 void AddAlerts(CLI::App& line, const Options& options);
+void AddFind(CLI::App& line, const Options& options);
 void AddSql(CLI::App& line, const Options& options);
 void AddAmortize(CLI::App& line, const Options& options);
 void AddDepreciation(CLI::App& line, const Options& options);

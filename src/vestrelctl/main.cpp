@@ -112,6 +112,7 @@ int Run(int argc, char** argv) {
     vestrelctl::AddUpdate(line, options);
     vestrelctl::AddPreview(line, options);
     vestrelctl::AddAlerts(line, options);
+    vestrelctl::AddFind(line, options);
     vestrelctl::AddSql(line, options);
     vestrelctl::AddAmortize(line, options);
     vestrelctl::AddDepreciation(line, options);

@@ -39,6 +39,32 @@ TEST_F(Vestrelctl, PrintsDoublesByTheFewestDigitsThatNameThem) {
               "1E+21,0.0000001,3,0.3333333333333333,123456789.125\n");
 }
 
+TEST_F(Vestrelctl, FindsRecordsByTheirWords) {
+    ASSERT_EQ(Run("init " + Books()).status, 0);
+    ASSERT_EQ(
+        Run(OnBooks() + "sql -",
+            "INSERT INTO Tenant (IdTenant, LastName, FirstName) VALUES (5, 'O''Brien', 'Al');\n"
+            "INSERT INTO Transactions (IdTransaction, DebitDesc, CreditDesc, Amount, "
+            "DateEffective) VALUES (9, 'O''Brien, Al', 'Bank', 1050, '05/01/2024');\n")
+            .status,
+        0);
+    const std::string head = "\"Group\",\"RecordKind\",\"RecordId\",\"Title\",\"Detail\"\n";
+    const std::string tenant = "\"Tenants\",5,5,\"O'Brien, Al\",\"\"\n";
+    const std::string paid =
+        "\"Transactions\",10,9,\"O'Brien, Al to Bank\",\"05/01/2024, 1,050.00\"\n";
+    const auto index = folder_ / "books" / "Vestrel.search";
+    EXPECT_EQ(Run("--read-only " + OnBooks() + "find al").output, head + tenant + paid);
+    EXPECT_FALSE(std::filesystem::exists(index));
+    EXPECT_EQ(Run(OnBooks() + "find \"o'brien\" 1050").output, head + paid);
+    EXPECT_TRUE(std::filesystem::exists(index));
+    ASSERT_EQ(Run(OnBooks() + "sql \"DELETE FROM Tenant\"").status, 0);
+    const Outcome outcome = Run(OnBooks() + "find al");
+    EXPECT_EQ(outcome.output, head + paid);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(Run(OnBooks() + "find '\"*('").output, head);
+    EXPECT_EQ(Run(OnBooks() + "find").status, 2);
+}
+
 TEST_F(Vestrelctl, TakesStatementsAsEditorsWriteThem) {
     ASSERT_EQ(Run("init " + Books()).status, 0);
     const std::string one = "\"N\"\n1\n";
