@@ -2,20 +2,23 @@
 
 #include <QEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QToolTip>
 #include <QtCharts/QAreaSeries>
 #include <QtCharts/QBarCategoryAxis>
 #include <QtCharts/QBarSeries>
 #include <QtCharts/QBarSet>
 #include <QtCharts/QChart>
+#include <QtCharts/QHorizontalBarSeries>
 #include <QtCharts/QLegend>
 #include <QtCharts/QLegendMarker>
 #include <QtCharts/QLineSeries>
 #include <QtCharts/QValueAxis>
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "platform/qt/Text.h"
 #include "platform/values/Format.h"
@@ -81,6 +84,8 @@ void SeriesChart::Show(const QStringList& labels, std::vector<ChartSeries> serie
     if (labels.isEmpty()) return;
     labels_ = labels;
     series_ = std::move(series);
+    shape_ = shape;
+    MoveTo(current_);
     chart()->removeAllSeries();
     for (QAbstractAxis* const axis : chart()->axes()) {
         chart()->removeAxis(axis);
@@ -95,7 +100,7 @@ void SeriesChart::Show(const QStringList& labels, std::vector<ChartSeries> serie
 
 void SeriesChart::AddShapes(ChartShape shape, ChartDepth depth) {
     std::size_t firstLine = 0;
-    if (shape == ChartShape::Bars) {
+    if (shape == ChartShape::Bars || shape == ChartShape::Rows) {
         AddBars(0, series_.size(), depth);
         return;
     }
@@ -108,17 +113,22 @@ void SeriesChart::AddShapes(ChartShape shape, ChartDepth depth) {
 }
 
 void SeriesChart::AddBars(std::size_t first, std::size_t last, ChartDepth depth) {
-    auto* const bars = new QBarSeries;
+    QAbstractBarSeries* const bars =
+        shape_ == ChartShape::Rows ? static_cast<QAbstractBarSeries*>(new QHorizontalBarSeries)
+                                   : new QBarSeries;
     for (std::size_t index = first; index < last && index < series_.size(); ++index) {
         auto* const set = new QBarSet(series_[index].name);
         set->setColor(ColorOf(index));
         set->setBorderColor(ColorOf(index));
+        if (marks_ == ChartMarks::Patterns && index > 0)
+            set->setBrush(QBrush(ColorOf(index), Qt::BDiagPattern));
         if (depth == ChartDepth::Raised) {
             set->setBrush(Shaded(ColorOf(index), QPointF(1, 0)));
             set->setBorderColor(ColorOf(index).darker(kShade));
         }
-        for (const double value : series_[index].values)
-            set->append(value);
+        QList<double> values(series_[index].values.begin(), series_[index].values.end());
+        if (shape_ == ChartShape::Rows) std::ranges::reverse(values);
+        set->append(values);
         bars->append(set);
     }
     chart()->addSeries(bars);
@@ -165,8 +175,13 @@ void SeriesChart::AddAxes(const QStringList& labels) {
             lowest = std::min(lowest, value);
         }
     }
-    across->append(labels);
-    across->setLabelsAngle(labels.size() > kMostFlatLabels ? -90 : 0);
+    // Labels are drawn as HTML, and rows from the bottom up.
+    QStringList drawn;
+    for (const QString& label : labels)
+        drawn << label.toHtmlEscaped();
+    if (shape_ == ChartShape::Rows) std::ranges::reverse(drawn);
+    across->append(drawn);
+    across->setLabelsAngle(shape_ != ChartShape::Rows && labels.size() > kMostFlatLabels ? -90 : 0);
     across->setGridLineVisible(false);
     across->setTruncateLabels(false);
     QFont small = font();
@@ -175,10 +190,16 @@ void SeriesChart::AddAxes(const QStringList& labels) {
     auto* const up = new QValueAxis;
     up->setLabelFormat(QStringLiteral("%.0f"));
     up->setRange(lowest, highest);
-    up->applyNiceNumbers();
     up->setLabelsFont(small);
-    chart()->addAxis(across, Qt::AlignBottom);
-    chart()->addAxis(up, Qt::AlignLeft);
+    if (shape_ == ChartShape::Rows) {
+        up->setVisible(false);
+        chart()->addAxis(across, Qt::AlignLeft);
+        chart()->addAxis(up, Qt::AlignBottom);
+    } else {
+        up->applyNiceNumbers();
+        chart()->addAxis(across, Qt::AlignBottom);
+        chart()->addAxis(up, Qt::AlignLeft);
+    }
     for (QAbstractSeries* const series : chart()->series()) {
         series->attachAxis(across);
         series->attachAxis(up);
@@ -199,16 +220,28 @@ void SeriesChart::TakeColors() {
     }
 }
 
+int SeriesChart::LabelAt(QPoint position) const {
+    if (labels_.isEmpty()) return -1;
+    const QPointF inChart = chart()->mapFromScene(mapToScene(position));
+    const QRectF plot = chart()->plotArea();
+    const bool isRows = shape_ == ChartShape::Rows;
+    const double share = isRows ? (inChart.y() - plot.top()) / plot.height()
+                                : (inChart.x() - plot.left()) / plot.width();
+    if (!(share >= 0 && share < 1)) return -1;
+    return static_cast<int>(share * static_cast<double>(labels_.size()));
+}
+
 QString SeriesChart::TextAt(QPoint position) const {
-    if (labels_.isEmpty() || chart()->series().isEmpty()) return {};
     const QPointF inChart = chart()->mapFromScene(mapToScene(position));
     if (!chart()->plotArea().contains(inChart)) return {};
-    // The middle of a category is at the category's number.
-    const double across = chart()->mapToValue(inChart, chart()->series().front()).x();
-    const auto label = std::clamp<qsizetype>(std::lround(across), 0, labels_.size() - 1);
+    return TextOf(LabelAt(position));
+}
+
+QString SeriesChart::TextOf(int label) const {
+    if (label < 0 || label >= labels_.size()) return {};
     QString text = labels_[label];
     for (const ChartSeries& series : series_) {
-        if (label >= static_cast<qsizetype>(series.values.size())) continue;
+        if (label >= static_cast<int>(series.values.size())) continue;
         const double value = series.values[static_cast<std::size_t>(label)];
         text +=
             QStringLiteral("\n%1: %2")
@@ -222,6 +255,74 @@ bool SeriesChart::viewportEvent(QEvent* event) {
     const auto* const help = static_cast<QHelpEvent*>(event);
     QToolTip::showText(help->globalPos(), TextAt(help->pos()), viewport());
     return true;
+}
+
+void SeriesChart::LetLabelsOpen() {
+    opens_ = true;
+    setFocusPolicy(Qt::StrongFocus);
+    viewport()->setCursor(Qt::PointingHandCursor);
+}
+
+void SeriesChart::MoveTo(int label) {
+    current_ = std::clamp(label, 0, std::max(0, static_cast<int>(labels_.size()) - 1));
+    if (!opens_) return;
+    setAccessibleDescription(TextOf(current_));
+    viewport()->update();
+}
+
+void SeriesChart::mouseReleaseEvent(QMouseEvent* event) {
+    QChartView::mouseReleaseEvent(event);
+    const int label = LabelAt(event->pos());
+    if (!opens_ || event->button() != Qt::LeftButton || label < 0) return;
+    MoveTo(label);
+    Q_EMIT LabelOpened(label);
+}
+
+void SeriesChart::keyPressEvent(QKeyEvent* event) {
+    if (!opens_ || labels_.isEmpty()) return QChartView::keyPressEvent(event);
+    switch (event->key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Up:
+            return MoveTo(current_ - 1);
+        case Qt::Key_Right:
+        case Qt::Key_Down:
+            return MoveTo(current_ + 1);
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            Q_EMIT LabelOpened(current_);
+            return;
+        default:
+            QChartView::keyPressEvent(event);
+    }
+}
+
+void SeriesChart::focusInEvent(QFocusEvent* event) {
+    QChartView::focusInEvent(event);
+    viewport()->update();
+}
+
+void SeriesChart::focusOutEvent(QFocusEvent* event) {
+    QChartView::focusOutEvent(event);
+    viewport()->update();
+}
+
+void SeriesChart::drawForeground(QPainter* painter, const QRectF& rectangle) {
+    QChartView::drawForeground(painter, rectangle);
+    if (!opens_ || !hasFocus() || labels_.isEmpty()) return;
+    QRectF band = chart()->mapRectToScene(chart()->plotArea());
+    const auto count = static_cast<double>(labels_.size());
+    if (shape_ == ChartShape::Rows) {
+        band.setTop(band.top() + band.height() * current_ / count);
+        band.setHeight(chart()->plotArea().height() / count);
+        band.setLeft(chart()->sceneBoundingRect().left() + 2);
+    } else {
+        band.setLeft(band.left() + band.width() * current_ / count);
+        band.setWidth(chart()->plotArea().width() / count);
+    }
+    painter->setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DashLine));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(band);
 }
 
 void SeriesChart::changeEvent(QEvent* event) {
