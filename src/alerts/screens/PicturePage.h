@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "alerts/PortfolioPicture.h"
+
+class QLabel;
+
+namespace alerts::screens {
+
+class FigurePanel;
+
+/// The home page as a picture: how full the house is, the rent of this month, a year of income and
+/// expenses, and who owes most. Every figure opens what shows it in detail; all of it can be copied
+/// and printed.
+class PicturePage : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit PicturePage(QWidget* parent = nullptr);
+
+    /// Reads the figures again.
+    void Refresh();
+    /// Puts the picture on the clipboard.
+    void Copy();
+    /// Prints it on one page, on the printer that the user chooses.
+    void Print();
+
+  private:
+    void Lay();
+    void Connect();
+    void ShowOccupancy();
+    void ShowRent();
+    void ShowFlow();
+    void ShowDebts();
+    void OpenReport(std::string_view description, platform::Date month) const;
+
+    QWidget* board_;
+    QLabel* asOf_;
+    FigurePanel* occupancy_;
+    FigurePanel* rent_;
+    FigurePanel* flow_;
+    FigurePanel* debts_;
+    PortfolioPicture figures_;
+    bool isPrinting_ = false;
+};
+
+} // namespace alerts::screens
