@@ -37,7 +37,8 @@ Currency AmountOf(std::int32_t idBuilding, Date day, int from, int spread) {
 }
 
 void Post(const Party& bank, const std::vector<Party>& payees, std::int32_t idBuilding, Date day,
-          Currency amount, const char* category, const char* description) {
+          Currency amount, const char* category, const char* description,
+          const std::string& checkNumber = {}) {
     if (payees.empty()) return;
     books::Transaction bill;
     bill.dateEffective = day;
@@ -47,8 +48,17 @@ void Post(const Party& bank, const std::vector<Party>& payees, std::int32_t idBu
     bill.taxCategory = category;
     bill.ien = books::Ien::Expense;
     bill.description = description;
+    bill.checkNumber = checkNumber;
     bill.idBuilding = idBuilding;
     books::PostTransaction(bill);
+}
+
+/// Repairs are paid by checks, numbered in order.
+std::string NextCheck() {
+    constexpr std::int32_t kFirstCheck = 1001;
+    const platform::Value written = core::ReadValue(
+        "SELECT Count(*) FROM Transactions WHERE CheckNum <> '' AND CheckNum <> 'AutoEvent'");
+    return std::to_string(kFirstCheck + written.AsLong());
 }
 
 } // namespace
@@ -72,7 +82,7 @@ void SampleExpenses::Pay(Date day) const {
             (idBuilding + static_cast<int>(day.Month())) % kMonthsBetweenRepairs == 0;
         if (repairs) {
             Post(bank_, vendors_, idBuilding, day, AmountOf(idBuilding, day, 80, 300), "Repairs",
-                 "Repairs and upkeep");
+                 "Repairs and upkeep", NextCheck());
         }
     }
 }

@@ -82,6 +82,14 @@ void frmReports::Setup() {
     ui_->lvw->setFocus();
 }
 
+void frmReports::Select(int report) {
+    ui_->txtFind->clear();
+    ui_->tabFilter->setCurrentIndex(static_cast<int>(CatalogueTab::All));
+    for (int row = 0; row < ui_->lvw->count(); ++row) {
+        if (ReportOf(ui_->lvw->item(row)) == report) ui_->lvw->setCurrentRow(row);
+    }
+}
+
 void frmReports::ShowTab() {
     const auto tab =
         static_cast<CatalogueTab>(ui_->tabFilter->tabData(ui_->tabFilter->currentIndex()).toInt());

@@ -26,6 +26,8 @@ class frmReports : public core::forms::Form {
 
     /// Shows the catalogue, on the tab of the financial reports.
     void Setup();
+    /// Selects a report by its number in the catalogue.
+    void Select(int report);
 
   protected:
     /// Keeps the answers for the rest of the session.

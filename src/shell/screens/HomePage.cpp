@@ -3,6 +3,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <exception>
@@ -11,8 +13,10 @@
 
 #include "alerts/FirstSteps.h"
 #include "alerts/screens/Alerts.h"
+#include "alerts/screens/PicturePage.h"
 #include "core/EditRecord.h"
 #include "core/Globals.h"
+#include "core/Settings.h"
 #include "core/forms/ErrorRoll.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Icons.h"
@@ -23,6 +27,12 @@
 namespace shell::screens {
 
 namespace {
+
+constexpr int kAlertsTab = 0;
+constexpr int kPictureTab = 1;
+constexpr std::string_view kHomeKey = R"(SOFTWARE\Vestrel\Kestrom\HomePage)";
+constexpr std::string_view kShowPicture = "ShowPicture";
+constexpr std::string_view kPage = "Page";
 
 /// Returns the file for notes that can't be saved beside their database.
 std::filesystem::path RescueFile() {
@@ -39,7 +49,9 @@ HomePage::HomePage(QWidget* parent)
       firstStepCommand_(new QPushButton(firstStep_)),
       posted_(new QToolButton(this)),
       lookAhead_(new QToolButton(this)),
-      alerts_(new alerts::screens::Alerts(this)) {
+      tabs_(new QTabWidget(this)),
+      alerts_(new alerts::screens::Alerts(tabs_)),
+      picture_(new alerts::screens::PicturePage(tabs_)) {
     SetUpNotices();
     alerts_->setObjectName(QStringLiteral("ucAlerts"));
     posted_->setObjectName(QStringLiteral("btnPosted"));
@@ -60,10 +72,41 @@ HomePage::HomePage(QWidget* parent)
     run->addStretch();
     run->addWidget(lookAhead_);
     rows->addLayout(run);
-    rows->addWidget(alerts_, 1);
+    rows->addWidget(tabs_, 1);
+    SetUpTabs();
     connect(posted_, &QToolButton::clicked, this, [this] {
         if (digest_ != nullptr) (new frmPosted)->Setup(*digest_);
     });
+}
+
+void HomePage::SetUpTabs() {
+    tabs_->setObjectName(QStringLiteral("tabHome"));
+    tabs_->setDocumentMode(true);
+    tabs_->addTab(alerts_, tr("What needs attention"));
+    tabs_->addTab(picture_, tr("The portfolio as a picture"));
+    const bool hasPicture = core::GetRegFlag(kHomeKey, kShowPicture, true);
+    tabs_->setTabVisible(kPictureTab, hasPicture);
+    tabs_->tabBar()->setVisible(hasPicture);
+    if (hasPicture) tabs_->setCurrentIndex(core::GetRegNumber(kHomeKey, kPage, 0) == kPictureTab);
+    connect(tabs_, &QTabWidget::currentChanged, this, [this](int page) {
+        if (HasPicture()) core::SetRegNumber(kHomeKey, kPage, page);
+        if (IsPictureCurrent()) core::forms::Guarded([this] { picture_->Refresh(); });
+    });
+}
+
+bool HomePage::IsPictureCurrent() const {
+    return tabs_->currentIndex() == kPictureTab;
+}
+
+bool HomePage::HasPicture() const {
+    return tabs_->isTabVisible(kPictureTab);
+}
+
+void HomePage::SetPicture(bool shown) {
+    core::SetRegFlag(kHomeKey, kShowPicture, shown);
+    tabs_->setTabVisible(kPictureTab, shown);
+    tabs_->tabBar()->setVisible(shown);
+    tabs_->setCurrentIndex(shown ? kPictureTab : kAlertsTab);
 }
 
 void HomePage::SetUpNotices() {
@@ -125,6 +168,8 @@ void HomePage::BindLookAhead(QAction& action) {
 void HomePage::Refresh() {
     ShowBooksNotice();
     ShowFirstStep();
+    // The picture is read only while it is seen.
+    if (IsPictureCurrent()) picture_->Refresh();
     alerts_->Refresh();
 }
 

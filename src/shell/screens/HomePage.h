@@ -7,6 +7,7 @@
 class QAction;
 class QLabel;
 class QPushButton;
+class QTabWidget;
 class QToolButton;
 
 namespace alerts {
@@ -14,12 +15,14 @@ struct FirstStep;
 }
 namespace alerts::screens {
 class Alerts;
-}
+class PicturePage;
+} // namespace alerts::screens
 
 namespace shell::screens {
 
-/// The page shown when the program starts: the alerts, and above them a line each for books with
-/// restrictions, the first steps in empty books, and the rows posted by the daily run.
+/// The page shown when the program starts: the alerts, beside them the portfolio as a picture, and
+/// above both a line each for books with restrictions, the first steps in empty books, and the rows
+/// posted by the daily run.
 class HomePage : public QWidget {
     Q_OBJECT
 
@@ -32,6 +35,9 @@ class HomePage : public QWidget {
     void BindLookAhead(QAction& action);
     /// Reads the alerts again.
     void Refresh();
+    /// The picture can be switched off; that, and the page that was shown last, are remembered.
+    bool HasPicture() const;
+    void SetPicture(bool shown);
     /// Saves the notes; asks whether to continue if they can't be saved.
     bool AskToClose();
     /// Saves the notes, to another file if necessary, so that they aren't lost.
@@ -44,6 +50,8 @@ class HomePage : public QWidget {
     void SetUpNotices();
     void ShowBooksNotice();
     void ShowFirstStep();
+    void SetUpTabs();
+    bool IsPictureCurrent() const;
 
     QLabel* books_;
     QWidget* firstStep_;
@@ -52,7 +60,9 @@ class HomePage : public QWidget {
     const alerts::FirstStep* step_ = nullptr;
     QToolButton* posted_;
     QToolButton* lookAhead_;
+    QTabWidget* tabs_;
     alerts::screens::Alerts* alerts_;
+    alerts::screens::PicturePage* picture_;
     const RunDigest* digest_ = nullptr;
 };
 

@@ -23,6 +23,7 @@
 #include "shell/GridReport.h"
 #include "shell/screens/HomePage.h"
 #include "shell/screens/MenuItems.h"
+#include "shell/screens/SearchEverything.h"
 #include "shell/screens/ViewPanel.h"
 #include "shell/screens/frmKestrom.h"
 #include "store/TransCategories.h"
@@ -148,6 +149,11 @@ void frmKestrom::ConnectOwnCommands() {
         } else {
             view_->Reload(ViewPanel::Cause::Choice);
         }
+    });
+    On(name("mnuSearch"), [this] { search_->Show(); });
+    On(name("mnuPicture"), [this] {
+        home_->SetPicture(ui_->mnuPicture->isChecked());
+        SetSelectedDb(core::kAlert);
     });
     On(name("mnuFind"), [this] { view_->FindText(); });
     On(name("mnuCopyRows"), [this] { view_->CopyRows(); });

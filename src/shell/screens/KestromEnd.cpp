@@ -9,6 +9,7 @@
 #include "core/forms/OpenForms.h"
 #include "core/forms/WindowPlace.h"
 #include "shell/screens/HomePage.h"
+#include "shell/screens/SearchEverything.h"
 #include "shell/screens/ViewPanel.h"
 #include "shell/screens/frmKestrom.h"
 
@@ -61,6 +62,7 @@ void frmKestrom::End() {
     steps.saveHomePage = [this] { home_->SaveNotesOrRescue(); };
     steps.closeSession = [this] {
         view_->Release();
+        search_->Release();
         core::CloseDatabase(core::App().Connection);
     };
     steps.unloadForms = [] { core::forms::CloseAllForms(); };

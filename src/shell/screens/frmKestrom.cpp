@@ -19,6 +19,7 @@
 #include "shell/screens/BooksRun.h"
 #include "shell/screens/HomePage.h"
 #include "shell/screens/MenuItems.h"
+#include "shell/screens/SearchEverything.h"
 #include "shell/screens/ViewPanel.h"
 #include "ui_frmKestrom.h"
 
@@ -41,6 +42,7 @@ frmKestrom::frmKestrom(WindowServices services)
       backup_(new QLabel(this)),
       tmr_(new QTimer(this)),
       homeRefresh_(new QTimer(this)),
+      search_(new SearchEverything(*this)),
       selectedDb_(core::kAlert),
       token_([this](std::int16_t kind, std::int16_t action, std::int32_t id) {
           NotifyUpdate(kind, action, id);
@@ -96,6 +98,7 @@ void frmKestrom::Setup(RunDigest digest) {
 
 void frmKestrom::Initialise() {
     ui_->mnuRestoreTransCategories->setVisible(core::App().Expert);
+    ui_->mnuPicture->setChecked(home_->HasPicture());
     home_->ShowDigest(digest_);
     ShowBackupNotice();
 }

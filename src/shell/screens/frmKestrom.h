@@ -25,6 +25,7 @@ class frmKestrom;
 namespace shell::screens {
 
 class HomePage;
+class SearchEverything;
 class ViewPanel;
 
 /// The functions of the program around it that the main window uses.
@@ -108,6 +109,7 @@ class frmKestrom : public QMainWindow {
     QLabel* backup_;
     QTimer* tmr_;
     QTimer* homeRefresh_;
+    SearchEverything* search_;
     RunDigest digest_;
     core::DayChange dayChange_;
     std::int16_t selectedDb_;

@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QTabWidget>
 #include <functional>
+#include <memory>
 #include <set>
 
 #include "books/screens/frmDepreciation.h"
@@ -25,6 +26,8 @@
 #include "leases/screens/frmReturnPayment.h"
 #include "mortgages/screens/frmMortgagePayment.h"
 #include "platform/qt/Text.h"
+#include "search/Finder.h"
+#include "search/screens/frmSearch.h"
 #include "shell/screens/frmPosted.h"
 #include "support/screens/Driving.h"
 #include "support/screens/ScreenChecks.h"
@@ -80,6 +83,11 @@ class EveryForm : public tests::SampleEditors {
                             }});
         openings.push_back({"frmBackup", [] { (new exchange::screens::frmBackup)->Setup(); }});
         openings.push_back({"frmRestore", [] { (new exchange::screens::frmRestore)->Setup(); }});
+        openings.push_back({"frmSearch", [] {
+                                static std::unique_ptr<search::Finder> finder;
+                                finder = std::make_unique<search::Finder>(core::App().Connection);
+                                (new search::screens::frmSearch(*finder, {}))->Setup();
+                            }});
         openings.push_back({"frmPosted", [] { (new shell::screens::frmPosted)->Setup({}); }});
         return openings;
     }

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QLineEdit>
+#include <QTabWidget>
 #include <QWindow>
 
 #include "core/RecordKinds.h"
@@ -49,6 +50,8 @@ TEST_F(KestromGallery, FitsASmallScreen) {
     shell::screens::frmKestrom window(services_);
     window.Setup(digest_);
     EXPECT_THAT(Portrait(window, "home"), IsEmpty());
+    support::Find<QTabWidget>(window, "tabHome").setCurrentIndex(1);
+    EXPECT_THAT(Portrait(window, "picture"), IsEmpty());
     struct View {
         std::int16_t kind;
         const char* name;
