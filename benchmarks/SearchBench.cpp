@@ -22,7 +22,7 @@ constexpr bench::WindowBooks kBooks{.leases = 2'000, .mortgages = 500, .transact
 constexpr std::size_t kMost = 50; // of a group, as the box asks for
 constexpr int kTimes = 200;
 
-/// What the engine alone does for the same words: the first texts that match.
+/// The reference, by the engine alone: the first texts that match the same words.
 class PlainIndex {
   public:
     explicit PlainIndex(const std::filesystem::path& file) {
