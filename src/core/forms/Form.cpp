@@ -12,6 +12,7 @@
 #include "core/forms/Help.h"
 #include "core/forms/OpenForms.h"
 #include "core/forms/WindowPlace.h"
+#include "platform/qt/PressGuard.h"
 #include "platform/qt/Text.h"
 
 namespace core::forms {
@@ -22,6 +23,7 @@ Form::Form(QWidget* parent, FormSizing sizing)
       token_([this](std::int16_t kind, std::int16_t action, std::int32_t id) {
           NotifyUpdate(kind, action, id);
       }) {
+    platform::qt::GuardPresses();
     setAttribute(Qt::WA_DeleteOnClose);
     auto* const help = new QShortcut(QKeySequence(QKeySequence::HelpContents), this);
     connect(help, &QShortcut::activated, this, [this] { ShowHelp(*this); });

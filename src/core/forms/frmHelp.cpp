@@ -19,6 +19,7 @@
 #include "core/forms/Help.h"
 #include "platform/dialogs/Desktop.h"
 #include "platform/qt/Icons.h"
+#include "platform/qt/PressGuard.h"
 #include "platform/qt/Text.h"
 
 namespace core::forms {
@@ -158,6 +159,7 @@ QWidget* frmHelp::MakeSearch() {
 
 QWidget* frmHelp::MakeToolBar() {
     auto* const bar = new QWidget(this);
+    bar->setProperty(platform::qt::kTakesEveryPress, true);
     auto* const row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
     const auto addButton = [&](const QString& icon, const QString& text, const QKeySequence& key) {
