@@ -12,12 +12,14 @@
 #include "core/Rows.h"
 #include "core/binding/PeriodBox.h"
 #include "core/forms/ErrorRoll.h"
+#include "core/forms/PanelCommand.h"
 #include "platform/system/Clock.h"
 #include "removal/DeleteRecord.h"
 
 namespace books::screens {
 
 using core::forms::Guarded;
+using core::forms::PerformOn;
 
 General_Ledger::General_Ledger(QWidget* parent)
     : RecordList(parent),
@@ -25,11 +27,12 @@ General_Ledger::General_Ledger(QWidget* parent)
     MakeHead();
     connect(cboDays_, &QComboBox::currentIndexChanged, this, &General_Ledger::PeriodChosen);
     connect(optUnit_, &QRadioButton::toggled, this, &General_Ledger::ScopeChosen);
-    connect(this, &RecordList::AddAsked, this, &General_Ledger::Add);
-    connect(this, &RecordList::EditAsked, this,
-            [](std::int32_t id) { core::EditRecord(core::kTransaction, id); });
-    connect(this, &RecordList::DeleteAsked, this, [](std::int32_t id) {
-        Guarded([id] { removal::DeleteRecord(core::kTransaction, id); });
+    connect(this, &RecordList::AddAsked, this, [this] { PerformOn(*this, [this] { Add(); }); });
+    connect(this, &RecordList::EditAsked, this, [this](std::int32_t id) {
+        PerformOn(*this, [id] { core::EditRecord(core::kTransaction, id); });
+    });
+    connect(this, &RecordList::DeleteAsked, this, [this](std::int32_t id) {
+        PerformOn(*this, [id] { removal::DeleteRecord(core::kTransaction, id); });
     });
     List().setAccessibleName(tr("Transactions"));
     List().setProperty("registryKey", QStringLiteral(R"(SOFTWARE\Vestrel\Kestrom\Ledger)"));

@@ -49,6 +49,7 @@ void frmMileage::MakeMenu() {
     const auto add = [&](const QString& text, const char* name, void (frmMileage::*work)()) {
         QAction* const item = menu->addAction(text);
         item->setObjectName(QLatin1String(name));
+        item->setAutoRepeat(false);
         connect(item, &QAction::triggered, this,
                 [this, work] { Guarded([&] { (this->*work)(); }); });
         return item;
@@ -89,6 +90,7 @@ void frmMileage::Connect() {
     const auto key = [this](Qt::Key pressed, void (frmMileage::*work)()) {
         auto* const shortcut = new QShortcut(QKeySequence(pressed), ui_->grd);
         shortcut->setContext(Qt::WidgetShortcut);
+        shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this,
                 [this, work] { Guarded([&] { (this->*work)(); }); });
     };

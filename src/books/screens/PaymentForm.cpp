@@ -47,7 +47,7 @@ QAction* PaymentForm::AddItem(QMenu& menu, const char* name, const QString& text
                               const std::function<void()>& work) {
     QAction* const action = menu.addAction(text);
     action->setObjectName(QLatin1String(name));
-    connect(action, &QAction::triggered, this, [work] { Guarded(work); });
+    connect(action, &QAction::triggered, this, [this, work] { Perform(work); });
     return action;
 }
 

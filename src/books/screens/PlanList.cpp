@@ -8,10 +8,11 @@
 #include <algorithm>
 
 #include "core/forms/ErrorRoll.h"
+#include "core/forms/PanelCommand.h"
 
 namespace books::screens {
 
-using core::forms::Guarded;
+using core::forms::PerformOn;
 
 void PlanList::Connect(QTreeWidget& list, int wide, QPushButton* add, QPushButton& update,
                        QPushButton& remove) {
@@ -34,7 +35,7 @@ void PlanList::Connect(QTreeWidget& list, int wide, QPushButton* add, QPushButto
     });
     const auto on = [this](QPushButton& button, auto work) {
         button.setAutoDefault(false);
-        connect(&button, &QPushButton::clicked, this, [work] { Guarded(work); });
+        connect(&button, &QPushButton::clicked, this, [this, work] { PerformOn(*this, work); });
     };
     if (add != nullptr) on(*add, [this] { StoreRow(Count()); });
     on(update, [this] { StoreRow(Row()); });
@@ -42,7 +43,7 @@ void PlanList::Connect(QTreeWidget& list, int wide, QPushButton* add, QPushButto
     auto* const key = new QShortcut(QKeySequence(Qt::Key_Delete), &list);
     key->setAutoRepeat(false);
     key->setContext(Qt::WidgetShortcut);
-    connect(key, &QShortcut::activated, this, [this] { Guarded([this] { RemoveRow(); }); });
+    connect(key, &QShortcut::activated, remove_, &QPushButton::click);
 }
 
 void PlanList::ShowRows(int select) {

@@ -28,11 +28,11 @@ frmAutoEventList::frmAutoEventList(QWidget* parent)
     ui_->cmdAction->Apply().hide();
     ui_->cmdAction->Cancel().hide();
     connect(ui_->events, &RecordList::AddAsked, this,
-            [] { core::EditRecord(core::kAutoEvent, 0); });
+            [this] { Perform([] { core::EditRecord(core::kAutoEvent, 0); }); });
     connect(ui_->events, &RecordList::EditAsked, this,
-            [](std::int32_t id) { core::EditRecord(core::kAutoEvent, id); });
-    connect(ui_->events, &RecordList::DeleteAsked, this, [](std::int32_t id) {
-        Guarded([id] { removal::DeleteRecord(core::kAutoEvent, id); });
+            [this](std::int32_t id) { Perform([id] { core::EditRecord(core::kAutoEvent, id); }); });
+    connect(ui_->events, &RecordList::DeleteAsked, this, [this](std::int32_t id) {
+        Perform([id] { removal::DeleteRecord(core::kAutoEvent, id); });
     });
     connect(ui_->cmdAction, &ActionBar::CloseClicked, this, &QWidget::close);
     connect(ui_->cmdAction, &ActionBar::HelpClicked, this,

@@ -30,9 +30,10 @@ frmTransCategory::frmTransCategory(QWidget* parent)
                 [this, list = column.list] { ListChosen(*list); });
         connect(column.list, &QListWidget::itemClicked, this,
                 [this, list = column.list] { ListChosen(*list); });
-        connect(column.add, &QPushButton::clicked, this, [this, ien = column.ien] { Add(ien); });
+        connect(column.add, &QPushButton::clicked, this,
+                [this, ien = column.ien] { Perform([&] { Add(ien); }); });
     }
-    connect(ui_->cmdRemove, &QPushButton::clicked, this, &frmTransCategory::Remove);
+    connect(ui_->cmdRemove, &QPushButton::clicked, this, [this] { Perform([this] { Remove(); }); });
     ui_->cmdAction->Apply().hide();
     ui_->cmdAction->Cancel().hide();
     // No button is the default: Enter can't know which of the three lists a new name is meant for.
@@ -83,11 +84,9 @@ void frmTransCategory::Add(Ien ien) {
                                            platform::Icon::Exclamation);
         return;
     }
-    Guarded([&] {
-        AddCategory({text, ien});
-        ui_->txtNew->clear();
-        ui_->txtNew->setFocus();
-    });
+    AddCategory({text, ien});
+    ui_->txtNew->clear();
+    ui_->txtNew->setFocus();
 }
 
 void frmTransCategory::Remove() {
@@ -100,7 +99,7 @@ void frmTransCategory::Remove() {
     const std::string text = FromScreen(item->text());
     const bool agreed = platform::TheDialogs().AskYesNo(
         "Whoa", "Are you sure you want to remove item '" + text + "'", platform::Icon::Question);
-    if (agreed) Guarded([&] { RemoveCategory(text); });
+    if (agreed) RemoveCategory(text);
 }
 
 } // namespace books::screens

@@ -25,14 +25,16 @@ void AddOpenForm(Form& form) {
     Forms().emplace_back(&form);
 }
 
+void BringToFront(Form& form) {
+    if (form.isMinimized()) form.showNormal();
+    form.raise();
+    form.activateWindow();
+}
+
 bool BringToFront(std::int32_t id) {
     for (const QPointer<Form>& form : Forms()) {
         if (!form || id == 0 || form->OpenRecordId() != id) continue;
-        if (form->isEnabled()) {
-            if (form->isMinimized()) form->showNormal();
-            form->raise();
-            form->activateWindow();
-        }
+        if (form->isEnabled()) BringToFront(*form);
         return true;
     }
     return false;

@@ -10,6 +10,8 @@ class Form;
 
 void AddOpenForm(Form& form);
 
+/// Gives the focus to an open form.
+void BringToFront(Form& form);
 /// Gives the focus to the enabled form that shows this record; returns whether there is one.
 bool BringToFront(std::int32_t id);
 

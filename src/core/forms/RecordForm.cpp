@@ -34,7 +34,13 @@ void RecordForm::Wire() {
     bar_ = new RecordBar(*this, place_.kind,
                          {[this] { Apply(); }, [this] { SaveAndClose(); },
                           [this] {
-                              if (dirty_ || (id_ == 0 && SavesUntouched())) Apply();
+                              if (dirty_ || (id_ == 0 && SavesUntouched())) {
+                                  Apply();
+                              } else if (id_ == 0) {
+                                  platform::TheDialogs().ShowMessage(
+                                      "Note", "Enter or select a record first.",
+                                      platform::Icon::Information);
+                              }
                               return !dirty_ && id_ != 0;
                           }});
 }

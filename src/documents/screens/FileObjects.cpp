@@ -7,6 +7,7 @@
 
 #include "core/RecordKinds.h"
 #include "core/forms/ErrorRoll.h"
+#include "core/forms/PanelCommand.h"
 #include "documents/AttachFile.h"
 #include "documents/ShowPictures.h"
 #include "documents/screens/FileListModel.h"
@@ -20,6 +21,7 @@
 namespace documents::screens {
 
 using core::forms::Guarded;
+using core::forms::PerformOn;
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
@@ -187,7 +189,7 @@ void FileObjects::AddFile() {
 /// AttachFile asks for a path if it is empty.
 void FileObjects::AttachFiles(const QStringList& paths) {
     bool attached = false;
-    Guarded([&] {
+    PerformOn(*this, [&] {
         for (const QString& each : paths) {
             std::string path = FromScreen(each);
             if (AttachFile(dbType_, id_, path)) attached = true;
@@ -206,7 +208,7 @@ void FileObjects::OpenFile() {
 void FileObjects::DeleteFile() {
     const std::int32_t id = SelectedId();
     if (id == 0 || !ui_->cmdDelete->isEnabled()) return;
-    Guarded([id] { removal::DeleteRecord(core::kFileObject, id); });
+    PerformOn(*this, [id] { removal::DeleteRecord(core::kFileObject, id); });
 }
 
 void FileObjects::dragEnterEvent(QDragEnterEvent* event) {

@@ -13,6 +13,7 @@
 #include "core/RecordKinds.h"
 #include "core/binding/Tags.h"
 #include "core/forms/ErrorRoll.h"
+#include "core/forms/PanelCommand.h"
 #include "leases/DeleteCharges.h"
 #include "leases/screens/ChargeList.h"
 #include "leases/screens/PickMenu.h"
@@ -25,6 +26,7 @@
 namespace leases::screens {
 
 using core::forms::Guarded;
+using core::forms::PerformOn;
 using platform::qt::ToScreen;
 
 namespace {
@@ -113,15 +115,16 @@ QPushButton* Lease_Ledger::MakeButton(const QString& text, const QString& hint, 
 
 void Lease_Ledger::Connect() {
     const auto on = [this](QPushButton* button, auto work) {
-        connect(button, &QPushButton::clicked, this, [work] { Guarded(work); });
+        connect(button, &QPushButton::clicked, this, [this, work] { PerformOn(*this, work); });
     };
     connect(tabs_, &QTabBar::currentChanged, this, [this] { Guarded([this] { ShowRows(); }); });
     connect(list_, &ChargeList::SelectionMoved, this, &Lease_Ledger::ShowAvailable);
     connect(list_, &ChargeList::RowChosen, this,
-            [this](std::int32_t id) { Guarded([&] { Edit(id); }); });
-    connect(list_, &ChargeList::DeleteAsked, this, [this] { Guarded([this] { Delete(); }); });
+            [this](std::int32_t id) { PerformOn(*this, [&] { Edit(id); }); });
+    connect(list_, &ChargeList::DeleteAsked, delete_, &QPushButton::click);
     auto* const insert = new QShortcut(QKeySequence(Qt::Key_Insert), list_);
     insert->setContext(Qt::WidgetShortcut);
+    insert->setAutoRepeat(false);
     connect(insert, &QShortcut::activated, add_, &QPushButton::click);
     on(add_, [this] { Add(); });
     on(edit_, [this] { Edit(list_->CurrentId()); });

@@ -9,6 +9,7 @@
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/ErrorRoll.h"
+#include "core/forms/OpenForms.h"
 #include "leases/DeleteCharges.h"
 #include "leases/PaymentOutlook.h"
 #include "leases/screens/PickMenu.h"
@@ -71,7 +72,7 @@ void frmRentPayment::FillReceipts() {
         if (payment_.IsNew())
             action->setToolTip(tr("Submit the payment first, then open it again"));
         connect(action, &QAction::triggered, this, [this, index = item.index] {
-            Guarded([&] { reports::PrintReport(payment_.idTransaction, index); });
+            Perform([&] { reports::PrintReport(payment_.idTransaction, index); });
         });
     }
     if (!items.empty()) return;
@@ -101,15 +102,15 @@ void frmRentPayment::Connect() {
     connect(ui_->lvwCharges, &ChargeList::TicksChanged, this,
             [this] { Guarded([this] { TicksChanged(); }); });
     connect(ui_->cmdRestoreTicks, &QPushButton::clicked, this,
-            [this] { Guarded([this] { RestoreTicks(); }); });
+            [this] { Perform([this] { RestoreTicks(); }); });
     connect(ui_->cboTo, &QComboBox::currentTextChanged, this, [this] {
         if (!Loading()) Guarded([this] { ShowTotal(); });
     });
     connect(ui_->lvwCharges, &ChargeList::SelectionMoved, this, &frmRentPayment::ShowAvailable);
     connect(ui_->lvwCharges, &ChargeList::RowChosen, this,
-            [this](std::int32_t id) { Guarded([&] { EditCharge(id); }); });
+            [this](std::int32_t id) { Perform([&] { EditCharge(id); }); });
     connect(ui_->lvwCharges, &ChargeList::DeleteAsked, this,
-            [this] { Guarded([this] { RemoveCharges(); }); });
+            [this] { Perform([this] { RemoveCharges(); }); });
     connect(ui_->chkShowPending, &QCheckBox::toggled, this,
             [this] { Guarded([this] { Quietly([this] { RereadCharges(); }); }); });
     connect(ui_->amountPanel, &AmountPanel::Changed, this, [this] {
@@ -127,7 +128,7 @@ void frmRentPayment::Connect() {
         });
     }
     connect(ui_->cmdSplit, &QPushButton::clicked, this,
-            [this] { Guarded([this] { SplitCharge(); }); });
+            [this] { Perform([this] { SplitCharge(); }); });
 }
 
 void frmRentPayment::Setup(std::int32_t idTransaction, std::int32_t idLease, RentClass rentClass,
@@ -297,7 +298,9 @@ void frmRentPayment::EditCharge(std::int32_t id) {
 void frmRentPayment::SplitCharge() {
     const std::int32_t id = ui_->lvwCharges->CurrentId();
     if (id == 0) return;
+    if (split_ && split_->isVisible()) return core::forms::BringToFront(*split_);
     auto* const split = new frmRentSplit;
+    split_ = split;
     connect(split, &frmRentSplit::Saved, this, &frmRentPayment::ChargeSplit);
     split->Setup(id);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <cstdint>
 #include <memory>
 
@@ -16,6 +17,8 @@ class frmRentPayment;
 }
 
 namespace leases::screens {
+
+class frmRentSplit;
 
 /// Takes a payment against the charges of a lease, or edits a stored one.
 class frmRentPayment : public books::screens::PaymentForm {
@@ -68,6 +71,7 @@ class frmRentPayment : public books::screens::PaymentForm {
     QAction* return_ = nullptr;
     RentPayment payment_;
     PaymentTicks ticks_;
+    QPointer<frmRentSplit> split_; ///< the split that is open
     /// Whether reading the charges again has changed the user's ticks.
     bool tickedAgain_ = false;
     /// The charges as the user has ordered them, empty while they are in the order of their days.

@@ -6,11 +6,13 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <algorithm>
+#include <functional>
 
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
 #include "core/binding/Tags.h"
 #include "core/forms/ErrorRoll.h"
+#include "core/forms/PanelCommand.h"
 #include "mortgages/screens/LogList.h"
 #include "mortgages/screens/frmMortgagePayment.h"
 #include "platform/qt/Text.h"
@@ -18,6 +20,7 @@
 namespace mortgages::screens {
 
 using core::forms::Guarded;
+using core::forms::PerformOn;
 using platform::qt::ToScreen;
 
 MtgLog::MtgLog(QWidget* parent)
@@ -96,16 +99,19 @@ void MtgLog::Connect() {
     connect(tabs_, &QTabBar::currentChanged, this, [this] { Guarded([this] { ShowRows(); }); });
     connect(list_, &QTreeWidget::itemSelectionChanged, this, &MtgLog::ShowAvailable);
     connect(list_, &LogList::RowChosen, this,
-            [this](std::int32_t id) { Guarded([&] { Edit(id); }); });
-    connect(list_, &LogList::DeleteAsked, this, [this] { Guarded([this] { Delete(); }); });
+            [this](std::int32_t id) { PerformOn(*this, [&] { Edit(id); }); });
+    connect(list_, &LogList::DeleteAsked, delete_, &QPushButton::click);
     auto* const insert = new QShortcut(QKeySequence(Qt::Key_Insert), list_);
     insert->setContext(Qt::WidgetShortcut);
+    insert->setAutoRepeat(false);
     connect(insert, &QShortcut::activated, add_, &QPushButton::click);
-    connect(add_, &QPushButton::clicked, this, [this] { Guarded([this] { Add(); }); });
-    connect(edit_, &QPushButton::clicked, this,
-            [this] { Guarded([this] { Edit(list_->CurrentId()); }); });
-    connect(delete_, &QPushButton::clicked, this, [this] { Guarded([this] { Delete(); }); });
-    connect(pay_, &QPushButton::clicked, this, [this] { Guarded([this] { Pay(); }); });
+    const auto on = [this](QPushButton* button, const std::function<void()>& work) {
+        connect(button, &QPushButton::clicked, this, [this, work] { PerformOn(*this, work); });
+    };
+    on(add_, [this] { Add(); });
+    on(edit_, [this] { Edit(list_->CurrentId()); });
+    on(delete_, [this] { Delete(); });
+    on(pay_, [this] { Pay(); });
 }
 
 LogPart MtgLog::Part() const {

@@ -29,9 +29,9 @@ frmMortgagePayment::frmMortgagePayment(QWidget* parent)
     connect(ui_->txtExtraPrincipal, &QLineEdit::textChanged, this,
             [this] { Guarded([this] { ShowTotal(); }); });
     connect(ui_->lvwCharges, &LogList::DeleteAsked, this,
-            [this] { Guarded([this] { RemoveCharges(); }); });
+            [this] { Perform([this] { RemoveCharges(); }); });
     connect(ui_->lvwCharges, &LogList::RowChosen, this, [this](std::int32_t id) {
-        Guarded([&] { core::EditRecord(core::kMortgageLog, id, payment_.idMortgage); });
+        Perform([&] { core::EditRecord(core::kMortgageLog, id, payment_.idMortgage); });
     });
 }
 

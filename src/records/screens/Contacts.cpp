@@ -8,6 +8,7 @@
 #include "core/binding/AddressBox.h"
 #include "core/binding/Wiring.h"
 #include "core/forms/ErrorRoll.h"
+#include "core/forms/PanelCommand.h"
 #include "platform/qt/Text.h"
 #include "ui_Contacts.h"
 
@@ -16,6 +17,7 @@ namespace records::screens {
 namespace {
 
 using core::forms::Guarded;
+using core::forms::PerformOn;
 using platform::qt::ToScreen;
 
 std::int32_t IdOf(const QListWidgetItem* item) {
@@ -26,6 +28,7 @@ std::int32_t IdOf(const QListWidgetItem* item) {
 void AddShortcut(Qt::Key key, QWidget& list, QPushButton& button) {
     auto* const shortcut = new QShortcut(QKeySequence(key), &list);
     shortcut->setContext(Qt::WidgetShortcut);
+    shortcut->setAutoRepeat(false);
     QObject::connect(shortcut, &QShortcut::activated, &button, &QPushButton::click);
 }
 
@@ -52,8 +55,12 @@ void Contacts::Wire() {
         changed_ = true;
         Q_EMIT Changed();
     });
-    connect(ui_->cmdAdd, &QPushButton::clicked, this, [this] { Guarded([this] { Add(); }); });
-    connect(ui_->cmdDelete, &QPushButton::clicked, this, [this] { Guarded([this] { Remove(); }); });
+    const auto on = [this](QPushButton& button, void (Contacts::*work)()) {
+        connect(&button, &QPushButton::clicked, this,
+                [this, work] { PerformOn(*this, [&] { (this->*work)(); }); });
+    };
+    on(*ui_->cmdAdd, &Contacts::Add);
+    on(*ui_->cmdDelete, &Contacts::Remove);
     AddShortcut(Qt::Key_Insert, *ui_->lvwContacts, *ui_->cmdAdd);
     AddShortcut(Qt::Key_Delete, *ui_->lvwContacts, *ui_->cmdDelete);
     connect(ui_->lvwContacts, &QListWidget::currentItemChanged, this, &Contacts::MoveTo);

@@ -4,12 +4,12 @@
 #include <array>
 
 #include "core/RecordKinds.h"
-#include "core/forms/ErrorRoll.h"
+#include "core/forms/PanelCommand.h"
 #include "records/screens/frmDeposit.h"
 
 namespace records::screens {
 
-using core::forms::Guarded;
+using core::forms::PerformOn;
 
 namespace {
 
@@ -32,11 +32,12 @@ Deposits::Deposits(QWidget* parent)
     List().setAccessibleName(tr("Deposits"));
     connect(tabs_, &QTabBar::currentChanged, this, &Deposits::Reload);
     connect(this, &RecordList::AddAsked, this,
-            [this] { Guarded([this] { OpenDeposit(0, Scope(), place_); }); });
-    connect(this, &RecordList::EditAsked, this,
-            [this](std::int32_t id) { Guarded([&] { OpenDeposit(id, Scope(), place_); }); });
+            [this] { PerformOn(*this, [this] { OpenDeposit(0, Scope(), place_); }); });
+    connect(this, &RecordList::EditAsked, this, [this](std::int32_t id) {
+        PerformOn(*this, [&] { OpenDeposit(id, Scope(), place_); });
+    });
     connect(this, &RecordList::DeleteAsked, this,
-            [](std::int32_t id) { Guarded([id] { DeleteDeposit(id); }); });
+            [this](std::int32_t id) { PerformOn(*this, [id] { DeleteDeposit(id); }); });
     Load({});
 }
 

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 
-#include "core/forms/ErrorRoll.h"
+#include "core/forms/PanelCommand.h"
 #include "platform/qt/Text.h"
 #include "removal/DeleteRecord.h"
 
 namespace records::screens {
+
+using core::forms::PerformOn;
 
 RelatedPanel::RelatedPanel(QWidget* parent)
     : RecordList(parent),
@@ -40,7 +42,7 @@ void RelatedPanel::Reload() {
 }
 
 void RelatedPanel::Open(std::int32_t id) {
-    core::forms::Guarded([&] {
+    PerformOn(*this, [&] {
         const core::EditRequest request = RelatedRequest(*list_, owner_, id);
         core::EditRecord(request.kind, request.id, request.parent1, request.parent2,
                          request.parent3);
@@ -48,7 +50,7 @@ void RelatedPanel::Open(std::int32_t id) {
 }
 
 void RelatedPanel::Remove(std::int32_t id) {
-    core::forms::Guarded([&] { removal::DeleteRecord(list_->kind, id); });
+    PerformOn(*this, [&] { removal::DeleteRecord(list_->kind, id); });
 }
 
 void RelatedPanel::Heard(std::int16_t kind) {

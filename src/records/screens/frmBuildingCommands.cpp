@@ -38,6 +38,7 @@ void frmBuilding::MakeMenus() {
     QAction* const addUnit = menu.addAction(tr("Add &Unit"), this, &frmBuilding::AddUnit);
     addUnit->setObjectName(QStringLiteral("mnuAddUnit"));
     addUnit->setShortcut(Qt::CTRL | Qt::Key_N);
+    addUnit->setAutoRepeat(false);
 }
 
 void frmBuilding::Connect() {

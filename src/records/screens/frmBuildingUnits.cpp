@@ -101,10 +101,11 @@ bool frmBuilding::SelectUnit(std::int32_t idUnit) {
 }
 
 void frmBuilding::AddUnit() {
-    Guarded([this] {
-        if (!multi_) return Convert();
-        TellUnitNumberMissing(platform::qt::FromScreen(unit_->txtUnit->text()));
-        if (!SaveChanges()) return;
+    if (IsBusy()) return;
+    if (!multi_) return Convert();
+    TellUnitNumberMissing(platform::qt::FromScreen(unit_->txtUnit->text()));
+    if (!SaveChanges()) return;
+    Perform([this] {
         idUnit_ = MakeNewUnit(Id());
         Reload();
         ui_->tabs->setCurrentWidget(ui_->tabUnit);

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "support/Books.h"
+#include "support/screens/DoubleClick.h"
 #include "support/screens/Screens.h"
 
 namespace support {
@@ -173,6 +174,17 @@ TEST_F(MileageWizard, ShowsAPreviewThatCanBeChangedAndThrownAgain) {
     Next();
     EXPECT_NE(changed, Trips()) << "the plan was changed";
     EXPECT_THAT(Trips()[0], HasSubstr("|7.5|"));
+}
+
+TEST_F(MileageWizard, DeletesOneRowByADoubleClick) {
+    GoToPreview();
+    support::DoubleClickOn(The<QPushButton>("cmdTripDelete"));
+    EXPECT_THAT(Trips(), SizeIs(2));
+    wizard_->activateWindow();
+    The<QTreeWidget>("lvwTrips").setFocus();
+    support::SettleEvents();
+    QTest::keyClick(&The<QTreeWidget>("lvwTrips"), Qt::Key_Delete);
+    EXPECT_THAT(Trips(), SizeIs(1));
 }
 
 TEST_F(MileageWizard, SubmitsOnceAfterAQuestion) {

@@ -8,6 +8,7 @@
 
 #include "books/screens/frmDepreciation.h"
 #include "core/forms/RecordAdditions.h"
+#include "core/grid/Grid.h"
 #include "kestrom/Reports.h"
 #include "kestrom/screens/SampleEditors.h"
 #include "reports/PrintReport.h"
@@ -129,6 +130,27 @@ TEST_F(ReportCommands, EveryRecordFormPrintsItsRecordAndRunsItsReports) {
         support::SettleEvents();
     }
     EXPECT_EQ(Heard(), std::vector<std::string>{});
+}
+
+TEST_F(ReportCommands, OfTripsFollowTheListOfTheirForm) {
+    const std::string trips = Ask("SELECT Count(*) FROM Mileage");
+    core::EditRecord(core::kMileage, 0);
+    ASSERT_EQ(Open().size(), 1U);
+    Form& form = *Open().front();
+    for (const char* const name : {"mnuPrint", "mnuReportItem"}) {
+        Find<QAction>(form, name).trigger();
+        EXPECT_EQ(Heard(), std::vector<std::string>{"Note: Enter or select a record first."});
+        EXPECT_EQ(Viewer(), nullptr);
+    }
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Mileage"), trips) << "no empty trip is saved for it";
+    auto& grid = Find<core::grid::Grid>(form, "grd");
+    ASSERT_GE(grid.Model().rowCount(), 2);
+    for (const int row : {1, 0}) {
+        const std::int32_t id = grid.Model().CellValue(row, 0).AsLong();
+        grid.SelectId(id);
+        EXPECT_EQ(RunAll(form, "mnuPrint", id), 1);
+        EXPECT_GE(RunAll(form, "mnuReportItem", id), 1);
+    }
 }
 
 TEST_F(ReportCommands, TheMainWindowPrintsTheSelectedRecordAndItsLists) {
