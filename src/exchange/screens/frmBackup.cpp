@@ -63,7 +63,7 @@ frmBackup::frmBackup(QWidget* parent) : Form(parent), ui_(std::make_unique<Ui::f
 frmBackup::~frmBackup() = default;
 
 void frmBackup::Connect() {
-    connect(ui_->cmdBrowse, &QPushButton::clicked, this, &frmBackup::Browse);
+    connect(ui_->cmdBrowse, &QPushButton::clicked, this, [this] { Perform([this] { Browse(); }); });
     core::forms::ActionBar& bar = *ui_->cmdAction;
     bar.Cancel().hide();
     bar.Apply().setText(tr("&Start"));
@@ -172,12 +172,15 @@ bool frmBackup::AgreedToKeepNothing() const {
 }
 
 void frmBackup::Start() {
-    ReadConfig();
-    if (!core::forms::ShowErrorRoll(Errors()) || !AgreedToKeepNothing()) return;
     const auto entries = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* const control : entries)
-        if (control != ui_->lstResults) control->setEnabled(false);
-    Perform([this] { Run(); });
+    Perform([&] {
+        ReadConfig();
+        if (!core::forms::ShowErrorRoll(Errors()) || !AgreedToKeepNothing()) return;
+        for (QWidget* const control : entries)
+            if (control != ui_->lstResults) control->setEnabled(false);
+        Run();
+    });
+    if (IsBusy()) return; // with the backup that runs
     for (QWidget* const control : entries)
         control->setEnabled(true);
 }

@@ -47,9 +47,9 @@ void frmCheck::Setup() {
 }
 
 void frmCheck::Check() {
-    ui_->cmdAction->setEnabled(false);
-    ui_->lstFindings->clear();
     Perform([this] {
+        ui_->cmdAction->setEnabled(false);
+        ui_->lstFindings->clear();
         const auto progress = [this](std::string_view part, int number, int of) {
             ui_->lblSummary->setText(tr("Checking: %1").arg(ToScreen(std::string(part))));
             ui_->prgCheck->setRange(0, of);
@@ -57,6 +57,7 @@ void frmCheck::Check() {
         };
         Show(CheckBooks(core::App().Connection, progress));
     });
+    if (IsBusy()) return;
     ui_->prgCheck->setValue(ui_->prgCheck->maximum());
     ui_->cmdAction->setEnabled(true);
 }

@@ -36,7 +36,8 @@ void frmPort::Connect() {
     connect(ui_->cmdSelectAll, &QPushButton::clicked, ui_->lstTables, &QListWidget::selectAll);
     connect(ui_->cmdSelectNone, &QPushButton::clicked, ui_->lstTables,
             &QListWidget::clearSelection);
-    connect(ui_->cmdBrowse, &QPushButton::clicked, this, &frmPort::ChooseFile);
+    connect(ui_->cmdBrowse, &QPushButton::clicked, this,
+            [this] { Perform([this] { ChooseFile(); }); });
     connect(ui_->cmdTest, &QPushButton::clicked, this, [this] { Import(ImportMode::Test); });
     connect(ui_->tabPort, &QTabWidget::currentChanged, this, &frmPort::TabChanged);
     core::forms::ActionBar& bar = *ui_->cmdAction;
@@ -83,7 +84,7 @@ bool frmPort::eventFilter(QObject* watched, QEvent* event) {
     const bool isClick = event->type() == QEvent::MouseButtonRelease &&
                          static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
     if (watched == ui_->txtImportFile && isClick) {
-        ChooseFile();
+        Perform([this] { ChooseFile(); });
         return true;
     }
     return Form::eventFilter(watched, event);
@@ -102,9 +103,11 @@ void frmPort::Run(const std::function<void()>& work) {
         ui_->tabPort->setEnabled(on);
         ui_->cmdAction->setEnabled(on);
     };
-    enable(false);
-    Perform(work);
-    enable(true);
+    Perform([&] {
+        enable(false);
+        work();
+    });
+    if (!IsBusy()) enable(true);
 }
 
 // No window messages are processed while records are written, so status and progress are painted
@@ -142,20 +145,32 @@ void frmPort::Export() {
 }
 
 void frmPort::Import(ImportMode mode) {
-    const bool overwrites = mode == ImportMode::Write && ui_->optOverwrite->isChecked();
-    if (overwrites &&
-        !platform::TheDialogs().AskYesNo(
-            "Confirm Import",
-            "The rows of each table in the file replace those in the database. A copy of the "
-            "database is kept.\n\nDo you wish to continue?",
-            platform::Icon::Question)) {
-        return;
-    }
-    Run([this, mode, overwrites] {
-        ImportDatabase(FromScreen(ui_->txtImportFile->text()), mode,
-                       overwrites ? ImportRows::Overwrite : ImportRows::Append,
-                       ImportMessages::Show, Watcher());
+    Run([this, mode] {
+        const std::string file = FromScreen(ui_->txtImportFile->text());
+        const ImportRows rows =
+            ui_->optOverwrite->isChecked() ? ImportRows::Overwrite : ImportRows::Append;
+        if (mode == ImportMode::Write && !AgreedToImport(file, rows)) return;
+        const ImportOutcome outcome =
+            ImportDatabase(file, mode, rows, ImportMessages::Show, Watcher());
+        if (mode == ImportMode::Write && outcome.Succeeded()) imported_ = file;
     });
+}
+
+bool frmPort::AgreedToImport(const std::string& file, ImportRows rows) const {
+    std::string_view warning;
+    if (rows == ImportRows::Overwrite) {
+        warning =
+            "The rows of each table in the file replace those in the database. A copy of the "
+            "database is kept.";
+    } else if (file == imported_) {
+        warning =
+            "This file has been imported already. If it is imported again, the database will "
+            "hold its rows twice.";
+    }
+    return warning.empty() ||
+           platform::TheDialogs().AskYesNo("Confirm Import",
+                                           std::string(warning) + "\n\nDo you wish to continue?",
+                                           platform::Icon::Question);
 }
 
 } // namespace exchange::screens

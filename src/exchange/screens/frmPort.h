@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "core/forms/Form.h"
 #include "exchange/Port.h"
@@ -33,11 +34,13 @@ class frmPort : public core::forms::Form {
     void Execute();
     void Export();
     void Import(ImportMode mode);
+    bool AgreedToImport(const std::string& file, ImportRows rows) const;
     PortWatcher Watcher();
     /// Runs `work` with the controls disabled; an error is shown.
     void Run(const std::function<void()>& work);
 
     std::unique_ptr<Ui::frmPort> ui_;
+    std::string imported_; ///< the file that was imported last
 };
 
 } // namespace exchange::screens

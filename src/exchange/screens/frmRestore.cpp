@@ -88,8 +88,10 @@ frmRestore::frmRestore(QWidget* parent) : Form(parent), ui_(std::make_unique<Ui:
 frmRestore::~frmRestore() = default;
 
 void frmRestore::Connect() {
-    connect(ui_->cmdContainer, &QPushButton::clicked, this, &frmRestore::ChooseContainer);
-    connect(ui_->cmdFolder, &QPushButton::clicked, this, &frmRestore::ChooseFolder);
+    connect(ui_->cmdContainer, &QPushButton::clicked, this,
+            [this] { Perform([this] { ChooseContainer(); }); });
+    connect(ui_->cmdFolder, &QPushButton::clicked, this,
+            [this] { Perform([this] { ChooseFolder(); }); });
     connect(ui_->txtContainer, &QLineEdit::editingFinished, this, &frmRestore::ShowEntries);
     core::forms::ActionBar& bar = *ui_->cmdAction;
     bar.Cancel().hide();
@@ -147,13 +149,15 @@ void frmRestore::ShowEntries() {
 }
 
 void frmRestore::Restore() {
-    if (ui_->txtFolder->text().trimmed().isEmpty()) {
-        core::forms::ShowErrorRoll({"A folder to restore into must be given."});
-        return;
-    }
-    ui_->cmdAction->setEnabled(false);
-    Perform([this] { Run(); });
-    ui_->cmdAction->setEnabled(true);
+    Perform([this] {
+        if (ui_->txtFolder->text().trimmed().isEmpty()) {
+            core::forms::ShowErrorRoll({"A folder to restore into must be given."});
+            return;
+        }
+        ui_->cmdAction->setEnabled(false);
+        Run();
+    });
+    if (!IsBusy()) ui_->cmdAction->setEnabled(true);
 }
 
 void frmRestore::Run() {
