@@ -7,6 +7,7 @@
 #include <QShortcut>
 
 #include "core/binding/Wiring.h"
+#include "platform/qt/PressGuard.h"
 #include "platform/qt/Text.h"
 #include "ui_frmSumDesk.h"
 
@@ -14,6 +15,7 @@ namespace sumdesk {
 
 frmSumDesk::frmSumDesk(QWidget* parent) : Form(parent), ui_(std::make_unique<Ui::frmSumDesk>()) {
     ui_->setupUi(this);
+    ui_->pagSum->setProperty(platform::qt::kTakesEveryPress, true); // 55 is typed by two quick ones
     ui_->pagSum->SetCalculator(calculator_);
     ui_->pagLoan->SetCalculator(calculator_);
     ui_->pagDays->SetCalculator(calculator_);

@@ -16,6 +16,7 @@
 #include "platform/qt/Text.h"
 #include "platform/system/Version.h"
 #include "sumdesk/frmSumDesk.h"
+#include "support/screens/DoubleClick.h"
 #include "support/screens/Driving.h"
 #include "support/screens/Gallery.h"
 #include "support/screens/ScreenChecks.h"
@@ -131,6 +132,13 @@ TEST_F(SumDesk, TakesTheMouseAndRoundsToCents) {
     Keys("10/3");
     support::ClickOn(In<QPushButton>("cmdEquals"));
     EXPECT_EQ(LineText(), "3.33");
+}
+
+TEST_F(SumDesk, TakesEveryPressOfItsKeypad) {
+    for (auto* const key : window_->findChildren<QPushButton*>()) {
+        if (key->text() == QLatin1String("5")) support::DoubleClickOn(*key);
+    }
+    EXPECT_EQ(LineText(), "55");
 }
 
 TEST_F(SumDesk, CopiesItsTape) {
