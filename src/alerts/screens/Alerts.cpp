@@ -33,6 +33,7 @@ namespace {
 
 constexpr int kNarrow = 640; // below this width there is no room for two columns
 constexpr int kTypingPauseMs = 1000;
+constexpr int kRetryMs = 10'000;
 constexpr int kPictureSize = 20;
 constexpr int kSideWidth = 340;
 constexpr int kFewestInfoLines = 6;
@@ -110,10 +111,9 @@ void Alerts::SetUpSide() {
     notes_->setTabChangesFocus(true);
     notes_->setPlaceholderText(ToScreen(kNotesHint));
     saving_->setSingleShot(true);
-    saving_->setInterval(kTypingPauseMs);
     connect(saving_, &QTimer::timeout, this, &Alerts::TryToSaveNotes);
     connect(notes_, &QPlainTextEdit::textChanged, this, [this] {
-        if (notes_->document()->isModified()) saving_->start();
+        if (notes_->document()->isModified()) saving_->start(kTypingPauseMs);
     });
 
     smnu_->AddGroup(tr("Database Summary"), info_);
@@ -220,8 +220,7 @@ void Alerts::LoadNotes() {
     if (text != notes_->toPlainText()) notes_->setPlainText(text);
 }
 
-/// Notes that can't be saved now are tried again after the next change, and at the end, which says
-/// why they can't be.
+/// The page says why the notes can't be saved; the end of the program asks.
 void Alerts::TryToSaveNotes() {
     try {
         SaveNotes();
@@ -233,8 +232,15 @@ void Alerts::TryToSaveNotes() {
 void Alerts::SaveNotes() {
     if (!notes_->document()->isModified()) return;
     saving_->stop();
-    alerts::SaveNotes(NotesText());
+    try {
+        alerts::SaveNotes(NotesText());
+    } catch (const std::exception& failure) {
+        saving_->start(kRetryMs);
+        Q_EMIT NotesFault(ToScreen(failure.what()));
+        throw;
+    }
     notes_->document()->setModified(false);
+    Q_EMIT NotesFault({});
 }
 
 std::string Alerts::NotesText() const {

@@ -30,12 +30,17 @@ class Alerts : public QWidget {
     /// shows why, and the Error is thrown, after the notes were read; the same failure is not
     /// thrown again before a refresh has succeeded.
     void Refresh();
-    /// Writes the notes if they were changed. Throws Error if they can't be written.
+    /// Writes the notes if they were changed. Throws Error if they can't be written; that is tried
+    /// again until they are.
     void SaveNotes();
     std::string NotesText() const;
 
     /// Makes an item of the side menu trigger the action; it is enabled while the action is.
     void BindItem(const QString& key, QAction& action);
+
+  Q_SIGNALS:
+    /// The notes couldn't be saved, and why; an empty reason when they are saved again.
+    void NotesFault(const QString& reason);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -57,7 +62,7 @@ class Alerts : public QWidget {
     SideMenu* smnu_;
     QTreeWidget* info_;
     QPlainTextEdit* notes_;
-    QTimer* saving_; ///< runs from the last change of the notes until they are saved
+    QTimer* saving_; ///< runs from the last change of the notes until they are saved, or tried
     std::string toldFault_;
     std::vector<std::pair<std::int16_t, std::int32_t>> records_; ///< kind and id, a pair each row
 };

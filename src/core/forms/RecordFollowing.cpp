@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "core/RecordKinds.h"
+#include "core/forms/Notice.h"
 #include "core/forms/RecordForm.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
@@ -61,14 +62,10 @@ void RecordForm::ShowDeleted(bool isDeleted) {
     if (!deleted_ && !isDeleted) return;
     if (!deleted_) {
         const QString kind = ToScreen(RecordKindName(place_.kind)).toLower();
-        deleted_ = new QLabel(tr("This %1 was deleted while it was open here. Close saves it again "
-                                 "as it is shown; Cancel leaves it deleted.")
-                                  .arg(kind),
-                              this);
-        deleted_->setObjectName(QStringLiteral("lblDeleted"));
-        deleted_->setWordWrap(true);
-        deleted_->setMargin(6);
-        deleted_->setStyleSheet(QStringLiteral("background: #FFFF80; color: black"));
+        deleted_ = MakeNotice(*this, QStringLiteral("lblDeleted"));
+        deleted_->setText(tr("This %1 was deleted while it was open here. Close saves it again as "
+                             "it is shown; Cancel leaves it deleted.")
+                              .arg(kind));
         if (auto* const page = qobject_cast<QBoxLayout*>(layout())) page->insertWidget(0, deleted_);
     }
     deleted_->setVisible(isDeleted);

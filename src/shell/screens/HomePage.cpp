@@ -18,6 +18,7 @@
 #include "core/Globals.h"
 #include "core/Settings.h"
 #include "core/forms/ErrorRoll.h"
+#include "core/forms/Notice.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
@@ -43,6 +44,7 @@ std::filesystem::path RescueFile() {
 
 HomePage::HomePage(QWidget* parent)
     : QWidget(parent),
+      notesFault_(core::forms::MakeNotice(*this, QStringLiteral("lblNotesFault"))),
       books_(new QLabel(this)),
       firstStep_(new QWidget(this)),
       firstStepText_(new QLabel(firstStep_)),
@@ -65,6 +67,7 @@ HomePage::HomePage(QWidget* parent)
     lookAhead_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     lookAhead_->setFocusPolicy(Qt::StrongFocus);
     auto* const rows = new QVBoxLayout(this);
+    rows->addWidget(notesFault_);
     rows->addWidget(books_);
     rows->addWidget(firstStep_);
     auto* const run = new QHBoxLayout;
@@ -77,6 +80,7 @@ HomePage::HomePage(QWidget* parent)
     connect(posted_, &QToolButton::clicked, this, [this] {
         if (digest_ != nullptr) (new frmPosted)->Setup(*digest_);
     });
+    connect(alerts_, &alerts::screens::Alerts::NotesFault, this, &HomePage::ShowNotesFault);
 }
 
 void HomePage::SetUpTabs() {
@@ -146,6 +150,14 @@ void HomePage::ShowBooksNotice() {
                 .arg(platform::qt::ToScreen(core::App().DbFile)));
     }
     books_->setVisible(!fault.empty() || isReadOnly);
+}
+
+void HomePage::ShowNotesFault(const QString& reason) {
+    notesFault_->setText(
+        tr("The notes can't be saved: %1\nThey stay here, and saving them is tried "
+           "again.")
+            .arg(reason));
+    notesFault_->setVisible(!reason.isEmpty());
 }
 
 void HomePage::ShowFirstStep() {

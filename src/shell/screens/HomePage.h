@@ -21,8 +21,8 @@ class PicturePage;
 namespace shell::screens {
 
 /// The page shown when the program starts: the alerts, beside them the portfolio as a picture, and
-/// above both a line each for books with restrictions, the first steps in empty books, and the rows
-/// posted by the daily run.
+/// above both a line each for notes that can't be saved, books with restrictions, the first steps
+/// in empty books, and the rows posted by the daily run.
 class HomePage : public QWidget {
     Q_OBJECT
 
@@ -52,7 +52,9 @@ class HomePage : public QWidget {
     void ShowFirstStep();
     void SetUpTabs();
     bool IsPictureCurrent() const;
+    void ShowNotesFault(const QString& reason);
 
+    QLabel* notesFault_;
     QLabel* books_;
     QWidget* firstStep_;
     QLabel* firstStepText_;

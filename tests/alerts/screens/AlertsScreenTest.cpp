@@ -11,6 +11,7 @@
 
 #include "alerts/screens/Alerts.h"
 #include "core/EditRecord.h"
+#include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
@@ -166,6 +167,24 @@ TEST_F(AlertsPage, SavesTheNotesByItselfLetterByLetter) {
     EXPECT_EQ(platform::ReadWholeFile(file),
               "12\xC2\xA0"
               "Elm\n  two\n\n");
+}
+
+TEST_F(AlertsPage, SaysThatTheNotesCannotBeSavedAndTriesAgain) {
+    std::vector<std::string> told;
+    QObject::connect(&page_, &alerts::screens::Alerts::NotesFault,
+                     [&](const QString& reason) { told.push_back(FromScreen(reason)); });
+    Show();
+    core::App().DbPath = PathTo("gone/");
+    support::Type(Notes(), "Ring Ann");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !told.empty(); }));
+    EXPECT_THAT(told, ElementsAre(testing::HasSubstr("Notes.txt")));
+    page_.Refresh();
+    EXPECT_EQ(page_.NotesText(), "Ring Ann") << "nothing is lost";
+    EXPECT_THROW(page_.SaveNotes(), platform::Error);
+    std::filesystem::create_directory(PathTo("gone"));
+    page_.SaveNotes();
+    EXPECT_EQ(told.back(), "");
+    EXPECT_EQ(platform::ReadWholeFile(PathTo("gone/Notes.txt")), "Ring Ann");
 }
 
 TEST_F(AlertsPage, ReadsTheNotesThoughADateIsNone) {
