@@ -11,6 +11,7 @@
 #include "platform/dialogs/Choosers.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Icons.h"
+#include "platform/qt/PressGuard.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
@@ -37,6 +38,7 @@ frmDbMender::frmDbMender(MenderLine line, StartProgram start, QWidget* parent)
       ui_(std::make_unique<Ui::frmDbMender>()),
       line_(std::move(line)),
       start_(std::move(start)) {
+    platform::qt::GuardPresses();
     ui_->setupUi(this);
     core::binding::WireControls(*this);
     ui_->prgWork->hide();

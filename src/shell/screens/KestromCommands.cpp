@@ -81,6 +81,7 @@ void frmKestrom::SetUpActions() {
         const QString picture = action->property("picture").toString();
         if (!picture.isEmpty()) action->setIcon(platform::qt::LoadIcon(picture));
         action->setIconVisibleInMenu(false);
+        action->setAutoRepeat(false); // a held key gives a command once
         SetTip(*action);
     }
     for (QMenu* const menu : menuBar()->findChildren<QMenu*>())

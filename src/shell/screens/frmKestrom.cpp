@@ -14,6 +14,7 @@
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/WindowPlace.h"
 #include "core/grid/Grid.h"
+#include "platform/qt/PressGuard.h"
 #include "platform/qt/Text.h"
 #include "shell/ViewTexts.h"
 #include "shell/screens/BooksRun.h"
@@ -47,6 +48,7 @@ frmKestrom::frmKestrom(WindowServices services)
       token_([this](std::int16_t kind, std::int16_t action, std::int32_t id) {
           NotifyUpdate(kind, action, id);
       }) {
+    platform::qt::GuardPresses();
     ui_->setupUi(this);
     ShowTitle();
     SetUpPages();
