@@ -105,6 +105,9 @@ TEST_F(FinderTest, FindsRecordsByWhatTheyHold) {
         {"may river", {"Transactions 10 90"}},
         {"05/2024 ace", {"Transactions 10 93", "Transactions 10 92", "Transactions 10 91"}},
         {"5/2/24", {"Transactions 10 91"}},
+        {"ace 5/2", {"Transactions 10 91"}},
+        {"5/2 ace", {"Transactions 10 91"}},
+        {"5/2 - 5/2/24 ace", {"Transactions 10 91"}},
         {"quill", {"Contacts 1 60"}}, // opens the account that it belongs to
         {"37.50", {"Open Charges 30 96"}},
         {"61.00", {}}, // a settled charge is found by its payment

@@ -8,6 +8,7 @@
 
 #include "core/binding/MoneyEdit.h"
 #include "leases/screens/PreviewList.h"
+#include "platform/qt/PressGuard.h"
 
 namespace leases::screens {
 
@@ -18,6 +19,7 @@ QPushButton* MakeButton(const QString& text, const QString& hint, const char* na
     button->setObjectName(QLatin1String(name));
     button->setToolTip(hint);
     button->setAutoDefault(false);
+    button->setProperty(platform::qt::kTakesEveryPress, true);
     return button;
 }
 

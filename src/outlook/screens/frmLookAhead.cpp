@@ -19,6 +19,7 @@
 #include "outlook/screens/ForecastRun.h"
 #include "outlook/screens/MonthView.h"
 #include "platform/qt/Icons.h"
+#include "platform/qt/PressGuard.h"
 #include "platform/qt/Text.h"
 #include "platform/qt/charts/SeriesChart.h"
 #include "platform/system/Clock.h"
@@ -69,6 +70,8 @@ void frmLookAhead::SetUpControls() {
     core::grid::SetupGrid(*ui_->lvwComing);
     ui_->cmdEarlier->setIcon(platform::qt::LoadIcon(QStringLiteral("back")));
     ui_->cmdLater->setIcon(platform::qt::LoadIcon(QStringLiteral("forward")));
+    for (QWidget* const step : {ui_->cmdEarlier, ui_->cmdLater})
+        step->setProperty(platform::qt::kTakesEveryPress, true);
     ui_->lblChanged->hide();
     ui_->prgLook->hide();
     core::forms::ActionBar& bar = *ui_->cmdAction;

@@ -51,6 +51,16 @@ std::unique_ptr<SQLite::Database> OpenIndexFile(const std::string& file) {
     }
 }
 
+std::string Quoted(std::string_view form, bool isWhole) {
+    std::string quoted = "\"";
+    for (const char letter : form) {
+        // A zero would end the expression.
+        quoted += letter == '\0' ? ' ' : letter;
+        if (letter == '"') quoted += '"';
+    }
+    return quoted + (isWhole ? "\"" : "\"*");
+}
+
 std::uint64_t AsMark(const Cell& cell) {
     return static_cast<std::uint64_t>(cell.integer);
 }
@@ -58,23 +68,24 @@ std::uint64_t AsMark(const Cell& cell) {
 } // namespace
 
 std::string MatchExpression(std::span<const SearchWord> words) {
+    std::string singles;
+    for (const SearchWord& word : words) {
+        if (word.forms.size() != 1) continue;
+        if (!singles.empty()) singles += ' ';
+        singles += Quoted(word.forms.front(), word.isWhole);
+    }
     std::string expression;
     for (const SearchWord& word : words) {
-        if (!expression.empty()) expression += ' ';
-        if (word.forms.size() > 1) expression += '(';
-        for (std::size_t i = 0; i < word.forms.size(); ++i) {
-            if (i > 0) expression += " OR ";
-            expression += '"';
-            for (const char letter : word.forms[i]) {
-                // A zero would end the expression.
-                expression += letter == '\0' ? ' ' : letter;
-                if (letter == '"') expression += '"';
-            }
-            expression += word.isWhole ? "\"" : "\"*";
-        }
-        if (word.forms.size() > 1) expression += ')';
+        if (word.forms.size() < 2) continue;
+        // Beside a bracket the engine wants its AND, which fails on a word without letters; before
+        // a form of the first group such a word is no condition.
+        const std::string before = expression.empty() && !singles.empty() ? singles + ' ' : "";
+        expression += expression.empty() ? "(" : " AND (";
+        for (std::size_t i = 0; i < word.forms.size(); ++i)
+            expression += (i > 0 ? " OR " : "") + before + Quoted(word.forms[i], word.isWhole);
+        expression += ')';
     }
-    return expression;
+    return expression.empty() ? singles : expression;
 }
 
 TextIndex::TextIndex() : database_(OpenIndexFile(":memory:")) {

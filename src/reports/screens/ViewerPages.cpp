@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 
+#include "platform/qt/PressGuard.h"
 #include "platform/qt/Text.h"
 #include "reports/screens/frmReportViewer.h"
 #include "ui_frmReportViewer.h"
@@ -22,6 +23,7 @@ void frmReportViewer::SetUpPages() {
         {ui_->cmdFitWidth, "mnuFitWidth"}, {ui_->cmdFitPage, "mnuFitPage"}};
     for (const auto& [button, action] : buttons) {
         button->setDefaultAction(Action(action));
+        button->setProperty(platform::qt::kTakesEveryPress, true);
         button->setAccessibleName(Action(action)->text().remove(QLatin1Char('&')));
     }
     for (const char* zoom :

@@ -158,7 +158,7 @@ bool frmSearch::eventFilter(QObject* watched, QEvent* event) {
             return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            list_->ChooseCurrent();
+            if (!static_cast<const QKeyEvent*>(event)->isAutoRepeat()) list_->ChooseCurrent();
             return true;
         default:
             return Form::eventFilter(watched, event);

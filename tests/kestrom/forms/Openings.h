@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "kestrom/screens/SampleEditors.h"
+
+namespace tests {
+
+/// A form and how it is opened.
+struct Opening {
+    std::string name;
+    std::function<void()> open;
+};
+
+/// Books of a sample portfolio, and every form that can be opened on them.
+class EveryForm : public SampleEditors {
+  protected:
+    static std::vector<Opening> Openings();
+
+  private:
+    static std::int32_t Id(const char* sql) { return std::stoi(Ask(sql)); }
+};
+
+} // namespace tests
