@@ -6,6 +6,7 @@
 #include <fmt/core.h>
 
 #include "core/Globals.h"
+#include "leases/ChargeEditor.h"
 #include "leases/Credits.h"
 #include "leases/DueMove.h"
 #include "leases/RentLog.h"
@@ -132,6 +133,8 @@ std::vector<std::string> AmountErrors(const AmountPayment& amount) {
     std::vector<std::string> lines;
     if (amount.received <= Currency())
         lines.emplace_back("The amount received must be more than zero.");
+    if (amount.received != InCents(amount.received))
+        lines.emplace_back("The amount received must be in whole cents.");
     if (!amount.payment.IsNew())
         lines.emplace_back("A payment that was posted is corrected by its charges.");
     return lines;

@@ -1,6 +1,8 @@
 #include "leases/ChargeEditor.h"
 
 #include "core/Globals.h"
+#include "core/Rows.h"
+#include "leases/Credits.h"
 #include "leases/LeaseEditor.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/values/Conversions.h"
@@ -43,6 +45,18 @@ platform::Currency InCents(platform::Currency amount) {
     return platform::StrToMoney(platform::FormatNumber(amount, "#.00"));
 }
 
+namespace {
+
+/// An amount that its payment counts on can't be changed on its own.
+void CheckAmount(platform::Recordset& row) {
+    const std::int32_t id = platform::IdOf(row["IdRentLog"]);
+    const auto stored = core::ReadValue("SELECT Amount FROM RentLog WHERE IdRentLog = ?", {id});
+    if (platform::AsOr0<platform::Currency>(stored) != platform::MoneyOf(row["Amount"]))
+        CheckNotTied(id);
+}
+
+} // namespace
+
 void SaveCharge(platform::Recordset& row, std::int32_t idTransactionRead) {
     platform::UnitOfWork unit(core::App().Connection);
     // A charge paid since then would be settled by a payment of another amount.
@@ -52,6 +66,7 @@ void SaveCharge(platform::Recordset& row, std::int32_t idTransactionRead) {
                 ? "The charge was paid after it was opened. It was not saved."
                 : "The payment of the charge was changed after it was opened. It was not saved.");
     }
+    CheckAmount(row);
     const std::int32_t idLease = platform::IdOf(row["IdLease"]);
     row.Update();
     StoreBalances(idLease);

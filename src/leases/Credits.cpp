@@ -45,6 +45,19 @@ bool IsOrigin(std::int32_t idRentLog) {
            core::Exists("SELECT IdOrigin FROM RentCredit WHERE IdOrigin = ?", {idRentLog});
 }
 
+void CheckNotTied(std::int32_t idRentLog) {
+    if (!HasCredits()) return;
+    const bool isTied = core::Exists(
+        "SELECT o.IdRentLog FROM RentLog AS o, RentCredit AS c WHERE (o.IdRentLog = ?) AND "
+        "(o.IdTransaction <> 0) AND ((c.IdOrigin = o.IdRentLog) OR "
+        "((c.IdRentLog = o.IdRentLog) AND (c.IdReturn <> 0)))",
+        {idRentLog});
+    if (!isTied) return;
+    throw platform::ConflictError(
+        "Money that was paid ahead or returned stays with its payment. Delete the payment or the "
+        "return instead.");
+}
+
 std::int32_t ReturnOf(std::int32_t idTransaction) {
     if (idTransaction == 0 || !HasCredits()) return 0;
     Recordset row = core::Read(std::string(kReturns) + "(o.IdTransaction = ?)", {idTransaction});

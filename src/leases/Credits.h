@@ -30,6 +30,10 @@ void TiePart(std::int32_t idPart, std::int32_t idWhole);
 /// Returns whether a credit comes from this row, which therefore can't be split.
 bool IsOrigin(std::int32_t idRentLog);
 
+/// Throws ConflictError if the row is the part of a payment that was paid ahead, or the reversal of
+/// a returned payment: without it, or with another amount, the payment no longer adds up.
+void CheckNotTied(std::int32_t idRentLog);
+
 /// Returns the transaction that returned a payment, 0 if it wasn't returned.
 std::int32_t ReturnOf(std::int32_t idTransaction);
 /// Returns the payment that this transaction returned, 0 for other transactions.

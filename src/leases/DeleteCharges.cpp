@@ -8,6 +8,7 @@
 #include "core/ChargeLedger.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
+#include "leases/Credits.h"
 #include "leases/LeaseEditor.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
@@ -53,6 +54,7 @@ bool DeleteCharges(std::int32_t idLease, const std::vector<std::int32_t>& ids,
                                  .check =
                                      [&](std::int32_t id) {
                                          if (shown == ShownAs::Open) CheckOpen(id);
+                                         CheckNotTied(id);
                                      },
                                  .follow = [&] { StoreBalances(idLease); }});
 }

@@ -49,9 +49,10 @@ void CheckUnchanged(const RentSplit& split) {
         "The charge was changed or removed since it was read, so it can't be split.");
 }
 
-/// The credit that came from the row would name a row that isn't there.
-void CheckCredit(std::int32_t idRentLog) {
-    if (!IsOrigin(idRentLog)) return;
+/// Without the row its payment would no longer add up. Money that is owed again, since its payment
+/// was returned or deleted, is a charge like any other.
+void CheckCredit(const RentLogEntry& charge, std::int32_t idRentLog) {
+    if (charge.idTransaction == 0 || !IsOrigin(idRentLog)) return;
     throw platform::ConflictError(
         "Money that was paid ahead can't be split where the payment has it. Split the credit.");
 }
@@ -101,7 +102,7 @@ std::optional<RentSplit> ReadSplit(std::int32_t idRentLog) {
 std::array<std::int32_t, 2> SaveSplit(const RentSplit& split) {
     platform::UnitOfWork unit(core::App().Connection);
     CheckUnchanged(split);
-    CheckCredit(split.idRentLog);
+    CheckCredit(split.charge, split.idRentLog);
     std::array<std::int32_t, 2> parts = {};
     for (std::size_t i = 0; i < split.parts.size(); ++i) {
         const SplitPart& part = split.parts[i];

@@ -7,6 +7,7 @@
 #include "books/TransactionRow.h"
 #include "core/Codes.h"
 #include "core/Rows.h"
+#include "leases/ChargeEditor.h"
 #include "leases/Credits.h"
 #include "leases/DueMove.h"
 #include "leases/ReturnRows.h"
@@ -102,6 +103,8 @@ std::vector<std::string> ReturnErrors(const PaymentReturn& returned) {
                         " and can't be returned before.");
     }
     if (returned.fee < Currency()) lines.emplace_back("The fee can't be less than zero.");
+    if (returned.fee != InCents(returned.fee))
+        lines.emplace_back("The fee must be in whole cents.");
     if (returned.dueNow.IsSet() && !returned.dueAfter.IsSet())
         lines.emplace_back("A next due date must be specified.");
     return lines;

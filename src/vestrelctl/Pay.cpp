@@ -77,6 +77,10 @@ leases::RentPayment ReadPayment(const PayArguments& given) {
 void PayCharges(const PayArguments& given) {
     const leases::RentPayment payment = ReadPayment(given);
     if (payment.charges.empty()) throw platform::Error("There is no open charge to pay");
+    if (payment.Total() < platform::Currency()) {
+        throw platform::Error(
+            "The open credits are more than the open charges: there is nothing to pay");
+    }
     const std::int32_t id = leases::SubmitPayment(payment);
     PrintPaid(id, payment.charges.size(), payment.Total());
 }

@@ -139,6 +139,9 @@ TEST_F(PayAmount, RefusesWhatIsNoAmount) {
         EXPECT_TRUE(leases::PreviewAmount(amount).empty());
         EXPECT_THROW(leases::SubmitAmount(amount), platform::FieldError);
     }
+    AmountPayment fraction = Amount(300);
+    fraction.received = platform::Currency::FromScaled(3'333'330);
+    EXPECT_THROW(leases::SubmitAmount(fraction), platform::FieldError);
     EXPECT_EQ(DumpBooks(), before);
     AmountPayment stored = Amount(1000);
     stored.payment.idTransaction = leases::SubmitAmount(stored);
@@ -162,6 +165,9 @@ TEST_F(PayAmount, ACreditIsTakenInByALaterPaymentAsAnyCharge) {
     leases::SubmitAmount(Amount(300));
     EXPECT_EQ(leases::CreditBalance(kLeaseId, RentClass::Rent), Currency::FromUnits(300));
     EXPECT_EQ(Ask("SELECT RentDue FROM Lease"), "-300");
+    EXPECT_THROW(leases::CheckNotTied(Id("SELECT IdOrigin FROM RentCredit")),
+                 platform::ConflictError);
+    EXPECT_NO_THROW(leases::CheckNotTied(Id("SELECT IdRentLog FROM RentCredit")));
     Charge(Date(2024, 4, 1), 1000, RentFlags::PeriodRent);
     const leases::RentPayment rest = leases::ProposePayment(kLeaseId, RentClass::Rent);
     EXPECT_EQ(rest.Total(), Currency::FromUnits(700));

@@ -209,6 +209,12 @@ TEST_F(Return, TakesBackTheCreditAndWhatWasBoughtWithIt) {
         EXPECT_EQ(
             Ask("SELECT Sum(Amount) FROM RentLog WHERE IdTransaction = " + std::to_string(id)),
             "0");
+        if (spent == 0) continue;
+        leases::AmountPayment part = Amount(100);
+        for (leases::PaymentCharge& charge : part.payment.charges)
+            charge.selected = charge.category == leases::kCategoryOverpayment;
+        leases::SubmitAmount(part);
+        EXPECT_EQ(Open(), std::to_string(900 + spent)) << "what is owed again is paid in part";
     }
 }
 

@@ -60,6 +60,8 @@ QPushButton* MakeButton(QWidget& parent, const char* name, const QString& text) 
 
 PicturePage::PicturePage(QWidget* parent)
     : QWidget(parent),
+      copy_(MakeButton(*this, "cmdCopyPicture", tr("Copy as &Picture"))),
+      print_(MakeButton(*this, "cmdPrintPicture", tr("P&rint Picture..."))),
       board_(new QWidget(this)),
       asOf_(new QLabel(this)),
       occupancy_(new FigurePanel(QStringLiteral("Occupancy"), tr("Occupancy"), board_)),
@@ -74,12 +76,10 @@ PicturePage::PicturePage(QWidget* parent)
 void PicturePage::Lay() {
     asOf_->setObjectName(QStringLiteral("lblAsOf"));
     asOf_->setTextFormat(Qt::PlainText);
-    auto* const copy = MakeButton(*this, "cmdCopyPicture", tr("Copy as &Picture"));
-    auto* const print = MakeButton(*this, "cmdPrintPicture", tr("P&rint Picture..."));
     auto* const top = new QHBoxLayout;
     top->addWidget(asOf_, 1);
-    top->addWidget(copy);
-    top->addWidget(print);
+    top->addWidget(copy_);
+    top->addWidget(print_);
     board_->setObjectName(QStringLiteral("picture"));
     board_->setAutoFillBackground(true);
     auto* const panels = new QGridLayout(board_);
@@ -101,8 +101,8 @@ void PicturePage::Lay() {
     auto* const rows = new QVBoxLayout(this);
     rows->addLayout(top);
     rows->addWidget(scroll, 1);
-    connect(copy, &QPushButton::clicked, this, [this] { Guarded([this] { Copy(); }); });
-    connect(print, &QPushButton::clicked, this, [this] { Guarded([this] { Print(); }); });
+    connect(copy_, &QPushButton::clicked, this, [this] { Guarded([this] { Copy(); }); });
+    connect(print_, &QPushButton::clicked, this, [this] { Guarded([this] { Print(); }); });
 }
 
 void PicturePage::Connect() {

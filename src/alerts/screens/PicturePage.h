@@ -6,6 +6,7 @@
 #include "alerts/PortfolioPicture.h"
 
 class QLabel;
+class QPushButton;
 
 namespace alerts::screens {
 
@@ -36,6 +37,8 @@ class PicturePage : public QWidget {
     void ShowDebts();
     void OpenReport(std::string_view description, platform::Date month) const;
 
+    QPushButton* copy_;
+    QPushButton* print_;
     QWidget* board_;
     QLabel* asOf_;
     FigurePanel* occupancy_;

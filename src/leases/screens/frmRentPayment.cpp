@@ -55,8 +55,10 @@ QMenu* frmRentPayment::MakePaymentMenu() {
     receiptMenu_ = payment->addMenu(tr("Print &Receipt"));
     receiptMenu_->setObjectName(QStringLiteral("mnuReceipts"));
     receiptMenu_->setToolTipsVisible(true);
-    return_ = AddItem(*payment, "mnuReturnPayment", tr("Re&turned by the Bank..."),
-                      [this] { ReturnPayment(); });
+    return_ = payment->addAction(tr("Re&turned by the Bank..."));
+    return_->setObjectName(QStringLiteral("mnuReturnPayment"));
+    // Not as a command of this form, which closes first.
+    connect(return_, &QAction::triggered, this, [this] { Guarded([this] { ReturnPayment(); }); });
     return payment;
 }
 

@@ -13,7 +13,9 @@ SearchEverything::SearchEverything(QMainWindow& window) : QObject(&window), wind
     qApp->installEventFilter(this);
 }
 
-SearchEverything::~SearchEverything() = default;
+SearchEverything::~SearchEverything() {
+    Release();
+}
 
 void SearchEverything::Show() {
     if (box_) {

@@ -57,6 +57,7 @@ class Picture : public support::ScreenTest {
   protected:
     Picture() {
         platform::SetToday(platform::Date(2024, 5, 17));
+        std::filesystem::create_directories(core::App().ReportPath);
         for (const char* const name : {"Vacancy and turnover", "Rent charged and collected",
                                        "Cash flow by month", "Who owes what, by age"}) {
             const bool asksDates = name[0] == 'V';

@@ -87,7 +87,7 @@ TEST_F(SearchEverything, OpensRecordsCommandsAndSettings) {
 
 TEST_F(SearchEverything, SaysWhyACommandCannotRun) {
     Window();
-    EXPECT_EQ(SearchAndOpen("pay rent"), "Pay Rent");
+    EXPECT_EQ(SearchAndOpen("add new"), "Add New");
     ASSERT_EQ(Heard().size(), 1U);
     EXPECT_THAT(log_, IsEmpty());
 }

@@ -21,9 +21,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-using Kestrom = tests::KestromTest;
+using WindowTrouble = tests::KestromTest;
 
-TEST_F(Kestrom, OpensOneNewRecordByADoubleClickOnAdd) {
+TEST_F(WindowTrouble, OpensOneNewRecordByADoubleClickOnAdd) {
     Go("TENANTS");
     for (QToolButton* const button : Window().findChildren<QToolButton*>()) {
         if (button->defaultAction() == &Item("mnuAdd")) support::DoubleClickOn(*button);
@@ -32,7 +32,7 @@ TEST_F(Kestrom, OpensOneNewRecordByADoubleClickOnAdd) {
     EXPECT_FALSE(Item("mnuAdd").autoRepeat());
 }
 
-TEST_F(Kestrom, SaysAtTheTopThatTheNotesCannotBeSaved) {
+TEST_F(WindowTrouble, SaysAtTheTopThatTheNotesCannotBeSaved) {
     auto& line = Find<QLabel>(Window(), "lblNotesFault");
     EXPECT_FALSE(line.isVisible());
     core::App().DbPath = PathTo("gone/");
