@@ -21,7 +21,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-using WindowTrouble = tests::KestromTest;
+class WindowTrouble : public tests::KestromTest {};
 
 TEST_F(WindowTrouble, OpensOneNewRecordByADoubleClickOnAdd) {
     Go("TENANTS");
