@@ -69,7 +69,8 @@ class ReadOnlyBooks : public tests::EveryForm {
                 day->SetDay(platform::Date(2026, 12, 24));
             } else if (auto* const line = qobject_cast<QLineEdit*>(control)) {
                 const std::string tag = TagOf(*line);
-                const bool isNumber = !tag.empty() && std::string("#$&%").find(tag[0]) != tag.npos;
+                const bool isNumber =
+                    !tag.empty() && std::string("#$&%").find(tag[0]) != std::string::npos;
                 const bool isMoney = qobject_cast<MoneyEdit*>(line) != nullptr;
                 if (!line->isReadOnly()) support::Type(*line, isNumber || isMoney ? "7" : "Some");
             } else if (auto* const page = qobject_cast<QPlainTextEdit*>(control)) {
