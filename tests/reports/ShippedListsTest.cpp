@@ -81,7 +81,10 @@ TEST_F(ShippedLists, VacancyCountsUnitsWithoutARunningLease) {
         const std::int32_t unit = Id(lease, "IdUnit");
         if (kRunning.contains(Text(lease, "Status"))) taken.insert(unit);
         if (IsInPeriod(Day(lease, "DateActive"))) ++movedIn[building[unit]];
-        if (IsInPeriod(Day(lease, "DateVacating"))) ++movedOut[building[unit]];
+        Date out = Day(lease, "DateVacating");
+        // A term that ran out has no day of moving out.
+        if (!out.IsSet() && Text(lease, "Status") == "Expired") out = EndOfTerm(lease);
+        if (IsInPeriod(out)) ++movedOut[building[unit]];
     }
     std::map<std::int32_t, int> units;
     std::map<std::int32_t, int> vacant;

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "books/clsDepreciation.h"
+#include "core/Configuration.h"
 #include "reports/CheckReport.h"
 #include "reports/LineGrammar.h"
 #include "reports/ShippedFixture.h"
@@ -25,6 +26,11 @@ std::int64_t Cents(Currency amount) {
 /// Amounts that were rounded before they were added up, a cent each at most.
 void ExpectNear(Currency shown, Currency sum, int rows) {
     EXPECT_LE(std::llabs(Cents(shown) - Cents(sum)), rows);
+}
+
+int PeriodsAYear(const Row& lease) {
+    const std::string type = lease.at("TermType").AsText();
+    return type.starts_with('W') ? 52 : type.starts_with('Y') ? 1 : 12;
 }
 
 bool IsIn(int year, Date day) {
@@ -56,29 +62,43 @@ TEST_F(Shipped, AreFreeOfFaultsAndRunOnFullAndEmptyBooks) {
     core::App().Connection.Close();
     store::CreateDatabase(Folder() / "empty");
     core::App().Connection.Open((Folder() / "empty" / "Vestrel.mdb").string());
+    core::CreateDefaultConfiguration(core::App().Connection);
     for (const auto& file : Files()) {
         const FlowLines flow = Run(file.filename().string());
         EXPECT_GT(flow.lines.size(), 1U) << file << " says nothing on empty books";
+        for (const std::string& line : flow.lines)
+            EXPECT_EQ(line.find('%'), std::string::npos) << file << ": " << line;
     }
 }
 
 TEST_F(Shipped, RentRollAddsUpToTheRunningLeases) {
     Currency rent;
+    Currency monthly;
     Currency due;
     Currency held;
     int leases = 0;
+    std::size_t pending = 0;
     for (const Row& lease : Rows("Lease")) {
+        if (Text(lease, "Status") == "Pending") ++pending;
         if (!kRunning.contains(Text(lease, "Status"))) continue;
         ++leases;
         rent += Money(lease, "Rent");
+        monthly += Currency::FromDouble(Money(lease, "Rent").ToDouble() * PeriodsAYear(lease) / 12);
         due += Money(lease, "RentDue");
         held += Money(lease, "DepositBalance");
     }
     const FlowLines flow = Run("Rent Roll.rpt");
     EXPECT_EQ(ColumnSum(flow, "Unit", 3), rent);
-    EXPECT_EQ(ColumnSum(flow, "Unit", 4), due);
-    EXPECT_EQ(ColumnSum(flow, "Unit", 5), held);
-    EXPECT_EQ(Amount(flow, "Rent"), rent);
+    ExpectNear(ColumnSum(flow, "Unit", 4), monthly, leases);
+    EXPECT_EQ(ColumnSum(flow, "Unit", 5), due);
+    EXPECT_EQ(ColumnSum(flow, "Unit", 6), held);
+    ExpectNear(Amount(flow, "Rent a month"), monthly, 1);
+    EXPECT_NE(monthly, rent);
+    EXPECT_EQ(std::ranges::count_if(
+                  TableRows(flow, "Unit"),
+                  [](const auto& row) { return row[1].find(" (from ") != std::string::npos; }),
+              pending);
+    EXPECT_GT(pending, 0U);
     EXPECT_EQ(Amount(flow, "Rent due"), due);
     EXPECT_EQ(Amount(flow, "Deposits held"), held);
     EXPECT_EQ(Amount(flow, "Running leases"), Currency::FromUnits(leases));
