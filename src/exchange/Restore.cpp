@@ -201,7 +201,7 @@ RestoreReport RestoreContainer(const fs::path& container, const fs::path& folder
             "{} is there already; name a folder that isn't, so that nothing is overwritten",
             folder.string()));
     }
-    store::NewFolder made(folder);
+    store::NewFolder made(folder, store::UnkeptFiles::AreRemoved);
     Restoration restoration(container, folder, listener);
     for (const ContainerEntry& entry : entries) {
         const bool isOwn = entry.header.fileType == static_cast<std::int16_t>(FileType::Database);

@@ -1,6 +1,7 @@
 #include "store/CreateDatabase.h"
 
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "platform/system/Paths.h"
@@ -44,8 +45,16 @@ NewDatabase::NewDatabase(const fs::path& directory)
 void NewDatabase::Publish() {
     // The version first: a database is never seen without it, and a version without one is not
     // taken for one.
-    platform::WriteFileAtomically(directory_ / kVersionFile, std::to_string(kDatabaseVersion));
-    file_.Publish();
+    const fs::path version = directory_ / kVersionFile;
+    std::error_code ignored;
+    const bool hadVersion = fs::exists(version, ignored);
+    platform::WriteFileAtomically(version, std::to_string(kDatabaseVersion));
+    try {
+        file_.Publish();
+    } catch (...) {
+        if (!hadVersion) fs::remove(version, ignored);
+        throw;
+    }
     folder_.Keep();
 }
 

@@ -1,5 +1,12 @@
 #include "store/NewFile.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <ranges>
 #include <system_error>
 #include <utility>
 
@@ -23,11 +30,46 @@ void RefuseTaken(const fs::path& file) {
     throw platform::Error(fmt::format("{}: {}", file.string(), error.message()));
 }
 
+fs::path NotTaken(fs::path file) {
+    RefuseTaken(file);
+    return file;
+}
+
+[[noreturn]] void ThrowCannotMake(const fs::path& file, const std::string& reason) {
+    throw platform::Error(fmt::format("{} can't be made: {}", file.string(), reason));
+}
+
+fs::path WithEnding(fs::path file, const char* ending) {
+    return file += ending;
+}
+
+/// Whether the one who had the lock before has removed its file, so that it locks nothing anymore.
+bool IsRemoved(int handle) {
+    struct stat status = {};
+    return fstat(handle, &status) == 0 && status.st_nlink == 0;
+}
+
 } // namespace
 
-NewFile::NewFile(fs::path file) : file_(std::move(file)), draft_(file_) {
-    draft_ += ".new";
-    RefuseTaken(file_);
+MakersLock::MakersLock(const fs::path& file) : path_(WithEnding(file, ".lock")), handle_(-1) {
+    do {
+        if (handle_ >= 0) close(handle_);
+        handle_ = open(path_.c_str(), O_CREAT | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        if (handle_ < 0) ThrowCannotMake(file, std::generic_category().message(errno));
+        // A file system without locks has no second program on it either.
+        while (flock(handle_, LOCK_EX) != 0 && errno == EINTR) {
+        }
+    } while (IsRemoved(handle_));
+}
+
+MakersLock::~MakersLock() {
+    unlink(path_.c_str());
+    close(handle_);
+}
+
+NewFile::NewFile(fs::path file)
+    : file_(NotTaken(std::move(file))), draft_(WithEnding(file_, ".new")), lock_(file_) {
+    RefuseTaken(file_); // by the program that had the lock before
     RemoveDraft();
 }
 
@@ -38,9 +80,7 @@ NewFile::~NewFile() {
 void NewFile::RemoveDraft() const {
     std::error_code ignored;
     for (const char* companion : {"", "-wal", "-shm", "-journal"}) {
-        fs::path file = draft_;
-        file += companion;
-        fs::remove(file, ignored);
+        fs::remove(WithEnding(draft_, companion), ignored);
     }
 }
 
@@ -48,18 +88,13 @@ void NewFile::Publish() {
     RefuseTaken(file_);
     std::error_code error;
     // A log that could not be written back when the draft was closed holds a part of it.
-    fs::path log = draft_;
-    if (fs::exists(log += "-wal", error)) {
-        throw platform::Error(
-            fmt::format("{} can't be made: it could not be written to the disk", file_.string()));
-    }
+    if (fs::exists(WithEnding(draft_, "-wal"), error))
+        ThrowCannotMake(file_, "it could not be written to the disk");
     fs::rename(draft_, file_, error);
-    if (error) {
-        throw platform::Error(fmt::format("{} can't be made: {}", file_.string(), error.message()));
-    }
+    if (error) ThrowCannotMake(file_, error.message());
 }
 
-NewFolder::NewFolder(const fs::path& folder) {
+NewFolder::NewFolder(const fs::path& folder, UnkeptFiles files) : files_(files) {
     std::vector<fs::path> missing;
     std::error_code error;
     fs::path path = fs::absolute(folder, error).lexically_normal();
@@ -68,11 +103,12 @@ NewFolder::NewFolder(const fs::path& folder) {
         missing.insert(missing.begin(), path); // the outermost first
     }
     for (const fs::path& next : missing) {
-        if (!fs::create_directory(next, error) && error) {
+        const bool isMade = fs::create_directory(next, error);
+        if (error) {
             RemoveMade();
-            throw platform::Error(
-                fmt::format("{} can't be made: {}", next.string(), error.message()));
+            ThrowCannotMake(next, error.message());
         }
+        if (!isMade) continue; // another program was first
         made_.push_back(next);
         fs::permissions(next, fs::perms::owner_all, error);
     }
@@ -87,7 +123,9 @@ NewFolder::~NewFolder() {
 
 void NewFolder::RemoveMade() const {
     std::error_code ignored;
-    if (!made_.empty()) fs::remove_all(made_.front(), ignored);
+    if (files_ == UnkeptFiles::AreRemoved && !made_.empty()) fs::remove_all(made_.back(), ignored);
+    for (const fs::path& folder : std::views::reverse(made_))
+        fs::remove(folder, ignored); // fails if another program has put something into it
 }
 
 } // namespace store

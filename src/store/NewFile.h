@@ -5,8 +5,24 @@
 
 namespace store {
 
+/// Lets one program at a time make a file. The lock is a file beside it, which disappears with the
+/// lock; one that a crash has left behind locks nothing.
+class MakersLock {
+  public:
+    /// Waits until no other program has the lock. Throws an Error if the folder can't be written.
+    explicit MakersLock(const std::filesystem::path& file);
+    ~MakersLock();
+    MakersLock(const MakersLock&) = delete;
+    MakersLock& operator=(const MakersLock&) = delete;
+
+  private:
+    std::filesystem::path path_;
+    int handle_;
+};
+
 /// A database file in the making: it is built under another name beside its own, and gets
-/// its own name only when it is whole.
+/// its own name only when it is whole. Another program that makes the same file waits, and is then
+/// refused.
 class NewFile {
   public:
     /// An Error when anything of the name `file` already exists.
@@ -25,13 +41,17 @@ class NewFile {
 
     std::filesystem::path file_;
     std::filesystem::path draft_;
+    MakersLock lock_;
 };
 
-/// A folder, made private to the user if it is missing, with those above it. What was made goes
-/// again with its contents unless kept.
+/// What happens to the files in a new folder that isn't kept.
+enum class UnkeptFiles { Stay, AreRemoved };
+
+/// A folder, made private to the user if it is missing, with those above it. What was made is
+/// removed again unless it is kept, but no folder in which files stay.
 class NewFolder {
   public:
-    explicit NewFolder(const std::filesystem::path& folder);
+    explicit NewFolder(const std::filesystem::path& folder, UnkeptFiles files = UnkeptFiles::Stay);
     ~NewFolder();
     NewFolder(const NewFolder&) = delete;
     NewFolder& operator=(const NewFolder&) = delete;
@@ -41,6 +61,7 @@ class NewFolder {
   private:
     void RemoveMade() const;
 
+    UnkeptFiles files_;
     std::vector<std::filesystem::path> made_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <system_error>
 
 #include <fmt/core.h>
 
@@ -66,13 +67,28 @@ void FillReferences(platform::Connection& connection) {
 
 } // namespace
 
-void CreateReferences(const std::filesystem::path& directory) {
-    NewFile file(directory / kReferencesFile);
+namespace {
+
+void MakeReferences(const std::filesystem::path& path) {
+    NewFile file(path);
     platform::Connection connection;
     connection.Open(file.Draft(), platform::OpenMode::Create);
     FillReferences(connection);
     connection.Close();
     file.Publish();
+}
+
+} // namespace
+
+void CreateReferences(const std::filesystem::path& directory) {
+    const std::filesystem::path path = directory / kReferencesFile;
+    try {
+        MakeReferences(path);
+    } catch (const platform::Error&) {
+        // They were there, or another program has made them at the same time.
+        std::error_code ignored;
+        if (!std::filesystem::is_regular_file(path, ignored)) throw;
+    }
 }
 
 } // namespace store

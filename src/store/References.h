@@ -22,8 +22,8 @@ struct ZipCode {
 std::span<const ZipCode> ZipCodes();
 
 /// Makes the reference database in `directory`, which is there: zip codes, and the pages where some
-/// counties show a property's taxes. It is only ever read afterwards. An Error when something of
-/// its name already exists or it can't be made; then nothing is left.
+/// counties show a property's taxes. It is only ever read afterwards; an existing one stays as it
+/// is. Throws an Error if it can't be made; then nothing is left.
 void CreateReferences(const std::filesystem::path& directory);
 
 } // namespace store

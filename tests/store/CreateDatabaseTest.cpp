@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <fstream>
+#include <thread>
 
 #include "platform/system/Paths.h"
 #include "store/CreateDatabase.h"
@@ -12,6 +14,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 
 std::vector<std::string> NamesIn(const fs::path& folder) {
     std::vector<std::string> names;
@@ -87,10 +90,56 @@ TEST(CreateDatabase, LeavesNothingBehindWhenItFails) {
     EXPECT_THAT(NamesIn(folder.Path()), testing::UnorderedElementsAre("Version", "file"));
 }
 
+/// Makes the books in several programs at the same time; returns how many of them could.
+int MakeTogether(const fs::path& folder) {
+    std::atomic<int> made = 0;
+    std::vector<std::jthread> programs;
+    for (int i = 0; i < 4; ++i) {
+        programs.emplace_back([&] {
+            try {
+                store::CreateDatabase(folder);
+                ++made;
+            } catch (const platform::Error& error) {
+                EXPECT_THAT(error.what(), testing::EndsWith("already exists"));
+            }
+        });
+    }
+    programs.clear();
+    return made;
+}
+
+TEST(CreateDatabase, MakesWholeBooksForOneOfSeveralPrograms) {
+    const support::TemporaryFolder folder;
+    for (int i = 0; i < 5; ++i) {
+        const fs::path books = folder / std::to_string(i) / "books";
+        EXPECT_EQ(MakeTogether(books), 1);
+        EXPECT_THAT(NamesIn(books), testing::UnorderedElementsAre("Vestrel.mdb", "Version"));
+        platform::Connection opened;
+        opened.Open(books / "Vestrel.mdb");
+        EXPECT_EQ(support::Rows(opened, "SELECT Count(*) FROM TransCategory"), std::vector{"26"s});
+    }
+}
+
+TEST(NewFolder, IsRemovedOnlyWithoutTheFilesOfOthers) {
+    const support::TemporaryFolder folder;
+    const fs::path theirs = folder / "new/theirs";
+    for (const auto files : {store::UnkeptFiles::Stay, store::UnkeptFiles::AreRemoved}) {
+        {
+            const store::NewFolder made(folder / "new/mine", files);
+            Write(folder / "new/mine/half", "half");
+            fs::create_directory(theirs);
+        }
+        EXPECT_TRUE(fs::exists(theirs));
+        EXPECT_EQ(fs::exists(folder / "new/mine/half"), files == store::UnkeptFiles::Stay);
+        fs::remove_all(folder / "new");
+    }
+}
+
 TEST(CreateDatabase, GoesOverADraftThatACrashLeft) {
     const support::TemporaryFolder folder;
     Write(folder / "Vestrel.mdb.new", "half a database");
     Write(folder / "Vestrel.mdb.new-wal", "half a log");
+    Write(folder / "Vestrel.mdb.lock", "");
     store::CreateDatabase(folder.Path());
     EXPECT_THAT(NamesIn(folder.Path()), testing::UnorderedElementsAre("Vestrel.mdb", "Version"));
 }

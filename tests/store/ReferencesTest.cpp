@@ -2,10 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <thread>
 
 #include "platform/database/Recordset.h"
+#include "platform/system/Paths.h"
 #include "store/References.h"
 #include "store/SampleWords.h"
+#include "support/Books.h"
 #include "support/TemporaryFolder.h"
 
 namespace {
@@ -45,10 +48,22 @@ TEST(References, HoldEachZipCodeOnce) {
     EXPECT_EQ(states.size(), 51U);
 }
 
-TEST(References, AreNotMadeOverExistingOnes) {
+TEST(References, AreMadeOnceBySeveralProgramsAndStay) {
     const support::TemporaryFolder folder;
-    store::CreateReferences(folder.Path());
-    EXPECT_THROW(store::CreateReferences(folder.Path()), platform::Error);
+    {
+        std::vector<std::jthread> programs;
+        for (int i = 0; i < 4; ++i)
+            programs.emplace_back([&] { EXPECT_NO_THROW(store::CreateReferences(folder.Path())); });
+    }
+    const auto file = folder / store::kReferencesFile;
+    const std::string before = platform::ReadWholeFile(file);
+    EXPECT_NO_THROW(store::CreateReferences(folder.Path()));
+    EXPECT_EQ(platform::ReadWholeFile(file), before);
+    EXPECT_THROW(store::CreateReferences(folder / "missing"), platform::Error);
+    platform::Connection references;
+    references.Open(file, platform::OpenMode::ReadOnly);
+    EXPECT_EQ(support::Rows(references, "SELECT Count(*) FROM ZipCodes"),
+              std::vector{std::to_string(store::ZipCodes().size())});
 }
 
 } // namespace
