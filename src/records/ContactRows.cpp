@@ -6,21 +6,6 @@
 
 namespace records {
 
-namespace {
-
-core::RowToWrite ContactToWrite(std::int32_t idContact, const RelatedOwner& owner) {
-    core::RowToWrite contact("Contact", "IdContact", idContact);
-    if (contact.isNew) {
-        contact["dbType"].Set(owner.kind);
-        contact["IdRelated"].Set(owner.id);
-        contact["Description"].Set(platform::Value("New Contact"));
-        contact["IconFlag"].Set(std::int16_t{0});
-    }
-    return contact;
-}
-
-} // namespace
-
 std::vector<core::Choice> ListContacts(const RelatedOwner& owner) {
     platform::Recordset rows = core::Read(
         "SELECT IdContact, Description FROM Contact WHERE (IdRelated = ?) AND (dbType = ?) "
@@ -33,14 +18,21 @@ std::vector<core::Choice> ListContacts(const RelatedOwner& owner) {
     return contacts;
 }
 
-std::int32_t AddContact(const RelatedOwner& owner) {
-    core::RowToWrite contact = ContactToWrite(0, owner);
-    contact.row.Update();
-    return contact.id;
+core::RowToWrite OpenContact(std::int32_t idContact, const RelatedOwner& owner) {
+    core::RowToWrite contact("Contact", "IdContact", idContact);
+    if (contact.isNew) {
+        contact["dbType"].Set(owner.kind);
+        contact["IdRelated"].Set(owner.id);
+        contact["Description"].Set(platform::Value("New Contact"));
+        contact["IconFlag"].Set(std::int16_t{0});
+    }
+    return contact;
 }
 
-void OpenContact(platform::Recordset& row, std::int32_t idContact, const RelatedOwner& owner) {
-    row = ContactToWrite(idContact, owner).row;
+std::int32_t AddContact(const RelatedOwner& owner) {
+    core::RowToWrite contact = OpenContact(0, owner);
+    contact.row.Update();
+    return contact.id;
 }
 
 bool DeleteContact(std::int32_t idContact) {

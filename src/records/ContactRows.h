@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "core/ChoiceList.h"
-#include "platform/database/Recordset.h"
+#include "core/Rows.h"
 #include "records/RelatedLists.h"
 
 namespace records {
@@ -17,9 +17,9 @@ std::vector<core::Choice> ListContacts(const RelatedOwner& owner);
 /// Adds a contact and returns its id.
 std::int32_t AddContact(const RelatedOwner& owner);
 
-/// Opens a contact's row for writing; a contact deleted in the meantime is added again under its
-/// id.
-void OpenContact(platform::Recordset& row, std::int32_t idContact, const RelatedOwner& owner);
+/// Opens a contact's row for writing, or a new one's with id 0. A contact deleted in the meantime
+/// is added again under its id.
+core::RowToWrite OpenContact(std::int32_t idContact, const RelatedOwner& owner);
 
 /// Deletes a contact after asking; returns false if the user declines.
 bool DeleteContact(std::int32_t idContact);

@@ -1,7 +1,5 @@
 #include "records/OwnerLinkRules.h"
 
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/dialogs/Dialogs.h"
@@ -62,24 +60,34 @@ std::vector<std::string> OwnerErrors(const OwnerEntry& entry) {
     return lines;
 }
 
-void CheckOwnership(std::int32_t idBuilding, std::int32_t idOwnerLink, PrimaryMark mark) {
-    TellTotal(idBuilding);
-    if (mark == PrimaryMark::Yes) {
+PrimaryMark SettlePrimary(std::int32_t idBuilding, std::int32_t idBuildingBefore,
+                          std::int32_t idOwnerLink, PrimaryMark entered) {
+    if (idBuildingBefore != idBuilding && !HasPrimary(idBuildingBefore)) {
+        core::Execute(
+            "UPDATE OwnerLink SET IsPrimary = True WHERE IdOwnerLink = "
+            "(SELECT TOP 1 IdOwnerLink FROM OwnerLink WHERE IdBuilding = ?)",
+            {idBuildingBefore});
+    }
+    if (entered == PrimaryMark::Yes) {
         core::Execute(
             "UPDATE OwnerLink SET IsPrimary = False WHERE IdBuilding = ? AND IdOwnerLink <> ?",
             {idBuilding, idOwnerLink});
-        core::NotifyAll(core::kOwner, core::kRecordsChanged, 0);
-        return;
+        return PrimaryMark::Yes;
     }
-    if (HasPrimary(idBuilding)) return;
+    if (HasPrimary(idBuilding)) return PrimaryMark::No;
+    core::Execute("UPDATE OwnerLink SET IsPrimary = True WHERE IdOwnerLink = ?", {idOwnerLink});
+    return PrimaryMark::ByDefault;
+}
+
+void TellOwnership(std::int32_t idBuilding, PrimaryMark mark) {
+    TellTotal(idBuilding);
+    if (mark != PrimaryMark::ByDefault) return;
     platform::TheDialogs().ShowMessage(
         "Note:",
         "There are no other owners for this building specified as primary, so this\n"
         "one will automatically be set as primary. If you add another owner and set\n"
         "it as primary this will be overridden.",
         platform::Icon::Information);
-    core::Execute("UPDATE OwnerLink SET IsPrimary = True WHERE IdOwnerLink = ?", {idOwnerLink});
-    core::NotifyAll(core::kOwner, core::kRecordsChanged, 0);
 }
 
 } // namespace records

@@ -17,11 +17,18 @@ struct OwnerEntry {
 /// Returns the errors in the entries, a line each; empty if they can be saved.
 std::vector<std::string> OwnerErrors(const OwnerEntry& entry);
 
-enum class PrimaryMark { No, Yes };
+/// Whether an owner is a building's primary one: as entered, or because no other is.
+enum class PrimaryMark { No, Yes, ByDefault };
 
-/// Called after an owner is saved. Warns if the building's owners don't add up to 100 %, and leaves
-/// exactly one of them primary: the saved one if it is marked, or if no other owner is; the user is
-/// told in the latter case. Throws on failure.
-void CheckOwnership(std::int32_t idBuilding, std::int32_t idOwnerLink, PrimaryMark mark);
+/// Leaves exactly one of the building's owners primary: the saved one if it is marked, or if no
+/// other is. `idBuildingBefore` is the building that the owner was saved with before, 0 for a new
+/// one; if it has lost its primary owner, its first becomes primary. Returns the saved one's mark.
+/// Called within the unit of work that saves the owner.
+PrimaryMark SettlePrimary(std::int32_t idBuilding, std::int32_t idBuildingBefore,
+                          std::int32_t idOwnerLink, PrimaryMark entered);
+
+/// Tells the user after the save if the building's owners don't add up to 100 %, or if the saved
+/// one was made primary by default.
+void TellOwnership(std::int32_t idBuilding, PrimaryMark mark);
 
 } // namespace records

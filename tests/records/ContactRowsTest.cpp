@@ -39,10 +39,10 @@ TEST_F(ContactRows, AreListedByDescriptionForTheirKindOfRecordAlone) {
 }
 
 TEST_F(ContactRows, OneThatHasGoneComesBackUnderItsNumber) {
-    platform::Recordset row;
-    records::OpenContact(row, 77, smith_);
-    row["Phone"].Set(platform::Value("555"));
-    row.Update();
+    core::RowToWrite contact = records::OpenContact(77, smith_);
+    EXPECT_TRUE(contact.isNew);
+    contact["Phone"].Set(platform::Value("555"));
+    contact.row.Update();
     EXPECT_EQ(Ask("SELECT IdRelated & ' ' & Phone FROM Contact WHERE IdContact = 77"), "30 555");
 }
 

@@ -74,17 +74,27 @@ void Contacts::Load(std::int16_t dbType, std::int32_t idRelated) {
     FillContacts(selected);
 }
 
-void Contacts::SaveCurrent() {
+void Contacts::Write() const {
     if (!changed_ || id_ == 0) return;
-    platform::Recordset row;
-    OpenContact(row, id_, owner_);
-    fields_.Write(*ui_->fields, row, core::binding::WriteFields::Touched);
-    row.Update();
+    using core::binding::WriteFields;
+    core::RowToWrite contact = OpenContact(id_, owner_);
+    fields_.Write(*ui_->fields, contact.row,
+                  contact.isNew ? WriteFields::All : WriteFields::Touched);
+    contact.row.Update();
+}
+
+void Contacts::NoteWritten() {
+    if (!changed_) return;
     changed_ = false;
     for (int i = 0; i < ui_->lvwContacts->count(); ++i) {
         QListWidgetItem* const item = ui_->lvwContacts->item(i);
         if (IdOf(item) == id_) item->setText(ui_->txtDescription->text());
     }
+}
+
+void Contacts::SaveCurrent() {
+    Write();
+    NoteWritten();
 }
 
 void Contacts::Add() {
@@ -136,9 +146,8 @@ void Contacts::ShowCurrent() {
     ui_->cmdDelete->setEnabled(id_ != 0);
     Guarded([this] {
         if (id_ == 0) return;
-        platform::Recordset row;
-        OpenContact(row, id_, owner_);
-        fields_.Show(*ui_->fields, row);
+        core::RowToWrite contact = OpenContact(id_, owner_);
+        fields_.Show(*ui_->fields, contact.row);
     });
     changed_ = false;
     showing_ = false;

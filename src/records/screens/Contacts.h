@@ -25,8 +25,10 @@ class Contacts : public QWidget {
 
     /// Shows the contacts of a record of kind `dbType`; the panel is disabled if it has no id yet.
     void Load(std::int16_t dbType, std::int32_t idRelated);
-    /// Saves the changed fields. Throws on failure, and the changes stay on the screen.
-    void SaveCurrent();
+    /// Writes the changed fields within the unit of work that saves the record. Throws on failure.
+    /// The changes count as saved once NoteWritten is called after the unit of work.
+    void Write() const;
+    void NoteWritten();
 
   Q_SIGNALS:
     /// Emitted if the fields hold something that isn't saved yet.
@@ -34,6 +36,7 @@ class Contacts : public QWidget {
 
   private:
     void Wire();
+    void SaveCurrent();
     void Add();
     void Remove();
     void MoveTo(QListWidgetItem* to);

@@ -1,9 +1,12 @@
 #include "records/screens/frmOwnerLink.h"
 
+#include "core/Globals.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/binding/ComboList.h"
+#include "platform/database/Connection.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
-#include "records/OwnerLinkRules.h"
 #include "ui_frmOwnerLink.h"
 
 namespace records::screens {
@@ -37,9 +40,20 @@ std::vector<std::string> frmOwnerLink::Errors() {
                         platform::qt::FromScreen(ui_->txtPctOwned->text())});
 }
 
+/// The owner and the marks of the building's other owners are saved in one unit of work.
+void frmOwnerLink::Store() {
+    platform::UnitOfWork unit(core::App().Connection);
+    const auto before = platform::AsOr0<std::int32_t>(
+        core::ReadValue("SELECT IdBuilding FROM OwnerLink WHERE IdOwnerLink = ?", {Id()}));
+    RecordForm::Store();
+    mark_ = SettlePrimary(GetSelectedId(*ui_->cboBuilding), before, Id(),
+                          ui_->chkIsPrimary->isChecked() ? PrimaryMark::Yes : PrimaryMark::No);
+    unit.Commit();
+}
+
 void frmOwnerLink::AfterSave() {
-    CheckOwnership(GetSelectedId(*ui_->cboBuilding), Id(),
-                   ui_->chkIsPrimary->isChecked() ? PrimaryMark::Yes : PrimaryMark::No);
+    TellOwnership(GetSelectedId(*ui_->cboBuilding), mark_);
+    mark_ = PrimaryMark::No;
 }
 
 void frmOwnerLink::Refresh(std::int16_t kind) {

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/forms/RecordForm.h"
+#include "records/OwnerLinkRules.h"
 
 namespace Ui {
 class frmOwnerLink;
@@ -25,11 +26,13 @@ class frmOwnerLink : public core::forms::RecordForm {
   protected:
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
+    void Store() override;
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
 
   private:
     std::unique_ptr<Ui::frmOwnerLink> ui_;
+    PrimaryMark mark_ = PrimaryMark::No; ///< of the owner that was saved last
 };
 
 } // namespace records::screens

@@ -164,6 +164,29 @@ TEST_F(AccountTest, ContactsOpenWithTheFirstSaveAndAreSavedWithTheAccount) {
     EXPECT_EQ(Find<QListWidget>(contacts, "lvwContacts").currentRow(), 0);
 }
 
+TEST_F(AccountTest, IsSavedWithItsContactOrNotAtAll) {
+    Run("INSERT INTO Contact (IdContact, dbType, IdRelated, Description, Phone) "
+        "VALUES (500, 1, 60, 'Boss', '1')");
+    const auto form = Open(60);
+    Type(Box(*form, "txtCompany"), "Ace");
+    auto& mobile = Find<QLineEdit>(Find<QWidget>(*form, "ucContacts"), "txtMobile");
+    Type(mobile, "555");
+    platform::Connection& books = core::App().Connection;
+    books.RunScript(
+        "CREATE TRIGGER full BEFORE UPDATE ON Contact "
+        "BEGIN SELECT RAISE(ABORT, 'disk full'); END;");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard().size(), 1U);
+    EXPECT_NE(Ask("SELECT Company FROM Account WHERE IdAccount = 60"), "Ace");
+    EXPECT_TRUE(form->Dirty());
+    books.RunScript("DROP TRIGGER full;");
+    // Another program has deleted the contact: it comes back whole.
+    Run("DELETE FROM Contact");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Company FROM Account WHERE IdAccount = 60"), "Ace");
+    EXPECT_EQ(Ask("SELECT Description & ' ' & Phone & ' ' & Mobile FROM Contact"), "Boss 1 555");
+}
+
 TEST_F(AccountTest, LooksAndReadsRight) {
     Run("UPDATE Account SET Company = 'River Bank', AccountNumber = '4711-0815', Phone = "
         "'503-555-0100', Email = 'desk@river.example', Address1 = '1 Main St', City = 'Salem', "

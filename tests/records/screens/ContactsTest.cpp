@@ -19,10 +19,9 @@ class ContactsTest : public ScreenTest {
         panel_.Load(core::kTenant, 30);
     }
     static void AddRow(int id, int tenant, const std::string& description) {
-        platform::Recordset row;
-        records::OpenContact(row, id, {core::kTenant, tenant});
-        row["Description"].Set(platform::Value(description));
-        row.Update();
+        core::RowToWrite contact = records::OpenContact(id, {core::kTenant, tenant});
+        contact["Description"].Set(platform::Value(description));
+        contact.row.Update();
     }
     QLineEdit& Box(const char* name) { return Find<QLineEdit>(panel_, name); }
     QListWidget& List() { return Find<QListWidget>(panel_, "lvwContacts"); }
@@ -78,7 +77,8 @@ TEST_F(ContactsTest, MovingToAnotherSavesWhatWasChanged) {
 TEST_F(ContactsTest, SavesWithItsRecordAndKeepsItsPlace) {
     List().setCurrentRow(1);
     Type(Box("txtDescription"), "Aunt");
-    panel_.SaveCurrent();
+    panel_.Write();
+    panel_.NoteWritten();
     EXPECT_EQ(Listed(), "Boss|*Aunt");
     panel_.Load(core::kTenant, 30);
     EXPECT_EQ(Listed(), "*Aunt|Boss") << "sorted again";
@@ -121,7 +121,8 @@ TEST_F(ContactsTest, WhatCantBeWrittenStaysOnTheScreen) {
     SettleEvents();
     EXPECT_EQ(Listed(), "*Boss|Mother");
     EXPECT_EQ(Box("txtPhone").text(), QStringLiteral("555"));
-    panel_.SaveCurrent();
+    panel_.Write();
+    panel_.NoteWritten();
     EXPECT_EQ(Ask("SELECT Phone FROM Contact WHERE IdContact = 501"), "555");
 }
 

@@ -210,7 +210,7 @@ TEST_F(OwnerLinkTest, EnterSavesAndCloses) {
     EXPECT_FALSE(form->isVisible());
 }
 
-TEST_F(OwnerLinkTest, TellsOthersBeforeItChecksTheOwnership) {
+TEST_F(OwnerLinkTest, TellsOthersOnceTheOwnershipIsSettled) {
     Said order;
     const core::NotifyToken token([&](std::int16_t kind, std::int16_t action, std::int32_t id) {
         order.push_back(std::to_string(kind) + " " + std::to_string(action) + " " +
@@ -219,7 +219,37 @@ TEST_F(OwnerLinkTest, TellsOthersBeforeItChecksTheOwnership) {
     const auto form = Open();
     Enter(*form, "Jo Owner", "100");
     ClickAction(*form, "APPLY");
-    EXPECT_EQ(order, (Said{"15 1 0, primaries 0", "15 1 0, primaries 1"}));
+    EXPECT_EQ(order, Said{"15 1 0, primaries 1"});
+}
+
+TEST_F(OwnerLinkTest, IsSavedWithTheMarksOfTheOthersOrNotAtAll) {
+    AddLink(500, 61, 60, true);
+    // Fails on the second row that the save writes.
+    core::App().Connection.RunScript(
+        "CREATE TRIGGER full BEFORE UPDATE OF IsPrimary ON OwnerLink WHEN OLD.IdOwnerLink = 500 "
+        "BEGIN SELECT RAISE(ABORT, 'disk full'); END;");
+    const auto form = Open();
+    Enter(*form, "Jo Owner", "40");
+    Find<QCheckBox>(*form, "chkIsPrimary").click();
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard().size(), 1U);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM OwnerLink"), "1");
+    EXPECT_TRUE(form->Dirty());
+    core::App().Connection.RunScript("DROP TRIGGER full;");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT Count(*) FROM OwnerLink"), "2");
+    EXPECT_EQ(Primaries(), "1");
+}
+
+TEST_F(OwnerLinkTest, APrimaryThatMovesLeavesAnotherBehind) {
+    AddLink(500, 61, 60, true);
+    AddLink(501, 62, 40, false);
+    const auto form = Open(500);
+    Choose(*form, "cboBuilding", "Oak Rd");
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Ask("SELECT IsPrimary FROM OwnerLink WHERE IdOwnerLink = 501"), "True");
+    EXPECT_EQ(Ask("SELECT IdBuilding FROM OwnerLink WHERE IdOwnerLink = 500"), "11");
+    EXPECT_EQ(Primaries(), "2");
 }
 
 TEST_F(OwnerLinkTest, HearsOfNewBuildingsAndOwnersAndStaysClean) {
