@@ -19,6 +19,11 @@ bool TakesEveryPress(const QAbstractButton& button) {
     return false;
 }
 
+bool IsGuardedButton(const QObject& watched) {
+    const auto* const button = qobject_cast<const QAbstractButton*>(&watched);
+    return button != nullptr && !TakesEveryPress(*button);
+}
+
 /// Whether a key that stays down would give the same command again: to the default button of a
 /// dialog, or to the row that a list has moved on to.
 bool RepeatsCommand(const QObject& watched, int key) {
@@ -39,17 +44,27 @@ class PressGuard : public QObject {
     }
 
   private:
-    /// The release that follows the second press of a double click clicks nothing, as the button
-    /// isn't down.
-    static bool IsSecondPress(const QObject& watched, const QEvent& event) {
-        if (event.type() == QEvent::MouseButtonDblClick) {
-            const auto* const button = qobject_cast<const QAbstractButton*>(&watched);
-            return button != nullptr && !TakesEveryPress(*button);
+    bool IsSecondPress(const QObject& watched, const QEvent& event) {
+        switch (event.type()) {
+            case QEvent::MouseButtonDblClick:
+                // The release that follows clicks nothing, as the button isn't down.
+                return IsGuardedButton(watched);
+            case QEvent::ShortcutOverride:
+                isHeld_ = static_cast<const QKeyEvent&>(event).isAutoRepeat();
+                return false;
+            case QEvent::Shortcut:
+                // Doesn't say itself whether its key was held, but always follows the key's event.
+                return isHeld_ && IsGuardedButton(watched);
+            case QEvent::KeyPress: {
+                const auto& key = static_cast<const QKeyEvent&>(event);
+                return key.isAutoRepeat() && RepeatsCommand(watched, key.key());
+            }
+            default:
+                return false;
         }
-        if (event.type() != QEvent::KeyPress) return false;
-        const auto& key = static_cast<const QKeyEvent&>(event);
-        return key.isAutoRepeat() && RepeatsCommand(watched, key.key());
     }
+
+    bool isHeld_ = false;
 };
 
 } // namespace

@@ -7,8 +7,8 @@ namespace platform::qt {
 inline constexpr const char* kTakesEveryPress = "takesEveryPress";
 
 /// Lets no second press act that wasn't meant as one, in all windows of the process: a double click
-/// presses a button once, and a held key opens, adds, deletes or presses once. Calling it again
-/// does nothing.
+/// presses a button once, and a held key opens, adds, deletes or presses once, and so does the
+/// held letter of a button's caption. Calling it again does nothing.
 void GuardPresses();
 
 } // namespace platform::qt

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -81,6 +82,32 @@ TEST_F(Presses, OfAHeldKeyGiveItsCommandOnce) {
     const QSignalSpy opened(&list_, &QListWidget::itemActivated);
     Hold(list_, Qt::Key_Return);
     EXPECT_EQ(opened.count(), 1);
+}
+
+TEST_F(Presses, OfAHeldLetterOfACaptionAreOneClick) {
+    QPushButton pages(QStringLiteral("&Page"), &dialog_);
+    pages.setProperty(platform::qt::kTakesEveryPress, true);
+    pages.show();
+    ok_.setText(QStringLiteral("&Save"));
+    dialog_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog_));
+    box_.setFocus();
+    struct Row {
+        const QAbstractButton* button;
+        Qt::Key letter;
+        int clicks;
+    };
+    for (const Row& row : {Row{&ok_, Qt::Key_S, 1}, Row{&pages, Qt::Key_P, 3}}) {
+        const QSignalSpy clicks(row.button, &QAbstractButton::clicked);
+        for (const bool isRepeat : {false, true, true}) {
+            QTest::simulateEvent(&dialog_, true, row.letter, Qt::AltModifier, {}, isRepeat);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !row.button->isDown(); }));
+        }
+        EXPECT_EQ(clicks.count(), row.clicks);
+    }
+    const QSignalSpy clicks(&ok_, &QAbstractButton::clicked);
+    QTest::keyClick(&dialog_, Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return clicks.count() == 1; })) << "pressed again";
 }
 
 } // namespace
