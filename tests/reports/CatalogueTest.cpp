@@ -8,10 +8,9 @@
 #include "reports/ReportMenus.h"
 #include "reports/ReportsFixture.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 using reports::RecordForm;
 using reports::ReportDef;
 using reports::ReportKind;
@@ -159,5 +158,3 @@ TEST_F(Catalogue, FillsTheMenusOfForms) {
 }
 
 } // namespace
-
-} // namespace tests

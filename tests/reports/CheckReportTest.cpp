@@ -5,8 +5,6 @@
 
 #include "reports/CheckReport.h"
 
-namespace tests {
-
 namespace {
 
 /// The faults of a definition as "line: text".
@@ -77,5 +75,3 @@ TEST(ReportCheck, FindsCommandsWithoutEffect) {
 }
 
 } // namespace
-
-} // namespace tests

@@ -1,10 +1,9 @@
 #include "platform/database/Recordset.h"
 #include "reports/ReportsFixture.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -210,5 +209,3 @@ TEST_F(DataSection, ShowsAMortgagesSchedule) {
 }
 
 } // namespace
-
-} // namespace tests

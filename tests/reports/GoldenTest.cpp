@@ -1,27 +1,18 @@
 #include <filesystem>
-#include <fstream>
 
 #include "core/Configuration.h"
 #include "core/Settings.h"
 #include "platform/system/Paths.h"
 #include "reports/ReportsFixture.h"
 #include "reports/WriteReport.h"
-
-namespace tests {
+#include "support/Golden.h"
 
 namespace {
 
+using namespace tests;
 namespace fs = std::filesystem;
 
-/// Compares with expected/NAME. The output is in actual/NAME of the build's test folder: to
-/// renew the expectation, look at it and copy it.
-void ExpectGolden(const std::string& name, const std::string& text) {
-    fs::create_directories("actual");
-    std::ofstream("actual/" + name, std::ios::binary) << text;
-    const fs::path expected = fs::path(VESTREL_TEST_DATA) / "expected" / name;
-    ASSERT_TRUE(fs::exists(expected)) << "see " << fs::absolute("actual/" + name);
-    EXPECT_EQ(text, platform::ReadWholeFile(expected)) << "see " << fs::absolute("actual/" + name);
-}
+using support::ExpectGolden;
 
 class Golden : public Reports {
   protected:
@@ -102,5 +93,3 @@ TEST_F(Golden, BadInputGivesADocument) {
 }
 
 } // namespace
-
-} // namespace tests

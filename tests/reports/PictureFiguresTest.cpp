@@ -8,10 +8,9 @@
 
 // Each figure of the home page's picture is the one of the report that opens behind it.
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 using platform::Currency;
 using platform::FormatMoney;
 
@@ -47,17 +46,10 @@ TEST_F(PictureFigures, RentIsThatOfTheMonthInItsReport) {
     EXPECT_EQ(picture_.rent.collected, Amount(flow, "June", 2));
 
     // And the report adds up the rows of the ledgers.
-    Currency charged;
-    Currency collected;
-    for (const Row& row : Rows("RentLog")) {
-        const bool isRent = Id(row, "Class") == 1 || Id(row, "Class") == 2;
-        if (!isRent || Day(row, "DatePosted").Year() != 2026) continue;
-        if (Id(row, "Flags") == 2) {
-            collected -= Money(row, "Amount");
-        } else {
-            charged += Money(row, "Amount");
-        }
-    }
+    const std::string ofRent =
+        "FROM RentLog WHERE Class IN (1, 2) AND Year(DateValue(DatePosted)) = 2026 AND Flags ";
+    const Currency charged = Sum("SELECT Sum(Amount) " + ofRent + "<> 2");
+    const Currency collected = -Sum("SELECT Sum(Amount) " + ofRent + "= 2");
     EXPECT_EQ(Amount(flow, "Charged"), charged);
     EXPECT_EQ(Amount(flow, "Collected"), collected);
     EXPECT_EQ(Amount(flow, "More charged than collected"), charged - collected);
@@ -99,5 +91,3 @@ TEST_F(PictureFigures, DebtsAreTheFirstOfTheirReport) {
 }
 
 } // namespace
-
-} // namespace tests

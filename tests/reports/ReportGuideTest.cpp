@@ -4,9 +4,9 @@
 #include "reports/CheckReport.h"
 #include "reports/ReportsFixture.h"
 
-namespace tests {
-
 namespace {
+
+using namespace tests;
 
 /// The definitions that the page on report files shows: the blocks after "```rpt".
 std::vector<std::string> Examples() {
@@ -60,5 +60,3 @@ TEST_F(ReportGuide, ShowsDefinitionsThatWork) {
 }
 
 } // namespace
-
-} // namespace tests

@@ -8,10 +8,9 @@
 #include "reports/ReportsFixture.h"
 #include "reports/ViewerSettings.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 using reports::DateRange;
 using testing::ElementsAre;
 
@@ -156,5 +155,3 @@ TEST_F(ReportRuns, KeepsTheViewersSettings) {
 }
 
 } // namespace
-
-} // namespace tests

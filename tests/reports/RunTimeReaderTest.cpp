@@ -7,10 +7,9 @@
 #include "reports/clsRptData.h"
 #include "reports/clsRptText.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 using reports::ReadReport;
 using reports::ReportFile;
 
@@ -119,5 +118,3 @@ TEST_F(RunTimeReader, ReadsFilesAsPeopleSaveThem) {
 }
 
 } // namespace
-
-} // namespace tests

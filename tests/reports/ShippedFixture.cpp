@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/Configuration.h"
-#include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Conversions.h"
@@ -87,40 +86,9 @@ FlowLines Shipped::Run(const std::string& file) {
     return flow;
 }
 
-std::vector<Row> Shipped::Rows(const std::string& table) {
-    std::vector<Row> all;
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, "SELECT * FROM " + table);
-    for (; !rows.Eof(); rows.MoveNext()) {
-        Row& row = all.emplace_back();
-        for (std::size_t i = 0; i < rows.FieldCount(); ++i)
-            row[rows[i].Name()] = rows[i].Value();
-    }
-    return all;
-}
-
-Currency Shipped::Money(const Row& row, const char* field) {
-    const platform::Value& value = row.at(field);
-    return value.IsNull() ? Currency() : value.AsCurrency();
-}
-
-std::int32_t Shipped::Id(const Row& row, const char* field) {
-    const platform::Value& value = row.at(field);
-    return value.IsNull() ? 0 : value.AsLong();
-}
-
-double Shipped::Number(const Row& row, const char* field) {
-    const platform::Value& value = row.at(field);
-    return value.IsNull() ? 0 : value.AsDouble();
-}
-
-std::string Shipped::Text(const Row& row, const char* field) {
-    const platform::Value& value = row.at(field);
-    return value.IsNull() ? std::string() : value.AsText();
-}
-
-Date Shipped::Day(const Row& row, const char* field) {
-    return Date::Parse(Text(row, field));
+Currency Shipped::Sum(const std::string& sql) {
+    const auto value = core::App().Connection.Scalar(sql);
+    return !value || value->IsNull() ? Currency() : value->AsCurrency();
 }
 
 std::vector<Currency> Shipped::Amounts(const FlowLines& flow, std::string_view label,
@@ -171,6 +139,21 @@ Currency Shipped::Total(const FlowLines& flow, std::string_view line) {
     }
     ADD_FAILURE() << "no line " << line;
     return {};
+}
+
+Currency Shipped::Figure(const FlowLines& flow, std::string_view place) {
+    if (const auto minus = place.rfind(" - "); minus != std::string_view::npos)
+        return Figure(flow, place.substr(0, minus)) - Figure(flow, place.substr(minus + 3));
+    if (const auto plus = place.rfind(" + "); plus != std::string_view::npos)
+        return Figure(flow, place.substr(0, plus)) + Figure(flow, place.substr(plus + 3));
+    if (place.starts_with("p ")) return Total(flow, place);
+    const auto mark = place.find_first_of("#@");
+    const std::string_view name = place.substr(0, mark);
+    if (mark == std::string_view::npos) return Amount(flow, name);
+    const std::string column(place.substr(mark + 1));
+    if (place[mark] == '@') return Amount(flow, name, std::stoul(column));
+    if (!column.empty()) return ColumnSum(flow, name, std::stoul(column));
+    return Currency::FromUnits(static_cast<std::int64_t>(TableRows(flow, name).size()));
 }
 
 } // namespace tests

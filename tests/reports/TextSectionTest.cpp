@@ -1,10 +1,9 @@
 #include "core/Configuration.h"
 #include "reports/ReportsFixture.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 using testing::ElementsAre;
 
 class TextSection : public Reports {
@@ -170,5 +169,3 @@ TEST_F(TextSection, PutsShapesOnTheGridOfThePage) {
 }
 
 } // namespace
-
-} // namespace tests
