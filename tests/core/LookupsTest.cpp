@@ -2,13 +2,11 @@
 
 #include <gmock/gmock.h>
 
-#include <memory>
-
 #include "core/NotifyAll.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordsFixture.h"
 #include "core/References.h"
-#include "platform/dialogs/Desktop.h"
+#include "support/KeepingDesktop.h"
 
 namespace {
 
@@ -75,20 +73,6 @@ TEST_F(Lookups, FiguresOfARecordCountWhatIsUnsetAsZero) {
     EXPECT_EQ(core::GetUnitRent(99), platform::Currency());
 }
 
-class Browser : public platform::Desktop {
-  public:
-    explicit Browser(std::vector<std::string>& pages) : pages_(pages) {}
-    bool OpenWebPage(std::string_view address) override {
-        pages_.emplace_back(address);
-        return true;
-    }
-    bool WriteMail(std::string_view /*address*/) override { return false; }
-    bool OpenDocument(std::string_view /*file*/) override { return false; }
-
-  private:
-    std::vector<std::string>& pages_;
-};
-
 TEST_F(References, FindPlacesAndTaxPages) {
     EXPECT_EQ(core::ZipLookup("97301"), std::nullopt);
     {
@@ -119,14 +103,12 @@ TEST_F(References, FindPlacesAndTaxPages) {
         EXPECT_EQ(place ? place->city : "-", c.city) << c.zip;
     }
 
-    std::vector<std::string> pages;
-    platform::SetDesktop(std::make_unique<Browser>(pages));
+    const support::KeepingDesktop desktop;
     core::GetTaxUrl("R-7", "prince george's", "MD");
     core::GetTaxUrl("R-7", "Lane", "Oregon");
     core::GetTaxUrl("R-7", "Lane", "MD");
     core::GetTaxUrl("R-7", "", "");
-    platform::SetDesktop(nullptr);
-    EXPECT_THAT(pages, testing::ElementsAre("http://md/R-7?R-7", "http://or"));
+    EXPECT_THAT(desktop.Opened(), testing::ElementsAre("http://md/R-7?R-7", "http://or"));
 }
 
 } // namespace

@@ -5,10 +5,9 @@
 #include "core/ShippedFiles.h"
 #include "platform/system/Paths.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 namespace fs = std::filesystem;
 
 class ShippedFiles : public CoreProcess {
@@ -93,5 +92,3 @@ TEST_F(ShippedFiles, AreInstalledBesideOneThatCannotBe) {
 }
 
 } // namespace
-
-} // namespace tests

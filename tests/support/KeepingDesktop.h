@@ -9,7 +9,8 @@
 
 namespace support {
 
-/// Stands for the desktop while it lives: keeps the documents that it was asked to open.
+/// Stands for the desktop while it lives: keeps the documents and web pages that it was asked to
+/// open.
 class KeepingDesktop {
   public:
     /// `takes`: whether there is a program for them.
@@ -30,14 +31,15 @@ class KeepingDesktop {
       public:
         Seam(std::shared_ptr<std::vector<std::string>> opened, bool takes)
             : opened_(std::move(opened)), takes_(takes) {}
-        bool OpenWebPage(std::string_view) override { return false; }
+        bool OpenWebPage(std::string_view address) override { return Keep(address); }
         bool WriteMail(std::string_view) override { return false; }
-        bool OpenDocument(std::string_view file) override {
-            opened_->emplace_back(file);
-            return takes_;
-        }
+        bool OpenDocument(std::string_view file) override { return Keep(file); }
 
       private:
+        bool Keep(std::string_view opened) {
+            opened_->emplace_back(opened);
+            return takes_;
+        }
         std::shared_ptr<std::vector<std::string>> opened_;
         bool takes_;
     };

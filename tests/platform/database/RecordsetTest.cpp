@@ -114,15 +114,6 @@ TEST_F(RecordsetTest, ReadsValuesThatAreStoredInAnotherForm) {
         EXPECT_THROW(rows[field].AsDouble(), FieldError) << field;
 }
 
-TEST_F(RecordsetTest, ADateThatTheStatementMakesIsADay) {
-    connection_.Execute("INSERT INTO Person (Id, Name) VALUES (1, '02/29/2024')");
-    Recordset rows;
-    rows.Open(connection_, "SELECT Name, DateValue(Name) AS Born FROM Person");
-    EXPECT_EQ(rows["Name"].Type(), FieldType::Text);
-    EXPECT_EQ(rows["Born"].Type(), FieldType::Date);
-    EXPECT_EQ(rows["Born"].Value(), Value(Date(2024, 2, 29)));
-}
-
 TEST_F(RecordsetTest, HoldsMoreRowsThanACountOf16Bits) {
     UnitOfWork unit(connection_);
     for (int id = 1; id <= 40'000; ++id)

@@ -205,17 +205,6 @@ TEST_F(Surface, SetsACaptionIntoASeparatorLine) {
               "line 2000,2040 10800,2040 pen 10 #000000\n");
 }
 
-TEST_F(Surface, TurnsTextAboutItsUpperLeftCorner) {
-    Start();
-    surface.Style().textAngle = 2'700;
-    surface.MoveTo(5'000, 3'000);
-    surface.TextAt("down");
-    surface.EndDoc();
-    EXPECT_EQ(DescribePage(document.Page(0)),
-              "page 12240x15840\n"
-              "text 4820,3000-4820 face 0 10pt #000000 angle 2700 \"down\"\n");
-}
-
 TEST_F(Surface, SharesTheWidthThatIsLeftAndScalesWhatIsTooWide) {
     surface.Style().cellInset = 0;
     Start();

@@ -15,49 +15,41 @@
 #include "platform/printing/RtfWriter.h"
 #include "platform/printing/TextWriter.h"
 #include "platform/system/Paths.h"
+#include "support/Golden.h"
 
 namespace platform {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// Compares with expected/NAME. The output is in actual/NAME of the build's test folder: to
-/// renew the expectation, look at it and copy it.
-void ExpectGolden(const std::string& name, const std::string& text) {
-    fs::create_directories("actual");
-    std::ofstream("actual/" + name, std::ios::binary) << text;
-    const fs::path expected = fs::path(VESTREL_TEST_DATA) / "expected" / name;
-    ASSERT_TRUE(fs::exists(expected)) << "see " << fs::absolute("actual/" + name);
-    EXPECT_EQ(text, ReadWholeFile(expected)) << "see " << fs::absolute("actual/" + name);
-}
-
+/// The text that a writer gives a drawing.
 template <typename Writer>
-std::string SampleBy() {
+std::string By(const std::function<void(PrintSurface&)>& draw) {
     StringSink sink;
     Writer writer(sink);
     FixedMetrics metrics;
     PrintSurface surface(metrics, nullptr, &writer);
-    testing::AddSampleStyles(surface);
-    testing::DrawSample(surface);
+    draw(surface);
     return sink.Text();
 }
 
-TEST(Writers, MakeTheSampleOfEachKind) {
-    ExpectGolden("sample.html", SampleBy<HtmlWriter>());
-    ExpectGolden("sample.rtf", SampleBy<RtfWriter>());
-    ExpectGolden("sample.txt", SampleBy<TextWriter>());
+void Sample(PrintSurface& surface) {
+    testing::AddSampleStyles(surface);
+    testing::DrawSample(surface);
 }
 
-TEST(Writers, MakeThePagesOfTheSample) {
+TEST(Writers, MakeTheSampleOfEachKind) {
+    support::ExpectGolden("sample.html", By<HtmlWriter>(Sample));
+    support::ExpectGolden("sample.rtf", By<RtfWriter>(Sample));
+    support::ExpectGolden("sample.txt", By<TextWriter>(Sample));
     FixedMetrics metrics;
     PrintedDocument document;
     PrintSurface surface(metrics, &document, nullptr);
-    testing::AddSampleStyles(surface);
-    testing::DrawSample(surface);
+    Sample(surface);
     std::string pages;
     for (std::size_t i = 0; i < document.PageCount(); ++i)
         pages += DescribePage(document.Page(i));
-    ExpectGolden("sample.pages", pages);
+    support::ExpectGolden("sample.pages", pages);
 }
 
 TEST(PackPage, GivesBackWhatWasPacked) {
@@ -75,8 +67,7 @@ TEST(PackPage, GivesBackWhatWasPacked) {
     } check;
     FixedMetrics metrics;
     PrintSurface surface(metrics, &check, nullptr);
-    testing::AddSampleStyles(surface);
-    testing::DrawSample(surface);
+    Sample(surface);
     EXPECT_EQ(DescribePage(UnpackPage(PackPage({}))), "page 0x0\n");
 }
 
@@ -84,28 +75,24 @@ TEST(Writers, WriteAHeldFlowAsTheyWriteALiveOne) {
     FixedMetrics metrics;
     DocumentFlow flow;
     PrintSurface surface(metrics, nullptr, &flow);
-    testing::AddSampleStyles(surface);
-    testing::DrawSample(surface);
+    Sample(surface);
     StringSink sink;
     RtfWriter writer(sink);
     flow.WriteTo(writer);
-    EXPECT_EQ(sink.Text(), SampleBy<RtfWriter>());
+    EXPECT_EQ(sink.Text(), By<RtfWriter>(Sample));
 }
 
 /// A table of two columns, with a header row and three rows, by a writer.
 template <typename Writer>
 std::string TableBy(const std::function<void(PrintTable&)>& set, std::string_view header = "H|I") {
-    StringSink sink;
-    Writer writer(sink);
-    FixedMetrics metrics;
-    PrintSurface surface(metrics, nullptr, &writer);
-    surface.StartDoc();
-    surface.StartTable();
-    surface.AddTable("<100|>100", header, "a|1.00;b|(2.00);c|3.00");
-    set(surface.Table());
-    surface.EndTable();
-    surface.EndDoc();
-    return sink.Text();
+    return By<Writer>([&](PrintSurface& surface) {
+        surface.StartDoc();
+        surface.StartTable();
+        surface.AddTable("<100|>100", header, "a|1.00;b|(2.00);c|3.00");
+        set(surface.Table());
+        surface.EndTable();
+        surface.EndDoc();
+    });
 }
 
 /// The edges with a line of each row's cells: "tl,tr/b,b" for top and left, top and right, ...
@@ -159,16 +146,13 @@ TEST(Writers, KeepAColumnOfAmountsBoldInHtml) {
 /// A table of one row without a header, by a writer.
 template <typename Writer>
 std::string RowBy(std::string_view format, std::string_view row) {
-    StringSink sink;
-    Writer writer(sink);
-    FixedMetrics metrics;
-    PrintSurface surface(metrics, nullptr, &writer);
-    surface.StartDoc();
-    surface.StartTable();
-    surface.AddTable(format, "", row);
-    surface.EndTable();
-    surface.EndDoc();
-    return sink.Text();
+    return By<Writer>([&](PrintSurface& surface) {
+        surface.StartDoc();
+        surface.StartTable();
+        surface.AddTable(format, "", row);
+        surface.EndTable();
+        surface.EndDoc();
+    });
 }
 
 // Then the totals of a table of many months stay below their months on a phone.
