@@ -57,6 +57,8 @@ TEST_F(ScheduledEvents, PostTheirTransactionAndTellOfIt) {
              "IdUnit, IdMortgage, IdWorkOrder",
              "1, 3, 1, '04/17/2024', 40, 30, 10, 20, 50, 9");
     Run("UPDATE Account SET ShowAs = 'The River Bank of the City of Salem' WHERE IdAccount = 60");
+    AddTriggered(8, 1, 60, "Supplies"); // a scheduled event starts no triggered one
+    AddTriggered(9, 1, 62, "Supplies");
     const Heard heard = RunAll();
     EXPECT_EQ(heard.posted, Lines{"19 7 Event 7: Supplies 05/17/2024 25"});
     EXPECT_EQ(heard.failed, Lines{});
@@ -83,34 +85,6 @@ TEST_F(ScheduledEvents, CatchUpOneIntervalAtATimeEachOnItsOwnDay) {
     EXPECT_EQ(Dates(), "02/29/2024;04/29/2024;03/29/2024;05/13/2024;04/29/2024;");
     EXPECT_EQ(RunAll().posted, Lines{}) << "nothing is posted twice";
     EXPECT_EQ(Dates(), "02/29/2024;04/29/2024;03/29/2024;05/13/2024;04/29/2024;");
-}
-
-TEST_F(ScheduledEvents, PostTheSameRunningDailyOrAfterMonths) {
-    const auto post = [&](int step) {
-        Run("DELETE * FROM AutoEvent");
-        Run("DELETE * FROM Transactions");
-        AddScheduled(7, 1, 10, "12/31/2023");
-        AddScheduled(8, 4, 31, "12/31/2023");
-        AddScheduled(9, 5, 1, "03/01/2023");
-        for (Date day(2024, 1, 1); day <= Date(2024, 5, 17);
-             day = platform::DateAdd(platform::Interval::Day, step, day)) {
-            SetToday(day);
-            RunAll();
-        }
-        SetToday(Date(2024, 5, 17));
-        RunAll();
-        return Rows(
-            "SELECT DateEffective, Description FROM Transactions "
-            "ORDER BY Description, DateValue(DateEffective)");
-    };
-    const std::string daily = post(1);
-    EXPECT_EQ(post(40), daily);
-    EXPECT_EQ(post(1000), daily);
-    EXPECT_NE(daily.find("02/29/2024|Event 7;"), std::string::npos) << daily;
-    EXPECT_NE(daily.find("01/31/2024|Event 8;02/29/2024|Event 8;03/29/2024|Event 8;"),
-              std::string::npos)
-        << daily;
-    EXPECT_NE(daily.find("03/01/2024|Event 9;"), std::string::npos) << daily;
 }
 
 TEST_F(ScheduledEvents, OfAnySortPostTheSameHoweverSeldomTheyRun) {
@@ -269,14 +243,6 @@ TEST_F(ScheduledEvents, OfOneNumberMoveOnTogether) {
     AddScheduled(7, 3, 1, "03/10/2024");
     EXPECT_EQ(RunAll().posted.size(), 4U);
     EXPECT_EQ(Dates(), "04/10/2024;04/10/2024;05/10/2024;05/10/2024;");
-}
-
-TEST_F(ScheduledEvents, StartNoTriggeredOnes) {
-    AddScheduled(7, 3, 1, "04/10/2024");
-    AddTriggered(8, 1, 60, "Supplies");
-    AddTriggered(9, 1, 62, "Supplies");
-    EXPECT_EQ(RunAll().posted.size(), 1U);
-    EXPECT_EQ(Dates(), "05/10/2024;");
 }
 
 TEST_F(ScheduledEvents, AreToldToOpenListsWhenAPassIsKept) {

@@ -8,10 +8,9 @@
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 namespace fs = std::filesystem;
 using namespace exchange;
 
@@ -292,5 +291,3 @@ TEST_F(BackupTest, SurvivesAStopAtEveryStep) {
 }
 
 } // namespace
-
-} // namespace tests

@@ -3,10 +3,9 @@
 #include "core/CoreFixture.h"
 #include "exchange/Stops.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 using namespace exchange;
 
 class CheckBooksTest : public CoreBooks {
@@ -135,5 +134,3 @@ TEST_F(CheckBooksTest, FindsADamagedFile) {
 }
 
 } // namespace
-
-} // namespace tests

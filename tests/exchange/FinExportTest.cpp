@@ -5,10 +5,9 @@
 #include "platform/database/Recordset.h"
 #include "platform/values/Errors.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 using namespace exchange;
 
 constexpr std::int32_t kBank = 10;
@@ -187,5 +186,3 @@ TEST_F(FinExportTest, SurvivesAStopAtEveryStep) {
 }
 
 } // namespace
-
-} // namespace tests

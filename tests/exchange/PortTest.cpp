@@ -6,11 +6,11 @@
 #include "store/Tables.h"
 #include "support/ScriptedChoosers.h"
 #include "support/ScriptedDialogs.h"
-
-namespace tests {
+#include "support/Words.h"
 
 namespace {
 
+using namespace tests;
 using namespace exchange;
 using platform::Value;
 
@@ -48,28 +48,9 @@ class Random {
     }
 
     std::string Text() {
-        static const std::vector<std::string> pieces = {"007",
-                                                        "\"",
-                                                        "\"\"",
-                                                        ",",
-                                                        "\r\n",
-                                                        "\n",
-                                                        "/Record",
-                                                        "\"/Record\"",
-                                                        "#TRUE#",
-                                                        "Ünit 4",
-                                                        "€",
-                                                        "1E+5",
-                                                        " ",
-                                                        "O'Brien",
-                                                        "\t",
-                                                        "Table",
-                                                        "#01/02/2024#",
-                                                        "\xF0\x9F\x8F\xA0",
-                                                        "",
-                                                        "-5",
-                                                        "\r",
-                                                        "NULL"};
+        static const std::vector<std::string> pieces = support::Split(
+            "007|\"|\"\"|,|\r\n|\n|/Record|\"/Record\"|#TRUE#|Ünit 4|€|1E+5| |O'Brien|\t|Table|"
+            "#01/02/2024#|\xF0\x9F\x8F\xA0||-5|\r|NULL");
         std::string text;
         for (std::int64_t i = Pick(5); i > 0; --i)
             text += pieces[static_cast<std::size_t>(Pick(pieces.size()))];
@@ -289,5 +270,3 @@ TEST_F(PortTest, KeepsWhatWasWrittenBeforeAValueThatDoesntFit) {
 }
 
 } // namespace
-
-} // namespace tests

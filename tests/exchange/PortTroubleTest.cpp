@@ -3,9 +3,9 @@
 #include "exchange/PortFixture.h"
 #include "platform/values/Errors.h"
 
-namespace tests {
-
 namespace {
+
+using namespace tests;
 
 class PortTroubleTest : public PortTest {};
 
@@ -111,5 +111,3 @@ TEST_F(PortTroubleTest, LeavesNoHalfFileOnAFullDisk) {
 }
 
 } // namespace
-
-} // namespace tests

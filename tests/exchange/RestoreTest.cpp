@@ -6,10 +6,9 @@
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
 
-namespace tests {
-
 namespace {
 
+using namespace tests;
 namespace fs = std::filesystem;
 using namespace exchange;
 
@@ -175,5 +174,3 @@ TEST_F(RestoreTest, ChecksTheDatabaseAndRefusesOtherFiles) {
 }
 
 } // namespace
-
-} // namespace tests

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 
 #include "core/Configuration.h"
@@ -15,6 +14,7 @@
 #include "platform/system/Paths.h"
 #include "shell/Registrations.h"
 #include "shell/SampleLife.h"
+#include "support/Golden.h"
 
 namespace {
 
@@ -90,28 +90,10 @@ TEST_F(ShippedLetters, AreListedInTheSampleAndFilledByItsRecords) {
             EXPECT_EQ(std::ranges::count(text, '{'), std::ranges::count(text, '}')) << id;
             if (HasFailure()) break;
         }
+        support::ExpectGolden("letters/" + doc.letter.description + ".rtf",
+                              Merged(doc.letter, kind, ids.front()));
     }
     EXPECT_EQ(listed, kLetters);
-}
-
-/// Compares with expected/letters. What was made lies in actual/letters of the build's test folder;
-/// to renew the expectations, look at it and copy it.
-TEST_F(ShippedLetters, AreAsTheyWere) {
-    fs::create_directories("actual/letters");
-    for (const documents::DocRow& doc : documents::AllDocs()) {
-        const auto flag = std::ranges::find(doc.flags, true);
-        ASSERT_NE(flag, doc.flags.end());
-        const std::int16_t kind =
-            documents::kDocFlags.at(static_cast<std::size_t>(flag - doc.flags.begin())).kind;
-        const std::string name = doc.letter.description + ".rtf";
-        const std::string text = Merged(doc.letter, kind, Ids(kRecords.at(kind)).front());
-        std::ofstream("actual/letters/" + name, std::ios::binary) << text;
-        const fs::path expected = fs::path(VESTREL_TEST_DATA) / "expected/letters" / name;
-        EXPECT_TRUE(fs::exists(expected)) << "see " << fs::absolute("actual/letters/" + name);
-        if (!fs::exists(expected)) continue;
-        EXPECT_EQ(text, platform::ReadWholeFile(expected))
-            << "see " << fs::absolute("actual/letters/" + name);
-    }
 }
 
 } // namespace

@@ -112,6 +112,15 @@ class WritesAreTold : public tests::Portfolio {
         return untold;
     }
 
+    struct Routine {
+        const char* name;
+        std::function<void()> work;
+    };
+    void ExpectTold(const std::vector<Routine>& routines) {
+        for (const Routine& one : routines)
+            EXPECT_EQ(Untold(one.work), std::vector<std::string>()) << one.name;
+    }
+
     std::int32_t idMortgage_ = 0;
 };
 
@@ -140,124 +149,94 @@ TEST_F(WritesAreTold, ByEveryRoutineOfTheLeases) {
     wizard.startDate = Date(2026, 11, 1);
     wizard.rent = platform::Currency::FromUnits(800);
     const auto run = [](LeaseCommand command) { leases::RunCommand(command, 700, 30); };
-    struct Case {
-        const char* name;
-        std::function<void()> work;
-    };
     std::int32_t paid = 0;
-    for (const Case& c : {
-             Case{"daily run", [] { core::UpdateRecords(); }},
-             Case{"reprocess", [&] { run(LeaseCommand::Reprocess); }},
-             Case{"split",
-                  [] {
-                      auto split = leases::ReadSplit(710).value();
-                      split.parts[0].amount = platform::Currency::FromUnits(900);
-                      split.parts[1].amount = platform::Currency::FromUnits(50);
-                      leases::SaveSplit(split);
-                  }},
-             Case{"delete",
-                  [] { leases::DeleteCharges(700, {711}, "All?", leases::ShownAs::Open); }},
-             Case{"payment with an event", [&] { paid = leases::SubmitPayment(Payment()); }},
-             Case{"edited payment",
-                  [&] {
-                      auto payment = leases::ReadPayment(paid);
-                      payment.charges[0].selected = false;
-                      leases::SubmitPayment(payment);
-                  }},
-             Case{"refund", [] { books::PostTransaction(leases::ProposeDepositRefund(700)); }},
-             Case{"notice", [&] { run(LeaseCommand::GiveNotice); }},
-             Case{"notice cancelled", [&] { run(LeaseCommand::CancelNotice); }},
-             Case{"roll forward", [&] { run(LeaseCommand::RollForward); }},
-             Case{"broken", [&] { run(LeaseCommand::BreakLease); }},
-             Case{"renewed", [&] { run(LeaseCommand::RenewLease); }},
-             Case{"next due date",
-                  [] {
-                      leases::AdvanceNextDue(700, leases::OptionCredit::Add,
-                                             leases::Broadcast::Yes);
-                  }},
-             Case{"wizard", [&] { leases::FinishLeaseWizard(wizard); }},
-         }) {
-        EXPECT_EQ(Untold(c.work), std::vector<std::string>()) << c.name;
-    }
+    ExpectTold({
+        {"daily run", [] { core::UpdateRecords(); }},
+        {"reprocess", [&] { run(LeaseCommand::Reprocess); }},
+        {"split",
+         [] {
+             auto split = leases::ReadSplit(710).value();
+             split.parts[0].amount = platform::Currency::FromUnits(900);
+             split.parts[1].amount = platform::Currency::FromUnits(50);
+             leases::SaveSplit(split);
+         }},
+        {"delete", [] { leases::DeleteCharges(700, {711}, "All?", leases::ShownAs::Open); }},
+        {"payment with an event", [&] { paid = leases::SubmitPayment(Payment()); }},
+        {"edited payment",
+         [&] {
+             auto payment = leases::ReadPayment(paid);
+             payment.charges[0].selected = false;
+             leases::SubmitPayment(payment);
+         }},
+        {"refund", [] { books::PostTransaction(leases::ProposeDepositRefund(700)); }},
+        {"notice", [&] { run(LeaseCommand::GiveNotice); }},
+        {"notice cancelled", [&] { run(LeaseCommand::CancelNotice); }},
+        {"roll forward", [&] { run(LeaseCommand::RollForward); }},
+        {"broken", [&] { run(LeaseCommand::BreakLease); }},
+        {"renewed", [&] { run(LeaseCommand::RenewLease); }},
+        {"next due date",
+         [] { leases::AdvanceNextDue(700, leases::OptionCredit::Add, leases::Broadcast::Yes); }},
+        {"wizard", [&] { leases::FinishLeaseWizard(wizard); }},
+    });
 }
 
 TEST_F(WritesAreTold, ByEveryRoutineOfTheBooks) {
     std::int32_t id = 0;
-    struct Case {
-        const char* name;
-        std::function<void()> work;
-    };
-    for (const Case& c : {
-             Case{"posted", [&] { id = books::PostTransaction(Repair()); }},
-             Case{"edited, with a trip",
-                  [&] {
-                      books::EditTransaction(id, Repair(), Repair(), books::Trip::Keep);
-                      // The screen that saves a record tells its own kind.
-                      core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
-                  }},
-             Case{"category",
-                  [] {
-                      books::AddCategory({"Parking", books::Ien::Income});
-                  }},
-             Case{"category removed", [] { books::RemoveCategory("Parking"); }},
-         }) {
-        EXPECT_EQ(Untold(c.work), std::vector<std::string>()) << c.name;
-    }
+    ExpectTold({
+        {"posted", [&] { id = books::PostTransaction(Repair()); }},
+        {"edited, with a trip",
+         [&] {
+             books::EditTransaction(id, Repair(), Repair(), books::Trip::Keep);
+             // The screen that saves a record tells its own kind.
+             core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
+         }},
+        {"category",
+         [] {
+             books::AddCategory({"Parking", books::Ien::Income});
+         }},
+        {"category removed", [] { books::RemoveCategory("Parking"); }},
+    });
 }
 
 TEST_F(WritesAreTold, ByEveryRoutineOfTheMortgages) {
     const support::ScriptedDialogs dialogs({true, true, true});
-    struct Case {
-        const char* name;
-        std::function<void()> work;
-    };
     const auto run = [&](MortgageCommand command) { mortgages::RunCommand(command, idMortgage_); };
     const auto open = [] {
         return std::stoi(Ask("SELECT IdMortgageLog FROM MortgageLog WHERE IdTransaction = 0"));
     };
-    for (const Case& c : {
-             Case{"daily run", [] { core::UpdateRecords(); }},
-             Case{"charge",
-                  [&] {
-                      auto charge = mortgages::NewCharge(idMortgage_);
-                      charge.other = platform::Currency::FromUnits(25);
-                      mortgages::SaveCharge(charge, charge, 0);
-                  }},
-             Case{"delete",
-                  [&] {
-                      mortgages::DeleteLogRows({mortgages::ShownCharge{open(), 0}}, "All?");
-                  }},
-             Case{"payment",
-                  [&] {
-                      auto payment = mortgages::ProposeMortgagePayment(idMortgage_);
-                      mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
-                      mortgages::SubmitMortgagePayment(payment);
-                  }},
-             Case{"reprocess", [&] { run(MortgageCommand::Reprocess); }},
-             Case{"payoff", [&] { run(MortgageCommand::Payoff); }},
-         }) {
-        EXPECT_EQ(Untold(c.work), std::vector<std::string>()) << c.name;
-    }
+    ExpectTold({
+        {"daily run", [] { core::UpdateRecords(); }},
+        {"charge",
+         [&] {
+             auto charge = mortgages::NewCharge(idMortgage_);
+             charge.other = platform::Currency::FromUnits(25);
+             mortgages::SaveCharge(charge, charge, 0);
+         }},
+        {"delete",
+         [&] {
+             mortgages::DeleteLogRows({mortgages::ShownCharge{open(), 0}}, "All?");
+         }},
+        {"payment",
+         [&] {
+             auto payment = mortgages::ProposeMortgagePayment(idMortgage_);
+             mortgages::SelectAll(payment, mortgages::ChargeChoice::All, true);
+             mortgages::SubmitMortgagePayment(payment);
+         }},
+        {"reprocess", [&] { run(MortgageCommand::Reprocess); }},
+        {"payoff", [&] { run(MortgageCommand::Payoff); }},
+    });
 }
 
 TEST_F(WritesAreTold, ByRecordsAndTheirFiles) {
     const support::ScriptedDialogs dialogs({true, true, true});
     std::string file = core::App().DbFile;
-    struct Case {
-        const char* name;
-        std::function<void()> work;
-    };
-    for (const Case& c : {
-             Case{"unit", [] { records::MakeNewUnit(100); }},
-             Case{"deposit", [] { records::DeleteDeposit(650); }},
-             Case{"file", [&] { documents::AttachFile(core::kUnit, 200, file); }},
-             Case{"its text",
-                  [] {
-                      documents::DescribeFile(documents::FilesOf(core::kUnit, 200).at(0).id, "Map");
-                  }},
-         }) {
-        EXPECT_EQ(Untold(c.work), std::vector<std::string>()) << c.name;
-    }
+    ExpectTold({
+        {"unit", [] { records::MakeNewUnit(100); }},
+        {"deposit", [] { records::DeleteDeposit(650); }},
+        {"file", [&] { documents::AttachFile(core::kUnit, 200, file); }},
+        {"its text",
+         [] { documents::DescribeFile(documents::FilesOf(core::kUnit, 200).at(0).id, "Map"); }},
+    });
 }
 
 TEST_F(WritesAreTold, ByEveryRemoval) {
