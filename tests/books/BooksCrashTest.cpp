@@ -4,6 +4,7 @@
 #include "books/SaveTransaction.h"
 #include "books/ScheduledEvents.h"
 #include "core/Preferences.h"
+#include "core/RunHeard.h"
 #include "leases/Crashes.h"
 
 namespace {
@@ -44,14 +45,9 @@ TEST_F(BooksCrash, APassOfTheEventsIsNeverHalf) {
     AddScheduled(101, 3, 1, "04/17/2024");
     AddScheduled(102, 2, 1, "05/10/2024");
     Run("UPDATE AutoEvent SET Alert = True");
-    struct Nobody : core::RunListener {
-        void Posted(int, std::int32_t, std::string_view,
-                    const std::vector<core::PostedRow>&) override {}
-        void Failed(int, std::int32_t, std::string_view, std::string_view) override {}
-    };
     ExpectWhole(tests::CrashAtEveryStatement([] {
-                    Nobody nobody;
-                    books::ScheduledEvents(nobody).RunScheduledEvents();
+                    tests::RunHeard heard;
+                    books::ScheduledEvents(heard).RunScheduledEvents();
                 }),
                 12);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "2");

@@ -9,7 +9,7 @@
 
 #include "books/BooksFixture.h"
 #include "core/NotifyAll.h"
-#include "platform/values/Conversions.h"
+#include "core/RunHeard.h"
 
 namespace {
 
@@ -17,29 +17,10 @@ using platform::Date;
 using platform::SetToday;
 using Lines = std::vector<std::string>;
 
-struct Heard : core::RunListener {
-    void Posted(int kind, std::int32_t id, std::string_view description,
-                const std::vector<core::PostedRow>& rows) override {
-        for (const core::PostedRow& row : rows) {
-            posted.push_back(std::to_string(kind) + " " + std::to_string(id) + " " +
-                             std::string(description) + ": " + std::string(row.category) + " " +
-                             row.date.ToText() + " " + platform::MoneyToText(row.amount));
-        }
-    }
-    void Failed(int kind, std::int32_t id, std::string_view description,
-                std::string_view reason) override {
-        failed.push_back(std::to_string(kind) + " " + std::to_string(id) + " " +
-                         std::string(description) + ": " + std::string(reason));
-    }
-
-    Lines posted;
-    Lines failed;
-};
-
 class ScheduledEvents : public tests::BooksTest {
   protected:
-    static Heard RunAll() {
-        Heard heard;
+    static tests::RunHeard RunAll() {
+        tests::RunHeard heard;
         books::RunDueEvents(heard);
         return heard;
     }
@@ -59,7 +40,7 @@ TEST_F(ScheduledEvents, PostTheirTransactionAndTellOfIt) {
     Run("UPDATE Account SET ShowAs = 'The River Bank of the City of Salem' WHERE IdAccount = 60");
     AddTriggered(8, 1, 60, "Supplies"); // a scheduled event starts no triggered one
     AddTriggered(9, 1, 62, "Supplies");
-    const Heard heard = RunAll();
+    const tests::RunHeard heard = RunAll();
     EXPECT_EQ(heard.posted, Lines{"19 7 Event 7: Supplies 05/17/2024 25"});
     EXPECT_EQ(heard.failed, Lines{});
     EXPECT_EQ(Rows("SELECT DateEffective, DebitType, DebitId, DebitDesc, CreditType, CreditId, "
@@ -77,7 +58,7 @@ TEST_F(ScheduledEvents, PostTheirTransactionAndTellOfIt) {
 TEST_F(ScheduledEvents, CatchUpOneIntervalAtATimeEachOnItsOwnDay) {
     AddScheduled(7, 3, 1, "01/31/2024");
     AddScheduled(8, 2, 2, "04/15/2024");
-    const Heard heard = RunAll();
+    const tests::RunHeard heard = RunAll();
     EXPECT_EQ(heard.posted,
               (Lines{"19 7 Event 7: Supplies 02/29/2024 25", "19 8 Event 8: Supplies 04/29/2024 25",
                      "19 7 Event 7: Supplies 03/29/2024 25", "19 8 Event 8: Supplies 05/13/2024 25",
@@ -202,7 +183,7 @@ TEST_F(ScheduledEvents, NameWhatCannotRunOnceAndLetTheOthersRun) {
     AddScheduled(6, 9, 1, "");
     AddScheduled(7, 3, 1, "02/30/2024");
     AddScheduled(8, 3, 1, "03/10/2024");
-    const Heard heard = RunAll();
+    const tests::RunHeard heard = RunAll();
     ASSERT_EQ(heard.failed.size(), 3U);
     EXPECT_EQ(heard.failed[0], "19 5 Event 5: It never runs: its interval period is 0");
     EXPECT_EQ(heard.failed[1], "19 6 Event 6: It never runs: there is no interval type 9");
@@ -221,7 +202,7 @@ TEST_F(ScheduledEvents, TakeBackTheWholeRunThatFailsMidway) {
         "CREATE TRIGGER full BEFORE UPDATE ON AutoEvent "
         "WHEN NEW.IdAutoEvent = 7 AND NEW.LastRun = '04/10/2024' "
         "BEGIN SELECT RAISE(ABORT, 'no room'); END");
-    const Heard heard = RunAll();
+    const tests::RunHeard heard = RunAll();
     ASSERT_EQ(heard.failed.size(), 1U);
     EXPECT_NE(heard.failed[0].find("no room"), std::string::npos);
     EXPECT_EQ(Rows("SELECT Description, DateEffective FROM Transactions ORDER BY IdTransaction"),

@@ -5,6 +5,7 @@
 #include "books/SaveTransaction.h"
 #include "books/ScheduledEvents.h"
 #include "core/Preferences.h"
+#include "core/RunHeard.h"
 #include "support/Rival.h"
 
 namespace {
@@ -12,22 +13,13 @@ namespace {
 using platform::Date;
 using support::Rival;
 
-struct Nobody : core::RunListener {
-    void Posted(int, std::int32_t, std::string_view, const std::vector<core::PostedRow>&) override {
-        ++posted;
-    }
-    void Failed(int, std::int32_t, std::string_view, std::string_view reason) override {
-        ADD_FAILURE() << reason;
-    }
-    int posted = 0;
-};
-
 class TwoProgramsOnTheBooks : public tests::BooksTest {
   protected:
-    static int RunAll() {
-        Nobody listener;
-        books::RunDueEvents(listener);
-        return listener.posted;
+    static std::size_t RunAll() {
+        tests::RunHeard heard;
+        books::RunDueEvents(heard);
+        EXPECT_EQ(heard.failed, std::vector<std::string>());
+        return heard.posted.size();
     }
 };
 
@@ -36,7 +28,7 @@ TEST_F(TwoProgramsOnTheBooks, PostAnEventOnce) {
     AddScheduled(8, 1, 30, "");
     Run("UPDATE AutoEvent SET Alert = True");
     const Rival other([] { RunAll(); });
-    EXPECT_EQ(RunAll(), 0) << "the other program has posted it all";
+    EXPECT_EQ(RunAll(), 0U) << "the other program has posted it all";
     EXPECT_TRUE(other.HasWorked());
     EXPECT_EQ(Rows("SELECT DateEffective, Description FROM Transactions ORDER BY IdTransaction"),
               "03/10/2024|Event 7;05/17/2024|Event 8;04/10/2024|Event 7;05/10/2024|Event 7;");
@@ -63,7 +55,7 @@ TEST_F(TwoProgramsOnTheBooks, EditFieldsOfOneTransactionSideBySide) {
 TEST_F(TwoProgramsOnTheBooks, RunAnEventAsItIsWhenItRuns) {
     AddScheduled(7, 3, 1, "04/10/2024");
     const Rival other([] { Run("UPDATE AutoEvent SET Enabled = False, Amount = 9"); });
-    EXPECT_EQ(RunAll(), 0);
+    EXPECT_EQ(RunAll(), 0U);
     const Rival deleting([] { Run("DELETE * FROM AutoEvent"); });
     books::RunAutoEvent(7, Date(2024, 5, 10));
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0");

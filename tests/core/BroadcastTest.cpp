@@ -11,6 +11,7 @@
 #include "core/MessagePump.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/RunHeard.h"
 #include "platform/system/Clock.h"
 
 namespace {
@@ -96,33 +97,19 @@ TEST_F(Broadcast, SettingsAreReadAgainBeforeAnyoneHearsOfThem) {
     EXPECT_THAT(heard, ElementsAre("", "New name"));
 }
 
-class Heard : public core::RunListener {
-  public:
-    void Posted(int recordKind, std::int32_t id, std::string_view description,
-                const std::vector<core::PostedRow>& rows) override {
-        words.push_back(std::to_string(recordKind) + " " + std::to_string(id) + " " +
-                        std::string(description) + " " + std::to_string(rows.size()));
-    }
-    void Failed(int recordKind, std::int32_t, std::string_view description,
-                std::string_view reason) override {
-        words.push_back(std::to_string(recordKind) + " " + std::string(description) + ": " +
-                        std::string(reason));
-    }
-
-    Words words;
-};
-
 TEST(DailyRun, StepsRunInTheirOrderAndAFailedOneStopsNoOther) {
     using core::RunStep;
     core::RegisterRunStep(RunStep::Leases, [](core::RunListener& listener) {
-        listener.Posted(core::kLease, 40, "Smith", {core::PostedRow{}});
+        listener.Posted(core::kLease, 40, "Smith",
+                        {{platform::Date(2024, 5, 17), "Rent", platform::Currency::FromUnits(9)}});
     });
     core::RegisterRunStep(RunStep::Mortgages, {});
     core::RegisterRunStep(RunStep::ScheduledEvents,
                           [](core::RunListener&) { throw std::runtime_error("no such table"); });
-    Heard heard;
+    tests::RunHeard heard;
     core::UpdateRecords(heard);
-    EXPECT_THAT(heard.words, ElementsAre("0 Scheduled events: no such table", "2 40 Smith 1"));
+    EXPECT_THAT(heard.failed, ElementsAre("0 0 Scheduled events: no such table"));
+    EXPECT_THAT(heard.posted, ElementsAre("2 40 Smith: Rent 05/17/2024 9"));
     EXPECT_NO_THROW(core::UpdateRecords());
     core::RegisterRunStep(RunStep::Leases, {});
     core::RegisterRunStep(RunStep::ScheduledEvents, {});

@@ -6,6 +6,7 @@
 #include "core/Configuration.h"
 #include "core/CoreFixture.h"
 #include "core/RecordKinds.h"
+#include "core/RunHeard.h"
 #include "core/Session.h"
 #include "core/Startup.h"
 #include "platform/database/StatementProbe.h"
@@ -46,19 +47,6 @@ TEST_F(TwoPrograms, MakeTheSettingsOnce) {
     EXPECT_EQ(core::NextId(), 7);
 }
 
-class Reports : public core::RunListener {
-  public:
-    void Posted(int, std::int32_t id, std::string_view description,
-                const std::vector<core::PostedRow>& rows) override {
-        lines.push_back(std::to_string(id) + " " + std::string(description) + " " +
-                        std::to_string(rows.size()));
-    }
-    void Failed(int, std::int32_t id, std::string_view, std::string_view reason) override {
-        lines.push_back(std::to_string(id) + " failed: " + std::string(reason));
-    }
-    std::vector<std::string> lines;
-};
-
 /// Posts a row if the lease wasn't updated today, as the true run does.
 std::vector<core::PostedRow> ChargeOnce(Recordset& lease) {
     if (lease["DateUpdated"].AsText() == "05/17/2024") return {};
@@ -82,9 +70,11 @@ TEST_F(TwoPrograms, BringEachRecordUpToDateOnce) {
         other_.Execute("UPDATE Lease SET Rent = 7 WHERE IdLease = 3");
         other_.Execute("DELETE FROM Lease WHERE IdLease = 4");
     });
-    Reports reports;
-    core::UpdateEach(core::kLease, "SELECT * FROM LEASE", "IdLease", ChargeOnce, reports);
-    EXPECT_THAT(reports.lines, testing::ElementsAre("1 lease 1 1", "3 lease 3 1"));
+    tests::RunHeard run;
+    core::UpdateEach(core::kLease, "SELECT * FROM LEASE", "IdLease", ChargeOnce, run);
+    EXPECT_THAT(run.posted, testing::ElementsAre("2 1 lease 1: Rent 05/17/2024 1",
+                                                 "2 3 lease 3: Rent 05/17/2024 1"));
+    EXPECT_THAT(run.failed, testing::IsEmpty());
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog"), "3");
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE IdLease = 4"), "0");
     EXPECT_EQ(Ask("SELECT Rent FROM Lease WHERE IdLease = 3"), "7");
@@ -95,9 +85,9 @@ TEST_F(TwoPrograms, ReportARecordWithoutANameByItsNumber) {
     Run("INSERT INTO Unit (IdUnit, IdBuilding, Unit) VALUES (20, 10, 'B')");
     Run("INSERT INTO Tenant (IdTenant, LastName) VALUES (30, '')");
     Run("INSERT INTO Lease (IdLease, IdTenant, IdUnit, DateUpdated) VALUES (40, 30, 20, '')");
-    Reports reports;
-    core::UpdateEach(core::kLease, "SELECT * FROM LEASE", "IdLease", ChargeOnce, reports);
-    EXPECT_THAT(reports.lines, testing::ElementsAre("40 lease 40 1"));
+    tests::RunHeard run;
+    core::UpdateEach(core::kLease, "SELECT * FROM LEASE", "IdLease", ChargeOnce, run);
+    EXPECT_THAT(run.posted, testing::ElementsAre("2 40 lease 40: Rent 05/17/2024 1"));
 }
 
 } // namespace
