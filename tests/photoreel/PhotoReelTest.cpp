@@ -4,19 +4,13 @@
 
 #include <QFileInfo>
 #include <QImage>
-#include <QLabel>
-#include <QPushButton>
-#include <QTest>
 #include <QWheelEvent>
 #include <fstream>
 
 #include "documents/ShowList.h"
 #include "photoreel/PictureCanvas.h"
-#include "platform/qt/Text.h"
 #include "support/TemporaryFolder.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -137,9 +131,7 @@ TEST_F(PhotoReelTest, ShrinksAPictureOfAHundredMegapixels) {
 TEST_F(PhotoReelTest, LooksRight) {
     ShowThree();
     QTest::keyClick(&Canvas(), Qt::Key_Right);
-    EXPECT_EQ(support::Portray(window_, "frmPhotoReel"), std::vector<std::string>{});
-    EXPECT_EQ(support::MnemonicFaults(window_), std::vector<std::string>{});
-    EXPECT_EQ(support::TabOrderFaults(window_), std::vector<std::string>{});
+    EXPECT_EQ(support::LookFaults(window_, "frmPhotoReel"), std::vector<std::string>{});
 }
 
 TEST(ListFileOf, FindsTheFileBehindItsSwitch) {

@@ -1,26 +1,14 @@
 #include <gmock/gmock.h>
 
-#include <QAction>
-#include <QLabel>
-#include <QListWidget>
-#include <QPlainTextEdit>
 #include <QSplitter>
-#include <QTest>
-#include <QToolButton>
-#include <QTreeWidget>
 
 #include "alerts/screens/Alerts.h"
 #include "core/EditRecord.h"
 #include "core/Globals.h"
-#include "core/RecordKinds.h"
-#include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -244,10 +232,7 @@ TEST_F(AlertsPage, FoldsItsGroupsAndStacksItsPartsWhereItIsNarrow) {
 TEST_F(AlertsPage, LooksAndReadsRight) {
     AddCauses();
     Show();
-    EXPECT_THAT(support::MnemonicFaults(page_), IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(page_), IsEmpty());
-    EXPECT_THAT(support::NameFaults(page_), IsEmpty());
-    EXPECT_THAT(support::Portray(page_, "Alerts"), IsEmpty());
+    EXPECT_THAT(support::LookFaults(page_, "Alerts"), IsEmpty());
     page_.resize(420, 620);
     EXPECT_THAT(support::Portray(page_, "Alerts-narrow"), IsEmpty());
 }

@@ -1,27 +1,17 @@
 #include <gmock/gmock.h>
 
-#include <QApplication>
 #include <QClipboard>
-#include <QLabel>
 #include <QPrinter>
-#include <QPushButton>
-#include <QTest>
-#include <QToolButton>
 #include <fstream>
 
 #include "alerts/screens/PicturePage.h"
 #include "core/EditRecord.h"
-#include "core/RecordKinds.h"
-#include "platform/qt/Text.h"
 #include "platform/qt/charts/SeriesChart.h"
 #include "platform/qt/preview/Printers.h"
 #include "platform/system/Clock.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportList.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -175,9 +165,7 @@ TEST_F(Picture, IsCopiedAndPrinted) {
     AddBooks();
     Run("UPDATE Tenant SET LastName = 'Featherstonehaugh-Cholmondeley <b>& Sons</b> of Upper Elm'");
     Show();
-    EXPECT_THAT(support::Portray(page_, "picture-long"), IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(page_), IsEmpty());
-    EXPECT_THAT(support::NameFaults(page_), IsEmpty());
+    EXPECT_THAT(support::LookFaults(page_, "picture-long"), IsEmpty());
     Find<QPushButton>(page_, "cmdCopyPicture").click();
     EXPECT_GT(QApplication::clipboard()->image().width(), 500);
 

@@ -1,12 +1,6 @@
 #include <gmock/gmock.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
 #include <QTimer>
 
 #include "core/RegistryKeys.h"
@@ -14,14 +8,10 @@
 #include "dbmender/frmDbMender.h"
 #include "exchange/Container.h"
 #include "exchange/screens/frmRestore.h"
-#include "platform/qt/Text.h"
 #include "shell/Registrations.h"
 #include "store/CreateDatabase.h"
 #include "support/ScriptedChoosers.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -174,10 +164,7 @@ TEST_F(MenderScreen, LooksAndReadsRight) {
     EXPECT_FALSE(FolderBox().isEnabled());
     EXPECT_THAT(support::Portray(*window_, "frmDbMender-version"), IsEmpty());
     Pick("optUseExisting");
-    EXPECT_THAT(support::MnemonicFaults(*window_), IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(*window_), IsEmpty());
-    EXPECT_THAT(support::NameFaults(*window_), IsEmpty());
-    EXPECT_THAT(support::Portray(*window_, "frmDbMender"), IsEmpty());
+    EXPECT_THAT(support::LookFaults(*window_, "frmDbMender"), IsEmpty());
 }
 
 TEST_F(MenderScreen, CreatesTheFirstBooksOfANewUserByKeyboard) {
@@ -193,10 +180,7 @@ TEST_F(MenderScreen, CreatesTheFirstBooksOfANewUserByKeyboard) {
     EXPECT_EQ(Objection(), "The rent is not an amount of money.");
     EXPECT_FALSE(Mend().isEnabled());
     support::Type(Find<QLineEdit>(*window_, "txtRent"), "950.50");
-    EXPECT_THAT(support::Portray(*window_, "frmDbMender-first"), IsEmpty());
-    EXPECT_THAT(support::MnemonicFaults(*window_), IsEmpty());
-    EXPECT_THAT(support::NameFaults(*window_), IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(*window_), IsEmpty());
+    EXPECT_THAT(support::LookFaults(*window_, "frmDbMender-first"), IsEmpty());
     Pick("optMakeSample");
     EXPECT_FALSE(Find<QLineEdit>(*window_, "txtCompany").isVisible());
     QTest::keyClick(window_.get(), Qt::Key_Escape);
@@ -226,10 +210,7 @@ TEST_F(MenderScreen, WelcomesWithFourWaysToBegin) {
     using dbmender::Beginning;
     EXPECT_THAT(chosen, ElementsAre(Beginning::Create, Beginning::OpenExisting, Beginning::Sample,
                                     Beginning::Restore));
-    EXPECT_THAT(support::Portray(welcome, "frmWelcome"), IsEmpty());
-    EXPECT_THAT(support::MnemonicFaults(welcome), IsEmpty());
-    EXPECT_THAT(support::NameFaults(welcome), IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(welcome), IsEmpty());
+    EXPECT_THAT(support::LookFaults(welcome, "frmWelcome"), IsEmpty());
     QTest::keyClick(&welcome, Qt::Key_Escape);
     EXPECT_FALSE(welcome.isVisible());
     core::SetRegString(core::kDatabasesKey, "Default", PathTo("gone"));

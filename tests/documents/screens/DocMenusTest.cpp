@@ -2,20 +2,15 @@
 
 #include <gmock/gmock.h>
 
-#include <QAction>
 #include <QDialog>
-#include <QMenu>
 #include <QVBoxLayout>
 
 #include "core/Configuration.h"
-#include "core/RecordKinds.h"
 #include "core/forms/RecordBar.h"
 #include "documents/DocList.h"
-#include "platform/qt/Text.h"
 #include "platform/system/Paths.h"
 #include "support/KeepingDesktop.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 

@@ -1,22 +1,13 @@
 #include "documents/screens/frmDocMgmt.h"
 
-#include <QCheckBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTabWidget>
 #include <QTableWidget>
-#include <QTest>
 #include <filesystem>
 
 #include "core/Configuration.h"
 #include "documents/DocList.h"
-#include "platform/qt/Text.h"
 #include "support/ScriptedChoosers.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 

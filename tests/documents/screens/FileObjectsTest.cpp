@@ -3,31 +3,20 @@
 #include <QBuffer>
 #include <QDragEnterEvent>
 #include <QImage>
-#include <QLineEdit>
-#include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QSplitter>
-#include <QTest>
-#include <QToolButton>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "core/forms/ActionBar.h"
 #include "core/forms/Form.h"
 #include "documents/AttachFile.h"
 #include "documents/FileRows.h"
 #include "documents/screens/FileListView.h"
 #include "documents/screens/PicturePreview.h"
-#include "platform/dialogs/Desktop.h"
-#include "platform/qt/Text.h"
+#include "support/KeepingDesktop.h"
 #include "support/ScriptedChoosers.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -37,22 +26,7 @@ using documents::screens::PicturePreview;
 using platform::qt::FromScreen;
 using support::ClickOn;
 using support::Find;
-
-/// Keeps what it was asked to open.
-class KeepingDesktop : public platform::Desktop {
-  public:
-    KeepingDesktop(std::vector<std::string>& opened, bool takes) : opened_(opened), takes_(takes) {}
-    bool OpenWebPage(std::string_view) override { return false; }
-    bool WriteMail(std::string_view) override { return false; }
-    bool OpenDocument(std::string_view file) override {
-        opened_.emplace_back(file);
-        return takes_;
-    }
-
-  private:
-    std::vector<std::string>& opened_;
-    bool takes_;
-};
+using support::Said;
 
 /// A form with the panel in it, as the records' screens have it.
 class PanelForm : public core::forms::Form {
@@ -74,8 +48,6 @@ class PanelForm : public core::forms::Form {
 
 class FileObjectsTest : public support::ScreenTest {
   protected:
-    ~FileObjectsTest() override { platform::SetDesktop(nullptr); }
-
     FileObjects& OpenOn(std::int16_t kind, std::int32_t id, const char* name = "frmTest") {
         form_ = std::make_unique<PanelForm>(name);
         form_->setAttribute(Qt::WA_DeleteOnClose, false);
@@ -135,8 +107,7 @@ TEST_F(FileObjectsTest, WaitsUntilItsRecordIsSaved) {
 }
 
 TEST_F(FileObjectsTest, AddsOpensAndDeletesAFile) {
-    std::vector<std::string> opened;
-    platform::SetDesktop(std::make_unique<KeepingDesktop>(opened, true));
+    const support::KeepingDesktop desktop;
     MakeFile("lease.pdf", "text");
     const support::ScriptedChoosers choosers({PathTo("lease.pdf")});
     FileObjects& panel = OpenOn(core::kUnit, 20);
@@ -150,7 +121,7 @@ TEST_F(FileObjectsTest, AddsOpensAndDeletesAFile) {
     const QPoint first = list.visualRect(list.currentIndex()).center();
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, first);
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, first);
-    EXPECT_EQ(opened, (std::vector<std::string>{PathTo("lease.pdf"), PathTo("lease.pdf")}));
+    EXPECT_EQ(desktop.Opened(), (Said{PathTo("lease.pdf"), PathTo("lease.pdf")}));
 
     Answer({false, true});
     list.setFocus();
@@ -166,8 +137,7 @@ TEST_F(FileObjectsTest, AddsOpensAndDeletesAFile) {
 }
 
 TEST_F(FileObjectsTest, TellsOfAFileThatHasMoved) {
-    std::vector<std::string> opened;
-    platform::SetDesktop(std::make_unique<KeepingDesktop>(opened, false));
+    const support::KeepingDesktop desktop(false);
     Attach(core::kUnit, 20, "/gone/roof.jpg");
     FileObjects& panel = OpenOn(core::kUnit, 20);
     EXPECT_EQ(Property(panel, "File Exists"), "No");
@@ -298,9 +268,7 @@ TEST_F(FileObjectsTest, LooksRight) {
     FileObjects& panel = OpenOn(core::kUnit, 20);
     auto& preview = Find<PicturePreview>(panel, "picPreview");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !preview.Shown().isNull(); }));
-    EXPECT_EQ(support::Portray(*form_, "FileObjects"), std::vector<std::string>{});
-    EXPECT_EQ(support::TabOrderFaults(*form_), std::vector<std::string>{});
-    EXPECT_EQ(support::NameFaults(*form_), std::vector<std::string>{});
+    EXPECT_EQ(support::LookFaults(*form_, "FileObjects"), std::vector<std::string>{});
 }
 
 } // namespace

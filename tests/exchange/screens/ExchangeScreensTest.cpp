@@ -1,15 +1,4 @@
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabWidget>
-#include <QTest>
 #include <QTimer>
-#include <QTreeWidget>
 #include <fstream>
 
 #include "core/MessagePump.h"
@@ -25,10 +14,7 @@
 #include "exchange/screens/frmRestore.h"
 #include "platform/system/Clock.h"
 #include "support/ScriptedChoosers.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -80,13 +66,6 @@ class ExchangeScreens : public support::ScreenTest {
         return form;
     }
 
-    static void LooksRight(QWidget& form, const std::string& name) {
-        EXPECT_THAT(support::Portray(form, name), IsEmpty());
-        EXPECT_THAT(support::MnemonicFaults(form), IsEmpty());
-        EXPECT_THAT(support::TabOrderFaults(form), IsEmpty());
-        EXPECT_THAT(support::NameFaults(form), IsEmpty());
-    }
-
     static void Tick(const QWidget& form, int row) {
         Find<QTreeWidget>(form, "lstAccounts").topLevelItem(row)->setCheckState(0, Qt::Checked);
     }
@@ -100,7 +79,7 @@ TEST_F(ExchangeScreens, ExportsTheCheckedAccounts) {
     QPointer<frmFinExport> form = Open<frmFinExport>();
     ClickOn(Find<QCheckBox>(*form, "chkShowCount"));
     EXPECT_EQ(RowsOf(*form, "lstAccounts"), "Escrow|1|\noperating account|2|\n");
-    LooksRight(*form, "frmFinExport");
+    EXPECT_THAT(support::LookFaults(*form, "frmFinExport"), IsEmpty());
 
     ClickAction(*form, "EXPORT");
     EXPECT_EQ(Heard(), Said{"Select Accounts: No accounts selected for export."});
@@ -185,7 +164,7 @@ TEST_F(ExchangeScreens, MovesTablesOutAndIn) {
         return Find<QPlainTextEdit>(*form, "txtStatus").toPlainText().toStdString();
     };
     EXPECT_TRUE(status().starts_with("Status: Database configuration read.\nTotal Tables = "));
-    LooksRight(*form, "frmPort-export");
+    EXPECT_THAT(support::LookFaults(*form, "frmPort-export"), IsEmpty());
     ClickAction(*form, "EXPORT");
     EXPECT_EQ(Heard().size(), 1U) << "no table is selected";
     ClickOn(Find<QPushButton>(*form, "cmdSelectAll"));
@@ -197,7 +176,7 @@ TEST_F(ExchangeScreens, MovesTablesOutAndIn) {
     EXPECT_EQ(choosers.Asked().back().title, "Select Import File");
     ClickOn(Find<QPushButton>(*form, "cmdTest"));
     EXPECT_TRUE(status().starts_with("Status: Import test succeeded ...\n")) << status();
-    LooksRight(*form, "frmPort-import");
+    EXPECT_THAT(support::LookFaults(*form, "frmPort-import"), IsEmpty());
     Choose(*form, "optOverwrite");
     ClickAction(*form, "IMPORT");
     EXPECT_EQ(Heard().size(), 1U);
@@ -222,7 +201,7 @@ TEST_F(ExchangeScreens, BacksUpAndKeepsItsSettings) {
     const std::string rows = RowsOf(*form, "lstResults");
     EXPECT_TRUE(rows.starts_with("Starting backup|Success|\n")) << rows;
     EXPECT_TRUE(rows.ends_with("The backup was completed successfully.|Success|\n")) << rows;
-    LooksRight(*form, "frmBackup");
+    EXPECT_THAT(support::LookFaults(*form, "frmBackup"), IsEmpty());
 
     Type(Find<QLineEdit>(*form, "txtKeepPeriods"), "");
     ClickAction(*form, "START");
@@ -330,7 +309,7 @@ TEST_F(ExchangeScreens, RestoresABackup) {
     EXPECT_EQ(Find<QTreeWidget>(*form, "lstEntries").topLevelItemCount(), 3);
     EXPECT_EQ(Find<QLabel>(*form, "lblSummary").text(),
               QStringLiteral("The backup is whole: 3 files."));
-    LooksRight(*form, "frmRestore");
+    EXPECT_THAT(support::LookFaults(*form, "frmRestore"), IsEmpty());
     Answer({true});
     ClickAction(*form, "RESTORE");
     const fs::path folder = PathTo("Backup/Vestrel.0 restored");
@@ -357,7 +336,7 @@ TEST_F(ExchangeScreens, ShowsWhatTheCheckFinds) {
     EXPECT_NE(rows.find("Fault|The identifier 901 belongs to several records: Account, Room|"),
               std::string::npos)
         << rows;
-    LooksRight(*form, "frmCheck");
+    EXPECT_THAT(support::LookFaults(*form, "frmCheck"), IsEmpty());
     const auto& finding = Find<QPlainTextEdit>(*form, "txtFinding");
     EXPECT_TRUE(finding.toPlainText().startsWith(
         QStringLiteral("The identifier 901 belongs to several records: Account, Room.\nIf a file")))

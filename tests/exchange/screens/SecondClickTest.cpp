@@ -1,10 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <QLineEdit>
-#include <QPointer>
-#include <QRadioButton>
-#include <QTabWidget>
-#include <QTreeWidget>
 #include <fstream>
 
 #include "core/binding/Tags.h"
@@ -18,8 +13,7 @@
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 #include "support/screens/DoubleClick.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 

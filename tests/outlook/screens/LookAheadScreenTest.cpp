@@ -1,31 +1,17 @@
 #include <gmock/gmock.h>
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QPointer>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
-#include <QToolButton>
 
 #include "core/EditRecord.h"
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "core/Startup.h"
 #include "outlook/screens/MonthView.h"
 #include "outlook/screens/frmLookAhead.h"
-#include "platform/qt/Text.h"
 #include "platform/qt/charts/SeriesChart.h"
 #include "platform/system/Clock.h"
 #include "shell/Registrations.h"
 #include "shell/SampleLife.h"
 #include "support/Books.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -193,10 +179,7 @@ TEST_F(LookAheadScreen, LooksRight) {
     for (int page = 0; page < static_cast<int>(pages.size()); ++page) {
         ShowPage(*form, page);
         const std::string name = pages.at(static_cast<std::size_t>(page));
-        EXPECT_THAT(support::Portray(*form, "frmLookAhead-" + name + end), IsEmpty());
-        EXPECT_THAT(support::MnemonicFaults(*form), IsEmpty());
-        EXPECT_THAT(support::TabOrderFaults(*form), IsEmpty());
-        EXPECT_THAT(support::NameFaults(*form), IsEmpty());
+        EXPECT_THAT(support::LookFaults(*form, "frmLookAhead-" + name + end), IsEmpty());
     }
     Run("DELETE * FROM Lease");
     Run("DELETE * FROM Mortgage");

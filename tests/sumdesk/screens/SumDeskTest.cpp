@@ -1,26 +1,13 @@
 #include <gmock/gmock.h>
 
-#include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
-#include <QComboBox>
 #include <QGuiApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QProcess>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
 
-#include "platform/qt/Text.h"
 #include "platform/system/Version.h"
 #include "sumdesk/frmSumDesk.h"
 #include "support/screens/DoubleClick.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -211,10 +198,7 @@ TEST_F(SumDesk, LooksRightAndNamesItsControls) {
     for (int page = 0; page < 3; ++page) {
         TurnTo(page);
         support::SettleEvents();
-        EXPECT_THAT(support::Portray(*window_, names[page]), IsEmpty());
-        EXPECT_THAT(support::MnemonicFaults(*window_), IsEmpty());
-        EXPECT_THAT(support::NameFaults(*window_), IsEmpty());
-        EXPECT_THAT(support::TabOrderFaults(*window_), IsEmpty());
+        EXPECT_THAT(support::LookFaults(*window_, names[page]), IsEmpty());
     }
 }
 
