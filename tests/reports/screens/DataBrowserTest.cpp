@@ -1,19 +1,11 @@
 #include <gmock/gmock.h>
 
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTest>
-
 #include "core/Globals.h"
 #include "platform/system/Paths.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportList.h"
 #include "reports/screens/DataBrowser.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -111,10 +103,7 @@ TEST_F(DataBrowserTest, TellsOfAClosedDatabaseAndIsReachedByKeys) {
                      QStringLiteral("SELECT Count(*) AS N FROM Tenant"));
     QTest::keyClick(&Find<QPlainTextEdit>(browser_, "txtSQL"), Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(Result(), "Command completed successfully");
-    EXPECT_THAT(support::MnemonicFaults(browser_), testing::IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(browser_), testing::IsEmpty());
-    EXPECT_THAT(support::NameFaults(browser_), testing::IsEmpty());
-    EXPECT_THAT(support::Portray(browser_, "DataBrowser"), testing::IsEmpty());
+    EXPECT_THAT(support::LookFaults(browser_, "DataBrowser"), testing::IsEmpty());
     core::App().Connection.Close();
     browser_.hide();
     browser_.show();

@@ -34,10 +34,7 @@ TEST_F(ReportGallery, ShowsTheViewer) {
     auto& zoom = support::Find<QWidget>(viewer, "cboZoom");
     const QPoint middle = zoom.mapTo(&viewer, zoom.rect().center());
     EXPECT_TRUE(zoom.isAncestorOf(viewer.childAt(middle))) << "the footer is covered";
-    EXPECT_THAT(support::Portray(viewer, Name(viewer, "frmReportViewer")), IsEmpty());
-    EXPECT_THAT(support::MnemonicFaults(viewer), IsEmpty());
-    EXPECT_THAT(support::NameFaults(viewer), IsEmpty());
-    EXPECT_THAT(support::TabOrderFaults(viewer), IsEmpty());
+    EXPECT_THAT(support::LookFaults(viewer, Name(viewer, "frmReportViewer")), IsEmpty());
 
     Trigger(viewer, "mnuPageSetup");
     auto& setup = *viewer.findChild<reports::screens::frmPageSetup*>();

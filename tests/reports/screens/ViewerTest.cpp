@@ -1,24 +1,14 @@
 #include <gmock/gmock.h>
 
-#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QSpinBox>
-#include <QTest>
 #include <QToolBar>
-#include <QToolButton>
 
 #include "core/MessagePump.h"
 #include "core/Preferences.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/DateEdit.h"
-#include "platform/dialogs/Desktop.h"
-#include "platform/qt/Text.h"
 #include "platform/qt/preview/PagePreview.h"
 #include "platform/qt/preview/PageThumbnails.h"
 #include "platform/system/Paths.h"
@@ -26,8 +16,9 @@
 #include "reports/ViewerSettings.h"
 #include "reports/screens/ViewerFixture.h"
 #include "reports/screens/frmPageSetup.h"
+#include "support/KeepingDesktop.h"
 #include "support/ScriptedChoosers.h"
-#include "support/screens/Driving.h"
+#include "support/screens/Screens.h"
 
 namespace {
 
@@ -204,7 +195,6 @@ class Exports : public ViewerTest {
     Exports() {
         index_ = MakeReport("a.rpt", "[HEADER]\nTITLE=The Roll\n[TEXT]\nPARAGRAPH=Hello.\n");
     }
-    ~Exports() override { platform::SetDesktop(nullptr); }
     int index_;
 };
 
@@ -247,31 +237,21 @@ TEST_F(Exports, ProposeTheFirstFreeNameAndTellWhereTheFileIs) {
 }
 
 TEST_F(Exports, OpenTheFileGiveNamesAnEndingAndEndSilentlyWhenCancelled) {
-    static std::vector<std::string> opened;
-    opened.clear();
-    struct Keeping : platform::Desktop {
-        bool OpenWebPage(std::string_view) override { return false; }
-        bool WriteMail(std::string_view) override { return false; }
-        bool OpenDocument(std::string_view file) override {
-            opened.emplace_back(file);
-            return true;
-        }
-    };
-    platform::SetDesktop(std::make_unique<Keeping>());
+    const support::KeepingDesktop desktop;
     frmReportViewer& viewer = View(index_);
     {
         support::ScriptedChoosers nobody;
         Trigger(viewer, "mnuExportRTF");
     }
-    EXPECT_THAT(opened, IsEmpty());
+    EXPECT_THAT(desktop.Opened(), IsEmpty());
     support::ScriptedChoosers choosers(
         {PathTo("named"), PathTo("named"), PathTo("no folder/x.pdf")});
     Trigger(viewer, "mnuExportHTML");
-    EXPECT_THAT(opened, ElementsAre(PathTo("named.html")));
+    EXPECT_THAT(desktop.Opened(), ElementsAre(PathTo("named.html")));
     EXPECT_THAT(Heard(), IsEmpty());
     Trigger(viewer, "mnuExportHTML"); // the file that the ending leads to is there: No
     ASSERT_EQ(Heard().size(), 1U);
-    EXPECT_EQ(opened.size(), 1U);
+    EXPECT_EQ(desktop.Opened().size(), 1U);
     Trigger(viewer, "mnuExportPDF");
     EXPECT_THAT(Heard(), ElementsAre(HasSubstr("no folder/x.pdf")));
     EXPECT_EQ(reports::LastSaveDir(), PathTo(""));
