@@ -9,6 +9,10 @@ namespace {
 /// A row that is taller than a page begins on a page that has room for this many of its lines.
 constexpr std::size_t kLinesOfTallRow = 4;
 
+/// A table of up to so many rows without a header stays on one page: such are the sums below
+/// others, of which the last would mean little alone on the next page.
+constexpr std::size_t kRowsKept = 5;
+
 } // namespace
 
 TableLayout::TableLayout(PageMaker& maker, FontMetrics& metrics, const PrintStyle& style,
@@ -39,11 +43,19 @@ bool TableLayout::IsTall() const {
     return row_.Height() > maker_.Bottom() - maker_.Top() - RepeatedHeight();
 }
 
+/// How much of the table has to fit below the place where it begins.
+Twips TableLayout::BeginningHeight() const {
+    if (IsTall()) return RepeatedHeight() + row_.HeightOf(kLinesOfTallRow);
+    const bool isKept = table_.header.cells.empty() && table_.rowCount <= kRowsKept;
+    const auto others = isKept ? static_cast<Twips>(table_.rowCount) - 1 : 0;
+    const Twips whole = row_.Height() + others * row_.HeightOf(1);
+    return RepeatedHeight() + (whole <= maker_.Bottom() - maker_.Top() ? whole : row_.Height());
+}
+
 void TableLayout::Add(std::span<const std::string_view> cells) {
     row_.Fill(cells);
     if (!headerDrawn_) {
-        const Twips first = IsTall() ? row_.HeightOf(kLinesOfTallRow) : row_.Height();
-        if (!Fits(RepeatedHeight() + first) && y_ > maker_.Top()) {
+        if (!Fits(BeginningHeight()) && y_ > maker_.Top()) {
             maker_.NewPage();
             Begin(maker_.Top());
         }

@@ -256,6 +256,21 @@ TEST_F(Surface, TakesTheHeaderAlongToTheFirstRow) {
     EXPECT_EQ(Texts(1), "1520,1620 Name\n1520,1860 one\n");
 }
 
+TEST_F(Surface, KeepsAFewSumsOnOnePage) {
+    Start(SixLines());
+    for (int i = 0; i < 4; ++i)
+        surface.Text("above");
+    Table("<1500", "", {{"in"}, {"out"}, {"net"}});
+    for (int i = 0; i < 2; ++i)
+        surface.Text("below");
+    Table("<1500", "", {{"1"}, {"2"}, {"3"}, {"4"}, {"5"}, {"6"}});
+    surface.EndDoc();
+    EXPECT_EQ(Texts(0), "1440,1620 above\n1440,1860 above\n1440,2100 above\n1440,2340 above\n");
+    EXPECT_EQ(Texts(1),
+              "1520,1620 in\n1520,1860 out\n1520,2100 net\n"
+              "1440,2340 below\n1440,2580 below\n1520,2820 1\n");
+}
+
 TEST_F(Surface, BreaksARowThatIsTallerThanAPageBetweenItsLines) {
     Start(SixLines());
     Table("<1500|<1500", "A|B", {{"1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n12", "x"}}, TableBorder::Box);
