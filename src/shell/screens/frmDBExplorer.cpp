@@ -120,7 +120,7 @@ void frmDBExplorer::MakeMenu() {
     })->setShortcut(QKeySequence::Refresh);
     tree.addSeparator();
     add(tree, "mnuClose", tr("&Close"), [this] { close(); })->setShortcut(QKeySequence::Close);
-    QMenu& help = *bar->addMenu(tr("&Help"));
+    QMenu& help = *bar->addMenu(tr("He&lp"));
     add(help, "mnuHelp", tr("Database &Explorer"), [this] { core::forms::ShowHelp(*this); });
     add(help, "mnuHelpContents", tr("&Contents"),
         [this] { core::forms::ShowHelpTopic(*this, QStringLiteral("contents")); });

@@ -1,9 +1,13 @@
 #include <QDropEvent>
+#include <QLayout>
 #include <QListWidget>
+#include <QMenu>
 #include <QMimeData>
 #include <QPointer>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <set>
 
 #include "core/Globals.h"
 #include "core/Preferences.h"
@@ -189,6 +193,22 @@ TEST_F(DBExplorer, OffersTheConsoleToAdvancedUsersOnly) {
     auto* const expert = new frmDBExplorer;
     expert->Setup();
     EXPECT_TRUE(isShown(*expert));
+
+    // A key that two share only moves the focus between them.
+    auto& all = Find<QTabWidget>(*expert, "tab1");
+    for (int page = 0; page < all.count(); ++page) {
+        all.setCurrentIndex(page);
+        support::SettleEvents();
+        EXPECT_EQ(support::MnemonicFaults(*expert), Said{});
+        std::set<QKeySequence> taken;
+        for (const auto* const button : expert->findChildren<QPushButton*>())
+            if (button->isVisible()) taken.insert(QKeySequence::mnemonic(button->text()));
+        for (int tab = 0; tab < all.count(); ++tab)
+            EXPECT_TRUE(taken.insert(QKeySequence::mnemonic(all.tabText(tab))).second) << tab;
+        for (const auto* const menu : expert->layout()->menuBar()->findChildren<QMenu*>())
+            EXPECT_TRUE(taken.insert(QKeySequence::mnemonic(menu->title())).second)
+                << menu->title().toStdString();
+    }
 }
 
 } // namespace
