@@ -50,6 +50,11 @@ constexpr auto kPageKeys = std::to_array<PageKey>({
     {"DEBUG", [](ReportFile& r, std::string_view) { r.DebugOn = true; }},
 });
 
+bool NamesDate(std::string_view value) {
+    return platform::ContainsIgnoringCase(value, "%STARTDATE%") ||
+           platform::ContainsIgnoringCase(value, "%ENDDATE%");
+}
+
 } // namespace
 
 bool IsPageKey(std::string_view key) {
@@ -68,6 +73,7 @@ void RunTimeReader::Read(const DefinitionLine& line) {
 
 void RunTimeReader::ReadLine(const DefinitionLine& line) {
     if (OpensSection(line)) return;
+    if (state_ != State::General && NamesDate(line.value)) report_.UsesDates = true;
     const auto page = std::ranges::find(kPageKeys, line.key, &PageKey::key);
     if (page != kPageKeys.end()) {
         page->apply(report_, line.value);

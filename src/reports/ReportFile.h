@@ -27,6 +27,8 @@ struct ReportFile {
     std::int32_t ScaleY = 0;
     std::string LoopQuery;
     int LoopLine = 0; ///< of the loop query, 0 without one
+    /// Whether the start or the end date is used anywhere.
+    bool UsesDates = false;
     std::vector<std::unique_ptr<ReportSection>> Sections;
 };
 

@@ -15,6 +15,7 @@
 #include "platform/printing/pdf/PdfWriter.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Paths.h"
+#include "platform/values/Text.h"
 #include "reports/ReportList.h"
 #include "reports/ViewerSettings.h"
 #include "reports/screens/ReportSinks.h"
@@ -33,13 +34,21 @@ platform::FileFilter FilterOf(std::string_view words) {
             .patterns = std::string(words.substr(bar + 1))};
 }
 
-/// Returns the file to write; a name without an extension gets the format's.
+/// The name ends as files of the format do. Whatever else follows a dot, as in "Roll 11.22.2026",
+/// belongs to the name, and no program would know the file by it.
+bool HasEnding(const std::filesystem::path& file, std::string_view extension) {
+    const std::string ending = file.extension().string();
+    return platform::EqualIgnoringCase(ending, "." + std::string(extension)) ||
+           (extension == "html" && platform::EqualIgnoringCase(ending, ".htm"));
+}
+
+/// Returns the file to write; a name without the format's extension gets it.
 std::optional<std::string> AskFile(const ExportWords& words, ExportFormat format) {
     const auto chosen =
         platform::TheChoosers().SaveFile({.title = std::string(words.title),
                                           .start = ProposeExportFile(LastSaveDir(), format),
                                           .filters = std::vector{FilterOf(words.filter)}});
-    if (!chosen || std::filesystem::path(*chosen).has_extension()) return chosen;
+    if (!chosen || HasEnding(*chosen, words.extension)) return chosen;
     std::string named = *chosen + "." + std::string(words.extension);
     if (platform::FileExists(named) &&
         !platform::TheDialogs().AskYesNo(std::string(words.title),
@@ -126,13 +135,18 @@ void frmReportViewer::TellExported(ExportFormat format, const std::string& path)
 }
 
 void frmReportViewer::Print() {
+    AskAndPrint(platform::qt::PagesOffered::All);
+}
+
+void frmReportViewer::AskAndPrint(platform::qt::PagesOffered offered) {
     if (work_ != Work::None || ui_->vp->PageCount() < 1) return;
-    core::forms::Guarded([this] {
+    core::forms::Guarded([this, offered] {
         const platform::qt::PrintQuestion question{
             .name = platform::qt::ToScreen(document_.Info().name),
             .setup = document_.Info().setup,
             .pageCount = ui_->vp->PageCount(),
-            .currentPage = ui_->vp->CurrentPage()};
+            .currentPage = ui_->vp->CurrentPage(),
+            .offered = offered};
         if (const auto order = platform::qt::ThePrinterChooser().Ask(this, question)) {
             PrintOn(*order);
         }
@@ -148,7 +162,8 @@ void frmReportViewer::PrintPage() {
         if (order.printer) {
             PrintOn(order);
         } else {
-            Print(); // there is no printer to print on without asking
+            // There is no printer to print on without asking.
+            AskAndPrint(platform::qt::PagesOffered::Current);
         }
     });
 }

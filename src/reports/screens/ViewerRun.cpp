@@ -51,11 +51,21 @@ void frmReportViewer::RunOnce(int index) {
 }
 
 void frmReportViewer::Lay(ReportDef& report) {
-    ReportRun run(report);
-    ShowChoices(run);
+    setWindowTitle(tr("Vestrel Report Viewer - ") + ToScreen(report.Description));
+    // A definition that can't be read leaves the choices hidden: until now they are those of the
+    // report before.
+    std::optional<ReportRun> run;
+    try {
+        run.emplace(report);
+    } catch (...) {
+        fixesOrientation_ = false;
+        ui_->fraChoices->hide();
+        throw;
+    }
+    ShowChoices(*run);
     WatchedPages pages(document_, [this](std::size_t done) { return GoOn(done); });
     platform::PrintSurface surface(*fonts_, &pages, nullptr);
-    run.Draw(surface);
+    run->Draw(surface);
 }
 
 void frmReportViewer::ShowReport() {
@@ -78,7 +88,6 @@ void frmReportViewer::ShowChoices(const ReportRun& run) {
     const ReportDef& report = run.Definition();
     title_ = run.Title();
     fixesOrientation_ = run.FixesOrientation();
-    setWindowTitle(tr("Vestrel Report Viewer - ") + ToScreen(report.Description));
     Action("mnuOpenExport")->setChecked(ReadOpenExport());
     SetNavbar(core::Preferences().ViewNavbar);
     SetToolbar(core::Preferences().ViewToolbar);
@@ -95,7 +104,7 @@ void frmReportViewer::ShowChoices(const ReportRun& run) {
         core::binding::FillList(report.SelectItem, *ui_->cboSelectedID,
                                 {.selectedId = report.SelectedId, .nameNulls = true});
     }
-    const bool asksDates = report.DateRange != DateRange::None;
+    const bool asksDates = report.DateRange != DateRange::None || run.File().UsesDates;
     for (QWidget* const part : std::initializer_list<QWidget*>{ui_->lblStartDate, ui_->dpStartDate,
                                                                ui_->lblEndDate, ui_->dpEndDate}) {
         part->setVisible(asksDates);

@@ -55,6 +55,7 @@ void frmReportViewer::reject() {
         isCancelled_ = true;
     } else if (focusWidget() == ui_->txtFind) {
         ui_->txtFind->clear();
+        ui_->vp->Find({}, platform::SearchDirection::Forward);
         ui_->vp->setFocus(Qt::OtherFocusReason);
     } else {
         Form::reject();

@@ -91,6 +91,7 @@ class frmReportViewer : public core::forms::Form {
 
     // Printing and export.
     void Print();
+    void AskAndPrint(platform::qt::PagesOffered offered);
     void PrintPage();
     void PrintOn(const platform::qt::PrintOrder& order);
     void Export(ExportFormat format);

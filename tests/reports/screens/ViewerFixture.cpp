@@ -66,10 +66,19 @@ std::string ViewerTest::LongTable(int rows) {
 
 std::optional<platform::qt::PrintOrder> FilePrinter::Ask(
     QWidget*, const platform::qt::PrintQuestion& question) {
-    return platform::qt::PrintOrder{.printer = Usual(), .first = 0, .last = question.pageCount - 1};
+    if (question.offered == platform::qt::PagesOffered::Current) {
+        return platform::qt::PrintOrder{
+            .printer = MakePrinter(), .first = question.currentPage, .last = question.currentPage};
+    }
+    return platform::qt::PrintOrder{
+        .printer = MakePrinter(), .first = 0, .last = question.pageCount - 1};
 }
 
 std::unique_ptr<QPrinter> FilePrinter::Usual() {
+    return MakePrinter();
+}
+
+std::unique_ptr<QPrinter> FilePrinter::MakePrinter() const {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setOutputFormat(QPrinter::PdfFormat);
     printer->setOutputFileName(platform::qt::ToScreen(path_));

@@ -43,6 +43,8 @@ class FilePrinter : public platform::qt::PrinterChooser {
     std::unique_ptr<QPrinter> Usual() override;
 
   private:
+    std::unique_ptr<QPrinter> MakePrinter() const;
+
     std::string path_;
 };
 

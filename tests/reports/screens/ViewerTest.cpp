@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
+#include <QPrinter>
 #include <QSpinBox>
 #include <QToolBar>
 
@@ -147,6 +148,12 @@ TEST_F(ViewerTest, TurnsPagesAndFindsTextByKeys) {
     auto& zoom = Find<QComboBox>(viewer, "cboZoom");
     Trigger(viewer, "mnuFitPage");
     EXPECT_EQ(zoom.currentText(), QStringLiteral("Fit page"));
+    // Pages that are all in view can still be chosen one by one.
+    pages.SetZoom(10);
+    Trigger(viewer, "mnuFirst");
+    for (int page = 0; page < pages.PageCount(); ++page, Trigger(viewer, "mnuNext"))
+        EXPECT_EQ(number.value(), page + 1);
+    EXPECT_FALSE(Find<QAction>(viewer, "mnuNext").isEnabled());
     zoom.setEditText(QStringLiteral("130"));
     QTest::keyClick(zoom.lineEdit(), Qt::Key_Return);
     EXPECT_EQ(qRound(pages.Zoom()), 130);
@@ -186,8 +193,18 @@ TEST_F(ViewerTest, SaysWhyADefinitionCannotBeRunAndLivesOn) {
     ASSERT_EQ(heard.size(), 1U);
     EXPECT_THAT(heard[0], HasSubstr("bad.rpt, line 4"));
     EXPECT_FALSE(viewer.InRun());
-    View(MakeReport("c.rpt", "[TEXT]\nPARAGRAPH=fine\n"));
-    EXPECT_THAT(TextOf(viewer), HasSubstr("fine"));
+    View(MakeReport("c.rpt", kPerTenant));
+    EXPECT_TRUE(Find<QWidget>(viewer, "fraChoices").isVisible());
+    // The title and the questions of the report before would be taken for its own.
+    View(reports::FindReportNamed("bad.rpt"));
+    EXPECT_EQ(viewer.windowTitle(), QStringLiteral("Vestrel Report Viewer - bad"));
+    EXPECT_FALSE(Find<QWidget>(viewer, "fraChoices").isVisible());
+    static_cast<void>(Heard());
+    View(MakeReport("d.rpt", "[TEXT]\nPARAGRAPH=until %enddate%\n"));
+    EXPECT_THAT(TextOf(viewer), HasSubstr("until"));
+    EXPECT_TRUE(Find<DateEdit>(viewer, "dpEndDate").isVisible());
+    View(MakeReport("e.rpt", "[TEXT]\nPARAGRAPH=always\n"));
+    EXPECT_FALSE(Find<DateEdit>(viewer, "dpEndDate").isVisible());
 }
 
 class Exports : public ViewerTest {
@@ -245,9 +262,9 @@ TEST_F(Exports, OpenTheFileGiveNamesAnEndingAndEndSilentlyWhenCancelled) {
     }
     EXPECT_THAT(desktop.Opened(), IsEmpty());
     support::ScriptedChoosers choosers(
-        {PathTo("named"), PathTo("named"), PathTo("no folder/x.pdf")});
+        {PathTo("Roll 11.22.2026"), PathTo("Roll 11.22.2026"), PathTo("no folder/x.pdf")});
     Trigger(viewer, "mnuExportHTML");
-    EXPECT_THAT(desktop.Opened(), ElementsAre(PathTo("named.html")));
+    EXPECT_THAT(desktop.Opened(), ElementsAre(PathTo("Roll 11.22.2026.html")));
     EXPECT_THAT(Heard(), IsEmpty());
     Trigger(viewer, "mnuExportHTML"); // the file that the ending leads to is there: No
     ASSERT_EQ(Heard().size(), 1U);
@@ -256,6 +273,13 @@ TEST_F(Exports, OpenTheFileGiveNamesAnEndingAndEndSilentlyWhenCancelled) {
     EXPECT_THAT(Heard(), ElementsAre(HasSubstr("no folder/x.pdf")));
     EXPECT_EQ(reports::LastSaveDir(), PathTo(""));
 }
+
+/// A machine without a printer, where the dialog offers a file.
+class NoUsualPrinter : public tests::FilePrinter {
+  public:
+    using FilePrinter::FilePrinter;
+    std::unique_ptr<QPrinter> Usual() override { return nullptr; }
+};
 
 TEST_F(ViewerTest, PrintsAllPagesOrTheOneThatShows) {
     const std::string path = PathTo("printed.pdf");
@@ -275,6 +299,10 @@ TEST_F(ViewerTest, PrintsAllPagesOrTheOneThatShows) {
     EXPECT_EQ(pagesIn(), viewer.Document().PageCount());
     Trigger(viewer, "mnuPrintPage");
     EXPECT_EQ(pagesIn(), 1U);
+    Trigger(viewer, "mnuPrint");
+    platform::qt::SetPrinterChooser(std::make_unique<NoUsualPrinter>(path));
+    Trigger(viewer, "mnuPrintPage");
+    EXPECT_EQ(pagesIn(), 1U) << "the dialog offers the page that shows";
     platform::qt::SetPrinterChooser(
         std::make_unique<tests::FilePrinter>(PathTo("no folder/printed.pdf")));
     Trigger(viewer, "mnuPrint");

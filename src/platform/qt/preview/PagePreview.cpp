@@ -37,6 +37,7 @@ void PagePreview::SetDocument(const PrintedDocument* document, const FontBook* f
     painter_ = fonts ? std::make_unique<PagePainter>(*fonts) : nullptr;
     match_.reset();
     toldPage_ = -1;
+    chosenPage_.reset();
     verticalScrollBar()->setValue(0);
     PagesAdded();
 }
@@ -77,6 +78,7 @@ QRectF PagePreview::PageRect(int page) const {
 
 int PagePreview::CurrentPage() const {
     if (PageCount() == 0) return -1;
+    if (chosenPage_ && *chosenPage_ < PageCount()) return *chosenPage_;
     const double middle = verticalScrollBar()->value() + viewport()->height() / 2.0;
     const int page = static_cast<int>((middle - kGap / 2) / (PageSize().height() + kGap));
     return std::clamp(page, 0, PageCount() - 1);
@@ -88,6 +90,7 @@ void PagePreview::GoToPage(int page) {
     // A page smaller than the view is centred.
     const double spare = std::max(viewport()->height() - PageSize().height(), 2 * kGap) / 2;
     verticalScrollBar()->setValue(static_cast<int>(std::lround(PageTop(page) - spare)));
+    chosenPage_ = page;
     TellCurrentPage();
 }
 
@@ -128,6 +131,7 @@ void PagePreview::ApplyFit() {
 void PagePreview::SetZoomKeepingPlace(double percent) {
     percent = std::clamp(percent, kLeastZoom, kMostZoom);
     if (std::abs(percent - zoom_) < 0.01) return UpdateScrollBars();
+    chosenPage_.reset();
     const double height = PageSize().height() + kGap;
     const double place = height > kGap ? (verticalScrollBar()->value() - kGap) / height : 0;
     const bool atTop = verticalScrollBar()->value() == 0;
@@ -192,6 +196,7 @@ void PagePreview::resizeEvent(QResizeEvent* event) {
 }
 
 void PagePreview::scrollContentsBy(int /*dx*/, int /*dy*/) {
+    chosenPage_.reset();
     viewport()->update();
     TellCurrentPage();
 }
@@ -296,6 +301,8 @@ void PagePreview::ShowMatch() {
         const double move = rect.center().x() - room.center().x();
         horizontalScrollBar()->setValue(horizontalScrollBar()->value() + static_cast<int>(move));
     }
+    chosenPage_ = static_cast<int>(match_->page);
+    TellCurrentPage();
     viewport()->update();
 }
 

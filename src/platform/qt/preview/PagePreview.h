@@ -29,7 +29,8 @@ class PagePreview : public QAbstractScrollArea {
     void PagesAdded();
 
     int PageCount() const;
-    /// Returns the page that takes up most of the view; -1 if there are no pages.
+    /// Returns the page that was chosen, until the user scrolls, or else the one in the middle of
+    /// the view; -1 if there are no pages.
     int CurrentPage() const;
     void GoToPage(int page);
 
@@ -80,6 +81,8 @@ class PagePreview : public QAbstractScrollArea {
     PageFit fit_ = PageFit::Width;
     double zoom_ = 100;
     int toldPage_ = -1;
+    /// Pages that are small enough to be shown together can't all be moved to the middle.
+    std::optional<int> chosenPage_;
     std::optional<PageMatch> match_;
     std::optional<QPoint> dragFrom_;
 };

@@ -46,6 +46,8 @@ std::optional<PrintOrder> SystemPrinters::Ask(QWidget* owner, const PrintQuestio
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, question.pageCount);
     dialog.setFromTo(1, question.pageCount);
+    if (question.offered == PagesOffered::Current)
+        dialog.setPrintRange(QAbstractPrintDialog::CurrentPage);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
 
     last_ = printer->printerName();

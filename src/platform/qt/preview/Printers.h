@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -13,11 +14,15 @@ class QWidget;
 
 namespace platform::qt {
 
+/// Which pages the print dialog offers first.
+enum class PagesOffered : std::uint8_t { All, Current };
+
 struct PrintQuestion {
     QString name; ///< of the document
     PageSetup setup;
     int pageCount = 0;
     int currentPage = 0; ///< from 0
+    PagesOffered offered = PagesOffered::All;
 };
 
 /// A printer and a range of pages, counted from 0, including both ends.
