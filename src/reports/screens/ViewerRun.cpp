@@ -52,7 +52,7 @@ void frmReportViewer::RunOnce(int index) {
 
 void frmReportViewer::Lay(ReportDef& report) {
     setWindowTitle(tr("Vestrel Report Viewer - ") + ToScreen(report.Description));
-    // A definition that can't be read leaves the choices hidden: until now they are those of the
+    // A definition that can't be read leaves the choices hidden: until now they belong to the
     // report before.
     std::optional<ReportRun> run;
     try {
