@@ -2,7 +2,10 @@
 
 #include "records/screens/frmBuilding.h"
 
+#include <algorithm>
+
 #include "core/Configuration.h"
+#include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/Lookups.h"
 #include "core/RecordKinds.h"
@@ -10,6 +13,7 @@
 #include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
 #include "platform/database/FieldReadings.h"
+#include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
 #include "records/BuildingRules.h"
 #include "records/FurnishingRules.h"
@@ -129,15 +133,15 @@ void frmBuilding::ShowRow(platform::Recordset& row) {
     ShowUnit();
 }
 
-/// Shows the unit, or the building's first if none was asked for.
+/// Shows the unit, or the building's first if none was asked for or it is no longer here.
 void frmBuilding::ShowUnit() {
-    if (idUnit_ == 0) {
-        const auto units = UnitsOf(Id());
-        if (!units.empty()) idUnit_ = units.front().id;
-    }
+    const auto units = UnitsOf(Id());
+    if (std::ranges::find(units, idUnit_, &core::Choice::id) == units.end())
+        idUnit_ = units.empty() ? 0 : units.front().id;
     platform::Recordset row = FindById(kUnitTable, idUnit_);
     unitFields_.ShowBlanks(*this);
-    if (!row.Eof()) unitFields_.Show(*this, row);
+    if (row.Eof()) row = core::NewRow(kUnitTable); // never written: what is entered differs from it
+    unitFields_.Show(*this, row);
 }
 
 void frmBuilding::RowMissing() {
@@ -163,6 +167,16 @@ std::vector<std::string> frmBuilding::Errors() {
     return BuildingErrors(FromScreen(place_->txtAddress->text()));
 }
 
+/// A unit that was deleted elsewhere is saved again only if the user means it.
+bool frmBuilding::Agreed() {
+    const bool isGone = Dirty() && Id() != 0 && idUnit_ != 0 &&
+                        core::RecordExists(core::kBuilding, Id()) &&
+                        !core::RecordExists(core::kUnit, idUnit_);
+    return !isGone || platform::TheDialogs().AskYesNo(
+                          "Deleted", "This unit was deleted while it was open here. Save it again?",
+                          platform::Icon::Question);
+}
+
 /// Saves the building and its unit, both or neither.
 void frmBuilding::Store() {
     const std::int32_t building = Id();
@@ -170,7 +184,8 @@ void frmBuilding::Store() {
     try {
         platform::UnitOfWork work(core::App().Connection);
         StoreBuilding();
-        StoreUnit();
+        // A building whose units were all moved away gets none unless one is entered.
+        if (idUnit_ != 0 || WritesNewRow() || !unitFields_.Touched(*this).empty()) StoreUnit();
         work.Commit();
     } catch (...) {
         SetId(building);
@@ -193,7 +208,9 @@ void frmBuilding::StoreUnit() {
     idUnit_ = unit.id;
     if (unit.isNew) unit["Ccount"].Set(std::int32_t{0});
     unitFields_.Write(*this, unit.row, unit.isNew ? WriteFields::All : WriteFields::Touched);
-    unit["IdBuilding"].Set(Id());
+    // A unit that was moved to another building in the meantime stays there.
+    if (!core::RecordExists(core::kBuilding, platform::IdOf(unit["IdBuilding"])))
+        unit["IdBuilding"].Set(Id());
     unit.row.Update();
 }
 
@@ -213,11 +230,11 @@ void frmBuilding::Refresh(std::int16_t kind) {
 /// Leases change the unit's status, and other screens its other fields.
 void frmBuilding::FollowOthers(const core::binding::Controls& /*touched*/) {
     platform::Recordset row = FindById(kUnitTable, idUnit_);
-    if (row.Eof()) return ShowAnotherUnit();
+    if (row.Eof() || platform::IdOf(row["IdBuilding"]) != Id()) return ShowAnotherUnit();
     unitFields_.ShowUntouched(*this, row, unitFields_.Touched(*this));
 }
 
-/// The unit was deleted elsewhere. What was entered for it stays until the user decides.
+/// The unit was deleted or moved elsewhere. What was entered for it stays until the user decides.
 void frmBuilding::ShowAnotherUnit() {
     if (Dirty()) return;
     idUnit_ = 0;

@@ -49,6 +49,7 @@ class frmBuilding : public core::forms::RecordForm {
 
   protected:
     void ShowRow(platform::Recordset& row) override;
+    bool Agreed() override;
     void Store() override;
     void RowMissing() override;
     void ShowCaption() override;

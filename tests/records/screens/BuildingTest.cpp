@@ -3,14 +3,12 @@
 
 #include "core/Configuration.h"
 #include "core/EditRecord.h"
-#include "core/Lookups.h"
 #include "core/binding/Binding.h"
 #include "core/binding/Tags.h"
 #include "core/forms/OpenForms.h"
 #include "platform/dialogs/Desktop.h"
 #include "records/screens/BuildingFields.h"
 #include "records/screens/frmBuilding.h"
-#include "removal/DeleteRecord.h"
 #include "support/screens/Screens.h"
 
 namespace support {
@@ -267,31 +265,6 @@ TEST_F(BuildingTest, ThePeriodIsShownWithOneDecimal) {
         Q_EMIT period.editingFinished();
         EXPECT_EQ(period.text(), QString::fromLatin1(shown));
     }
-}
-
-TEST_F(BuildingTest, AStatusThatALeaseSetIsNotWrittenBack) {
-    for (const bool dirty : {false, true}) {
-        Run("UPDATE Unit SET Status = 'Hold' WHERE IdUnit = 20");
-        const auto form = Open(0, 20);
-        if (dirty) Type(Find<QLineEdit>(*form, "txtFaces"), "West");
-        core::SetUnitStatus(20, "Leased");
-        EXPECT_EQ(form->Dirty(), dirty);
-        ClickAction(*form, "CLOSE");
-        EXPECT_EQ(Ask("SELECT Status FROM Unit WHERE IdUnit = 20"), "Leased") << dirty;
-        SettleEvents();
-    }
-    EXPECT_EQ(Ask("SELECT Faces FROM Unit WHERE IdUnit = 20"), "West");
-}
-
-TEST_F(BuildingTest, WhatWasDeletedElsewhereComesBackUnderItsNumbers) {
-    const auto form = Open(0, 22);
-    removal::DeleteRecord(core::kUnit, 22, removal::Confirm::DontAsk);
-    EXPECT_EQ(Ask("SELECT Count(*) FROM Building WHERE IdBuilding = 11"), "0");
-    EXPECT_EQ(Text(*form, "txtAddress"), "Oak Rd");
-    Answer({true}); // to whether it is to be saved again
-    ClickAction(*form, "CLOSE");
-    EXPECT_EQ(Ask("SELECT Address FROM Building WHERE IdBuilding = 11"), "Oak Rd");
-    EXPECT_EQ(Ask("SELECT Unit FROM Unit WHERE IdUnit = 22"), "1");
 }
 
 TEST_F(BuildingTest, ABuildingIsNeverOpenTwice) {
