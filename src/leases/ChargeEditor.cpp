@@ -1,6 +1,8 @@
 #include "leases/ChargeEditor.h"
 
+#include "core/Descriptions.h"
 #include "core/Globals.h"
+#include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "leases/Credits.h"
 #include "leases/LeaseEditor.h"
@@ -55,6 +57,14 @@ void CheckAmount(platform::Recordset& row) {
         CheckNotTied(id);
 }
 
+/// A new charge of a deleted lease would be owed by nobody.
+void CheckLease(std::int32_t idRentLog, std::int32_t idLease) {
+    if (core::RecordExists(core::kLease, idLease) || core::RecordExists(core::kRentLog, idRentLog))
+        return;
+    throw platform::ConflictError(
+        "The lease was deleted after the charge was opened. It was not saved.");
+}
+
 } // namespace
 
 void SaveCharge(platform::Recordset& row, std::int32_t idTransactionRead) {
@@ -68,6 +78,7 @@ void SaveCharge(platform::Recordset& row, std::int32_t idTransactionRead) {
     }
     CheckAmount(row);
     const std::int32_t idLease = platform::IdOf(row["IdLease"]);
+    CheckLease(platform::IdOf(row["IdRentLog"]), idLease);
     row.Update();
     StoreBalances(idLease);
     unit.Commit();

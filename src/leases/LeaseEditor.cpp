@@ -1,7 +1,10 @@
 #include "leases/LeaseEditor.h"
 
+#include <fmt/core.h>
+
 #include "core/Codes.h"
 #include "core/Configuration.h"
+#include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
@@ -11,6 +14,7 @@
 #include "leases/RentCodes.h"
 #include "leases/RentLog.h"
 #include "leases/mLease.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/system/Clock.h"
 
 namespace leases {
@@ -72,10 +76,21 @@ std::vector<std::string> LeaseErrors(const LeaseEntry& entry) {
     return lines;
 }
 
+void CheckParties(std::int32_t idUnit, std::int32_t idTenant) {
+    const bool hasUnit = core::RecordExists(core::kUnit, idUnit);
+    if (hasUnit && core::RecordExists(core::kTenant, idTenant)) return;
+    throw platform::ConflictError(
+        fmt::format("The {} was deleted in the meantime. The lease was not saved.",
+                    hasUnit ? "tenant" : "unit"));
+}
+
 void SaveLease(Recordset& row, LeaseAge age) {
     platform::UnitOfWork unit(core::App().Connection);
     const bool isNew = age == LeaseAge::New;
-    if (isNew) BeginLease(row);
+    if (isNew) {
+        CheckParties(IdOf(row["IdUnit"]), IdOf(row["IdTenant"]));
+        BeginLease(row);
+    }
     SetLeaseStatus(row, platform::Today(), isNew ? StatusChange::Force : StatusChange::IfDifferent);
     // The balances on the screen are rounded, and may be out of date.
     SetLeaseBalances(row);

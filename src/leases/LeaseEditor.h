@@ -29,6 +29,10 @@ struct LeaseEntry {
 /// Returns the errors in the entries, a line each; empty if they can be saved.
 std::vector<std::string> LeaseErrors(const LeaseEntry& entry);
 
+/// Throws ConflictError if the unit or the tenant of a new lease was deleted since it was chosen.
+/// Called within the unit of work that saves the lease.
+void CheckParties(std::int32_t idUnit, std::int32_t idTenant);
+
 enum class LeaseAge { New, Stored };
 
 /// Saves a lease's row, filled in by the screen. A new lease is pending until its dates say

@@ -147,6 +147,7 @@ std::int32_t FinishLeaseWizard(const LeaseWizardEntry& entry) {
     platform::UnitOfWork unit(core::App().Connection);
     const std::int32_t idUnit = entry.newProperty ? AddUnit(entry) : entry.idUnit;
     const std::int32_t idTenant = entry.newTenant ? AddTenant(entry) : entry.idTenant;
+    CheckParties(idUnit, idTenant);
     const std::int32_t idLease = AddLease(entry, idUnit, idTenant);
     ChargeDeposits(idLease, idUnit);
     StoreBalances(idLease);

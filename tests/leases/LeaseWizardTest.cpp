@@ -1,6 +1,7 @@
 #include "leases/LeaseWizard.h"
 
 #include <fmt/core.h>
+#include <gmock/gmock.h>
 
 #include "core/Configuration.h"
 #include "core/Globals.h"
@@ -151,6 +152,18 @@ TEST_F(LeaseWizard, TestsEachStepByItself) {
              {LeaseWizardStep::Summary, {.startDate = Date(2024, 2, 29)}, none}}) {
         EXPECT_EQ(LeaseWizardErrors(c.step, c.entry), c.lines);
     }
+}
+
+TEST_F(LeaseWizard, RefusesAUnitOrTenantThatWasDeletedMeanwhile) {
+    for (const auto& [field, party] :
+         {std::pair{&LeaseWizardEntry::idUnit, "unit"}, {&LeaseWizardEntry::idTenant, "tenant"}}) {
+        LeaseWizardEntry entry = Entry();
+        entry.*field = 4711;
+        EXPECT_THAT([&] { leases::FinishLeaseWizard(entry); },
+                    testing::ThrowsMessage<platform::ConflictError>(
+                        testing::StartsWith("The " + std::string(party) + " was deleted")));
+    }
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Lease"), "1");
 }
 
 } // namespace

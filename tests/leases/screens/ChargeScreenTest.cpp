@@ -214,6 +214,16 @@ TEST_F(ChargeScreen, AChargePaidMeanwhileIsNotSplit) {
     EXPECT_EQ(Row("Count(*)"), "1");
 }
 
+TEST_F(ChargeScreen, ALeaseDeletedMeanwhileIsChargedNothing) {
+    const auto form = Open(0);
+    Type(Find<QLineEdit>(*form, "txtAmount"), "5");
+    Run("DELETE FROM Lease");
+    ClickAction(*form, "SAVE");
+    EXPECT_EQ(Heard(), Said{"Vestrel: The lease was deleted after the charge was opened. It was "
+                            "not saved."});
+    EXPECT_EQ(Row("Count(*)"), "0");
+}
+
 TEST_F(ChargeScreen, LooksAndReadsRight) {
     const auto charge = Open(Charge("05/01/2024", 950, RentFlags::PeriodRent));
     const auto split = Split(Charge("05/01/2024", 950, RentFlags::PeriodRent));
