@@ -89,7 +89,6 @@ std::vector<std::int32_t> LedgerList::SelectedIds() const {
     for (int i = 0; i < topLevelItemCount(); ++i) {
         if (topLevelItem(i)->isSelected()) ids.push_back(IdOf(*topLevelItem(i)));
     }
-    if (ids.empty() && currentItem()) ids.push_back(CurrentId());
     return ids;
 }
 
@@ -106,6 +105,12 @@ void LedgerList::SortBy(int column) {
     header()->setSortIndicatorShown(true);
     header()->setSortIndicator(column, order_);
     sortItems(column, order_);
+}
+
+/// A list without a current row makes its first one current, and would leave it unselected.
+void LedgerList::focusInEvent(QFocusEvent* event) {
+    QTreeWidget::focusInEvent(event);
+    if (currentItem() && selectedItems().isEmpty()) setCurrentItem(currentItem());
 }
 
 void LedgerList::keyPressEvent(QKeyEvent* event) {

@@ -19,7 +19,7 @@ class LedgerList : public QTreeWidget {
 
     void SetTicks(bool ticks) { ticks_ = ticks; }
 
-    /// Returns the selected rows from top to bottom; the current row if none is selected.
+    /// Returns the selected rows from top to bottom.
     std::vector<std::int32_t> SelectedIds() const;
     /// Returns the current row, or else the first selected one; 0 if there is neither.
     std::int32_t CurrentId() const;
@@ -51,6 +51,7 @@ class LedgerList : public QTreeWidget {
     }
     bool Filling() const { return filling_; }
 
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

@@ -186,7 +186,7 @@ void Lease_Ledger::ShowAvailable() {
     const bool isDeposit = Tab().rentClass == RentClass::Deposit;
     add_->setEnabled(isStored);
     edit_->setEnabled(isSelected);
-    delete_->setEnabled(isSelected);
+    delete_->setEnabled(!list_->SelectedIds().empty());
     select_->setEnabled(list_->topLevelItemCount() > 0);
     rent_->setVisible(Tab().rentClass != RentClass::OptionCredit);
     rent_->setEnabled(isStored);
