@@ -32,8 +32,11 @@ class Printer : public core::RunListener {
 
     void Failed(int recordKind, std::int32_t, std::string_view description,
                 std::string_view reason) override {
-        std::cout << fmt::format("Not updated: {} {}: {}\n", core::RecordKindName(recordKind),
-                                 description, reason);
+        // A whole step of the run has no kind of record.
+        std::string name(description);
+        if (recordKind != core::kNone)
+            name = fmt::format("{} {}", core::RecordKindName(recordKind), description);
+        std::cout << fmt::format("Not updated: {}: {}\n", name, reason);
         ++failed_;
     }
 

@@ -2,6 +2,8 @@
 
 #include <fstream>
 
+#include "platform/database/Connection.h"
+
 namespace tests {
 
 namespace {
@@ -229,6 +231,11 @@ TEST_F(Vestrelctl, NamesALeaseThatCannotBeBroughtUpToDate) {
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.output.find("Not updated: Lease lease 7: "), std::string::npos);
     EXPECT_EQ(outcome.errors, "vestrelctl: 1 record could not be brought up to date\n");
+    platform::Connection books;
+    books.Open(folder_ / "books/Vestrel.mdb");
+    books.RunScript("DROP TABLE Mortgage");
+    books.Close();
+    EXPECT_NE(Run(OnBooks() + "update").output.find("Not updated: Mortgages: "), std::string::npos);
 }
 
 } // namespace
