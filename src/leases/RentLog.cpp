@@ -47,6 +47,16 @@ void CopyFields(Recordset& from, Recordset& to) {
 
 } // namespace
 
+RentLogEntry EntryOf(std::int32_t idLease, const Charge& charge) {
+    return {.idLease = idLease,
+            .datePosted = charge.date,
+            .rentClass = ClassOf(charge.kind),
+            .category = std::string(CategoryOf(charge.kind)),
+            .amount = charge.amount,
+            .description = DescriptionOf(charge),
+            .flags = FlagsOf(charge.kind)};
+}
+
 bool RewriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
     const auto rows =
         core::Execute(kUpdateEntry, {entry.idLease, entry.idTransaction, entry.datePosted.ToText(),
@@ -68,12 +78,8 @@ std::int32_t WriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
 void WriteCharges(std::int32_t idLease, std::span<const Charge> charges) {
     if (charges.empty()) return;
     std::int32_t id = core::NextIds(static_cast<std::int32_t>(charges.size()));
-    for (const Charge& charge : charges) {
-        core::Execute(kInsertEntry,
-                      {id++, idLease, std::int32_t{0}, charge.date.ToText(),
-                       Code(ClassOf(charge.kind)), CategoryOf(charge.kind), charge.amount,
-                       DescriptionOf(charge), Code(FlagsOf(charge.kind))});
-    }
+    for (const Charge& charge : charges)
+        Insert(id++, EntryOf(idLease, charge));
     Announce();
 }
 

@@ -26,6 +26,9 @@ struct RentLogEntry {
     RentFlags flags = RentFlags::Ordinary;
 };
 
+/// The open row that a charge of a lease's walk becomes.
+RentLogEntry EntryOf(std::int32_t idLease, const Charge& charge);
+
 // Each of these writers broadcasts the rows it wrote. All throw on failure.
 
 /// Writes the row `idRentLog`, or a new one if that is 0 or the row was deleted; returns the row's

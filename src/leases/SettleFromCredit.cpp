@@ -54,7 +54,7 @@ class Writer {
     /// A charge that is settled in part is written as the parts that a split makes of it.
     void WriteCharge(std::size_t place) {
         const Charge& charge = walk_.charges[place];
-        RentLogEntry entry = EntryOf(charge);
+        RentLogEntry entry = EntryOf(idLease_, charge);
         const auto settled = settled_.find(place);
         if (settled == settled_.end() || settled->second == charge.amount) {
             chargeIds_[place] = WriteRentLog(entry);
@@ -67,17 +67,6 @@ class Writer {
         entry.amount -= settled->second;
         entry.description = "Deferred " + entry.description;
         WriteRentLog(entry);
-    }
-
-    RentLogEntry EntryOf(const Charge& charge) const {
-        return {.idLease = idLease_,
-                .idTransaction = 0,
-                .datePosted = charge.date,
-                .rentClass = ClassOf(charge.kind),
-                .category = std::string(CategoryOf(charge.kind)),
-                .amount = charge.amount,
-                .description = DescriptionOf(charge),
-                .flags = FlagsOf(charge.kind)};
     }
 
     void WritePayment(const CreditPayment& payment) {
