@@ -83,6 +83,15 @@ void WriteCharges(std::int32_t idLease, std::span<const Charge> charges) {
     Announce();
 }
 
+void WriteOptionCredit(std::int32_t idLease, platform::Date day, platform::Currency amount) {
+    WriteRentLog({.idLease = idLease,
+                  .datePosted = day,
+                  .rentClass = RentClass::OptionCredit,
+                  .category = std::string(kCategoryOptionCredit),
+                  .amount = amount,
+                  .description = std::string(kCategoryOptionCredit)});
+}
+
 void SetLeaseBalances(Recordset& row) {
     const Value idLease = row["IdLease"].Value();
     Recordset sums = core::Read(

@@ -115,12 +115,7 @@ class Writer {
         platform::Recordset lease =
             core::Read("SELECT [Option], OptionCredit FROM Lease WHERE IdLease = ?", {idLease_});
         if (lease.Eof() || !FlagOf(lease["Option"])) return;
-        WriteRentLog({.idLease = idLease_,
-                      .datePosted = day,
-                      .rentClass = RentClass::OptionCredit,
-                      .category = std::string(kCategoryOptionCredit),
-                      .amount = MoneyOf(lease["OptionCredit"]),
-                      .description = std::string(kCategoryOptionCredit)});
+        WriteOptionCredit(idLease_, day, MoneyOf(lease["OptionCredit"]));
     }
 
     std::int32_t idLease_;

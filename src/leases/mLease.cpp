@@ -136,14 +136,8 @@ void AdvanceNextDue(std::int32_t idLease, OptionCredit credit, Broadcast broadca
     const Date nextDue = DateAdd(TermInterval(termType), 1, row["DateNextDue"].AsDate());
     row["DateNextDue"].Set(nextDue.ToText());
     row.Update();
-    if (credit == OptionCredit::Add && row["Option"].AsBoolean()) {
-        WriteRentLog({.idLease = idLease,
-                      .datePosted = platform::Today(),
-                      .rentClass = RentClass::OptionCredit,
-                      .category = std::string(kCategoryOptionCredit),
-                      .amount = row["OptionCredit"].AsCurrency(),
-                      .description = std::string(kCategoryOptionCredit)});
-    }
+    if (credit == OptionCredit::Add && row["Option"].AsBoolean())
+        WriteOptionCredit(idLease, platform::Today(), row["OptionCredit"].AsCurrency());
     unit.Commit();
     if (broadcast == Broadcast::Yes) core::NotifyAll(core::kLease, core::kRecordsChanged, idLease);
 }
