@@ -5,17 +5,15 @@
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
+#include "removal/RentCredits.h"
 
 namespace leases {
 
 using platform::Currency;
 using platform::Recordset;
+using removal::HasCredits;
 
 namespace {
-
-bool HasCredits() {
-    return core::TableExists("RentCredit");
-}
 
 constexpr std::string_view kReturns =
     "SELECT o.IdTransaction, c.IdReturn FROM (RentCredit AS c INNER JOIN RentLog AS o "

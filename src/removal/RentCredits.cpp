@@ -26,10 +26,6 @@ std::string MarkOf(const std::string& description) {
     return isMark ? mark : std::string();
 }
 
-bool HasCredits() {
-    return core::TableExists("RentCredit");
-}
-
 /// The origins of credit that the payment brought or took in.
 std::vector<std::int32_t> TouchedOrigins(std::int32_t idTransaction) {
     std::vector<std::int32_t> ids;
@@ -91,6 +87,10 @@ void Net(std::int32_t idOrigin) {
 }
 
 } // namespace
+
+bool HasCredits() {
+    return core::TableExists("RentCredit");
+}
 
 std::vector<CreditOrigin> OriginsOf(std::int32_t idTransaction) {
     std::vector<CreditOrigin> origins;

@@ -19,6 +19,9 @@ namespace removal {
 //
 // Failures are thrown. Books of an earlier version have no credits, and nothing is done to them.
 
+/// Returns whether the books can hold credits.
+bool HasCredits();
+
 /// An origin of credit that a payment settles, and what became of the credit; no amount is
 /// negative.
 struct CreditOrigin {
