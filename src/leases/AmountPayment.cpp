@@ -93,10 +93,6 @@ PreviewRow RowOf(std::string what, const PaymentCharge& charge, Currency amount)
     return {std::move(what), charge.datePosted, charge.category, charge.description, amount};
 }
 
-PreviewRow RowOf(std::string what, const RentLogEntry& entry) {
-    return {std::move(what), entry.datePosted, entry.category, entry.description, entry.amount};
-}
-
 void AddSteps(PreviewRows& rows, const AmountPayment& amount, const AmountPlan& plan) {
     for (const AmountStep& step : plan.steps) {
         const PaymentCharge& charge = ChargeOf(amount.payment, step.idRentLog);

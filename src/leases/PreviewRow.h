@@ -22,4 +22,9 @@ struct PreviewRow {
 
 using PreviewRows = std::vector<PreviewRow>;
 
+struct RentLogEntry;
+
+/// Describes a row of the ledger that will be written.
+PreviewRow RowOf(std::string what, const RentLogEntry& entry);
+
 } // namespace leases

@@ -49,10 +49,6 @@ std::string Shortened(std::string text) {
     return text;
 }
 
-PreviewRow RowOf(std::string what, const RentLogEntry& entry) {
-    return {std::move(what), entry.datePosted, entry.category, entry.description, entry.amount};
-}
-
 void AddCredits(PreviewRows& rows, const ReturnPlan& plan) {
     for (const removal::CreditOrigin& credit : plan.credits) {
         const std::string description = "Credit of the payment";
