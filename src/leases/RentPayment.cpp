@@ -103,11 +103,15 @@ bool IsPeriodRent(RentFlags flags) {
     return (static_cast<int>(flags) & static_cast<int>(RentFlags::PeriodRent)) != 0;
 }
 
-int PeriodsPaid(const RentPayment& payment) {
-    if (payment.idTransaction != 0 || payment.rentClass != RentClass::Rent) return 0;
+int CountPeriodRents(const RentPayment& payment) {
+    if (payment.rentClass != RentClass::Rent) return 0;
     return static_cast<int>(std::ranges::count_if(payment.charges, [](const PaymentCharge& charge) {
         return charge.selected && IsPeriodRent(charge.flags);
     }));
+}
+
+int PeriodsPaid(const RentPayment& payment) {
+    return payment.IsNew() ? CountPeriodRents(payment) : 0;
 }
 
 RentPayment ProposePayment(std::int32_t idLease, RentClass rentClass) {

@@ -57,6 +57,9 @@ void ReadCharges(RentPayment& payment, OpenCharges open = OpenCharges::Leave);
 /// date.
 bool IsPeriodRent(RentFlags flags);
 
+/// Returns how many rents of a period a payment settles; none if it isn't one of rent.
+int CountPeriodRents(const RentPayment& payment);
+
 /// Returns by how many periods the payment moves the next due date: one for each period's rent that
 /// a new payment of rent settles. A stored payment never moves it, in either direction.
 int PeriodsPaid(const RentPayment& payment);

@@ -49,13 +49,6 @@ Recordset ReadReturnable(std::int32_t idTransaction) {
     return row;
 }
 
-/// How many rents of a period the payment settles.
-int RentsOf(const RentPayment& payment) {
-    if (payment.rentClass != RentClass::Rent) return 0;
-    return static_cast<int>(std::ranges::count_if(
-        payment.charges, [](const PaymentCharge& charge) { return IsPeriodRent(charge.flags); }));
-}
-
 Date OldestRent(const RentPayment& payment) {
     const auto rent = std::ranges::find_if(
         payment.charges, [](const PaymentCharge& charge) { return IsPeriodRent(charge.flags); });
@@ -80,7 +73,7 @@ PaymentReturn ProposeReturn(std::int32_t idTransaction) {
     returned.amount = MoneyOf(row["Amount"]);
     returned.payment = ReadPayment(idTransaction);
     returned.date = platform::Today();
-    const int rents = RentsOf(returned.payment);
+    const int rents = CountPeriodRents(returned.payment);
     if (rents == 0) return returned;
     Recordset lease = core::Read("SELECT TermType, DateNextDue FROM Lease WHERE IdLease = ?",
                                  {returned.payment.idLease});
