@@ -111,15 +111,16 @@ void AddSteps(PreviewRows& rows, const AmountPayment& amount, const AmountPlan& 
 void AddLeaseRows(PreviewRows& rows, const RentPayment& settled) {
     const int periods = PeriodsPaid(settled);
     if (periods == 0) return;
-    const DueMove move = ReadDueMove(settled.idLease, periods);
-    if (!move.optionCredit.IsZero()) {
+    const auto move = ReadDueMove(settled.idLease, periods);
+    if (!move) return;
+    if (!move->optionCredit.IsZero()) {
         for (int i = 0; i < periods; ++i) {
             rows.push_back({"Option credit", platform::Today(), std::string(kCategoryOptionCredit),
-                            std::string(kCategoryOptionCredit), move.optionCredit});
+                            std::string(kCategoryOptionCredit), move->optionCredit});
         }
     }
-    if (move.from.IsSet()) {
-        rows.push_back({"Next due date", move.to, {}, "until now " + move.from.ToText(), {}});
+    if (move->from.IsSet()) {
+        rows.push_back({"Next due date", move->to, {}, "until now " + move->from.ToText(), {}});
     }
 }
 
@@ -167,11 +168,11 @@ std::string DescribeAmount(const AmountPayment& amount) {
         line += ", " + platform::FormatMoney(plan.credit) + " kept as the tenant's credit";
     const RentPayment settled = WholePayment(amount, plan);
     const int periods = PeriodsPaid(settled);
-    const DueMove move = ReadDueMove(settled.idLease, periods);
-    if (!move.from.IsSet()) return line;
-    return line + (periods == 0 ? ", next due date stays " + move.from.ToText()
+    const auto move = ReadDueMove(settled.idLease, periods);
+    if (!move || !move->from.IsSet()) return line;
+    return line + (periods == 0 ? ", next due date stays " + move->from.ToText()
                                 : fmt::format(", next due date moves from {} to {}",
-                                              move.from.ToText(), move.to.ToText()));
+                                              move->from.ToText(), move->to.ToText()));
 }
 
 std::int32_t SubmitAmount(const AmountPayment& amount, LeaseUpdate update) {

@@ -21,11 +21,11 @@ Date Step(std::string_view termType, Date due, int periods) {
 
 } // namespace
 
-DueMove ReadDueMove(std::int32_t idLease, int periods) {
+std::optional<DueMove> ReadDueMove(std::int32_t idLease, int periods) {
     platform::Recordset lease = core::Read(
         "SELECT TermType, DateNextDue, [Option], OptionCredit FROM Lease WHERE IdLease = ?",
         {idLease});
-    if (lease.Eof()) return {};
+    if (lease.Eof()) return std::nullopt;
     DueMove move;
     move.from = move.to = DateOf(lease["DateNextDue"]);
     if (move.from.IsSet()) move.to = Step(TextOf(lease["TermType"]), move.from, periods);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "platform/values/Currency.h"
@@ -17,8 +18,9 @@ struct DueMove {
     platform::Currency optionCredit;
 };
 
-/// Reads what paying the rent of so many periods will do. Of a lease that was deleted: nothing.
-DueMove ReadDueMove(std::int32_t idLease, int periods);
+/// Reads what paying the rent of so many periods will do. Returns nothing if the lease was
+/// deleted.
+std::optional<DueMove> ReadDueMove(std::int32_t idLease, int periods);
 
 /// Steps a next due date back over so many periods of a lease, as far as they can be told: a
 /// month's last day may have been shortened on the way. `oldest` is the day of the oldest rent

@@ -41,12 +41,10 @@ std::string DescribeCharges(const RentPayment& payment) {
     const auto count = std::ranges::count_if(payment.charges, &PaymentCharge::selected);
     if (count == 0) return "Nothing is ticked: a payment of 0.00 will be posted";
     std::string line = fmt::format("{} charge{}", count, count == 1 ? "" : "s");
-
-    if (!core::Exists("SELECT IdLease FROM Lease WHERE IdLease = ?", {payment.idLease}))
-        return line;
     const int periods = PeriodsPaid(payment);
-    const DueMove move = ReadDueMove(payment.idLease, periods);
-    return line + ", " + DescribeDueDate(move) + DescribeCredit(move, periods);
+    const auto move = ReadDueMove(payment.idLease, periods);
+    if (!move) return line;
+    return line + ", " + DescribeDueDate(*move) + DescribeCredit(*move, periods);
 }
 
 } // namespace
