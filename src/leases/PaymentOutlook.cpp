@@ -4,7 +4,8 @@
 
 #include <fmt/core.h>
 
-#include "core/Rows.h"
+#include "core/Descriptions.h"
+#include "core/RecordKinds.h"
 #include "leases/DueMove.h"
 #include "platform/values/Format.h"
 
@@ -23,11 +24,6 @@ std::string DescribeDueDate(const DueMove& move) {
 std::string DescribeCredit(const DueMove& move, int periods) {
     const Currency credit = move.optionCredit * periods;
     return credit.IsZero() ? "" : ", option credit " + platform::FormatMoney(credit);
-}
-
-bool IsStored(std::int32_t idTransaction) {
-    return core::Exists("SELECT IdTransaction FROM Transactions WHERE IdTransaction = ?",
-                        {idTransaction});
 }
 
 std::string DescribeReceiver(const RentPayment& payment) {
@@ -50,7 +46,7 @@ std::string DescribeCharges(const RentPayment& payment) {
 } // namespace
 
 std::string DescribeOutlook(const RentPayment& payment) {
-    if (payment.idTransaction != 0 && !IsStored(payment.idTransaction))
+    if (!payment.IsNew() && !core::RecordExists(core::kTransaction, payment.idTransaction))
         return "This payment was deleted. Submit stores it again under its number";
     return DescribeCharges(payment) + DescribeReceiver(payment);
 }

@@ -6,6 +6,8 @@
 
 #include "books/TransactionRow.h"
 #include "core/Codes.h"
+#include "core/Descriptions.h"
+#include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "leases/ChargeEditor.h"
 #include "leases/Credits.h"
@@ -42,7 +44,7 @@ Recordset ReadReturnable(std::int32_t idTransaction) {
         throw platform::Error(fmt::format("Transaction {} was returned already, by transaction {}",
                                           idTransaction, idReturn));
     }
-    if (!core::Exists("SELECT IdLease FROM Lease WHERE IdLease = ?", {row["IdLease"].Value()})) {
+    if (!core::RecordExists(core::kLease, IdOf(row["IdLease"]))) {
         throw platform::Error(
             fmt::format("The lease of transaction {} was deleted", idTransaction));
     }

@@ -3,6 +3,7 @@
 #include <fmt/core.h>
 
 #include "core/ChargeLedger.h"
+#include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
@@ -40,7 +41,7 @@ namespace {
 }
 
 void CheckLease(std::int32_t idLease) {
-    if (core::Exists("SELECT IdLease FROM Lease WHERE IdLease = ?", {idLease})) return;
+    if (core::RecordExists(core::kLease, idLease)) return;
     throw ConflictError("The lease was deleted after this payment was opened. Nothing was posted.");
 }
 
@@ -114,8 +115,7 @@ RentPayment CheckUnchanged(const RentPayment& payment) {
     RentPayment now = payment;
     ReadCharges(now, OpenCharges::Offer);
     const bool isStored =
-        !payment.IsNew() &&
-        core::Exists("SELECT 1 FROM Transactions WHERE IdTransaction = ?", {payment.idTransaction});
+        !payment.IsNew() && core::RecordExists(core::kTransaction, payment.idTransaction);
     for (const PaymentCharge& charge : payment.charges) {
         if (!charge.selected) continue;
         const auto same = std::ranges::find_if(

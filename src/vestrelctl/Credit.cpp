@@ -5,7 +5,8 @@
 
 #include <fmt/core.h>
 
-#include "core/Rows.h"
+#include "core/Descriptions.h"
+#include "core/RecordKinds.h"
 #include "leases/Credits.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
@@ -29,7 +30,7 @@ void PrintCredit(std::int32_t idLease) {
 }
 
 void CheckLease(std::int32_t idLease) {
-    if (core::Exists("SELECT IdLease FROM Lease WHERE IdLease = ?", {idLease})) return;
+    if (core::RecordExists(core::kLease, idLease)) return;
     throw platform::Error(fmt::format("There is no lease {}", idLease));
 }
 
