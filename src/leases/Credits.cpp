@@ -98,6 +98,11 @@ bool SettlesCharges(std::int32_t idLease) {
                {idLease});
 }
 
+bool AnySettlesCharges() {
+    return core::TableExists("LeaseCredit") &&
+           core::Exists("SELECT IdLease FROM LeaseCredit WHERE SettleCharges = True");
+}
+
 void SetSettlesCharges(std::int32_t idLease, bool settles) {
     platform::UnitOfWork unit(core::App().Connection);
     const auto changed = core::Execute("UPDATE LeaseCredit SET SettleCharges = ? WHERE IdLease = ?",

@@ -2,13 +2,15 @@
 
 #include "core/BatchRun.h"
 #include "core/RecordKinds.h"
+#include "leases/Credits.h"
 #include "leases/mLease.h"
 
 namespace leases {
 
 void UpdateLeases(core::RunListener& listener) {
-    const auto update = [](platform::Recordset& lease) {
-        return UpdateLease(lease, WalkMode::CatchUp);
+    const CreditUse use = AnySettlesCharges() ? CreditUse::AsLeaseSays : CreditUse::None;
+    const auto update = [use](platform::Recordset& lease) {
+        return UpdateLease(lease, WalkMode::CatchUp, use);
     };
     core::UpdateEach(core::kLease, "SELECT * FROM LEASE", "IdLease", update, listener);
 }

@@ -41,8 +41,8 @@ bool RewriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog);
 /// Adds the charges of a walk to the ledger of a lease, in order.
 void WriteCharges(std::int32_t idLease, std::span<const Charge> charges);
 
-/// Writes what a period's rent, once paid, earns towards the purchase of the unit. An amount of zero
-/// writes nothing.
+/// Writes what a period's rent, once paid, earns towards the purchase of the unit. An amount of
+/// zero writes nothing.
 void WriteOptionCredit(std::int32_t idLease, platform::Date day, platform::Currency amount);
 
 /// Sets the balances in the open lease row, which the caller writes, to the sums of the ledger.

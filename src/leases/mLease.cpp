@@ -59,11 +59,11 @@ PostedRows RowsOf(const LeaseWalk& walk) {
 
 } // namespace
 
-PostedRows UpdateLease(Recordset& row, WalkMode mode) {
+PostedRows UpdateLease(Recordset& row, WalkMode mode, CreditUse use) {
     const std::int32_t idLease = row["IdLease"].AsLong();
     std::optional<UnitOfWork> unit;
     std::vector<OpenCredit> credits;
-    if (mode == WalkMode::CatchUp && SettlesCharges(idLease)) {
+    if (mode == WalkMode::CatchUp && use == CreditUse::AsLeaseSays && SettlesCharges(idLease)) {
         // Read inside the unit of work, so that no other program spends them too.
         unit.emplace(core::App().Connection);
         credits = ReadCredits(idLease);

@@ -16,11 +16,16 @@ namespace leases {
 
 using PostedRows = std::vector<core::PostedRow>;
 
+/// Whether a run settles new charges from credit. A run of many leases that knows that none does
+/// so saves the lookup for each.
+enum class CreditUse { AsLeaseSays, None };
+
 /// Brings a lease up to date: walks it by the calendar, posts its charges, settles them from credit
-/// if the lease says so, sets unit and tenant, computes balances and rent status, writes the row
-/// and tells the screens. One unit of work. Returns what was posted. Throws ConflictError if the
-/// row was written since it was read.
-PostedRows UpdateLease(platform::Recordset& row, WalkMode mode);
+/// if `use` and the lease say so, sets unit and tenant, computes balances and rent status, writes
+/// the row and tells the screens. One unit of work. Returns what was posted. Throws ConflictError
+/// if the row was written since it was read.
+PostedRows UpdateLease(platform::Recordset& row, WalkMode mode,
+                       CreditUse use = CreditUse::AsLeaseSays);
 
 /// The same for the lease of this id, read again if another program writes it in between. Does
 /// nothing for id 0 or a lease that doesn't exist.
