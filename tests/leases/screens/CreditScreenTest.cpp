@@ -10,9 +10,8 @@
 #include "core/binding/DateEdit.h"
 #include "leases/Credits.h"
 #include "leases/RentPayment.h"
-#include "leases/screens/LeaseScreens.h"
+#include "leases/screens/PaymentScreenBooks.h"
 #include "leases/screens/frmLease.h"
-#include "leases/screens/frmRentPayment.h"
 #include "leases/screens/frmReturnPayment.h"
 #include "platform/qt/Text.h"
 
@@ -20,27 +19,13 @@ namespace tests {
 
 namespace {
 
-using leases::LeaseUpdate;
 using leases::RentClass;
-using leases::RentFlags;
 using leases::screens::frmLease;
-using leases::screens::frmRentPayment;
 using leases::screens::frmReturnPayment;
 using platform::qt::FromScreen;
 
-class CreditScreen : public LeaseScreenTest {
+class CreditScreen : public PaymentScreenBooks {
   protected:
-    CreditScreen() {
-        Charge("04/01/2024", 950, RentFlags::PeriodRent);
-        Charge("05/01/2024", 950, RentFlags::PeriodRent);
-        Charge("05/06/2024", 40);
-        Set("DateNextDue", "04/01/2024");
-    }
-    static QPointer<frmRentPayment> Open(std::int32_t id = 0) {
-        QPointer<frmRentPayment> form(new frmRentPayment);
-        form->Setup(id, kLease, RentClass::Rent, LeaseUpdate::Yes);
-        return form;
-    }
     static std::int32_t PayAll() {
         return leases::SubmitPayment(leases::ProposePayment(kLease, RentClass::Rent));
     }
@@ -54,7 +39,7 @@ class CreditScreen : public LeaseScreenTest {
         }
         return rows;
     }
-    static std::string Open(std::string_view what) {
+    static std::string OpenRows(std::string_view what) {
         return Ask("SELECT " + std::string(what) +
                    " FROM RentLog WHERE IdTransaction = 0 AND Class = 1");
     }
@@ -95,7 +80,7 @@ TEST_F(CreditScreen, AnAmountShowsEachRowBeforeItPostsThem) {
     EXPECT_EQ(Heard(), Said{});
     EXPECT_FALSE(form && form->isVisible());
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE Amount = 1200"), "1");
-    EXPECT_EQ(Open("Sum(Amount)"), "745"); // April's 950, and a credit of 205
+    EXPECT_EQ(OpenRows("Sum(Amount)"), "745"); // April's 950, and a credit of 205
     EXPECT_EQ(Lease("DateNextDue"), "05/01/2024");
 }
 
@@ -161,7 +146,7 @@ TEST_F(CreditScreen, APaymentIsReturnedFromItsScreenAndFromTheLedger) {
     Type(Find<QLineEdit>(*form, "dpReturned"), "5/18/2024");
     ClickAction(*form, "SUBMIT");
     EXPECT_EQ(Heard(), Said{});
-    EXPECT_EQ(Open("Sum(Amount)"), "1965");
+    EXPECT_EQ(OpenRows("Sum(Amount)"), "1965");
     EXPECT_EQ(Lease("DateNextDue"), "04/01/2024");
 
     // Paid once more, and returned from the history of the ledger.
@@ -177,7 +162,7 @@ TEST_F(CreditScreen, APaymentIsReturnedFromItsScreenAndFromTheLedger) {
     form = Opened<frmReturnPayment>();
     ASSERT_TRUE(form);
     ClickAction(*form, "SUBMIT");
-    EXPECT_EQ(Open("Sum(Amount)"), "1965");
+    EXPECT_EQ(OpenRows("Sum(Amount)"), "1965");
     EXPECT_EQ(Ask("SELECT Sum(Amount) FROM Transactions"), "0");
     // Once returned it isn't returned again.
     (new frmReturnPayment)->Setup(id);

@@ -15,9 +15,8 @@
 #include "core/RecordKinds.h"
 #include "core/binding/DateEdit.h"
 #include "leases/RentPayment.h"
-#include "leases/screens/LeaseScreens.h"
+#include "leases/screens/PaymentScreenBooks.h"
 #include "leases/screens/frmRentLog.h"
-#include "leases/screens/frmRentPayment.h"
 #include "leases/screens/frmRentSplit.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportList.h"
@@ -30,23 +29,10 @@ using leases::LeaseUpdate;
 using leases::RentClass;
 using leases::RentFlags;
 using leases::screens::frmRentLog;
-using leases::screens::frmRentPayment;
 using leases::screens::frmRentSplit;
 
-class PaymentScreen : public LeaseScreenTest {
+class PaymentScreen : public PaymentScreenBooks {
   protected:
-    PaymentScreen() {
-        Charge("04/01/2024", 950, RentFlags::PeriodRent);
-        Charge("05/01/2024", 950, RentFlags::PeriodRent);
-        Charge("05/06/2024", 40);
-        Set("DateNextDue", "04/01/2024");
-    }
-    static QPointer<frmRentPayment> Open(std::int32_t id = 0,
-                                         RentClass rentClass = RentClass::Rent) {
-        QPointer<frmRentPayment> form(new frmRentPayment);
-        form->Setup(id, kLease, rentClass, LeaseUpdate::Yes);
-        return form;
-    }
     static void Tick(const QWidget& form, int row, bool ticked) {
         Find<QTreeWidget>(form, "lvwCharges")
             .topLevelItem(row)
