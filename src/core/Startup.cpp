@@ -46,13 +46,15 @@ void SetBooksStep(BooksStep step) {
 bool OpenBooks(BooksUse use) {
     std::string path;
     const bool isOpen = use == BooksUse::Read ? OpenToRead() : OpenDatabase(App().Connection, path);
-    LoadBooks();
+    LoadBooks(use);
     return isOpen;
 }
 
-void LoadBooks() {
-    AddWhatIsMissing();
-    if (CountTable("Configuration") == 0) CreateDefaultConfiguration(App().Connection);
+void LoadBooks(BooksUse use) {
+    if (use == BooksUse::Keep) {
+        AddWhatIsMissing();
+        if (CountTable("Configuration") == 0) CreateDefaultConfiguration(App().Connection);
+    }
     LoadConfiguration();
 }
 

@@ -11,7 +11,7 @@ namespace core {
 
 enum class BooksUse {
     Keep, ///< to read and write, or only to read where writing isn't allowed
-    Read, ///< only to read; the daily run then does nothing
+    Read, ///< only to read: the file stays as it is, and the daily run does nothing
 };
 
 /// Opens the session on the database that was found, and LoadBooks. False when it can't be opened;
@@ -23,9 +23,9 @@ using BooksStep = std::function<void(platform::Connection& books)>;
 /// Gives LoadBooks this step; an empty one takes it away.
 void SetBooksStep(BooksStep step);
 
-/// Brings books of an earlier version up to this one's tables, gives books that have no settings
-/// the default ones, and reads the settings into memory. Failures are ignored.
-void LoadBooks();
+/// Reads the settings into memory. Before that it brings books that are not only read up to this
+/// version's tables, and gives them the default settings if they have none. Failures are ignored.
+void LoadBooks(BooksUse use = BooksUse::Keep);
 
 /// Deletes the temporary files in the program's directory; failures are ignored.
 void CleanTmpFiles();

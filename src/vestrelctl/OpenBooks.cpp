@@ -51,7 +51,7 @@ void OpenDatabase(const Options& options, Purpose purpose) {
 
 void OpenBooks(const Options& options, Purpose purpose) {
     OpenDatabase(options, purpose);
-    core::LoadBooks();
+    core::LoadBooks(purpose == Purpose::Read ? core::BooksUse::Read : core::BooksUse::Keep);
 }
 
 } // namespace vestrelctl
