@@ -51,20 +51,53 @@ Recordset ReadReturnable(std::int32_t idTransaction) {
     return row;
 }
 
-Date OldestRent(const RentPayment& payment) {
-    const auto rent = std::ranges::find_if(
-        payment.charges, [](const PaymentCharge& charge) { return IsPeriodRent(charge.flags); });
-    return rent == payment.charges.end() ? Date() : rent->datePosted;
+/// The day of the oldest rent that is open again; unset if there is none.
+Date OldestRent(const PaymentReturn& returned) {
+    Date oldest;
+    const auto add = [&](const PaymentCharge& charge) {
+        if (!IsPeriodRent(charge.flags)) return;
+        if (!oldest.IsSet() || charge.datePosted < oldest) oldest = charge.datePosted;
+    };
+    std::ranges::for_each(returned.payment.charges, add);
+    for (const CreditSpending& spending : returned.spendings)
+        std::ranges::for_each(spending.charges, add, &ReopenedCharge::charge);
+    return oldest;
 }
 
-/// The credits that the payment earned have the numbers after its own row, a rent each.
-Currency OptionCreditOf(const RentPayment& payment, int rents) {
-    if (payment.idPaymentRow == 0) return {};
+/// The option credits among so many rows that the lease's ledger got after the row `id`.
+Currency OptionCreditsAfter(std::int32_t id, int rows, std::int32_t idLease) {
     return platform::AsOr0<Currency>(core::ReadValue(
         "SELECT Sum(Amount) FROM RentLog WHERE (IdLease = ?) AND (Class = 4) AND (Flags = 0) AND "
         "(Category = ?) AND (IdRentLog > ?) AND (IdRentLog <= ?)",
-        {payment.idLease, kCategoryOptionCredit, payment.idPaymentRow,
-         payment.idPaymentRow + rents}));
+        {idLease, kCategoryOptionCredit, id, id + rows}));
+}
+
+/// The credits that a payment earned have the numbers after its own row, a rent each. The daily
+/// run's payments have no row, but may split a credit first.
+Currency OptionCreditOf(const PaymentReturn& returned) {
+    const RentPayment& payment = returned.payment;
+    Currency total;
+    if (payment.idPaymentRow != 0) {
+        total =
+            OptionCreditsAfter(payment.idPaymentRow, CountPeriodRents(payment), payment.idLease);
+    }
+    for (const CreditSpending& spending : returned.spendings) {
+        const int rents = CountPeriodRents(spending);
+        if (rents == 0) continue;
+        const bool hasRow = spending.idPaymentRow != 0;
+        total += OptionCreditsAfter(hasRow ? spending.idPaymentRow : spending.idTransaction,
+                                    hasRow ? rents : rents + 1, payment.idLease);
+    }
+    return total;
+}
+
+/// Rents that are open again.
+int CountRents(const PaymentReturn& returned) {
+    int rents = CountPeriodRents(returned.payment);
+    if (returned.payment.rentClass != RentClass::Rent) return rents;
+    for (const CreditSpending& spending : returned.spendings)
+        rents += CountPeriodRents(spending);
+    return rents;
 }
 
 } // namespace
@@ -75,16 +108,17 @@ PaymentReturn ProposeReturn(std::int32_t idTransaction) {
     returned.amount = MoneyOf(row["Amount"]);
     returned.payment = ReadPayment(idTransaction);
     returned.date = platform::Today();
-    const int rents = CountPeriodRents(returned.payment);
+    returned.spendings = ReadSpendings(returned.payment);
+    const int rents = CountRents(returned);
     if (rents == 0) return returned;
     Recordset lease = core::Read("SELECT TermType, DateNextDue FROM Lease WHERE IdLease = ?",
                                  {returned.payment.idLease});
     returned.dueNow = DateOf(lease["DateNextDue"]);
     if (returned.dueNow.IsSet()) {
-        returned.dueAfter = DueBefore(TextOf(lease["TermType"]), returned.dueNow, rents,
-                                      OldestRent(returned.payment));
+        returned.dueAfter =
+            DueBefore(TextOf(lease["TermType"]), returned.dueNow, rents, OldestRent(returned));
     }
-    returned.optionCredit = OptionCreditOf(returned.payment, rents);
+    returned.optionCredit = OptionCreditOf(returned);
     return returned;
 }
 

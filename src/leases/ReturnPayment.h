@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "leases/CreditSpending.h"
 #include "leases/PreviewRow.h"
 #include "leases/RentPayment.h"
 #include "platform/values/Currency.h"
@@ -23,13 +24,16 @@ struct PaymentReturn {
     /// payment that settles no rent.
     platform::Date dueNow;
     platform::Date dueAfter;
-    /// Earned by the payment towards the purchase, and withdrawn.
+    /// Earned by the payment, or with its credit, towards the purchase, and withdrawn.
     platform::Currency optionCredit;
+    /// How the credit that it brought was spent since.
+    std::vector<CreditSpending> spendings;
 };
 
 /// Proposes the return of a stored payment, dated today and without a fee: the next due date goes
-/// back by the rents that it settles. Throws Error with the reason if it can't be returned:
-/// deleted, no payment of a lease, no money received, returned already, its lease deleted.
+/// back by the rents that it settles, and that its credit has settled. Throws Error with the reason
+/// if it can't be returned: deleted, no payment of a lease, no money received, returned already,
+/// its lease deleted.
 PaymentReturn ProposeReturn(std::int32_t idTransaction);
 
 /// Returns what is wrong with it, a line each.
@@ -40,11 +44,12 @@ std::vector<std::string> ReturnErrors(const PaymentReturn& returned);
 PreviewRows PreviewReturn(const PaymentReturn& returned);
 
 /// Brings the lease up to date, posts a transaction of the negative amount, opens the charges of
-/// the payment again, withdraws the credit that it brought (what was spent of it is owed again)
-/// and the option credit, charges the fee, moves the next due date, and marks the payment as
-/// returned: one unit of work that reads all of it again. Throws FieldError if there are errors,
-/// and ConflictError, with nothing changed, if the payment or the next due date was changed since
-/// the return was proposed. Returns the id of the new transaction.
+/// the payment again, withdraws the credit that it brought (the charges that it has settled are
+/// open again; what was paid out of it is owed again) and the option credit, charges the fee, moves
+/// the next due date, and marks the payment as returned: one unit of work that reads all of it
+/// again. Throws FieldError if there are errors, and ConflictError, with nothing changed, if the
+/// payment or the next due date was changed since the return was proposed. Returns the id of the
+/// new transaction.
 std::int32_t SubmitReturn(const PaymentReturn& returned);
 
 } // namespace leases

@@ -39,6 +39,11 @@ bool IsOriginOf(std::span<const removal::CreditOrigin> credits, const PaymentCha
            credits.end();
 }
 
+removal::CreditOrigin& OriginOf(std::vector<removal::CreditOrigin>& origins,
+                                const SpentCredit& credit) {
+    return *std::ranges::find(origins, credit.idOrigin, &removal::CreditOrigin::idRentLog);
+}
+
 /// Cut between characters.
 std::string Shortened(std::string text) {
     if (text.size() <= kLongestDescription) return text;
@@ -47,6 +52,23 @@ std::string Shortened(std::string text) {
         --end;
     text.resize(end);
     return text;
+}
+
+void AddSpending(PreviewRows& rows, const CreditSpending& spending) {
+    for (const ReopenedCharge& reopened : spending.charges) {
+        const PaymentCharge& charge = reopened.charge;
+        const auto add = [&](std::string what, const std::string& description, Currency amount) {
+            rows.push_back(
+                {std::move(what), charge.datePosted, charge.category, description, amount});
+        };
+        if (!reopened.IsPart()) {
+            add("Charge open again", charge.description, charge.amount);
+            continue;
+        }
+        add("Split in two", charge.description, charge.amount);
+        add("Part still paid", charge.description, charge.amount - reopened.amount);
+        add("Part open again", "Deferred " + charge.description, reopened.amount);
+    }
 }
 
 void AddCredits(PreviewRows& rows, const ReturnPlan& plan) {
@@ -58,7 +80,7 @@ void AddCredits(PreviewRows& rows, const ReturnPlan& plan) {
         }
         const Currency spent = credit.amount - credit.open;
         if (!spent.IsZero()) {
-            rows.push_back({"Credit spent, owed again", plan.returned.datePosted,
+            rows.push_back({"Credit paid out, owed again", plan.returned.datePosted,
                             std::string(kCategoryOverpayment), description, spent});
         }
     }
@@ -74,7 +96,12 @@ ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::Credit
     plan.reversal.dateEffective = returned.date;
     plan.reversal.amount = -returned.amount;
     plan.reversal.description = Shortened("Return of " + paid + ": " + payment.description);
+    plan.spendings = returned.spendings;
     plan.credits = std::move(credits);
+    for (const CreditSpending& spending : plan.spendings) {
+        for (const SpentCredit& credit : spending.credits)
+            OriginOf(plan.credits, credit).open += credit.amount;
+    }
     for (const PaymentCharge& charge : payment.charges) {
         if (!IsOriginOf(plan.credits, charge)) plan.reopened.push_back(charge);
     }
@@ -89,10 +116,14 @@ ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::Credit
     plan.optionCredit = EntryOf(returned, kCategoryOptionCredit, -returned.optionCredit,
                                 "Payment of " + paid + " returned");
     plan.optionCredit.rentClass = RentClass::OptionCredit;
-    plan.description = Shortened(removal::ReturnMark(returned.date) + payment.description);
+    plan.description = MarkedDescription(returned.date, payment.description);
     plan.dueNow = returned.dueNow;
     plan.dueAfter = returned.dueAfter;
     return plan;
+}
+
+std::string MarkedDescription(platform::Date day, const std::string& description) {
+    return Shortened(removal::ReturnMark(day) + description);
 }
 
 PreviewRows RowsOf(const ReturnPlan& plan) {
@@ -104,6 +135,8 @@ PreviewRows RowsOf(const ReturnPlan& plan) {
         rows.push_back({charge.amount < Currency() ? "Credit open again" : "Charge open again",
                         charge.datePosted, charge.category, charge.description, charge.amount});
     }
+    for (const CreditSpending& spending : plan.spendings)
+        AddSpending(rows, spending);
     AddCredits(rows, plan);
     rows.push_back(RowOf("In the place of the charges", plan.returned));
     rows.push_back(RowOf("Settled by the return", plan.counterpart));

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "books/PostTransaction.h"
+#include "leases/CreditSpending.h"
 #include "leases/PreviewRow.h"
 #include "leases/RentLog.h"
 #include "leases/ReturnPayment.h"
@@ -19,7 +20,10 @@ struct ReturnPlan {
     books::Transaction reversal;
     /// Charges of the payment that are open again, and credits that it had taken in.
     std::vector<PaymentCharge> reopened;
-    /// What the payment had brought as credit: still open, so withdrawn, and spent, so owed again.
+    /// The uses of the payment's credit, whose charges are open again too.
+    std::vector<CreditSpending> spendings;
+    /// The credit that the payment had brought. The open part, counting what is open again, is
+    /// withdrawn; the rest was paid out and is owed again.
     std::vector<removal::CreditOrigin> credits;
     /// The row that the payment settles in the place of its charges.
     RentLogEntry returned;
@@ -35,8 +39,12 @@ struct ReturnPlan {
     platform::Date dueAfter;
 };
 
+/// `credits` are the origins that the payment settles now.
 ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::CreditOrigin> credits);
 
 PreviewRows RowsOf(const ReturnPlan& plan);
+
+/// Returns the description of a payment that is marked as returned on a day.
+std::string MarkedDescription(platform::Date day, const std::string& description);
 
 } // namespace leases

@@ -10,11 +10,13 @@
 #include "leases/ReturnRows.h"
 #include "leases/mLease.h"
 #include "platform/database/Connection.h"
+#include "platform/database/FieldReadings.h"
 #include "platform/values/Errors.h"
 
 namespace leases {
 
 using platform::ConflictError;
+using platform::Date;
 
 namespace {
 
@@ -30,7 +32,7 @@ void CheckUnchanged(const PaymentReturn& returned) {
     }
     const bool isSame =
         now.amount == returned.amount && now.dueNow == returned.dueNow &&
-        now.optionCredit == returned.optionCredit &&
+        now.optionCredit == returned.optionCredit && now.spendings == returned.spendings &&
         std::ranges::equal(now.payment.charges, returned.payment.charges, IsSameCharge);
     if (isSame) return;
     throw ConflictError(
@@ -38,6 +40,9 @@ void CheckUnchanged(const PaymentReturn& returned) {
 }
 
 void ReopenCharges(const ReturnPlan& plan, std::int32_t idTransaction) {
+    // Open again, the credit is withdrawn with the rest of it.
+    for (const CreditSpending& spending : plan.spendings)
+        UndoSpending(spending);
     removal::ReleaseCredits(idTransaction);
     for (const PaymentCharge& charge : plan.reopened)
         core::Settle(core::kRentLedger, charge.idRentLog, idTransaction, core::Settled::No);
@@ -52,9 +57,24 @@ void WriteSides(ReturnPlan& plan, std::int32_t idReversal) {
     TieCredit(idCounterpart, idOrigin, plan.returned.idLease, idReversal);
 }
 
-void MarkPayment(const ReturnPlan& plan) {
+void SetDescription(std::int32_t idTransaction, const std::string& description) {
     core::Execute("UPDATE Transactions SET Description = ? WHERE IdTransaction = ?",
-                  {plan.description, plan.returned.idTransaction});
+                  {description, idTransaction});
+}
+
+/// Marks a payment from credit that settles nothing any more.
+void MarkSpending(const CreditSpending& spending, Date day) {
+    if (!spending.isAll) return;
+    const auto description = core::ReadValue(
+        "SELECT Description FROM Transactions WHERE IdTransaction = ?", {spending.idTransaction});
+    SetDescription(spending.idTransaction,
+                   MarkedDescription(day, platform::AsOr0<std::string>(description)));
+}
+
+void MarkPayment(const ReturnPlan& plan) {
+    SetDescription(plan.returned.idTransaction, plan.description);
+    for (const CreditSpending& spending : plan.spendings)
+        MarkSpending(spending, plan.returned.datePosted);
     if (plan.dueAfter == plan.dueNow) return;
     core::Execute("UPDATE Lease SET DateNextDue = ? WHERE IdLease = ?",
                   {plan.dueAfter.ToText(), plan.returned.idLease});

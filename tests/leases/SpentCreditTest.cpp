@@ -1,0 +1,156 @@
+// A payment is returned whose credit was spent: the due date goes back to where it was, and what
+// the credit had paid is open again.
+
+#include <string>
+
+#include <fmt/core.h>
+#include <gtest/gtest.h>
+
+#include "leases/CreditBooks.h"
+#include "leases/Credits.h"
+#include "leases/ReturnPayment.h"
+#include "leases/mLease.h"
+#include "platform/system/Clock.h"
+
+namespace tests {
+
+namespace {
+
+using leases::RentClass;
+using leases::RentFlags;
+using platform::Currency;
+using platform::Date;
+
+class SpentCredit : public CreditBooks {
+  protected:
+    /// January's rent is open, and nothing was charged since.
+    static void Begin() {
+        Restart();
+        platform::SetToday(Date(2024, 1, 2));
+        SetLeaseField("DateUpdated", "01/02/2024");
+        SetLeaseField("Option", "True");
+        SetLeaseField("OptionCredit", "50");
+        Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
+    }
+    static void LiveUntil(Date day) {
+        platform::SetToday(day);
+        leases::UpdateLeaseById(kLeaseId, leases::WalkMode::CatchUp);
+    }
+    static std::int32_t PayAll() {
+        return leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Rent));
+    }
+    /// Month and day.
+    static std::string NextDue() { return Ask("SELECT DateNextDue FROM Lease").substr(0, 5); }
+    /// The open sums: of the rents of a period, with R, and of the other charges.
+    static std::string Open() {
+        std::string rows;
+        for (const char* const flags : {"1", "0"}) {
+            const std::string select =
+                std::string("FROM RentLog WHERE IdTransaction = 0 AND Class = 1 AND Flags = ") +
+                flags;
+            if (Ask("SELECT Count(*) " + select) == "0") continue;
+            rows += Ask("SELECT Sum(Amount) " + select) + (*flags == '1' ? "R " : " ");
+        }
+        return rows;
+    }
+};
+
+TEST_F(SpentCredit, GoesBackWithThePaymentThatBroughtIt) {
+    enum class Credit { ByItself, ByHand };
+    enum class Then { Nothing, AllIsPaid, RestIsPaid, FeeIsPaid };
+    using enum Credit;
+    using enum Then;
+    struct Case {
+        const char* name;
+        int received; // on January 2
+        Credit used;
+        Date day;
+        Then then;
+        const char* dueBefore; // month and day, as those that follow
+        const char* due;
+        const char* dueAgain; // when all is paid once more
+        const char* open;
+        const char* option;
+    };
+    const Date january(2024, 1, 9);
+    const Date february(2024, 2, 3);
+    const Date march(2024, 3, 3);
+    for (const Case& c : {
+             Case{"rent", 2000, ByItself, february, Nothing, "03/01", "01/01", "03/01", "2000R ",
+                  "0"},
+             {"two rents", 3000, ByItself, march, Nothing, "04/01", "01/01", "04/01", "3000R ",
+              "0"},
+             {"and more", 3300, ByItself, march, Nothing, "04/01", "01/01", "04/01", "3000R ", "0"},
+             // The open rest keeps the due date, the paid part never moved it.
+             {"part", 1400, ByItself, february, Nothing, "02/01", "01/01", "03/01", "1600R 400 ",
+              "0"},
+             {"part, and the rest is paid by other money", 1400, ByItself, february, AllIsPaid,
+              "03/01", "02/01", "03/01", "1000R 400 ", "50"},
+             // The credit makes up what the other money lacks.
+             {"rest", 1400, ByHand, february, AllIsPaid, "03/01", "01/01", "03/01", "1400R ", "0"},
+             {"rest, by amount", 1400, ByHand, february, RestIsPaid, "03/01", "01/01", "03/01",
+              "1400R ", "0"},
+             {"fee", 1400, ByHand, january, FeeIsPaid, "02/01", "01/01", "02/01", "1000R 400 ",
+              "0"},
+             {"rent, and the next is paid by other money", 2000, ByItself, march, AllIsPaid,
+              "04/01", "02/01", "04/01", "2000R ", "50"},
+             {"nothing", 1400, ByHand, january, Nothing, "02/01", "01/01", "02/01", "1000R ", "0"},
+             {"paid out", 1400, ByHand, january, AllIsPaid, "02/01", "01/01", "02/01", "1000R 400 ",
+              "0"},
+         }) {
+        SCOPED_TRACE(c.name);
+        Begin();
+        leases::SetSettlesCharges(kLeaseId, c.used == ByItself);
+        const std::int32_t id = leases::SubmitAmount(Amount(c.received));
+        LiveUntil(c.day);
+        if (c.then == FeeIsPaid) Charge(Date(2024, 1, 8), 500);
+        if (c.then == AllIsPaid) PayAll();
+        if (c.then == FeeIsPaid) leases::SubmitAmount(Amount(100));
+        if (c.then == RestIsPaid) leases::SubmitAmount(Amount(600));
+        EXPECT_EQ(NextDue(), c.dueBefore);
+        const leases::PaymentReturn returned = leases::ProposeReturn(id);
+        EXPECT_EQ(returned.dueAfter.ToText().substr(0, 5), c.due);
+        leases::SubmitReturn(returned);
+
+        EXPECT_EQ(NextDue(), c.due);
+        EXPECT_EQ(Open(), c.open);
+        EXPECT_EQ(Ask("SELECT OptionBalance FROM Lease"), c.option);
+        EXPECT_EQ(leases::CreditBalance(kLeaseId, RentClass::Rent), Currency());
+        EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE Amount = 0 AND Description NOT "
+                      "LIKE 'Returned *'"),
+                  "0");
+        ExpectBalanced();
+        // Paid again, the rents move the due date on.
+        PayAll();
+        EXPECT_EQ(NextDue(), c.dueAgain);
+        EXPECT_EQ(Open(), "");
+        ExpectBalanced();
+    }
+}
+
+TEST_F(SpentCredit, IsShownBeforeItGoesBack) {
+    Begin();
+    const std::int32_t id = leases::SubmitAmount(Amount(1400));
+    LiveUntil(Date(2024, 2, 3));
+    PayAll();
+    std::string shown;
+    const leases::PaymentReturn returned = leases::ProposeReturn(id);
+    for (const leases::PreviewRow& row : leases::PreviewReturn(returned))
+        shown += fmt::format("{} {}; ", row.what, row.amount.Scaled() / Currency::kScale);
+    EXPECT_EQ(shown,
+              "Transaction -1400; Charge open again 1000; Split in two 1000; Part still paid 600; "
+              "Part open again 400; Credit withdrawn -400; In the place of the charges 1400; "
+              "Settled by the return -1400; Payment in the ledger 1400; Option credit withdrawn "
+              "-100; Next due date 0; Payment marked 0; ");
+    // Spent in another way after that, it is read again first.
+    leases::RentPayment other =
+        leases::ReadPayment(Id("SELECT Max(IdTransaction) FROM Transactions"));
+    for (leases::PaymentCharge& charge : other.charges)
+        charge.selected = charge.amount > Currency();
+    leases::SubmitPayment(other);
+    EXPECT_THROW(leases::SubmitReturn(returned), platform::ConflictError);
+}
+
+} // namespace
+
+} // namespace tests
