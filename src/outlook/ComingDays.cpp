@@ -82,11 +82,15 @@ void AddDaysOfEvent(Forecast& forecast, Recordset& event) {
                                   CountOf(event["IntervalPeriod"]), DateOf(event["LastRun"])};
     const std::int32_t id = event["IdAutoEvent"].AsLong();
     const std::string description(platform::Trim(TextOf(event["Description"])));
-    while (const auto due = books::DueRun(schedule, forecast.until)) {
-        ForecastRow row = DayOf(core::kAutoEvent, id, *due, "Reminder");
-        if (!description.empty()) row.name = description;
-        forecast.rows.push_back(std::move(row));
-        schedule.lastRun = *due;
+    // As the run does on each of these days.
+    for (const Date today : {forecast.today, forecast.until}) {
+        while (const auto due = books::DueRun(schedule, today)) {
+            ForecastRow row = DayOf(core::kAutoEvent, id, *due, "Reminder");
+            if (!description.empty()) row.name = description;
+            forecast.rows.push_back(std::move(row));
+            schedule.lastRun = *due;
+        }
+        if (const auto seed = books::SeedWhileWaiting(schedule, today)) schedule.lastRun = *seed;
     }
 }
 

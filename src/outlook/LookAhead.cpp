@@ -15,6 +15,7 @@
 #include "outlook/ComingDays.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/system/Clock.h"
+#include "platform/system/ThreadClock.h"
 #include "platform/values/Text.h"
 
 namespace outlook {
@@ -80,9 +81,12 @@ class Recorder : public core::RunListener {
     void Failed(int recordKind, std::int32_t /*id*/, std::string_view description,
                 std::string_view reason) override {
         const std::string_view kind = core::RecordKindName(recordKind);
-        forecast_.faults.push_back(recordKind == core::kNone
-                                       ? fmt::format("{}: {}", description, reason)
-                                       : fmt::format("{} {}: {}", kind, description, reason));
+        std::string fault = recordKind == core::kNone
+                                ? fmt::format("{}: {}", description, reason)
+                                : fmt::format("{} {}: {}", kind, description, reason);
+        // The run of the later day fails as today's did.
+        if (std::ranges::find(forecast_.faults, fault) == forecast_.faults.end())
+            forecast_.faults.push_back(std::move(fault));
     }
 
   private:
@@ -100,9 +104,11 @@ Forecast LookAhead(const std::filesystem::path& books, platform::Date until,
     }
     const auto isStopped = [&stop] { return stop && stop(); };
     try {
-        const core::ScratchSession copy(books, until, stop);
+        const core::ScratchSession copy(books, forecast.today, stop);
         AddComingDays(forecast);
         Recorder recorder(forecast);
+        core::UpdateRecords(recorder);
+        platform::SetTodayOfThread(until); // the end of the session puts the day back
         core::UpdateRecords(recorder);
     } catch (const platform::Error&) {
         if (!isStopped()) throw;
