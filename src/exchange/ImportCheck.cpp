@@ -5,6 +5,7 @@
 
 #include "core/Globals.h"
 #include "core/MessagePump.h"
+#include "exchange/KnownRows.h"
 #include "platform/database/dialect/Catalog.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
@@ -38,7 +39,7 @@ bool HasTwice(std::vector<std::string> names) {
 
 class Checker {
   public:
-    explicit Checker(ImportCheck& found) : found_(found) {}
+    Checker(ImportRows rows, ImportCheck& found) : rows_(rows), found_(found) {}
 
     /// Returns the error in the reader's line; empty if there is none.
     std::string_view CheckLine(const PortReader& reader) {
@@ -59,6 +60,7 @@ class Checker {
   private:
     std::string_view CheckTable(const PortReader& reader) {
         table_.reset();
+        known_.reset();
         fields_ = 0;
         if (!reader.Items().empty()) {
             const auto* const found =
@@ -70,6 +72,8 @@ class Checker {
         ++found_.tables;
         if (platform::EqualIgnoringCase(table_->name, kConfigurationTable)) {
             found_.hasConfiguration = true;
+        } else if (rows_ == ImportRows::Append) {
+            known_.emplace(*table_);
         }
         return {};
     }
@@ -84,6 +88,7 @@ class Checker {
             return kBadField;
         }
         fields_ = names.size();
+        if (known_) known_->SetFields(names);
         return {};
     }
 
@@ -93,21 +98,25 @@ class Checker {
             return kBadCount;
         }
         ++found_.records;
+        if (known_ && known_->Has(reader.Items())) ++found_.known;
         return {};
     }
 
+    ImportRows rows_;
     ImportCheck& found_;
     // A copy, since the session may be closed by a window message while the file is read.
     std::optional<platform::dialect::Table> table_;
+    std::optional<KnownRows> known_;
     std::size_t fields_ = 0;
 };
 
-void CheckLines(PortReader& reader, ImportCheck& found, const PortWatcher& watcher) {
+void CheckLines(PortReader& reader, ImportRows rows, ImportCheck& found,
+                const PortWatcher& watcher) {
     if (reader.IsUtf16()) {
         found.outcome = {std::string(kUtf16), 1};
         return;
     }
-    Checker checker(found);
+    Checker checker(rows, found);
     for (std::int64_t lines = 1; reader.NextLine(); ++lines) {
         const std::string_view error = checker.CheckLine(reader);
         if (!error.empty()) {
@@ -131,7 +140,8 @@ std::vector<std::string> TextsOf(const std::vector<PortItem>& items) {
     return texts;
 }
 
-ImportCheck CheckImport(const std::filesystem::path& file, const PortWatcher& watcher) {
+ImportCheck CheckImport(const std::filesystem::path& file, ImportRows rows,
+                        const PortWatcher& watcher) {
     ImportCheck found;
     if (!platform::FileExists(file.string()) || std::filesystem::is_directory(file)) {
         found.outcome.error = kNoFile;
@@ -140,7 +150,7 @@ ImportCheck CheckImport(const std::filesystem::path& file, const PortWatcher& wa
     std::optional<PortReader> reader;
     try {
         reader.emplace(file, PortReader::Letters::Utf8);
-        CheckLines(*reader, found, watcher);
+        CheckLines(*reader, rows, found, watcher);
     } catch (const platform::Error& failure) {
         found.outcome = {failure.what(), reader ? reader->Number() : 0};
     }

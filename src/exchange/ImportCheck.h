@@ -15,6 +15,8 @@ struct ImportCheck {
     std::int64_t tables = 0;
     std::int64_t records = 0;
     std::int64_t invalidLines = 0;
+    /// How many of the records the database has already, if they are to be added.
+    std::int64_t known = 0;
     /// Whether the settings table is in it, which the import always replaces.
     bool hasConfiguration = false;
     PortReader::Letters letters = PortReader::Letters::Utf8;
@@ -22,7 +24,8 @@ struct ImportCheck {
 
 /// Checks every line of the file against the tables of the process's database; writes nothing. It
 /// ends at the first error.
-ImportCheck CheckImport(const std::filesystem::path& file, const PortWatcher& watcher);
+ImportCheck CheckImport(const std::filesystem::path& file, ImportRows rows,
+                        const PortWatcher& watcher);
 
 inline constexpr std::string_view kConfigurationTable = "Configuration";
 

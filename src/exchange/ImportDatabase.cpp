@@ -55,6 +55,8 @@ class Importer {
         }
     }
 
+    std::int64_t Records() const { return records_; }
+
   private:
     void OpenTable(std::string_view name) {
         writer_.reset();
@@ -109,6 +111,7 @@ ImportOutcome WriteRecords(const std::filesystem::path& file, ImportRows rows,
         } catch (const platform::Error& failure) {
             outcome = {failure.what(), reader.Number()};
         }
+        outcome.written = importer.Records();
     }
     try {
         unit.Commit();
@@ -116,6 +119,7 @@ ImportOutcome WriteRecords(const std::filesystem::path& file, ImportRows rows,
         // After some errors, such as a full disk, the engine has already rolled the unit back.
         if (outcome.Succeeded()) outcome.error = failure.what();
         outcome.error += " Nothing was imported.";
+        outcome.written = 0;
     }
     return outcome;
 }
@@ -137,6 +141,18 @@ void TellError(const ImportOutcome& outcome, ImportMessages messages, const Port
                                outcome.line, note));
 }
 
+/// Returns the advice for importing the rest of a file.
+std::string WrittenNote(std::int64_t written, ImportRows rows) {
+    if (written == 0) return {};
+    return fmt::format(
+        "Total Records Written = {}\nThese records, from the lines before it, stay in the "
+        "database. "
+        "Correct the line and import {}.\n",
+        written,
+        rows == ImportRows::Append ? "only the rest of the file, or they will be there twice"
+                                   : "the whole file again");
+}
+
 std::string TestText(const ImportCheck& check, const std::string& note) {
     return fmt::format(
         "Status: Import test succeeded ...\nTotal Tables  = {}\n"
@@ -155,13 +171,18 @@ ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode,
                              ImportMessages messages, const PortWatcher& watcher) {
     watcher.Status("Starting Import ...");
     watcher.Progress(0, 0);
-    const ImportCheck check = CheckImport(file, watcher);
+    const ImportCheck check = CheckImport(file, rows, watcher);
     std::string note(check.letters == PortReader::Letters::Latin1 ? kLatin1Note : "");
     ImportOutcome outcome = check.outcome;
     if (outcome.Succeeded() && mode == ImportMode::Test) {
         watcher.Progress(1, 1);
         watcher.Status(TestText(check, note));
         return outcome;
+    }
+    if (outcome.Succeeded() && check.known > 0 && watcher.addAgain &&
+        !watcher.addAgain(check.known, check.records)) {
+        watcher.Status("Status: The import was cancelled. Nothing was imported.\n");
+        return {.error = "the import was cancelled."};
     }
     if (outcome.Succeeded()) {
         try {
@@ -173,6 +194,7 @@ ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode,
                                     KeepCopy(CopyReason::Import).string());
             }
             outcome = WriteRecords(file, rows, check, watcher);
+            if (!outcome.Succeeded()) note = WrittenNote(outcome.written, rows) + note;
         } catch (const platform::Error& failure) {
             outcome.error = failure.what();
         }

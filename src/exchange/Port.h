@@ -9,12 +9,15 @@
 
 namespace exchange {
 
-/// Called by an export or import to show its progress; either function may be empty.
+/// Called by an export or import to show its progress; each function may be empty.
 struct PortWatcher {
     /// Replaces the lines of the status.
     std::function<void(std::string_view lines)> status;
     /// 0 to 100.
     std::function<void(int percent)> progress;
+    /// Asked before an import adds records of which the database has some already; returns whether
+    /// to add them. Without it they are added.
+    std::function<bool(std::int64_t known, std::int64_t records)> addAgain = {};
 
     void Status(std::string_view lines) const {
         if (status) status(lines);
@@ -44,6 +47,8 @@ struct ImportOutcome {
     std::string error;
     /// The line of the error, counted from 1; 0 if no line was read.
     std::int64_t line = 0;
+    /// How many records are in the database now because of it.
+    std::int64_t written = 0;
 
     bool Succeeded() const { return error.empty(); }
 };
@@ -54,8 +59,9 @@ struct ImportOutcome {
 /// is emptied.
 ///
 /// A file with an error changes nothing. A value that its field refuses ends the import, and the
-/// records before it stay. Everything is one unit of work, so that a crash leaves the database as
-/// it was. The open screens are notified of the imported records.
+/// records before it stay, which the status says. Everything is one unit of work, so that a crash
+/// leaves the database as it was. An import that the watcher declines changes nothing. The open
+/// screens are notified of the imported records.
 ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode, ImportRows rows,
                              ImportMessages messages, const PortWatcher& watcher);
 

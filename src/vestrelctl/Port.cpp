@@ -15,12 +15,22 @@ namespace vestrelctl {
 namespace {
 
 exchange::PortWatcher Printer() {
-    return {.status =
-                [](std::string_view lines) {
-                    std::cout << lines;
-                    if (!lines.ends_with('\n')) std::cout << '\n';
-                },
-            .progress = {}};
+    return {
+        .status =
+            [](std::string_view lines) {
+                std::cout << lines;
+                if (!lines.ends_with('\n')) std::cout << '\n';
+            },
+        .progress = {},
+        // A script can't be asked.
+        .addAgain =
+            [](std::int64_t known, std::int64_t records) {
+                std::cerr << fmt::format(
+                    "Note: {} of the {} records were in the database already and are in it twice "
+                    "now\n",
+                    known, records);
+                return true;
+            }};
 }
 
 struct ImportWords {

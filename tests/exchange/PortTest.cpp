@@ -263,9 +263,62 @@ TEST_F(PortTest, KeepsWhatWasWrittenBeforeAValueThatDoesntFit) {
         EXPECT_TRUE(Import(ImportMode::Test).Succeeded());
         const ImportOutcome outcome = Import();
         EXPECT_EQ(outcome.line, 4);
+        EXPECT_EQ(outcome.written, 1);
+        EXPECT_NE(status_.find("line 4\nTotal Records Written = 1\n"), std::string::npos)
+            << status_;
         EXPECT_NE(outcome.error.find("the field "), std::string::npos) << outcome.error;
         EXPECT_EQ(Ask("SELECT Count(*) FROM Lease"), "1");
         EXPECT_EQ(Ask("SELECT Rent FROM Lease"), "1000.5");
+    }
+}
+
+TEST_F(PortTest, FindsTheRecordsThatTheDatabaseHas) {
+    Run("DELETE * FROM TransCategory");
+    Run("INSERT INTO TransCategory (Category, IEN) VALUES ('Rent, \"old\"', 1)");
+    Run("INSERT INTO Room (IdRoom, RoomType) VALUES (1, 'a')");
+    const std::string categories =
+        "\"Table\",\"TransCategory\",\"/Table\"\n\"Fields\",\"IEN\",\"Category\",\"/Fields\"\n";
+    const struct {
+        std::string file;
+        int known;
+    } cases[] = {
+        {kRooms + "\"Record\",2,\"a\",\"/Record\"\n\"Record\",\"\",\"a\",\"/Record\"\n", 0},
+        {kRooms + "\"Record\",1,\"b\",\"/Record\"\n\"Record\",2,\"a\",\"/Record\"\n", 1},
+        {"\"Table\",\"Room\",\"/Table\"\n\"Fields\",\"RoomType\",\"/Fields\"\n"
+         "\"Record\",\"1\",\"/Record\"\n",
+         0},
+        {categories + "\"Record\",2,\"Rent, \"\"old\"\"\",\"/Record\"\n", 0},
+        {categories + "\"Record\",1,\"Rent, \"\"old\"\"\",\"/Record\"\n" + kRooms +
+             "\"Record\",\"1\",\"b\",\"/Record\"\n",
+         2},
+    };
+    const std::vector<std::string> before = Dump();
+    for (const auto& each : cases) {
+        WriteText(PathTo("database.csv"), each.file);
+        std::int64_t known = 0;
+        PortWatcher declining = Watcher();
+        declining.addAgain = [&](std::int64_t found, std::int64_t) {
+            known = found;
+            return false;
+        };
+        EXPECT_TRUE(Import(ImportMode::Test).Succeeded());
+        EXPECT_EQ(ImportDatabase(PathTo("database.csv"), ImportMode::Write, ImportRows::Append,
+                                 ImportMessages::Quiet, declining)
+                      .Succeeded(),
+                  each.known == 0);
+        EXPECT_EQ(known, each.known) << each.file;
+        if (each.known > 0) {
+            EXPECT_EQ(Dump(), before) << each.file;
+            EXPECT_EQ(status_, "Status: The import was cancelled. Nothing was imported.\n");
+            declining.addAgain = [](auto...) { return ADD_FAILURE(), false; };
+            EXPECT_TRUE(ImportDatabase(PathTo("database.csv"), ImportMode::Write,
+                                       ImportRows::Overwrite, ImportMessages::Quiet, declining)
+                            .Succeeded());
+        }
+        Run("DELETE * FROM TransCategory");
+        Run("INSERT INTO TransCategory (Category, IEN) VALUES ('Rent, \"old\"', 1)");
+        Run("DELETE * FROM Room");
+        Run("INSERT INTO Room (IdRoom, RoomType) VALUES (1, 'a')");
     }
 }
 

@@ -3,6 +3,8 @@
 #include <QMouseEvent>
 #include <QPushButton>
 
+#include <fmt/core.h>
+
 #include "core/Globals.h"
 #include "core/Session.h"
 #include "core/binding/Tags.h"
@@ -18,6 +20,28 @@ namespace exchange::screens {
 
 using platform::qt::FromScreen;
 using platform::qt::ToScreen;
+
+namespace {
+
+bool Agreed(const std::string& warning) {
+    return platform::TheDialogs().AskYesNo(
+        "Confirm Import", warning + "\n\nDo you wish to continue?", platform::Icon::Question);
+}
+
+bool AgreedToReplace() {
+    return Agreed(
+        "The rows of each table in the file replace those in the database. A copy of the database "
+        "is kept.");
+}
+
+bool AgreedToAddAgain(std::int64_t known, std::int64_t records) {
+    return Agreed(fmt::format(
+        "{} of the {} records in this file {} in the database already. If they are imported again, "
+        "the database will hold them twice.",
+        known, records, known == 1 ? "is" : "are"));
+}
+
+} // namespace
 
 frmPort::frmPort(QWidget* parent) : Form(parent), ui_(std::make_unique<Ui::frmPort>()) {
     ui_->setupUi(this);
@@ -123,7 +147,8 @@ PortWatcher frmPort::Watcher() {
                     if (ui_->prgPort->value() == percent) return;
                     ui_->prgPort->setValue(percent);
                     ui_->prgPort->repaint();
-                }};
+                },
+            .addAgain = AgreedToAddAgain};
 }
 
 void frmPort::Execute() {
@@ -149,28 +174,11 @@ void frmPort::Import(ImportMode mode) {
         const std::string file = FromScreen(ui_->txtImportFile->text());
         const ImportRows rows =
             ui_->optOverwrite->isChecked() ? ImportRows::Overwrite : ImportRows::Append;
-        if (mode == ImportMode::Write && !AgreedToImport(file, rows)) return;
-        const ImportOutcome outcome =
-            ImportDatabase(file, mode, rows, ImportMessages::Show, Watcher());
-        if (mode == ImportMode::Write && outcome.Succeeded()) imported_ = file;
+        if (mode == ImportMode::Write && rows == ImportRows::Overwrite && !AgreedToReplace()) {
+            return;
+        }
+        ImportDatabase(file, mode, rows, ImportMessages::Show, Watcher());
     });
-}
-
-bool frmPort::AgreedToImport(const std::string& file, ImportRows rows) const {
-    std::string_view warning;
-    if (rows == ImportRows::Overwrite) {
-        warning =
-            "The rows of each table in the file replace those in the database. A copy of the "
-            "database is kept.";
-    } else if (file == imported_) {
-        warning =
-            "This file has been imported already. If it is imported again, the database will "
-            "hold its rows twice.";
-    }
-    return warning.empty() ||
-           platform::TheDialogs().AskYesNo("Confirm Import",
-                                           std::string(warning) + "\n\nDo you wish to continue?",
-                                           platform::Icon::Question);
 }
 
 } // namespace exchange::screens

@@ -34,13 +34,11 @@ class frmPort : public core::forms::Form {
     void Execute();
     void Export();
     void Import(ImportMode mode);
-    bool AgreedToImport(const std::string& file, ImportRows rows) const;
     PortWatcher Watcher();
     /// Runs `work` with the controls disabled; an error is shown.
     void Run(const std::function<void()>& work);
 
     std::unique_ptr<Ui::frmPort> ui_;
-    std::string imported_; ///< the file that was imported last
 };
 
 } // namespace exchange::screens
