@@ -32,6 +32,7 @@ constexpr std::size_t kDateSize = 30;
 
 constexpr std::int16_t kFormat = 2;
 constexpr std::size_t kBlockSize = 100'000;
+constexpr auto kHeaderLength = static_cast<std::int64_t>(kHeaderSize);
 
 /// An error with the system's error number.
 class PackError : public platform::Error {
@@ -42,6 +43,11 @@ class PackError : public platform::Error {
 
   private:
     int number_;
+};
+
+/// A source that can't be read to its end.
+class SourceError : public PackError {
+    using PackError::PackError;
 };
 
 /// A file open for reading.
@@ -61,8 +67,8 @@ class Source {
         while (size > 0) {
             const ssize_t got = pread(descriptor_, bytes, size, at);
             if (got < 0 && errno == EINTR) continue;
-            if (got < 0) throw PackError(errno);
-            if (got == 0) throw PackError(EIO, "the file became shorter while it was read");
+            if (got < 0) throw SourceError(errno);
+            if (got == 0) throw SourceError(EIO, "the file became shorter while it was read");
             bytes += got;
             size -= static_cast<std::size_t>(got);
             at += got;
@@ -85,7 +91,7 @@ platform::DiskFile OpenContainer(const fs::path& container) {
 std::int64_t WriteHeader(platform::DiskFile& container, const fs::path& source, FileType type,
                          std::int64_t size) {
     constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
-    const std::int64_t data = container.Size() + static_cast<std::int64_t>(kHeaderSize);
+    const std::int64_t data = container.Size() + kHeaderLength;
     if (size > kMost || data + size > kMost) {
         throw PackError(EFBIG, "a container can't hold more than 2 GB");
     }
@@ -174,8 +180,14 @@ bool PackFile(const fs::path& container, const fs::path& source, FileType type,
         const Source from(source);
         platform::DiskFile out = OpenContainer(container);
         const std::int64_t size = from.Size();
-        WriteHeader(out, source, type, size);
-        CopyBlocks(out, from, size);
+        const std::int64_t begin = WriteHeader(out, source, type, size) - kHeaderLength;
+        try {
+            CopyBlocks(out, from, size);
+        } catch (const SourceError&) {
+            // The entries after it couldn't be found if it were left shorter than its header says.
+            out.CutTo(begin);
+            throw;
+        }
     });
 }
 

@@ -38,8 +38,9 @@ std::string FileDateText(const std::filesystem::path& file);
 
 /// Appends an entry with the bytes of `source` to the container, which is created if it doesn't
 /// exist. Returns false if that fails; `result` is the reason ("File not found", "Error 28, ..."),
-/// otherwise "Success". The bytes written before a failure stay. Window messages are processed in
-/// between.
+/// otherwise "Success". The bytes written before a failure stay, so that a full disk leaves an
+/// entry that is cut; an entry whose source can't be read to its end is taken out again. Window
+/// messages are processed in between.
 bool PackFile(const std::filesystem::path& container, const std::filesystem::path& source,
               FileType type, std::string& result);
 

@@ -1,6 +1,7 @@
 #include "exchange/Backup.h"
 
 #include "core/CoreFixture.h"
+#include "core/MessagePump.h"
 #include "exchange/ContainerList.h"
 #include "exchange/FixedRecord.h"
 #include "exchange/Restore.h"
@@ -213,6 +214,28 @@ TEST_F(BackupTest, SaysWhichFilesAreMissing) {
     LoadBackupConfig(stored);
     EXPECT_EQ(stored.backupPath, Config().backupPath) << "a choice for one run isn't kept";
     EXPECT_TRUE(stored.backupAllFiles);
+}
+
+TEST_F(BackupTest, LeavesOutAFileThatShrinksWhileItIsPacked) {
+    const fs::path log = Folder() / "mail.log";
+    WriteText(log, std::string(250'000, 'm'));
+    AttachFile(log.string());
+    MakeFile("photo.jpg", "picture");
+    AttachFile(PathTo("photo.jpg"));
+    core::SetMessagePump([&] {
+        const bool isPacking = fs::exists(Container(0)) && fs::file_size(Container(0)) > 500'000;
+        if (isPacking) fs::resize_file(log, 100'000);
+    });
+    const BackupReport report = BackUp();
+    core::SetMessagePump({});
+    EXPECT_EQ(report.outcome, BackupOutcome::Partial);
+    EXPECT_EQ(std::ranges::count(lines_, log.string() + ": Error 5, the file became shorter while "
+                                                        "it was read"),
+              1);
+    const std::vector<ContainerEntry> entries = ListContainer(Container(0));
+    ASSERT_EQ(entries.size(), 4U);
+    EXPECT_EQ(entries.back().header.filePath, PathTo("photo.jpg"));
+    EXPECT_EQ(entries.back().state, EntryState::Whole);
 }
 
 TEST_F(BackupTest, NamesContainersAndRemovesExpiredOnes) {

@@ -47,12 +47,17 @@ class DiskFile {
     void Write(std::string_view bytes);
     /// Writes at an offset counted from 0.
     void WriteAt(std::int64_t offset, std::string_view bytes);
+    /// Removes the bytes from `size` on.
+    void CutTo(std::int64_t size);
     /// Waits until everything written is on the disk.
     void Sync();
 
   private:
+    void Wrote(std::size_t bytes);
+
     std::filesystem::path file_;
     int descriptor_ = -1;
+    std::size_t waiting_ = 0; ///< bytes that the system wasn't yet asked to write to the disk
 };
 
 /// Waits until the names in a folder are on the disk; a failure is skipped.
