@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QLabel>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
@@ -97,7 +98,10 @@ void frmReportViewer::ShowChoices(const ReportRun& run) {
     ui_->cboSelectedID->setVisible(asksRecord);
     if (asksRecord) {
         const QString kind = ToScreen(core::RecordKindName(report.SelectItem));
-        ui_->lblSelectedID->setText(QLatin1Char('&') + kind);
+        QLabel& label = *ui_->lblSelectedID;
+        label.setText(QLatin1Char('&') + kind);
+        // The size hint kerns the first two letters ("Te"), but an underlined letter isn't kerned.
+        label.setMinimumWidth(label.sizeHint().width() + label.fontMetrics().averageCharWidth());
         ui_->cboSelectedID->setAccessibleName(kind);
         const QSignalBlocker quiet(ui_->cboSelectedID);
         ui_->cboSelectedID->clear();
