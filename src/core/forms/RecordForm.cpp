@@ -1,5 +1,6 @@
 #include "core/forms/RecordForm.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -83,6 +84,9 @@ void RecordForm::FindRowToWrite(platform::Recordset& row) {
     writesNewRow_ = record.isNew;
     row = std::move(record.row);
     if (!writesNewRow_) return;
+    const bool isMeant = read_.empty() || (deleted_ && !deleted_->isHidden());
+    if (!isMeant) // deleted after Save looked, and before the unit of work began
+        throw platform::ConflictError("The record was deleted in the meantime. Nothing was saved.");
     for (const auto& [field, value] : read_)
         row[field].Set(value);
 }

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <future>
 #include <thread>
+#include <utility>
 
 #include "core/MessagePump.h"
 #include "core/Session.h"
@@ -16,6 +17,7 @@
 #include "core/binding/Tags.h"
 #include "core/forms/ActionBar.h"
 #include "core/forms/RecordAdditions.h"
+#include "platform/database/StatementProbe.h"
 #include "support/screens/Screens.h"
 
 namespace support {
@@ -206,6 +208,23 @@ TEST_F(RecordFormTest, ARecordDeletedElsewhereComesBackOnlyIfTheUserMeansIt) {
     ClickAction(*form, "CLOSE");
     EXPECT_EQ(Heard().size(), 1U);
     EXPECT_EQ(Row(), "");
+}
+
+TEST_F(RecordFormTest, ARecordDeletedDuringItsSaveStaysDeleted) {
+    const auto form = Open(90);
+    Type(Find<QLineEdit>(*form, "txtRep"), "Ann");
+    bool isDeleted = false;
+    platform::SetStatementProbe([&] {
+        if (!std::exchange(isDeleted, true)) Elsewhere("DELETE * FROM WorkOrder");
+    });
+    ClickAction(*form, "CLOSE");
+    platform::SetStatementProbe({});
+    EXPECT_THAT(Heard(), ElementsAre("Vestrel: The record was deleted in the meantime. Nothing was "
+                                     "saved."));
+    EXPECT_EQ(Row(), "");
+    EXPECT_TRUE(form->Dirty());
+    ClickAction(*form, "CLOSE");
+    EXPECT_EQ(Heard().size(), 1U) << "and now the user is asked";
 }
 
 TEST_F(RecordFormTest, ASecondClickNeverActsTwice) {
