@@ -1,5 +1,6 @@
 #include "mortgages/ChargeEditor.h"
 
+#include "core/Descriptions.h"
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
@@ -73,7 +74,11 @@ bool ReadCharge(std::int32_t idMortgageLog, MortgageLogEntry& entry) {
 std::int32_t SaveCharge(const MortgageLogEntry& entry, const MortgageLogEntry& read,
                         std::int32_t idMortgageLog) {
     platform::UnitOfWork unit(core::App().Connection);
-    if (idMortgageLog != 0) CheckUnchanged(idMortgageLog, read);
+    if (idMortgageLog != 0) {
+        CheckUnchanged(idMortgageLog, read);
+    } else if (entry.idMortgage != 0 && !core::RecordExists(core::kMortgage, entry.idMortgage)) {
+        throw platform::ConflictError("The mortgage has been deleted. Nothing was saved.");
+    }
     const std::int32_t id = WriteMortgageLog(entry, idMortgageLog);
     unit.Commit();
     core::NotifyAll(core::kMortgageLog, core::kRecordsChanged, 0);

@@ -209,6 +209,12 @@ TEST_F(TwoProgramsOnAMortgage, KeepAPaidChargePaidWhenItIsEditedOrDeleted) {
               1U);
 }
 
+TEST_F(TwoProgramsOnAMortgage, ChargeNothingToADeletedMortgage) {
+    const mortgages::MortgageLogEntry charge = mortgages::NewCharge(kMortgageId);
+    ExpectRefused([] { core::App().Connection.Execute("DELETE * FROM Mortgage"); },
+                  [&] { mortgages::SaveCharge(charge, charge, 0); }, "deleted");
+}
+
 TEST_F(TwoProgramsOnAMortgage, ChargeADayOnce) {
     for (const auto mode : {mortgages::RunMode::CatchUp, mortgages::RunMode::RollForward}) {
         platform::SetToday(Date(2024, 3, 20));
