@@ -1,12 +1,18 @@
 #include <gmock/gmock.h>
 
+#include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTimer>
+#include <algorithm>
+#include <deque>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "core/binding/Binding.h"
 #include "core/binding/DateEdit.h"
@@ -17,13 +23,34 @@
 #include "kestrom/forms/Openings.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Paths.h"
+#include "shell/screens/frmKestrom.h"
 #include "support/screens/Driving.h"
 
 namespace {
 
 using core::forms::Form;
 using platform::qt::FromScreen;
+using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+
+/// Closes what would wait for somebody: menus and modal windows.
+class Unattended {
+  public:
+    Unattended() {
+        QObject::connect(&timer_, &QTimer::timeout, [] {
+            if (QWidget* const menu = QApplication::activePopupWidget()) {
+                menu->close();
+            } else if (QWidget* const window = QApplication::activeModalWidget()) {
+                window->close();
+            }
+        });
+        timer_.start(5);
+    }
+
+  private:
+    QTimer timer_;
+};
 
 /// The sample portfolio, open for reading only.
 class ReadOnlyBooks : public tests::EveryForm {
@@ -78,6 +105,51 @@ class ReadOnlyBooks : public tests::EveryForm {
             }
         }
     }
+    /// Runs the commands of the form that aren't in `done`, with every question answered with Yes,
+    /// until there are no more or one has closed the form. Returns true in the latter case.
+    bool RunCommands(Form& form, std::set<std::string>& done) {
+        const QPointer<Form> opened(&form);
+        while (QObject* const command = NextCommand(form, done)) {
+            KeepWhatWasHeard();
+            Answer(std::deque<bool>(20, true));
+            if (auto* const button = qobject_cast<QAbstractButton*>(command)) button->click();
+            if (auto* const action = qobject_cast<QAction*>(command)) action->trigger();
+            support::SettleEvents();
+            for (Form* const other : Open()) {
+                if (other != opened) other->CloseUnasked();
+            }
+            if (!opened || !opened->isVisible()) return true;
+        }
+        return false;
+    }
+    static QObject* NextCommand(const Form& form, std::set<std::string>& done) {
+        const auto isNext = [&](const QObject& command) {
+            const QString name = command.objectName();
+            if (name.isEmpty() || name.startsWith(QLatin1String("qt_"))) return false;
+            const QString place = command.parent()->objectName() + QLatin1Char('.');
+            return done.insert(FromScreen(place + name)).second;
+        };
+        for (auto* const button : form.findChildren<QAbstractButton*>()) {
+            const bool isCommand =
+                button->isVisible() && button->isEnabled() && !button->isCheckable();
+            if (isCommand && isNext(*button)) return button;
+        }
+        for (auto* const action : form.findChildren<QAction*>()) {
+            if (action->isEnabled() && !action->menu() && isNext(*action)) return action;
+        }
+        return nullptr;
+    }
+    void KeepWhatWasHeard() {
+        for (const std::string& line : Heard())
+            heard_ += line + "\n";
+    }
+    bool IsToldThatNothingIsSaved() {
+        KeepWhatWasHeard();
+        return std::exchange(heard_, {}).find("These books can only be read.") != std::string::npos;
+    }
+
+  private:
+    std::string heard_;
 };
 
 TEST_F(ReadOnlyBooks, KeepWhatWasEnteredAndSayThatNothingIsSaved) {
@@ -123,6 +195,80 @@ TEST_F(ReadOnlyBooks, KeepWhatWasEnteredAndSayThatNothingIsSaved) {
     }
     EXPECT_THAT(faults, IsEmpty());
     EXPECT_GT(forms, 40);
+    EXPECT_EQ(BooksOnDisk(), before);
+}
+
+TEST_F(ReadOnlyBooks, KeepAWizardOpenThatCannotFinish) {
+    const std::string before = BooksOnDisk();
+    for (const tests::Opening& opening : Openings()) {
+        if (!opening.name.ends_with("Wizard")) continue;
+        opening.open();
+        ASSERT_EQ(Open().size(), 1U) << opening.name;
+        const Form& wizard = *Open().front();
+        auto& next = support::Find<QPushButton>(wizard, "cmdNext");
+        std::vector<std::string> heard;
+        for (int step = 0; step < 10 && heard.empty(); ++step) {
+            Fill(wizard);
+            Answer({true, true});
+            next.click();
+            heard = Heard();
+        }
+        EXPECT_THAT(heard, ElementsAre(HasSubstr("These books can only be read."))) << opening.name;
+        EXPECT_TRUE(wizard.isVisible()) << opening.name;
+        core::forms::CloseAllForms();
+        support::SettleEvents();
+    }
+    EXPECT_EQ(BooksOnDisk(), before);
+}
+
+TEST_F(ReadOnlyBooks, LetNoCommandOfAFormWrite) {
+    const std::string before = BooksOnDisk();
+    const Unattended closing;
+    std::set<std::string> refused;
+    for (const tests::Opening& opening : Openings()) {
+        std::set<std::string> done;
+        do {
+            core::forms::CloseAllForms();
+            support::SettleEvents();
+            opening.open();
+            support::SettleEvents();
+        } while (RunCommands(*Open().front(), done));
+        if (IsToldThatNothingIsSaved()) refused.insert(opening.name);
+    }
+    for (const char* const form : {"Lease", "Mortgage", "Building", "Mileage", "mnuAutoEvents"})
+        EXPECT_TRUE(refused.contains(form)) << form;
+    EXPECT_EQ(BooksOnDisk(), before);
+}
+
+TEST_F(ReadOnlyBooks, LetNoCommandOfTheMainWindowWrite) {
+    const std::string before = BooksOnDisk();
+    const Unattended closing;
+    shell::screens::WindowServices services;
+    services.commands = kestrom::MenuCommands();
+    services.hasEditor = core::HasEditor;
+    services.end.endProcess = [] {};
+    shell::screens::frmKestrom window(services);
+    window.Setup({});
+    const std::set<std::string> ofRecords = {"mnuEdit", "mnuFind", "mnuCopyRows", "mnuPrint"};
+    std::set<std::string> run;
+    for (const std::int16_t kind :
+         {core::kAlert, core::kAccount, core::kLease, core::kMortgage, core::kTenant,
+          core::kWorkOrder, core::kTransaction, core::kUnit}) {
+        for (QAction* const action : window.findChildren<QAction*>()) {
+            window.SetSelectedDb(kind);
+            const std::string item = FromScreen(action->objectName());
+            if (!action->isEnabled() || action->menu() || item == "mnuExit") continue;
+            if (!run.insert(item).second && !ofRecords.contains(item)) continue;
+            Answer(std::deque<bool>(20, true));
+            action->trigger();
+            support::SettleEvents();
+            core::forms::CloseAllForms();
+            support::SettleEvents();
+        }
+    }
+    EXPECT_THAT(run, testing::IsSupersetOf(ofRecords));
+    for (const char* const item : {"mnuAdd", "mnuDelete", "mnuCopy", "mnuPayRent"})
+        EXPECT_FALSE(run.contains(item)) << item;
     EXPECT_EQ(BooksOnDisk(), before);
 }
 
