@@ -1,7 +1,9 @@
 #include "platform/qt/QtDialogs.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 
 #include "platform/qt/Text.h"
 
@@ -27,6 +29,20 @@ QMessageBox::Icon Picture(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// Makes a box wide enough for the lines of its text, which it would otherwise break a second time.
+/// A text without line breaks, or with lines as long as paragraphs, is left to the box.
+void KeepLines(QMessageBox& box) {
+    constexpr int kBesideTheText = 120; // the icon and the margins
+    constexpr int kSmallScreen = 1024;
+    constexpr int kBesideTheBox = 480; // what a box leaves free on a larger screen
+    auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (label == nullptr || !box.text().contains(u'\n')) return;
+    const int screen = box.screen()->availableSize().width();
+    const int room = (screen <= kSmallScreen ? screen : screen - kBesideTheBox) - kBesideTheText;
+    const int wanted = label->sizeHint().width();
+    if (wanted <= room) label->setMinimumWidth(wanted);
+}
+
 class MessageBoxes : public Dialogs {
   public:
     void ShowMessage(std::string_view title, std::string_view text, Icon icon) override {
@@ -47,6 +63,7 @@ class MessageBoxes : public Dialogs {
                         ToScreen(text).remove(QChar::CarriageReturn), buttons,
                         QApplication::activeWindow());
         box.setTextFormat(Qt::PlainText);
+        KeepLines(box);
         // Every question is about something that can't be undone: an accidental Enter must not
         // agree.
         if (buttons.testFlag(QMessageBox::No)) {
