@@ -148,6 +148,8 @@ void frmDocMgmt::Setup() {
     LoadOptions();
     Open();
     ui_->grd->setFocus();
+    if (ui_->grd->item(0, kName)->data(Qt::UserRole).toInt() != 0)
+        ui_->grd->setCurrentCell(0, kName);
 }
 
 /// The descriptions take the room that is left, which long paths need for themselves.
@@ -218,11 +220,10 @@ void frmDocMgmt::FlagTicked(const QTableWidgetItem& item) {
 }
 
 void frmDocMgmt::Add() {
-    const auto path = platform::TheChoosers().OpenFile({"Select File",
-                                                        core::Config().DocDirectory,
-                                                        {{"Rich Text File (*.rtf)", "*.rtf"},
-                                                         {"Text File (*.txt)", "*.txt"},
-                                                         {"All Files (*.*)", "*.*"}}});
+    const auto path = platform::TheChoosers().OpenFile(
+        {"Select File",
+         core::Config().DocDirectory,
+         {{"Rich Text File", "*.rtf"}, {"Text File", "*.txt"}, {"All Files", "*.*"}}});
     if (path) AddDoc(*path);
 }
 

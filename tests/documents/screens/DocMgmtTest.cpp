@@ -43,6 +43,7 @@ TEST_F(DocMgmtScreen, AddsTicksAndDeletesTemplates) {
     support::ClickOn(Find<QPushButton>(form, "cmdAdd"));
     ASSERT_EQ(1U, choosers.Asked().size());
     EXPECT_EQ("Select File", choosers.Asked()[0].title);
+    EXPECT_EQ("Rich Text File", choosers.Asked()[0].filters[0].name) << "the patterns are added";
     EXPECT_EQ("Late", Cell(form, 0, 0));
     support::SettleEvents();
     const auto& head = *Find<QTableWidget>(form, "grd").horizontalHeader();
@@ -74,6 +75,7 @@ TEST_F(DocMgmtScreen, TicksTheSpaceKeyOnceAndKeepsTheSelection) {
     documents::AddDoc("/x/B.rtf");
     frmDocMgmt& form = OpenForm();
     auto& grid = Find<QTableWidget>(form, "grd");
+    EXPECT_TRUE(Find<QPushButton>(form, "cmdEdit").isEnabled()) << "the first one is selected";
     grid.setCurrentCell(1, 2);
     QTest::keyClick(&grid, Qt::Key_Space);
     EXPECT_EQ("B", Ask("SELECT Description FROM Doc WHERE selAccount = True"));
