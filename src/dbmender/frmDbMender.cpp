@@ -131,6 +131,10 @@ void frmDbMender::ShowObjection() {
     if (objection.empty() && isMaking && !ui_->txtRent->Amount()) {
         objection = "The rent is not an amount of money.";
     }
+    // The finding at the top has said it already.
+    if (!objection.empty() && objection == FromScreen(ui_->lblFinding->text())) {
+        objection = "Choose another folder, or one of the other answers.";
+    }
     ui_->lblObjection->setText(ToScreen(objection));
     ui_->cmdMend->setEnabled(objection.empty());
     MakeRoom();
