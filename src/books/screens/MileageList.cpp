@@ -170,8 +170,6 @@ void frmMileage::PeriodChosen() {
 void frmMileage::FillGrid() {
     const QScopedValueRollback filling(filling_, true);
     core::grid::LoadGrid(*ui_->grd, core::Read(TripListSql(Filter())));
-    for (int column = kMileage - 2; column <= kMileage; ++column)
-        core::grid::FormatColumn(*ui_->grd, column, "#,###.0");
     core::grid::SizeColumns(*ui_->grd, kFirstShown);
     ui_->grd->SetEmptyText(tr("No trips in this period."));
     if (Id() == 0 || !ui_->grd->SelectId(Id())) ui_->grd->SelectNone(0);

@@ -163,8 +163,10 @@ TEST_F(MileageLog, FiltersAndKeepsItsPeriod) {
         EXPECT_EQ("Last 90 days", FromScreen(Find<QComboBox>(form, "cboDays").currentText()));
         EXPECT_EQ("2 trips, 65.5 miles, meals 15.00",
                   FromScreen(Find<QLabel>(form, "lblTotals").text()));
+        Run("UPDATE Mileage SET OBegin = 41000 WHERE IdMileage = 103");
         Choose(form, "cboDays", "All");
-        EXPECT_EQ(3, List(form).Model().rowCount());
+        ASSERT_EQ(3, List(form).Model().rowCount());
+        EXPECT_EQ("41000.0", FromScreen(List(form).Model().index(2, 3).data().toString()));
         Choose(form, "cboFilter", "Vehicle");
         EXPECT_EQ("All", FromScreen(Find<QComboBox>(form, "cboFilterItem").currentText()));
         Choose(form, "cboFilterItem", "Van");
