@@ -187,15 +187,5 @@ TEST_F(AccountTest, IsSavedWithItsContactOrNotAtAll) {
     EXPECT_EQ(Ask("SELECT Description & ' ' & Phone & ' ' & Mobile FROM Contact"), "Boss 1 555");
 }
 
-TEST_F(AccountTest, LooksAndReadsRight) {
-    Run("UPDATE Account SET Company = 'River Bank', AccountNumber = '4711-0815', Phone = "
-        "'503-555-0100', Email = 'desk@river.example', Address1 = '1 Main St', City = 'Salem', "
-        "State = 'OR', Zip = '97301', TaxIDFed = '12-3456789' WHERE IdAccount = 60");
-    const auto form = Open(60);
-    EXPECT_EQ(LookFaultsOfTabs(*form, "frmAccount"), Said{});
-    EXPECT_LE(form->sizeHint().width(), 1280);
-    EXPECT_LE(form->sizeHint().height(), 760);
-}
-
 } // namespace
 } // namespace support

@@ -313,18 +313,5 @@ TEST_F(BuildingTest, LongAndStrangeTextsComeBackWhole) {
     EXPECT_EQ(Find<QComboBox>(*form, "cboPropType").currentText(), strange);
 }
 
-TEST_F(BuildingTest, LooksAndReadsRight) {
-    Run("INSERT INTO OwnerLink (IdOwnerLink, IdBuilding, IdAccount, [Percent], IsPrimary) "
-        "VALUES (90, 10, 61, 60.5, True)");
-    const auto form = Open(10);
-    support::Enter(*form, kBuildingFields);
-    support::Enter(*form, kUnitFields);
-    ClickAction(*form, "APPLY");
-    EXPECT_EQ(Heard(), Said{});
-    EXPECT_LE(form->width(), 1280);
-    EXPECT_LE(form->height(), 760);
-    EXPECT_EQ(LookFaultsOfTabs(*form, "frmBuilding-"), Said{});
-}
-
 } // namespace
 } // namespace support

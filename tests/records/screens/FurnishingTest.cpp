@@ -126,11 +126,6 @@ class FurnishingTest : public ScreenTest {
         EXPECT_EQ(ShownFaults(*form, fields), Said{}) << "the parent changes nothing";
         EXPECT_FALSE(form->Dirty());
     }
-    template <class Screen>
-    void LooksRight(std::int32_t id, const std::string& name) {
-        const auto form = Open<Screen>(id);
-        EXPECT_EQ(LookFaults(*form, name), Said{});
-    }
 };
 
 TEST_F(FurnishingTest, AreEnteredChangedAndReopened) {
@@ -196,17 +191,6 @@ TEST_F(FurnishingTest, AUnitThatIsNotOfferedIsNotLost) {
     EXPECT_TRUE(Heard().empty());
     ClickAction(*stove, "CLOSE");
     EXPECT_EQ(Ask("SELECT IdUnit FROM Appliance WHERE IdAppliance = 70"), "20");
-}
-
-TEST_F(FurnishingTest, LookAndReadRight) {
-    LooksRight<frmRoom>(80, "frmRoom");
-    LooksRight<frmContent>(0, "frmContent");
-    LooksRight<frmAppliance>(70, "frmAppliance");
-    const auto form = Open<frmAppliance>(70);
-    Find<QTabWidget>(*form, "tabs").setCurrentIndex(1);
-    EXPECT_EQ(Portray(*form, "frmAppliance-contracts"), Said{});
-    Find<QTabWidget>(*form, "tabs").setCurrentIndex(2);
-    EXPECT_EQ(Portray(*form, "frmAppliance-files"), Said{});
 }
 
 } // namespace

@@ -70,10 +70,5 @@ TEST_F(IncidentTest, HearsOfTenants) {
     EXPECT_FALSE(form->Dirty());
 }
 
-TEST_F(IncidentTest, LooksAndReadsRight) {
-    const auto form = Open(0, 30);
-    EXPECT_EQ(LookFaults(*form, "frmIncident"), Said{});
-}
-
 } // namespace
 } // namespace support

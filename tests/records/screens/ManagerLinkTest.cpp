@@ -87,10 +87,5 @@ TEST_F(ManagerLinkTest, AnAccountOfAnotherTypeStaysTheManager) {
     EXPECT_EQ(Ask("SELECT IdAccount FROM ManagerLink"), "61");
 }
 
-TEST_F(ManagerLinkTest, LooksAndReadsRight) {
-    const auto form = Open();
-    EXPECT_EQ(LookFaults(*form, "frmManagerLink"), Said{});
-}
-
 } // namespace
 } // namespace support

@@ -283,11 +283,5 @@ TEST_F(OwnerLinkTest, AFailureOfTheDatabaseIsShownAndTheScreenStaysDirty) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM OwnerLink"), "1") << "and can be tried again";
 }
 
-TEST_F(OwnerLinkTest, LooksAndReadsRight) {
-    AddLink(500, 62, 60, true);
-    const auto form = Open(500);
-    EXPECT_EQ(LookFaults(*form, "frmOwnerLink"), Said{});
-}
-
 } // namespace
 } // namespace support

@@ -105,12 +105,5 @@ TEST_F(SvcContractTest, FollowsOtherScreens) {
     EXPECT_EQ(Chosen(*form, "cboAppliance"), QStringLiteral("Ace Stove 008"));
 }
 
-TEST_F(SvcContractTest, LooksRight) {
-    const auto form = Open();
-    support::Enter(*form, kFields);
-    EXPECT_EQ(LookFaults(*form, "frmSvcContract"), Said{});
-    form->CloseUnasked();
-}
-
 } // namespace
 } // namespace support

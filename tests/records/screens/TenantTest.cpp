@@ -202,15 +202,5 @@ TEST_F(TenantTest, ShowsPaymentsAndFilesAndComesBackUnderItsNumberWhenRemovedMea
     EXPECT_EQ(Ask("SELECT LastName FROM Tenant WHERE IdTenant = 30"), "Smith");
 }
 
-TEST_F(TenantTest, LooksAndReadsRight) {
-    Run("UPDATE Tenant SET Status = 'Current', Phone = '503-555-0100', Email = "
-        "'john@elm.example', SSN = '012-34-5678', CCNum = '4111 1111', BankName = 'River Bank' "
-        "WHERE IdTenant = 30");
-    const auto form = Open(30);
-    EXPECT_EQ(LookFaultsOfTabs(*form, "frmTenant"), Said{});
-    EXPECT_LE(form->sizeHint().width(), 1280);
-    EXPECT_LE(form->sizeHint().height(), 760);
-}
-
 } // namespace
 } // namespace support

@@ -223,25 +223,5 @@ TEST_F(WorkOrderTest, AChangeIsLeftOnlyWhenAgreed) {
     EXPECT_EQ(Ask("SELECT ShortDesc FROM WorkOrder"), "Roof");
 }
 
-TEST_F(WorkOrderTest, LooksRight) {
-    auto form = Open();
-    support::Enter(*form, kFields);
-    ClickAction(*form, "APPLY");
-    Run("INSERT INTO WOItem (IdWOItem, IdWorkOrder, EntryDate, Description) "
-        "VALUES (510, 1000, '05/02/2024', 'Called the vendor')");
-    core::NotifyAll(core::kWorkOrderHistory, core::kRecordsChanged, 0);
-    auto& tabs = Find<QTabWidget>(*form, "tabs");
-    for (const char* name : {"frmWorkOrder", "frmWorkOrder-history", "frmWorkOrder-files"}) {
-        EXPECT_EQ(LookFaults(*form, name), Said{});
-        tabs.setCurrentIndex(tabs.currentIndex() + 1);
-    }
-    EXPECT_LE(form->height(), 740);
-    form->CloseUnasked();
-    auto* const item = new frmWoItem;
-    item->Setup(510, 0);
-    EXPECT_EQ(LookFaults(*item, "frmWoItem"), Said{});
-    item->CloseUnasked();
-}
-
 } // namespace
 } // namespace support
