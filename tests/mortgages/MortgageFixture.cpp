@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Globals.h"
+#include "core/RunHeard.h"
 #include "mortgages/MortgageRun.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
@@ -58,15 +59,11 @@ std::vector<std::string> Log() {
         "ORDER BY DateValue(DatePosted), IdMortgageLog");
 }
 
-void NobodyFails::Failed(int, std::int32_t id, std::string_view description,
-                         std::string_view reason) {
-    ADD_FAILURE() << id << " " << description << ": " << reason;
-}
-
 void RunMortgagesOn(platform::Date day) {
     platform::SetToday(day);
-    NobodyFails listener;
-    mortgages::UpdateMortgages(listener);
+    RunHeard heard;
+    mortgages::UpdateMortgages(heard);
+    EXPECT_EQ(heard.failed, std::vector<std::string>());
 }
 
 } // namespace tests

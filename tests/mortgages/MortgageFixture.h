@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "core/DailyRun.h"
 #include "platform/values/Date.h"
 
 namespace tests {
@@ -35,16 +34,7 @@ std::vector<std::string> Rows(std::string_view statement);
 /// The charges and payments in the log: "day category period total flags".
 std::vector<std::string> Log();
 
-/// Fails the test when the run had to pass over a record.
-class NobodyFails : public core::RunListener {
-  public:
-    void Posted(int, std::int32_t, std::string_view, const std::vector<core::PostedRow>&) override {
-    }
-    void Failed(int kind, std::int32_t id, std::string_view description,
-                std::string_view reason) override;
-};
-
-/// The mortgages' step of the run on that day.
+/// The mortgages' step of the run on that day; a record it has to pass over fails the test.
 void RunMortgagesOn(platform::Date day);
 
 } // namespace tests

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Globals.h"
+#include "core/RunHeard.h"
 #include "mortgages/MortgageFixture.h"
 #include "mortgages/MortgageRun.h"
 #include "mortgages/mMortgage.h"
@@ -133,32 +134,16 @@ TEST_F(MortgageRun, RollsForwardOnceAndReprocessesAgain) {
     mortgages::UpdateMortgageById(999, RunMode::Reprocess); // no such mortgage
 }
 
-class Listener : public core::RunListener {
-  public:
-    void Posted(int kind, std::int32_t id, std::string_view description,
-                const std::vector<core::PostedRow>& rows) override {
-        for (const core::PostedRow& row : rows)
-            lines.push_back(std::to_string(kind) + " " + std::to_string(id) + " " +
-                            std::string(description) + " " + row.date.ToText() + " " +
-                            std::string(row.category));
-    }
-    void Failed(int, std::int32_t id, std::string_view description,
-                std::string_view reason) override {
-        lines.push_back("failed " + std::to_string(id) + " " + std::string(description) + ": " +
-                        std::string(reason));
-    }
-    std::vector<std::string> lines;
-};
-
 TEST_F(MortgageRun, PassesOverAMortgageItCannotReckon) {
     core::App().Connection.Execute(
         "INSERT INTO Mortgage (IdMortgage, FirstDue, NextDue, DateUpdated, OrigPV, OrigPer, "
         "OrigRate) VALUES (300, 'soon', '01/15/2024', '12/31/2023', 1000, 12, 0.05)");
     platform::SetToday(Date(2024, 1, 15));
-    Listener listener;
-    mortgages::UpdateMortgages(listener);
-    EXPECT_THAT(listener.lines, ElementsAre("3 201 Elm's loan 01/15/2024 Mortgage Payment",
-                                            HasSubstr("failed 300 mortgage 300: ")));
+    RunHeard heard;
+    mortgages::UpdateMortgages(heard);
+    EXPECT_THAT(heard.posted,
+                ElementsAre("3 201 Elm's loan: Mortgage Payment 01/15/2024 599.5505"));
+    EXPECT_THAT(heard.failed, ElementsAre(HasSubstr("3 300 mortgage 300: ")));
     EXPECT_THAT(Rows("SELECT DateUpdated, Status FROM Mortgage WHERE IdMortgage = 300"),
                 ElementsAre("12/31/2023|null"));
 }
