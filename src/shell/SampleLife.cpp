@@ -9,6 +9,7 @@
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 #include "shell/SampleBorrower.h"
+#include "shell/SampleCredits.h"
 #include "shell/SampleExpenses.h"
 #include "shell/SampleTenant.h"
 #include "store/CreateDatabase.h"
@@ -45,12 +46,14 @@ void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress
     std::vector<SampleTenant> tenants(cast.leases.begin(), cast.leases.end());
     std::vector<SampleBorrower> borrowers(cast.loans.begin(), cast.loans.end());
     const SampleExpenses expenses;
+    SampleCredits credits(cast.leases, today);
     const int days = today.Serial() - cast.begins.Serial() + 1;
     for (Date day = cast.begins; day <= today; day = DateAdd(Interval::Day, 1, day)) {
         platform::SetToday(day);
         platform::UnitOfWork unit(core::App().Connection);
         for (SampleTenant& tenant : tenants)
             tenant.LiveThrough(day);
+        credits.LiveThrough(day);
         for (SampleBorrower& borrower : borrowers)
             borrower.LiveThrough(day);
         expenses.Pay(day);

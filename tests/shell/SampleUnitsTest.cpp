@@ -65,6 +65,15 @@ TEST_F(SampleUnits, AgreeWithTheirLeasesWheneverTheSampleIsMade) {
         core::App().Connection.Open(folder / "Vestrel.mdb");
         EXPECT_EQ(Contradictions(), std::vector<std::string>());
         EXPECT_EQ(Findings(Least::Note), std::vector<std::string>());
+        // A payment that was returned, charges paid from credit, and the credits of two tenants.
+        EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE Description LIKE 'Returned *'"),
+                  "1");
+        EXPECT_NE(Ask("SELECT Count(*) FROM Transactions WHERE Description LIKE '*from credit'"),
+                  "0");
+        EXPECT_EQ(Ask("SELECT Count(*) FROM LeaseCredit WHERE SettleCharges = True"), "1");
+        EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE IdTransaction = 0 AND Category = "
+                      "'Credit'"),
+                  "2");
     }
 }
 
