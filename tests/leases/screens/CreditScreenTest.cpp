@@ -191,6 +191,14 @@ TEST_F(CreditScreen, TheLeaseKeepsWhetherItSettlesChargesFromCredit) {
     EXPECT_EQ(Lease("Rent"), "960");
     EXPECT_FALSE(leases::SettlesCharges(kLease));
     EXPECT_FALSE(box.isChecked());
+    // Opened on a lease that has it, the form isn't dirty.
+    form->close();
+    support::SettleEvents();
+    leases::SetSettlesCharges(kLease, true);
+    (new frmLease)->Setup(kLease);
+    const auto again = Opened<frmLease>();
+    EXPECT_TRUE(Find<QCheckBox>(*again, "chkSettleCharges").isChecked());
+    EXPECT_FALSE(again->Dirty());
 }
 
 } // namespace
