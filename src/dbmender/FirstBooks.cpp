@@ -1,5 +1,6 @@
 #include "dbmender/FirstBooks.h"
 
+#include "core/BooksSettings.h"
 #include "core/Codes.h"
 #include "core/Configuration.h"
 #include "core/Globals.h"
@@ -46,6 +47,7 @@ void Enter(const FirstEntries& entries) {
     }
     core::Execute("UPDATE Configuration SET CompanyName = ?",
                   {std::string(platform::Trim(entries.company))});
+    if (entries.since.IsSet()) core::SetBooksKeptSince(entries.since);
     const std::string_view address = platform::Trim(entries.address);
     if (!address.empty()) AddProperty(entries, address);
     work.Commit();

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/values/Currency.h"
+#include "platform/values/Date.h"
 
 namespace dbmender {
 
@@ -13,6 +14,7 @@ struct FirstEntries {
     std::string address; ///< of the first building
     std::string unit;    ///< its first unit; a building without an address has none
     platform::Currency rent;
+    platform::Date since; ///< the first day that the books keep
 };
 
 /// Creates a database in `folder` with these entries. Throws Error on failure; then there is no

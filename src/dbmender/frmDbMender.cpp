@@ -13,6 +13,7 @@
 #include "platform/qt/Icons.h"
 #include "platform/qt/PressGuard.h"
 #include "platform/qt/Text.h"
+#include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
 #include "ui_frmDbMender.h"
@@ -42,6 +43,8 @@ frmDbMender::frmDbMender(MenderLine line, StartProgram start, QWidget* parent)
     ui_->setupUi(this);
     core::binding::WireControls(*this);
     ui_->prgWork->hide();
+    const platform::Date today = platform::Today();
+    ui_->dpSince->SetDay(platform::Date(today.Year(), today.Month(), 1));
     ui_->lblPicture->setPixmap(
         platform::qt::LoadIcon(QStringLiteral("vestrel")).pixmap(ui_->lblPicture->minimumSize()));
     if (line_.dbName != core::kDefaultDatabase) {
@@ -54,6 +57,7 @@ frmDbMender::frmDbMender(MenderLine line, StartProgram start, QWidget* parent)
     }
     connect(ui_->txtFolder, &QLineEdit::textChanged, this, &frmDbMender::ShowObjection);
     connect(ui_->txtRent, &QLineEdit::textChanged, this, &frmDbMender::ShowObjection);
+    connect(ui_->dpSince, &QLineEdit::textChanged, this, &frmDbMender::ShowObjection);
     connect(ui_->cmdBrowse, &QPushButton::clicked, this, &frmDbMender::Browse);
     connect(ui_->cmdMend, &QPushButton::clicked, this, &frmDbMender::Mend);
     connect(ui_->cmdRestore, &QPushButton::clicked, this, &frmDbMender::Restore);
@@ -130,6 +134,9 @@ void frmDbMender::ShowObjection() {
     const bool isMaking = ui_->optMakeEmpty->isChecked();
     if (objection.empty() && isMaking && !ui_->txtRent->Amount()) {
         objection = "The rent is not an amount of money.";
+    }
+    if (objection.empty() && isMaking && !ui_->dpSince->IsValid()) {
+        objection = "The day since which the books are kept is not a valid date.";
     }
     // The finding at the top has said it already.
     if (!objection.empty() && objection == FromScreen(ui_->lblFinding->text())) {
@@ -231,7 +238,8 @@ Choice frmDbMender::Chosen() const {
     choice.first = {.company = FromScreen(ui_->txtCompany->text()),
                     .address = FromScreen(ui_->txtAddress->text()),
                     .unit = FromScreen(ui_->txtUnit->text()),
-                    .rent = ui_->txtRent->Amount().value_or(platform::Currency())};
+                    .rent = ui_->txtRent->Amount().value_or(platform::Currency()),
+                    .since = ui_->dpSince->Day().value_or(platform::Date())};
     return choice;
 }
 

@@ -30,10 +30,8 @@ void OpenLease(Recordset& row, std::int32_t idLease) {
 }
 
 void BeginLease(Recordset& row) {
+    SetBeginning(row);
     row["DateCreated"].Set(platform::Today().ToText());
-    row["DateRenewed"].Set(row["DateActive"].Value());
-    row["DateVacating"].Set("");
-    row["Status"].Set(core::kLeasePending);
     row["RentAccount"].Set(core::Config().DefaultRentAccount);
     row["DepositAccount"].Set(core::Config().DefaultDepositAccount);
     ChargeDeposits(row["IdLease"].AsLong(), row["IdUnit"].AsLong());
@@ -82,6 +80,12 @@ void CheckParties(std::int32_t idUnit, std::int32_t idTenant) {
     throw platform::ConflictError(
         fmt::format("The {} was deleted in the meantime. The lease was not saved.",
                     hasUnit ? "tenant" : "unit"));
+}
+
+void SetBeginning(Recordset& row) {
+    row["DateRenewed"].Set(row["DateActive"].Value());
+    row["DateVacating"].Set("");
+    row["Status"].Set(core::kLeasePending);
 }
 
 void SaveLease(Recordset& row, LeaseAge age) {

@@ -33,6 +33,10 @@ std::vector<std::string> LeaseErrors(const LeaseEntry& entry);
 /// Called within the unit of work that saves the lease.
 void CheckParties(std::int32_t idUnit, std::int32_t idTenant);
 
+/// Sets what every lease begins with, whatever was entered: it is pending, and its first term
+/// begins on its first day.
+void SetBeginning(platform::Recordset& row);
+
 enum class LeaseAge { New, Stored };
 
 /// Saves a lease's row, filled in by the screen. A new lease is pending until its dates say

@@ -84,20 +84,26 @@ void SetSettings(Recordset& row) {
     row["Notes"].Set(kNotes);
 }
 
-std::int32_t AddLease(const LeaseWizardEntry& entry, std::int32_t idUnit, std::int32_t idTenant) {
-    core::RowToWrite lease = AddRow("Lease", "IdLease");
-    Recordset& row = lease.row;
-    row["IdUnit"].Set(idUnit);
-    row["IdTenant"].Set(idTenant);
-    row["DateCreated"].Set(platform::Today().ToText());
-    for (const auto* date : {"DateActive", "DateRenewed", "DateNextDue"})
+void SetTerms(Recordset& row, const LeaseWizardEntry& entry) {
+    for (const auto* date : {"DateActive", "DateRenewed"})
         row[date].Set(entry.startDate.ToText());
+    const platform::Date firstDue = entry.firstDue.IsSet() ? entry.firstDue : entry.startDate;
+    row["DateNextDue"].Set(firstDue.ToText());
     row["Status"].Set(core::kLeasePending);
     row["TermType"].Set(entry.termType);
     row["Term"].Set(entry.term);
     row["Rent"].Set(entry.rent);
     row["OneTimeFee"].Set(entry.lateFee);
     row["OneTimeDays"].Set(entry.lateDays);
+}
+
+std::int32_t AddLease(const LeaseWizardEntry& entry, std::int32_t idUnit, std::int32_t idTenant) {
+    core::RowToWrite lease = AddRow("Lease", "IdLease");
+    Recordset& row = lease.row;
+    row["IdUnit"].Set(idUnit);
+    row["IdTenant"].Set(idTenant);
+    row["DateCreated"].Set(platform::Today().ToText());
+    SetTerms(row, entry);
     SetSettings(row);
     core::RepairNulls(row, nullptr);
     UpdateLease(row, WalkMode::Reprocess);
@@ -141,6 +147,13 @@ std::vector<std::string> LeaseWizardErrors(LeaseWizardStep step, const LeaseWiza
             break;
     }
     return {};
+}
+
+LeaseTerms EnteredTerms(const LeaseWizardEntry& entry) {
+    Recordset row = core::NewRow("Lease");
+    SetTerms(row, entry);
+    SetSettings(row);
+    return LeaseTerms::Read(row);
 }
 
 std::int32_t FinishLeaseWizard(const LeaseWizardEntry& entry) {

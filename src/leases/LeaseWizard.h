@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "leases/LeaseTerms.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Date.h"
 
@@ -25,12 +26,17 @@ struct LeaseWizardEntry {
     std::string firstName{};
 
     platform::Date startDate{};
+    /// The first due date; unset if it is the start.
+    platform::Date firstDue{};
     std::int16_t term = 12;
     std::string termType = "Month(s)";
     platform::Currency rent{};
     platform::Currency lateFee{};
     std::int16_t lateDays = 0;
 };
+
+/// Returns the terms of the lease that these entries make, before its first run.
+LeaseTerms EnteredTerms(const LeaseWizardEntry& entry);
 
 enum class LeaseWizardStep { Introduction, Property, Tenant, Terms, Summary };
 

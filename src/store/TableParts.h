@@ -25,5 +25,7 @@ std::vector<TableDefinition> MoneyTables();
 std::vector<TableDefinition> SupportTables();
 // The credits of tenants, which came later.
 std::vector<TableDefinition> CreditTables();
+// Settings of the books, which came later too.
+TableDefinition BooksSettingTable();
 
 } // namespace store

@@ -24,6 +24,12 @@ std::vector<TableDefinition> AllTables() {
     return all;
 }
 
+std::vector<TableDefinition> LaterTables() {
+    std::vector<TableDefinition> later = CreditTables();
+    later.push_back(BooksSettingTable());
+    return later;
+}
+
 std::string_view DefaultOf(FieldKind kind) {
     return kind == FieldKind::Long || kind == FieldKind::Boolean ? " DEFAULT 0" : "";
 }
@@ -55,7 +61,7 @@ const std::vector<TableDefinition>& BooksTables() {
 }
 
 const std::vector<TableDefinition>& AddedTables() {
-    static const std::vector<TableDefinition> tables = CreditTables();
+    static const std::vector<TableDefinition> tables = LaterTables();
     return tables;
 }
 

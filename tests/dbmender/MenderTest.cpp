@@ -231,7 +231,8 @@ class FirstBooks : public Mender {
 
 TEST_F(FirstBooks, HoldWhatWasEnteredOnceOrNothing) {
     const auto rent = platform::Currency::FromScaled(9'505'000);
-    dbmender::MakeFirstBooks(Books(), {" Elm & O'Hara ", "12 Elm St", " B ", rent});
+    dbmender::MakeFirstBooks(
+        Books(), {" Elm & O'Hara ", "12 Elm St", " B ", rent, platform::Date(2026, 11, 1)});
     EXPECT_FALSE(core::App().Connection.IsOpen());
     EXPECT_EQ(dbmender::Examine(Books()).condition, Condition::Ready);
     EXPECT_EQ(Made("SELECT CompanyName FROM Configuration"), "Elm & O'Hara");
@@ -240,14 +241,16 @@ TEST_F(FirstBooks, HoldWhatWasEnteredOnceOrNothing) {
                    "AND Unit.Status = 'Avaliable'"),
               "B");
     EXPECT_EQ(Made("SELECT Rent FROM Unit"), "950.5");
-    EXPECT_THROW(dbmender::MakeFirstBooks(Books(), {"Other", "", "", {}}), platform::Error);
+    EXPECT_EQ(Made("SELECT Content FROM BooksSetting WHERE Name = 'KeptSince'"), "11/01/2026");
+    EXPECT_THROW(dbmender::MakeFirstBooks(Books(), {"Other", "", "", {}, {}}), platform::Error);
     EXPECT_EQ(Made("SELECT CompanyName FROM Configuration"), "Elm & O'Hara") << "never overwritten";
 }
 
 TEST_F(FirstBooks, HaveNoUnitWithoutABuilding) {
-    dbmender::MakeFirstBooks(Books(), {"", " ", "B", {}});
+    dbmender::MakeFirstBooks(Books(), {"", " ", "B", {}, {}});
     EXPECT_EQ(Made("SELECT Count(*) FROM Configuration"), "1");
     EXPECT_EQ(Made("SELECT Count(*) FROM Unit"), "0");
+    EXPECT_EQ(Made("SELECT Count(*) FROM BooksSetting"), "0");
 }
 
 } // namespace

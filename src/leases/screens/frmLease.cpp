@@ -8,6 +8,7 @@
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
 #include "core/RecordNotices.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "core/binding/Binding.h"
 #include "core/binding/ComboList.h"
@@ -19,6 +20,7 @@
 #include "leases/Credits.h"
 #include "leases/mLease.h"
 #include "leases/screens/Lease_Ledger.h"
+#include "leases/screens/frmChargeFrom.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
@@ -211,6 +213,21 @@ std::vector<std::string> frmLease::Errors() {
     return LeaseErrors({GetSelectedId(*terms_->cboIdUnit), GetSelectedId(*terms_->cboIdTenant),
                         terms_->txtRent->Amount().value_or(platform::Currency()),
                         !terms_->dpDateNextDue->text().trimmed().isEmpty()});
+}
+
+/// A lease that is entered late is charged from the day that the user chooses.
+bool frmLease::Agreed() {
+    const bool isNew = age_ == LeaseAge::New;
+    platform::Recordset row =
+        isNew ? core::NewRow("Lease") : core::Read("SELECT * FROM Lease WHERE IdLease = ?", {Id()});
+    if (!isNew && row.Eof()) return true;
+    core::binding::BindToRecord(*this, row);
+    if (isNew) SetBeginning(row);
+    const LeaseTerms terms = LeaseTerms::Read(row);
+    const auto nextDue = AskChargeFrom(terms, *this);
+    if (!nextDue) return false;
+    if (*nextDue != terms.dateNextDue.Get()) terms_->dpDateNextDue->SetDay(*nextDue);
+    return true;
 }
 
 void frmLease::Refresh(std::int16_t kind) {

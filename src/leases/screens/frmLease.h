@@ -44,6 +44,7 @@ class frmLease : public core::forms::RecordForm {
     void WriteRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
+    bool Agreed() override;
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
     void FollowOthers(const core::binding::Controls& touched) override;

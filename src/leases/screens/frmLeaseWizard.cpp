@@ -11,6 +11,7 @@
 #include "core/binding/EnableContainer.h"
 #include "core/forms/ErrorRoll.h"
 #include "leases/LeaseEditor.h"
+#include "leases/screens/frmChargeFrom.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Format.h"
@@ -168,8 +169,17 @@ void frmLeaseWizard::ShowSummary() {
                                      .arg(money(entry.lateFee)));
 }
 
+/// A lease that is entered late is charged from the day that the user chooses.
+bool frmLeaseWizard::Agreed() {
+    const auto firstDue = AskChargeFrom(EnteredTerms(Entered()), *this);
+    firstDue_ = firstDue.value_or(platform::Date());
+    return firstDue.has_value();
+}
+
 void frmLeaseWizard::Finish() {
-    const std::int32_t idLease = FinishLeaseWizard(Entered());
+    LeaseWizardEntry entry = Entered();
+    entry.firstDue = firstDue_;
+    const std::int32_t idLease = FinishLeaseWizard(entry);
     if (summary_->chkOpenLease->isChecked()) core::EditRecord(core::kLease, idLease);
 }
 

@@ -27,6 +27,7 @@ class frmLeaseWizard : public core::forms::frmWizard {
   protected:
     std::vector<std::string> StepErrors(int step) override;
     void ShowStep(int step) override;
+    bool Agreed() override;
     void Finish() override;
     void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
 
@@ -43,6 +44,7 @@ class frmLeaseWizard : public core::forms::frmWizard {
     std::unique_ptr<Ui::frmLeaseWizardTenant> tenant_;
     std::unique_ptr<Ui::frmLeaseWizardTerms> terms_;
     std::unique_ptr<Ui::frmLeaseWizardSummary> summary_;
+    platform::Date firstDue_;
 };
 
 } // namespace leases::screens

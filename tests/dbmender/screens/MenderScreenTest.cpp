@@ -8,6 +8,7 @@
 #include "dbmender/frmDbMender.h"
 #include "exchange/Container.h"
 #include "exchange/screens/frmRestore.h"
+#include "platform/system/Clock.h"
 #include "shell/Registrations.h"
 #include "store/CreateDatabase.h"
 #include "support/ScriptedChoosers.h"
@@ -180,6 +181,14 @@ TEST_F(MenderScreen, CreatesTheFirstBooksOfANewUserByKeyboard) {
     EXPECT_EQ(Objection(), "The rent is not an amount of money.");
     EXPECT_FALSE(Mend().isEnabled());
     support::Type(Find<QLineEdit>(*window_, "txtRent"), "950.50");
+    auto& since = Find<QLineEdit>(*window_, "dpSince");
+    const platform::Date today = platform::Today();
+    const platform::Date first(today.Year(), today.Month(), 1);
+    EXPECT_EQ(since.text().toStdString(), first.ToText());
+    support::Type(since, "13/45");
+    EXPECT_THAT(Objection(), HasSubstr("is not a valid date"));
+    EXPECT_FALSE(Mend().isEnabled());
+    support::Type(since, "10/01/2023");
     EXPECT_THAT(support::LookFaults(*window_, "frmDbMender-first"), IsEmpty());
     Pick("optMakeSample");
     EXPECT_FALSE(Find<QLineEdit>(*window_, "txtCompany").isVisible());
@@ -195,6 +204,7 @@ TEST_F(MenderScreen, CreatesTheFirstBooksOfANewUserByKeyboard) {
     core::App().Connection.Open(PathTo("db/Vestrel.mdb"));
     EXPECT_EQ(Ask("SELECT CompanyName FROM Configuration"), "Elm & Sons");
     EXPECT_EQ(Ask("SELECT Rent FROM Unit WHERE Unit = 'B'"), "950.5");
+    EXPECT_EQ(Ask("SELECT Content FROM BooksSetting"), "10/01/2023");
 }
 
 TEST_F(MenderScreen, WelcomesWithFourWaysToBegin) {
