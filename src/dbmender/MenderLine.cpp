@@ -12,8 +12,8 @@ using platform::EqualIgnoringCase;
 namespace {
 
 constexpr std::array kOptions = {
-    platform::HelpEntry{"-h,--help", "Print this help and exit"},
-    platform::HelpEntry{"--version", "Print the version and exit"},
+    platform::kHelpOption,
+    platform::kVersionOption,
     platform::HelpEntry{"/nowarning", "Don't ask to close the other programs first"},
     platform::HelpEntry{"/welcome", "Welcome a user who has no books yet"},
     platform::HelpEntry{"/appstart=PROGRAM", "Start this program afterwards"},

@@ -4,13 +4,11 @@
 #include <span>
 
 #include "core/Globals.h"
-#include "core/Preferences.h"
+#include "core/forms/ProgramLook.h"
 #include "dbmender/Diagnosis.h"
 #include "dbmender/MenderLine.h"
 #include "dbmender/frmDbMender.h"
 #include "dbmender/frmWelcome.h"
-#include "platform/qt/Appearance.h"
-#include "platform/qt/Icons.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/system/Process.h"
 #include "platform/system/ProgramHelp.h"
@@ -21,13 +19,8 @@ int main(int argc, char** argv) {
     if (platform::AnswerIfAsked(dbmender::MenderHelp(), all)) return 0;
     try {
         const QApplication application(argc, argv);
-        QApplication::setApplicationName(QStringLiteral("dbmender"));
-        QApplication::setDesktopFileName(QStringLiteral("vestrel"));
-        QApplication::setWindowIcon(platform::qt::LoadIcon(QStringLiteral("vestrel")));
         core::InitGlobals({});
-        const platform::qt::DesktopAppearance appearance;
-        core::LoadPreferences();
-        platform::qt::ApplyAppearance(platform::qt::Appearance{core::Preferences().Appearance});
+        const core::forms::ProgramLook look("dbmender", "vestrel");
         platform::SetDialogs(platform::qt::MakeDialogs());
         platform::SetChoosers(platform::qt::MakeChoosers());
         shell::RegisterLogic();

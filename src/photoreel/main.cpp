@@ -6,17 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "core/Preferences.h"
+#include "core/forms/ProgramLook.h"
 #include "photoreel/frmPhotoReel.h"
-#include "platform/qt/Appearance.h"
-#include "platform/qt/Icons.h"
 #include "platform/system/ProgramHelp.h"
 
 namespace {
 
 constexpr std::array kOptions = {
-    platform::HelpEntry{"-h,--help", "Print this help and exit"},
-    platform::HelpEntry{"--version", "Print the version and exit"},
+    platform::kHelpOption,
+    platform::kVersionOption,
     platform::HelpEntry{"/loadfile FILE",
                         "Show the pictures listed in this file: a title, then a\n"
                         "picture a line"},
@@ -38,11 +36,7 @@ int main(int argc, char** argv) {
     if (platform::AnswerIfAsked(kHelp, all)) return 0;
     try {
         const QApplication application(argc, argv);
-        QApplication::setApplicationName(QStringLiteral("PhotoReel"));
-        QApplication::setWindowIcon(platform::qt::LoadIcon(QStringLiteral("picture")));
-        const platform::qt::DesktopAppearance appearance;
-        core::LoadPreferences();
-        platform::qt::ApplyAppearance(platform::qt::Appearance{core::Preferences().Appearance});
+        const core::forms::ProgramLook look("PhotoReel", "picture");
         const std::span words(argv, static_cast<std::size_t>(argc));
         const std::vector<std::string> arguments(words.begin() + 1, words.end());
 

@@ -8,8 +8,8 @@ namespace shell {
 namespace {
 
 constexpr std::array kOptions = {
-    platform::HelpEntry{"-h,--help", "Print this help and exit"},
-    platform::HelpEntry{"--version", "Print the version and exit"},
+    platform::kHelpOption,
+    platform::kVersionOption,
     platform::HelpEntry{"--data DIR", "Open the books in this directory, not the registered ones"},
     platform::HelpEntry{"--today MM/DD/YYYY", "Take this day for today"},
     platform::HelpEntry{"--read-only", "Change nothing: look at the books only"},

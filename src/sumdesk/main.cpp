@@ -5,10 +5,8 @@
 #include <span>
 
 #include "core/Globals.h"
-#include "core/Preferences.h"
+#include "core/forms/ProgramLook.h"
 #include "core/forms/frmHelp.h"
-#include "platform/qt/Appearance.h"
-#include "platform/qt/Icons.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/system/ProgramHelp.h"
 #include "sumdesk/frmSumDesk.h"
@@ -16,8 +14,8 @@
 namespace {
 
 constexpr std::array kOptions = {
-    platform::HelpEntry{"-h,--help", "Print this help and exit"},
-    platform::HelpEntry{"--version", "Print the version and exit"},
+    platform::kHelpOption,
+    platform::kVersionOption,
 };
 
 constexpr std::array kSections = {platform::HelpSection{"Options", kOptions}};
@@ -36,13 +34,8 @@ int main(int argc, char** argv) {
     if (platform::AnswerIfAsked(kHelp, all)) return 0;
     try {
         const QApplication application(argc, argv);
-        QApplication::setApplicationName(QStringLiteral("SumDesk"));
-        QApplication::setDesktopFileName(QStringLiteral("vestrel"));
-        QApplication::setWindowIcon(platform::qt::LoadIcon(QStringLiteral("calculator")));
         core::InitGlobals({});
-        const platform::qt::DesktopAppearance appearance;
-        core::LoadPreferences();
-        platform::qt::ApplyAppearance(platform::qt::Appearance{core::Preferences().Appearance});
+        const core::forms::ProgramLook look("SumDesk", "calculator");
         platform::SetDialogs(platform::qt::MakeDialogs());
         core::forms::RegisterHelpWindow();
 

@@ -13,6 +13,10 @@ struct HelpEntry {
     std::string_view text;
 };
 
+/// What every program answers: the first entries of its options.
+inline constexpr HelpEntry kHelpOption{"-h,--help", "Print this help and exit"};
+inline constexpr HelpEntry kVersionOption{"--version", "Print the version and exit"};
+
 /// A further section of the help, such as "Files".
 struct HelpSection {
     std::string_view title;
