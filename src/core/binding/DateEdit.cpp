@@ -26,13 +26,23 @@ platform::Date FromScreenDay(QDate day) {
     return {day.year(), static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day())};
 }
 
+/// The tool tip of a box while it is marked as not holding a date.
+constexpr const char* kOwnTip = "ownTip";
+
+/// The button at the end of the box says in a picture and in words whether there is a date.
+void ShowButton(QAction& button, bool isDate) {
+    button.setIcon(
+        platform::qt::LoadIcon(isDate ? QStringLiteral("calendar") : QStringLiteral("warning")));
+    button.setText(isDate ? DateEdit::tr("Pick a day") : DateEdit::tr("Not a day: pick one"));
+    button.setToolTip(isDate ? DateEdit::tr("Pick a day (Alt+Down)")
+                             : DateEdit::tr("This is not a day. Pick one (Alt+Down)"));
+}
+
 } // namespace
 
 DateEdit::DateEdit(QWidget* parent) : QLineEdit(parent) {
-    open_ =
-        addAction(platform::qt::LoadIcon(QStringLiteral("calendar")), QLineEdit::TrailingPosition);
-    open_->setToolTip(tr("Pick a day (Alt+Down)"));
-    open_->setText(tr("Pick a day"));
+    open_ = addAction(QIcon(), QLineEdit::TrailingPosition);
+    ShowButton(*open_, true);
     connect(open_, &QAction::triggered, this, &DateEdit::ShowCalendar);
     // A half-typed date isn't valid yet, so it is marked only when the box loses the focus.
     connect(this, &QLineEdit::textChanged, this, [this] {
@@ -117,13 +127,20 @@ void DateEdit::Tidy() {
 }
 
 void DateEdit::MarkValidity() {
-    QPalette marked;
+    const bool isMarked = property(kOwnTip).isValid();
+    if (isMarked != IsValid()) return;
+    QPalette look;
     if (!IsValid()) {
         const bool isDark = palette().color(QPalette::Base).lightness() < 128;
-        marked.setColor(QPalette::Text, isDark ? QColor(0xFF, 0x8A, 0x80) : QColor(0xB0, 0, 0x20));
+        look.setColor(QPalette::Text, isDark ? QColor(0xFF, 0x8A, 0x80) : QColor(0xB0, 0, 0x20));
+        setProperty(kOwnTip, toolTip());
+        setToolTip(tr("This is not a day. Type it as month/day/year."));
+    } else {
+        setToolTip(property(kOwnTip).toString());
+        setProperty(kOwnTip, {});
     }
-    setPalette(marked);
-    setToolTip(IsValid() ? QString() : tr("This is not a day. Type it as month/day/year."));
+    setPalette(look);
+    ShowButton(*open_, IsValid());
 }
 
 } // namespace core::binding

@@ -10,6 +10,7 @@
 #include "core/RecordKinds.h"
 #include "core/Settings.h"
 #include "shell/screens/KestromFixture.h"
+#include "support/screens/ColorChecks.h"
 
 namespace {
 
@@ -212,6 +213,21 @@ TEST_F(ViewsOnScreen, ColourWhatIsDue) {
     Go("MORTGAGES");
     EXPECT_EQ(color(0, 6), "#ff8080");
     EXPECT_EQ(color(1, 6), "plain");
+    for (const char* const view :
+         {"ACCOUNTS", "FINANCIAL", "LEASES", "UNITS", "TENANTS", "MORTGAGES", "WORKORDERS"}) {
+        Go(view);
+        EXPECT_EQ(support::ColorFaults(Window()), std::vector<std::string>()) << view;
+    }
+    // What the check finds: colours that no word goes with.
+    Go("LEASES");
+    Grid().Model().SetColor(2, 0, Qt::red);
+    Grid().Model().SetColor(5, 0, Qt::red);
+    EXPECT_EQ(support::ColorFaults(Window()),
+              (std::vector<std::string>{"grd row 0 column 5 has a colour and no word",
+                                        "grd row 1 column 2: \"Smith, John Q\" has two colours",
+                                        "grd row 1 column 5: \"\" has two colours",
+                                        "grd row 2 column 2: \"Smith, John Q\" has two colours",
+                                        "grd row 2 column 5: \"\" has two colours"}));
 }
 
 TEST_F(ViewsOnScreen, NarrowWhileOneTypes) {
