@@ -1,5 +1,6 @@
 #include "shell/SampleLife.h"
 
+#include "core/BooksSettings.h"
 #include "core/Configuration.h"
 #include "core/DailyRun.h"
 #include "core/Globals.h"
@@ -40,6 +41,7 @@ void MakeSettings(Connection& connection, Date today) {
     constexpr int kMinutesPerDay = 1440;
     const int days = today.Serial() - Date(2000, 1, 1).Serial();
     connection.Execute("UPDATE Configuration SET NextId = ?", {days * kMinutesPerDay});
+    core::MarkAsSample(core::App().DbPath);
 }
 
 void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress& progress) {

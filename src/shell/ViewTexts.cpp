@@ -77,8 +77,10 @@ std::string EmptyText(const EmptyView& view) {
     return text;
 }
 
-std::string WindowTitle(std::string_view companyName) {
-    return fmt::format("Vestrel - {}", companyName);
+std::string WindowTitle(std::string_view companyName, BooksAre books) {
+    const bool says = companyName.find("Sample") != std::string_view::npos;
+    return fmt::format("Vestrel - {}{}", companyName,
+                       books == BooksAre::Sample && !says ? " (Sample)" : "");
 }
 
 } // namespace shell

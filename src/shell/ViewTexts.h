@@ -29,7 +29,9 @@ struct EmptyView {
 /// Returns why a list shows no rows, and what to do about it.
 std::string EmptyText(const EmptyView& view);
 
-/// Returns the title of the main window.
-std::string WindowTitle(std::string_view companyName);
+enum class BooksAre { Own, Sample };
+
+/// Returns the title of the main window. That of a sample has the word "Sample" in it.
+std::string WindowTitle(std::string_view companyName, BooksAre books);
 
 } // namespace shell

@@ -4,6 +4,7 @@
 #include "core/Globals.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
+#include "shell/ResetSample.h"
 #include "shell/SampleLife.h"
 #include "store/CreateDatabase.h"
 #include "store/References.h"
@@ -15,6 +16,7 @@ namespace {
 
 struct InitOptions {
     bool sample = false;
+    bool reset = false;
     int units = shell::kSampleUnits;
     std::filesystem::path folder;
 };
@@ -42,9 +44,13 @@ void AddInit(CLI::App& line) {
         ->check(CLI::Range(1, 100'000))
         ->needs(sample)
         ->capture_default_str();
+    command->add_flag("--reset", init->reset, "Make the sample in this directory new")
+        ->needs(sample);
     command->add_option("directory", init->folder, "Where to make it")->required();
     command->callback([init] {
-        if (init->sample) {
+        if (init->reset) {
+            shell::ResetSample(init->folder, init->units, platform::Today());
+        } else if (init->sample) {
             shell::MakeSamplePortfolio(init->folder, init->units, platform::Today());
         } else {
             store::CreateDatabase(init->folder);

@@ -23,6 +23,7 @@
 #include "shell/GridReport.h"
 #include "shell/screens/HomePage.h"
 #include "shell/screens/MenuItems.h"
+#include "shell/screens/ResetSampleCommand.h"
 #include "shell/screens/SearchEverything.h"
 #include "shell/screens/ViewPanel.h"
 #include "shell/screens/frmKestrom.h"
@@ -173,6 +174,7 @@ void frmKestrom::ConnectOwnCommands() {
     } else {
         SetAvailable(*ui_->mnuSysInfo, "No system information program is installed.");
     }
+    On(name("mnuResetSample"), [] { ResetOpenSample(core::SiblingProgram("vestrelctl")); });
     On(name("mnuHelpGettingStarted"), [this] { OpenHelp(QStringLiteral("gettingstarted")); });
     On(name("mnuHelpContents"), [this] { OpenHelp(QStringLiteral("contents")); });
     On(name("mnuHelpSearch"), [this] { OpenHelp(QString::fromLatin1(core::forms::kHelpSearch)); });

@@ -6,6 +6,7 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+#include "core/BooksSettings.h"
 #include "core/Configuration.h"
 #include "core/Globals.h"
 #include "core/MessagePump.h"
@@ -189,7 +190,10 @@ void frmKestrom::ShowExtraItems() {
 }
 
 void frmKestrom::ShowTitle() {
-    setWindowTitle(ToScreen(WindowTitle(core::Config().CompanyName)));
+    const bool isSample = core::IsSample();
+    setWindowTitle(ToScreen(
+        WindowTitle(core::Config().CompanyName, isSample ? BooksAre::Sample : BooksAre::Own)));
+    ui_->mnuResetSample->setVisible(isSample && !core::App().Connection.IsReadOnly());
 }
 
 void frmKestrom::ShowStatus() {
