@@ -37,8 +37,8 @@ frmChargeFrom::frmChargeFrom(LeaseTerms terms, Date since, QWidget* parent)
                                  "since %2. From which day is it charged here?")
                                   .arg(begins, ToScreen(since_.ToText())));
     ui_->optSince->setText(
-        tr("Since the books are &kept, from %1 on").arg(ToScreen(since_.ToText())));
-    ui_->optStart->setText(tr("For &all of its time, from %1 on").arg(begins));
+        tr("From the day since which the books are &kept, %1").arg(ToScreen(since_.ToText())));
+    ui_->optStart->setText(tr("From its &first rent, due %1").arg(begins));
     ui_->dpFrom->SetDay(since_);
     for (QRadioButton* const option : {ui_->optSince, ui_->optStart, ui_->optDay})
         connect(option, &QRadioButton::toggled, this, [this](bool on) {
@@ -84,7 +84,7 @@ void frmChargeFrom::ShowAnswer() {
 
 std::optional<Date> AskChargeFrom(const LeaseTerms& terms, QWidget& form) {
     const Date since = ProposedChargeFrom(terms);
-    if (!since.IsSet()) return terms.dateNextDue.Get();
+    if (!since.IsSet()) return Date();
     frmChargeFrom question(terms, since, &form);
     if (question.exec() != QDialog::Accepted) return std::nullopt;
     return question.NextDue();

@@ -35,8 +35,8 @@ class frmChargeFrom : public QDialog {
     platform::Date since_;
 };
 
-/// Asks this question if a lease with these terms raises it. Returns the lease's next due date,
-/// which is its own if there was nothing to ask, or nothing if the user cancelled.
+/// Asks this question if a lease with these terms raises it. Returns the next due date to give the
+/// lease, unset if there was nothing to ask; nothing if the user cancelled.
 std::optional<platform::Date> AskChargeFrom(const LeaseTerms& terms, QWidget& form);
 
 } // namespace leases::screens

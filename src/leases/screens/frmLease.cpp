@@ -221,13 +221,11 @@ bool frmLease::Agreed() {
     platform::Recordset row =
         isNew ? core::NewRow("Lease") : core::Read("SELECT * FROM Lease WHERE IdLease = ?", {Id()});
     if (!isNew && row.Eof()) return true;
-    core::binding::BindToRecord(*this, row);
+    RecordForm::WriteRow(row); // which isn't stored
     if (isNew) SetBeginning(row);
-    const LeaseTerms terms = LeaseTerms::Read(row);
-    const auto nextDue = AskChargeFrom(terms, *this);
-    if (!nextDue) return false;
-    if (*nextDue != terms.dateNextDue.Get()) terms_->dpDateNextDue->SetDay(*nextDue);
-    return true;
+    const auto nextDue = AskChargeFrom(LeaseTerms::Read(row), *this);
+    if (nextDue && nextDue->IsSet()) terms_->dpDateNextDue->SetDay(*nextDue);
+    return nextDue.has_value();
 }
 
 void frmLease::Refresh(std::int16_t kind) {

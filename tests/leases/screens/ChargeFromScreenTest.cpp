@@ -125,6 +125,19 @@ TEST_F(ChargeFromScreen, TakesAnyAnswer) {
     }
 }
 
+TEST_F(ChargeFromScreen, SavesALeaseWhoseStoredDateCantBeRead) {
+    Set("DateNextDue", "soon");
+    Set("DateUpdated", "");
+    const auto form = QPointer<frmLease>(new frmLease);
+    form->Setup(kLease);
+    Heard(); // it couldn't be brought up to date
+    Type(Find<QLineEdit>(*form, "txtRent"), "960");
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(Lease("Rent"), "960");
+    EXPECT_EQ(Lease("DateNextDue"), "soon");
+}
+
 TEST_F(ChargeFromScreen, AsksNothingInBooksThatDontSaySinceWhen) {
     core::SetBooksKeptSince({});
     const auto form = NewLeaseOf("03/10/2022");
