@@ -31,7 +31,7 @@ std::string EmptyText(const EmptyView& view);
 
 enum class BooksAre { Own, Sample };
 
-/// Returns the title of the main window. That of a sample has the word "Sample" in it.
+/// Returns the title of the main window; a sample's title has the word "Sample" in it.
 std::string WindowTitle(std::string_view companyName, BooksAre books);
 
 } // namespace shell

@@ -64,6 +64,7 @@ Alerts::Alerts(QWidget* parent)
     auto* const page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->addWidget(parts_);
+    setFocusProxy(list_);
 }
 
 void Alerts::SetUpAlerts() {

@@ -4,8 +4,8 @@
 
 namespace core::forms {
 
-/// What the desktop shows of a window program: its name, its icon, and the colours that the user's
-/// preferences ask for, which it reads. Made after the application and before its first window; it
+/// The name, icon and colours of a window program. Reads the preferences, which choose the colours.
+/// Made after the application and before its first window; it
 /// lives as long as the program.
 class ProgramLook {
   public:

@@ -77,6 +77,7 @@ HomePage::HomePage(QWidget* parent)
     rows->addLayout(run);
     rows->addWidget(tabs_, 1);
     SetUpTabs();
+    setFocusProxy(alerts_);
     connect(posted_, &QToolButton::clicked, this, [this] {
         if (digest_ != nullptr) (new frmPosted)->Setup(*digest_);
     });

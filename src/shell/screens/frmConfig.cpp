@@ -1,5 +1,6 @@
 #include "shell/screens/frmConfig.h"
 
+#include "core/BooksSettings.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
@@ -61,7 +62,24 @@ void frmConfig::FindRowToWrite(platform::Recordset& row) {
 
 void frmConfig::ShowRow(platform::Recordset& row) {
     core::forms::RecordForm::ShowRow(row);
+    ShowKeptSince();
     OfferExpiry();
+}
+
+/// The day isn't a field of the row.
+void frmConfig::ShowKeptSince() {
+    keptSince_ = core::BooksKeptSince();
+    leases_->dpKeptSince->SetDay(keptSince_);
+}
+
+void frmConfig::WriteRow(platform::Recordset& row) {
+    core::forms::RecordForm::WriteRow(row);
+    const platform::Date day = leases_->dpKeptSince->Day().value_or(keptSince_);
+    if (day != keptSince_) core::SetBooksKeptSince(day);
+}
+
+void frmConfig::FollowOthers(const core::binding::Controls& /*touched*/) {
+    if (leases_->dpKeptSince->Day() == keptSince_) ShowKeptSince();
 }
 
 void frmConfig::ShowCaption() {

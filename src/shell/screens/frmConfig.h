@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "core/forms/RecordForm.h"
+#include "platform/values/Date.h"
 
 namespace Ui {
 class frmConfig;
@@ -28,6 +29,8 @@ class frmConfig : public core::forms::RecordForm {
     void FindRow(platform::Recordset& row) override;
     void FindRowToWrite(platform::Recordset& row) override;
     void ShowRow(platform::Recordset& row) override;
+    void WriteRow(platform::Recordset& row) override;
+    void FollowOthers(const core::binding::Controls& touched) override;
     void ShowCaption() override;
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
@@ -37,12 +40,14 @@ class frmConfig : public core::forms::RecordForm {
     void FillAccounts();
     void OfferExpiry();
     void ShowProgram();
+    void ShowKeptSince();
 
     std::unique_ptr<Ui::frmConfig> ui_;
     std::unique_ptr<Ui::frmConfigGeneral> general_;
     std::unique_ptr<Ui::frmConfigAnalysis> analysis_;
     std::unique_ptr<Ui::frmConfigLeases> leases_;
     std::unique_ptr<Ui::frmConfigOther> other_;
+    platform::Date keptSince_; ///< as it was read
 };
 
 } // namespace shell::screens

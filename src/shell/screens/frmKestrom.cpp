@@ -120,6 +120,7 @@ void frmKestrom::SetSelectedDb(std::int16_t kind) {
     if (selectedDb_ != kind || hasEnded_) return;
     if (isHome) {
         RefreshHome();
+        home_->setFocus(Qt::OtherFocusReason);
     } else {
         view_->ShowKind(kind);
         view_->List().setFocus(Qt::OtherFocusReason);

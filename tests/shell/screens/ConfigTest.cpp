@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QTabWidget>
 
+#include "core/BooksSettings.h"
 #include "core/Configuration.h"
 #include "core/NotifyAll.h"
 #include "core/PickLists.h"
@@ -111,6 +112,29 @@ TEST_F(ConfigTest, NothingChangedSavesNothingElse) {
     EXPECT_EQ(Ask("SELECT NextId FROM Configuration"), before);
     EXPECT_EQ(Ask("SELECT NoteEquityWeight FROM Configuration"), weight);
     EXPECT_EQ(core::Config().CFASaleExpense, 4);
+}
+
+TEST_F(ConfigTest, SaysSinceWhenTheBooksAreKept) {
+    const auto form = Open();
+    auto& since = Box(*form, "dpKeptSince");
+    EXPECT_EQ(since.text(), QString());
+    Type(since, "13/45");
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(Heard().size(), 1U);
+    EXPECT_FALSE(core::BooksKeptSince().IsSet());
+    for (const char* const day : {"11/01/2023", ""}) {
+        Type(since, day);
+        if (!*day) since.clear();
+        ClickAction(*form, "APPLY");
+        EXPECT_EQ(core::BooksKeptSince().ToText(), day);
+        EXPECT_EQ(Ask("SELECT Count(*) FROM BooksSetting"), *day ? "1" : "0");
+    }
+    // A save of something else keeps the day that another program has set.
+    core::SetBooksKeptSince(platform::Date(2022, 1, 1));
+    Type(Box(*form, "txtCompanyName"), "Elm");
+    ClickAction(*form, "APPLY");
+    EXPECT_EQ(core::BooksKeptSince(), platform::Date(2022, 1, 1));
+    EXPECT_EQ(since.text(), QStringLiteral("01/01/2022"));
 }
 
 TEST_F(ConfigTest, BooksWithoutSettingsGetThemByASave) {

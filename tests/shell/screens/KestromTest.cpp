@@ -51,6 +51,7 @@ TEST_F(Kestrom, OpensOnTheHomePageWithoutRecordCommands) {
     EXPECT_EQ(FromScreen(Window().windowTitle()), "Vestrel - Elm & Sons");
     EXPECT_EQ(Window().SelectedDb(), core::kAlert);
     EXPECT_TRUE(support::Find<QWidget>(Window(), "ucAlerts").isVisible());
+    EXPECT_EQ(Window().focusWidget(), &support::Find<QWidget>(Window(), "lvwAlerts"));
     EXPECT_FALSE(Grid().isVisible());
     EXPECT_EQ(Status(), "");
     EXPECT_THAT(Enabled({"mnuAdd", "mnuEdit", "mnuDelete", "mnuPrint", "mnuPrintGrid", "mnuCopy",

@@ -218,7 +218,7 @@ TEST_F(ViewsOnScreen, ColourWhatIsDue) {
         Go(view);
         EXPECT_EQ(support::ColorFaults(Window()), std::vector<std::string>()) << view;
     }
-    // What the check finds: colours that no word goes with.
+    // The check finds colours that no word goes with.
     Go("LEASES");
     Grid().Model().SetColor(2, 0, Qt::red);
     Grid().Model().SetColor(5, 0, Qt::red);
