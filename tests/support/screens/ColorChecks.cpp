@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QBrush>
 #include <QColor>
+#include <QHeaderView>
 #include <algorithm>
 #include <map>
 
@@ -30,6 +31,7 @@ std::string ColorOf(const QModelIndex& cell) {
 
 bool IsTintedWhole(const QAbstractItemModel& model, int row) {
     const std::string first = ColorOf(model.index(row, 0));
+    if (first.empty()) return false;
     for (int column = 1; column < model.columnCount(); ++column)
         if (ColorOf(model.index(row, column)) != first) return false;
     return model.columnCount() > 1;
@@ -60,7 +62,8 @@ void LookAtList(const QAbstractItemView& list, std::vector<std::string>& faults)
 std::vector<std::string> ColorFaults(const QWidget& window) {
     std::vector<std::string> faults;
     for (const auto* const list : window.findChildren<QAbstractItemView*>())
-        if (list->model() && list->isVisible()) LookAtList(*list, faults);
+        if (list->model() && list->isVisible() && !qobject_cast<const QHeaderView*>(list))
+            LookAtList(*list, faults);
     return faults;
 }
 
