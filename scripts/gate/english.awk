@@ -5,7 +5,7 @@
 BEGIN {
     rule("reckon(s|ed|ing)?( it)? (anew|again)|anew", "again, or recalculate")
     rule("the person|a person (who|may|can|edits|types|thinks)", "the user")
-    rule("taken? back|took back|takes (it )?back", "rolled back, or undone")
+    rule("(statement|unit of work|written)[a-z]* .*(taken? back|took back|takes (it )?back)", "rolled back, or undone")
     rule("parted (by|from)", "separated by")
     rule("hangs? (from|on)|hung from", "belongs to, or depends on")
     rule("passed over", "skipped")

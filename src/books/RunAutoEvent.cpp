@@ -43,27 +43,37 @@ Transaction PostingOf(Recordset& event, Date date) {
     return posting;
 }
 
+/// By id and not by row: events with the same id, which an import can bring, move on together.
+void StoreLastRun(std::int32_t idAutoEvent, Date date) {
+    core::Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
+                  {date.ToText(), idAutoEvent});
+    TellLists({core::kAutoEvent});
+}
+
 } // namespace
 
-void RunAutoEvent(std::int32_t idAutoEvent, Date date) {
+std::int32_t RunAutoEvent(std::int32_t idAutoEvent, Date date) {
     if (!date.IsSet()) date = platform::Today();
     platform::UnitOfWork unit(core::App().Connection);
     Recordset event = core::Read("SELECT * FROM AutoEvent WHERE IdAutoEvent = ?", {idAutoEvent});
-    if (event.Eof()) return;
+    if (event.Eof()) return 0;
 
     const bool posts =
         EventAction{CountOf(event["EventAction"])} == EventAction::ProcessTransaction;
-    if (posts) PostTransaction(PostingOf(event, date), Triggers::Skip);
+    const std::int32_t idTransaction =
+        posts ? PostTransaction(PostingOf(event, date), Triggers::Skip) : 0;
     if (FlagOf(event["Alert"])) {
         core::AddAlert(fmt::format("Auto Event Launched: {} [{}]", TextOf(event["Description"]),
                                    date.ToText()),
                        date);
     }
-    // By id and not by row: events with the same id, which an import can bring, move on together.
-    core::Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
-                  {date.ToText(), idAutoEvent});
-    TellLists({core::kAutoEvent});
+    StoreLastRun(idAutoEvent, date);
     unit.Commit();
+    return idTransaction;
+}
+
+void SkipAutoEvent(std::int32_t idAutoEvent, Date date) {
+    StoreLastRun(idAutoEvent, date);
 }
 
 } // namespace books

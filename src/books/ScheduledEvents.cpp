@@ -12,6 +12,7 @@
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
+#include "core/TakenBack.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
@@ -39,6 +40,16 @@ EventSchedule ScheduleOf(Recordset& event) {
             DateOf(event["LastRun"])};
 }
 
+core::RunReason ReasonOf(const EventSchedule& schedule, Date due) {
+    const bool neverRan =
+        !schedule.lastRun.IsSet() && schedule.interval != IntervalType::DayOfMonth;
+    return {.posting = core::Posting::EventTransaction,
+            .due = due,
+            .number = schedule.period,
+            .every = neverRan ? core::Every::NeverRan
+                              : core::Every{static_cast<std::int16_t>(schedule.interval)}};
+}
+
 std::string DescriptionOf(Recordset& event) {
     const std::string description(platform::Trim(TextOf(event["Description"])));
     return description.empty() ? "event " + std::to_string(event["IdAutoEvent"].AsLong())
@@ -62,9 +73,14 @@ std::optional<EventOutcome> RunIfDue(Recordset& event) {
     outcome.id = event["IdAutoEvent"].AsLong();
     outcome.description = DescriptionOf(event);
     outcome.category = TextOf(event["TaxCategory"]);
-    RunAutoEvent(outcome.id, *due);
-    if (EventAction{CountOf(event["EventAction"])} == EventAction::ProcessTransaction) {
-        outcome.posted = {*due, {}, MoneyOf(event["Amount"])};
+    if (core::TakenBack(core::kAutoEvent, outcome.id).Has(core::Posting::EventTransaction, *due)) {
+        SkipAutoEvent(outcome.id, *due);
+        return outcome;
+    }
+    const std::int32_t idTransaction = RunAutoEvent(outcome.id, *due);
+    if (idTransaction != 0) {
+        outcome.posted = {
+            *due, {}, MoneyOf(event["Amount"]), ReasonOf(ScheduleOf(event), *due), idTransaction};
     }
     return outcome;
 }

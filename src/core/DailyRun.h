@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/RunReason.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Date.h"
 
@@ -16,6 +17,9 @@ struct PostedRow {
     platform::Date date;
     std::string_view category;
     platform::Currency amount;
+    RunReason reason{};
+    /// Its id in the rent log, the mortgage log or the transactions.
+    std::int32_t id = 0;
 };
 
 /// Receives the results of the daily run as it goes. They are committed when it hears of them: rows

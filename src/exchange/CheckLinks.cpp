@@ -105,6 +105,9 @@ constexpr auto kLinks = std::to_array<Link>({
     {"RentCredit", "IdRentLog", "IdOrigin", "RentLog", "IdRentLog", kNote},
     {"RentCredit", "IdRentLog", "IdReturn", "Transactions", "IdTransaction", kNote},
     {"LeaseCredit", "IdLease", "IdLease", "Lease", "IdLease", kNote},
+    {"TakenBack", "IdRow", "IdRecord", "Lease", "IdLease", kNote, "child.RecordKind = 2"},
+    {"TakenBack", "IdRow", "IdRecord", "Mortgage", "IdMortgage", kNote, "child.RecordKind = 3"},
+    {"TakenBack", "IdRow", "IdRecord", "AutoEvent", "IdAutoEvent", kNote, "child.RecordKind = 19"},
 });
 
 std::string_view AdviceFor(Severity severity) {
@@ -118,7 +121,7 @@ std::string_view AdviceFor(Severity severity) {
 
 void CheckLinks(platform::Connection& books, std::vector<Finding>& findings) {
     for (const Link& link : kLinks) {
-        // Books of an earlier version have no credits.
+        // Books of an earlier version lack some of the tables.
         if (books.Tables().Find(link.table) == nullptr) continue;
         std::string sql = fmt::format(
             "SELECT child.{1} FROM {0} AS child LEFT JOIN {3} AS parent "

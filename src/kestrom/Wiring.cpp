@@ -46,6 +46,7 @@
 #include "shell/screens/frmAbout.h"
 #include "shell/screens/frmConfig.h"
 #include "shell/screens/frmDBExplorer.h"
+#include "shell/screens/frmPosted.h"
 #include "shell/screens/frmPreferences.h"
 
 namespace kestrom {
@@ -183,6 +184,7 @@ shell::screens::Commands MenuCommands() {
     commands.Add(QStringLiteral("mnuAutoEvents"), Opening<books::screens::frmAutoEventList>());
     commands.Add(QStringLiteral("mnuMileage"), Opening<books::screens::frmMileage>());
     commands.Add(QStringLiteral("mnuLookAhead"), Opening<outlook::screens::frmLookAhead>());
+    commands.Add(QStringLiteral("mnuPosted"), Opening<shell::screens::frmPosted>());
     commands.Add(QStringLiteral("mnuTransCategory"), Opening<books::screens::frmTransCategory>());
     AddDocumentCommands(commands);
     for (const char* const item : {"mnuDocMgmt", "mnuPrintDocMgmt"})

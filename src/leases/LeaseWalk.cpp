@@ -20,7 +20,9 @@ class DueDates {
           oneTimeDays_(terms.oneTimeDays.Get()),
           nextDue_(terms.dateNextDue.Get()),
           discountDate_(DateAdd(Interval::Day, -terms.discountDays.Get(), nextDue_)),
+          oneTimeDue_(nextDue_),
           oneTimeDate_(DateAdd(Interval::Day, oneTimeDays_, nextDue_)),
+          dailyDue_(nextDue_),
           dailyDate_(DateAdd(Interval::Day, terms.dailyDays.Get(), nextDue_)) {}
 
     void AdvanceTo(Date day) {
@@ -32,42 +34,46 @@ class DueDates {
     bool IsDiscountDay(Date day) const { return day == discountDate_; }
     bool IsOneTimeDay(Date day) const { return day == oneTimeDate_; }
     bool IsDailyFeeDay(Date day) const { return day > dailyDate_; }
+    /// The due dates whose days are counted for the fees.
+    Date OneTimeDue() const { return oneTimeDue_; }
+    Date DailyDue() const { return dailyDue_; }
     /// The next one-time fee is for the due date reached now.
-    void MoveOneTimeDay() { oneTimeDate_ = DateAdd(Interval::Day, oneTimeDays_, nextDue_); }
+    void MoveOneTimeDay() {
+        oneTimeDue_ = nextDue_;
+        oneTimeDate_ = DateAdd(Interval::Day, oneTimeDays_, nextDue_);
+    }
 
   private:
     Interval interval_;
     int oneTimeDays_;
     Date nextDue_;
     Date discountDate_;
+    Date oneTimeDue_;
     Date oneTimeDate_;
+    Date dailyDue_;
     Date dailyDate_;
 };
 
-void AddCharge(std::vector<Charge>& charges, ChargeKind kind, Date day, Currency amount, Date due) {
-    if (!amount.IsZero()) charges.push_back({kind, day, amount, due});
-}
-
-void ChargeDay(LeaseWalk& walk, DueDates& dates, Date day, WalkMode mode) {
+void ChargeDay(LeaseWalk& walk, DueDates& dates, Date day, WalkMode mode,
+               const IsTakenBack& taken) {
     const LeaseTerms& terms = walk.terms;
+    const auto add = [&](ChargeKind kind, Currency amount, Date due) {
+        if (amount.IsZero() || (taken && taken(kind, day))) return;
+        walk.charges.push_back({kind, day, amount, due});
+    };
     dates.AdvanceTo(day);
     const Date due = dates.NextDue();
     if (day == due) {
-        AddCharge(walk.charges, ChargeKind::Rent, day, terms.rent.Get(), due);
-        if (terms.subsidised.Get()) {
-            AddCharge(walk.charges, ChargeKind::Subsidy, day, terms.subsidy.Get(), due);
-        }
+        add(ChargeKind::Rent, terms.rent.Get(), due);
+        if (terms.subsidised.Get()) add(ChargeKind::Subsidy, terms.subsidy.Get(), due);
     }
-    if (mode == WalkMode::RollForward && dates.IsDiscountDay(day)) {
-        AddCharge(walk.charges, ChargeKind::Discount, day, -terms.discount.Get(), due);
-    }
+    if (mode == WalkMode::RollForward && dates.IsDiscountDay(day))
+        add(ChargeKind::Discount, -terms.discount.Get(), due);
     if (dates.IsOneTimeDay(day)) {
-        AddCharge(walk.charges, ChargeKind::OneTimeFee, day, terms.oneTimeFee.Get(), due);
+        add(ChargeKind::OneTimeFee, terms.oneTimeFee.Get(), dates.OneTimeDue());
         dates.MoveOneTimeDay();
     }
-    if (dates.IsDailyFeeDay(day)) {
-        AddCharge(walk.charges, ChargeKind::DailyFee, day, terms.dailyFee.Get(), due);
-    }
+    if (dates.IsDailyFeeDay(day)) add(ChargeKind::DailyFee, terms.dailyFee.Get(), dates.DailyDue());
 }
 
 /// Settles what the day has charged, the rent before the subsidy. Returns true if that moved the
@@ -104,7 +110,8 @@ bool MovesNextDue(const Use& settled, std::span<const Charge> charges) {
     return charge.kind == ChargeKind::Rent && settled.amount == charge.amount;
 }
 
-LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, Date today, CreditPurse purse) {
+LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, Date today, CreditPurse purse,
+                    const IsTakenBack& taken) {
     LeaseWalk walk;
     walk.terms = std::move(terms);
     const Date end = mode == WalkMode::RollForward ? walk.terms.dateNextDue.Get() : today;
@@ -118,7 +125,7 @@ LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, Date today, CreditPurse pur
         if (step.statusSet) walk.statuses.push_back(walk.terms.status);
         walk.renewed = walk.renewed || step.renewed;
         const std::size_t before = walk.charges.size();
-        if (IsCharged(walk.terms.status)) ChargeDay(walk, dates, day, mode);
+        if (IsCharged(walk.terms.status)) ChargeDay(walk, dates, day, mode, taken);
         // The fee days start from the oldest unpaid due date, as they do in a run of the next day.
         if (SettleDay(walk, purse, day, before)) dates = DueDates(walk.terms);
     }
@@ -162,6 +169,29 @@ std::string DescriptionOf(const Charge& charge) {
             break;
     }
     return std::string(kCategoryLateFee);
+}
+
+core::Posting PostingOf(ChargeKind kind) {
+    switch (kind) {
+        case ChargeKind::Rent:
+            return core::Posting::Rent;
+        case ChargeKind::Subsidy:
+            return core::Posting::Subsidy;
+        case ChargeKind::Discount:
+            return core::Posting::Discount;
+        case ChargeKind::OneTimeFee:
+            return core::Posting::OneTimeFee;
+        case ChargeKind::DailyFee:
+            break;
+    }
+    return core::Posting::DailyFee;
+}
+
+core::RunReason ReasonOf(const Charge& charge) {
+    const int days = charge.date.Serial() - charge.due.Serial();
+    return {.posting = PostingOf(charge.kind),
+            .due = charge.due,
+            .number = charge.kind == ChargeKind::Discount ? -days : days};
 }
 
 } // namespace leases

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/RunReason.h"
 #include "leases/CreditPurse.h"
 #include "leases/LeaseTerms.h"
 #include "leases/RentCodes.h"
@@ -22,7 +24,7 @@ struct Charge {
     /// The day on which it is posted.
     platform::Date date;
     platform::Currency amount;
-    /// The due date that it is for.
+    /// The due date that it is for; for a fee, the one whose days were counted.
     platform::Date due;
 };
 
@@ -30,6 +32,8 @@ RentClass ClassOf(ChargeKind kind);
 RentFlags FlagsOf(ChargeKind kind);
 std::string_view CategoryOf(ChargeKind kind);
 std::string DescriptionOf(const Charge& charge);
+core::Posting PostingOf(ChargeKind kind);
+core::RunReason ReasonOf(const Charge& charge);
 
 /// What a run does besides catching the lease up to today.
 enum class WalkMode {
@@ -56,11 +60,15 @@ struct LeaseWalk {
 /// due date.
 bool MovesNextDue(const Use& settled, std::span<const Charge> charges);
 
+/// Returns whether the user has taken back the charge of this kind and day.
+using IsTakenBack = std::function<bool(ChargeKind kind, platform::Date day)>;
+
 /// Walks a lease day by day from the last day charged up to today (or to its next due date).
-/// Charges of zero are left out. Charges are settled from `purse` on the day they are posted, so
-/// that a lease walked after a closed month settles what it would have settled day by day. A
-/// FieldError for a value that the walk needs and that can't be
-/// read.
-LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, platform::Date today, CreditPurse purse = {});
+/// Charges of zero, and those that `taken` names, are left out; nothing else changes by that.
+/// Charges are settled from `purse` on the day they are posted, so that a lease walked after a
+/// closed month settles what it would have settled day by day. Throws FieldError for a value that
+/// the walk needs and that can't be read.
+LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, platform::Date today, CreditPurse purse = {},
+                    const IsTakenBack& taken = {});
 
 } // namespace leases

@@ -75,12 +75,14 @@ std::int32_t WriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog) {
     return id;
 }
 
-void WriteCharges(std::int32_t idLease, std::span<const Charge> charges) {
-    if (charges.empty()) return;
-    std::int32_t id = core::NextIds(static_cast<std::int32_t>(charges.size()));
+std::int32_t WriteCharges(std::int32_t idLease, std::span<const Charge> charges) {
+    if (charges.empty()) return 0;
+    const std::int32_t first = core::NextIds(static_cast<std::int32_t>(charges.size()));
+    std::int32_t id = first;
     for (const Charge& charge : charges)
         Insert(id++, EntryOf(idLease, charge));
     Announce();
+    return first;
 }
 
 void WriteOptionCredit(std::int32_t idLease, platform::Date day, platform::Currency amount) {

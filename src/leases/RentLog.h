@@ -38,8 +38,9 @@ std::int32_t WriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog = 0)
 /// Writes all fields of the row `idRentLog`, whatever the amount; returns false if it was deleted.
 bool RewriteRentLog(const RentLogEntry& entry, std::int32_t idRentLog);
 
-/// Adds the charges of a walk to the ledger of a lease, in order.
-void WriteCharges(std::int32_t idLease, std::span<const Charge> charges);
+/// Adds the charges of a walk to the ledger of a lease, in order, under consecutive ids; returns
+/// the first, 0 if there are no charges.
+std::int32_t WriteCharges(std::int32_t idLease, std::span<const Charge> charges);
 
 /// Writes what a period's rent, once paid, earns towards the purchase of the unit. An amount of
 /// zero writes nothing.

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/ChargeLedger.h"
@@ -28,7 +29,9 @@ struct CreditRow {
 class Writer {
   public:
     Writer(std::int32_t idLease, const LeaseWalk& walk, std::span<const OpenCredit> credits)
-        : idLease_(idLease), walk_(walk), chargeIds_(walk.charges.size()) {
+        : idLease_(idLease),
+          walk_(walk),
+          written_{std::vector<std::int32_t>(walk.charges.size()), {}} {
         for (const OpenCredit& credit : credits)
             credits_.push_back({credit.idRentLog, credit.amount});
         for (const CreditPayment& payment : walk.payments) {
@@ -37,7 +40,7 @@ class Writer {
         }
     }
 
-    void Write() {
+    WalkIds Write() {
         auto payment = walk_.payments.begin();
         for (std::size_t i = 0; i < walk_.charges.size(); ++i) {
             WriteCharge(i);
@@ -48,6 +51,7 @@ class Writer {
                  ++payment)
                 WritePayment(*payment);
         }
+        return std::move(written_);
     }
 
   private:
@@ -57,13 +61,13 @@ class Writer {
         RentLogEntry entry = EntryOf(idLease_, charge);
         const auto settled = settled_.find(place);
         if (settled == settled_.end() || settled->second == charge.amount) {
-            chargeIds_[place] = WriteRentLog(entry);
+            written_.charges[place] = WriteRentLog(entry);
             return;
         }
         RentLogEntry paid = entry;
         paid.amount = settled->second;
         paid.flags = RentFlags::Ordinary;
-        chargeIds_[place] = WriteRentLog(paid);
+        written_.charges[place] = WriteRentLog(paid);
         entry.amount -= settled->second;
         entry.description = "Deferred " + entry.description;
         WriteRentLog(entry);
@@ -77,8 +81,9 @@ class Writer {
         // No money comes in, so no event that waits for a payment may run again.
         const std::int32_t idTransaction =
             books::PostTransaction(TransactionOf(posted), books::Triggers::Skip);
+        written_.payments.push_back(idTransaction);
         for (const Use& charge : payment.charges)
-            Settle(chargeIds_[charge.place], idTransaction);
+            Settle(written_.charges[charge.place], idTransaction);
         for (const Use& credit : payment.credits)
             TakeCredit(credits_[credit.place], credit.amount, idTransaction);
         for (const Use& charge : payment.charges) {
@@ -120,16 +125,16 @@ class Writer {
 
     std::int32_t idLease_;
     const LeaseWalk& walk_;
-    std::vector<std::int32_t> chargeIds_;
+    WalkIds written_;
     std::vector<CreditRow> credits_;
     std::map<std::size_t, Currency> settled_;
 };
 
 } // namespace
 
-void WriteSettledWalk(std::int32_t idLease, const LeaseWalk& walk,
-                      std::span<const OpenCredit> credits) {
-    Writer(idLease, walk, credits).Write();
+WalkIds WriteSettledWalk(std::int32_t idLease, const LeaseWalk& walk,
+                         std::span<const OpenCredit> credits) {
+    return Writer(idLease, walk, credits).Write();
 }
 
 } // namespace leases

@@ -1,6 +1,7 @@
 #include "leases/mLease.h"
 
 #include <algorithm>
+#include <numeric>
 #include <optional>
 
 #include "core/Codes.h"
@@ -9,6 +10,7 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
+#include "core/TakenBack.h"
 #include "leases/Credits.h"
 #include "leases/LeaseStatus.h"
 #include "leases/RentLog.h"
@@ -46,13 +48,29 @@ PostedRows UpdateStored(std::int32_t idLease, WalkMode mode) {
     return row.Eof() ? PostedRows() : UpdateLease(row, mode);
 }
 
+WalkIds Write(std::int32_t idLease, const LeaseWalk& walk, const std::vector<OpenCredit>& credits) {
+    if (!walk.payments.empty()) return WriteSettledWalk(idLease, walk, credits);
+    WalkIds ids{std::vector<std::int32_t>(walk.charges.size()), {}};
+    std::iota(ids.charges.begin(), ids.charges.end(), WriteCharges(idLease, walk.charges));
+    return ids;
+}
+
 /// Returns charges and payments from credit, day by day.
-PostedRows RowsOf(const LeaseWalk& walk) {
+PostedRows RowsOf(const LeaseWalk& walk, const WalkIds& ids) {
     PostedRows rows;
-    for (const Charge& charge : walk.charges)
-        rows.push_back({charge.date, CategoryOf(charge.kind), charge.amount});
-    for (const CreditPayment& payment : walk.payments)
-        rows.push_back({payment.day, kPaidFromCredit, payment.Total()});
+    for (std::size_t i = 0; i < walk.charges.size(); ++i) {
+        const Charge& charge = walk.charges[i];
+        rows.push_back({charge.date, CategoryOf(charge.kind), charge.amount, ReasonOf(charge),
+                        ids.charges[i]});
+    }
+    for (std::size_t i = 0; i < walk.payments.size(); ++i) {
+        const CreditPayment& payment = walk.payments[i];
+        rows.push_back({payment.day,
+                        kPaidFromCredit,
+                        payment.Total(),
+                        {.posting = core::Posting::FromCredit, .due = payment.day},
+                        ids.payments[i]});
+    }
     std::ranges::stable_sort(rows, {}, &core::PostedRow::date);
     return rows;
 }
@@ -63,13 +81,17 @@ PostedRows UpdateLease(Recordset& row, WalkMode mode, CreditUse use) {
     const std::int32_t idLease = row["IdLease"].AsLong();
     std::optional<UnitOfWork> unit;
     std::vector<OpenCredit> credits;
+    // From here on no other program takes a row back, which would be posted again here.
+    if (mode != WalkMode::CatchUp) unit.emplace(core::App().Connection);
     if (mode == WalkMode::CatchUp && use == CreditUse::AsLeaseSays && SettlesCharges(idLease)) {
         // Read inside the unit of work, so that no other program spends them too.
         unit.emplace(core::App().Connection);
         credits = ReadCredits(idLease);
     }
+    core::TakenBack taken(core::kLease, idLease);
     const LeaseWalk walk =
-        WalkLease(LeaseTerms::Read(row), mode, platform::Today(), CreditPurse(credits));
+        WalkLease(LeaseTerms::Read(row), mode, platform::Today(), CreditPurse(credits),
+                  [&](ChargeKind kind, Date day) { return taken.Has(PostingOf(kind), day); });
 
     // On most days the lease's own row is all that is written, which one statement does whole.
     if (!unit && (!walk.charges.empty() || !walk.statuses.empty()))
@@ -77,12 +99,8 @@ PostedRows UpdateLease(Recordset& row, WalkMode mode, CreditUse use) {
     for (const std::string& word : walk.statuses)
         SetUnitAndTenant(row, word);
     if (!walk.statuses.empty()) row["Status"].Set(walk.terms.status);
-    if (walk.payments.empty()) {
-        WriteCharges(idLease, walk.charges);
-    } else {
-        WriteSettledWalk(idLease, walk, credits);
-        row["DateNextDue"].Set(walk.terms.dateNextDue.Get().ToText());
-    }
+    const WalkIds ids = Write(idLease, walk, credits);
+    if (!walk.payments.empty()) row["DateNextDue"].Set(walk.terms.dateNextDue.Get().ToText());
     row["DateUpdated"].Set(walk.terms.dateUpdated.Get().ToText());
     if (walk.renewed) row["DateRenewed"].Set(walk.terms.dateRenewed.Get().ToText());
     SetLeaseBalances(row);
@@ -90,7 +108,7 @@ PostedRows UpdateLease(Recordset& row, WalkMode mode, CreditUse use) {
     if (row.Update()) core::NotifyAll(core::kLease, core::kRecordsChanged, 0);
     if (!walk.payments.empty()) core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
     if (unit) unit->Commit();
-    return RowsOf(walk);
+    return RowsOf(walk, ids);
 }
 
 PostedRows UpdateLeaseById(std::int32_t idLease, WalkMode mode) {

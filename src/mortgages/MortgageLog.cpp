@@ -42,9 +42,10 @@ std::int32_t WriteMortgageLog(const MortgageLogEntry& entry, std::int32_t idMort
     return id;
 }
 
-void WriteCharges(std::int32_t idMortgage, std::span<const Charge> charges) {
-    if (charges.empty()) return;
-    std::int32_t id = core::NextIds(static_cast<std::int32_t>(charges.size()));
+std::int32_t WriteCharges(std::int32_t idMortgage, std::span<const Charge> charges) {
+    if (charges.empty()) return 0;
+    const std::int32_t first = core::NextIds(static_cast<std::int32_t>(charges.size()));
+    std::int32_t id = first;
     for (const Charge& charge : charges) {
         const ChargeWords words = WordsOf(charge.flags);
         core::Execute(kInsertEntry,
@@ -52,6 +53,7 @@ void WriteCharges(std::int32_t idMortgage, std::span<const Charge> charges) {
                        words.category, charge.principal, charge.payDown, charge.interest,
                        charge.other, charge.Total(), words.description, Code(charge.flags)});
     }
+    return first;
 }
 
 } // namespace mortgages

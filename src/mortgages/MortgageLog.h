@@ -35,7 +35,8 @@ struct MortgageLogEntry {
 /// row's id. Throws on failure.
 std::int32_t WriteMortgageLog(const MortgageLogEntry& entry, std::int32_t idMortgageLog = 0);
 
-/// Adds the charges of a walk to the log of a mortgage, in order. Throws on failure.
-void WriteCharges(std::int32_t idMortgage, std::span<const Charge> charges);
+/// Adds the charges of a walk to the log of a mortgage, in order, under consecutive ids; returns
+/// the first, 0 if there are no charges. Throws on failure.
+std::int32_t WriteCharges(std::int32_t idMortgage, std::span<const Charge> charges);
 
 } // namespace mortgages

@@ -27,29 +27,36 @@ class DueDays {
     DueDays(Date nextDue, int graceDays)
         : due_(nextDue.IsSet() ? nextDue : Date::FromSerial(0)),
           late_(nextDue.IsSet() ? DateAdd(Interval::Day, graceDays, due_) : due_),
+          lateDue_(due_),
           graceDays_(std::max(graceDays, 0)) {}
 
     void AdvanceTo(Date day) {
         while (day.Serial() - due_.Serial() > 1)
             due_ = DateAdd(Interval::Month, 1, due_);
-        if (day.Serial() - late_.Serial() > 1) late_ = DateAdd(Interval::Day, graceDays_, due_);
+        if (day.Serial() - late_.Serial() <= 1) return;
+        lateDue_ = due_;
+        late_ = DateAdd(Interval::Day, graceDays_, due_);
     }
 
     bool IsDue(Date day) const { return day == due_; }
     bool IsLate(Date day) const { return day == late_; }
+    /// The due date whose days of grace are counted.
+    Date LateDue() const { return lateDue_; }
 
   private:
     Date due_;
     Date late_;
+    Date lateDue_;
     int graceDays_;
 };
 
-Charge OtherCharge(LogFlags flags, Date day, std::int16_t period, Currency amount) {
+Charge OtherCharge(LogFlags flags, Date day, std::int16_t period, Currency amount, Date due) {
     Charge charge;
     charge.flags = flags;
     charge.date = day;
     charge.period = period;
     charge.other = amount;
+    charge.due = due;
     return charge;
 }
 
@@ -67,13 +74,16 @@ void ChargeDay(std::vector<Charge>& charges, const clsMortgage& mortgage, const 
                            .principal = mortgage.GetPPMT(period),
                            .payDown = Currency::FromDouble(mortgage.GetXPRI(period)),
                            .interest = mortgage.GetIPMT(period),
-                           .other = {}});
+                           .other = {},
+                           .due = day});
         if (!terms.escrow.IsZero())
-            charges.push_back(OtherCharge(LogFlags::Escrow, day, number, terms.escrow));
+            charges.push_back(OtherCharge(LogFlags::Escrow, day, number, terms.escrow, day));
         if (!terms.pmi.IsZero())
-            charges.push_back(OtherCharge(LogFlags::Pmi, day, number, terms.pmi));
+            charges.push_back(OtherCharge(LogFlags::Pmi, day, number, terms.pmi, day));
     }
-    if (late) charges.push_back(OtherCharge(LogFlags::LateFee, day, number, terms.lateFee));
+    if (late)
+        charges.push_back(
+            OtherCharge(LogFlags::LateFee, day, number, terms.lateFee, days.LateDue()));
 }
 
 } // namespace
@@ -93,6 +103,29 @@ ChargeWords WordsOf(LogFlags flags) {
             break;
     }
     return {kCategoryPayment, kCategoryPayment};
+}
+
+core::Posting PostingOf(LogFlags flags) {
+    switch (flags) {
+        case LogFlags::Escrow:
+            return core::Posting::Escrow;
+        case LogFlags::Pmi:
+            return core::Posting::MortgageInsurance;
+        case LogFlags::LateFee:
+            return core::Posting::LoanLateFee;
+        case LogFlags::BasePayment:
+        case LogFlags::Ordinary:
+        case LogFlags::Payment:
+            break;
+    }
+    return core::Posting::LoanPayment;
+}
+
+core::RunReason ReasonOf(const Charge& charge) {
+    const bool isLate = charge.flags == LogFlags::LateFee;
+    return {.posting = PostingOf(charge.flags),
+            .due = charge.due,
+            .number = isLate ? charge.date.Serial() - charge.due.Serial() : charge.period};
 }
 
 RunTerms RunTerms::Read(platform::Recordset& row) {

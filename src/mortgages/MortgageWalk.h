@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/RunReason.h"
 #include "mortgages/MortgageCodes.h"
 #include "mortgages/clsMortgage.h"
 #include "platform/database/Recordset.h"
@@ -21,6 +22,8 @@ struct Charge {
     platform::Currency payDown;
     platform::Currency interest;
     platform::Currency other;
+    /// The due date that it is for; for a late fee, the one whose days of grace are over.
+    platform::Date due;
 
     platform::Currency Total() const { return principal + payDown + interest + other; }
 };
@@ -31,6 +34,9 @@ struct ChargeWords {
 };
 /// Returns the category and description of a charge posted by the run.
 ChargeWords WordsOf(LogFlags flags);
+/// Returns the kind of row that the run posts with these flags.
+core::Posting PostingOf(LogFlags flags);
+core::RunReason ReasonOf(const Charge& charge);
 
 /// What a run does besides catching the mortgage up to today.
 enum class RunMode {

@@ -5,7 +5,9 @@
 
 #include "core/Codes.h"
 #include "core/Globals.h"
+#include "core/RecordKinds.h"
 #include "core/Rows.h"
+#include "core/TakenBack.h"
 #include "mortgages/ExtraPrincipal.h"
 #include "mortgages/MortgageLog.h"
 #include "platform/database/FieldReadings.h"
@@ -34,9 +36,26 @@ bool IsPaidOff(Recordset& row) {
     return row["NextDue"].IsBlank() && !HasBalance(row);
 }
 
+void LeaveOutTakenBack(std::int32_t idMortgage, std::vector<Charge>& charges) {
+    core::TakenBack taken(core::kMortgage, idMortgage);
+    std::erase_if(charges, [&](const Charge& charge) {
+        return taken.Has(PostingOf(charge.flags), charge.date);
+    });
+}
+
+std::vector<core::PostedRow> RowsOf(const std::vector<Charge>& charges, std::int32_t firstId) {
+    std::vector<core::PostedRow> rows;
+    for (const Charge& charge : charges) {
+        rows.push_back({charge.date, WordsOf(charge.flags).category, charge.Total(),
+                        ReasonOf(charge), firstId++});
+    }
+    return rows;
+}
+
 } // namespace
 
-std::vector<Charge> UpdateMortgage(Recordset& row, RunMode mode) {
+std::vector<core::PostedRow> UpdateMortgage(Recordset& row, RunMode mode) {
+    const std::int32_t idMortgage = row["IdMortgage"].AsLong();
     const RunTerms terms = RunTerms::Read(row);
     const Date from = terms.Start(mode);
     const Date to = terms.Target(mode, platform::Today());
@@ -46,17 +65,18 @@ std::vector<Charge> UpdateMortgage(Recordset& row, RunMode mode) {
         mortgage.LoadRS(row);
         mortgage.ReCalc();
         charges = WalkMortgage(mortgage, terms, from, to);
-        LeaveOutBooked(row["IdMortgage"].AsLong(), charges);
+        LeaveOutTakenBack(idMortgage, charges);
+        LeaveOutBooked(idMortgage, charges);
     }
 
     std::optional<UnitOfWork> unit;
     if (!charges.empty()) unit.emplace(core::App().Connection);
-    WriteCharges(row["IdMortgage"].AsLong(), charges);
+    const std::int32_t first = WriteCharges(idMortgage, charges);
     SetWord(row, "DateUpdated", std::max(from, to).ToText());
     SetMortgageStatus(row);
     row.Update();
     if (unit) unit->Commit();
-    return charges;
+    return RowsOf(charges, first);
 }
 
 void UpdateMortgageById(std::int32_t idMortgage, RunMode mode) {

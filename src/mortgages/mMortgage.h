@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "core/DailyRun.h"
 #include "mortgages/MortgageWalk.h"
 #include "platform/database/Recordset.h"
 
@@ -13,8 +14,8 @@ namespace mortgages {
 
 /// Brings a mortgage up to date: walks it by the calendar, posts its charges, sets its statuses and
 /// writes the row. The next due date stays, since only payments move it. One unit of work. Returns
-/// the charges posted.
-std::vector<Charge> UpdateMortgage(platform::Recordset& row, RunMode mode);
+/// what was posted.
+std::vector<core::PostedRow> UpdateMortgage(platform::Recordset& row, RunMode mode);
 
 /// The same for the mortgage of this id; does nothing if it doesn't exist.
 void UpdateMortgageById(std::int32_t idMortgage, RunMode mode);

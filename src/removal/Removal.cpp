@@ -11,6 +11,7 @@
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
+#include "core/TakenBack.h"
 #include "removal/RemovalTable.h"
 #include "removal/RentCredits.h"
 
@@ -34,6 +35,8 @@ Removal::Removal() : unit_(core::App().Connection) {}
 
 void Removal::Remove(std::int16_t kind, std::int32_t id, Charges charges) {
     if (id == 0) return;
+    if (kind == core::kLease || kind == core::kMortgage || kind == core::kAutoEvent)
+        core::ForgetTakenBackOf(kind, id);
     switch (kind) {
         case core::kLease:
             RemoveLease(id);

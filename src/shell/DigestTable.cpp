@@ -1,26 +1,46 @@
 #include "shell/DigestTable.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "platform/values/Text.h"
+#include "shell/TakeBack.h"
 
 namespace shell {
 
 using platform::FieldType;
+using platform::Value;
 
 namespace {
 
-enum Column : std::size_t { Number, Day, Posted, For, Amount };
+enum Column : std::size_t { Number, Day, What, Reason, Amount, Record, Taken };
 
 core::TableColumn MakeColumn(std::string_view caption, FieldType type) {
     return {std::string(caption), type, core::FormatOf(type, caption)};
 }
 
+Value FaultValue(const DigestFault& fault, std::size_t column) {
+    switch (column) {
+        case What:
+            return "Not updated";
+        case Reason:
+            return fault.reason;
+        case Record:
+            return fault.description;
+        default:
+            return {};
+    }
+}
+
 } // namespace
 
-DigestTable::DigestTable(const RunDigest& digest)
+DigestTable::DigestTable(const RunDigest& digest, std::vector<core::TakenRow> takenBack)
     : digest_(digest),
-      columns_({MakeColumn("No.", FieldType::Long), MakeColumn("Date", FieldType::Date),
-                MakeColumn("Posted", FieldType::Text), MakeColumn("For", FieldType::Text),
-                MakeColumn("Amount", FieldType::Currency)}) {}
+      takenBack_(std::move(takenBack)),
+      columns_({MakeColumn("No.", FieldType::Long), MakeColumn("Day", FieldType::Date),
+                MakeColumn("What", FieldType::Text), MakeColumn("Reason", FieldType::Text),
+                MakeColumn("Amount", FieldType::Currency), MakeColumn("Record", FieldType::Text),
+                MakeColumn("Taken Back", FieldType::Date)}) {}
 
 std::int64_t DigestTable::RowCount() const {
     return std::ssize(digest_.Faults()) + std::ssize(digest_.Rows());
@@ -32,25 +52,60 @@ const DigestRow* DigestTable::PostedRow(std::int32_t number) const {
     return &digest_.Rows()[static_cast<std::size_t>(posted)];
 }
 
-platform::Value DigestTable::ValueAt(std::int64_t row, std::size_t column) const {
-    const auto number = static_cast<std::int32_t>(row + 1);
-    const DigestRow* const posted = PostedRow(number);
+const DigestFault* DigestTable::FaultOf(std::int32_t number) const {
+    if (number < 1 || number > std::ssize(digest_.Faults())) return nullptr;
+    return &digest_.Faults()[static_cast<std::size_t>(number - 1)];
+}
+
+std::string DigestTable::ReasonOf(std::int32_t number) const {
+    if (const DigestRow* const row = PostedRow(number)) return core::ReasonText(row->reason);
+    const DigestFault* const fault = FaultOf(number);
+    return fault != nullptr ? fault->reason : std::string();
+}
+
+std::optional<RecordPlace> DigestTable::RecordOf(std::int32_t number) const {
+    RecordPlace place;
+    if (const DigestRow* const row = PostedRow(number)) {
+        place = {row->recordKind, row->recordId};
+    } else if (const DigestFault* const fault = FaultOf(number)) {
+        place = {fault->recordKind, fault->recordId};
+    }
+    // A whole step of the run that fails belongs to no record.
+    if (place.id == 0) return std::nullopt;
+    return place;
+}
+
+platform::Date DigestTable::TakenOn(const DigestRow& row) const {
+    const core::TakenRow wanted = TakenRowOf(row);
+    const auto found = std::ranges::find_if(
+        takenBack_, [&](const core::TakenRow& taken) { return taken.IsSameRow(wanted); });
+    return found == takenBack_.end() ? platform::Date() : found->takenOn;
+}
+
+Value DigestTable::PostedValue(const DigestRow& row, std::size_t column) const {
     switch (column) {
-        case Number:
-            return number;
         case Day:
-            return posted ? platform::Value(posted->date) : platform::Value();
-        case Posted:
-            return posted ? std::string(platform::Trim(posted->category))
-                          : std::string("Not updated");
-        case For:
-            return posted ? digest_.DescriptionOf(*posted)
-                          : digest_.Faults()[static_cast<std::size_t>(row)];
+            return row.date;
+        case What:
+            return std::string(platform::Trim(row.category));
+        case Reason:
+            return core::ReasonText(row.reason);
         case Amount:
-            return posted ? platform::Value(posted->amount) : platform::Value();
+            return row.amount;
+        case Record:
+            return digest_.DescriptionOf(row);
+        case Taken:
+            return TakenOn(row);
         default:
             return {};
     }
+}
+
+Value DigestTable::ValueAt(std::int64_t row, std::size_t column) const {
+    const auto number = static_cast<std::int32_t>(row + 1);
+    if (column == Number) return number;
+    if (const DigestFault* const fault = FaultOf(number)) return FaultValue(*fault, column);
+    return PostedValue(*PostedRow(number), column);
 }
 
 } // namespace shell

@@ -42,21 +42,32 @@ void RunDigest::Posted(int recordKind, std::int32_t id, std::string_view descrip
                        const std::vector<core::PostedRow>& rows) {
     descriptions_.emplace_back(description);
     for (const core::PostedRow& row : rows) {
-        rows_.push_back({static_cast<std::int16_t>(recordKind), id, row.date,
-                         std::string(row.category), row.amount, descriptions_.size() - 1});
+        rows_.push_back({.recordKind = static_cast<std::int16_t>(recordKind),
+                         .recordId = id,
+                         .date = row.date,
+                         .category = std::string(row.category),
+                         .amount = row.amount,
+                         .reason = row.reason,
+                         .rowId = row.id,
+                         .description = descriptions_.size() - 1});
     }
 }
 
-void RunDigest::Failed(int, std::int32_t, std::string_view description, std::string_view reason) {
-    faults_.push_back(fmt::format("{}: {}", description, reason));
+void RunDigest::Failed(int recordKind, std::int32_t id, std::string_view description,
+                       std::string_view reason) {
+    faults_.push_back(
+        {static_cast<std::int16_t>(recordKind), id, std::string(description), std::string(reason)});
+}
+
+platform::Date RunDigest::FirstDay() const {
+    const auto first = std::ranges::min_element(rows_, {}, &DigestRow::date);
+    return first == rows_.end() ? platform::Date() : first->date;
 }
 
 std::string RunDigest::Line() const {
     if (rows_.empty()) return {};
     std::vector<std::pair<std::string_view, std::size_t>> counts;
-    platform::Date first = rows_.front().date;
     for (const DigestRow& row : rows_) {
-        first = std::min(first, row.date);
         const auto count = std::find_if(counts.begin(), counts.end(), [&](const auto& entry) {
             return entry.first == row.category;
         });
@@ -66,7 +77,7 @@ std::string RunDigest::Line() const {
             ++count->second;
         }
     }
-    std::string line = fmt::format("Since {}: ", first.ToText());
+    std::string line = fmt::format("Since {}: ", FirstDay().ToText());
     for (std::size_t i = 0; i < counts.size(); ++i) {
         if (i > 0) line += ", ";
         line += Counted(counts[i].first, counts[i].second);

@@ -15,8 +15,19 @@ struct DigestRow {
     platform::Date date;
     std::string category;
     platform::Currency amount;
+    core::RunReason reason;
+    /// The row's own id in its ledger.
+    std::int32_t rowId = 0;
     /// Index into the digest's descriptions.
     std::size_t description = 0;
+};
+
+/// A record that a run skipped, and why.
+struct DigestFault {
+    std::int16_t recordKind = 0;
+    std::int32_t recordId = 0;
+    std::string description;
+    std::string reason;
 };
 
 /// The rows that a daily run has posted and the records that it skipped, to be shown to the user.
@@ -31,19 +42,25 @@ class RunDigest : public core::RunListener {
     const std::string& DescriptionOf(const DigestRow& row) const {
         return descriptions_[row.description];
     }
-    /// Returns a line for each record that was skipped, with the reason.
-    const std::vector<std::string>& Faults() const { return faults_; }
+    const std::vector<DigestFault>& Faults() const { return faults_; }
 
     /// Returns "Since 10/03/2026: 12 rent charges, 3 late fees" with the earliest date of a posted
     /// row; empty if nothing was posted.
     std::string Line() const;
     /// Returns "2 records could not be brought up to date"; empty if there were none.
     std::string FaultLine() const;
+    /// Returns the earliest date of a posted row; unset if nothing was posted.
+    platform::Date FirstDay() const;
+
+    /// Why the history of runs doesn't have this one; empty if it has.
+    const std::string& HistoryFault() const { return historyFault_; }
+    void SetHistoryFault(std::string reason) { historyFault_ = std::move(reason); }
 
   private:
     std::vector<DigestRow> rows_;
     std::vector<std::string> descriptions_;
-    std::vector<std::string> faults_;
+    std::vector<DigestFault> faults_;
+    std::string historyFault_;
 };
 
 } // namespace shell

@@ -1,5 +1,9 @@
 #include "shell/SampleLife.h"
 
+#include <algorithm>
+#include <span>
+#include <utility>
+
 #include "core/BooksSettings.h"
 #include "core/Configuration.h"
 #include "core/DailyRun.h"
@@ -9,10 +13,12 @@
 #include "documents/ShippedDocs.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
+#include "shell/RunHistory.h"
 #include "shell/SampleBorrower.h"
 #include "shell/SampleCredits.h"
 #include "shell/SampleExpenses.h"
 #include "shell/SampleTenant.h"
+#include "shell/TakeBack.h"
 #include "store/CreateDatabase.h"
 
 namespace shell {
@@ -44,7 +50,44 @@ void MakeSettings(Connection& connection, Date today) {
     core::MarkAsSample(core::App().DbPath);
 }
 
-void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress& progress) {
+/// The history of the sample's runs. Its file is deleted again unless the sample is kept.
+class SampleHistory {
+  public:
+    /// A history that books of the past have left is replaced.
+    explicit SampleHistory(std::filesystem::path file) : file_(std::move(file)) { Remove(); }
+    ~SampleHistory() {
+        if (!kept_) Remove();
+    }
+    SampleHistory(const SampleHistory&) = delete;
+    SampleHistory& operator=(const SampleHistory&) = delete;
+
+    const std::filesystem::path& File() const { return file_; }
+    void Keep() { kept_ = true; }
+
+  private:
+    void Remove() const {
+        std::error_code ignored;
+        std::filesystem::remove(file_, ignored);
+    }
+
+    std::filesystem::path file_;
+    bool kept_ = false;
+};
+
+/// One run of the program, after which the landlord waives the last of its late fees.
+void RunOnce(const SampleHistory& history) {
+    RunDigest digest;
+    RunRecorder recorder(history.File(), digest);
+    core::UpdateRecords(recorder);
+    const auto& rows = digest.Rows();
+    const auto fee = std::find_if(rows.rbegin(), rows.rend(), [](const DigestRow& row) {
+        return row.reason.posting == core::Posting::OneTimeFee;
+    });
+    if (fee != rows.rend()) TakeBack(std::span(&*fee, 1));
+}
+
+void LiveThrough(const store::SampleCast& cast, Date today, const SampleHistory& history,
+                 const SampleProgress& progress) {
     std::vector<SampleTenant> tenants(cast.leases.begin(), cast.leases.end());
     std::vector<SampleBorrower> borrowers(cast.loans.begin(), cast.loans.end());
     const SampleExpenses expenses;
@@ -64,7 +107,7 @@ void LiveThrough(const store::SampleCast& cast, Date today, const SampleProgress
     }
     // The automated events are switched on last, so that they don't run during the simulated years.
     core::Execute("UPDATE AutoEvent SET Enabled = True");
-    core::UpdateRecords();
+    RunOnce(history);
     platform::UnitOfWork unit(core::App().Connection);
     for (const SampleBorrower& borrower : borrowers)
         borrower.NoteEquity();
@@ -79,18 +122,20 @@ void MakeSamplePortfolio(const std::filesystem::path& folder, int units, Date to
     core::App().DbPath = platform::AddBackslash(folder.string());
     core::App().DbFile = core::App().DbPath + std::string(store::kDatabaseFile);
     platform::SetToday(today);
+    SampleHistory history(HistoryFileOf(core::App().DbFile));
     {
         const OpenSession session(database.Draft());
         MakeSettings(OpenSession::Session(), today);
         const store::SampleCast cast =
             store::WriteSampleRecords(OpenSession::Session(), {units, today, core::NextId});
         core::LoadConfiguration();
-        LiveThrough(cast, today, progress);
+        LiveThrough(cast, today, history, progress);
         // Last, so that the other rows have the same ids with and without templates.
         documents::InstallShippedDocs();
         documents::AddShippedDocs(documents::ShippedDocsFolder());
     }
     database.Publish();
+    history.Keep();
 }
 
 } // namespace shell

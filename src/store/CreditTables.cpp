@@ -19,10 +19,24 @@ TableDefinition LeaseCreditTable() {
     return MakeTable("LeaseCredit", {{Long, "IdLease"}, {Boolean, "SettleCharges"}}, {"IdLease"});
 }
 
+// A row of the daily run that the user took back: the run doesn't post it again. `Posting` is its
+// kind, `IdRow` was its id in the ledger, and `Content` holds its fields.
+TableDefinition TakenBackTable() {
+    return MakeTable("TakenBack",
+                     {{Integer, "RecordKind"},
+                      {Long, "IdRecord"},
+                      {Integer, "Posting"},
+                      {DateText, "DatePosted"},
+                      {Long, "IdRow"},
+                      {DateText, "DateTaken"},
+                      {Memo, "Content"}},
+                     {"IdRecord"});
+}
+
 } // namespace
 
 std::vector<TableDefinition> CreditTables() {
-    return {RentCreditTable(), LeaseCreditTable()};
+    return {RentCreditTable(), LeaseCreditTable(), TakenBackTable()};
 }
 
 } // namespace store

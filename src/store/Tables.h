@@ -36,7 +36,8 @@ struct TableDefinition {
 const std::vector<TableDefinition>& BooksTables();
 
 /// Tables that the books of earlier versions lack: what became of money that was paid ahead or was
-/// returned, and further settings. Books that never use them keep them empty.
+/// returned, rows of the run that were taken back, and further settings. Books that never use them
+/// keep them empty.
 const std::vector<TableDefinition>& AddedTables();
 
 /// The tables of the reference database: zip codes and the pages of the tax offices.

@@ -20,6 +20,7 @@ struct Options {
 void AddInit(CLI::App& line);
 void AddRegister(CLI::App& line);
 void AddUpdate(CLI::App& line, const Options& options);
+void AddRuns(CLI::App& line, const Options& options);
 void AddPreview(CLI::App& line, const Options& options);
 void AddAlerts(CLI::App& line, const Options& options);
 void AddFind(CLI::App& line, const Options& options);

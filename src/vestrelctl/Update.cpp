@@ -3,10 +3,12 @@
 #include <fmt/core.h>
 
 #include "core/DailyRun.h"
+#include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "platform/values/Conversions.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Text.h"
+#include "shell/RunHistory.h"
 #include "vestrelctl/Command.h"
 #include "vestrelctl/OpenBooks.h"
 #include "vestrelctl/Output.h"
@@ -61,7 +63,10 @@ void AddUpdate(CLI::App& line, const Options& options) {
         OpenBooks(options, Purpose::Write);
         CheckOutput();
         Printer printer;
-        core::UpdateRecords(printer);
+        shell::RunRecorder recorder(shell::HistoryFile(core::App().Connection), printer);
+        core::UpdateRecords(recorder);
+        if (!recorder.Fault().empty())
+            std::cerr << "The history of runs can't be kept: " << recorder.Fault() << '\n';
         printer.Finish();
     });
 }

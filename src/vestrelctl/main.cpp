@@ -110,6 +110,7 @@ int Run(int argc, char** argv) {
     vestrelctl::AddInit(line);
     vestrelctl::AddRegister(line);
     vestrelctl::AddUpdate(line, options);
+    vestrelctl::AddRuns(line, options);
     vestrelctl::AddPreview(line, options);
     vestrelctl::AddAlerts(line, options);
     vestrelctl::AddFind(line, options);

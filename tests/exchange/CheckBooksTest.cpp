@@ -92,6 +92,8 @@ TEST_F(CheckBooksTest, FindsEachFaultByItself) {
          "1 record of RentCredit whose IdOrigin names no RentLog: 6"},
         {"INSERT INTO LeaseCredit (IdLease, SettleCharges) VALUES (77, True)", Severity::Note,
          "1 record of LeaseCredit whose IdLease names no Lease: 77"},
+        {"INSERT INTO TakenBack (RecordKind, IdRecord, IdRow) VALUES (3, 77, 6)", Severity::Note,
+         "1 record of TakenBack whose IdRecord names no Mortgage: 6"},
         // The payment of 100 is credited with itself, against a refund of 40.
         {"INSERT INTO RentCredit (IdRentLog, IdOrigin, IdLease) VALUES (8, 9, 4)", Severity::Fault,
          "1 amount paid ahead of which more was credited than was paid: 9"},
@@ -106,7 +108,8 @@ TEST_F(CheckBooksTest, FindsEachFaultByItself) {
         EXPECT_FALSE(findings.front().advice.empty());
         EXPECT_EQ(HasFaults(findings), each.severity == Severity::Fault);
     }
-    core::App().Connection.RunScript("DROP TABLE RentCredit; DROP TABLE LeaseCredit;");
+    core::App().Connection.RunScript(
+        "DROP TABLE RentCredit; DROP TABLE LeaseCredit; DROP TABLE TakenBack;");
     EXPECT_EQ(CheckSummary(Check()), "Everything is in order.");
     // A payment that lost its transaction is an open amount of the ledger besides.
     Run("UPDATE RentLog SET IdTransaction = 0 WHERE IdRentLog = 8");

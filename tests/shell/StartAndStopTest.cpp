@@ -143,28 +143,42 @@ TEST(RunDigest, CountsWhatWasPostedSinceTheFirstDay) {
         << "the run charges; it pays nothing";
     digest.Failed(2, 42, "Zu", "no date");
     EXPECT_EQ(digest.FaultLine(), "1 record could not be brought up to date");
-    EXPECT_THAT(digest.Faults(), ElementsAre("Zu: no date"));
 }
 
 TEST(DigestTable, ListsWhatWasSkippedAndThenWhatWasPosted) {
     shell::RunDigest digest;
     std::ostringstream empty;
     core::WriteCsv(shell::DigestTable(digest), empty);
-    EXPECT_EQ(empty.str(), "\"No.\",\"Date\",\"Posted\",\"For\",\"Amount\"\n");
-    digest.Posted(
-        2, 41, "O'Brien",
-        {{platform::Date(2026, 10, 3), "Rent Subsidy ", platform::Currency::FromUnits(70)}});
+    EXPECT_EQ(empty.str(),
+              "\"No.\",\"Day\",\"What\",\"Reason\",\"Amount\",\"Record\",\"Taken Back\"\n");
+    const platform::Date day(2026, 10, 3);
+    const auto amount = platform::Currency::FromUnits(70);
+    digest.Posted(2, 41, "O'Brien",
+                  {{day, "Rent Subsidy ", amount, {core::Posting::Subsidy, day}, 8},
+                   {day, "Rent Subsidy ", amount, {core::Posting::Subsidy, day}, 9}});
     digest.Failed(2, 42, "Zu", "no date");
-    const shell::DigestTable table(digest);
+    digest.Failed(0, 0, "Leases", "no table");
+    const shell::DigestTable table(digest, {{.recordKind = 2,
+                                             .recordId = 41,
+                                             .posting = core::Posting::Subsidy,
+                                             .date = day,
+                                             .rowId = 9,
+                                             .takenOn = platform::Date(2026, 10, 5)}});
     std::ostringstream text;
     core::WriteCsv(table, text);
     EXPECT_EQ(text.str(), empty.str() +
-                              "1,,\"Not updated\",\"Zu: no date\",\n"
-                              "2,10/03/2026,\"Rent Subsidy\",\"O'Brien\",70.0000\n");
-    EXPECT_EQ(table.PostedRow(1), nullptr);
-    ASSERT_NE(table.PostedRow(2), nullptr);
-    EXPECT_EQ(table.PostedRow(2)->recordId, 41);
-    for (const int outside : {0, -1, 3})
+                              "1,,\"Not updated\",\"no date\",,\"Zu\",\n"
+                              "2,,\"Not updated\",\"no table\",,\"Leases\",\n"
+                              "3,10/03/2026,\"Rent Subsidy\",\"Rent due 10/03/2026: the lease's "
+                              "subsidy\",70.0000,\"O'Brien\",\n"
+                              "4,10/03/2026,\"Rent Subsidy\",\"Rent due 10/03/2026: the lease's "
+                              "subsidy\",70.0000,\"O'Brien\",10/05/2026\n");
+    ASSERT_NE(table.PostedRow(3), nullptr);
+    EXPECT_EQ(table.PostedRow(3)->recordId, 41);
+    EXPECT_EQ(table.RecordOf(1), (shell::RecordPlace{2, 42}));
+    EXPECT_EQ(table.RecordOf(2), std::nullopt) << "a whole step of the run";
+    EXPECT_EQ(table.RecordOf(4), (shell::RecordPlace{2, 41}));
+    for (const int outside : {0, -1, 1, 2, 5})
         EXPECT_EQ(table.PostedRow(outside), nullptr) << outside;
 }
 

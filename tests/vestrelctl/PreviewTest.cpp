@@ -36,6 +36,18 @@ TEST_F(Vestrelctl, PreviewsWhatAnUpdateWillPost) {
         lines, [](const std::string& line) { return line.find(",,") == std::string::npos; });
     const Outcome update = Run("--today 01/31/2027 " + OnBooks() + "update");
     EXPECT_EQ(LinesOf(update.output).back(), std::to_string(posts - 1) + " rows posted.");
+
+    const std::vector<std::string> runs = LinesOf(Run(OnBooks() + "--read-only runs").output);
+    EXPECT_EQ(
+        runs.at(0),
+        R"("Run","RecordKind","RecordId","Day","What","Reason","Amount","Record","Taken Back")");
+    EXPECT_EQ(std::ranges::count_if(
+                  runs, [](const std::string& line) { return line.starts_with("\"01/31/2027 "); }),
+              posts - 1);
+    EXPECT_TRUE(std::ranges::any_of(runs, [](const std::string& line) {
+        return line.find("01/01/2027,\"Rent\",\"Rent due 01/01/2027: the lease's rent\",") !=
+               std::string::npos;
+    }));
 }
 
 TEST_F(Vestrelctl, RefusesToPreviewWhatCannotBe) {

@@ -14,11 +14,11 @@ class Reading : public PaymentBooks {
     std::string File() const { return (folder_ / "books" / "Vestrel.mdb").string(); }
     std::string Out(const char* name) const { return "'" + (folder_ / name).string() + "'"; }
 
-    /// As books of a version that had no credits.
+    /// As books of a version without the tables that were added since.
     void MakeOlder() const {
         platform::Connection books;
         books.Open(File(), platform::OpenMode::ReadWrite);
-        books.RunScript("DROP TABLE RentCredit; DROP TABLE LeaseCredit;");
+        books.RunScript("DROP TABLE RentCredit; DROP TABLE LeaseCredit; DROP TABLE TakenBack;");
     }
 };
 
@@ -39,6 +39,7 @@ TEST_F(Reading, LeavesOlderBooksAsTheyAre) {
     const std::string commands[] = {"alerts",
                                     "credit 101",
                                     "find Brien",
+                                    "runs",
                                     "preview --until 03/01/2024",
                                     "pay 101 --amount 5 --preview",
                                     "return-payment " + id + " --preview",

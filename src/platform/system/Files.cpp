@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <system_error>
 
+#include "platform/system/AppendToFile.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
 
@@ -88,6 +89,20 @@ std::string ReadWholeFile(const fs::path& file) {
         if (got == 0) return contents;
         contents.append(piece.data(), static_cast<std::size_t>(got));
     }
+}
+
+void AppendLine(const fs::path& file, std::string_view line) {
+    const Descriptor out(
+        open(file.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (!out.IsOpen()) Fail("write", file, errno);
+    struct stat before {};
+    char last = '\n';
+    if (fstat(out.Number(), &before) != 0 ||
+        (before.st_size > 0 && pread(out.Number(), &last, 1, before.st_size - 1) != 1))
+        Fail("write", file, errno);
+    std::string text = last == '\n' ? "" : "\n";
+    text.append(line).append("\n");
+    if (!WriteAll(out.Number(), text)) Fail("write", file, errno);
 }
 
 } // namespace platform

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "core/MessagePump.h"
+#include "shell/RunHistory.h"
 
 namespace shell::screens {
 
@@ -22,7 +23,7 @@ void RunBooks(RunDigest& digest) {
     {
         const Hourglass hourglass;
         core::LetMessagesRun();
-        core::UpdateRecords(digest);
+        RunAndRecord(digest);
     }
     core::LetMessagesRun();
 }

@@ -10,16 +10,16 @@
 #include "mortgages/screens/frmMortgagePayment.h"
 #include "search/Finder.h"
 #include "search/screens/frmSearch.h"
-#include "shell/screens/frmPosted.h"
 
 namespace tests {
 
 namespace {
 
 constexpr const char* kMenuItems[] = {
-    "mnuConfig",    "mnuGeneralReports", "mnuPreferences", "mnuLeaseWizard", "mnuMortgageWizard",
-    "mnuFinExport", "mnuPort",           "mnuCheck",       "mnuAutoEvents",  "mnuTransCategory",
-    "mnuDocMgmt",   "mnuHelpAbout",      "mnuDBExplorer",  "mnuMileage",     "mnuLookAhead"};
+    "mnuConfig",         "mnuGeneralReports", "mnuPreferences", "mnuLeaseWizard",
+    "mnuMortgageWizard", "mnuFinExport",      "mnuPort",        "mnuCheck",
+    "mnuAutoEvents",     "mnuTransCategory",  "mnuDocMgmt",     "mnuHelpAbout",
+    "mnuDBExplorer",     "mnuMileage",        "mnuLookAhead",   "mnuPosted"};
 
 } // namespace
 
@@ -61,7 +61,6 @@ std::vector<Opening> EveryForm::Openings() {
                             finder = std::make_unique<search::Finder>(core::App().Connection);
                             (new search::screens::frmSearch(*finder, {}))->Setup();
                         }});
-    openings.push_back({"frmPosted", [] { (new shell::screens::frmPosted)->Setup({}); }});
     return openings;
 }
 

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/RunReason.h"
+#include "platform/values/Date.h"
+
+namespace core {
+
+// Rows of the daily run that the user took back on purpose. The run posts none of them again,
+// whatever it is asked to charge; otherwise it goes on as if they had been posted and deleted.
+//
+// Failures are thrown. Books of an earlier version have none.
+
+/// A row of the run that was taken back.
+struct TakenRow {
+    /// What it was posted for, and what makes the row the only one of its kind.
+    std::int16_t recordKind = 0;
+    std::int32_t recordId = 0;
+    Posting posting = Posting::Unknown;
+    platform::Date date{};
+    /// Its id in its ledger.
+    std::int32_t rowId = 0;
+    /// The day on which it was taken back.
+    platform::Date takenOn{};
+    /// The deleted row, to be posted again; empty if it had been deleted before.
+    std::string content{};
+
+    /// True for the same row of the run.
+    bool IsSameRow(const TakenRow& other) const;
+};
+
+/// The rows of one record that were taken back.
+class TakenBack {
+  public:
+    TakenBack(std::int16_t recordKind, std::int32_t recordId) : kind_(recordKind), id_(recordId) {}
+
+    /// Reads the books when it is called first, so that it costs nothing for a record that has
+    /// nothing to post.
+    bool Has(Posting posting, platform::Date date);
+
+  private:
+    std::int16_t kind_;
+    std::int32_t id_;
+    std::optional<std::vector<std::pair<Posting, std::string>>> rows_;
+};
+
+/// Returns every row that was taken back, without its content.
+std::vector<TakenRow> ReadTakenBack();
+
+/// Returns what is stored about the same row; nothing if it isn't taken back.
+std::optional<TakenRow> FindTakenBack(const TakenRow& row);
+
+void RememberTakenBack(const TakenRow& row);
+void ForgetTakenBack(const TakenRow& row);
+/// Forgets the rows of a record that is deleted.
+void ForgetTakenBackOf(std::int16_t recordKind, std::int32_t recordId);
+
+} // namespace core

@@ -1,0 +1,189 @@
+#include "shell/RunHistory.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <fstream>
+#include <utility>
+
+#include <fmt/core.h>
+#include <nlohmann/json.hpp>
+
+#include "core/Globals.h"
+#include "platform/system/AppendToFile.h"
+#include "platform/system/Clock.h"
+#include "platform/values/Conversions.h"
+#include "platform/values/Errors.h"
+
+namespace shell {
+
+using Json = nlohmann::ordered_json;
+using platform::Date;
+
+namespace {
+
+constexpr int kPerMinute = 60;
+
+std::string Now() {
+    const int second = static_cast<int>(platform::SecondOfDay());
+    const int minute = second / kPerMinute;
+    return fmt::format("{} {:02}:{:02}:{:02}", platform::Today().ToText(), minute / kPerMinute,
+                       minute % kPerMinute, second % kPerMinute);
+}
+
+Json RowAsJson(const core::PostedRow& row) {
+    return {{"day", row.date.ToText()},
+            {"what", row.category},
+            {"amount", platform::MoneyToFixedText(row.amount)},
+            {"row", row.id},
+            {"posting", static_cast<std::int16_t>(row.reason.posting)},
+            {"due", row.reason.due.ToText()},
+            {"number", row.reason.number},
+            {"every", static_cast<std::int16_t>(row.reason.every)}};
+}
+
+Date DateFrom(const Json& text) {
+    return Date::TryParse(text.get<std::string>()).value_or(Date());
+}
+
+/// The row refers to the text of its category in `row`.
+core::PostedRow RowFrom(const Json& row) {
+    return {.date = DateFrom(row.at("day")),
+            .category = row.at("what").get_ref<const std::string&>(),
+            .amount = platform::StrToMoney(row.at("amount").get<std::string>()),
+            .reason = {.posting = core::Posting{row.at("posting").get<std::int16_t>()},
+                       .due = DateFrom(row.at("due")),
+                       .number = row.at("number").get<std::int32_t>(),
+                       .every = core::Every{row.at("every").get<std::int16_t>()}},
+            .id = row.at("row").get<std::int32_t>()};
+}
+
+void AddRecord(RunDigest& digest, const Json& line) {
+    const int kind = line.at("kind").get<int>();
+    const auto id = line.at("id").get<std::int32_t>();
+    const auto name = line.at("name").get<std::string>();
+    if (line.contains("fault")) {
+        digest.Failed(kind, id, name, line.at("fault").get<std::string>());
+        return;
+    }
+    std::vector<core::PostedRow> rows;
+    for (const Json& row : line.at("rows"))
+        rows.push_back(RowFrom(row));
+    digest.Posted(kind, id, name, rows);
+}
+
+/// Collects the lines of each run, which other programs may have mixed with theirs.
+class Reader {
+  public:
+    void Read(const std::string& text) {
+        const Json line = Json::parse(text, nullptr, false);
+        if (!line.is_object()) return;
+        try {
+            AddRecord(RunOf(line).digest, line);
+        } catch (const Json::exception&) {
+            return; // cut off, or changed by hand
+        }
+    }
+
+    std::vector<PastRun> Take() {
+        std::ranges::reverse(runs_);
+        std::erase_if(runs_, [](const PastRun& run) {
+            return run.digest.Rows().empty() && run.digest.Faults().empty();
+        });
+        return std::move(runs_);
+    }
+
+  private:
+    PastRun& RunOf(const Json& line) {
+        auto name = line.at("run").get<std::string>();
+        const auto found = std::find(names_.rbegin(), names_.rend(), name);
+        if (found != names_.rend()) {
+            const auto place = std::distance(found, names_.rend()) - 1;
+            return runs_[static_cast<std::size_t>(place)];
+        }
+        PastRun run{.at = line.at("at").get<std::string>(), .day = DateFrom(line.at("to"))};
+        names_.push_back(std::move(name));
+        return runs_.emplace_back(std::move(run));
+    }
+
+    std::vector<PastRun> runs_;
+    std::vector<std::string> names_; ///< of the same runs
+};
+
+} // namespace
+
+std::filesystem::path HistoryFileOf(const std::filesystem::path& books) {
+    if (books.empty()) return {};
+    return std::filesystem::path(books).replace_extension(".runs");
+}
+
+std::filesystem::path HistoryFile(const platform::Connection& books) {
+    return HistoryFileOf(books.File());
+}
+
+std::string PastRun::Days() const {
+    const Date first = digest.FirstDay();
+    if (!first.IsSet() || first == day) return day.ToText();
+    return fmt::format("{} to {}", first.ToText(), day.ToText());
+}
+
+std::vector<PastRun> ReadHistory(const std::filesystem::path& file) {
+    std::error_code failure;
+    if (!std::filesystem::exists(file, failure)) return {};
+    std::ifstream lines(file);
+    if (!lines)
+        throw platform::Error(
+            fmt::format("The history of runs, {}, can't be read.", file.string()));
+    Reader reader;
+    for (std::string line; std::getline(lines, line);)
+        reader.Read(line);
+    return reader.Take();
+}
+
+RunRecorder::RunRecorder(std::filesystem::path file, core::RunListener& next)
+    : file_(std::move(file)), next_(next), at_(Now()) {
+    static int runs = 0;
+    run_ = fmt::format("{} {}.{}", at_, ::getpid(), ++runs);
+}
+
+void RunRecorder::Posted(int recordKind, std::int32_t id, std::string_view description,
+                         const std::vector<core::PostedRow>& rows) {
+    Json posted = Json::array();
+    for (const core::PostedRow& row : rows)
+        posted.push_back(RowAsJson(row));
+    const Json line = {{"run", run_},
+                       {"at", at_},
+                       {"to", platform::Today().ToText()},
+                       {"kind", recordKind},
+                       {"id", id},
+                       {"name", description},
+                       {"rows", std::move(posted)}};
+    Append(line.dump(-1, ' ', false, Json::error_handler_t::replace));
+    next_.Posted(recordKind, id, description, rows);
+}
+
+void RunRecorder::Failed(int recordKind, std::int32_t id, std::string_view description,
+                         std::string_view reason) {
+    const Json line = {{"run", run_},        {"at", at_}, {"to", platform::Today().ToText()},
+                       {"kind", recordKind}, {"id", id},  {"name", description},
+                       {"fault", reason}};
+    Append(line.dump(-1, ' ', false, Json::error_handler_t::replace));
+    next_.Failed(recordKind, id, description, reason);
+}
+
+void RunRecorder::Append(const std::string& line) {
+    if (file_.empty() || !fault_.empty()) return;
+    try {
+        platform::AppendLine(file_, line);
+    } catch (const platform::Error& failure) {
+        fault_ = failure.what();
+    }
+}
+
+void RunAndRecord(RunDigest& digest) {
+    RunRecorder recorder(HistoryFile(core::App().Connection), digest);
+    core::UpdateRecords(recorder);
+    if (!recorder.Fault().empty()) digest.SetHistoryFault(recorder.Fault());
+}
+
+} // namespace shell

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/database/Connection.h"
+#include "shell/RunDigest.h"
+
+namespace shell {
+
+// The runs that posted rows or skipped records are kept in a text file beside the books, a line of
+// JSON for each record. The books themselves know nothing of it: without the file, or with
+// another's, they are the same.
+
+/// Returns the file for books of this file name; an empty path, which keeps no history, for an
+/// empty one.
+std::filesystem::path HistoryFileOf(const std::filesystem::path& books);
+/// Returns the file of the open books.
+std::filesystem::path HistoryFile(const platform::Connection& books);
+
+/// A run of the past.
+struct PastRun {
+    /// "11/22/2026 10:36:05".
+    std::string at;
+    /// The day that the books were brought to.
+    platform::Date day{};
+    RunDigest digest{};
+
+    /// Returns the days from the first posted row on: "10/03/2026 to 11/22/2026", or one day.
+    std::string Days() const;
+};
+
+/// Returns the runs of a history, the last one first; none if there is no file. Lines that can't be
+/// read are skipped. Throws Error if the file can't be opened.
+std::vector<PastRun> ReadHistory(const std::filesystem::path& file);
+
+/// Writes the run that it listens to into the history, and passes on what it hears.
+class RunRecorder : public core::RunListener {
+  public:
+    /// The run begins now. `next` must outlive the recorder.
+    RunRecorder(std::filesystem::path file, core::RunListener& next);
+
+    void Posted(int recordKind, std::int32_t id, std::string_view description,
+                const std::vector<core::PostedRow>& rows) override;
+    void Failed(int recordKind, std::int32_t id, std::string_view description,
+                std::string_view reason) override;
+
+    /// Returns why the history couldn't be written; empty if it could. The run goes on without it.
+    const std::string& Fault() const { return fault_; }
+
+  private:
+    void Append(const std::string& line);
+
+    std::filesystem::path file_;
+    core::RunListener& next_;
+    std::string at_;
+    std::string run_; ///< tells apart runs of the same second
+    std::string fault_;
+};
+
+/// Brings the books up to date, and keeps the run in their history. Adds what happened to `digest`.
+void RunAndRecord(RunDigest& digest);
+
+} // namespace shell
