@@ -28,7 +28,7 @@ void PrepareBooks(const std::filesystem::path& books) {
 
 double PayAll() {
     for (int idLease = 1; idLease <= kPayments; ++idLease)
-        leases::SubmitPayment(leases::ProposePayment(idLease, leases::RentClass::Rent));
+        leases::SubmitPayment(leases::ProposePayment(idLease, core::TransactionClass::Rent));
     return kPayments;
 }
 

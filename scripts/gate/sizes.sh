@@ -5,7 +5,7 @@
 enterTree "$@"
 
 kLong=350
-kTooLong=450
+kTooLong=400
 
 sizes=$({
     sourcesOf src tests benchmarks

@@ -7,6 +7,7 @@
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "core/Session.h"
 #include "exchange/FinExportLines.h"
 #include "exchange/OwnFiles.h"
@@ -74,11 +75,9 @@ class Exporter {
   private:
     bool Open(platform::Recordset& rows, std::int32_t id) const {
         try {
-            rows.Open(core::App().Connection,
-                      "SELECT * FROM Transactions " +
-                          WhereOf(id, request_.range, "DebitId + 0", "CreditID + 0"),
-                      request_.mark == MarkExported::Yes ? platform::CursorMode::Updatable
-                                                         : platform::CursorMode::ReadOnly);
+            const std::string sql = "SELECT * FROM Transactions " +
+                                    WhereOf(id, request_.range, "DebitId + 0", "CreditID + 0");
+            rows = request_.mark == MarkExported::Yes ? core::Write(sql) : core::Read(sql);
             return true;
         } catch (const platform::DatabaseError&) {
             return false;

@@ -117,7 +117,7 @@ void RegisterEditors() {
         core::TransactionEditor::RentPayment,
         [](const core::EditRequest& request, const core::TransactionPlace& place) {
             (new leases::screens::frmRentPayment)
-                ->Setup(request.id, place.idLease, leases::RentClass::Rent,
+                ->Setup(request.id, place.idLease, core::TransactionClass::Rent,
                         leases::LeaseUpdate::Yes);
         });
     core::RegisterTransactionOpener(
@@ -133,7 +133,7 @@ void RegisterEditors() {
     core::RegisterOpener(core::kRentLog, [](const core::EditRequest& request) {
         (new leases::screens::frmRentLog)
             ->Setup(request.id, request.parent1,
-                    leases::RentClass{static_cast<std::int16_t>(request.parent3)});
+                    core::TransactionClass{static_cast<std::int16_t>(request.parent3)});
     });
     core::RegisterOpener(core::kAutoEvent, [](const core::EditRequest& request) {
         (new books::screens::frmAutoEvent)->Setup(request.id);
@@ -176,7 +176,7 @@ shell::screens::Commands MenuCommands() {
     commands.Add(QStringLiteral("mnuPayRent"), [](const shell::screens::Selection& selection) {
         if (selection.id == 0) return;
         (new leases::screens::frmRentPayment)
-            ->Setup(0, selection.id, leases::RentClass::Rent, leases::LeaseUpdate::Yes);
+            ->Setup(0, selection.id, core::TransactionClass::Rent, leases::LeaseUpdate::Yes);
     });
     commands.Add(QStringLiteral("mnuFinExport"), Opening<exchange::screens::frmFinExport>());
     commands.Add(QStringLiteral("mnuPort"), Opening<exchange::screens::frmPort>());

@@ -20,7 +20,7 @@ void ChargeDeposits(std::int32_t idLease, std::int32_t idUnit) {
     for (; !templates.Eof(); templates.MoveNext()) {
         WriteRentLog({.idLease = idLease,
                       .datePosted = platform::Today(),
-                      .rentClass = RentClass::Deposit,
+                      .rentClass = TransactionClass::Deposit,
                       .category = std::string(kCategoryDeposit),
                       .amount = MoneyOf(templates["Amount"]),
                       .description = TextOf(templates["Description"])});

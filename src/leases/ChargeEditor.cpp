@@ -12,33 +12,19 @@
 
 namespace leases {
 
-std::string_view ChargeCaption(RentClass rentClass) {
-    switch (rentClass) {
-        case RentClass::Subsidy:
-            return " Editing Subsidy Charge";
-        case RentClass::Deposit:
-            return " Editing Deposit Charge";
-        case RentClass::OptionCredit:
-            return " Editing Lease Option Charge";
-        case RentClass::Rent:
-            break;
-    }
+std::string_view ChargeCaption(TransactionClass rentClass) {
+    if (rentClass == TransactionClass::Subsidy) return " Editing Subsidy Charge";
+    if (rentClass == TransactionClass::Deposit) return " Editing Deposit Charge";
+    if (rentClass == TransactionClass::OptionCredit) return " Editing Lease Option Charge";
     return " Editing Rent Charge";
 }
 
-std::vector<std::string> ChargeCategories(RentClass rentClass) {
-    switch (rentClass) {
-        case RentClass::Subsidy:
-            return {"Rent Subsidy", "Late Fee",    "Utilities",
-                    "NSF Fee",      "Service Fee", "Misc Charge"};
-        case RentClass::Deposit:
-            return {"Damage Deposit", "Cleaning Deposit", "Pet Deposit", "Key Deposit",
-                    "Misc Deposit"};
-        case RentClass::OptionCredit:
-            return {"Option Credit", "Misc Credit"};
-        case RentClass::Rent:
-            break;
-    }
+std::vector<std::string> ChargeCategories(TransactionClass rentClass) {
+    if (rentClass == TransactionClass::Deposit)
+        return {"Damage Deposit", "Cleaning Deposit", "Pet Deposit", "Key Deposit", "Misc Deposit"};
+    if (rentClass == TransactionClass::OptionCredit) return {"Option Credit", "Misc Credit"};
+    if (rentClass == TransactionClass::Subsidy)
+        return {"Rent Subsidy", "Late Fee", "Utilities", "NSF Fee", "Service Fee", "Misc Charge"};
     return {"Rent",    "Late Fee",    "Utilities",  "Application Fee",
             "NSF Fee", "Service Fee", "Misc Charge"};
 }

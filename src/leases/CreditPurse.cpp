@@ -12,7 +12,7 @@ using platform::Date;
 
 namespace {
 
-bool IsUsable(const OpenCredit& credit, Date day, RentClass rentClass) {
+bool IsUsable(const OpenCredit& credit, Date day, TransactionClass rentClass) {
     return credit.rentClass == rentClass && credit.date <= day && credit.amount > Currency();
 }
 
@@ -27,7 +27,7 @@ Currency CreditPayment::Total() const {
 
 CreditPurse::CreditPurse(std::vector<OpenCredit> credits) : credits_(std::move(credits)) {}
 
-std::optional<CreditPayment> CreditPurse::Settle(Date day, RentClass rentClass,
+std::optional<CreditPayment> CreditPurse::Settle(Date day, TransactionClass rentClass,
                                                  std::span<const Charge> charges,
                                                  std::size_t first) {
     CreditPayment payment{.day = day, .rentClass = rentClass, .charges = {}, .credits = {}};
@@ -44,7 +44,7 @@ std::optional<CreditPayment> CreditPurse::Settle(Date day, RentClass rentClass,
     return payment;
 }
 
-Currency CreditPurse::Available(Date day, RentClass rentClass) const {
+Currency CreditPurse::Available(Date day, TransactionClass rentClass) const {
     Currency available;
     for (const OpenCredit& credit : credits_) {
         if (IsUsable(credit, day, rentClass)) available += credit.amount;

@@ -18,7 +18,7 @@ struct Charge;
 struct OpenCredit {
     std::int32_t idRentLog = 0;
     platform::Date date;
-    RentClass rentClass = RentClass::Rent;
+    TransactionClass rentClass = TransactionClass::Rent;
     platform::Currency amount;
 };
 
@@ -33,7 +33,7 @@ struct Use {
 /// Charges of one day and class that are settled from credit. Both sides have the same sum.
 struct CreditPayment {
     platform::Date day;
-    RentClass rentClass = RentClass::Rent;
+    TransactionClass rentClass = TransactionClass::Rent;
     /// Places in the charges of the walk. At most the last one is settled in part.
     std::vector<Use> charges;
     /// Places in the credits of the purse.
@@ -52,11 +52,11 @@ class CreditPurse {
     /// Settles charges of one class and of `day` as far as the credits of that day and before go,
     /// in the order of the charges: those of `charges` from the place `first` on. Returns nothing
     /// if there is nothing to settle, or to settle it with.
-    std::optional<CreditPayment> Settle(platform::Date day, RentClass rentClass,
+    std::optional<CreditPayment> Settle(platform::Date day, TransactionClass rentClass,
                                         std::span<const Charge> charges, std::size_t first);
 
   private:
-    platform::Currency Available(platform::Date day, RentClass rentClass) const;
+    platform::Currency Available(platform::Date day, TransactionClass rentClass) const;
     void Take(CreditPayment& payment, platform::Currency amount);
 
     std::vector<OpenCredit> credits_;

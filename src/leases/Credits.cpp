@@ -68,7 +68,7 @@ std::int32_t PaymentReturnedBy(std::int32_t idTransaction) {
     return row.Eof() ? 0 : IdOf(row["IdTransaction"]);
 }
 
-Currency CreditBalance(std::int32_t idLease, RentClass rentClass) {
+Currency CreditBalance(std::int32_t idLease, TransactionClass rentClass) {
     const auto sum = core::ReadValue(
         "SELECT -1 * Sum(Amount) FROM RentLog WHERE (IdLease = ?) AND (Class = ?) AND "
         "(IdTransaction = 0) AND (Amount < 0)",
@@ -85,7 +85,7 @@ std::vector<OpenCredit> ReadCredits(std::int32_t idLease) {
     std::vector<OpenCredit> credits;
     for (; !rows.Eof(); rows.MoveNext()) {
         credits.push_back({IdOf(rows["IdRentLog"]), DateOf(rows["DatePosted"]),
-                           RentClass{CountOf(rows["Class"])}, -MoneyOf(rows["Amount"])});
+                           TransactionClass{CountOf(rows["Class"])}, -MoneyOf(rows["Amount"])});
     }
     return credits;
 }

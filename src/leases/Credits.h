@@ -40,7 +40,7 @@ std::int32_t ReturnOf(std::int32_t idTransaction);
 std::int32_t PaymentReturnedBy(std::int32_t idTransaction);
 
 /// Returns what the tenant has paid ahead: the open credits of a class, as a positive amount.
-platform::Currency CreditBalance(std::int32_t idLease, RentClass rentClass);
+platform::Currency CreditBalance(std::int32_t idLease, TransactionClass rentClass);
 
 /// Returns the open credits of rent and subsidy that can settle new charges, in the order in which
 /// they are used. A discount for early payment is left out.

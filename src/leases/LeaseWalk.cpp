@@ -82,7 +82,7 @@ bool SettleDay(LeaseWalk& walk, CreditPurse& purse, Date day, std::size_t first)
     if (first == walk.charges.size()) return false;
     const Date due = walk.terms.dateNextDue.Get();
     Date moved = due;
-    for (const RentClass rentClass : {RentClass::Rent, RentClass::Subsidy}) {
+    for (const TransactionClass rentClass : {TransactionClass::Rent, TransactionClass::Subsidy}) {
         auto payment = purse.Settle(day, rentClass, walk.charges, first);
         if (!payment) continue;
         for (const Use& settled : payment->charges) {
@@ -133,8 +133,8 @@ LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, Date today, CreditPurse pur
     return walk;
 }
 
-RentClass ClassOf(ChargeKind kind) {
-    return kind == ChargeKind::Subsidy ? RentClass::Subsidy : RentClass::Rent;
+TransactionClass ClassOf(ChargeKind kind) {
+    return kind == ChargeKind::Subsidy ? TransactionClass::Subsidy : TransactionClass::Rent;
 }
 
 RentFlags FlagsOf(ChargeKind kind) {

@@ -28,7 +28,7 @@ struct Charge {
     platform::Date due;
 };
 
-RentClass ClassOf(ChargeKind kind);
+TransactionClass ClassOf(ChargeKind kind);
 RentFlags FlagsOf(ChargeKind kind);
 std::string_view CategoryOf(ChargeKind kind);
 std::string DescriptionOf(const Charge& charge);

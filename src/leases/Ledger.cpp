@@ -54,7 +54,7 @@ books::Transaction DepositTransaction(std::int32_t idLease, RentFlags flags) {
     transaction.dateEffective = platform::Today();
     transaction.debit = {core::kAccount, idAccount,
                          core::GetDescription(core::kAccount, idAccount)};
-    transaction.transactionClass = static_cast<std::int16_t>(RentClass::Deposit);
+    transaction.transactionClass = static_cast<std::int16_t>(TransactionClass::Deposit);
     transaction.flags = static_cast<std::int16_t>(flags);
     static_cast<books::References&>(transaction) = GetLeaseLinks(idLease);
     transaction.amount = MoneyOf(lease["DepositBalance"]);
@@ -111,7 +111,7 @@ void WriteDepositRow(std::int32_t idTransaction, const books::Transaction& trans
     WriteRentLog({.idLease = transaction.idLease,
                   .idTransaction = idTransaction,
                   .datePosted = transaction.dateEffective,
-                  .rentClass = RentClass{transaction.transactionClass},
+                  .rentClass = TransactionClass{transaction.transactionClass},
                   .category = transaction.taxCategory,
                   .amount = transaction.amount,
                   .description = transaction.description,

@@ -19,18 +19,18 @@ enum class LedgerRows { Open, Settled, All };
 
 struct LedgerTab {
     std::string_view name;
-    RentClass rentClass = RentClass::Rent;
+    TransactionClass rentClass = TransactionClass::Rent;
     LedgerRows rows = LedgerRows::All;
 };
 
 inline constexpr std::array<LedgerTab, 7> kLedgerTabs = {
-    {{"Rent", RentClass::Rent, LedgerRows::Open},
-     {"Rent History", RentClass::Rent, LedgerRows::Settled},
-     {"Subsidy", RentClass::Subsidy, LedgerRows::Open},
-     {"Subsidy History", RentClass::Subsidy, LedgerRows::Settled},
-     {"Deposit", RentClass::Deposit, LedgerRows::Open},
-     {"Deposit History", RentClass::Deposit, LedgerRows::Settled},
-     {"Option Credits", RentClass::OptionCredit, LedgerRows::All}}};
+    {{"Rent", TransactionClass::Rent, LedgerRows::Open},
+     {"Rent History", TransactionClass::Rent, LedgerRows::Settled},
+     {"Subsidy", TransactionClass::Subsidy, LedgerRows::Open},
+     {"Subsidy History", TransactionClass::Subsidy, LedgerRows::Settled},
+     {"Deposit", TransactionClass::Deposit, LedgerRows::Open},
+     {"Deposit History", TransactionClass::Deposit, LedgerRows::Settled},
+     {"Option Credits", TransactionClass::OptionCredit, LedgerRows::All}}};
 
 struct LedgerRow {
     std::int32_t idRentLog = 0;

@@ -3,10 +3,13 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/Codes.h"
+
 namespace leases {
 
-/// The class of a row in the rent log, or of a transaction of a lease.
-enum class RentClass : std::int16_t { Rent = 1, Subsidy = 2, Deposit = 3, OptionCredit = 4 };
+/// The class of a row in the rent log, or of a transaction of a lease: Rent, Subsidy, Deposit or
+/// OptionCredit.
+using core::TransactionClass;
 
 /// Flags of a row in the rent log; a deposit's transaction uses the last two.
 enum class RentFlags : std::int16_t {

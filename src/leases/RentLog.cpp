@@ -20,7 +20,7 @@ constexpr std::string_view kUpdateEntry =
     "UPDATE RentLog SET IdLease = ?, IdTransaction = ?, DatePosted = ?, Class = ?, Category = ?, "
     "Amount = ?, Description = ?, Flags = ? WHERE IdRentLog = ?";
 
-Value Code(RentClass code) {
+Value Code(TransactionClass code) {
     return static_cast<std::int16_t>(code);
 }
 Value Code(RentFlags code) {
@@ -88,7 +88,7 @@ std::int32_t WriteCharges(std::int32_t idLease, std::span<const Charge> charges)
 void WriteOptionCredit(std::int32_t idLease, platform::Date day, platform::Currency amount) {
     WriteRentLog({.idLease = idLease,
                   .datePosted = day,
-                  .rentClass = RentClass::OptionCredit,
+                  .rentClass = TransactionClass::OptionCredit,
                   .category = std::string(kCategoryOptionCredit),
                   .amount = amount,
                   .description = std::string(kCategoryOptionCredit)});

@@ -18,7 +18,7 @@ struct RentLogEntry {
     /// The paying transaction, 0 while the row is open.
     std::int32_t idTransaction = 0;
     platform::Date datePosted{};
-    RentClass rentClass = RentClass::Rent;
+    TransactionClass rentClass = TransactionClass::Rent;
     std::string category{};
     /// Positive if the tenant owes it.
     platform::Currency amount{};

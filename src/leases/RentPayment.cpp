@@ -17,16 +17,9 @@ using platform::Recordset;
 
 namespace {
 
-std::string_view DescriptionStart(RentClass rentClass) {
-    switch (rentClass) {
-        case RentClass::Subsidy:
-            return "Rent Subsidy Payment for ";
-        case RentClass::Deposit:
-            return "Deposit Payment for ";
-        case RentClass::Rent:
-        case RentClass::OptionCredit:
-            break;
-    }
+std::string_view DescriptionStart(TransactionClass rentClass) {
+    if (rentClass == TransactionClass::Subsidy) return "Rent Subsidy Payment for ";
+    if (rentClass == TransactionClass::Deposit) return "Deposit Payment for ";
     return "Rent Payment for ";
 }
 
@@ -69,7 +62,7 @@ void AddOwnRows(RentPayment& payment) {
 /// A subsidy's payor is an account or a tenant; a lease that has neither is paid by its tenant.
 void SetPayer(RentPayment& payment, Recordset& lease) {
     const auto kind = static_cast<std::int16_t>(IdOf(lease["SubsidyType"]));
-    const bool byPayor = payment.rentClass == RentClass::Subsidy &&
+    const bool byPayor = payment.rentClass == TransactionClass::Subsidy &&
                          (kind == core::kAccount || kind == core::kTenant) &&
                          !lease["SubsidyId"].IsNull();
     payment.from =
@@ -86,16 +79,9 @@ Currency RentPayment::Total() const {
     return total;
 }
 
-std::vector<std::string> PaymentWords(RentClass rentClass) {
-    switch (rentClass) {
-        case RentClass::Subsidy:
-            return {"Rent Subsidy Payment"};
-        case RentClass::Deposit:
-            return {"Deposit Payment"};
-        case RentClass::Rent:
-        case RentClass::OptionCredit:
-            break;
-    }
+std::vector<std::string> PaymentWords(TransactionClass rentClass) {
+    if (rentClass == TransactionClass::Subsidy) return {"Rent Subsidy Payment"};
+    if (rentClass == TransactionClass::Deposit) return {"Deposit Payment"};
     return {"Rent Payment", "Partial Rent Payment"};
 }
 
@@ -104,7 +90,7 @@ bool IsPeriodRent(RentFlags flags) {
 }
 
 int CountPeriodRents(const RentPayment& payment) {
-    if (payment.rentClass != RentClass::Rent) return 0;
+    if (payment.rentClass != TransactionClass::Rent) return 0;
     return static_cast<int>(std::ranges::count_if(payment.charges, [](const PaymentCharge& charge) {
         return charge.selected && IsPeriodRent(charge.flags);
     }));
@@ -114,7 +100,7 @@ int PeriodsPaid(const RentPayment& payment) {
     return payment.IsNew() ? CountPeriodRents(payment) : 0;
 }
 
-RentPayment ProposePayment(std::int32_t idLease, RentClass rentClass) {
+RentPayment ProposePayment(std::int32_t idLease, TransactionClass rentClass) {
     Recordset lease = core::Read(
         "SELECT IdTenant, RentAccount, SubsidyType, SubsidyId FROM Lease WHERE IdLease = ?",
         {idLease});
@@ -143,7 +129,7 @@ RentPayment ReadPayment(std::int32_t idTransaction) {
     RentPayment payment;
     payment.idTransaction = idTransaction;
     payment.idLease = IdOf(row["IdLease"]);
-    payment.rentClass = RentClass{static_cast<std::int16_t>(IdOf(row["Class"]))};
+    payment.rentClass = TransactionClass{static_cast<std::int16_t>(IdOf(row["Class"]))};
     if (!row["DateEffective"].IsBlank()) payment.dateEffective = row["DateEffective"].AsDate();
     payment.from = {static_cast<std::int16_t>(IdOf(row["DebitType"])), IdOf(row["DebitId"]),
                     TextOf(row["DebitDesc"])};

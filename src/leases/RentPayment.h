@@ -27,7 +27,7 @@ struct PaymentCharge {
 /// mere name, to an account. The payment row stores its type too.
 struct RentPayment : books::Payment {
     std::int32_t idLease = 0;
-    RentClass rentClass = RentClass::Rent;
+    TransactionClass rentClass = TransactionClass::Rent;
     /// In the order they are settled: by date, then by id.
     std::vector<PaymentCharge> charges;
 
@@ -36,12 +36,12 @@ struct RentPayment : books::Payment {
 };
 
 /// Returns the categories for a payment of this class; the first is proposed.
-std::vector<std::string> PaymentWords(RentClass rentClass);
+std::vector<std::string> PaymentWords(TransactionClass rentClass);
 
 /// Returns the proposed payment of all open charges of a class, dated today: from the tenant (a
 /// subsidy from its payor) to the lease's rent account. Throws DatabaseError if the lease doesn't
 /// exist.
-RentPayment ProposePayment(std::int32_t idLease, RentClass rentClass);
+RentPayment ProposePayment(std::int32_t idLease, TransactionClass rentClass);
 
 /// Returns a stored payment with the charges that it settled. Throws DatabaseError if it doesn't
 /// exist.

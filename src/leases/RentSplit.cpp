@@ -22,7 +22,7 @@ RentLogEntry ReadEntry(Recordset& row) {
     return {.idLease = row["IdLease"].AsLong(),
             .idTransaction = row["IdTransaction"].AsLong(),
             .datePosted = DateOf(row["DatePosted"]),
-            .rentClass = RentClass{row["Class"].AsInteger()},
+            .rentClass = TransactionClass{row["Class"].AsInteger()},
             .category = TextOf(row["Category"]),
             .amount = MoneyOf(row["Amount"]),
             .description = TextOf(row["Description"]),
@@ -67,22 +67,15 @@ Currency RentSplit::Missing() const {
     return charge.amount - (parts[0].amount + parts[1].amount);
 }
 
-std::string_view SplitCaption(RentClass rentClass) {
-    switch (rentClass) {
-        case RentClass::Subsidy:
-            return " Splitting Subsidy Charge";
-        case RentClass::Deposit:
-            return " Splitting Deposit Charge";
-        case RentClass::Rent:
-        case RentClass::OptionCredit:
-            break;
-    }
+std::string_view SplitCaption(TransactionClass rentClass) {
+    if (rentClass == TransactionClass::Subsidy) return " Splitting Subsidy Charge";
+    if (rentClass == TransactionClass::Deposit) return " Splitting Deposit Charge";
     return " Splitting Rent Charge";
 }
 
-std::vector<std::string> SplitCategories(RentClass rentClass) {
+std::vector<std::string> SplitCategories(TransactionClass rentClass) {
     std::vector<std::string> words = ChargeCategories(rentClass);
-    if (rentClass == RentClass::Rent) words.insert(words.begin() + 1, "Deferred Rent");
+    if (rentClass == TransactionClass::Rent) words.insert(words.begin() + 1, "Deferred Rent");
     return words;
 }
 

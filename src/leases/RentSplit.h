@@ -37,8 +37,8 @@ struct RentSplit {
     platform::Currency Missing() const;
 };
 
-std::string_view SplitCaption(RentClass rentClass);
-std::vector<std::string> SplitCategories(RentClass rentClass);
+std::string_view SplitCaption(TransactionClass rentClass);
+std::vector<std::string> SplitCategories(TransactionClass rentClass);
 
 /// Returns a charge to be split: the first part is like the charge, the second its deferred twin,
 /// with the amounts still to be entered. Returns nothing if it doesn't exist. Throws on failure.

@@ -94,7 +94,7 @@ Currency OptionCreditOf(const PaymentReturn& returned) {
 /// Rents that are open again.
 int CountRents(const PaymentReturn& returned) {
     int rents = CountPeriodRents(returned.payment);
-    if (returned.payment.rentClass != RentClass::Rent) return rents;
+    if (returned.payment.rentClass != TransactionClass::Rent) return rents;
     for (const CreditSpending& spending : returned.spendings)
         rents += CountPeriodRents(spending);
     return rents;

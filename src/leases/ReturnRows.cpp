@@ -30,7 +30,7 @@ RentLogEntry FeeOf(const PaymentReturn& returned) {
     RentLogEntry fee =
         EntryOf(returned, kCategoryReturnFee, returned.fee,
                 "Payment of " + returned.payment.dateEffective.ToText() + " returned");
-    if (fee.rentClass == RentClass::Deposit) fee.rentClass = RentClass::Rent;
+    if (fee.rentClass == TransactionClass::Deposit) fee.rentClass = TransactionClass::Rent;
     return fee;
 }
 
@@ -115,7 +115,7 @@ ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::Credit
     plan.fee = FeeOf(returned);
     plan.optionCredit = EntryOf(returned, kCategoryOptionCredit, -returned.optionCredit,
                                 "Payment of " + paid + " returned");
-    plan.optionCredit.rentClass = RentClass::OptionCredit;
+    plan.optionCredit.rentClass = TransactionClass::OptionCredit;
     plan.description = MarkedDescription(returned.date, payment.description);
     plan.dueNow = returned.dueNow;
     plan.dueAfter = returned.dueAfter;

@@ -102,13 +102,14 @@ class Writer {
         } else {
             platform::Recordset row =
                 core::Read("SELECT * FROM RentLog WHERE IdRentLog = ?", {credit.idRentLog});
-            const std::int32_t part = WriteRentLog({.idLease = IdOf(row["IdLease"]),
-                                                    .idTransaction = idTransaction,
-                                                    .datePosted = DateOf(row["DatePosted"]),
-                                                    .rentClass = RentClass{CountOf(row["Class"])},
-                                                    .category = TextOf(row["Category"]),
-                                                    .amount = -used,
-                                                    .description = TextOf(row["Description"])});
+            const std::int32_t part =
+                WriteRentLog({.idLease = IdOf(row["IdLease"]),
+                              .idTransaction = idTransaction,
+                              .datePosted = DateOf(row["DatePosted"]),
+                              .rentClass = TransactionClass{CountOf(row["Class"])},
+                              .category = TextOf(row["Category"]),
+                              .amount = -used,
+                              .description = TextOf(row["Description"])});
             TiePart(part, credit.idRentLog);
             core::Execute("UPDATE RentLog SET Amount = ? WHERE IdRentLog = ?",
                           {used - credit.left, credit.idRentLog});

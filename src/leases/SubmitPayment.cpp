@@ -72,7 +72,9 @@ books::References LinksOf(const RentPayment& payment) {
 
 /// The next payment proposes the account that received this one.
 void RememberAccount(const RentPayment& payment) {
-    if (payment.rentClass != RentClass::Rent && payment.rentClass != RentClass::Subsidy) return;
+    if (payment.rentClass != TransactionClass::Rent &&
+        payment.rentClass != TransactionClass::Subsidy)
+        return;
     core::Execute("UPDATE Lease SET RentAccount = ? WHERE IdLease = ?",
                   {payment.to.id, payment.idLease});
 }
@@ -94,7 +96,7 @@ void WritePaymentRow(const RentPayment& payment, std::int32_t idTransaction,
 }
 
 void SettleCharges(const RentPayment& payment, std::int32_t idTransaction) {
-    const bool moves = payment.IsNew() && payment.rentClass == RentClass::Rent;
+    const bool moves = payment.IsNew() && payment.rentClass == TransactionClass::Rent;
     for (const PaymentCharge& charge : payment.charges) {
         core::Settle(core::kRentLedger, charge.idRentLog, idTransaction,
                      charge.selected ? core::Settled::Yes : core::Settled::No);
@@ -136,8 +138,8 @@ RentPayment CheckUnchanged(const RentPayment& payment) {
 
 books::Transaction TransactionOf(const RentPayment& payment) {
     books::Transaction transaction = books::TransactionOf(payment, payment.Total());
-    transaction.ien =
-        payment.rentClass == RentClass::Deposit ? books::Ien::Unclassified : books::Ien::Income;
+    transaction.ien = payment.rentClass == TransactionClass::Deposit ? books::Ien::Unclassified
+                                                                     : books::Ien::Income;
     transaction.description = platform::Trim(payment.description);
     if (ReturnOf(payment.idTransaction) != 0) {
         transaction.description =

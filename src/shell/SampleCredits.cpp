@@ -13,7 +13,7 @@
 
 namespace shell {
 
-using leases::RentClass;
+using leases::TransactionClass;
 using platform::Currency;
 using platform::Date;
 using store::PayHabit;
@@ -49,7 +49,7 @@ Currency RentOf(std::int32_t idLease) {
 
 void PayMore(std::int32_t idLease, Currency more) {
     leases::UpdateLeaseById(idLease, leases::WalkMode::CatchUp);
-    const auto payment = leases::ProposePayment(idLease, RentClass::Rent);
+    const auto payment = leases::ProposePayment(idLease, TransactionClass::Rent);
     leases::SubmitAmount({payment, payment.Total() + more});
 }
 
@@ -108,7 +108,7 @@ void SampleCredits::ReturnLastPayment() {
 void SampleCredits::PayAgain() const {
     if (!returned_) return;
     leases::UpdateLeaseById(*returned_, leases::WalkMode::CatchUp);
-    const auto payment = leases::ProposePayment(*returned_, RentClass::Rent);
+    const auto payment = leases::ProposePayment(*returned_, TransactionClass::Rent);
     if (payment.Total() > Currency()) leases::SubmitPayment(payment);
 }
 

@@ -16,7 +16,7 @@
 
 namespace shell {
 
-using leases::RentClass;
+using core::TransactionClass;
 using leases::WalkMode;
 using platform::Date;
 using platform::DateAdd;
@@ -74,7 +74,7 @@ int DaysAfterDue(const store::SampleHabit& habit, const LeaseDates& lease) {
     return 0;
 }
 
-void Pay(std::int32_t idLease, RentClass rentClass) {
+void Pay(std::int32_t idLease, TransactionClass rentClass) {
     const leases::RentPayment payment = leases::ProposePayment(idLease, rentClass);
     if (payment.Total() > platform::Currency()) leases::SubmitPayment(payment);
 }
@@ -112,13 +112,13 @@ void SampleTenant::Begin() {
 
 void SampleTenant::PayOpenCharges() {
     leases::UpdateLeaseById(habit_.idLease, WalkMode::CatchUp);
-    if (!depositPaid_) Pay(habit_.idLease, RentClass::Deposit);
+    if (!depositPaid_) Pay(habit_.idLease, TransactionClass::Deposit);
     depositPaid_ = true;
     if (habit_.habit == PayHabit::PaidAhead && !ReadLease(habit_.idLease).over) {
         leases::UpdateLeaseById(habit_.idLease, WalkMode::RollForward);
     }
-    Pay(habit_.idLease, RentClass::Rent);
-    Pay(habit_.idLease, RentClass::Subsidy);
+    Pay(habit_.idLease, TransactionClass::Rent);
+    Pay(habit_.idLease, TransactionClass::Subsidy);
 }
 
 void SampleTenant::PlanNextPayment(Date day) {

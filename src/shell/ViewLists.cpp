@@ -13,14 +13,6 @@ namespace {
 
 constexpr std::string_view kAll = "All";
 
-const std::array<Choice, 7> kPeriods = {{{"Last 30 days", 30},
-                                         {"Last 60 days", 60},
-                                         {"Last 90 days", 90},
-                                         {"Last 180 days", 180},
-                                         {"Last Year", 365},
-                                         {"Last 2 Years", 731},
-                                         {"All", 0}}};
-
 constexpr std::array<std::string_view, 10> kFilterFields = {
     "None", "To",     "From",  "Category", "Building",
     "Unit", "Tenant", "Lease", "Mortgage", "Work Order"};
@@ -90,10 +82,6 @@ std::vector<std::string> ViewWords(std::int16_t kind) {
     }
     words.insert(words.end(), own.begin(), own.end());
     return words;
-}
-
-std::span<const Choice> Periods() {
-    return kPeriods;
 }
 
 std::span<const std::string_view> FilterFields() {

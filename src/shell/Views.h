@@ -33,8 +33,7 @@ std::string BuildViewSql(std::int16_t kind, const ViewFilter& filter, IdColumn i
 /// records are read from the database.
 std::vector<std::string> ViewWords(std::int16_t kind);
 
-/// Return the periods and the filter fields for transactions.
-std::span<const Choice> Periods();
+/// Returns the filter fields for transactions.
 std::span<const std::string_view> FilterFields();
 
 /// Returns the items of one filter field, "All" first, read from the database.

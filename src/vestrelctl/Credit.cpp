@@ -19,14 +19,14 @@ namespace vestrelctl {
 namespace {
 
 void PrintCredit(std::int32_t idLease) {
-    const auto balance = [&](leases::RentClass rentClass) {
+    const auto balance = [&](core::TransactionClass rentClass) {
         return platform::MoneyToFixedText(leases::CreditBalance(idLease, rentClass));
     };
-    std::cout << fmt::format("Lease {}: credit {}, of the subsidy {}, {}\n", idLease,
-                             balance(leases::RentClass::Rent), balance(leases::RentClass::Subsidy),
-                             leases::SettlesCharges(idLease)
-                                 ? "settles new charges on the day they fall due"
-                                 : "settles nothing by itself");
+    std::cout << fmt::format(
+        "Lease {}: credit {}, of the subsidy {}, {}\n", idLease,
+        balance(core::TransactionClass::Rent), balance(core::TransactionClass::Subsidy),
+        leases::SettlesCharges(idLease) ? "settles new charges on the day they fall due"
+                                        : "settles nothing by itself");
 }
 
 void CheckLease(std::int32_t idLease) {

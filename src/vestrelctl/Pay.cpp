@@ -66,7 +66,7 @@ void SetOrder(leases::RentPayment& payment, const std::vector<std::int32_t>& ord
 
 leases::RentPayment ReadPayment(const PayArguments& given) {
     leases::RentPayment payment =
-        leases::ProposePayment(given.lease, static_cast<leases::RentClass>(given.rentClass));
+        leases::ProposePayment(given.lease, static_cast<core::TransactionClass>(given.rentClass));
     SetParties(payment, given);
     if (!given.date.empty()) payment.dateEffective = platform::Date::Parse(given.date);
     payment.checkNumber = given.check;

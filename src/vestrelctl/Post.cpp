@@ -8,6 +8,9 @@
 
 #include "books/Categories.h"
 #include "books/PostTransaction.h"
+#include "core/Codes.h"
+#include "core/Descriptions.h"
+#include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
@@ -34,35 +37,31 @@ struct PostArguments {
     std::string date;
 };
 
-constexpr std::int16_t kEntered = 0;
-constexpr std::int16_t kDeposit = 3;
-constexpr std::int16_t kRefunded = 3;
-constexpr std::int16_t kChargedOff = 4;
+constexpr auto kEntered = static_cast<std::int16_t>(core::TransactionClass::Ordinary);
+constexpr auto kDeposit = static_cast<std::int16_t>(core::TransactionClass::Deposit);
+constexpr auto kRefunded = static_cast<std::int16_t>(core::DepositFlags::Refund);
+constexpr auto kChargedOff = static_cast<std::int16_t>(core::DepositFlags::Charge);
 
 /// An option that names a record that the transaction is about.
 struct Reference {
     const char* option;
     const char* name;
-    const char* select; ///< finds the record by its id
+    std::int16_t kind;
     std::int32_t Transaction::*id;
 };
 
 constexpr std::array<Reference, 6> kReferences = {
-    {{"--lease", "lease", "SELECT IdLease FROM Lease WHERE IdLease = ?", &Transaction::idLease},
-     {"--tenant", "tenant", "SELECT IdTenant FROM Tenant WHERE IdTenant = ?",
-      &Transaction::idTenant},
-     {"--building", "building", "SELECT IdBuilding FROM Building WHERE IdBuilding = ?",
-      &Transaction::idBuilding},
-     {"--unit", "unit", "SELECT IdUnit FROM Unit WHERE IdUnit = ?", &Transaction::idUnit},
-     {"--mortgage", "mortgage", "SELECT IdMortgage FROM Mortgage WHERE IdMortgage = ?",
-      &Transaction::idMortgage},
-     {"--work-order", "work order", "SELECT IdWorkOrder FROM WorkOrder WHERE IdWorkOrder = ?",
-      &Transaction::idWorkOrder}}};
+    {{"--lease", "lease", core::kLease, &Transaction::idLease},
+     {"--tenant", "tenant", core::kTenant, &Transaction::idTenant},
+     {"--building", "building", core::kBuilding, &Transaction::idBuilding},
+     {"--unit", "unit", core::kUnit, &Transaction::idUnit},
+     {"--mortgage", "mortgage", core::kMortgage, &Transaction::idMortgage},
+     {"--work-order", "work order", core::kWorkOrder, &Transaction::idWorkOrder}}};
 
 void CheckReferences(const Transaction& transaction) {
     for (const Reference& each : kReferences) {
         const std::int32_t id = transaction.*each.id;
-        if (id == 0 || core::Exists(each.select, {id})) continue;
+        if (id == 0 || core::RecordExists(each.kind, id)) continue;
         throw platform::Error(fmt::format("{}: there is no {} {}", each.option, each.name, id));
     }
 }

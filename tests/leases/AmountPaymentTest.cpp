@@ -20,9 +20,9 @@ namespace {
 
 using leases::AmountPayment;
 using leases::PaymentCharge;
-using leases::RentClass;
 using leases::RentFlags;
 using leases::RentPart;
+using leases::TransactionClass;
 using platform::Currency;
 using platform::Date;
 
@@ -163,13 +163,13 @@ TEST_F(PayAmount, FollowsAnOrderOfTheUsersOwn) {
 
 TEST_F(PayAmount, ACreditIsTakenInByALaterPaymentAsAnyCharge) {
     leases::SubmitAmount(Amount(300));
-    EXPECT_EQ(leases::CreditBalance(kLeaseId, RentClass::Rent), Currency::FromUnits(300));
+    EXPECT_EQ(leases::CreditBalance(kLeaseId, TransactionClass::Rent), Currency::FromUnits(300));
     EXPECT_EQ(Ask("SELECT RentDue FROM Lease"), "-300");
     EXPECT_THROW(leases::CheckNotTied(Id("SELECT IdOrigin FROM RentCredit")),
                  platform::ConflictError);
     EXPECT_NO_THROW(leases::CheckNotTied(Id("SELECT IdRentLog FROM RentCredit")));
     Charge(Date(2024, 4, 1), 1000, RentFlags::PeriodRent);
-    const leases::RentPayment rest = leases::ProposePayment(kLeaseId, RentClass::Rent);
+    const leases::RentPayment rest = leases::ProposePayment(kLeaseId, TransactionClass::Rent);
     EXPECT_EQ(rest.Total(), Currency::FromUnits(700));
     leases::SubmitPayment(rest);
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE IdTransaction = 0"), "0");
@@ -178,7 +178,8 @@ TEST_F(PayAmount, ACreditIsTakenInByALaterPaymentAsAnyCharge) {
 }
 
 TEST_F(PayAmount, OfADepositOrASubsidyKeepsWhatIsOverInItsOwnClass) {
-    for (const RentClass rentClass : {RentClass::Deposit, RentClass::Subsidy}) {
+    for (const TransactionClass rentClass :
+         {TransactionClass::Deposit, TransactionClass::Subsidy}) {
         Restart();
         Charge(Date(2024, 1, 1), 800, RentFlags::Ordinary, rentClass);
         leases::SubmitAmount(Amount(500, rentClass));
@@ -186,7 +187,7 @@ TEST_F(PayAmount, OfADepositOrASubsidyKeepsWhatIsOverInItsOwnClass) {
         leases::SubmitAmount(Amount(450, rentClass));
         EXPECT_EQ(leases::CreditBalance(kLeaseId, rentClass), Currency::FromUnits(150));
         EXPECT_EQ(Ask("SELECT DateNextDue FROM Lease"), "01/01/2024");
-        const bool isDeposit = rentClass == RentClass::Deposit;
+        const bool isDeposit = rentClass == TransactionClass::Deposit;
         EXPECT_EQ(Ask("SELECT DepositDue FROM Lease"), isDeposit ? "-150" : "0");
         EXPECT_EQ(Ask("SELECT DepositBalance FROM Lease"), isDeposit ? "950" : "0");
         EXPECT_EQ(Ask("SELECT SubsDue FROM Lease"), isDeposit ? "0" : "-150");

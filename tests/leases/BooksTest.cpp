@@ -25,12 +25,16 @@ void BooksTest::Run(std::string_view sql) {
     core::App().Connection.Execute(sql);
 }
 
+BooksTest::Lines BooksTest::Rows(std::string_view sql) {
+    return support::Rows(core::App().Connection, sql);
+}
+
 std::string BooksTest::Ask(std::string_view sql) {
     return support::Ask(core::App().Connection, sql);
 }
 
 std::int32_t BooksTest::Charge(platform::Date day, int units, leases::RentFlags flags,
-                               leases::RentClass rentClass) {
+                               core::TransactionClass rentClass) {
     return leases::WriteRentLog(
         {.idLease = kLeaseId,
          .datePosted = day,

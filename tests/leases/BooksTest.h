@@ -23,10 +23,12 @@ class BooksTest : public testing::Test {
     static void Run(std::string_view sql);
     /// The first column of the first row as text; "null" for a null, "-" without a row.
     static std::string Ask(std::string_view sql);
+    /// The rows of a select, fields separated by "|".
+    static Lines Rows(std::string_view sql);
     /// Adds an open row of the ledger, described "AMOUNT on DAY"; answers its id.
     static std::int32_t Charge(platform::Date day, int units,
                                leases::RentFlags flags = leases::RentFlags::Ordinary,
-                               leases::RentClass rentClass = leases::RentClass::Rent);
+                               core::TransactionClass rentClass = core::TransactionClass::Rent);
     /// The ledger by id: date, flags, amount, and + for a settled row, - for an open one.
     static Lines Ledger();
 

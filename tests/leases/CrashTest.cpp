@@ -22,8 +22,8 @@ namespace tests {
 
 namespace {
 
+using core::TransactionClass;
 using leases::LeaseCommand;
-using leases::RentClass;
 using leases::RentPayment;
 using platform::Date;
 
@@ -62,14 +62,14 @@ TEST_F(Crash, APaymentIsNeverHalf) {
             ", 2, True, True, 'Rent Payment', 1, 1, 105, 1, 106, 80, 'Fees', 1, 'Fee')");
     }
     ExpectWhole(CrashAtEveryStatement([] {
-                    leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Rent));
+                    leases::SubmitPayment(leases::ProposePayment(kLeaseId, TransactionClass::Rent));
                 }),
                 30);
     EXPECT_EQ(Scalar("SELECT Count(*) FROM Transactions"), "3");
 }
 
 TEST_F(Crash, AnEditedPaymentIsNeverHalf) {
-    const auto id = leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Rent));
+    const auto id = leases::SubmitPayment(leases::ProposePayment(kLeaseId, TransactionClass::Rent));
     ExpectWhole(CrashAtEveryStatement([id] {
                     RentPayment payment = leases::ReadPayment(id);
                     payment.charges.front().selected = false;

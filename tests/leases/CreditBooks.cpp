@@ -50,7 +50,7 @@ std::int32_t CreditBooks::Id(std::string_view select) {
     return core::App().Connection.Scalar(select)->AsLong();
 }
 
-leases::AmountPayment CreditBooks::Amount(int units, leases::RentClass rentClass) {
+leases::AmountPayment CreditBooks::Amount(int units, leases::TransactionClass rentClass) {
     return {leases::ProposePayment(kLeaseId, rentClass), platform::Currency::FromUnits(units)};
 }
 

@@ -17,8 +17,8 @@ class CreditBooks : public BooksTest {
     static void Restart();
     static std::int32_t Id(std::string_view select);
     /// A payment of this many units for all that is open.
-    static leases::AmountPayment Amount(int units,
-                                        leases::RentClass rentClass = leases::RentClass::Rent);
+    static leases::AmountPayment Amount(
+        int units, leases::TransactionClass rentClass = leases::TransactionClass::Rent);
 
     /// The ledger, a row a line and sorted: day, category, description, amount.
     static Lines LedgerLines();

@@ -24,8 +24,8 @@ namespace tests {
 
 namespace {
 
-using leases::RentClass;
 using leases::RentFlags;
+using leases::TransactionClass;
 using leases::WalkMode;
 using platform::Currency;
 using platform::Date;
@@ -214,8 +214,8 @@ TEST_F(CreditWalk, LeavesAYearWithoutCreditsAsItWas) {
         for (int day = 1; day <= 366; ++day) {
             Start(DateAdd(platform::Interval::Day, 1, platform::Today()));
             if (day % 45 == 0) {
-                leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Rent));
-                leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Subsidy));
+                leases::SubmitPayment(leases::ProposePayment(kLeaseId, TransactionClass::Rent));
+                leases::SubmitPayment(leases::ProposePayment(kLeaseId, TransactionClass::Subsidy));
             }
             if (day % 90 == 0) {
                 const support::ScriptedDialogs dialogs({day % 180 == 0});
@@ -256,7 +256,7 @@ TEST_F(CreditWalk, KeepsTheSumsThroughYearsOfEverything) {
         int returns = 0;
         for (int day = 0; day < 400 && !HasFailure(); ++day) {
             Start(DateAdd(platform::Interval::Day, 1, platform::Today()));
-            const auto rentClass = RentClass{static_cast<std::int16_t>(1 + pick(2))};
+            const auto rentClass = TransactionClass{static_cast<std::int16_t>(1 + pick(2))};
             const std::int32_t last = Ask("SELECT Count(*) FROM Transactions") == "0"
                                           ? 0
                                           : Id("SELECT Max(IdTransaction) FROM Transactions");

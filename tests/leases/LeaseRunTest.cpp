@@ -106,24 +106,24 @@ TEST_F(LeaseRun, NeedsNoFeeThatNeverFallsDue) {
 
 TEST_F(LeaseRun, SumsTheLedgerIntoTheBalances) {
     struct Entry {
-        leases::RentClass rentClass;
+        core::TransactionClass rentClass;
         leases::RentFlags flags;
         int amount;
         std::int32_t idTransaction;
     };
-    using leases::RentClass;
+    using core::TransactionClass;
     using leases::RentFlags;
-    for (const Entry& entry :
-         std::initializer_list<Entry>{{RentClass::Rent, RentFlags::PeriodRent, 900, 0},
-                                      {RentClass::Rent, RentFlags::Ordinary, -40, 0},
-                                      {RentClass::Rent, RentFlags::PeriodRent, 900, 7},
-                                      {RentClass::Rent, RentFlags::Payment, -900, 7},
-                                      {RentClass::Subsidy, RentFlags::Ordinary, 300, 0},
-                                      {RentClass::Deposit, RentFlags::Ordinary, 500, 0},
-                                      {RentClass::Deposit, RentFlags::Ordinary, 250, 8},
-                                      {RentClass::Deposit, RentFlags::Payment, -250, 8},
-                                      {RentClass::Deposit, RentFlags::DepositRefund, 100, 9},
-                                      {RentClass::OptionCredit, RentFlags::Ordinary, 25, 7}}) {
+    for (const Entry& entry : std::initializer_list<Entry>{
+             {TransactionClass::Rent, RentFlags::PeriodRent, 900, 0},
+             {TransactionClass::Rent, RentFlags::Ordinary, -40, 0},
+             {TransactionClass::Rent, RentFlags::PeriodRent, 900, 7},
+             {TransactionClass::Rent, RentFlags::Payment, -900, 7},
+             {TransactionClass::Subsidy, RentFlags::Ordinary, 300, 0},
+             {TransactionClass::Deposit, RentFlags::Ordinary, 500, 0},
+             {TransactionClass::Deposit, RentFlags::Ordinary, 250, 8},
+             {TransactionClass::Deposit, RentFlags::Payment, -250, 8},
+             {TransactionClass::Deposit, RentFlags::DepositRefund, 100, 9},
+             {TransactionClass::OptionCredit, RentFlags::Ordinary, 25, 7}}) {
         leases::WriteRentLog({.idLease = kLeaseId,
                               .idTransaction = entry.idTransaction,
                               .datePosted = Date(2024, 1, 1),

@@ -49,35 +49,15 @@ TEST_F(LeaseWizard, MakesALeaseAsIfItHadRunSinceItsStart) {
     Run("INSERT INTO Deposit (IdDeposit, IdBuilding, IdUnit, IsGlobal, Description, Amount) "
         "VALUES (300, 0, 0, True, 'Damage', 200)");
     const std::int32_t id = leases::FinishLeaseWizard(Entry());
-    for (const auto& [field, value] :
-         std::vector<std::pair<const char*, const char*>>{{"IdUnit", "102"},
-                                                          {"IdTenant", "103"},
-                                                          {"Hide", "False"},
-                                                          {"Selected", "False"},
-                                                          {"DateCreated", "03/05/2024"},
-                                                          {"DateActive", "02/01/2024"},
-                                                          {"DateRenewed", "02/01/2024"},
-                                                          {"DateNextDue", "02/01/2024"},
-                                                          {"DateUpdated", "03/05/2024"},
-                                                          {"Status", "Contracted"},
-                                                          {"RentStatus", "Warning"},
-                                                          {"TermType", "Month(s)"},
-                                                          {"Term", "12"},
-                                                          {"ExpireOption", "Renew"},
-                                                          {"RentAccount", "105"},
-                                                          {"DepositAccount", "106"},
-                                                          {"Subs", "False"},
-                                                          {"OneTimeFee", "25"},
-                                                          {"OneTimeDays", "5"},
-                                                          {"DailyFee", "2"},
-                                                          {"EvictDays", "60"},
-                                                          {"[Option]", "False"},
-                                                          {"LastPaid", "0"},
-                                                          {"PetList", ""},
-                                                          {"Notes", "Added by Lease Wizard"},
-                                                          {"DepositDue", "200"}}) {
-        EXPECT_EQ(Field(id, field), value) << field;
-    }
+    EXPECT_EQ(Rows("SELECT IdUnit, IdTenant, Hide, Selected, DateCreated, DateActive, DateRenewed, "
+                   "DateNextDue, DateUpdated, Status, RentStatus, TermType, Term, ExpireOption, "
+                   "RentAccount, DepositAccount, Subs, OneTimeFee, OneTimeDays, DailyFee, "
+                   "EvictDays, [Option], LastPaid, PetList, Notes, DepositDue FROM Lease WHERE "
+                   "IdLease = " +
+                   std::to_string(id)),
+              (Lines{"102|103|False|False|03/05/2024|02/01/2024|02/01/2024|02/01/2024|03/05/2024|"
+                     "Contracted|Warning|Month(s)|12|Renew|105|106|False|25|5|2|60|False|0||"
+                     "Added by Lease Wizard|200"}));
     // Two rents, the one-time fee of the first, and the daily fee from the eleventh day.
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE Flags = 1"), "2");
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE Amount = 25"), "1");

@@ -19,7 +19,7 @@ namespace tests {
 
 namespace {
 
-using leases::RentClass;
+using core::TransactionClass;
 using leases::RentFlags;
 using leases::RentSplit;
 using platform::Currency;
@@ -43,7 +43,7 @@ class LedgerTest : public BooksTest {
 
 TEST_F(LedgerTest, EachTabShowsItsRowsTheLatestFirstAndSumsWhatIsOpen) {
     for (const int rentClass : {1, 2, 3, 4}) {
-        const RentClass of{static_cast<std::int16_t>(rentClass)};
+        const TransactionClass of{static_cast<std::int16_t>(rentClass)};
         Charge(Date(2024, 2, 1), 100 * rentClass, RentFlags::Ordinary, of);
         Charge(Date(2023, 12, 31), -10 * rentClass, RentFlags::Ordinary, of);
         const auto paid = Charge(Date(2024, 1, 1), rentClass, RentFlags::Ordinary, of);
@@ -105,8 +105,8 @@ TEST_F(LedgerTest, ATransactionThatTakesADepositOutHasOneRowInTheLedger) {
 }
 
 TEST_F(LedgerTest, ADepositIsOfferedForRefundOnce) {
-    Charge(Date(2024, 1, 1), 300, RentFlags::Ordinary, RentClass::Deposit);
-    leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Deposit));
+    Charge(Date(2024, 1, 1), 300, RentFlags::Ordinary, TransactionClass::Deposit);
+    leases::SubmitPayment(leases::ProposePayment(kLeaseId, TransactionClass::Deposit));
     books::RegisterTransactionListener(leases::WriteDepositRow);
     Lines told;
     const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t id) {

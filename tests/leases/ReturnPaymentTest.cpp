@@ -20,14 +20,14 @@ namespace tests {
 
 namespace {
 
-using leases::RentClass;
 using leases::RentFlags;
+using leases::TransactionClass;
 using platform::Currency;
 using platform::Date;
 
 class Return : public CreditBooks {
   protected:
-    static std::int32_t PayAll(RentClass rentClass = RentClass::Rent) {
+    static std::int32_t PayAll(TransactionClass rentClass = TransactionClass::Rent) {
         return leases::SubmitPayment(leases::ProposePayment(kLeaseId, rentClass));
     }
     static std::int32_t GiveBack(std::int32_t id, int fee = 0) {
@@ -95,14 +95,15 @@ TEST_F(Return, PutsTheLeaseBackToWhereItWasAndChargesTheFee) {
 }
 
 TEST_F(Return, OfEveryClassIsEvenAndAFeeIsNeverADeposit) {
-    for (const RentClass rentClass : {RentClass::Subsidy, RentClass::Deposit}) {
+    for (const TransactionClass rentClass :
+         {TransactionClass::Subsidy, TransactionClass::Deposit}) {
         Restart();
         Charge(Date(2024, 1, 1), 800, RentFlags::Ordinary, rentClass);
         const Lines before = LedgerLines();
         GiveBack(PayAll(rentClass), 15);
         EXPECT_EQ(Open(), "815");
         EXPECT_EQ(Ask("SELECT DateNextDue FROM Lease"), "01/01/2024");
-        const bool isDeposit = rentClass == RentClass::Deposit;
+        const bool isDeposit = rentClass == TransactionClass::Deposit;
         EXPECT_EQ(Ask("SELECT Class FROM RentLog WHERE Category = 'NSF Fee'"),
                   isDeposit ? "1" : "2");
         EXPECT_EQ(Ask("SELECT DepositDue FROM Lease"), isDeposit ? "800" : "0");
@@ -192,7 +193,7 @@ TEST_F(Return, TakesBackTheCreditAndWhatWasBoughtWithIt) {
             Charge(Date(2024, 2, 9), spent + 10);
             leases::SubmitAmount(Amount(10));
         }
-        EXPECT_EQ(leases::CreditBalance(kLeaseId, RentClass::Rent),
+        EXPECT_EQ(leases::CreditBalance(kLeaseId, TransactionClass::Rent),
                   Currency::FromUnits(500 - spent));
         const leases::PaymentReturn returned = leases::ProposeReturn(id);
         std::string told;
@@ -202,7 +203,7 @@ TEST_F(Return, TakesBackTheCreditAndWhatWasBoughtWithIt) {
         }
         EXPECT_EQ(told, "Credit withdrawn -500;");
         leases::SubmitReturn(returned);
-        EXPECT_EQ(leases::CreditBalance(kLeaseId, RentClass::Rent), Currency());
+        EXPECT_EQ(leases::CreditBalance(kLeaseId, TransactionClass::Rent), Currency());
         EXPECT_EQ(Open(), std::to_string(1000 + spent));
         EXPECT_EQ(
             Ask("SELECT Sum(Amount) FROM RentLog WHERE IdTransaction = " + std::to_string(id)),
@@ -242,7 +243,7 @@ TEST_F(Return, LeavesAPaymentWhoseTextsCanBeEditedAndNothingElse) {
 
 TEST_F(Return, AcrossTheEndOfAYearTakesNothingFromTheOldOne) {
     Charge(Date(2023, 12, 1), 1000, RentFlags::PeriodRent);
-    leases::RentPayment payment = leases::ProposePayment(kLeaseId, RentClass::Rent);
+    leases::RentPayment payment = leases::ProposePayment(kLeaseId, TransactionClass::Rent);
     payment.dateEffective = Date(2023, 12, 31);
     leases::PaymentReturn returned = leases::ProposeReturn(leases::SubmitPayment(payment));
     returned.date = Date(2024, 1, 2);
@@ -316,7 +317,7 @@ TEST_F(Return, DeletingAPaymentByAmountTakesItsCreditAlong) {
     Charge(Date(2024, 2, 9), 600);
     const std::int32_t user = leases::SubmitAmount(Amount(100));
     Delete(user, true);
-    EXPECT_EQ(leases::CreditBalance(kLeaseId, RentClass::Rent), Currency::FromUnits(500));
+    EXPECT_EQ(leases::CreditBalance(kLeaseId, TransactionClass::Rent), Currency::FromUnits(500));
     ExpectBalanced();
 }
 

@@ -16,8 +16,8 @@ namespace tests {
 
 namespace {
 
-using leases::RentClass;
 using leases::RentFlags;
+using leases::TransactionClass;
 using platform::Currency;
 using platform::Date;
 
@@ -37,7 +37,7 @@ class SpentCredit : public CreditBooks {
         leases::UpdateLeaseById(kLeaseId, leases::WalkMode::CatchUp);
     }
     static std::int32_t PayAll() {
-        return leases::SubmitPayment(leases::ProposePayment(kLeaseId, RentClass::Rent));
+        return leases::SubmitPayment(leases::ProposePayment(kLeaseId, TransactionClass::Rent));
     }
     /// Month and day.
     static std::string NextDue() { return Ask("SELECT DateNextDue FROM Lease").substr(0, 5); }
@@ -115,7 +115,7 @@ TEST_F(SpentCredit, GoesBackWithThePaymentThatBroughtIt) {
         EXPECT_EQ(NextDue(), c.due);
         EXPECT_EQ(Open(), c.open);
         EXPECT_EQ(Ask("SELECT OptionBalance FROM Lease"), c.option);
-        EXPECT_EQ(leases::CreditBalance(kLeaseId, RentClass::Rent), Currency());
+        EXPECT_EQ(leases::CreditBalance(kLeaseId, TransactionClass::Rent), Currency());
         EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE Amount = 0 AND Description NOT "
                       "LIKE 'Returned *'"),
                   "0");

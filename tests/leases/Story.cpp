@@ -20,7 +20,7 @@
 
 namespace tests {
 
-using leases::RentClass;
+using core::TransactionClass;
 using leases::WalkMode;
 using platform::CursorMode;
 using platform::Date;
@@ -35,7 +35,7 @@ std::pair<std::string, std::string> SplitField(const std::string& line) {
             std::string(platform::Trim(line.substr(equals + 1)))};
 }
 
-void Pay(RentClass rentClass) {
+void Pay(TransactionClass rentClass) {
     leases::SubmitPayment(leases::ProposePayment(kLeaseId, rentClass));
 }
 
@@ -64,13 +64,13 @@ void Happen(const std::string& event) {
     } else if (event == "reprocess") {
         leases::UpdateLeaseById(kLeaseId, WalkMode::Reprocess);
     } else if (event == "pay rent") {
-        Pay(RentClass::Rent);
+        Pay(TransactionClass::Rent);
     } else if (event == "pay subsidy") {
-        Pay(RentClass::Subsidy);
+        Pay(TransactionClass::Subsidy);
     } else if (event == "pay deposit") {
-        Pay(RentClass::Deposit);
+        Pay(TransactionClass::Deposit);
     } else if (event.starts_with("pay amount ")) {
-        leases::SubmitAmount({leases::ProposePayment(kLeaseId, RentClass::Rent),
+        leases::SubmitAmount({leases::ProposePayment(kLeaseId, TransactionClass::Rent),
                               platform::StrToMoney(rest("pay amount "))});
     } else if (event.starts_with("return payment, fee ")) {
         leases::PaymentReturn returned = leases::ProposeReturn(LastPayment());

@@ -26,7 +26,7 @@ namespace tests {
 
 namespace {
 
-using leases::RentClass;
+using core::TransactionClass;
 using leases::RentFlags;
 using leases::RentPayment;
 using leases::ShownAs;
@@ -45,7 +45,9 @@ class TwoPrograms : public BooksTest {
                 other_.Execute(statement);
         });
     }
-    static RentPayment Propose() { return leases::ProposePayment(kLeaseId, RentClass::Rent); }
+    static RentPayment Propose() {
+        return leases::ProposePayment(kLeaseId, TransactionClass::Rent);
+    }
     /// The message of the refusal, "" if the routine did its work. A refusal changes nothing.
     static std::string Refusal(const std::function<void()>& work) {
         const Lines before = DumpBooks();

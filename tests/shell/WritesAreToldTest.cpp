@@ -41,8 +41,8 @@
 
 namespace {
 
+using core::TransactionClass;
 using leases::LeaseCommand;
-using leases::RentClass;
 using mortgages::MortgageCommand;
 using platform::Date;
 using removal::Confirm;
@@ -125,7 +125,7 @@ class WritesAreTold : public tests::Portfolio {
 };
 
 leases::RentPayment Payment() {
-    return leases::ProposePayment(700, RentClass::Rent);
+    return leases::ProposePayment(700, TransactionClass::Rent);
 }
 
 books::Transaction Repair() {

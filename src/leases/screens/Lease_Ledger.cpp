@@ -146,9 +146,9 @@ void Lease_Ledger::Load(std::int32_t idLease) {
 
 void Lease_Ledger::OfferTabs(bool subsidy, bool option) {
     for (int i = 0; i < tabs_->count(); ++i) {
-        const RentClass rentClass = kLedgerTabs[static_cast<std::size_t>(i)].rentClass;
-        if (rentClass == RentClass::Subsidy) tabs_->setTabVisible(i, subsidy);
-        if (rentClass == RentClass::OptionCredit) tabs_->setTabVisible(i, option);
+        const TransactionClass rentClass = kLedgerTabs[static_cast<std::size_t>(i)].rentClass;
+        if (rentClass == TransactionClass::Subsidy) tabs_->setTabVisible(i, subsidy);
+        if (rentClass == TransactionClass::OptionCredit) tabs_->setTabVisible(i, option);
     }
 }
 
@@ -183,16 +183,16 @@ void Lease_Ledger::ShowTotal(const std::vector<LedgerRow>& rows) {
 void Lease_Ledger::ShowAvailable() {
     const bool isStored = idLease_ != 0;
     const bool isSelected = list_->CurrentId() != 0;
-    const bool isDeposit = Tab().rentClass == RentClass::Deposit;
+    const bool isDeposit = Tab().rentClass == TransactionClass::Deposit;
     add_->setEnabled(isStored);
     edit_->setEnabled(isSelected);
     delete_->setEnabled(!list_->SelectedIds().empty());
     select_->setEnabled(list_->topLevelItemCount() > 0);
-    rent_->setVisible(Tab().rentClass != RentClass::OptionCredit);
+    rent_->setVisible(Tab().rentClass != TransactionClass::OptionCredit);
     rent_->setEnabled(isStored);
-    rent_->setText(Tab().rentClass == RentClass::Rent ? tr("Pay Rent...")
-                   : isDeposit                        ? tr("Pay Deposit...")
-                                                      : tr("Pay Subsidy..."));
+    rent_->setText(Tab().rentClass == TransactionClass::Rent ? tr("Pay Rent...")
+                   : isDeposit                               ? tr("Pay Deposit...")
+                                                             : tr("Pay Subsidy..."));
     return_->setVisible(Tab().rows == LedgerRows::Settled);
     return_->setEnabled(isSelected);
     for (QPushButton* const button : {refund_, charge_}) {

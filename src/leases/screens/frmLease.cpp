@@ -13,6 +13,7 @@
 #include "core/binding/Binding.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/ControlValue.h"
+#include "core/binding/NumberBox.h"
 #include "core/binding/Tags.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/TabPages.h"
@@ -323,8 +324,7 @@ void frmLease::Run(LeaseCommand command) {
     Apply();
     if (!saved_) return;
     const std::int32_t id = Id();
-    const double days =
-        platform::TryParseNumber(FromScreen(terms_->txtNoticeDays->text())).value_or(0);
+    const double days = core::binding::NumberIn(*terms_->txtNoticeDays);
     Perform([&] {
         RunCommand(command, id, platform::RoundToInt16(days));
         if (command == LeaseCommand::Reprocess || command == LeaseCommand::RollForward) {

@@ -1,14 +1,12 @@
 #include "leases/screens/frmLeaseWizard.h"
 
-#include <QLabel>
-#include <QVBoxLayout>
-
 #include "core/EditRecord.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
 #include "core/References.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/EnableContainer.h"
+#include "core/binding/NumberBox.h"
 #include "core/forms/ErrorRoll.h"
 #include "leases/LeaseEditor.h"
 #include "leases/screens/frmChargeFrom.h"
@@ -45,16 +43,9 @@ frmLeaseWizard::frmLeaseWizard(QWidget* parent)
 frmLeaseWizard::~frmLeaseWizard() = default;
 
 void frmLeaseWizard::MakeSteps() {
-    QFrame& intro = AddStep(tr("Welcome"), tr("New Lease"));
-    auto* const text = new QLabel(tr("This wizard will help you create a simple lease based on "
-                                     "existing properties or tenants, or you may add a new "
-                                     "property or tenant."),
-                                  &intro);
-    text->setObjectName(QStringLiteral("lblIntro"));
-    text->setWordWrap(true);
-    auto* const column = new QVBoxLayout(&intro);
-    column->addWidget(text);
-    column->addStretch();
+    AddTextStep(tr("Welcome"), tr("New Lease"),
+                tr("This wizard will help you create a simple lease based on existing properties "
+                   "or tenants, or you may add a new property or tenant."));
     property_->setupUi(&AddStep(tr("Property"), tr("Choose the property that will be leased")));
     tenant_->setupUi(&AddStep(tr("Tenant"), tr("Choose the tenant for this lease")));
     terms_->setupUi(&AddStep(tr("Terms"), tr("Set up the basic terms of the lease")));
@@ -69,8 +60,7 @@ void frmLeaseWizard::Connect() {
     connect(property_->txtZipCode, &QLineEdit::editingFinished, this, &frmLeaseWizard::LookUpZip);
     for (QLineEdit* const days : {terms_->txtTerm, terms_->txtLateDays}) {
         connect(days, &QLineEdit::editingFinished, this, [days] {
-            const auto number = platform::TryParseNumber(FromScreen(days->text()));
-            days->setText(ToScreen(platform::FormatNumber(number.value_or(0), "#")));
+            days->setText(ToScreen(platform::FormatNumber(core::binding::NumberIn(*days), "#")));
         });
     }
 }
@@ -117,8 +107,8 @@ void frmLeaseWizard::LookUpZip() {
 
 LeaseWizardEntry frmLeaseWizard::Entered() const {
     const auto text = [](const QLineEdit* box) { return FromScreen(box->text().trimmed()); };
-    const auto count = [&](const QLineEdit* box) {
-        return platform::RoundToInt16(platform::TryParseNumber(text(box)).value_or(0));
+    const auto count = [](const QLineEdit* box) {
+        return platform::RoundToInt16(core::binding::NumberIn(*box));
     };
     return {.newProperty = property_->optProperty1->isChecked(),
             .idUnit = GetSelectedId(*property_->cboProperty),

@@ -45,7 +45,7 @@ frmRentLog::frmRentLog(QWidget* parent)
 
 frmRentLog::~frmRentLog() = default;
 
-void frmRentLog::Setup(std::int32_t id, std::int32_t idLease, RentClass rentClass) {
+void frmRentLog::Setup(std::int32_t id, std::int32_t idLease, TransactionClass rentClass) {
     entry_ = {.idLease = idLease, .rentClass = rentClass};
     const bool isNew = id == 0 || !IsThere(id);
     OpenRecord(
@@ -67,7 +67,7 @@ void frmRentLog::ShowRow(platform::Recordset& row) {
     RecordForm::ShowRow(row);
     entry_.idLease = row["IdLease"].AsLong();
     entry_.idTransaction = row["IdTransaction"].AsLong();
-    entry_.rentClass = RentClass{row["Class"].AsInteger()};
+    entry_.rentClass = TransactionClass{row["Class"].AsInteger()};
     entry_.flags = RentFlags{platform::CountOf(row["Flags"])};
 }
 

@@ -21,7 +21,7 @@ class frmRentLog : public core::forms::RecordForm {
     ~frmRentLog() override;
 
     /// Opens a row, or a new one (0) of a lease and class.
-    void Setup(std::int32_t id, std::int32_t idLease, RentClass rentClass);
+    void Setup(std::int32_t id, std::int32_t idLease, TransactionClass rentClass);
 
   protected:
     void ShowRow(platform::Recordset& row) override;

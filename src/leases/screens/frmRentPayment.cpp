@@ -133,8 +133,8 @@ void frmRentPayment::Connect() {
             [this] { Perform([this] { SplitCharge(); }); });
 }
 
-void frmRentPayment::Setup(std::int32_t idTransaction, std::int32_t idLease, RentClass rentClass,
-                           LeaseUpdate update) {
+void frmRentPayment::Setup(std::int32_t idTransaction, std::int32_t idLease,
+                           TransactionClass rentClass, LeaseUpdate update) {
     update_ = update;
     OpenPayment(idTransaction, [&] {
         payment_ =
@@ -276,7 +276,7 @@ void frmRentPayment::ShowTotal() {
 
 void frmRentPayment::ShowAvailable() {
     const bool isChosen = ui_->lvwCharges->CurrentId() != 0;
-    const bool isRent = payment_.rentClass == RentClass::Rent;
+    const bool isRent = payment_.rentClass == TransactionClass::Rent;
     ui_->cmdSplit->setEnabled(isChosen);
     for (QAction* const action : ChargeMenu().actions()) {
         const QString name = action->objectName();

@@ -30,7 +30,7 @@ class frmRentPayment : public books::screens::PaymentForm {
 
     /// Opens a stored payment, or a new one (0) for the open charges of a lease and class. `update`
     /// says whether the lease is brought up to date afterwards.
-    void Setup(std::int32_t idTransaction, std::int32_t idLease, RentClass rentClass,
+    void Setup(std::int32_t idTransaction, std::int32_t idLease, TransactionClass rentClass,
                LeaseUpdate update);
 
   protected:

@@ -69,7 +69,7 @@ void frmMortgage::Connect() {
         });
     }
     connect(origin_->cmdMaxRates, &QPushButton::clicked, this, &frmMortgage::ShowWorstCase);
-    connect(amort_, &AmortPage::OwnScheduleAsked, this, &frmMortgage::Reckon);
+    connect(amort_, &AmortPage::OwnScheduleAsked, this, &frmMortgage::Recalculate);
     connect(general_->cmdIncDueDate, &QPushButton::clicked, this, [this] { MoveDueDate(1); });
     connect(general_->cmdDecDueDate, &QPushButton::clicked, this, [this] { MoveDueDate(-1); });
 }

@@ -67,7 +67,7 @@ class frmMortgage : public core::forms::RecordForm {
     void ReadTerms(clsMortgage& loan) const;
     void ReadSavedTerms(clsMortgage& loan) const;
     void TermsChanged();
-    void Reckon();
+    void Recalculate();
     void ShowLoan();
     void ShowCurrent();
     void UpdateOptions();

@@ -86,7 +86,7 @@ void frmMortgage::OpenAdjustment(void (frmMortgageAdjust::*setup)(const clsMortg
 /// Kept until the save, which applies it to the loan as it is stored then.
 void frmMortgage::AdjustLoan(const Adjustment& adjustment) {
     adjustments_.push_back(adjustment);
-    Reckon();
+    Recalculate();
     MarkDirty();
 }
 
@@ -106,7 +106,7 @@ void frmMortgage::FollowOthers(const core::binding::Controls& /*touched*/) {
     if (row.Eof()) return;
     stored_ = clsMortgage();
     stored_.LoadRS(row);
-    Reckon();
+    Recalculate();
     ucMtgLog_->Load(Id());
 }
 

@@ -66,7 +66,7 @@ void frmMortgage::ShowTerms() {
     ShowNumber(*origin_->txtBalloonPer, loan_.BalloonPer());
     ShowPenaltyAndRates();
     KeepShownTerms();
-    Reckon();
+    Recalculate();
 }
 
 void frmMortgage::ShowPenaltyAndRates() {
@@ -127,7 +127,7 @@ void frmMortgage::ReadSavedTerms(clsMortgage& loan) const {
 }
 
 void frmMortgage::TermsChanged() {
-    if (!Loading()) Reckon();
+    if (!Loading()) Recalculate();
 }
 
 /// Shows the highest rates that an adjustable loan can reach, on a copy: the loan keeps its own.
@@ -142,7 +142,7 @@ void frmMortgage::ShowWorstCase() {
 }
 
 /// Terms that can't be calculated, such as half-typed ones, are reported beside the schedule.
-void frmMortgage::Reckon() {
+void frmMortgage::Recalculate() {
     try {
         loan_ = stored_;
         MakeChangesOn(loan_);

@@ -7,6 +7,7 @@
 #include "core/RecordKinds.h"
 #include "core/Settings.h"
 #include "core/binding/ComboList.h"
+#include "core/binding/PeriodBox.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/grid/Grid.h"
 #include "platform/qt/Text.h"
@@ -20,7 +21,7 @@ using platform::qt::ToScreen;
 
 namespace {
 
-constexpr int kUsualPeriod = 2;   // "Last 90 days"
+constexpr int kUsualDays = 90;
 constexpr int kManyRows = 20'000; // from here on a search waits for a pause in the typing
 constexpr int kTypingPauseMs = 250;
 
@@ -47,7 +48,7 @@ ViewPanel::ViewPanel(QWidget* parent)
 ViewPanel::~ViewPanel() = default;
 
 void ViewPanel::FillChoices() {
-    Fill(*ui_->cboDays, Periods(), kUsualPeriod);
+    core::binding::FillPeriods(*ui_->cboDays, kUsualDays);
     std::vector<Choice> fields;
     for (const std::string_view field : FilterFields())
         fields.push_back({std::string(field), 0});

@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-#include "core/Globals.h"
+#include "core/Rows.h"
 #include "core/binding/Wiring.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/Help.h"
@@ -42,8 +42,8 @@ void frmMoveUnit::Setup(const QString& unit, std::function<void(std::int32_t)> m
 }
 
 void frmMoveUnit::Fill() {
-    platform::Recordset rows;
-    rows.Open(core::App().Connection, "SELECT IdBuilding, Address FROM Building ORDER BY Address");
+    platform::Recordset rows =
+        core::Read("SELECT IdBuilding, Address FROM Building ORDER BY Address");
     for (; !rows.Eof(); rows.MoveNext()) {
         auto* const item = new QListWidgetItem(
             platform::qt::ToScreen(platform::TextOf(rows["Address"])), ui_->lstBuildings);

@@ -12,13 +12,14 @@
 #include "support/KeepingDesktop.h"
 #include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::forms::Subject;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class DocMenus : public support::ScreenTest {
+class DocMenus : public ScreenTest {
   protected:
     DocMenus() {
         core::LoadConfiguration();
@@ -43,7 +44,7 @@ class DocMenus : public support::ScreenTest {
             *form_, kind, {.apply = [] {}, .close = [] {}, .save = [this] { return Save(); }});
         unsaved_ = std::move(subjects);
         bar_->Show(unsaved_);
-        support::SettleEvents();
+        SettleEvents();
     }
     /// A new record has its id after the save.
     bool Save() {
@@ -59,7 +60,7 @@ class DocMenus : public support::ScreenTest {
     }
     void Trigger(int item) {
         form_->findChildren<QAction*>("mnuDocItem").at(item)->trigger();
-        support::SettleEvents();
+        SettleEvents();
     }
 
     std::unique_ptr<QDialog> form_;
@@ -84,7 +85,7 @@ TEST_F(DocMenus, OfferTheTemplatesOfTheirRecord) {
 
     Template("Another.txt", 1, "");
     bar_->Show({{core::kLease, 40}});
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(3U, Items().size()) << "the list is read whenever the menu opens";
     saves_ = false;
     Trigger(0);
@@ -124,3 +125,4 @@ TEST_F(DocMenus, ReportATemplateThatIsGone) {
 }
 
 } // namespace
+} // namespace support

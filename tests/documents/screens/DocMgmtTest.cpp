@@ -9,12 +9,12 @@
 #include "support/ScriptedChoosers.h"
 #include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using documents::screens::frmDocMgmt;
-using support::Find;
 
-class DocMgmtScreen : public support::ScreenTest {
+class DocMgmtScreen : public ScreenTest {
   protected:
     frmDocMgmt& OpenForm() {
         auto* const form = new frmDocMgmt;
@@ -112,13 +112,14 @@ TEST_F(DocMgmtScreen, OffersTheProgramsOwnTemplates) {
     frmDocMgmt& form = OpenForm();
     auto& shipped = Find<QPushButton>(form, "cmdShipped");
     ASSERT_TRUE(shipped.isVisible());
-    EXPECT_TRUE(support::Portray(form, "frmDocMgmt-empty").empty());
+    EXPECT_TRUE(Portray(form, "frmDocMgmt-empty").empty());
     support::ClickOn(shipped);
     EXPECT_EQ("Late Notice", Ask("SELECT Description FROM Doc WHERE selLease = True"));
     EXPECT_EQ("2", Ask("SELECT Count(*) FROM Doc"));
     EXPECT_FALSE(shipped.isVisible()) << "all of them are on the list";
     Find<QTableWidget>(form, "grd").setCurrentCell(0, 0);
-    EXPECT_TRUE(support::Portray(form, "frmDocMgmt").empty());
+    EXPECT_TRUE(Portray(form, "frmDocMgmt").empty());
 }
 
 } // namespace
+} // namespace support

@@ -9,7 +9,6 @@
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollArea>
-#include <QTabWidget>
 #include <functional>
 #include <set>
 
@@ -21,10 +20,10 @@
 #include "support/screens/Driving.h"
 #include "support/screens/ScreenChecks.h"
 
+namespace support {
 namespace {
 
 using core::forms::Form;
-using platform::qt::FromScreen;
 using testing::IsEmpty;
 using Faults = std::set<std::string>;
 
@@ -107,7 +106,7 @@ TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
         for (const char* const time : {"", " again"}) {
             const std::string name = opening.name + time;
             opening.open();
-            support::SettleEvents();
+            SettleEvents();
             ASSERT_EQ(Open().size(), 1U) << name;
             Form& form = *Open().front();
             faults.merge(FocusFaults(form, name));
@@ -119,7 +118,7 @@ TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
             });
             const std::string key = FromScreen(form.objectName());
             form.CloseUnasked();
-            support::SettleEvents();
+            SettleEvents();
             ASSERT_THAT(Open(), IsEmpty()) << name;
             core::SaveForm(key, core::WindowState::Normal, {-30, 200, 3000, 2000});
         }
@@ -154,3 +153,4 @@ TEST_F(EveryForm, ShowsAllOfItsTextsAtTwiceTheSize) {
 }
 
 } // namespace
+} // namespace support

@@ -39,7 +39,7 @@ std::vector<Opening> EveryForm::Openings() {
     openings.push_back({"frmRentPayment", [] {
                             (new leases::screens::frmRentPayment)
                                 ->Setup(0, Id("SELECT Max(IdLease) FROM Lease"),
-                                        leases::RentClass::Rent, leases::LeaseUpdate::Yes);
+                                        core::TransactionClass::Rent, leases::LeaseUpdate::Yes);
                         }});
     openings.push_back({"frmReturnPayment", [] {
                             (new leases::screens::frmReturnPayment)

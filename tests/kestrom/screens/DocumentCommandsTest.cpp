@@ -1,25 +1,20 @@
 #include <gmock/gmock.h>
 
-#include <QAction>
-#include <QMenu>
-
 #include "core/Configuration.h"
-#include "core/RecordKinds.h"
 #include "core/Startup.h"
 #include "documents/DocList.h"
 #include "kestrom/Wiring.h"
-#include "platform/qt/Text.h"
 #include "platform/system/Paths.h"
 #include "shell/screens/frmKestrom.h"
 #include "support/KeepingDesktop.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using testing::ElementsAre;
 
-class DocumentCommands : public support::ScreenTest {
+class DocumentCommands : public ScreenTest {
   protected:
     DocumentCommands() {
         core::LoadBooks();
@@ -28,7 +23,7 @@ class DocumentCommands : public support::ScreenTest {
         services.commands = kestrom::MenuCommands();
         window_ = std::make_unique<shell::screens::frmKestrom>(std::move(services));
         window_->Setup({});
-        support::SettleEvents();
+        SettleEvents();
     }
 
     void Template(const std::string& name, std::size_t flag, const std::string& text) {
@@ -37,7 +32,7 @@ class DocumentCommands : public support::ScreenTest {
     }
     core::grid::Grid& Show(std::int16_t kind) {
         window_->SetSelectedDb(kind);
-        support::SettleEvents();
+        SettleEvents();
         return support::Find<core::grid::Grid>(*window_, "grd");
     }
     QAction& Letters() { return support::Find<QAction>(*window_, "mnuPrintDoc"); }
@@ -68,7 +63,7 @@ TEST_F(DocumentCommands, MakeALetterForEachSelectedRow) {
     EXPECT_THAT(Heard(), testing::IsEmpty());
 
     grid.selectAll();
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_TRUE(Letters().isEnabled()) << "several rows are fine";
     Offered();
     Answer({false, true});
@@ -98,3 +93,4 @@ TEST_F(DocumentCommands, OfferAUnitTheLettersOfItsBuilding) {
 }
 
 } // namespace
+} // namespace support

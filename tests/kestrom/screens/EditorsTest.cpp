@@ -1,25 +1,20 @@
 #include <gmock/gmock.h>
 
-#include <QTabWidget>
 #include <algorithm>
 
 #include "core/forms/RecordForm.h"
 #include "kestrom/screens/SampleEditors.h"
 #include "platform/database/Recordset.h"
-#include "platform/qt/Text.h"
 #include "shell/screens/frmConfig.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::forms::Form;
-using platform::qt::FromScreen;
 using testing::IsEmpty;
 using tests::Kind;
 using tests::kKinds;
-using Said = std::vector<std::string>;
 
 class Editors : public tests::SampleEditors {
   protected:
@@ -80,22 +75,22 @@ class Editors : public tests::SampleEditors {
                 EXPECT_THAT(heard(), IsEmpty()) << name;
                 EXPECT_THAT(Changes(before, Row(kind, id)), IsEmpty()) << name;
                 core::forms::CloseAllForms();
-                support::SettleEvents();
+                SettleEvents();
             }
         }
     }
     /// The faults in how a screen looks and is used, page by page.
     static std::vector<std::string> Faults(Form& form) {
         const std::string name = "sample-" + FromScreen(form.objectName());
-        std::vector<std::string> faults = support::NameFaults(form);
+        std::vector<std::string> faults = NameFaults(form);
         const auto add = [&](const std::vector<std::string>& more, const std::string& page) {
             for (const std::string& fault : more)
                 faults.push_back(page + ": " + fault);
         };
         const auto look = [&](const std::string& page) {
-            add(support::MnemonicFaults(form), page);
-            add(support::TabOrderFaults(form), page);
-            add(support::Portray(form, page), page);
+            add(MnemonicFaults(form), page);
+            add(TabOrderFaults(form), page);
+            add(Portray(form, page), page);
         };
         auto* const tabs = form.findChild<QTabWidget*>();
         if (!tabs) look(name);
@@ -128,7 +123,7 @@ TEST_F(Editors, OpenRecordsCleanAndOnlyOnce) {
         EXPECT_THAT(Faults(form), IsEmpty()) << name;
         form.close();
         EXPECT_THAT(Heard(), IsEmpty()) << name << " asks though nothing was changed";
-        support::SettleEvents();
+        SettleEvents();
         EXPECT_THAT(Open(), IsEmpty()) << name << " doesn't close";
         core::forms::CloseAllForms();
     }
@@ -205,9 +200,10 @@ TEST_F(Editors, OpenNewRecordsOfTheirOwn) {
         EXPECT_THAT(Heard(), IsEmpty()) << name << " asks though nothing was entered";
         EXPECT_EQ(Ask(std::string("SELECT Count(*) FROM ") + kind.table), rows)
             << name << " is written without being asked";
-        support::SettleEvents();
+        SettleEvents();
         core::forms::CloseAllForms();
     }
 }
 
 } // namespace
+} // namespace support

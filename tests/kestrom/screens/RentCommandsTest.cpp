@@ -1,12 +1,9 @@
-#include <QApplication>
-
-#include "core/RecordKinds.h"
 #include "kestrom/Wiring.h"
 #include "leases/screens/frmLeaseWizard.h"
 #include "leases/screens/frmRentPayment.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 template <class Screen>
@@ -19,11 +16,11 @@ std::vector<Screen*> Open() {
     return screens;
 }
 
-class RentCommands : public support::ScreenTest {
+class RentCommands : public ScreenTest {
   protected:
     static void Run(const char* item, std::int32_t id) {
         kestrom::MenuCommands().Run(QLatin1String(item), {core::kLease, id});
-        support::SettleEvents();
+        SettleEvents();
     }
 };
 
@@ -50,3 +47,4 @@ TEST_F(RentCommands, OpenTheLeaseWizardOnce) {
 }
 
 } // namespace
+} // namespace support

@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <QAction>
 #include <QMenuBar>
 #include <QTableWidget>
 #include <algorithm>
@@ -17,15 +16,15 @@
 #include "reports/screens/frmReportViewer.h"
 #include "shell/GridReport.h"
 #include "shell/Views.h"
-#include "support/screens/Driving.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::forms::Form;
 using core::forms::RecordMenu;
 using reports::RecordForm;
 using reports::screens::frmReportViewer;
-using support::Find;
 
 /// The program's record forms and commands with the report files that come with it.
 class ReportCommands : public tests::SampleEditors {
@@ -69,19 +68,19 @@ class ReportCommands : public tests::SampleEditors {
     }
     /// The report that the viewer has just shown, which is closed; empty without a viewer.
     static std::string Shown() {
-        support::SettleEvents();
+        SettleEvents();
         frmReportViewer* const viewer = Viewer();
         if (viewer == nullptr) return {};
         EXPECT_TRUE(viewer->Document().IsComplete());
         const std::string title = viewer->windowTitle().toStdString();
         viewer->close();
-        support::SettleEvents();
+        SettleEvents();
         return title.substr(std::string("Vestrel Report Viewer - ").size());
     }
     /// Runs every item of this name; each must show the report of `id` that it stands for.
     static int RunAll(const Form& form, const char* name, std::int32_t id) {
         // What a menu held before is deleted once events run.
-        support::SettleEvents();
+        SettleEvents();
         const auto items = [&] { return form.findChildren<QAction*>(QLatin1String(name)); };
         const int count = static_cast<int>(items().size());
         for (int at = 0; at < count; ++at) {
@@ -127,7 +126,7 @@ TEST_F(ReportCommands, EveryRecordFormPrintsItsRecordAndRunsItsReports) {
             EXPECT_EQ(RunAll(form, "mnuReceiptItem", id), 1);
         }
         form.close();
-        support::SettleEvents();
+        SettleEvents();
     }
     EXPECT_EQ(Heard(), std::vector<std::string>{});
 }
@@ -192,7 +191,7 @@ TEST_F(ReportCommands, TheMainWindowPrintsTheSelectedRecordAndItsLists) {
     for (QWidget* const window : windows) {
         if (window->objectName() == "frmPageSetup") window->close();
     }
-    support::SettleEvents();
+    SettleEvents();
 }
 
 TEST_F(ReportCommands, SayWhyTheyAreDisabledWithoutReportFiles) {
@@ -215,7 +214,7 @@ TEST_F(ReportCommands, SayWhyTheyAreDisabledWithoutReportFiles) {
         EXPECT_GT(prints, 0) << kind;
         EXPECT_TRUE(form.findChildren<QAction*>(QStringLiteral("mnuReportItem")).empty());
         Open().front()->close();
-        support::SettleEvents();
+        SettleEvents();
     }
 }
 
@@ -240,3 +239,4 @@ TEST_F(ReportCommands, ABuildingOpensItsDepreciationOnce) {
 }
 
 } // namespace
+} // namespace support

@@ -1,12 +1,10 @@
 #pragma once
 
-#include <QApplication>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "core/EditRecord.h"
-#include "core/RecordKinds.h"
 #include "core/Startup.h"
 #include "core/forms/Form.h"
 #include "core/forms/OpenForms.h"
@@ -14,7 +12,7 @@
 #include "platform/system/Clock.h"
 #include "shell/Registrations.h"
 #include "shell/SampleLife.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace tests {
 

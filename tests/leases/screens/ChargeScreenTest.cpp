@@ -1,13 +1,5 @@
 // One charge, and one that is split.
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QRadioButton>
-#include <QTest>
-
-#include "core/NotifyAll.h"
 #include "core/Settings.h"
 #include "leases/screens/LeaseScreens.h"
 #include "leases/screens/frmRentLog.h"
@@ -17,23 +9,18 @@ namespace tests {
 
 namespace {
 
-using leases::RentClass;
+using core::TransactionClass;
 using leases::RentFlags;
 using leases::screens::frmRentLog;
 using leases::screens::frmRentSplit;
 
 class ChargeScreen : public LeaseScreenTest {
   protected:
-    static QPointer<frmRentLog> Open(std::int32_t id, RentClass rentClass = RentClass::Rent) {
-        QPointer<frmRentLog> form(new frmRentLog);
-        form->Setup(id, kLease, rentClass);
-        return form;
+    static QPointer<frmRentLog> Open(std::int32_t id,
+                                     TransactionClass rentClass = TransactionClass::Rent) {
+        return support::Show<frmRentLog>(id, kLease, rentClass);
     }
-    static QPointer<frmRentSplit> Split(std::int32_t id) {
-        QPointer<frmRentSplit> form(new frmRentSplit);
-        form->Setup(id);
-        return form;
-    }
+    static QPointer<frmRentSplit> Split(std::int32_t id) { return support::Show<frmRentSplit>(id); }
     static std::string Row(std::string_view field, std::string_view where = "True") {
         return Ask("SELECT " + std::string(field) + " FROM RentLog WHERE " + std::string(where));
     }
@@ -41,10 +28,10 @@ class ChargeScreen : public LeaseScreenTest {
 
 TEST_F(ChargeScreen, ANewOneStartsWithTheWordOfItsClass) {
     for (const auto& [rentClass, caption, word] :
-         {std::tuple{RentClass::Rent, " Editing Rent Charge", "Misc Charge"},
-          {RentClass::Subsidy, " Editing Subsidy Charge", "Misc Charge"},
-          {RentClass::Deposit, " Editing Deposit Charge", "Misc Deposit"},
-          {RentClass::OptionCredit, " Editing Lease Option Charge", "Misc Credit"}}) {
+         {std::tuple{TransactionClass::Rent, " Editing Rent Charge", "Misc Charge"},
+          {TransactionClass::Subsidy, " Editing Subsidy Charge", "Misc Charge"},
+          {TransactionClass::Deposit, " Editing Deposit Charge", "Misc Deposit"},
+          {TransactionClass::OptionCredit, " Editing Lease Option Charge", "Misc Credit"}}) {
         Run("DELETE * FROM RentLog");
         const auto form = Open(0, rentClass);
         EXPECT_EQ(form->windowTitle().toStdString(), caption);
@@ -230,10 +217,7 @@ TEST_F(ChargeScreen, LooksAndReadsRight) {
     Type(Find<QLineEdit>(*split, "txtAmount1"), "300");
     for (const auto& [form, name] :
          {std::pair<QWidget*, const char*>{charge, "frmRentLog"}, {split, "frmRentSplit"}}) {
-        EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-        EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-        EXPECT_EQ(support::NameFaults(*form), Said{});
-        EXPECT_EQ(support::Portray(*form, name), Said{});
+        EXPECT_EQ(support::LookFaults(*form, name), Said{});
     }
 }
 

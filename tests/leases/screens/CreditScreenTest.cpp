@@ -19,7 +19,7 @@ namespace tests {
 
 namespace {
 
-using leases::RentClass;
+using leases::TransactionClass;
 using leases::screens::frmLease;
 using leases::screens::frmReturnPayment;
 using platform::qt::FromScreen;
@@ -27,7 +27,7 @@ using platform::qt::FromScreen;
 class CreditScreen : public PaymentScreenBooks {
   protected:
     static std::int32_t PayAll() {
-        return leases::SubmitPayment(leases::ProposePayment(kLease, RentClass::Rent));
+        return leases::SubmitPayment(leases::ProposePayment(kLease, TransactionClass::Rent));
     }
     /// The rows of the preview: the first column and the amount.
     static Said Preview(const QWidget& form) {
@@ -74,7 +74,7 @@ TEST_F(CreditScreen, AnAmountShowsEachRowBeforeItPostsThem) {
     // A change elsewhere neither loses the order nor the ticks that the user chose.
     Charge("05/09/2024", 5);
     support::SettleEvents();
-    EXPECT_EQ(Rows(*form, "lvwCharges")[1].substr(0, 12), "x 05/06/2024");
+    EXPECT_EQ(ListRows(*form, "lvwCharges")[1].substr(0, 12), "x 05/06/2024");
     ClickOn(Find<QPushButton>(*form, "cmdRestoreTicks"));
     ClickAction(*form, "SUBMIT");
     EXPECT_EQ(Heard(), Said{});

@@ -1,52 +1,17 @@
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTabBar>
-#include <QTabWidget>
-#include <QToolButton>
 
 #include "core/Configuration.h"
-#include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "leases/RentPayment.h"
-#include "leases/screens/LeaseScreens.h"
-#include "leases/screens/frmLease.h"
+#include "leases/screens/LeaseForm.h"
 #include "platform/system/Clock.h"
 
 namespace tests {
 
 namespace {
 
-using leases::RentClass;
+using core::TransactionClass;
 using leases::RentFlags;
 using leases::screens::frmLease;
-
-const std::string kRoll = "Whoa!: The following errors have occured:\n\n";
-
-class LeaseForm : public LeaseScreenTest {
-  protected:
-    static QPointer<frmLease> Open(std::int32_t id = kLease) {
-        QPointer<frmLease> form(new frmLease);
-        form->Setup(id);
-        return form;
-    }
-    static bool IsEnabled(const QWidget& form, const char* name) {
-        if (const auto* const action = form.findChild<QAction*>(QLatin1String(name))) {
-            return action->isEnabled();
-        }
-        return Find<QWidget>(form, name).isEnabled();
-    }
-    static std::string Titles(const Said& heard) {
-        std::string titles;
-        for (const std::string& said : heard)
-            titles += said.substr(0, said.find(':')) + ";";
-        return titles;
-    }
-};
 
 TEST_F(LeaseForm, OpeningALeaseBringsItUpToDate) {
     Set("DateUpdated", "03/31/2024");
@@ -262,76 +227,6 @@ TEST_F(LeaseForm, WhatRunsOnHasNoTermAndAPartOpensItsFields) {
     EXPECT_GE(Find<QComboBox>(*form, "cboSubsidy").findText(QStringLiteral("Zu, Li")), 0);
 }
 
-TEST_F(LeaseForm, CommandsAskSaveAndMoveTheLease) {
-    const auto form = Open();
-    Answer({false, true, true, true, true});
-    Trigger(*form, "mnuGiveNotice");
-    EXPECT_EQ(Lease("Status"), "Contracted") << "No changes nothing";
-    Type(Find<QLineEdit>(*form, "txtNoticeDays"), "10");
-    Trigger(*form, "mnuGiveNotice");
-    EXPECT_EQ(Titles(Heard()), "Give Notice?;Give Notice?;");
-    EXPECT_EQ(Lease("Status"), "Notice");
-    EXPECT_EQ(Lease("NoticeDays"), "10") << "saved first";
-    EXPECT_EQ(Text(*form, "txtStatus"), "Notice");
-    EXPECT_EQ(Text(*form, "dpDateVacating"), "05/27/2024");
-    EXPECT_TRUE(IsEnabled(*form, "dpDateVacating"));
-    Trigger(*form, "mnuCancelNotice");
-    EXPECT_EQ(Text(*form, "txtStatus"), "Contracted");
-    EXPECT_EQ(Text(*form, "dpDateVacating"), "");
-    Trigger(*form, "mnuBreakLease");
-    EXPECT_EQ(Text(*form, "txtStatus"), "Broken");
-    EXPECT_EQ(Text(*form, "txtRentStatus"), "n/a");
-    EXPECT_EQ(Ask("SELECT Status FROM Unit WHERE IdUnit = 20"), "Avaliable");
-    Trigger(*form, "mnuRenewLease");
-    EXPECT_EQ(Text(*form, "txtStatus"), "Contracted");
-    EXPECT_FALSE(form->Dirty());
-}
-
-TEST_F(LeaseForm, ACommandStopsWhenTheSaveIsRefused) {
-    const auto form = Open();
-    Type(Find<QLineEdit>(*form, "txtRent"), "0");
-    Answer({true});
-    Trigger(*form, "mnuBreakLease");
-    EXPECT_EQ(Titles(Heard()), "Break Lease?;Whoa!;");
-    EXPECT_EQ(Lease("Status"), "Contracted");
-    EXPECT_EQ(Lease("Rent"), "950");
-}
-
-TEST_F(LeaseForm, RollForwardAndReprocessPostAndShowTheirCharges) {
-    Set("DateNextDue", "06/01/2024");
-    Set("Discount", "25");
-    const auto form = Open();
-    Answer({true, true});
-    Trigger(*form, "mnuRollFOrward");
-    EXPECT_EQ(Rows(*form, "lvw"),
-              (Said{"06/01/2024|Rent|Rent due 06/01/2024|950.00|925.00",
-                    "05/27/2024|Rent Discount|Discount for rent due 06/01/2024|(25.00)|(25.00)"}));
-    EXPECT_EQ(Text(*form, "txtRentDue"), "925.00");
-    EXPECT_EQ(Titles(Heard()), "Confirm Roll Forward;");
-    Set("DateNextDue", "05/01/2024");
-    Set("DateUpdated", "05/17/2024");
-    core::NotifyAll(core::kLease, core::kRecordsChanged, kLease);
-    Trigger(*form, "mnuReprocess");
-    EXPECT_EQ(Rows(*form, "lvw").size(), 4U) << "the rent of May and its late fee besides";
-    EXPECT_EQ(Titles(Heard()), "Confirm Reprocess;");
-}
-
-TEST_F(LeaseForm, APaymentElsewhereShowsAtOnceAndTypedWordsStay) {
-    Charge("05/01/2024", 950, RentFlags::PeriodRent);
-    const auto form = Open();
-    EXPECT_EQ(Text(*form, "txtRentDue"), "950.00");
-    Find<QPlainTextEdit>(*form, "mtxtNotes").setPlainText(QStringLiteral("Call her"));
-    leases::SubmitPayment(leases::ProposePayment(kLease, RentClass::Rent));
-    EXPECT_EQ(Text(*form, "dpDateNextDue"), "06/01/2024");
-    EXPECT_EQ(Text(*form, "txtRentDue"), "0.00");
-    EXPECT_EQ(Text(*form, "txtRentStatus"), "OK");
-    EXPECT_EQ(Rows(*form, "lvw"), Said{});
-    EXPECT_TRUE(form->Dirty());
-    ClickAction(*form, "CLOSE");
-    EXPECT_EQ(Lease("DateNextDue"), "06/01/2024") << "the save doesn't undo the payment";
-    EXPECT_EQ(Lease("Notes"), "Call her");
-}
-
 TEST_F(LeaseForm, OpensItsUnitAndItsTenantAndOnceIsTheLeaseItself) {
     const auto form = Open();
     ClickAction(*form, "UNIT");
@@ -382,7 +277,7 @@ TEST_F(LeaseForm, ALeaseWhoseUnitIsGoneCanBeGivenAnotherAndBePaid) {
     const auto form = Open();
     EXPECT_FALSE(IsEnabled(*form, "cboIdTenant"));
     EXPECT_EQ(Text(*form, "cboIdUnit"), "Unit no. 20 (deleted)");
-    leases::SubmitPayment(leases::ProposePayment(kLease, RentClass::Rent));
+    leases::SubmitPayment(leases::ProposePayment(kLease, TransactionClass::Rent));
     EXPECT_EQ(Ask("SELECT IdUnit - IdBuilding FROM Transactions WHERE Amount = 950"), "20");
     Choose(*form, "cboIdUnit", "12 Elm St A");
     EXPECT_EQ(Text(*form, "txtRent"), "950.00") << "its own rent stays";
@@ -398,15 +293,7 @@ TEST_F(LeaseForm, LooksAndReadsRight) {
     Charge("05/11/2024", 15);
     Run("UPDATE Lease SET Subs = True, SubsAmt = 300, SubsidyId = 60, [Option] = True");
     const auto form = Open();
-    auto& tabs = Find<QTabWidget>(*form, "tabs");
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    for (int page = 0; page < tabs.count(); ++page) {
-        tabs.setCurrentIndex(page);
-        support::SettleEvents();
-        EXPECT_EQ(support::MnemonicFaults(*form), Said{}) << page;
-        EXPECT_EQ(support::TabOrderFaults(*form), Said{}) << page;
-        EXPECT_EQ(support::Portray(*form, "frmLease" + std::to_string(page)), Said{}) << page;
-    }
+    EXPECT_EQ(support::LookFaultsOfTabs(*form, "frmLease"), Said{});
     EXPECT_LE(form->width(), 1280);
     EXPECT_LE(form->height(), 760);
 }

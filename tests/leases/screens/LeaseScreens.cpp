@@ -1,21 +1,13 @@
 #include "leases/screens/LeaseScreens.h"
 
-#include <QAction>
-#include <QLineEdit>
-#include <QTreeWidget>
-
 #include "core/Configuration.h"
 #include "core/EditRecord.h"
-#include "core/RecordKinds.h"
 #include "leases/screens/frmLease.h"
 #include "leases/screens/frmRentLog.h"
 #include "platform/database/Recordset.h"
-#include "platform/qt/Text.h"
 #include "platform/values/Date.h"
 
 namespace tests {
-
-using platform::qt::FromScreen;
 
 LeaseScreenTest::LeaseScreenTest() {
     Run("DELETE * FROM Lease");
@@ -41,7 +33,7 @@ LeaseScreenTest::LeaseScreenTest() {
     core::RegisterOpener(core::kRentLog, [](const core::EditRequest& request) {
         (new leases::screens::frmRentLog)
             ->Setup(request.id, request.parent1,
-                    leases::RentClass{static_cast<std::int16_t>(request.parent3)});
+                    core::TransactionClass{static_cast<std::int16_t>(request.parent3)});
     });
 }
 
@@ -51,7 +43,7 @@ LeaseScreenTest::~LeaseScreenTest() {
 }
 
 std::int32_t LeaseScreenTest::Charge(const char* day, int units, leases::RentFlags flags,
-                                     leases::RentClass rentClass) {
+                                     core::TransactionClass rentClass) {
     return leases::WriteRentLog(
         {.idLease = kLease,
          .datePosted = platform::Date::Parse(day),
@@ -70,37 +62,6 @@ void LeaseScreenTest::Set(std::string_view field, std::string_view value) {
 
 std::string LeaseScreenTest::Lease(std::string_view field) {
     return Ask("SELECT " + std::string(field) + " FROM Lease WHERE IdLease = 40");
-}
-
-std::string LeaseScreenTest::Text(const QWidget& form, const char* box) {
-    const QWidget& control = Find<QWidget>(form, box);
-    for (const char* const property : {"currentText", "text"}) {
-        const QVariant text = control.property(property);
-        if (text.isValid()) return FromScreen(text.toString());
-    }
-    return "?";
-}
-
-Said LeaseScreenTest::Rows(const QWidget& form, const char* list) {
-    const auto& tree = Find<QTreeWidget>(form, list);
-    Said rows;
-    for (int row = 0; row < tree.topLevelItemCount(); ++row) {
-        const QTreeWidgetItem* const item = tree.topLevelItem(row);
-        std::string line = item->checkState(0) == Qt::Checked ? "x " : "";
-        for (int column = 0; column < tree.columnCount(); ++column) {
-            if (tree.isColumnHidden(column)) continue;
-            line += (column > 0 ? "|" : "") + FromScreen(item->text(column));
-        }
-        rows.push_back(line);
-    }
-    return rows;
-}
-
-void LeaseScreenTest::Trigger(const QWidget& form, const char* item) {
-    auto* const action = form.findChild<QAction*>(QLatin1String(item));
-    if (!action) throw std::runtime_error(std::string("no item ") + item);
-    if (!action->isEnabled()) throw std::runtime_error(std::string(item) + " can't be chosen");
-    action->trigger();
 }
 
 } // namespace tests

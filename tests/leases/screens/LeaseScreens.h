@@ -1,15 +1,10 @@
 #pragma once
 
-#include <QApplication>
-#include <QPointer>
 #include <string>
 #include <vector>
 
 #include "leases/RentLog.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace tests {
 
@@ -17,8 +12,14 @@ using support::Choose;
 using support::ClickAction;
 using support::ClickOn;
 using support::Find;
+using support::kRoll;
+using support::ListRows;
+using support::LookFaults;
+using support::Opened;
+using support::Said;
+using support::Text;
+using support::Trigger;
 using support::Type;
-using Said = std::vector<std::string>;
 
 inline constexpr std::int32_t kLease = 40;
 
@@ -32,22 +33,9 @@ class LeaseScreenTest : public support::ScreenTest {
     /// An open row of the ledger; answers its id.
     static std::int32_t Charge(const char* day, int units,
                                leases::RentFlags flags = leases::RentFlags::Ordinary,
-                               leases::RentClass rentClass = leases::RentClass::Rent);
+                               core::TransactionClass rentClass = core::TransactionClass::Rent);
     static void Set(std::string_view field, std::string_view value);
     static std::string Lease(std::string_view field);
-    static std::string Text(const QWidget& form, const char* box);
-    /// The rows of a list of charges as they show, cells separated by "|", ticked ones with "x ".
-    static Said Rows(const QWidget& form, const char* list);
-    /// The form of this class that is open last.
-    template <class Screen>
-    static QPointer<Screen> Opened() {
-        for (QWidget* const window : QApplication::topLevelWidgets()) {
-            auto* const form = qobject_cast<Screen*>(window);
-            if (form && form->isVisible()) return form;
-        }
-        return nullptr;
-    }
-    static void Trigger(const QWidget& form, const char* item);
 
     /// "kind id" of each other record that was opened.
     std::vector<std::string> opened_;

@@ -17,7 +17,7 @@ class PaymentScreenBooks : public LeaseScreenTest {
     }
 
     static QPointer<leases::screens::frmRentPayment> Open(
-        std::int32_t id = 0, leases::RentClass rentClass = leases::RentClass::Rent) {
+        std::int32_t id = 0, leases::TransactionClass rentClass = leases::TransactionClass::Rent) {
         QPointer<leases::screens::frmRentPayment> form(new leases::screens::frmRentPayment);
         form->Setup(id, kLease, rentClass, leases::LeaseUpdate::Yes);
         return form;

@@ -1,19 +1,12 @@
 // The road of one rent: the first of the month passes, and what follows from it on the screens.
 
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
 
 #include "alerts/screens/Alerts.h"
 #include "books/TransactionListeners.h"
 #include "books/screens/frmTransaction.h"
 #include "core/DailyRun.h"
 #include "core/EditRecord.h"
-#include "core/RecordKinds.h"
 #include "leases/DumpBooks.h"
 #include "leases/LeaseRun.h"
 #include "leases/Ledger.h"
@@ -109,10 +102,10 @@ TEST_F(RoadOfARent, GoesFromTheFirstOfTheMonthToTheBooks) {
     EXPECT_EQ(Lease("DateNextDue"), "07/01/2024");
     EXPECT_EQ(Text(*lease, "dpDateNextDue"), "07/01/2024");
     EXPECT_EQ(Text(*lease, "txtRentStatus"), "OK");
-    EXPECT_EQ(Rows(*lease, "lvw"), Said{});
+    EXPECT_EQ(ListRows(*lease, "lvw"), Said{});
     Find<QTabBar>(Find<QWidget>(*lease, "ucLL"), "tab").setCurrentIndex(1);
-    EXPECT_EQ(Rows(*lease, "lvw"), (Said{"06/01/2024|Rent Payment|Rent Payment|(950.00)",
-                                         "06/01/2024|Rent|Rent due 06/01/2024|950.00"}));
+    EXPECT_EQ(ListRows(*lease, "lvw"), (Said{"06/01/2024|Rent Payment|Rent Payment|(950.00)",
+                                             "06/01/2024|Rent|Rent due 06/01/2024|950.00"}));
     Live(Date(2024, 6, 1));
     EXPECT_EQ(RentNotices(), Said{});
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE Amount = 950 AND DebitId = 30 "
@@ -190,7 +183,7 @@ TEST_F(AYear, IsTheSameByTheScreensAndByTheCompanion) {
 
 TEST_F(RoadOfARent, ADepositIsPaidAndGivenBack) {
     books::RegisterTransactionListener(leases::WriteDepositRow);
-    Charge("05/01/2024", 500, leases::RentFlags::Ordinary, leases::RentClass::Deposit);
+    Charge("05/01/2024", 500, leases::RentFlags::Ordinary, core::TransactionClass::Deposit);
     core::EditRecord(core::kLease, kLease);
     const auto lease = Opened<frmLease>();
     const QWidget& ledger = Find<QWidget>(*lease, "ucLL");
@@ -212,7 +205,7 @@ TEST_F(RoadOfARent, ADepositIsPaidAndGivenBack) {
                   "WHERE Flags = 3 AND Class = 3"),
               "Deposit Refund|River Bank|Smith, John Q");
     Find<QTabBar>(ledger, "tab").setCurrentIndex(5);
-    EXPECT_EQ(Rows(*lease, "lvw").size(), 3U) << "the deposit, its payment and the refund";
+    EXPECT_EQ(ListRows(*lease, "lvw").size(), 3U) << "the deposit, its payment and the refund";
     ClickOn(Find<QPushButton>(ledger, "cmdCharge"));
     screen = Opened<books::screens::frmTransaction>();
     ASSERT_TRUE(screen);

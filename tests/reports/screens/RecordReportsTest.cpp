@@ -1,6 +1,4 @@
-#include <QAction>
 #include <QDialog>
-#include <QMenu>
 #include <QMenuBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -8,19 +6,18 @@
 #include <fstream>
 
 #include "core/Globals.h"
-#include "core/RecordKinds.h"
 #include "core/forms/RecordBar.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportList.h"
 #include "reports/screens/RecordReports.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::forms::Subject;
 
-class RecordReports : public support::ScreenTest {
+class RecordReports : public ScreenTest {
   protected:
     RecordReports() {
         std::filesystem::create_directories(core::App().ReportPath);
@@ -53,7 +50,7 @@ class RecordReports : public support::ScreenTest {
     /// What the menus held before is deleted once events run.
     void Show(std::vector<Subject> subjects) {
         bar_->Show(std::move(subjects));
-        support::SettleEvents();
+        SettleEvents();
     }
     std::vector<std::string> Items(const char* name) const {
         std::vector<std::string> texts;
@@ -119,3 +116,4 @@ TEST_F(RecordReports, OfABuildingAndItsUnitStandInOneMenu) {
 }
 
 } // namespace
+} // namespace support

@@ -1,12 +1,10 @@
 #include "reports/screens/ViewerFixture.h"
 
-#include <QApplication>
 #include <QPrinter>
 
 #include "core/MessagePump.h"
-#include "platform/qt/Text.h"
 #include "reports/ReportList.h"
-#include "support/screens/Driving.h"
+#include "support/screens/Screens.h"
 
 namespace tests {
 

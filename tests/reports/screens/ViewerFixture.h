@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QAction>
 #include <string>
 #include <string_view>
 
 #include "platform/qt/preview/Printers.h"
 #include "reports/ReportDef.h"
 #include "reports/screens/frmReportViewer.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 namespace tests {
 

@@ -1,8 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <QPushButton>
-#include <QRadioButton>
-
 #include "core/MessagePump.h"
 #include "core/Preferences.h"
 #include "core/forms/OpenForms.h"
@@ -13,17 +10,17 @@
 #include "reports/screens/ViewerFixture.h"
 #include "reports/screens/frmPageSetup.h"
 #include "support/ScriptedChoosers.h"
-#include "support/screens/Driving.h"
+#include "support/screens/Screens.h"
 
 // The viewer beside everything else that the user does in the meantime: settings that change under
 // it, commands given twice or during a run, and ends in the middle of it.
 
+namespace support {
 namespace {
 
 using reports::FindReport;
 using reports::screens::frmPageSetup;
 using reports::screens::frmReportViewer;
-using support::Find;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using tests::ViewerTest;
@@ -122,7 +119,7 @@ TEST_F(ViewerState, OpensPageSetupOnceAndForItsOwnReport) {
     View(second);
     Find<QRadioButton>(*dialogs[0], "optLandscape").setChecked(true);
     dialogs[0]->accept();
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(FindReport(index)->Orientation, platform::PageOrientation::Landscape);
     EXPECT_EQ(FindReport(second)->Orientation, platform::PageOrientation::Portrait);
 }
@@ -165,7 +162,7 @@ TEST_F(ViewerState, EndsWithTheProgramInTheMiddleOfARun) {
     });
     reports::screens::ViewReport(MakeLongQuery());
     core::SetMessagePump({});
-    support::SettleEvents();
+    SettleEvents();
     ASSERT_TRUE(isDone_);
     EXPECT_THROW(Viewer(), std::runtime_error);
     EXPECT_THAT(Heard(), IsEmpty());
@@ -187,3 +184,4 @@ TEST_F(ViewerState, ShowsAnEmptyReportForOneThatIsGone) {
 }
 
 } // namespace
+} // namespace support

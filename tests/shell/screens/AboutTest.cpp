@@ -1,25 +1,18 @@
-#include <QApplication>
 #include <QClipboard>
-#include <QLabel>
-#include <QPointer>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
 
 #include "shell/screens/frmAbout.h"
 #include "shell/screens/frmSplash.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using shell::screens::frmAbout;
 using shell::screens::frmSplash;
-using support::Find;
-using Said = std::vector<std::string>;
 
-class AboutTest : public support::ScreenTest {};
+class AboutTest : public ScreenTest {};
 
 bool ShowsVersion(const QWidget& form) {
     static const QRegularExpression version(QStringLiteral("^ v\\d+\\.\\d+\\.\\d+$"));
@@ -30,7 +23,7 @@ TEST_F(AboutTest, TellsTheVersionAndGoesWithOk) {
     const QPointer<frmAbout> form(new frmAbout);
     form->Setup();
     EXPECT_TRUE(ShowsVersion(*form));
-    EXPECT_EQ(support::Portray(*form, "frmAbout"), Said{});
+    EXPECT_EQ(Portray(*form, "frmAbout"), Said{});
     support::ClickOn(Find<QPushButton>(*form, "cmdCopy"));
     static const QRegularExpression copied(QStringLiteral("^Vestrel v\\d+\\.\\d+\\.\\d+\n"));
     EXPECT_TRUE(copied.match(QApplication::clipboard()->text()).hasMatch())
@@ -46,7 +39,8 @@ TEST_F(AboutTest, TheSplashTellsTheVersionInTheMiddleOfTheScreen) {
     EXPECT_TRUE(ShowsVersion(splash));
     EXPECT_TRUE(splash.isVisible());
     EXPECT_TRUE(splash.geometry().contains(splash.screen()->availableGeometry().center()));
-    EXPECT_EQ(support::Portray(splash, "frmSplash"), Said{});
+    EXPECT_EQ(Portray(splash, "frmSplash"), Said{});
 }
 
 } // namespace
+} // namespace support

@@ -6,26 +6,17 @@
 
 #include "core/BooksSettings.h"
 #include "core/Configuration.h"
-#include "core/NotifyAll.h"
 #include "core/PickLists.h"
-#include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/Tags.h"
 #include "platform/dialogs/Desktop.h"
 #include "shell/screens/frmConfig.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using shell::screens::frmConfig;
-using support::Choose;
-using support::ClickAction;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
 /// Keeps what is handed to other programs.
 class RecordingDesktop : public platform::Desktop {
@@ -43,18 +34,14 @@ class RecordingDesktop : public platform::Desktop {
     Said& opened_;
 };
 
-class ConfigTest : public support::ScreenTest {
+class ConfigTest : public ScreenTest {
   protected:
     ConfigTest() {
         Run("DELETE * FROM Configuration");
         core::CreateDefaultConfiguration(core::App().Connection);
         core::LoadConfiguration();
     }
-    QPointer<frmConfig> Open() {
-        QPointer<frmConfig> form(new frmConfig);
-        form->Setup();
-        return form;
-    }
+    QPointer<frmConfig> Open() { return Show<frmConfig>(); }
     static QLineEdit& Box(const frmConfig& form, const char* name) {
         return Find<QLineEdit>(form, name);
     }
@@ -77,8 +64,8 @@ TEST_F(ConfigTest, ShowsTheSettingsOfTheBooks) {
     for (const auto& [name, text] : shown) {
         EXPECT_EQ(Box(*form, name).text(), QString::fromLatin1(text)) << name;
     }
-    EXPECT_EQ(Find<QComboBox>(*form, "cboTermType").currentText(), QStringLiteral("Month(s)"));
-    EXPECT_EQ(Find<QComboBox>(*form, "cboExpireOption").currentText(), QStringLiteral("MTM"));
+    EXPECT_EQ(Text(*form, "cboTermType"), "Month(s)");
+    EXPECT_EQ(Text(*form, "cboExpireOption"), "MTM");
     EXPECT_FALSE(form->Dirty());
     const auto* const tabs = form->findChild<QTabWidget*>();
     EXPECT_EQ(tabs->tabText(0) + tabs->tabText(1) + tabs->tabText(2) + tabs->tabText(3),
@@ -208,15 +195,8 @@ TEST_F(ConfigTest, AnAccountThatIsAddedIsOffered) {
 
 TEST_F(ConfigTest, EveryTabLooksAndReadsRight) {
     const auto form = Open();
-    auto* const tabs = form->findChild<QTabWidget*>();
-    for (int tab = 0; tab < tabs->count(); ++tab) {
-        tabs->setCurrentIndex(tab);
-        SCOPED_TRACE(tabs->tabText(tab).toStdString());
-        EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-        EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-        EXPECT_EQ(support::Portray(*form, "frmConfig-" + tabs->tabText(tab).toStdString()), Said{});
-    }
-    EXPECT_EQ(support::NameFaults(*form), Said{});
+    EXPECT_EQ(LookFaultsOfTabs(*form, "frmConfig-"), Said{});
 }
 
 } // namespace
+} // namespace support

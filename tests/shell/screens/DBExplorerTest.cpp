@@ -11,16 +11,12 @@
 
 #include "core/Globals.h"
 #include "core/Preferences.h"
-#include "core/RecordKinds.h"
-#include "platform/qt/Text.h"
 #include "shell/screens/PropertyTreeView.h"
 #include "shell/screens/frmDBExplorer.h"
 #include "shell/screens/frmMoveUnit.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using shell::PropertyKind;
@@ -28,10 +24,8 @@ using shell::PropertyNode;
 using shell::screens::frmDBExplorer;
 using shell::screens::frmMoveUnit;
 using shell::screens::PropertyTreeView;
-using support::Find;
-using Said = std::vector<std::string>;
 
-class DBExplorer : public support::ScreenTest {
+class DBExplorer : public ScreenTest {
   protected:
     DBExplorer() {
         core::Preferences() = {};
@@ -77,7 +71,7 @@ class DBExplorer : public support::ScreenTest {
             send(QDragMoveEvent(place, Qt::MoveAction, data.get(), Qt::LeftButton, {}));
         const bool dropped =
             send(QDropEvent(place, Qt::MoveAction, data.get(), Qt::LeftButton, {}));
-        support::SettleEvents();
+        SettleEvents();
         return over && dropped;
     }
 
@@ -99,9 +93,9 @@ TEST_F(DBExplorer, KeepsWhatIsExpandedAndSelectedWhenItReadsAgain) {
     EXPECT_EQ(Tree().Selected(), (PropertyNode{PropertyKind::Unit, 20}));
     EXPECT_NE(Shown().find(" Ash Rd\n  Unit 1"), std::string::npos) << Shown();
     EXPECT_NE(Shown().find(" 12 Elm St-"), std::string::npos);
-    EXPECT_TRUE(support::MnemonicFaults(*form_).empty());
-    EXPECT_TRUE(support::TabOrderFaults(*form_).empty());
-    EXPECT_EQ(support::Portray(*form_, "frmDBExplorer"), Said{});
+    EXPECT_TRUE(MnemonicFaults(*form_).empty());
+    EXPECT_TRUE(TabOrderFaults(*form_).empty());
+    EXPECT_EQ(Portray(*form_, "frmDBExplorer"), Said{});
 }
 
 TEST_F(DBExplorer, MovesAUnitThatIsDroppedOnABuilding) {
@@ -134,7 +128,7 @@ TEST_F(DBExplorer, MovesAUnitByKeyboardOnce) {
     for (QWidget* const window : QApplication::topLevelWidgets())
         if (auto* const found = qobject_cast<frmMoveUnit*>(window)) chooser = found;
     ASSERT_TRUE(chooser);
-    EXPECT_EQ(support::Portray(*chooser, "frmMoveUnit"), Said{});
+    EXPECT_EQ(Portray(*chooser, "frmMoveUnit"), Said{});
     auto& find = Find<QLineEdit>(*chooser, "txtFind");
     support::Type(find, "oak");
     auto& list = Find<QListWidget>(*chooser, "lstBuildings");
@@ -170,7 +164,7 @@ TEST_F(DBExplorer, MovesAUnitToABuildingThatWasAddedSince) {
     core::Preferences().ConfirmDelete = false;
     Run("INSERT INTO Building (IdBuilding, Address) VALUES (12, 'Pine Rd')");
     Q_EMIT Tree().UnitDropped(20, 12);
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_NE(Shown().find(" Pine Rd-\n  Unit B"), std::string::npos) << Shown();
     Run("DELETE FROM Building WHERE IdBuilding = 10");
     form_->RefreshTree();
@@ -212,3 +206,4 @@ TEST_F(DBExplorer, OffersTheConsoleToAdvancedUsersOnly) {
 }
 
 } // namespace
+} // namespace support

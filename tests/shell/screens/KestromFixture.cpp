@@ -1,17 +1,11 @@
 #include "shell/screens/KestromFixture.h"
 
-#include <QAction>
 #include <QHeaderView>
-#include <QLabel>
-#include <QTest>
 #include <QToolBar>
-#include <QToolButton>
 
 #include "core/DailyRun.h"
 #include "core/EditRecord.h"
-#include "core/RecordKinds.h"
 #include "core/Startup.h"
-#include "platform/qt/Text.h"
 
 namespace tests {
 

@@ -4,8 +4,7 @@
 #include <vector>
 
 #include "shell/screens/frmKestrom.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
 class QAction;
 

@@ -4,15 +4,14 @@
 #include <QTabWidget>
 #include <QWindow>
 
-#include "core/RecordKinds.h"
 #include "core/Startup.h"
 #include "platform/system/Clock.h"
 #include "shell/Registrations.h"
 #include "shell/SampleLife.h"
 #include "shell/screens/BooksRun.h"
 #include "shell/screens/KestromFixture.h"
-#include "support/screens/Gallery.h"
 
+namespace support {
 namespace {
 
 using testing::IsEmpty;
@@ -39,8 +38,7 @@ class KestromGallery : public tests::KestromTest {
     std::vector<std::string> Portrait(shell::screens::frmKestrom& window, const char* view) {
         const bool isScaled = window.devicePixelRatioF() > 1;
         window.resize(QSize(1280, 800) / window.devicePixelRatioF());
-        return support::Portray(window,
-                                std::string("frmKestrom-") + view + (isScaled ? "-150" : ""));
+        return Portray(window, std::string("frmKestrom-") + view + (isScaled ? "-150" : ""));
     }
 
     shell::RunDigest digest_;
@@ -65,8 +63,9 @@ TEST_F(KestromGallery, FitsASmallScreen) {
     }
     window.SetSelectedDb(core::kLease);
     support::Type(support::Find<QLineEdit>(window, "txtSearch"), "no such tenant");
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_THAT(Portrait(window, "nothing"), IsEmpty());
 }
 
 } // namespace
+} // namespace support

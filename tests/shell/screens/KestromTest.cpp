@@ -1,36 +1,23 @@
 #include <gmock/gmock.h>
 
-#include <QAction>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QStatusTipEvent>
-#include <QTest>
-#include <QToolButton>
 #include <set>
 
 #include "core/DailyRun.h"
 #include "core/EditRecord.h"
 #include "core/MessagePump.h"
-#include "core/NotifyAll.h"
 #include "core/Preferences.h"
 #include "core/RecordHelpers.h"
-#include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "core/forms/Form.h"
-#include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
 #include "shell/screens/KestromFixture.h"
-#include "support/screens/ScreenChecks.h"
 
+namespace support {
 namespace {
 
-using platform::qt::FromScreen;
-using support::Find;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -198,10 +185,10 @@ TEST_F(Kestrom, KeepsTheMessagesOfAllEventsOfADay) {
         }
     });
     Window().Tick();
-    core::SetMessagePump([] { support::SettleEvents(); });
+    core::SetMessagePump([] { SettleEvents(); });
     platform::SetToday(platform::Date(2024, 5, 18));
     Window().Tick();
-    support::SettleEvents();
+    SettleEvents();
     core::SetMessagePump(nullptr);
     core::RegisterRunStep(core::RunStep::ScheduledEvents, nullptr);
     const auto& list = Find<QListWidget>(Window(), "lvwAlerts");
@@ -346,7 +333,7 @@ TEST_F(Kestrom, EndsInOrderOnceNoFormObjects) {
     EXPECT_THAT(log_, IsEmpty());
     mayClose = true;
     Window().close();
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_FALSE(Window().isVisible());
     EXPECT_FALSE(core::App().Connection.IsOpen());
     EXPECT_TRUE(form.isNull());
@@ -358,7 +345,7 @@ TEST_F(Kestrom, EndsUnaskedWhateverIsOpen) {
     const QPointer<DirtyForm> form = new DirtyForm(mayClose);
     Window().EndUnasked();
     Window().EndUnasked();
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_TRUE(form.isNull());
     EXPECT_FALSE(core::App().Connection.IsOpen());
     EXPECT_THAT(log_, ElementsAre("end"));
@@ -394,9 +381,9 @@ TEST_F(Kestrom, ComesBackWhereItStood) {
 TEST_F(Kestrom, NamesItsControlsAndLetters) {
     for (const char* const tag : {"LEASES", "FINANCIAL"}) {
         Go(tag);
-        EXPECT_THAT(support::MnemonicFaults(Window()), IsEmpty());
-        EXPECT_THAT(support::TabOrderFaults(Window()), IsEmpty());
-        EXPECT_THAT(support::NameFaults(Window()), IsEmpty());
+        EXPECT_THAT(MnemonicFaults(Window()), IsEmpty());
+        EXPECT_THAT(TabOrderFaults(Window()), IsEmpty());
+        EXPECT_THAT(NameFaults(Window()), IsEmpty());
     }
     for (QMenu* const menu : Window().menuBar()->findChildren<QMenu*>()) {
         std::set<QString> letters;
@@ -410,3 +397,4 @@ TEST_F(Kestrom, NamesItsControlsAndLetters) {
 }
 
 } // namespace
+} // namespace support

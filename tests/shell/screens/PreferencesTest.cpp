@@ -1,36 +1,19 @@
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-
 #include "core/Preferences.h"
 #include "core/RegistryKeys.h"
 #include "core/Settings.h"
 #include "platform/registry/Registry.h"
 #include "shell/screens/frmPreferences.h"
-#include "support/screens/Driving.h"
-#include "support/screens/Gallery.h"
-#include "support/screens/ScreenChecks.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
 using core::Preferences;
 using shell::screens::frmPreferences;
-using support::ClickAction;
-using support::Find;
-using support::Type;
-using Said = std::vector<std::string>;
 
-class PreferencesTest : public support::ScreenTest {
+class PreferencesTest : public ScreenTest {
   protected:
-    QPointer<frmPreferences> Open() {
-        QPointer<frmPreferences> form(new frmPreferences);
-        form->Setup();
-        return form;
-    }
+    QPointer<frmPreferences> Open() { return Show<frmPreferences>(); }
     static QCheckBox& Flag(const frmPreferences& form, const char* name) {
         return Find<QCheckBox>(form, name);
     }
@@ -103,7 +86,7 @@ TEST_F(PreferencesTest, CloseWritesThemAndCancelDropsThem) {
     EXPECT_TRUE(Preferences().LateRent);
 
     form = Open();
-    EXPECT_EQ(Find<QComboBox>(*form, "cboAutosize").currentText(), QStringLiteral("Fit Grid"));
+    EXPECT_EQ(Text(*form, "cboAutosize"), "Fit Grid");
     Find<QComboBox>(*form, "cboAutosize").setCurrentIndex(2);
     Flag(*form, "chkLateRent").click();
     ClickAction(*form, "CLOSE");
@@ -114,7 +97,7 @@ TEST_F(PreferencesTest, CloseWritesThemAndCancelDropsThem) {
 
 TEST_F(PreferencesTest, TheColoursChangeWhenItCloses) {
     auto form = Open();
-    EXPECT_EQ(Find<QComboBox>(*form, "cboAppearance").currentText(), QStringLiteral("System"));
+    EXPECT_EQ(Text(*form, "cboAppearance"), "System");
     support::Choose(*form, "cboAppearance", "Dark");
     ClickAction(*form, "CLOSE");
     EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
@@ -167,10 +150,8 @@ TEST_F(PreferencesTest, SaysWhenTheyCannotBeWritten) {
 TEST_F(PreferencesTest, LooksAndReadsRight) {
     const auto form = Open();
     EXPECT_FALSE(Find<QPushButton>(*form, "cmdApply").isVisible());
-    EXPECT_EQ(support::MnemonicFaults(*form), Said{});
-    EXPECT_EQ(support::TabOrderFaults(*form), Said{});
-    EXPECT_EQ(support::NameFaults(*form), Said{});
-    EXPECT_EQ(support::Portray(*form, "frmPreferences"), Said{});
+    EXPECT_EQ(LookFaults(*form, "frmPreferences"), Said{});
 }
 
 } // namespace
+} // namespace support

@@ -1,22 +1,13 @@
-#include <QAction>
-#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
 
-#include "core/NotifyAll.h"
 #include "core/Preferences.h"
-#include "core/RecordKinds.h"
 #include "core/Settings.h"
 #include "shell/screens/KestromFixture.h"
 #include "support/screens/ColorChecks.h"
 
+namespace support {
 namespace {
 
-using support::Choose;
-using support::Find;
-using support::GridText;
 using tests::KestromTest;
 
 class ViewsOnScreen : public KestromTest {};
@@ -79,11 +70,11 @@ TEST_F(ViewsOnScreen, ShowALongListBeforeAllOfItIsRead) {
     Run("DELETE FROM Transactions WHERE IdTransaction = 3500");
     EXPECT_TRUE(Grid().SelectId(3500)) << "it is shown as it was read until a broadcast";
     support::Type(Find<QLineEdit>(Window(), "txtSearch"), "zoe");
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(Column("From"), "Zoe\n");
     core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
     EXPECT_EQ(Status(), "Selected 1500 Transaction records");
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(Column("From"), "");
     ClickCaption("Amount");
     EXPECT_EQ(Status(), "Selected 1500 Transaction records sorted by Amount [ASC]");
@@ -236,18 +227,18 @@ TEST_F(ViewsOnScreen, NarrowWhileOneTypes) {
     QTest::keyClick(&Window(), Qt::Key_F, Qt::ControlModifier);
     EXPECT_TRUE(search.hasFocus());
     support::Type(search, "oak");
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(Column("Rent"), "800.00\n");
     EXPECT_EQ(Window().SelectedId(), 42);
     EXPECT_EQ(Status(), "Selected 3 Lease records");
     ClickCaption("Rent");
     EXPECT_EQ(Column("Rent"), "800.00\n");
     support::Type(search, "no such thing");
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(Window().SelectedId(), 0);
     EXPECT_FALSE(Item("mnuEdit").isEnabled());
     QTest::keyClick(&search, Qt::Key_Escape);
-    support::SettleEvents();
+    SettleEvents();
     EXPECT_EQ(Column("Rent"), "800.00\n950.50\n1,200.00\n");
     EXPECT_TRUE(Grid().hasFocus());
 }
@@ -280,3 +271,4 @@ TEST_F(ViewsOnScreen, CountMinusOneWhenTheyCannotBeRead) {
 }
 
 } // namespace
+} // namespace support

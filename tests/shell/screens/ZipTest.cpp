@@ -1,18 +1,12 @@
-#include <QLineEdit>
-#include <QPointer>
-
 #include "core/Configuration.h"
 #include "shell/screens/frmConfig.h"
-#include "support/screens/Driving.h"
-#include "support/screens/ScreenFixture.h"
+#include "support/screens/Screens.h"
 
+namespace support {
 namespace {
 
-using support::Find;
-using support::Type;
-
 /// The tables of zip codes stand beside the program.
-class ZipTest : public support::ScreenTest {
+class ZipTest : public ScreenTest {
   protected:
     ZipTest() {
         platform::Connection references;
@@ -49,3 +43,4 @@ TEST_F(ZipTest, LeavingTheZipFillsOnlyWhatIsEmpty) {
 }
 
 } // namespace
+} // namespace support
