@@ -6,10 +6,10 @@ namespace {
 
 BoundPtr Sum(FunctionCall& call) {
     if (call[0].Is(FieldType::Currency)) {
-        // The engine adds whole numbers exactly, and fails rather than overflow.
-        const bool reckoned = IsExact(call[0]);
+        // The engine sums integers exactly, and fails instead of overflowing.
+        const bool isChecked = IsExact(call[0]);
         BoundPtr sum = MakeCall("SUM", FieldType::Currency, WithoutCheck(call.Take(0)));
-        return reckoned ? Exact(std::move(sum)) : std::move(sum);
+        return isChecked ? Exact(std::move(sum)) : std::move(sum);
     }
     BoundPtr number = call.Number(0);
     const bool whole = number->IsWhole();

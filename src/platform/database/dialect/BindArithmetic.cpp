@@ -27,7 +27,7 @@ BoundPtr WithoutCheck(BoundPtr money) {
 BoundPtr Binder::BindSum(const Expression& expression, BoundPtr left, BoundPtr right) {
     const auto mayJoin = [](const BoundExpression& value) { return value.IsText() || !value.type; };
     if (mayJoin(*left) && mayJoin(*right)) {
-        // Unlike &, it makes a null of a null.
+        // Unlike &, + returns null if an operand is null.
         left = ToText(std::move(left));
         return MakeInfix("||", FieldType::Text, std::move(left), ToText(std::move(right)));
     }
@@ -74,7 +74,7 @@ BoundPtr Binder::BindArithmetic(const Expression& expression, BoundPtr left, Bou
         result = MakeInfix(symbol, whole ? FieldType::Long : FieldType::Double, std::move(left),
                            std::move(right));
     }
-    result->isReckoned = true;
+    result->isComputed = true;
     return result;
 }
 

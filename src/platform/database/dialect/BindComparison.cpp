@@ -7,7 +7,7 @@ namespace platform::dialect {
 
 namespace {
 
-/// Whether a number literal says what a boolean can say.
+/// Returns true for a number literal that is a boolean value too: 0 or -1.
 bool IsBooleanLiteral(const BoundExpression& value) {
     return value.kind == BoundKind::Number && (value.text == "0" || value.text == "-1");
 }
@@ -20,7 +20,8 @@ Domain DomainOf(std::span<BoundPtr* const> values) {
         return any([&](const BoundExpression& value) { return value.Is(type); });
     };
     if (has(FieldType::Date)) return Domain::Date;
-    // A money amount is the double nearest to it exactly when that is what the other holds.
+    // Money is compared as a double if the other operand may hold a number that money can't hold
+    // exactly.
     const bool inexact = any([](const BoundExpression& value) {
         return (value.Is(FieldType::Double) && !value.IsNumberLiteral()) ||
                (value.IsText() && !value.IsTextLiteral());
@@ -38,7 +39,7 @@ Domain DomainOf(std::span<BoundPtr* const> values) {
     return any(isNumber) ? Domain::Number : Domain::Text;
 }
 
-/// What a parameter is bound as among these values.
+/// Returns the type that a parameter gets if it is compared with these values.
 FieldType ParameterType(Domain domain, std::span<BoundPtr* const> values) {
     switch (domain) {
         case Domain::Text:
@@ -92,7 +93,7 @@ BoundPtr Binder::ToDomain(BoundPtr value, Domain domain, FieldType parameterType
             break;
     }
     if (value->IsText() && !value->IsTextLiteral()) {
-        // A field of text holds numbers and others: those others equal none.
+        // A text field may hold numbers and other text; other text equals no number.
         return MakeCall("vestrel_number_if", FieldType::Double, std::move(value));
     }
     return ToNumber(std::move(value));

@@ -68,7 +68,7 @@ BoundPtr Binder::BindNumber(const Expression& expression) const {
         Fault(expression.position, fmt::format("{} is too large", expression.text));
     }
     std::string text(expression.text);
-    // The engine would take long digits for a whole number, which this is too large for.
+    // The number is too large for an integer, so the engine must read it as a double.
     if (text.find_first_of(".eE") == std::string::npos) text += ".0";
     return MakeNumber(std::move(text), FieldType::Double, expression.position);
 }

@@ -26,7 +26,7 @@ BoundPtr Binder::BindRow(const Expression& expression) {
         BoundPtr value = Bind(*operand);
         if (joins) {
             value = ToText(std::move(value));
-            // Unlike +, it takes a null for an empty text.
+            // Unlike +, & treats null as an empty string.
             if (!value->IsTextLiteral()) {
                 value = MakeCall("IFNULL", FieldType::Text, std::move(value), MakeText({}, 0));
             }
@@ -53,7 +53,7 @@ BoundPtr Binder::BindNegate(const Expression& expression) {
     value = ToNumber(std::move(value));
     const FieldType type = value->IsWhole() ? FieldType::Long : FieldType::Double;
     BoundPtr negated = MakePrefix("-", type, std::move(value));
-    negated->isReckoned = true;
+    negated->isComputed = true;
     return negated;
 }
 

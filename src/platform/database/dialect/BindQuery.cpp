@@ -28,7 +28,7 @@ std::unique_ptr<BoundQuery> Binder::BindQuery(const Query& query, Targets target
         BindTargets(*bound, targets, query.selects[0].position);
     }
     if (bound->selects.size() > 1) {
-        // Only the columns are left of the tables.
+        // After a union only its columns have names; the tables no longer do.
         scope.sources = {{kUnnamedRows, nullptr, &bound->columns}};
     }
     BindOrder(query, *bound);

@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::size_t kFirstUnnamed = 1000;
 
-/// Stars may yield the same name from several tables, where one would hide the other: each such
-/// column then carries its table's.
+/// Stars over several tables can yield the same column name twice, and one would hide the other:
+/// each such name gets its table's name as a prefix.
 void TellSharedNamesApart(std::vector<BoundItem>& items) {
     std::vector<std::size_t> shared;
     for (std::size_t i = 0; i < items.size(); ++i) {

@@ -15,7 +15,7 @@ std::unique_ptr<BoundSource> Binder::BindSource(const Source& source) {
             BindTable(source, *bound);
             break;
         case Source::Kind::Derived: {
-            // It is blind to the tables beside it.
+            // A derived table can't see the tables beside it.
             Scope* const own = scope_;
             scope_ = own->outer;
             bound->query = BindQuery(*source.query);

@@ -7,7 +7,7 @@ namespace platform::dialect {
 
 namespace {
 
-/// A query that reads one table, and yields its rows as they are.
+/// Returns true for a query of a single table that returns its rows unchanged.
 bool YieldsRowsOfTable(const BoundQuery& query) {
     const BoundSelect& select = query.selects[0];
     return query.selects.size() == 1 && select.from.size() == 1 &&

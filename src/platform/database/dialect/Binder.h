@@ -11,27 +11,29 @@
 
 namespace platform::dialect {
 
-/// One table or derived table whose columns a name can mean.
+/// A table or derived table whose columns a name can refer to.
 struct ScopeSource {
     std::string_view alias;
-    /// The table, null for a derived one, which has `columns` instead.
+    /// The table; null for a derived table, which has `columns` instead.
     const Table* table = nullptr;
     const std::vector<ResultColumn>* columns = nullptr;
 };
 
-/// The names of one SELECT, within the names of the queries around it.
+/// The names that one SELECT can use; `outer` has the names of the enclosing query.
 struct Scope {
     std::vector<ScopeSource> sources;
-    /// The first of them that names can mean: those before a join are not known to its ON.
+    /// The index of the first source that names can refer to: an ON clause can't use the tables
+    /// before its join.
     std::size_t first = 0;
     Scope* outer = nullptr;
     bool hasAggregate = false;
 };
 
-/// What values that are compared with one another are compared as.
+/// The type by which values are compared with each other.
 enum class Domain { Text, Number, Money, Date, Boolean };
 
-/// Resolves the names of a syntax tree, types its expressions and converts where types meet.
+/// Resolves the names of a syntax tree, assigns a type to each expression, and inserts conversions
+/// where types differ.
 class Binder {
   public:
     Binder(std::string_view text, const Catalog& catalog, std::size_t parameters)
@@ -39,17 +41,17 @@ class Binder {
 
     BoundStatement Bind(const Statement& statement);
 
-    // What the functions' bindings are made of.
+    // The functions' own binding code uses these.
     BoundPtr Bind(const Expression& expression);
     [[noreturn]] void Fault(std::size_t position, std::string_view message) const;
-    /// The number of the row that a value comes from, where its query reads one table only.
+    /// Returns the number of the row that a value comes from; only for a query of one table.
     BoundPtr RowNumber() const;
 
-    // An expression as a value of another type. A text that doesn't convert is a fault here where
-    // it is a literal, and fails the statement while it runs where it isn't; `field` is the one
-    // that is to hold it, if any.
+    // Converts an expression to a type. Throws DialectError for a literal that can't be converted;
+    // any other text that can't be converted fails the statement while it runs. `field` names the
+    // field that will hold the value, if there is one.
     BoundPtr ToType(BoundPtr value, FieldType type, std::string_view field = {});
-    /// Any number, as whole as it is.
+    /// Converts to any numeric type; integers stay integers.
     BoundPtr ToNumber(BoundPtr value, std::string_view field = {});
     BoundPtr ToReal(BoundPtr value, std::string_view field = {});
     BoundPtr ToWhole(BoundPtr value, FieldType type, std::string_view field = {});
@@ -65,12 +67,12 @@ class Binder {
     void BindDelete(const Statement& statement, BoundStatement& bound);
     const Table& FindTable(std::string_view name, std::size_t position) const;
     const Column& FindField(const Table& table, const Assignment& assignment) const;
-    /// A condition on the rows of a clause that sums nothing up.
+    /// Binds a condition of a clause in which aggregates aren't allowed.
     BoundPtr BindCondition(const ExpressionPtr& condition, std::string_view clause);
 
     // Queries.
     using Targets = std::span<const Column* const>;
-    /// With `targets`, the columns are brought to the types of those fields.
+    /// With `targets`, each column is converted to the type of its field.
     std::unique_ptr<BoundQuery> BindQuery(const Query& query, Targets targets = {});
     std::unique_ptr<BoundQuery> BindColumnQuery(const Expression& expression);
     BoundSelect BindSelect(const Select& select);
@@ -106,14 +108,15 @@ class Binder {
     BoundPtr BindSubquery(const Expression& expression);
     BoundPtr BindFunction(const Expression& expression);
 
-    /// Brings values that are compared to one domain.
+    /// Converts values that are compared with each other to one domain.
     Domain BringTogether(std::span<BoundPtr* const> values);
     BoundPtr ToDomain(BoundPtr value, Domain domain, FieldType parameterType);
-    /// A constant as stored money, with what it has beyond the four decimals.
+    /// Returns a constant as stored money (scaled by 10,000), with any digits beyond four decimals.
     BoundPtr ToExactMoney(BoundPtr value) const;
-    /// Gives a parameter or null its type, where it has none yet.
+    /// Sets the type of a parameter or null that has none yet.
     void TellType(BoundExpression& value, FieldType type);
-    /// A literal of a number, from text that may be one. Throws DialectError if it isn't.
+    /// Reads a literal as a number, also one that is written as text. Throws DialectError if it
+    /// isn't a number.
     BoundPtr NumberOfLiteral(const BoundExpression& literal, std::string_view field) const;
     [[noreturn]] void CannotHold(const BoundExpression& value, std::string_view field,
                                  std::string_view wanted) const;
@@ -122,21 +125,21 @@ class Binder {
     const Catalog& catalog_;
     std::vector<std::optional<FieldType>> parameters_;
     Scope* scope_ = nullptr;
-    /// The clause being bound if it can't hold an aggregate; empty if it can.
+    /// The name of the clause being bound if aggregates aren't allowed in it; otherwise empty.
     std::string_view rowClause_;
 
     friend class RowClause;
 };
 
-/// A check that money under reckoning stayed exact; the statement fails where it did not. One
-/// outside is enough: what left the whole numbers never comes back.
+/// Wraps computed money in a check that fails the statement if the result isn't exact. One check
+/// around the whole expression is enough: a value that has overflowed to a double stays one.
 BoundPtr Exact(BoundPtr money);
 bool IsExact(const BoundExpression& money);
-/// Money without the check around it.
+/// Returns the money expression without the check around it.
 BoundPtr WithoutCheck(BoundPtr money);
 
-/// Binds what follows as a clause over single rows, where nothing can be summed up; an empty name
-/// allows it again.
+/// While it exists, aggregates aren't allowed because the named clause is evaluated for single
+/// rows; an empty name allows them again.
 class RowClause {
   public:
     RowClause(Binder& binder, std::string_view clause);

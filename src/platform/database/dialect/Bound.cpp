@@ -75,7 +75,7 @@ std::optional<FieldType> CommonType(std::span<const BoundExpression* const> valu
     }
     if (same) return common;
     if (!numbers) return has(FieldType::Memo) ? FieldType::Memo : FieldType::Text;
-    // Money can't take the further digits of a double; a literal shows whether it has any.
+    // A double may have more digits than money can hold; a literal shows whether it has.
     if (real) return FieldType::Double;
     for (const FieldType type : {FieldType::Currency, FieldType::Double, FieldType::Long}) {
         if (has(type)) return type;

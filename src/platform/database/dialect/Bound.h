@@ -16,9 +16,9 @@
 
 namespace platform::dialect {
 
-// The bound tree: what a statement means to the engine. Every name is a table's or a column's,
-// every expression has its type, and conversions between types are expressions of their own. Its
-// names are pieces of the statement and of the catalog, which must outlive it.
+// The bound tree describes a statement in the engine's terms. Every name refers to a table or
+// column, every expression has a type, and type conversions are expressions of their own. Its names
+// point into the statement and the catalog, which must outlive it.
 
 struct BoundQuery;
 
@@ -44,20 +44,20 @@ enum class BoundKind : std::uint8_t {
 struct BoundExpression {
     BoundKind kind = BoundKind::Null;
     bool negated = false;
-    /// A comparison of texts without regard to case.
+    /// A text comparison that ignores case.
     bool ignoresCase = false;
-    /// Whole numbers that were reckoned with may have outgrown their type.
-    bool isReckoned = false;
-    /// None for NULL, and for a parameter whose type isn't known yet.
+    /// An integer result of arithmetic, which may exceed the range of its type.
+    bool isComputed = false;
+    /// Not set for NULL, and for a parameter whose type isn't known yet.
     std::optional<FieldType> type;
-    /// 0-based number of a parameter.
+    /// The number of the parameter, from 0.
     std::size_t parameter = 0;
-    /// Offset in the statement, for messages.
+    /// Offset in the statement, for error messages.
     std::size_t position = 0;
     std::string text;
-    /// The name of a column's table in its query.
+    /// The name of the column's table in its query.
     std::string_view table;
-    /// The table and field that a column's values come from, also through other queries.
+    /// The table and field that the values come from, also through derived tables.
     std::string_view ofTable;
     std::string_view ofField;
     std::vector<std::unique_ptr<BoundExpression>> operands;
@@ -65,13 +65,13 @@ struct BoundExpression {
 
     bool Is(FieldType other) const { return type == other; }
     bool IsText() const { return Is(FieldType::Text) || Is(FieldType::Memo); }
-    /// A whole number: of 16 or 32 bits.
+    /// An integer of 16 or 32 bits.
     bool IsWhole() const { return Is(FieldType::Integer) || Is(FieldType::Long); }
     bool IsNumberLiteral() const {
         return kind == BoundKind::Number && (IsWhole() || Is(FieldType::Double));
     }
     bool IsTextLiteral() const { return kind == BoundKind::Text; }
-    /// The same for all rows, as far as one sees.
+    /// True if the value is certainly the same for all rows.
     bool IsConstant() const {
         return kind == BoundKind::Number || kind == BoundKind::Text || kind == BoundKind::Null;
     }
@@ -82,7 +82,7 @@ using BoundPtr = std::unique_ptr<BoundExpression>;
 struct BoundItem {
     BoundPtr value;
     std::string name;
-    /// The name of the table that a star took it from.
+    /// The name of the table whose star produced this column.
     std::string_view starOf;
 };
 
@@ -109,7 +109,7 @@ struct BoundSelect {
 };
 
 struct BoundOrder {
-    /// The column that it names, counted from 1; 0 for an expression.
+    /// The number of the column to sort by, from 1; 0 for an expression.
     std::size_t column = 0;
     BoundPtr value;
     bool descending = false;
@@ -120,7 +120,7 @@ struct BoundQuery {
     std::vector<bool> keepsEqualRows;
     std::vector<ResultColumn> columns;
     std::vector<BoundOrder> orderBy;
-    /// Whether its rows belong to its one table, so that they can be written back.
+    /// True if the rows belong to a single table, so that they can be written back.
     bool writable = false;
 };
 
@@ -134,11 +134,11 @@ struct BoundStatement {
     std::vector<FieldType> parameters;
 };
 
-/// What the columns of a derived table are called by the engine, counted from 1: their own names
-/// may appear twice.
+/// Returns the name that a derived table's column has in the engine's SQL, counted from 1: two
+/// columns may have the same name of their own.
 std::string NumberedName(std::size_t column);
-/// What a derived table without a name is called, and the rows of a union where an expression
-/// orders them.
+/// The name of a derived table without an alias, and of the rows of a union that is sorted by an
+/// expression.
 inline constexpr std::string_view kUnnamedRows = "Rows";
 
 BoundPtr MakeBound(BoundKind kind, std::optional<FieldType> type, std::string text,
@@ -155,11 +155,12 @@ BoundPtr MakeCall(std::string_view function, std::optional<FieldType> type, Oper
     return call;
 }
 
-/// `symbol` between two operands; operands that are rows of AND, OR or || go on in the new one.
+/// Returns `left symbol right`. For AND, OR and || the operands of an operand with the same symbol
+/// become operands of the new expression.
 BoundPtr MakeInfix(std::string_view symbol, FieldType type, BoundPtr left, BoundPtr right);
 BoundPtr MakePrefix(std::string_view symbol, FieldType type, BoundPtr operand);
 
-/// The type that all these values can be brought to: none where none has one.
+/// Returns the type that all these values can be converted to; nothing if none of them has a type.
 std::optional<FieldType> CommonType(std::span<const BoundExpression* const> values);
 
 } // namespace platform::dialect

@@ -9,8 +9,8 @@ namespace platform::dialect {
 
 namespace {
 
-// The engine takes a column's affinity from its declaration, so each of these is chosen to keep
-// what is stored: a memo that holds "007" must stay text.
+// The engine takes a column's affinity from its declaration, so each declaration is chosen to keep
+// values as they are stored: a memo that holds "007" must stay text.
 constexpr std::array<std::pair<FieldType, std::string_view>, 7> kDeclarations = {{
     {FieldType::Integer, "SMALLINT"},
     {FieldType::Long, "INTEGER"},

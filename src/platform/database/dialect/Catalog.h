@@ -19,11 +19,11 @@ struct Table {
     std::string name;
     std::vector<Column> columns;
 
-    /// The column of this name, without regard to case; null when there is none.
+    /// Returns the column with this name, ignoring case; null if there is none.
     const Column* Find(std::string_view column) const;
 };
 
-/// The tables of one open database, by name without regard to case.
+/// The tables of an open database, found by name ignoring case.
 class Catalog {
   public:
     void Add(Table table);
@@ -35,8 +35,8 @@ class Catalog {
     std::unordered_map<std::string, std::size_t> index_;
 };
 
-/// The field type of a declared column type of the schema; text for one it doesn't
-/// know. The other way round is the declaration that the schema uses.
+/// Returns the field type of a column type declared in the schema; text for an unknown one.
+/// DeclarationOf returns the declaration that the schema uses for a type.
 FieldType TypeOfDeclaration(std::string_view declared);
 std::string_view DeclarationOf(FieldType type);
 

@@ -6,7 +6,7 @@ namespace platform::dialect {
 
 namespace {
 
-/// The fields that the result columns stand for in the table that the rows belong to.
+/// Returns for each result column the table's field that it shows; empty for a computed column.
 std::vector<std::string> SourcesOf(const BoundSelect& select) {
     std::vector<std::string> sources;
     sources.reserve(select.items.size());

@@ -12,14 +12,15 @@ namespace platform::dialect {
 
 namespace {
 
-/// `function` of a value, which names the field that is to hold it where there is one.
+/// Returns a call of `function` with the value, and with the name of the field that will hold it if
+/// there is one.
 BoundPtr CallFor(std::string_view field, std::string_view function, FieldType type,
                  BoundPtr value) {
     if (field.empty()) return MakeCall(function, type, std::move(value));
     return MakeCall(function, type, std::move(value), MakeText(std::string(field), 0));
 }
 
-/// Empty also for a number that is too large.
+/// Returns nothing for text that isn't a number, or a number that is too large.
 std::optional<double> ParseNumber(std::string_view text) {
     try {
         return TryParseNumber(text);
@@ -121,7 +122,7 @@ BoundPtr Binder::ToReal(BoundPtr value, std::string_view field) {
 BoundPtr Binder::ToWhole(BoundPtr value, FieldType type, std::string_view field) {
     TellType(*value, type);
     const bool fits = value->IsWhole() && (type == FieldType::Long || value->Is(type)) &&
-                      (field.empty() || !value->isReckoned);
+                      (field.empty() || !value->isComputed);
     if (fits) return value;
     const std::string shown = value->text;
     value = ToNumber(std::move(value), field);
@@ -156,11 +157,11 @@ BoundPtr Binder::ToMoney(BoundPtr value, std::string_view field) {
     }
     if (value->Is(FieldType::Boolean)) value = ToNumber(std::move(value));
     if (value->IsWhole()) {
-        const bool reckoned = value->isReckoned;
+        const bool isComputed = value->isComputed;
         const std::size_t position = value->position;
         value = MakeInfix("*", FieldType::Currency, std::move(value),
                           MakeNumber("10000", FieldType::Long, position));
-        return reckoned ? Exact(std::move(value)) : std::move(value);
+        return isComputed ? Exact(std::move(value)) : std::move(value);
     }
     return CallFor(field, "vestrel_money", FieldType::Currency, std::move(value));
 }

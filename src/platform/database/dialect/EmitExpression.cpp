@@ -106,7 +106,7 @@ void Emitter::EmitInfix(const BoundExpression& expression) {
         return EmitRow(expression, 0, expression.operands.size());
     }
     const bool compares = own == Binding::Equal || own == Binding::Order;
-    // Both operands of a comparison reckon at most.
+    // A comparison's operands need parentheses only if they bind less tightly than a sum.
     const Binding left = compares ? Binding::Sum : own;
     EmitCompared(*expression.operands[0], left, expression.ignoresCase);
     sql_.append(" ").append(expression.text).append(" ");
@@ -114,7 +114,8 @@ void Emitter::EmitInfix(const BoundExpression& expression) {
 }
 
 void Emitter::EmitRow(const BoundExpression& expression, std::size_t first, std::size_t end) {
-    // Past its depth of a thousand operators the engine gives up; halves keep long rows shallow.
+    // The engine rejects expressions more than a thousand operators deep; splitting long rows in
+    // halves keeps them shallow.
     constexpr std::size_t kLongest = 50;
     if (end - first > kLongest) {
         const std::size_t middle = first + (end - first) / 2;

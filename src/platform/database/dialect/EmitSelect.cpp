@@ -11,7 +11,7 @@ bool IsText(FieldType type) {
     return type == FieldType::Text || type == FieldType::Memo;
 }
 
-/// The engine orders a union only by its columns.
+/// The engine can sort a union only by its columns.
 bool NeedsRowsAround(const BoundQuery& query) {
     if (query.selects.size() == 1) return false;
     for (const BoundOrder& order : query.orderBy) {
@@ -51,7 +51,7 @@ void Emitter::EmitQuery(const BoundQuery& query, ColumnNames names) {
 }
 
 void Emitter::EmitUnionPart(const BoundSelect& select, const BoundQuery& query, ColumnNames names) {
-    // The engine limits whole unions only.
+    // The engine accepts a LIMIT only for a whole union.
     const bool limited = !select.top.empty();
     if (limited) sql_ += "SELECT * FROM (";
     EmitSelect(select, query, names);

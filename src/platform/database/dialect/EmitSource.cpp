@@ -25,7 +25,7 @@ std::string_view JoinWords(Source::Kind kind) {
 void Emitter::EmitFrom(const BoundSelect& select) {
     for (std::size_t i = 0; i < select.from.size(); ++i) {
         sql_ += i == 0 ? " FROM " : ", ";
-        // Joins bind to the left by themselves.
+        // Joins are left-associative, so the first source needs no parentheses.
         if (i == 0) {
             EmitSource(*select.from[i]);
         } else {

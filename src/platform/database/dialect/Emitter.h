@@ -7,14 +7,14 @@
 
 namespace platform::dialect {
 
-/// How tightly the engine's operators hold their operands, loosest first.
+/// The precedence of the engine's operators, loosest first.
 enum class Binding { Or, And, Not, Equal, Order, Sum, Product, Join, Collate, Sign, Value };
 
-/// How the columns of a query are called.
+/// The names of a query's columns: their own, or numbered.
 enum class ColumnNames { Own, Numbered };
 
-/// Writes a bound statement in the engine's SQL, with no more parentheses than it needs: the engine
-/// takes but a few dozen of them nested.
+/// Writes a bound statement in the engine's SQL with as few parentheses as possible, because the
+/// engine accepts only a few dozen nested ones.
 class Emitter {
   public:
     std::string Emit(const BoundStatement& statement);
@@ -42,10 +42,11 @@ class Emitter {
     void EmitPredicate(const BoundExpression& expression);
     void EmitCall(const BoundExpression& expression);
     void EmitCase(const BoundExpression& expression);
-    /// An operand of a comparison.
+    /// Writes an operand of a comparison.
     void EmitCompared(const BoundExpression& expression, Binding least, bool ignoresCase);
     void EmitList(const BoundExpression& expression, std::size_t first);
-    /// A term of ORDER BY or GROUP BY, where the engine would take a number for a column's.
+    /// Writes a term of ORDER BY or GROUP BY; a plain number there would mean a column to the
+    /// engine.
     void EmitTerm(const BoundExpression& expression);
     void EmitClause(std::string_view word, const BoundPtr& condition);
     void EmitNested(const BoundQuery& query, ColumnNames names = ColumnNames::Own);

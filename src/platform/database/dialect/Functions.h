@@ -9,7 +9,7 @@
 
 namespace platform::dialect {
 
-/// A call of a function of the dialect, with its arguments bound.
+/// A call of a dialect function, with its arguments bound.
 class FunctionCall {
   public:
     FunctionCall(Binder& binder, const Expression& call, std::vector<BoundPtr> arguments)
@@ -17,17 +17,17 @@ class FunctionCall {
 
     std::size_t Count() const { return arguments_.size(); }
     const BoundExpression& operator[](std::size_t i) const { return *arguments_[i]; }
-    /// Count's star.
+    /// True for Count(*).
     bool HasStar() const;
 
-    // An argument, which each function takes once: as it is, or as a value of a type.
+    // Each returns an argument, unchanged or converted. A function takes each argument only once.
     BoundPtr Take(std::size_t i) { return std::move(arguments_[i]); }
     BoundPtr Text(std::size_t i) { return binder_.ToText(Take(i)); }
     BoundPtr Number(std::size_t i) { return binder_.ToNumber(Take(i)); }
     BoundPtr Date(std::size_t i) { return binder_.ToDate(Take(i)); }
     BoundPtr Condition(std::size_t i) { return binder_.ToCondition(Take(i)); }
     BoundPtr As(std::size_t i, FieldType type) { return binder_.ToType(Take(i), type); }
-    /// A whole number, where another fails under the function's name.
+    /// Returns an integer argument; an error message names the function.
     BoundPtr Whole(std::size_t i, FieldType type = FieldType::Long) {
         return binder_.ToWhole(Take(i), type, call_.text);
     }
@@ -49,10 +49,10 @@ struct FunctionDefinition {
     FunctionKind kind = FunctionKind::Scalar;
 };
 
-/// The function of this name, without regard to case; null when there is none.
+/// Returns the function with this name, ignoring case; null if there is none.
 const FunctionDefinition* FindFunction(std::string_view name);
 
-// The functions of the dialect, by what they are about.
+// The functions of the dialect, by subject.
 std::span<const FunctionDefinition> TextFunctions();
 std::span<const FunctionDefinition> DateFunctions();
 std::span<const FunctionDefinition> NumberFunctions();

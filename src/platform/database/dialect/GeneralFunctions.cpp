@@ -18,7 +18,7 @@ BoundPtr IIf(FunctionCall& call) {
     choice->operands.push_back(call.As(1, type));
     BoundPtr otherwise = call.As(2, type);
     if (otherwise->kind == BoundKind::Case) {
-        // A row of choices is one to the engine, which takes few that are nested.
+        // Nested choices become one CASE, because the engine accepts only few nested ones.
         for (BoundPtr& operand : otherwise->operands)
             choice->operands.push_back(std::move(operand));
     } else {

@@ -12,7 +12,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// The first character of a text, with all its bytes.
+/// Returns the first character of the text with all of its bytes.
 std::string_view FirstCharacter(std::string_view text) {
     std::size_t size = 1;
     while (size < text.size() && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
@@ -20,7 +20,7 @@ std::string_view FirstCharacter(std::string_view text) {
     return text.substr(0, size);
 }
 
-/// Whether a character is in the set between the brackets.
+/// Returns true if the character is in the set between the brackets.
 bool InSet(std::string_view character, std::string_view set) {
     const bool negated = set.starts_with('!') || set.starts_with('^');
     if (negated) set.remove_prefix(1);
@@ -33,13 +33,13 @@ bool InSet(std::string_view character, std::string_view set) {
             to = FirstCharacter(set.substr(1));
             set.remove_prefix(1 + to.size());
         }
-        // The bytes of UTF-8 sort as its characters do.
+        // UTF-8 sorts by bytes as it does by characters.
         found = found || (from <= character && character <= to);
     }
     return found != negated;
 }
 
-/// What one step of the pattern takes, `*` aside.
+/// What a single step of the pattern matches, other than `*`.
 struct Step {
     std::string_view piece;
     bool isSet = false;
@@ -71,7 +71,8 @@ bool MatchesPattern(std::string_view mixedText, std::string_view mixedPattern) {
     const std::string lowerPattern = ToLower(mixedPattern);
     std::string_view text = lowerText;
     std::string_view pattern = lowerPattern;
-    // Where the last run stood, to let it take one character more when what follows doesn't fit.
+    // The place of the last `*` in the text; if the rest doesn't match, it takes one more
+    // character.
     std::string_view textAtRun;
     std::string_view patternAfterRun;
     bool inRun = false;

@@ -4,9 +4,9 @@
 
 namespace platform::dialect {
 
-/// Whether a text is like a pattern, without regard to case: `*` or `%` stands for any run of
-/// characters, `?` or `_` for one, `#` for one digit, `[a-z]` for one of these, `[!a-z]` for one
-/// other than these. A '[' that isn't closed matches itself.
+/// Returns true if the text matches the pattern, ignoring case: `*` or `%` matches any number of
+/// characters, `?` or `_` one character, `#` one digit, `[a-z]` one character in the set, `[!a-z]`
+/// one that isn't in it. A '[' without ']' matches itself.
 bool MatchesPattern(std::string_view text, std::string_view pattern);
 
 } // namespace platform::dialect

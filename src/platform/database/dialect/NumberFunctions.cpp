@@ -4,8 +4,7 @@ namespace platform::dialect {
 
 namespace {
 
-/// `function` of a number, or its twin for money, which reckons with the scaled form. A whole
-/// number is its own whole.
+/// Returns a call of `function`, or of `ofMoney` for money, which computes with the scaled integer.
 BoundPtr OfAnyNumber(std::string_view function, std::string_view ofMoney, FunctionCall& call) {
     if (call[0].Is(FieldType::Currency)) {
         return MakeCall(ofMoney, FieldType::Currency, call.Take(0));

@@ -5,7 +5,7 @@ namespace platform::dialect {
 Statement Parser::ParseDelete() {
     Statement statement;
     statement.kind = Statement::Kind::Delete;
-    // A star in front, or a table's, says no more than its absence: whole rows go.
+    // A star, or a table's star, before FROM changes nothing: whole rows are deleted.
     if (!TakeSymbol('*') && !IsWord("FROM")) {
         ExpectName("* or FROM");
         ExpectSymbol('.');

@@ -6,14 +6,16 @@ namespace platform::dialect {
 
 namespace {
 
-// The engine takes no longer rows of operators that each hold what is left of them.
+// The most operands that operators of equal precedence can join without parentheses; each level
+// nests in the next, and the engine limits the depth.
 constexpr std::size_t kLongestRow = 500;
 
 Precedence Next(Precedence precedence) {
     return static_cast<Precedence>(static_cast<int>(precedence) + 1);
 }
 
-/// Whether an operator's rows become one node, since it makes no difference how they are bracketed.
+/// Returns true for an operator whose operands become one node, because grouping them differently
+/// changes nothing.
 bool IsInRow(std::string_view symbol) {
     return symbol == "AND" || symbol == "OR" || symbol == "&";
 }

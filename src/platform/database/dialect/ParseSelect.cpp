@@ -56,7 +56,7 @@ Select Parser::ParseSelect() {
 }
 
 void Parser::ParseTop(Select& select) {
-    // A field may be called Top.
+    // Top can be the name of a field.
     if (!IsWord("TOP") || Peek(1).kind != TokenKind::Number) return;
     Take();
     const Token number = Take();

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kDeepest = 100;
 
-// Unless they are in brackets, these are never names of fields, nor aliases without AS.
+// Without brackets these are never field names, nor aliases without AS.
 constexpr std::string_view kReserved[] = {
     "SELECT", "FROM", "WHERE", "GROUP", "HAVING", "ORDER", "UNION", "INNER", "JOIN",   "ON",
     "AS",     "AND",  "OR",    "XOR",   "EQV",    "IN",    "IS",    "LIKE",  "BETWEEN"};

@@ -9,11 +9,11 @@
 
 namespace platform::dialect {
 
-/// How tightly an operator holds its operands, loosest first.
+/// The precedence of operators, loosest first.
 enum class Precedence { Eqv, Xor, Or, And, Comparison, Join, Sum, Modulo, Whole, Product, Power };
 
-/// Reads a statement word by word. Words of the grammar have their meaning where the grammar asks
-/// for them; only the few that a value could not be told from are reserved.
+/// Parses a statement by recursive descent. A keyword is one only where the grammar expects it;
+/// only the few that could be mistaken for a value are reserved.
 class Parser {
   public:
     explicit Parser(std::string_view text);
@@ -21,7 +21,7 @@ class Parser {
     Statement ParseStatement();
 
   private:
-    // Words.
+    // Tokens.
     const Token& Peek(std::size_t ahead = 0) const;
     Token Take();
     bool IsWord(std::string_view word, std::size_t ahead = 0) const;
@@ -41,7 +41,7 @@ class Parser {
     void ParseTarget(Statement& statement);
     void ParseInsertColumns(Statement& statement);
     void ParseInsertValues(Statement& statement);
-    /// A field, perhaps with the table in front.
+    /// A field name, with an optional table before it.
     Assignment ParseField();
 
     // Queries.
@@ -63,7 +63,7 @@ class Parser {
     };
 
     ExpressionPtr ParseExpression();
-    /// An expression of operators that hold at least as tightly as `least`.
+    /// Parses operators with at least this precedence.
     ExpressionPtr ParseOperators(Precedence least);
     ExpressionPtr ParsePrefix();
     Operator PeekOperator() const;
@@ -83,7 +83,7 @@ class Parser {
     int depth_ = 0;
 };
 
-/// Counts the nesting, so that nonsense can't exhaust the stack.
+/// Limits the nesting, so that a malicious statement can't exhaust the stack.
 class Parser::Depth {
   public:
     explicit Depth(Parser& parser);
@@ -95,7 +95,7 @@ class Parser::Depth {
     Parser& parser_;
 };
 
-/// A node of what a token says.
+/// Returns a node with the token's text and position.
 ExpressionPtr MakeExpression(ExpressionKind kind, const Token& token);
 
 } // namespace platform::dialect

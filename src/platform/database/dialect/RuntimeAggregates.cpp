@@ -6,8 +6,8 @@ namespace platform::dialect {
 
 namespace {
 
-/// The value that First or Last keeps while the rows of a group pass by, and its row's number: the
-/// engine may walk them by an index.
+/// The value that First or Last has kept so far, and its row's number, because the engine may read
+/// the rows in the order of an index.
 struct Kept {
     sqlite3_value* value;
     std::int64_t row;
@@ -33,7 +33,7 @@ void AnswerKept(sqlite3_context* context) {
     kept->value = nullptr;
 }
 
-/// The mean so far and the sum of the squares of what the numbers differ from it.
+/// The mean so far, and the sum of the squared differences from it.
 struct Spread {
     double mean;
     double squares;
@@ -51,7 +51,7 @@ void AddToSpread(sqlite3_context* context, int, sqlite3_value** arguments) {
     spread->squares += difference * (number - spread->mean);
 }
 
-/// Of a sample: fewer than two numbers have no deviation.
+/// The deviation of a sample: null for fewer than two numbers.
 template <bool Root>
 void AnswerSpread(sqlite3_context* context) {
     const auto* spread = static_cast<const Spread*>(sqlite3_aggregate_context(context, 0));

@@ -12,8 +12,8 @@
 
 namespace platform::dialect {
 
-/// The arguments of one call of a runtime function, and its answer. A function that throws fails
-/// the statement with the error's text; one that sets nothing returns null.
+/// The arguments and the result of one call of a runtime function. A function that throws fails the
+/// statement with the exception's message; one that sets no result returns null.
 class RuntimeCall {
   public:
     RuntimeCall(sqlite3_context* context, int count, sqlite3_value** arguments)
@@ -37,7 +37,7 @@ class RuntimeCall {
         return {reinterpret_cast<const char*>(text), text == nullptr ? 0 : size};
     }
     platform::Currency Money(int i) const { return platform::Currency::FromScaled(Whole(i)); }
-    /// The day of a date's serial number, without its time.
+    /// Returns the day of a date's serial number, without its time.
     platform::Date Day(int i) const;
 
     void Answer(std::int64_t value) const { sqlite3_result_int64(context_, value); }
@@ -57,7 +57,7 @@ class RuntimeCall {
 
 using RuntimeFunction = void (*)(const RuntimeCall& call);
 
-/// Carries a failure over to the engine, which knows no exceptions.
+/// Reports an exception to the engine, which is written in C.
 template <RuntimeFunction Function>
 void RunGuarded(sqlite3_context* context, int count, sqlite3_value** arguments) {
     try {
@@ -67,9 +67,9 @@ void RunGuarded(sqlite3_context* context, int count, sqlite3_value** arguments) 
     }
 }
 
-/// Adds a function of `count` arguments; one that returns null if any argument is null can
-/// leave that to RunUnlessNull. All of them return the same for the same throughout one statement,
-/// the clock's included.
+/// Adds a function of `count` arguments. A function that returns null if any argument is null can
+/// be wrapped in RunUnlessNull. Within one statement the same arguments give the same result, also
+/// for the clock.
 template <RuntimeFunction Function>
 void AddFunction(sqlite3* connection, const char* name, int count) {
     sqlite3_create_function_v2(connection, name, count, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
@@ -81,11 +81,11 @@ void RunUnlessNull(const RuntimeCall& call) {
     if (!call.AnyNull()) Function(call);
 }
 
-/// A conversion that failed: "FIELD can't hold ...", where argument 1 names the field that the
-/// value was for, else "... is not WANTED".
+/// Reports a failed conversion: "FIELD can't hold ..." if argument 1 names the field that the value
+/// was for, otherwise "... is not WANTED".
 [[noreturn]] void ThrowUnfit(const RuntimeCall& call, std::string_view wanted);
 
-// The functions by what they are about.
+// The functions by subject.
 void AddTextFunctions(sqlite3* connection);
 void AddDateFunctions(sqlite3* connection);
 void AddNumberFunctions(sqlite3* connection);

@@ -25,8 +25,8 @@ int ToCount(double number) {
     return static_cast<int>(std::nearbyint(number));
 }
 
-/// The day of a text that is "mm/dd/yyyy" to the letter, as it is stored; null for any other, also
-/// one that names no day. This is asked of every row of a ledger.
+/// Returns the day of a text that is exactly "mm/dd/yyyy", the stored form; nothing for any other
+/// text. It must be fast because it runs for every row of a ledger.
 std::optional<std::int64_t> StoredDay(std::string_view text) {
     if (text.size() != 10 || text[2] != '/' || text[5] != '/') return std::nullopt;
     unsigned strange = 0;
@@ -38,11 +38,11 @@ std::optional<std::int64_t> StoredDay(std::string_view text) {
     const unsigned month = digit(0) * 10 + digit(1);
     const unsigned day = digit(3) * 10 + digit(4);
     const unsigned year = digit(6) * 1000 + digit(7) * 100 + digit(8) * 10 + digit(9);
-    // The last days of months are left to the calendar.
+    // Days above 28 are left to the calendar class.
     if (strange != 0 || month < 1 || month > 12 || day < 1 || day > 28 || year < 100) {
         return std::nullopt;
     }
-    // Counted in years that begin in March, whose leap day comes last.
+    // Years that begin in March have their leap day at the end.
     const unsigned marchYear = month > 2 ? year : year - 1;
     const unsigned marchMonth = month > 2 ? month - 3 : month + 9;
     const unsigned days = marchYear * 365 + marchYear / 4 - marchYear / 100 + marchYear / 400 +
@@ -51,7 +51,7 @@ std::optional<std::int64_t> StoredDay(std::string_view text) {
     return std::int64_t{days} - kZeroDay;
 }
 
-/// The day that a text is; null for a blank one.
+/// Reads text as a date; null for a blank one.
 void ReadDate(const RuntimeCall& call) {
     const std::string_view text = call.Text(0);
     if (const auto day = StoredDay(text)) return call.Answer(*day);
@@ -85,7 +85,7 @@ void Weekday(const RuntimeCall& call) {
     call.Answer(std::int64_t{call.Day(0).Weekday()});
 }
 
-/// The words that DateAdd and its kin name an interval by.
+/// The intervals that DateAdd and similar functions accept.
 enum class IntervalWord { Year, Quarter, Month, DayOfYear, Day, Weekday, Week };
 
 IntervalWord ReadInterval(std::string_view word) {
@@ -123,14 +123,14 @@ void DatePart(const RuntimeCall& call) {
             part = static_cast<int>(day.Weekday());
             break;
         case IntervalWord::Week:
-            // Weeks begin on Sunday; the first is that of January 1st.
+            // Weeks begin on Sunday; the week of January 1st is the first.
             part = (dayOfYear + static_cast<int>(Date(day.Year(), 1, 1).Weekday()) - 2) / 7 + 1;
             break;
     }
     call.Answer(std::int64_t{part});
 }
 
-/// A month or day beyond its range runs over into the next year or month.
+/// A month or day out of range carries over into the next year or month.
 void MakeDate(const RuntimeCall& call) {
     const Date first(ToCount(call.Real(0)), 1, 1);
     const Date month = DateAdd(Interval::Month, ToCount(call.Real(1)) - 1, first);
@@ -157,7 +157,7 @@ void AddToDate(const RuntimeCall& call) {
     call.Answer(DateAdd(Interval::Day, count, day));
 }
 
-/// Sundays up to a day, to count those between two.
+/// Returns the number of Sundays up to a day, to count those between two days.
 int SundaysUpTo(Date day) {
     const int shifted = day.Serial() - 1;
     return shifted >= 0 ? shifted / 7 : (shifted - 6) / 7;

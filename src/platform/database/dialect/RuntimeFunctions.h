@@ -4,8 +4,8 @@ struct sqlite3;
 
 namespace platform::dialect {
 
-/// Gives an open connection of the engine the functions and the collation that compiled statements
-/// call. They exist only on the connection; the database file doesn't know them.
+/// Adds the functions and the collation that compiled statements call to an open connection of the
+/// engine. They belong to the connection and aren't stored in the database file.
 void RegisterRuntimeFunctions(sqlite3* connection);
 
 } // namespace platform::dialect

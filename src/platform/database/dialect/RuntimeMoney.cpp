@@ -12,7 +12,7 @@ using platform::Currency;
 
 constexpr const char* kTooLarge = "The amount of money is too large.";
 
-/// A text or number as money.
+/// Reads text or a number as money.
 void ReadMoney(const RuntimeCall& call) {
     if (!call.IsText(0)) {
         try {
@@ -26,7 +26,7 @@ void ReadMoney(const RuntimeCall& call) {
     ThrowUnfit(call, "an amount of money");
 }
 
-/// Where whole numbers overflow, the engine goes on in doubles: not with money.
+/// The engine continues in doubles if integers overflow, which would make money inexact.
 void CheckExact(const RuntimeCall& call) {
     if (!call.IsWhole(0)) throw OverflowError(kTooLarge);
     call.AnswerArgument(0);
@@ -36,7 +36,7 @@ void MoneyText(const RuntimeCall& call) {
     call.Answer(std::string_view(MoneyToText(call.Money(0))));
 }
 
-/// a / b of whole numbers, b positive, halves to even.
+/// Returns a / b rounded half to even; b must be positive.
 std::int64_t Quotient(std::int64_t a, std::int64_t b) {
     std::int64_t quotient = a / b;
     const std::int64_t rest = std::abs(a % b);
@@ -45,7 +45,7 @@ std::int64_t Quotient(std::int64_t a, std::int64_t b) {
     return quotient;
 }
 
-/// What the average of a group is made of.
+/// The sum and count for a group's average.
 struct Total {
     std::int64_t sum;
     std::int64_t count;

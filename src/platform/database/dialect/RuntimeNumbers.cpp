@@ -18,7 +18,7 @@ void ReadNumber(const RuntimeCall& call) {
     ThrowUnfit(call, "a number");
 }
 
-/// Null for text that isn't a number, so that it equals no number.
+/// Returns null for text that isn't a number, so that it equals no number.
 void ReadNumberIf(const RuntimeCall& call) {
     if (!call.IsText(0)) return call.AnswerArgument(0);
     if (const auto number = TryParseNumber(call.Text(0))) call.Answer(*number);
@@ -38,7 +38,7 @@ void CheckWhole(const RuntimeCall& call) {
     call.Answer(static_cast<std::int64_t>(whole));
 }
 
-/// For a division of whole numbers: rounds half to even.
+/// Rounds half to even, for integer division.
 void Whole(const RuntimeCall& call) {
     const double whole = std::nearbyint(call.Real(0));
     if (!(std::fabs(whole) < 1e18)) throw OverflowError("The number is too large.");
@@ -79,7 +79,7 @@ void Round(const RuntimeCall& call) {
     call.Answer(std::isfinite(rounded) ? rounded : number);
 }
 
-/// The number that a text begins with, 0 for none.
+/// Returns the number at the beginning of the text, 0 if there is none.
 void ReadLeadingNumber(const RuntimeCall& call) {
     const std::string_view text = Trim(call.Text(0));
     std::size_t end = text.find_first_not_of("+-0123456789.eE");

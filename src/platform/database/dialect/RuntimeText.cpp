@@ -32,7 +32,7 @@ void Right(const RuntimeCall& call) {
     call.Answer(text.substr(at));
 }
 
-/// From a place counted in characters from 1, so many of them or all.
+/// Returns a number of characters (or all) from a position counted from 1.
 void Middle(const RuntimeCall& call) {
     if (call.Whole(1) < 1) throw ConversionError("Mid counts from 1");
     const std::string_view text = call.Text(0);
@@ -64,7 +64,7 @@ void Lower(const RuntimeCall& call) {
     call.Answer(ToLower(call.Text(0)));
 }
 
-/// The place of one text in another, counted in characters from 1; 0 where it isn't.
+/// Returns the position of one text in another, counted in characters from 1; 0 if it isn't there.
 void Find(const RuntimeCall& call) {
     const std::string text = ToLower(call.Text(1));
     const std::string part = ToLower(call.Text(2));

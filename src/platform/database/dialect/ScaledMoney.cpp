@@ -6,10 +6,10 @@ namespace platform::dialect {
 namespace {
 
 constexpr std::int64_t kDecimals = 4;
-// As many digits every 64-bit number can have.
+// Every number of this many digits fits into 64 bits.
 constexpr std::int64_t kSafeDigits = 18;
 
-/// A number times 10,000, in digits of the engine's SQL: a whole number where it is one.
+/// Returns the number times 10,000 in the engine's SQL; an integer if it has no decimals left.
 std::string Scaled(const Digits& number) {
     if (number.digits.empty()) return "0";
     const auto count = static_cast<std::int64_t>(number.digits.size());

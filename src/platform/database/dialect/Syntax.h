@@ -9,8 +9,7 @@
 
 namespace platform::dialect {
 
-// The syntax tree of a statement. Its texts are pieces of the statement's own, which must outlive
-// it.
+// The syntax tree of a statement. Its texts point into the statement, which must outlive it.
 
 struct Query;
 
@@ -39,17 +38,17 @@ struct Expression {
     ExpressionKind kind = ExpressionKind::Null;
     /// IS NOT NULL, NOT IN, NOT BETWEEN, NOT LIKE.
     bool negated = false;
-    /// The quote of a text.
+    /// The quote character of a text literal.
     char quote = '\0';
-    /// 0-based number of a parameter.
+    /// The number of the parameter, from 0.
     std::size_t parameter = 0;
-    /// Offset in the statement, for messages.
+    /// Offset in the statement, for error messages.
     std::size_t position = 0;
-    /// The literal, the name or the operator.
+    /// The literal, name or operator.
     std::string_view text;
-    /// The table in front of a column or star, empty without one.
+    /// The table before a column or star; empty if there is none.
     std::string_view table;
-    /// Two for a binary operator; for AND, OR and & all in a sequence.
+    /// Two operands for a binary operator; AND, OR and & have all operands of a row.
     std::vector<std::unique_ptr<Expression>> operands;
     std::unique_ptr<Query> query;
 };
@@ -61,14 +60,14 @@ struct SelectItem {
     std::string_view alias;
 };
 
-/// What rows come from: a table, a derived table, or a join of two of them.
+/// A source of rows: a table, a derived table, or a join of two sources.
 struct Source {
     enum class Kind : std::uint8_t { Table, Derived, Inner, Left, Right };
 
     Kind kind = Kind::Table;
     std::size_t position = 0;
     std::string_view table;
-    /// Empty without one.
+    /// Empty if there is none.
     std::string_view alias;
     std::unique_ptr<Query> query;
     std::unique_ptr<Source> left;
@@ -80,7 +79,7 @@ struct Source {
 struct Select {
     std::size_t position = 0;
     bool distinct = false;
-    /// TOP; empty without one.
+    /// The number after TOP; empty if there is none.
     std::string_view top;
     bool topIsPercent = false;
     std::vector<SelectItem> items;
@@ -97,14 +96,14 @@ struct OrderItem {
 
 struct Query {
     std::vector<Select> selects;
-    /// Between select i and i + 1: whether equal rows stay (UNION ALL).
+    /// Whether duplicate rows are kept between select i and i + 1 (UNION ALL).
     std::vector<bool> keepsEqualRows;
     std::vector<OrderItem> orderBy;
 };
 
 struct Assignment {
     std::string_view column;
-    /// The table in front of it, empty without one.
+    /// The table before the field; empty if there is none.
     std::string_view table;
     std::size_t position = 0;
     ExpressionPtr value;
@@ -114,9 +113,10 @@ struct Statement {
     enum class Kind : std::uint8_t { Select, Insert, Update, Delete };
 
     Kind kind = Kind::Select;
-    /// A select's, and the rows of an INSERT that takes them from one.
+    /// The query of a SELECT, or of an INSERT ... SELECT.
     std::unique_ptr<Query> query;
-    // Of the other kinds: the table, the fields written with their values, and the condition.
+    // For the other statements: the table, the assigned fields with their values, and the
+    // condition.
     std::string_view table;
     std::size_t tablePosition = 0;
     std::vector<Assignment> assignments;
@@ -125,14 +125,15 @@ struct Statement {
     std::size_t parameters = 0;
 };
 
-/// Reads one statement; a final ';' may follow. Throws DialectError: what was expected, and where.
+/// Parses one statement; a final ';' is allowed. Throws DialectError with what was expected, and
+/// where.
 Statement Parse(std::string_view text);
 
-/// The text of a text literal, its doubled quotes made single.
+/// Returns the value of a text literal, with doubled quotes made single.
 std::string LiteralText(const Expression& literal);
 
-// Each node as text of the dialect that reads back as the same tree: words in capitals, every
-// operator inside another in parentheses.
+// Return a node as dialect text that parses to the same tree: keywords in capitals, every nested
+// operator in parentheses.
 std::string Print(const Statement& statement);
 void Print(std::string& out, const Query& query);
 void Print(std::string& out, const Source& source);

@@ -4,12 +4,12 @@ namespace platform::dialect {
 
 namespace {
 
-/// `function` of one text.
+/// Returns a call of `function` with one text.
 BoundPtr OfText(std::string_view function, FunctionCall& call, FieldType type = FieldType::Text) {
     return MakeCall(function, type, call.Text(0));
 }
 
-/// `function` of a text and how much of it.
+/// Returns a call of `function` with a text and a number of characters.
 BoundPtr PartOf(std::string_view function, FunctionCall& call) {
     BoundPtr text = call.Text(0);
     return MakeCall(function, FieldType::Text, std::move(text), call.Whole(1));
@@ -26,7 +26,7 @@ BoundPtr Mid(FunctionCall& call) {
 }
 
 BoundPtr InStr(FunctionCall& call) {
-    // The place to start from comes first if it is given.
+    // The optional start position is the first argument.
     const std::size_t text = call.Count() - 2;
     BoundPtr start = text == 1 ? call.Whole(0) : MakeNumber("1", FieldType::Long, 0);
     BoundPtr whole = call.Text(text);

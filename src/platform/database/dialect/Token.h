@@ -8,23 +8,23 @@ namespace platform::dialect {
 
 enum class TokenKind { Name, QuotedName, Number, Text, Date, Parameter, Symbol, End };
 
-/// A word of a statement. `text` is without the marks around it: the brackets of a name, the quotes
-/// of a text (those doubled inside stay doubled), the hashes of a date.
+/// A token of a statement. `text` is without its delimiters: a name's brackets, a text's quotes
+/// (doubled quotes inside stay doubled), a date's hashes.
 struct Token {
     TokenKind kind = TokenKind::End;
     std::string_view text;
-    /// 0-based offset in the statement.
+    /// Offset in the statement, from 0.
     std::size_t position = 0;
-    /// The quote of a text.
+    /// The quote character of a text literal.
     char quote = '\0';
 };
 
-/// Splits a statement into its words; the last is an End. Throws DialectError for a text, name or
-/// date that isn't closed and for a letter that no statement has.
+/// Splits a statement into tokens; the last one is End. Throws DialectError for a text, name or
+/// date that isn't closed, and for a character that no statement can contain.
 std::vector<Token> Tokenize(std::string_view statement);
 
-/// A fault in `statement` at `position`, its message ended by "(line L, column C)"; columns count
-/// characters.
+/// Throws a DialectError for `statement` at `position`; its message ends with "(line L, column C)",
+/// columns counted in characters.
 [[noreturn]] void ThrowFault(std::string_view statement, std::size_t position,
                              std::string_view message);
 

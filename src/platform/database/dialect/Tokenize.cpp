@@ -12,7 +12,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// Letters beyond ASCII are letters of names too.
+// Letters beyond ASCII can be part of a name too.
 bool IsNameStart(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
            static_cast<unsigned char>(c) >= 0x80;
@@ -31,7 +31,7 @@ class Tokenizer {
     explicit Tokenizer(std::string_view statement) : text_(statement) {}
 
     std::vector<Token> Run() {
-        // The engine takes a zero byte for the statement's end.
+        // The engine would take a zero byte for the end of the statement.
         const std::size_t zero = text_.find('\0');
         if (zero != std::string_view::npos) ThrowFault(text_, zero, "Unexpected zero byte");
         tokens_.reserve(text_.size() / 4 + 2);
