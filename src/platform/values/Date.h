@@ -37,7 +37,7 @@ class Date {
     /// 1 Sunday to 7 Saturday.
     unsigned Weekday() const;
 
-    /// Days since 12/30/1899, the number that the SQL dialect reckons dates by.
+    /// Days since 12/30/1899, the number by which the SQL dialect computes with dates.
     /// Throws ConversionError if the date is unset, like every reading but IsSet and ToText.
     int Serial() const {
         if (!IsSet()) ThrowUnset();
