@@ -1,9 +1,11 @@
 #include "shell/screens/PropertyTreeView.h"
 
 #include <QCoreApplication>
+#include <QDrag>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QStyle>
 
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
@@ -44,6 +46,7 @@ PropertyTreeView::PropertyTreeView(QWidget* parent) : QTreeWidget(parent) {
     setDragEnabled(true);
     setAcceptDrops(true);
     setDropIndicatorShown(true);
+    setDragDropOverwriteMode(true); // frames the building, never draws a line between two
     setAutoScroll(true);
     setAutoScrollMargin(kScrollMargin);
     LoadIcons();
@@ -157,8 +160,15 @@ void PropertyTreeView::keyPressEvent(QKeyEvent* event) {
     QTreeWidget::keyPressEvent(event);
 }
 
-void PropertyTreeView::startDrag(Qt::DropActions actions) {
-    if (Selected().kind == PropertyKind::Unit) QTreeWidget::startDrag(actions);
+/// Drags only the unit's icon, below the pointer: its whole row would hide the building under it.
+void PropertyTreeView::startDrag(Qt::DropActions /*actions*/) {
+    if (Selected().kind != PropertyKind::Unit) return;
+    constexpr QPoint kBelowThePointer(-8, -14);
+    auto* const drag = new QDrag(this);
+    drag->setMimeData(model()->mimeData({currentIndex()}));
+    drag->setPixmap(unit_.pixmap(style()->pixelMetric(QStyle::PM_SmallIconSize)));
+    drag->setHotSpot(kBelowThePointer);
+    drag->exec(Qt::MoveAction);
 }
 
 /// The unit's id, in a format of this process: another process may have other books open.
