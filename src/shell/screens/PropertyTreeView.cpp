@@ -71,6 +71,7 @@ void PropertyTreeView::AddFolder(PropertyKind kind, const QString& text) {
     item->setData(0, kKindRole, static_cast<int>(kind));
     item->setData(0, kIdRole, 0);
     items_[{kind, 0}] = item;
+    item->setFlags(item->flags() & ~Qt::ItemIsDropEnabled);
     item->setExpanded(true);
     ShowFolderIcon(*item);
 }
@@ -88,6 +89,7 @@ void PropertyTreeView::Apply(const std::vector<TreeChange>& changes) {
                 auto* const item = new QTreeWidgetItem({platform::qt::ToScreen(change.text)});
                 const bool isUnit = change.node.kind == PropertyKind::Unit;
                 item->setIcon(0, isUnit ? unit_ : building_);
+                if (isUnit) item->setFlags(item->flags() & ~Qt::ItemIsDropEnabled);
                 item->setData(0, kKindRole, static_cast<int>(change.node.kind));
                 item->setData(0, kIdRole, change.node.id);
                 ItemOf(change.parent)->addChild(item);
@@ -177,6 +179,11 @@ QMimeData* PropertyTreeView::mimeData(const QList<QTreeWidgetItem*>& items) cons
     if (items.size() == 1 && NodeOf(*items.front()).kind == PropertyKind::Unit)
         carried->setData(UnitFormat(), QByteArray::number(NodeOf(*items.front()).id));
     return carried;
+}
+
+/// The base class frames the building under the pointer only for a format that is listed here.
+QStringList PropertyTreeView::mimeTypes() const {
+    return {UnitFormat()};
 }
 
 QTreeWidgetItem* PropertyTreeView::BuildingUnder(const QDropEvent& event) const {

@@ -34,6 +34,8 @@ class PropertyTreeView : public QTreeWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     QMimeData* mimeData(const QList<QTreeWidgetItem*>& items) const override;
+    QStringList mimeTypes() const override;
+    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
