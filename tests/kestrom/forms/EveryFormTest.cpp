@@ -17,6 +17,7 @@
 #include "kestrom/forms/LookChecks.h"
 #include "kestrom/forms/Openings.h"
 #include "platform/qt/Text.h"
+#include "support/screens/ColorChecks.h"
 #include "support/screens/Driving.h"
 #include "support/screens/ScreenChecks.h"
 
@@ -86,6 +87,8 @@ class EveryForm : public tests::EveryForm {
             faults.insert(name + ": " + fault);
         for (const std::string& fault : tests::ClippingFaults(form))
             faults.insert(name + ": " + fault);
+        for (const std::string& fault : ColorFaults(form))
+            faults.insert(name + ": " + fault);
         return faults;
     }
     /// Calls `look` for each page of the form's tabs, or once.
@@ -113,8 +116,10 @@ TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
             OnEachPage(form, [&] {
                 faults.merge(PlaceFaults(form, name));
                 faults.merge(LookFaults(form, name));
-                for (const std::string& fault : support::TabOrderFaults(form))
-                    faults.insert(name + ": " + fault);
+                for (const auto& kind : {TabOrderFaults(form), MnemonicFaults(form)}) {
+                    for (const std::string& fault : kind)
+                        faults.insert(name + ": " + fault);
+                }
             });
             const std::string key = FromScreen(form.objectName());
             form.CloseUnasked();
