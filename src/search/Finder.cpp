@@ -20,7 +20,7 @@ namespace {
 /// Among so many matches of a group, the newest, the best are chosen.
 constexpr std::size_t kCandidates = 50;
 /// Matches of a full group that are skipped one by one, before the next group is looked up.
-constexpr std::size_t kPassedOver = 500;
+constexpr std::size_t kPassedOver = 100;
 
 } // namespace
 

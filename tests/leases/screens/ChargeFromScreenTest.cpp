@@ -59,11 +59,11 @@ TEST_F(ChargeFromScreen, AsksBeforeALeaseThatIsEnteredLateIsSaved) {
     Do([&] { ClickAction(*form, "APPLY"); },
        [&](frmChargeFrom& question) {
            EXPECT_TRUE(Find<QRadioButton>(question, "optSince").isChecked());
-           EXPECT_EQ(Rows(question, "lvwPreview").front(),
+           EXPECT_EQ(ListRows(question, "lvwPreview").front(),
                      "Charge posted|04/10/2024|Rent|Rent due 04/10/2024|950.50");
            EXPECT_EQ(support::LookFaults(question, "frmChargeFrom"), Said{});
            Find<QRadioButton>(question, "optStart").click();
-           EXPECT_EQ(Rows(question, "lvwPreview").front(),
+           EXPECT_EQ(ListRows(question, "lvwPreview").front(),
                      "Charge posted|03/10/2022|Rent|Rent due 03/10/2022|950.50");
            Find<QRadioButton>(question, "optDay").click();
            Type(Find<QLineEdit>(question, "dpFrom"), "nonsense");

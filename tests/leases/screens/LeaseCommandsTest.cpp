@@ -78,33 +78,6 @@ TEST_F(LeaseForm, APaymentElsewhereShowsAtOnceAndTypedWordsStay) {
     EXPECT_EQ(Lease("Notes"), "Call her");
 }
 
-TEST_F(LeaseForm, TheLedgerAddsEditsAndRemoves) {
-    Charge("05/01/2024", 950, RentFlags::PeriodRent);
-    Charge("05/06/2024", 40);
-    const auto form = Open();
-    const QWidget& ledger = Find<QWidget>(*form, "ucLL");
-    EXPECT_EQ(Text(ledger, "lblTotal"), "2 open: 990.00");
-    EXPECT_EQ(ListRows(*form, "lvw"), (Said{"05/06/2024|Late Fee|Late Fee|40.00|990.00",
-                                            "05/01/2024|Rent|Rent due 05/01/2024|950.00|950.00"}));
-    Answer({true});
-    Trigger(ledger, "mnuSelectOther");
-    Find<QTabWidget>(*form, "tabs").setCurrentIndex(4);
-    ClickOn(Find<QPushButton>(ledger, "cmdEditDelete"));
-    EXPECT_EQ(Heard(), Said{"Confirm Delete: Delete selected item?\n\n05/06/2024, Late Fee"});
-    EXPECT_EQ(Text(*form, "txtRentDue"), "950.00");
-    Charge("05/07/2024", 1);
-    core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);
-    Answer({true});
-    Trigger(ledger, "mnuSelectAll");
-    ClickOn(Find<QPushButton>(ledger, "cmdEditDelete"));
-    EXPECT_EQ(Heard(),
-              Said{"Confirm Delete: Delete all selected items?\n\n05/07/2024, Late Fee, 1.00\n"
-                   "05/01/2024, Rent due 05/01/2024, 950.00"});
-    EXPECT_EQ(Text(ledger, "lblTotal"), "Nothing is open");
-    EXPECT_EQ(Lease("RentDue"), "0");
-    EXPECT_FALSE(form->Dirty());
-}
-
 } // namespace
 
 } // namespace tests

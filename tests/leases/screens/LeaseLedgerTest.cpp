@@ -21,9 +21,7 @@ using leases::screens::frmLease;
 class LeaseLedger : public LeaseScreenTest {
   protected:
     static QPointer<frmLease> Open() {
-        QPointer<frmLease> form(new frmLease);
-        form->Setup(kLease);
-        return form;
+        return support::Show<frmLease>(kLease);
     }
 };
 
@@ -33,8 +31,8 @@ TEST_F(LeaseLedger, AddsEditsAndRemoves) {
     const auto form = Open();
     const QWidget& ledger = Find<QWidget>(*form, "ucLL");
     EXPECT_EQ(Text(ledger, "lblTotal"), "2 open: 990.00");
-    EXPECT_EQ(Rows(*form, "lvw"), (Said{"05/06/2024|Late Fee|Late Fee|40.00|990.00",
-                                        "05/01/2024|Rent|Rent due 05/01/2024|950.00|950.00"}));
+    EXPECT_EQ(ListRows(*form, "lvw"), (Said{"05/06/2024|Late Fee|Late Fee|40.00|990.00",
+                                            "05/01/2024|Rent|Rent due 05/01/2024|950.00|950.00"}));
     Answer({true});
     Trigger(ledger, "mnuSelectOther");
     Find<QTabWidget>(*form, "tabs").setCurrentIndex(4);
