@@ -103,7 +103,7 @@ constexpr auto kPaymentQuestions = std::to_array<Question>({
      "mortgage payment", "without a transaction", kPayAgain},
     {"SELECT t.IdTransaction FROM Transactions AS t LEFT JOIN RentLog AS r "
      "ON t.IdTransaction = r.IdTransaction WHERE (r.IdRentLog IS Null) "
-     "AND ((t.Class = 1) OR (t.Class = 2) OR (t.Class = 3))",
+     "AND ((t.Class = 1) OR (t.Class = 2) OR (t.Class = 3)) AND (t.Amount <> 0)",
      "transaction", "of a lease without a row in its ledger", kRemoveTransaction},
     {"SELECT t.IdTransaction FROM Transactions AS t LEFT JOIN MortgageLog AS m "
      "ON t.IdTransaction = m.IdTransaction WHERE (m.IdMortgageLog IS Null) AND (t.Class = 5)",

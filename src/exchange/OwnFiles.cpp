@@ -27,8 +27,9 @@ bool IsSame(const fs::path& one, const fs::path& other) {
 void RefuseOwnFile(const fs::path& file) {
     const fs::path database = core::App().DbFile;
     const fs::path folder = database.parent_path();
-    const std::array<fs::path, 8> own = {database,
+    const std::array<fs::path, 9> own = {database,
                                          fs::path(database).replace_extension(".search"),
+                                         fs::path(database).replace_extension(".runs"),
                                          database.string() + "-wal",
                                          database.string() + "-shm",
                                          database.string() + "-journal",

@@ -39,11 +39,6 @@ bool IsOriginOf(std::span<const removal::CreditOrigin> credits, const PaymentCha
            credits.end();
 }
 
-removal::CreditOrigin& OriginOf(std::vector<removal::CreditOrigin>& origins,
-                                const SpentCredit& credit) {
-    return *std::ranges::find(origins, credit.idOrigin, &removal::CreditOrigin::idRentLog);
-}
-
 /// Cut between characters.
 std::string Shortened(std::string text) {
     if (text.size() <= kLongestDescription) return text;
@@ -99,8 +94,12 @@ ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::Credit
     plan.spendings = returned.spendings;
     plan.credits = std::move(credits);
     for (const CreditSpending& spending : plan.spendings) {
-        for (const SpentCredit& credit : spending.credits)
-            OriginOf(plan.credits, credit).open += credit.amount;
+        for (const SpentCredit& credit : spending.credits) {
+            const auto origin =
+                std::ranges::find(plan.credits, credit.idOrigin, &removal::CreditOrigin::idRentLog);
+            // The payment may have changed since it was shown; the return itself refuses that.
+            if (origin != plan.credits.end()) origin->open += credit.amount;
+        }
     }
     for (const PaymentCharge& charge : payment.charges) {
         if (!IsOriginOf(plan.credits, charge)) plan.reopened.push_back(charge);

@@ -81,7 +81,11 @@ void RunOnce(const SampleHistory& history) {
     core::UpdateRecords(recorder);
     const auto& rows = digest.Rows();
     const auto fee = std::find_if(rows.rbegin(), rows.rend(), [](const DigestRow& row) {
-        return row.reason.posting == core::Posting::OneTimeFee;
+        return row.reason.posting == core::Posting::OneTimeFee &&
+               core::Exists(
+                   "SELECT IdRentLog FROM RentLog WHERE (IdRentLog = ?) AND "
+                   "(IdTransaction = 0)",
+                   {row.rowId});
     });
     if (fee != rows.rend()) TakeBack(std::span(&*fee, 1));
 }

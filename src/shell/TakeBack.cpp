@@ -127,6 +127,16 @@ void Follow(std::span<const DigestRow> rows) {
         leases::StoreBalances(idLease);
 }
 
+/// Whether a run has posted a deleted row again, under another id.
+bool IsPostedAgain(const PostedLedger& ledger, const DigestRow& row) {
+    if (ledger.owner.empty()) return false;
+    return core::Exists(
+        fmt::format("SELECT {} FROM {} WHERE ({} = ?) AND ({} = ?) AND ({} = ?) AND ({} = ?)",
+                    ledger.key, ledger.table, ledger.owner, ledger.date, ledger.category,
+                    ledger.amount),
+        {row.recordId, row.date.ToText(), row.category, row.amount});
+}
+
 void TakeOne(const DigestRow& row) {
     const PostedLedger& ledger = LedgerOf(row);
     core::TakenRow taken = TakenRowOf(row);
@@ -138,6 +148,10 @@ void TakeOne(const DigestRow& row) {
         CheckAsPosted(ledger, stored, row);
         taken.content = ContentOf(stored);
         removal::RemoveRecord(ledger.rowKind, row.rowId, removal::Tell::Nobody);
+    } else if (IsPostedAgain(ledger, row)) {
+        Refuse(row,
+               "it was deleted and posted again. Delete that row in its ledger too, then take this "
+               "one back.");
     }
     taken.takenOn = platform::Today();
     core::RememberTakenBack(taken);
@@ -173,6 +187,8 @@ int PostAgain(std::span<const DigestRow> rows) {
         const PostedLedger& ledger = LedgerOf(row);
         const auto taken = core::FindTakenBack(TakenRowOf(row));
         if (!taken) Refuse(row, "it isn't taken back.");
+        if (!core::RecordExists(row.recordKind, row.recordId))
+            Refuse(row, "its record has been deleted.");
         if (taken->content.empty()) {
             ++deletedBefore;
         } else {

@@ -23,11 +23,11 @@ TableDefinition LeaseCreditTable() {
 // kind, `IdRow` was its id in the ledger, and `Content` holds its fields.
 TableDefinition TakenBackTable() {
     return MakeTable("TakenBack",
-                     {{Integer, "RecordKind"},
+                     {{Long, "IdRow"},
+                      {Integer, "RecordKind"},
                       {Long, "IdRecord"},
                       {Integer, "Posting"},
                       {DateText, "DatePosted"},
-                      {Long, "IdRow"},
                       {DateText, "DateTaken"},
                       {Memo, "Content"}},
                      {"IdRecord"});

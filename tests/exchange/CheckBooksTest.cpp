@@ -81,7 +81,7 @@ TEST_F(CheckBooksTest, FindsEachFaultByItself) {
         {"INSERT INTO MortgageLog (IdMortgageLog, Principal, PayDown, Interest, Other, Total) "
          "VALUES (30, 1, 2, 3, 4, 11)",
          Severity::Fault, "1 ledger row of a mortgage whose total isn't the sum of its parts: 30"},
-        {"INSERT INTO Transactions (IdTransaction, Class, Flags) VALUES (30, 1, 0)",
+        {"INSERT INTO Transactions (IdTransaction, Class, Flags, Amount) VALUES (30, 1, 0, 5)",
          Severity::Fault, "1 transaction of a lease without a row in its ledger: 30"},
         {"INSERT INTO Transactions (IdTransaction, Class, Flags) VALUES (30, 5, 0)",
          Severity::Fault, "1 transaction of a mortgage without a row in its ledger: 30"},
@@ -108,6 +108,9 @@ TEST_F(CheckBooksTest, FindsEachFaultByItself) {
         EXPECT_FALSE(findings.front().advice.empty());
         EXPECT_EQ(HasFaults(findings), each.severity == Severity::Fault);
     }
+    // A payment from credit, all of whose charges are open again.
+    Run("INSERT INTO Transactions (IdTransaction, Class, Flags, Amount) VALUES (31, 1, 0, 0)");
+    EXPECT_TRUE(Check().empty());
     core::App().Connection.RunScript(
         "DROP TABLE RentCredit; DROP TABLE LeaseCredit; DROP TABLE TakenBack;");
     EXPECT_EQ(CheckSummary(Check()), "Everything is in order.");

@@ -6,11 +6,13 @@
 #include <fmt/core.h>
 #include <gtest/gtest.h>
 
+#include "core/RecordKinds.h"
 #include "leases/CreditBooks.h"
 #include "leases/Credits.h"
 #include "leases/ReturnPayment.h"
 #include "leases/mLease.h"
 #include "platform/system/Clock.h"
+#include "removal/DeleteRecord.h"
 
 namespace tests {
 
@@ -149,6 +151,9 @@ TEST_F(SpentCredit, IsShownBeforeItGoesBack) {
         charge.selected = charge.amount > Currency();
     leases::SubmitPayment(other);
     EXPECT_THROW(leases::SubmitReturn(returned), platform::ConflictError);
+    // Deleted after that, the screen still shows it until it is read again.
+    removal::DeleteRecord(core::kTransaction, id, removal::Confirm::DontAsk);
+    EXPECT_FALSE(leases::PreviewReturn(returned).empty());
 }
 
 } // namespace

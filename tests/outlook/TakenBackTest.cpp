@@ -61,8 +61,9 @@ TEST_F(LookAheadAfterTakingBack, ForetellsNoRowThatWasTakenBack) {
         if (row.recordKind == core::kLease && row.origin != outlook::Origin::Day)
             foretold.push_back(LineOf(row.recordId, row.date, row.what, row.amount));
     }
-    platform::SetToday(until);
     shell::RunDigest later;
+    core::UpdateRecords(later);
+    platform::SetToday(until);
     core::UpdateRecords(later);
     Lines posted;
     for (const shell::DigestRow& row : later.Rows()) {

@@ -1,5 +1,7 @@
 #include "shell/ResetSample.h"
 
+#include <algorithm>
+
 #include "core/BooksSettings.h"
 #include "core/CoreFixture.h"
 #include "core/Globals.h"
@@ -45,14 +47,21 @@ class ResetSample : public tests::CoreProcess {
 
 TEST_F(ResetSample, MakesItNewWhereItIsAndKnowsItAgain) {
     const std::string leases = Leases(Sample());
+    fs::create_directory(Sample() / "NewSample");
     for (int time = 0; time < 2; ++time) {
         Spoil(Sample());
+        fs::remove(Sample() / "Vestrel.runs");
         shell::ResetSample(Sample(), 2, kToday);
         EXPECT_EQ(Leases(Sample()), leases) << time;
         EXPECT_EQ(Ask(Sample(), "SELECT CompanyName FROM Configuration"),
                   "Marchetti Rentals (Sample Books)");
+        EXPECT_TRUE(fs::exists(Sample() / "Vestrel.runs"));
     }
-    EXPECT_FALSE(fs::exists(Sample() / "NewSample"));
+    EXPECT_TRUE(fs::exists(Sample() / "NewSample")) << "a folder of the user's";
+    const auto drafts = std::ranges::count_if(fs::directory_iterator(Sample()), [](auto& entry) {
+        return entry.path().filename().string().starts_with("NewSample");
+    });
+    EXPECT_EQ(drafts, 1);
     EXPECT_FALSE(core::App().Connection.IsOpen());
 }
 

@@ -193,6 +193,8 @@ TEST_F(TakingBack, RemembersARowThatWasDeletedBefore) {
     EXPECT_EQ(posted(), "0");
     leases::UpdateLeaseById(rent.recordId, leases::WalkMode::Reprocess);
     EXPECT_EQ(posted(), "1");
+    EXPECT_THAT(Refused([&] { Take(rent); }), HasSubstr("posted again")) << "under another id";
+    EXPECT_EQ(posted(), "1");
 }
 
 TEST_F(TakingBack, GoesWithItsRecord) {

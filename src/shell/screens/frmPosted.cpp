@@ -98,7 +98,7 @@ void frmPosted::SetUpButtons(QVBoxLayout& rows) {
         button->setAutoDefault(false);
         return button;
     };
-    open_ = add(QStringLiteral("cmdOpen"), tr("Open Reco&rd"),
+    open_ = add(QStringLiteral("cmdOpen"), tr("Open Recor&d"),
                 tr("Open the record that the row was posted for (Enter)"));
     takeBack_ = add(QStringLiteral("cmdTakeBack"), tr("&Take Back..."),
                     tr("Delete the selected rows, so that no later run posts them again"));
