@@ -58,6 +58,7 @@ WalkIds Write(std::int32_t idLease, const LeaseWalk& walk, const std::vector<Ope
 /// Returns charges and payments from credit, day by day.
 PostedRows RowsOf(const LeaseWalk& walk, const WalkIds& ids) {
     PostedRows rows;
+    rows.reserve(walk.charges.size() + walk.payments.size());
     for (std::size_t i = 0; i < walk.charges.size(); ++i) {
         const Charge& charge = walk.charges[i];
         rows.push_back({charge.date, CategoryOf(charge.kind), charge.amount, ReasonOf(charge),

@@ -45,6 +45,7 @@ void LeaveOutTakenBack(std::int32_t idMortgage, std::vector<Charge>& charges) {
 
 std::vector<core::PostedRow> RowsOf(const std::vector<Charge>& charges, std::int32_t firstId) {
     std::vector<core::PostedRow> rows;
+    rows.reserve(charges.size());
     for (const Charge& charge : charges) {
         rows.push_back({charge.date, WordsOf(charge.flags).category, charge.Total(),
                         ReasonOf(charge), firstId++});

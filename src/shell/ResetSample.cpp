@@ -67,7 +67,7 @@ class DraftFolder {
     fs::path draft_;
 };
 
-/// The history of the old sample's runs would name rows that are gone.
+/// The history of the old sample's runs would name rows that no longer exist.
 void MoveHistory(const fs::path& from, const fs::path& to) {
     std::error_code failed;
     fs::rename(HistoryFileOf(from), HistoryFileOf(to), failed);

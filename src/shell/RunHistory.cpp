@@ -48,14 +48,15 @@ Date DateFrom(const Json& text) {
 
 /// The row refers to the text of its category in `row`.
 core::PostedRow RowFrom(const Json& row) {
-    return {.date = DateFrom(row.at("day")),
-            .category = row.at("what").get_ref<const std::string&>(),
-            .amount = platform::StrToMoney(row.at("amount").get<std::string>()),
-            .reason = {.posting = core::Posting{row.at("posting").get<std::int16_t>()},
-                       .due = DateFrom(row.at("due")),
-                       .number = row.at("number").get<std::int32_t>(),
-                       .every = core::Every{row.at("every").get<std::int16_t>()}},
-            .id = row.at("row").get<std::int32_t>()};
+    return {
+        .date = DateFrom(row.at("day")),
+        .category = row.at("what").get_ref<const std::string&>(),
+        .amount = platform::StrToMoney(row.at("amount").get<std::string>()),
+        .reason = core::RunReason{.posting = core::Posting{row.at("posting").get<std::int16_t>()},
+                                  .due = DateFrom(row.at("due")),
+                                  .number = row.at("number").get<std::int32_t>(),
+                                  .every = core::Every{row.at("every").get<std::int16_t>()}},
+        .id = row.at("row").get<std::int32_t>()};
 }
 
 void AddRecord(RunDigest& digest, const Json& line) {

@@ -36,7 +36,6 @@ namespace leases::screens {
 
 using core::binding::FillList;
 using core::binding::GetSelectedId;
-using core::binding::SelectById;
 using core::forms::Guarded;
 using platform::qt::FromScreen;
 

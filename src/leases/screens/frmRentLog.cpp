@@ -16,7 +16,6 @@
 
 namespace leases::screens {
 
-using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
 namespace {

@@ -20,9 +20,7 @@ using leases::screens::frmLease;
 /// The ledger on the lease's screen.
 class LeaseLedger : public LeaseScreenTest {
   protected:
-    static QPointer<frmLease> Open() {
-        return support::Show<frmLease>(kLease);
-    }
+    static QPointer<frmLease> Open() { return support::Show<frmLease>(kLease); }
 };
 
 TEST_F(LeaseLedger, AddsEditsAndRemoves) {
