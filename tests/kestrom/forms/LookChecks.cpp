@@ -5,6 +5,7 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -64,6 +65,8 @@ std::vector<std::string> NamelessFaults(const QWidget& screen) {
 }
 
 std::vector<std::string> ClippingFaults(const QWidget& screen) {
+    // A text that has just been set gets its place with the next layout.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     std::vector<std::string> faults;
     for (const QWidget* const control : screen.findChildren<QWidget*>()) {
         if (!IsShownIn(*control, screen) || !ShowsText(*control)) continue;

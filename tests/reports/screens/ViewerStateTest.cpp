@@ -125,7 +125,7 @@ TEST_F(ViewerState, OpensPageSetupOnceAndForItsOwnReport) {
 }
 
 TEST_F(ViewerState, TakesCommandsOfARunOneAfterTheOther) {
-    const int index = MakeReport("long.rpt", LongTable(60'000));
+    const int index = MakeReport("long.rpt", LongTable(240'000));
     InTheMiddle([&] {
         for (int click = 0; click < 3; ++click) {
             Trigger(Viewer(), "mnuRefresh");
