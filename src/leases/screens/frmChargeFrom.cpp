@@ -76,8 +76,8 @@ void frmChargeFrom::ShowAnswer() {
         ui_->lblSummary->setText(tr("Nothing is posted up to today. Rent is next due on %1.")
                                      .arg(ToScreen(nextDue->ToText())));
     } else {
-        ui_->lblSummary->setText(tr("%n row(s) will be posted up to today, %1 in all:", nullptr,
-                                    static_cast<int>(rows.size()))
+        ui_->lblSummary->setText(tr("Rows that will be posted up to today: %1, %2 in all")
+                                     .arg(rows.size())
                                      .arg(ToScreen(platform::FormatMoney(TotalOf(rows)))));
     }
 }
