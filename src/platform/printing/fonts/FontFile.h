@@ -34,7 +34,7 @@ class FontFile {
     /// The character's own glyph, 0 if the font lacks it.
     GlyphId Glyph(char32_t code) { return Look(code).glyph; }
     /// Its advance width in ems.
-    double AdvanceOf(char32_t code) { return Look(code).advance; }
+    double AdvanceOf(char32_t code) { return static_cast<double>(Look(code).advance); }
     double GlyphAdvance(GlyphId glyph) const;
     /// The advance of an ASCII character in ems; negative if the font lacks it.
     double AsciiAdvance(unsigned char c) const { return ascii_[c]; }
