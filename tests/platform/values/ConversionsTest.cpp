@@ -10,44 +10,26 @@
 #include <string>
 
 #include "platform/values/Errors.h"
+#include "support/Cases.h"
 
 namespace platform {
 namespace {
 
+using support::Case;
+using support::ForEachCase;
+
+constexpr const char* kCases = VESTREL_TEST_DATA "/conversions.cases";
+
+Currency Scaled(const Case& each) {
+    return Currency::FromScaled(each.Number<std::int64_t>("scaled"));
+}
+
 TEST(Conversions, ReadNumbersAsPeopleWriteThem) {
-    struct Case {
-        const char* text;
-        double number;
-        std::int64_t scaled;
-    };
-    const Case cases[] = {
-        {"0", 0, 0},
-        {"-0.0", 0, 0},
-        {"1,234.50", 1234.5, 12'345'000},
-        {"(5.00)", -5, -50'000},
-        {"($1,234.5)", -1234.5, -12'345'000},
-        {"( 5 )", -5, -50'000},
-        {"$5", 5, 50'000},
-        {"-$5", -5, -50'000},
-        {"$-5", -5, -50'000},
-        {" +7 ", 7, 70'000},
-        {"- 7", -7, -70'000},
-        {"-.5", -0.5, -5'000},
-        {"5.", 5, 50'000},
-        {"007.50", 7.5, 75'000},
-        {"1e3", 1000, 10'000'000},
-        {"1.5E-2", 0.015, 150},
-        {"2.5e+1", 25, 250'000},
-        {"0.00005e4", 0.5, 5'000},
-        {"1,234,567", 1'234'567, 12'345'670'000},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(TryParseNumber(c.text), c.number) << c.text;
-        EXPECT_EQ(StrToDouble(c.text), c.number) << c.text;
-        const auto amount = TryParseMoney(c.text);
-        ASSERT_TRUE(amount) << c.text;
-        EXPECT_EQ(amount->Scaled(), c.scaled) << c.text;
-    }
+    ForEachCase(kCases, "numbers as people write them", [](const Case& each) {
+        EXPECT_EQ(TryParseNumber(each["text"]), each.Number<double>("number"));
+        EXPECT_EQ(StrToDouble(each["text"]), each.Number<double>("number"));
+        EXPECT_EQ(TryParseMoney(each["text"]), Scaled(each));
+    });
 }
 
 TEST(Conversions, JunkIsAnErrorButForMoneyThatIsZero) {
@@ -101,31 +83,8 @@ TEST(Conversions, NumbersBeyondTheRangeOverflowAndTinyOnesVanish) {
 }
 
 TEST(Conversions, MoneyIsReadExactlyToItsLimits) {
-    struct Case {
-        const char* text;
-        std::int64_t scaled;
-    };
-    const Case cases[] = {
-        {"0.00005", 0},
-        {"0.00015", 2},
-        {"0.000150000000000000000001", 2},
-        {"0.000250000000000000000001", 3},
-        {"0.00025", 2},
-        {"-0.00025", -2},
-        {"0.00004999", 0},
-        {"0.0000099", 0},
-        {"922337203685477.5807", std::numeric_limits<std::int64_t>::max()},
-        {"922,337,203,685,477.58074", std::numeric_limits<std::int64_t>::max()},
-        {"-922337203685477.5808", std::numeric_limits<std::int64_t>::min()},
-        {"(922337203685477.5808)", std::numeric_limits<std::int64_t>::min()},
-        {"123456789012345.6789", 1'234'567'890'123'456'789},
-        {"9223372036854775807e-4", std::numeric_limits<std::int64_t>::max()},
-    };
-    for (const Case& c : cases) {
-        const auto amount = TryParseMoney(c.text);
-        ASSERT_TRUE(amount) << c.text;
-        EXPECT_EQ(amount->Scaled(), c.scaled) << c.text;
-    }
+    ForEachCase(kCases, "money to its limits",
+                [](const Case& each) { EXPECT_EQ(TryParseMoney(each["text"]), Scaled(each)); });
     for (const char* text : {"922337203685477.5808", "-922337203685477.5809", "1e15", "1e400",
                              "99999999999999999999999999"}) {
         EXPECT_THROW(TryParseMoney(text), OverflowError) << text;
@@ -142,24 +101,9 @@ TEST(Conversions, OnlyTheWordTrueIsTrue) {
 }
 
 TEST(Conversions, NumbersShowInTheirShortestForm) {
-    struct Case {
-        double number;
-        const char* text;
-    };
-    const Case cases[] = {
-        {0.1, "0.1"},
-        {-0.0, "0"},
-        {1'000'000, "1000000"},
-        {-2.5, "-2.5"},
-        {0.1 + 0.2, "0.30000000000000004"},
-        {1e-7, "0.0000001"},
-        {999'999'999'999'999, "999999999999999"},
-        {1e15, "1E+15"},
-        {-1.25e300, "-1.25E+300"},
-        {5e-324, "5E-324"},
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(NumberToText(c.number), c.text);
+    ForEachCase(kCases, "numbers in their shortest form", [](const Case& each) {
+        EXPECT_EQ(NumberToText(each.Number<double>("number")), each["text"]);
+    });
 }
 
 TEST(Conversions, AnyDoubleAndAnyAmountReadBackFromTheirTexts) {
@@ -180,24 +124,10 @@ TEST(Conversions, AnyDoubleAndAnyAmountReadBackFromTheirTexts) {
 }
 
 TEST(Conversions, MoneyShowsItsDecimals) {
-    struct Case {
-        std::int64_t scaled;
-        const char* shortest;
-        const char* fixed;
-    };
-    const Case cases[] = {
-        {0, "0", "0.0000"},
-        {1, "0.0001", "0.0001"},
-        {-1, "-0.0001", "-0.0001"},
-        {12'345'000, "1234.5", "1234.5000"},
-        {-5'000'000, "-500", "-500.0000"},
-        {std::numeric_limits<std::int64_t>::min(), "-922337203685477.5808",
-         "-922337203685477.5808"},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(MoneyToText(Currency::FromScaled(c.scaled)), c.shortest);
-        EXPECT_EQ(MoneyToFixedText(Currency::FromScaled(c.scaled)), c.fixed);
-    }
+    ForEachCase(kCases, "decimals of money", [](const Case& each) {
+        EXPECT_EQ(MoneyToText(Scaled(each)), each["shortest"]);
+        EXPECT_EQ(MoneyToFixedText(Scaled(each)), each["fixed"]);
+    });
 }
 
 } // namespace

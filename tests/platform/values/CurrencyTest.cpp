@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "platform/values/Errors.h"
+#include "support/Cases.h"
 
 namespace platform {
 namespace {
@@ -15,35 +16,11 @@ constexpr auto kMost = std::numeric_limits<std::int64_t>::max();
 constexpr auto kLeast = std::numeric_limits<std::int64_t>::min();
 
 TEST(Currency, RoundsADoubleToTheNearestAmountAndHalvesToEven) {
-    struct Case {
-        double units;
-        std::int64_t scaled;
-    };
-    const Case cases[] = {
-        {0.0, 0},
-        {-0.0, 0},
-        {0.1, 1'000},
-        {0.00005, 0},
-        {0.00025, 2},
-        {0.03125, 312},
-        {0.09375, 938},
-        {-0.03125, -312},
-        {-0.09375, -938},
-        {-0.00005, 0},
-        {2.5e-5, 0},
-        {0.00005000001, 1},
-        {1234.56785, 12'345'678},
-        {-1234.5679, -12'345'679},
-        {900'719'925'474.0625, 9'007'199'254'740'625},
-        // Beyond 53 bits of scaled amount the double itself still says exactly what it is.
-        {922'337'203'685'477.5, 9'223'372'036'854'775'000},
-        {922'337'203'685'477.375, 9'223'372'036'854'773'750},
-        {-922'337'203'685'477.5, -9'223'372'036'854'775'000},
-        {1'000'000'000'000.0001220703125, 10'000'000'000'000'001},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(Currency::FromDouble(c.units).Scaled(), c.scaled) << c.units;
-    }
+    support::ForEachCase(VESTREL_TEST_DATA "/currency.cases", "doubles",
+                         [](const support::Case& each) {
+                             EXPECT_EQ(Currency::FromDouble(each.Number<double>("units")).Scaled(),
+                                       each.Number<std::int64_t>("scaled"));
+                         });
 }
 
 TEST(Currency, RefusesADoubleThatNoAmountHolds) {

@@ -6,55 +6,29 @@
 #include <string>
 
 #include "platform/values/Errors.h"
+#include "support/Cases.h"
 
 namespace platform {
 namespace {
 
+using support::Case;
+using support::ForEachCase;
+
+constexpr const char* kCases = VESTREL_TEST_DATA "/dates.cases";
+
+Interval IntervalOf(const Case& each) {
+    const std::string& name = each["interval"];
+    return name == "Day"     ? Interval::Day
+           : name == "Week"  ? Interval::Week
+           : name == "Month" ? Interval::Month
+                             : Interval::Year;
+}
+
 TEST(Date, ReadsTheWaysADayIsWritten) {
-    struct Case {
-        const char* text;
-        const char* day; // empty: not a valid date
-    };
-    const Case cases[] = {
-        {"02/29/2024", "02/29/2024"},
-        {"2/9/2024", "02/09/2024"},
-        {"  12/31/9999 ", "12/31/9999"},
-        {"1/1/100", "01/01/0100"},
-        {"1/1/00", "01/01/2000"},
-        {"1/1/5", "01/01/2005"},
-        {"1/1/29", "01/01/2029"},
-        {"1/1/30", "01/01/1930"},
-        {"1/1/99", "01/01/1999"},
-        {"7-4-2023", "07/04/2023"},
-        {"2023-07-04", "07/04/2023"},
-        {"2023/7/4", "07/04/2023"},
-        {"02/29/2023", ""},
-        {"02/29/1900", ""},
-        {"02/29/2000", "02/29/2000"},
-        {"04/31/2024", ""},
-        {"13/01/2024", ""},
-        {"0/1/2024", ""},
-        {"1/0/2024", ""},
-        {"1/32/2024", ""},
-        {"1/1/0099", ""},
-        {"1/1/20245", ""},
-        {"1/288/2024", ""},
-        {"257/1/2024", ""},
-        {"1/1/2024x", ""},
-        {"1/1-2024", ""},
-        {"1/1", ""},
-        {"1//2024", ""},
-        {"/1/2024", ""},
-        {"-1/1/2024", ""},
-        {"01022024", ""},
-        {"next week", ""},
-        {"", ""},
-        {"   ", ""},
-    };
-    for (const Case& c : cases) {
-        const auto day = Date::TryParse(c.text);
-        EXPECT_EQ(day ? day->ToText() : "", c.day) << c.text;
-    }
+    ForEachCase(kCases, "days as they are written", [](const Case& each) {
+        const auto day = Date::TryParse(each["text"]);
+        EXPECT_EQ(day ? day->ToText() : "", each["day"]);
+    });
 }
 
 TEST(Date, ParseTakesABlankTextForUnsetAndJunkForAnError) {
@@ -99,34 +73,10 @@ TEST(Date, AnUnsetDateSortsFirstAndRefusesToBeRead) {
 }
 
 TEST(Date, AddingMonthsAndYearsClampsToTheLastDayOfTheMonth) {
-    struct Case {
-        Interval interval;
-        int count;
-        const char* from;
-        const char* to;
-    };
-    const Case cases[] = {
-        {Interval::Day, 1, "02/28/2024", "02/29/2024"},
-        {Interval::Day, -60, "03/01/2023", "12/31/2022"},
-        {Interval::Week, 2, "12/25/2023", "01/08/2024"},
-        {Interval::Week, -1, "03/01/2024", "02/23/2024"},
-        {Interval::Month, 1, "01/31/2024", "02/29/2024"},
-        {Interval::Month, 1, "01/31/2023", "02/28/2023"},
-        {Interval::Month, -1, "03/31/2024", "02/29/2024"},
-        {Interval::Month, 11, "01/30/2023", "12/30/2023"},
-        {Interval::Month, 12, "02/29/2024", "02/28/2025"},
-        {Interval::Month, -13, "01/31/2024", "12/31/2022"},
-        {Interval::Month, 0, "05/31/2024", "05/31/2024"},
-        {Interval::Year, 1, "02/29/2024", "02/28/2025"},
-        {Interval::Year, 4, "02/29/2024", "02/29/2028"},
-        {Interval::Year, -124, "02/29/2024", "02/28/1900"},
-        {Interval::Month, 1, "11/30/9999", "12/30/9999"},
-        {Interval::Month, -1, "02/28/0100", "01/28/0100"},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(DateAdd(c.interval, c.count, Date::Parse(c.from)).ToText(), c.to)
-            << c.from << " " << c.count;
-    }
+    ForEachCase(kCases, "steps", [](const Case& each) {
+        const Date from = Date::Parse(each["from"]);
+        EXPECT_EQ(DateAdd(IntervalOf(each), each.Number<int>("count"), from).ToText(), each["to"]);
+    });
 }
 
 TEST(Date, LeavingTheCalendarIsAnOverflow) {
@@ -141,30 +91,10 @@ TEST(Date, LeavingTheCalendarIsAnOverflow) {
 }
 
 TEST(Date, DifferencesCountDaysWholeWeeksAndCalendarChanges) {
-    struct Case {
-        Interval interval;
-        const char* from;
-        const char* to;
-        int count;
-    };
-    const Case cases[] = {
-        {Interval::Day, "02/28/2024", "03/01/2024", 2},
-        {Interval::Day, "03/01/2024", "02/28/2024", -2},
-        {Interval::Week, "01/01/2024", "01/07/2024", 0},
-        {Interval::Week, "01/01/2024", "01/08/2024", 1},
-        {Interval::Week, "01/08/2024", "01/02/2024", 0},
-        {Interval::Week, "01/08/2024", "01/01/2024", -1},
-        {Interval::Month, "01/31/2024", "02/01/2024", 1},
-        {Interval::Month, "01/01/2024", "01/31/2024", 0},
-        {Interval::Month, "02/01/2024", "12/31/2022", -14},
-        {Interval::Year, "12/31/2023", "01/01/2024", 1},
-        {Interval::Year, "01/01/2024", "12/31/2024", 0},
-        {Interval::Year, "01/01/2024", "12/31/1999", -25},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(DateDiff(c.interval, Date::Parse(c.from), Date::Parse(c.to)), c.count)
-            << c.from << " to " << c.to;
-    }
+    ForEachCase(kCases, "differences", [](const Case& each) {
+        EXPECT_EQ(DateDiff(IntervalOf(each), Date::Parse(each["from"]), Date::Parse(each["to"])),
+                  each.Number<int>("count"));
+    });
 }
 
 } // namespace
