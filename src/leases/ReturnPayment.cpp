@@ -1,6 +1,7 @@
 #include "leases/ReturnPayment.h"
 
 #include <algorithm>
+#include <limits>
 
 #include <fmt/core.h>
 
@@ -64,30 +65,42 @@ Date OldestRent(const PaymentReturn& returned) {
     return oldest;
 }
 
-/// The option credits among so many rows that the lease's ledger got after the row `id`.
-Currency OptionCreditsAfter(std::int32_t id, int rows, std::int32_t idLease) {
-    return platform::AsOr0<Currency>(core::ReadValue(
-        "SELECT Sum(Amount) FROM RentLog WHERE (IdLease = ?) AND (Class = 4) AND (Flags = 0) AND "
-        "(Category = ?) AND (IdRentLog > ?) AND (IdRentLog <= ?)",
-        {idLease, kCategoryOptionCredit, id, id + rows}));
+/// The last number that an option credit earned by a payment can have. They follow its own row, one
+/// for each rent. One that settled its rents by credit has no row, and events that waited for it
+/// may have posted rows in between; the next payment of a rent has option credits of its own.
+std::int32_t LastOptionCredit(std::int32_t idLease, std::int32_t idTransaction,
+                              std::int32_t idPaymentRow, int rents) {
+    if (idPaymentRow != 0) return idPaymentRow + rents;
+    const auto next = core::ReadValue(
+        "SELECT Min(IdTransaction) FROM RentLog WHERE (IdLease = ?) AND (IdTransaction > ?) AND "
+        "(Class = 1) AND (Flags = 1)",
+        {idLease, idTransaction});
+    return next.IsNull() ? std::numeric_limits<std::int32_t>::max() : next.AsLong();
 }
 
-/// The credits that a payment earned have the numbers after its own row, a rent each. The daily
-/// run's payments have no row, but may split a credit first.
+/// The option credits that a payment earned for so many rents.
+Currency OptionCreditOf(std::int32_t idLease, std::int32_t idTransaction, std::int32_t idPaymentRow,
+                        int rents) {
+    Currency total;
+    if (rents == 0) return total;
+    Recordset rows = core::Read(
+        "SELECT Amount FROM RentLog WHERE (IdLease = ?) AND (Class = 4) AND (Flags = 0) AND "
+        "(Category = ?) AND (Amount > 0) AND (IdRentLog > ?) AND (IdRentLog <= ?) "
+        "ORDER BY IdRentLog",
+        {idLease, kCategoryOptionCredit, idPaymentRow != 0 ? idPaymentRow : idTransaction,
+         LastOptionCredit(idLease, idTransaction, idPaymentRow, rents)});
+    for (; !rows.Eof() && rents > 0; rows.MoveNext(), --rents)
+        total += MoneyOf(rows["Amount"]);
+    return total;
+}
+
 Currency OptionCreditOf(const PaymentReturn& returned) {
     const RentPayment& payment = returned.payment;
-    Currency total;
-    if (payment.idPaymentRow != 0) {
-        total =
-            OptionCreditsAfter(payment.idPaymentRow, CountPeriodRents(payment), payment.idLease);
-    }
-    for (const CreditSpending& spending : returned.spendings) {
-        const int rents = CountPeriodRents(spending);
-        if (rents == 0) continue;
-        const bool hasRow = spending.idPaymentRow != 0;
-        total += OptionCreditsAfter(hasRow ? spending.idPaymentRow : spending.idTransaction,
-                                    hasRow ? rents : rents + 1, payment.idLease);
-    }
+    Currency total = OptionCreditOf(payment.idLease, payment.idTransaction, payment.idPaymentRow,
+                                    CountPeriodRents(payment));
+    for (const CreditSpending& spending : returned.spendings)
+        total += OptionCreditOf(payment.idLease, spending.idTransaction, spending.idPaymentRow,
+                                CountPeriodRents(spending));
     return total;
 }
 

@@ -33,6 +33,12 @@ class SpentCredit : public CreditBooks {
         SetLeaseField("Option", "True");
         SetLeaseField("OptionCredit", "50");
         Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
+        // Events that wait for the tenant's payments post rows in the midst of each.
+        Run("DELETE * FROM AutoEvent");
+        for (const char* const id : {"900", "901"})
+            Run(std::string("INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, "
+                            "TriggerType, TriggerID, TriggerTaxCategory, Amount) VALUES (") +
+                id + ", 2, True, 1, 5, 103, 'Rent Payment', 0)");
     }
     static void LiveUntil(Date day) {
         platform::SetToday(day);
@@ -96,6 +102,8 @@ TEST_F(SpentCredit, GoesBackWithThePaymentThatBroughtIt) {
               "0"},
              {"rent, and the next is paid by other money", 2000, ByItself, march, AllIsPaid,
               "04/01", "02/01", "04/01", "2000R ", "50"},
+             {"rent that it covers", 2000, ByHand, february, AllIsPaid, "03/01", "01/01", "03/01",
+              "2000R ", "0"},
              {"nothing", 1400, ByHand, january, Nothing, "02/01", "01/01", "02/01", "1000R ", "0"},
              {"paid out", 1400, ByHand, january, AllIsPaid, "02/01", "01/01", "02/01", "1000R 400 ",
               "0"},
@@ -118,8 +126,8 @@ TEST_F(SpentCredit, GoesBackWithThePaymentThatBroughtIt) {
         EXPECT_EQ(Open(), c.open);
         EXPECT_EQ(Ask("SELECT OptionBalance FROM Lease"), c.option);
         EXPECT_EQ(leases::CreditBalance(kLeaseId, TransactionClass::Rent), Currency());
-        EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE Amount = 0 AND Description NOT "
-                      "LIKE 'Returned *'"),
+        EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE IdLease = 101 AND Amount = 0 AND "
+                      "Description NOT LIKE 'Returned *'"),
                   "0");
         ExpectBalanced();
         // Paid again, the rents move the due date on.
@@ -146,7 +154,7 @@ TEST_F(SpentCredit, IsShownBeforeItGoesBack) {
               "-100; Next due date 0; Payment marked 0; ");
     // Spent in another way after that, it is read again first.
     leases::RentPayment other =
-        leases::ReadPayment(Id("SELECT Max(IdTransaction) FROM Transactions"));
+        leases::ReadPayment(Id("SELECT Max(IdTransaction) FROM Transactions WHERE IdLease = 101"));
     for (leases::PaymentCharge& charge : other.charges)
         charge.selected = charge.amount > Currency();
     leases::SubmitPayment(other);
