@@ -24,9 +24,11 @@ namespace {
 std::vector<CreditSpending> ReadSpentCredits(std::int32_t idPayment) {
     std::vector<CreditSpending> spendings;
     Recordset rows = core::Read(
-        "SELECT c.IdRentLog, c.IdOrigin, p.Amount, p.IdTransaction FROM (RentCredit AS c INNER "
-        "JOIN RentLog AS o ON c.IdOrigin = o.IdRentLog) INNER JOIN RentLog AS p "
-        "ON c.IdRentLog = p.IdRentLog WHERE (o.IdTransaction = ?) AND (p.IdTransaction <> 0) AND "
+        "SELECT c.IdRentLog, c.IdOrigin, p.Amount, p.IdTransaction, t.Description FROM "
+        "((RentCredit AS c INNER JOIN RentLog AS o ON c.IdOrigin = o.IdRentLog) INNER JOIN RentLog "
+        "AS p ON c.IdRentLog = p.IdRentLog) LEFT JOIN Transactions AS t "
+        "ON p.IdTransaction = t.IdTransaction WHERE (o.IdTransaction = ?) AND (p.IdTransaction <> "
+        "0) AND "
         "(p.IdTransaction <> ?) AND (c.IdReturn = 0) ORDER BY p.IdTransaction, c.IdRentLog",
         {idPayment, idPayment});
     for (; !rows.Eof(); rows.MoveNext()) {
@@ -34,34 +36,41 @@ std::vector<CreditSpending> ReadSpentCredits(std::int32_t idPayment) {
         if (spendings.empty() || spendings.back().idTransaction != idTransaction) {
             spendings.emplace_back();
             spendings.back().idTransaction = idTransaction;
+            spendings.back().description = TextOf(rows["Description"]);
         }
         spendings.back().credits.push_back(
-            {IdOf(rows["IdRentLog"]), IdOf(rows["IdOrigin"]), -MoneyOf(rows["Amount"])});
+            {IdOf(rows["IdRentLog"]), IdOf(rows["IdOrigin"]), -MoneyOf(rows["Amount"]), {}});
     }
     return spendings;
 }
 
-/// Finds the charges that the credits paid for. Returns false if the transaction doesn't settle
-/// charges of so much.
-bool FindCharges(CreditSpending& spending, const RentPayment& later) {
-    Currency left;
+/// Finds the charges that the credits paid for, and how much of the credits that is.
+void FindCharges(CreditSpending& spending, const RentPayment& later) {
+    Currency spent;
     for (const SpentCredit& credit : spending.credits)
-        left += credit.amount;
+        spent += credit.amount;
+    Currency left = spent;
     for (const PaymentCharge& charge : later.charges | std::views::reverse) {
         const Currency amount = std::min(left, charge.amount);
         if (amount <= Currency() || IsOrigin(charge.idRentLog)) continue;
         spending.charges.push_back({charge, amount});
         left -= amount;
     }
-    return left.IsZero();
+    Currency reopened = spent - left;
+    for (SpentCredit& credit : spending.credits) {
+        credit.reopened = std::min(credit.amount, reopened);
+        reopened -= credit.reopened;
+    }
+    std::erase_if(spending.credits,
+                  [](const SpentCredit& credit) { return credit.reopened.IsZero(); });
 }
 
-/// Returns the part that is to be open.
-std::int32_t SplitOff(const ReopenedCharge& reopened) {
-    auto split = ReadSplit(reopened.charge.idRentLog);
+/// Returns the part, of the amount `open`, that is to be open.
+std::int32_t SplitOff(std::int32_t idRentLog, Currency open) {
+    auto split = ReadSplit(idRentLog);
     if (!split) throw platform::ConflictError("The charge was deleted. Nothing was posted.");
-    split->parts[0].amount = reopened.charge.amount - reopened.amount;
-    split->parts[1].amount = reopened.amount;
+    split->parts[0].amount = split->Rest(open);
+    split->parts[1].amount = open;
     split->rentPart = 1;
     return SaveSplit(*split)[1];
 }
@@ -75,12 +84,14 @@ std::vector<CreditSpending> ReadSpendings(const RentPayment& payment) {
         RentPayment later;
         later.idTransaction = spending.idTransaction;
         ReadCharges(later);
-        if (!FindCharges(spending, later)) continue;
+        FindCharges(spending, later);
+        if (spending.charges.empty()) continue;
         spending.idPaymentRow = later.idPaymentRow;
         spending.isAll =
             later.idPaymentRow == 0 &&
             later.charges.size() == spending.charges.size() + spending.credits.size() &&
-            std::ranges::none_of(spending.charges, &ReopenedCharge::IsPart);
+            std::ranges::none_of(spending.charges, &ReopenedCharge::IsPart) &&
+            std::ranges::none_of(spending.credits, &SpentCredit::IsPart);
         spendings.push_back(std::move(spending));
     }
     return spendings;
@@ -91,9 +102,10 @@ void UndoSpending(const CreditSpending& spending) {
         core::Settle(core::kRentLedger, idRentLog, spending.idTransaction, core::Settled::No);
     };
     for (const ReopenedCharge& reopened : spending.charges)
-        reopen(reopened.IsPart() ? SplitOff(reopened) : reopened.charge.idRentLog);
+        reopen(reopened.IsPart() ? SplitOff(reopened.charge.idRentLog, reopened.amount)
+                                 : reopened.charge.idRentLog);
     for (const SpentCredit& credit : spending.credits)
-        reopen(credit.idRentLog);
+        reopen(credit.IsPart() ? SplitOff(credit.idRentLog, -credit.reopened) : credit.idRentLog);
 }
 
 int CountPeriodRents(const CreditSpending& spending) {

@@ -46,10 +46,10 @@ PreviewRows PreviewReturn(const PaymentReturn& returned);
 /// Brings the lease up to date, posts a transaction of the negative amount, opens the charges of
 /// the payment again, withdraws the credit that it brought (the charges that it has settled are
 /// open again; what was paid out of it is owed again) and the option credit, charges the fee, moves
-/// the next due date, and marks the payment as returned: one unit of work that reads all of it
-/// again. Throws FieldError if there are errors, and ConflictError, with nothing changed, if the
-/// payment or the next due date was changed since the return was proposed. Returns the id of the
-/// new transaction.
+/// the next due date, and marks the payment as returned, and the payments from its credit that
+/// settle nothing any more: one unit of work that reads all of it again. Throws FieldError if there
+/// are errors, and ConflictError, with nothing changed, if the payment or the next due date was
+/// changed since the return was proposed. Returns the id of the new transaction.
 std::int32_t SubmitReturn(const PaymentReturn& returned);
 
 } // namespace leases

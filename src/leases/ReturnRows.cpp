@@ -8,6 +8,7 @@
 namespace leases {
 
 using platform::Currency;
+using platform::Date;
 
 namespace {
 
@@ -49,7 +50,15 @@ std::string Shortened(std::string text) {
     return text;
 }
 
-void AddSpending(PreviewRows& rows, const CreditSpending& spending) {
+RentLogEntry CreditRow(const ReturnPlan& plan, std::string_view category, Currency amount) {
+    RentLogEntry row = plan.returned;
+    row.category = category;
+    row.amount = amount;
+    row.description = "Credit of the payment";
+    return row;
+}
+
+void AddSpending(PreviewRows& rows, const ReturnPlan& plan, const CreditSpending& spending) {
     for (const ReopenedCharge& reopened : spending.charges) {
         const PaymentCharge& charge = reopened.charge;
         const auto add = [&](std::string what, const std::string& description, Currency amount) {
@@ -64,20 +73,35 @@ void AddSpending(PreviewRows& rows, const CreditSpending& spending) {
         add("Part still paid", charge.description, charge.amount - reopened.amount);
         add("Part open again", "Deferred " + charge.description, reopened.amount);
     }
+    for (const SpentCredit& credit : spending.credits) {
+        if (!credit.IsPart()) continue;
+        rows.push_back(RowOf("Credit still used",
+                             CreditRow(plan, kCategoryCredit, credit.reopened - credit.amount)));
+    }
 }
 
 void AddCredits(PreviewRows& rows, const ReturnPlan& plan) {
     for (const removal::CreditOrigin& credit : plan.credits) {
-        const std::string description = "Credit of the payment";
-        if (!credit.open.IsZero()) {
-            rows.push_back({"Credit withdrawn", plan.returned.datePosted,
-                            std::string(kCategoryCredit), description, -credit.open});
-        }
+        if (!credit.open.IsZero())
+            rows.push_back(
+                RowOf("Credit withdrawn", CreditRow(plan, kCategoryCredit, -credit.open)));
         const Currency spent = credit.amount - credit.open;
-        if (!spent.IsZero()) {
-            rows.push_back({"Credit paid out, owed again", plan.returned.datePosted,
-                            std::string(kCategoryOverpayment), description, spent});
-        }
+        if (!spent.IsZero())
+            rows.push_back(
+                RowOf("Credit spent, owed again", CreditRow(plan, kCategoryOverpayment, spent)));
+    }
+}
+
+void AddMarks(PreviewRows& rows, const ReturnPlan& plan) {
+    const Date day = plan.returned.datePosted;
+    rows.push_back({"Payment marked", day, {}, plan.description, {}});
+    for (const CreditSpending& spending : plan.spendings) {
+        if (!spending.isAll) continue;
+        rows.push_back({"Payment from credit marked",
+                        day,
+                        {},
+                        MarkedDescription(day, spending.description),
+                        {}});
     }
 }
 
@@ -98,7 +122,7 @@ ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::Credit
             const auto origin =
                 std::ranges::find(plan.credits, credit.idOrigin, &removal::CreditOrigin::idRentLog);
             // The payment may have changed since it was shown; the return itself refuses that.
-            if (origin != plan.credits.end()) origin->open += credit.amount;
+            if (origin != plan.credits.end()) origin->open += credit.reopened;
         }
     }
     for (const PaymentCharge& charge : payment.charges) {
@@ -121,7 +145,7 @@ ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::Credit
     return plan;
 }
 
-std::string MarkedDescription(platform::Date day, const std::string& description) {
+std::string MarkedDescription(Date day, const std::string& description) {
     return Shortened(removal::ReturnMark(day) + description);
 }
 
@@ -135,7 +159,7 @@ PreviewRows RowsOf(const ReturnPlan& plan) {
                         charge.datePosted, charge.category, charge.description, charge.amount});
     }
     for (const CreditSpending& spending : plan.spendings)
-        AddSpending(rows, spending);
+        AddSpending(rows, plan, spending);
     AddCredits(rows, plan);
     rows.push_back(RowOf("In the place of the charges", plan.returned));
     rows.push_back(RowOf("Settled by the return", plan.counterpart));
@@ -147,7 +171,7 @@ PreviewRows RowsOf(const ReturnPlan& plan) {
         rows.push_back(
             {"Next due date", plan.dueAfter, {}, "until now " + plan.dueNow.ToText(), {}});
     }
-    rows.push_back({"Payment marked", plan.returned.datePosted, {}, plan.description, {}});
+    AddMarks(rows, plan);
     return rows;
 }
 

@@ -23,7 +23,7 @@ struct ReturnPlan {
     /// The uses of the payment's credit, whose charges are open again too.
     std::vector<CreditSpending> spendings;
     /// The credit that the payment had brought. The open part, counting what is open again, is
-    /// withdrawn; the rest was paid out and is owed again.
+    /// withdrawn; the rest paid for no charge, and is owed again.
     std::vector<removal::CreditOrigin> credits;
     /// The row that the payment settles in the place of its charges.
     RentLogEntry returned;

@@ -65,10 +65,7 @@ void SetDescription(std::int32_t idTransaction, const std::string& description) 
 /// Marks a payment from credit that settles nothing any more.
 void MarkSpending(const CreditSpending& spending, Date day) {
     if (!spending.isAll) return;
-    const auto description = core::ReadValue(
-        "SELECT Description FROM Transactions WHERE IdTransaction = ?", {spending.idTransaction});
-    SetDescription(spending.idTransaction,
-                   MarkedDescription(day, platform::AsOr0<std::string>(description)));
+    SetDescription(spending.idTransaction, MarkedDescription(day, spending.description));
 }
 
 void MarkPayment(const ReturnPlan& plan) {

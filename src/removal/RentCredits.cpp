@@ -26,6 +26,39 @@ std::string MarkOf(const std::string& description) {
     return isMark ? mark : std::string();
 }
 
+void SetDescription(std::int32_t idTransaction, const std::string& description) {
+    core::Execute("UPDATE Transactions SET Description = ? WHERE IdTransaction = ?",
+                  {description, idTransaction});
+}
+
+/// Whether another payment of the lease was returned with this mark.
+bool IsMarkOfOther(const std::string& mark, std::int32_t idLease, std::int32_t idReturn) {
+    Recordset others = core::Read(
+        "SELECT t.Description FROM (RentCredit AS c INNER JOIN RentLog AS o "
+        "ON c.IdOrigin = o.IdRentLog) INNER JOIN Transactions AS t "
+        "ON o.IdTransaction = t.IdTransaction WHERE (c.IdLease = ?) AND (c.IdReturn <> 0) AND "
+        "(c.IdReturn <> ?)",
+        {idLease, idReturn});
+    for (; !others.Eof(); others.MoveNext()) {
+        if (TextOf(others["Description"]).starts_with(mark)) return true;
+    }
+    return false;
+}
+
+/// Takes the mark off the payments of the lease that settle nothing.
+void UnmarkEmptyPayments(const std::string& mark, std::int32_t idLease) {
+    Recordset payments = core::Read(
+        "SELECT t.IdTransaction, t.Description FROM Transactions AS t LEFT JOIN RentLog AS r "
+        "ON t.IdTransaction = r.IdTransaction WHERE (t.IdLease = ?) AND (t.Amount = 0) AND "
+        "(r.IdRentLog IS NULL)",
+        {idLease});
+    for (; !payments.Eof(); payments.MoveNext()) {
+        const std::string text = TextOf(payments["Description"]);
+        if (text.starts_with(mark))
+            SetDescription(IdOf(payments["IdTransaction"]), text.substr(mark.size()));
+    }
+}
+
 /// The origins of credit that the payment brought or took in.
 std::vector<std::int32_t> TouchedOrigins(std::int32_t idTransaction) {
     std::vector<std::int32_t> ids;
@@ -144,14 +177,17 @@ std::string KeepReturnMark(std::int32_t idTransaction, const std::string& descri
 void UndoReturn(std::int32_t idReturn) {
     if (!HasCredits()) return;
     Recordset payment = core::Read(
-        "SELECT t.IdTransaction, t.Description FROM (RentCredit AS c INNER JOIN RentLog AS o "
-        "ON c.IdOrigin = o.IdRentLog) INNER JOIN Transactions AS t "
+        "SELECT t.IdTransaction, t.Description, c.IdLease FROM (RentCredit AS c INNER JOIN RentLog "
+        "AS o ON c.IdOrigin = o.IdRentLog) INNER JOIN Transactions AS t "
         "ON o.IdTransaction = t.IdTransaction WHERE c.IdReturn = ?",
         {idReturn});
     if (!payment.Eof()) {
         const std::string text = TextOf(payment["Description"]);
-        core::Execute("UPDATE Transactions SET Description = ? WHERE IdTransaction = ?",
-                      {text.substr(MarkOf(text).size()), IdOf(payment["IdTransaction"])});
+        const std::string mark = MarkOf(text);
+        const std::int32_t idLease = IdOf(payment["IdLease"]);
+        SetDescription(IdOf(payment["IdTransaction"]), text.substr(mark.size()));
+        if (!mark.empty() && !IsMarkOfOther(mark, idLease, idReturn))
+            UnmarkEmptyPayments(mark, idLease);
     }
     core::Execute("UPDATE RentCredit SET IdReturn = 0 WHERE IdReturn = ?", {idReturn});
 }

@@ -51,8 +51,10 @@ std::string ReturnMark(platform::Date day);
 /// Returns a description for a payment that is saved again: with the mark that the stored one has.
 std::string KeepReturnMark(std::int32_t idTransaction, const std::string& description);
 
-/// Takes the mark off the payment that this transaction has returned, before the transaction is
-/// deleted; does nothing for other transactions.
+/// Takes the mark off the payment that this transaction has returned, and off the payments from its
+/// credit that the return has left empty, before the transaction is deleted; does nothing for other
+/// transactions. If another payment of the lease was returned on that day, empty ones keep the
+/// mark: they may be the other's.
 void UndoReturn(std::int32_t idReturn);
 
 } // namespace removal

@@ -102,6 +102,8 @@ TEST_F(SpentCredit, GoesBackWithThePaymentThatBroughtIt) {
               "0"},
              {"rent, and the next is paid by other money", 2000, ByItself, march, AllIsPaid,
               "04/01", "02/01", "04/01", "2000R ", "50"},
+             {"rent, and the rest is paid out", 2400, ByHand, february, AllIsPaid, "03/01", "01/01",
+              "03/01", "2000R 400 ", "0"},
              {"rent that it covers", 2000, ByHand, february, AllIsPaid, "03/01", "01/01", "03/01",
               "2000R ", "0"},
              {"nothing", 1400, ByHand, january, Nothing, "02/01", "01/01", "02/01", "1000R ", "0"},
@@ -162,6 +164,46 @@ TEST_F(SpentCredit, IsShownBeforeItGoesBack) {
     // Deleted after that, the screen still shows it until it is read again.
     removal::DeleteRecord(core::kTransaction, id, removal::Confirm::DontAsk);
     EXPECT_FALSE(leases::PreviewReturn(returned).empty());
+}
+
+TEST_F(SpentCredit, ThatWasPaidOutInPartIsShownRowByRow) {
+    Begin();
+    const std::int32_t id = leases::SubmitAmount(Amount(1400));
+    Charge(Date(2024, 1, 8), 100);
+    PayAll();
+    std::string shown;
+    for (const leases::PreviewRow& row : leases::PreviewReturn(leases::ProposeReturn(id))) {
+        if (row.what.starts_with("Charge") || row.what.starts_with("Credit"))
+            shown += fmt::format("{} {}; ", row.what, row.amount.Scaled() / Currency::kScale);
+    }
+    EXPECT_EQ(shown,
+              "Charge open again 1000; Charge open again 100; Credit still used -300; Credit "
+              "withdrawn -100; Credit spent, owed again 300; ");
+}
+
+TEST_F(SpentCredit, LeavesAMarkOnAnEmptyPaymentUntilTheReturnIsDeleted) {
+    for (const int returns : {1, 2}) {
+        SCOPED_TRACE(returns);
+        Begin();
+        const std::int32_t id = leases::SubmitAmount(Amount(2000));
+        LiveUntil(Date(2024, 2, 3));
+        PayAll(); // from the credit, no money comes in
+        const auto empty = [] {
+            return Ask("SELECT Description FROM Transactions WHERE IdLease = 101 AND Amount = 0");
+        };
+        const std::string before = empty();
+        Charge(Date(2024, 2, 3), 60);
+        const std::int32_t other = PayAll();
+        if (returns == 2) leases::SubmitReturn(leases::ProposeReturn(other));
+        const leases::PaymentReturn returned = leases::ProposeReturn(id);
+        const leases::PreviewRow last = leases::PreviewReturn(returned).back();
+        const std::int32_t reversal = leases::SubmitReturn(returned);
+        EXPECT_EQ(empty(), "Returned 02/03/2024: " + before);
+        EXPECT_EQ(last.what + ": " + last.description, "Payment from credit marked: " + empty());
+        removal::RemoveRecord(core::kTransaction, reversal, removal::Tell::Nobody);
+        // Of two returns on a day either may have left it.
+        EXPECT_EQ(empty(), (returns == 2 ? "Returned 02/03/2024: " : "") + before);
+    }
 }
 
 } // namespace
