@@ -90,4 +90,11 @@ PayoffResult PostPayoff(std::int32_t idMortgage) {
     return PayoffResult::Posted;
 }
 
+bool HasPayoffAfter(std::int32_t idMortgage, std::int32_t idMortgageLog) {
+    return core::Exists(
+        "SELECT IdMortgageLog FROM MortgageLog WHERE (IdMortgage = ?) AND (Category = ?) AND "
+        "(IdMortgageLog > ?)",
+        {idMortgage, kCategoryPayoff, idMortgageLog});
+}
+
 } // namespace mortgages

@@ -6,7 +6,6 @@
 #include <string_view>
 
 #include <fmt/core.h>
-#include <nlohmann/json.hpp>
 
 #include "core/ChargeLedger.h"
 #include "core/Descriptions.h"
@@ -15,20 +14,20 @@
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "leases/LeaseEditor.h"
+#include "mortgages/MortgageUpkeep.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Format.h"
 #include "platform/values/Text.h"
 #include "removal/DeleteRecord.h"
+#include "shell/TakenContent.h"
 
 namespace shell {
 
-using Json = nlohmann::ordered_json;
 using platform::ConflictError;
 using platform::Recordset;
 using platform::UnitOfWork;
-using platform::Value;
 
 namespace {
 
@@ -95,25 +94,14 @@ void CheckAsPosted(const PostedLedger& ledger, Recordset& stored, const DigestRo
         Refuse(row, "it has been changed since it was posted. Delete it in its ledger instead.");
 }
 
-/// The fields of a row as text, to make the same row of it again.
-std::string ContentOf(Recordset& stored) {
-    Json content = Json::object();
-    for (std::size_t i = 0; i < stored.FieldCount(); ++i) {
-        const platform::Field field = stored[i];
-        content[field.Name()] = field.IsNull() ? Json() : Json(field.AsText());
-    }
-    return content.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
 void Restore(const PostedLedger& ledger, const DigestRow& row, const std::string& content) {
-    const Json fields = Json::parse(content, nullptr, false);
-    if (!fields.is_object()) Refuse(row, "what was stored of it can't be read.");
     if (!StoredRow(ledger, row).Eof()) Refuse(row, "it is in its ledger already.");
-    Recordset rows = core::NewRow(ledger.table);
-    // Nulls are set too, or the table's defaults would take their places.
-    for (const auto& [name, value] : fields.items())
-        rows[name].Set(value.is_string() ? Value(value.get_ref<const std::string&>()) : Value());
-    rows.Update();
+    if (row.recordKind == core::kMortgage && mortgages::HasPayoffAfter(row.recordId, row.rowId)) {
+        Refuse(row,
+               "the payoff of its mortgage, posted since, takes its place. Delete the payoff in "
+               "the ledger of the mortgage first.");
+    }
+    if (!RestoreContent(ledger.table, content)) Refuse(row, "what was stored of it can't be read.");
 }
 
 /// The balances and the lists that depend on these rows.
@@ -146,7 +134,7 @@ void TakeOne(const DigestRow& row) {
     Recordset stored = StoredRow(ledger, row);
     if (!stored.Eof()) {
         CheckAsPosted(ledger, stored, row);
-        taken.content = ContentOf(stored);
+        taken.content = ContentOf(ledger.rowKind, row.rowId, stored);
         removal::RemoveRecord(ledger.rowKind, row.rowId, removal::Tell::Nobody);
     } else if (IsPostedAgain(ledger, row)) {
         Refuse(row,

@@ -23,10 +23,11 @@ std::string NameOfRow(const RunDigest& digest, const DigestRow& row);
 /// taken back already, has been paid, or was changed since it was posted.
 void TakeBack(std::span<const DigestRow> rows);
 
-/// Puts rows that were taken back into their ledgers again as they were, under their ids, and
-/// forgets them. Returns how many of them had been deleted before they were taken back: they aren't
-/// put back, and a run that is asked to charge their days again posts them. Throws ConflictError if
-/// a row isn't taken back.
+/// Puts rows that were taken back into their ledgers again as they would be had they stayed there,
+/// under their ids and with their attached files, and forgets them. Returns how many of them had
+/// been deleted before they were taken back: they aren't put back, and a run that is asked to
+/// charge their days again posts them. Throws ConflictError if a row isn't taken back, or its
+/// mortgage was paid off since.
 int PostAgain(std::span<const DigestRow> rows);
 
 } // namespace shell

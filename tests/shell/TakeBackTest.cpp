@@ -123,6 +123,17 @@ TEST_F(TakingBack, PostsTheSameRowAgain) {
     RunTo(DateAdd(Interval::Month, 2, kMade));
     const auto history = shell::ReadHistory(shell::HistoryFile(App().Connection));
     ASSERT_EQ(history.size(), 1U);
+    std::int32_t file = 5'000'000;
+    for (const DigestRow& row : history.front().digest.Rows()) {
+        const std::int16_t kind = row.recordKind == core::kLease      ? core::kRentLog
+                                  : row.recordKind == core::kMortgage ? core::kMortgageLog
+                                                                      : core::kTransaction;
+        for (const char* const path : {"scan.pdf", "photo.png"})
+            core::Execute(
+                "INSERT INTO FileObject (IdFileObject, dbType, IdOwner, FilePath, IsPic) "
+                "VALUES (?, ?, ?, ?, True)",
+                {file++, kind, row.rowId, path});
+    }
     const Lines before = Books();
     std::set<Posting> kinds;
     for (const DigestRow& row : history.front().digest.Rows()) {
