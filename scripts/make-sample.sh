@@ -13,13 +13,10 @@ if [ -e "$registry" ] && grep -Eqi '"(Default|DBPath)"[[:space:]]*:[[:space:]]*"
     exit 0
 fi
 
-if [ ! -e "$sample" ]; then
+# The database appears when it is whole: an interrupted start leaves none. It is made where it stays,
+# since a sample that was moved counts as anybody's books.
+if [ ! -e "$sample/Vestrel.mdb" ]; then
     echo "Making a sample portfolio in $sample"
-    mkdir -p "$(dirname "$sample")"
-    # Under another name until it is whole, so that an interrupted start leaves no half portfolio.
-    unfinished=$(mktemp -d "$sample.XXXXXX")
-    trap 'rm -rf "$unfinished"' EXIT
-    "${vestrelctl[@]}" init --sample "$unfinished/sample" </dev/null
-    mv -T "$unfinished/sample" "$sample"
+    "${vestrelctl[@]}" init --sample "$sample" </dev/null
 fi
 "$1" register "$sample" </dev/null

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# What is made from the help of the programs: manual pages and completion.
-# selftest.sh VESTRELCTL [OTHER_PROGRAM]...
+# What is made from the help of the programs: manual pages and completion; and the first start from a
+# clone. selftest.sh VESTRELCTL [OTHER_PROGRAM]...
 set -euo pipefail
 
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
@@ -106,6 +106,20 @@ completes '0 3' vestrelctl post --class ''
 completes '' vestrelctl pay --check ''
 completes '--list' vestrelctl restore --l
 completes 'all.csv' vestrelctl import-text a
+
+# The first start's sample is one, wherever an interrupted start has left off, and the second start
+# leaves it alone.
+export XDG_CONFIG_HOME=$scratch/config XDG_DATA_HOME=$scratch/data
+sample=$scratch/data/Vestrel/sample
+mkdir -p "$sample"
+echo 'half of it' >"$sample/Vestrel.mdb.new"
+for start in first second; do
+    "$project/scripts/make-sample.sh" "$vestrelctl" --today 11/22/2026 >"$scratch/$start"
+done
+grep -q 'Making a sample' "$scratch/first" || fail "the first start makes no sample"
+[ ! -s "$scratch/second" ] || fail "the second start: $(cat "$scratch/second")"
+"$vestrelctl" --today 11/22/2026 init --sample --reset --units 2 "$sample" || fail "it can't be reset"
+[ "$("$vestrelctl" sql 'SELECT Count(*) FROM Unit' | tail -n 1)" = 2 ] || fail "it is not the new one"
 
 [ "$failures" -eq 0 ] || exit 1
 echo "pages of $# programs, completion: as their help says"
