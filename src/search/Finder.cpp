@@ -20,7 +20,7 @@ namespace {
 /// Among so many matches of a group, the newest, the best are chosen.
 constexpr std::size_t kCandidates = 50;
 /// Matches of a full group that are skipped one by one, before the next group is looked up.
-constexpr std::size_t kPassedOver = 100;
+constexpr std::size_t kPassedOver = 10;
 
 } // namespace
 
@@ -170,6 +170,9 @@ std::vector<HitGroup> Finder::FindWords(const Query& query, std::size_t most) {
 }
 
 void Finder::FindRecords(const Query& query, std::size_t most, std::vector<HitGroup>& groups) {
+    const TextIndex::View view(*index_);
+    const auto words = index_->WrittenOut(query.words);
+    if (!words) return;
     const std::size_t candidates = std::max(most, kCandidates);
     std::size_t source = 0;
     HitGroup group;
@@ -184,7 +187,7 @@ void Finder::FindRecords(const Query& query, std::size_t most, std::vector<HitGr
     while (first >= 0) {
         std::size_t passed = 0;
         std::int64_t next = -1;
-        index_->Find(query.words, first, [&](const TextIndex::Match& match) {
+        index_->Find(*words, first, [&](const TextIndex::Match& match) {
             if (SourceOf(match.key) != source) {
                 close();
                 source = SourceOf(match.key);

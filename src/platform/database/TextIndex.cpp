@@ -12,6 +12,7 @@
 #include <system_error>
 
 #include "platform/database/EngineFailure.h"
+#include "platform/database/IndexTerms.h"
 #include "platform/database/PreparedStatement.h"
 
 namespace platform {
@@ -192,6 +193,7 @@ void TextIndex::Command(const char* sql) {
 void TextIndex::DropStatements() {
     for (auto* const statement : {&put_, &putWords_, &remove_, &readWords_, &dropWords_, &find_})
         statement->reset();
+    terms_.reset();
 }
 
 PreparedStatement& TextIndex::Use(std::unique_ptr<PreparedStatement>& statement, const char* sql) {
@@ -261,6 +263,20 @@ void TextIndex::DropWords(std::int64_t key) {
     drop.Bind(1, Cell::OfInteger(key), TextLife::Passing);
     drop.Bind(2, read.Column(0), TextLife::Passing);
     drop.Step();
+}
+
+TextIndex::View::View(TextIndex& index) : index_(index) {
+    index_.Command("BEGIN");
+}
+
+TextIndex::View::~View() {
+    sqlite3_exec(index_.database_->getHandle(), "COMMIT", nullptr, nullptr, nullptr);
+    index_.RollBack();
+}
+
+std::optional<std::vector<SearchWord>> TextIndex::WrittenOut(std::span<const SearchWord> words) {
+    if (!terms_) terms_ = std::make_unique<IndexTerms>(database_->getHandle());
+    return terms_->WrittenOut(words);
 }
 
 void TextIndex::Find(std::span<const SearchWord> words, std::int64_t first,

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -17,6 +18,7 @@ class Database;
 
 namespace platform {
 
+class IndexTerms;
 class PreparedStatement;
 
 /// A text that can be found, and what belongs to it.
@@ -75,6 +77,19 @@ class TextIndex {
     void Put(const IndexedText& text);
     void Remove(std::int64_t key);
 
+    /// While it lives, everything is read from the index as it is at the first look, whatever
+    /// another program writes; the file is locked only once.
+    class View {
+      public:
+        explicit View(TextIndex& index);
+        ~View();
+        View(const View&) = delete;
+        View& operator=(const View&) = delete;
+
+      private:
+        TextIndex& index_;
+    };
+
     /// A text that was found, which stays only until the call with it returns.
     struct Match {
         std::int64_t key = 0;
@@ -82,6 +97,10 @@ class TextIndex {
         std::string_view detail;
         std::string_view target;
     };
+    /// Returns these words with each beginning replaced by the words of the index that begin so,
+    /// where they are few: a large index finds them many times faster. Returns nothing if no word
+    /// of the index begins so, and nothing can be found.
+    std::optional<std::vector<SearchWord>> WrittenOut(std::span<const SearchWord> words);
     /// Calls `take` with each text that has all these words, from the key `first` on, in order,
     /// until it returns false. Nothing is found without words.
     void Find(std::span<const SearchWord> words, std::int64_t first,
@@ -104,6 +123,7 @@ class TextIndex {
     std::unique_ptr<PreparedStatement> readWords_;
     std::unique_ptr<PreparedStatement> dropWords_;
     std::unique_ptr<PreparedStatement> find_;
+    std::unique_ptr<IndexTerms> terms_;
 };
 
 /// Returns the full-text expression for texts that have all these words, empty without words.

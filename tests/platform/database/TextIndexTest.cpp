@@ -76,6 +76,45 @@ TEST_F(TextIndexTest, FindsWordsByTheirBeginningInOrderOfTheKeys) {
     EXPECT_THAT(Find(index, {{{"o"}, false}}, 3), ElementsAre(5)) << "from a key on";
 }
 
+TEST_F(TextIndexTest, WritesOutTheFewWordsWithABeginning) {
+    TextIndex index;
+    Put(index, 1, "lease leased Léasing 2020m01 repair");
+    Put(index, 2, "LEASES repairs removed");
+    Put(index, 3, "abcda abcdb abcdc abcdd abcde abcdf abcdg abcdh");
+    Put(index, 2, "LEASES repairs");
+    using Words = std::vector<std::string>;
+    struct Case {
+        SearchWord word;
+        Words forms;
+        bool isWhole = true;
+    };
+    const std::vector<Case> cases = {
+        {{{"lease"}, false}, {"lease", "leased", "leases"}},
+        {{{"LEAS"}, false}, {"lease", "leased", "leases", "leasing"}},
+        {{{"lease"}, true}, {"lease"}},
+        {{{"2020m", "repairs"}, false}, {"2020m01", "repairs"}},
+        {{{"lea"}, false}, {"lea"}, false}, // short, which the index has as it is
+        {{{"léas"}, false}, {"léas"}, false},
+        {{{"o'leary"}, false}, {"o'leary"}, false},
+        {{{"abcd"}, false},
+         {"abcda", "abcdb", "abcdc", "abcdd", "abcde", "abcdf", "abcdg", "abcdh"}},
+    };
+    const auto expect = [&](const Case& each) {
+        const std::vector<SearchWord> words = {each.word};
+        const auto written = index.WrittenOut(words);
+        ASSERT_TRUE(written && written->size() == 1) << each.word.forms[0];
+        EXPECT_EQ(written->front().forms, each.forms);
+        EXPECT_EQ(written->front().isWhole, each.isWhole) << each.word.forms[0];
+        EXPECT_EQ(Find(index, *written), Find(index, words)) << each.word.forms[0];
+    };
+    for (const Case& each : cases)
+        expect(each);
+    Put(index, 4, "abcdi");
+    expect({{{"abcd"}, false}, {"abcd"}, false}); // too many now
+    for (const char* const none : {"nothing", "zzzz"})
+        EXPECT_FALSE(index.WrittenOut({{{{"lease"}, false}, {{none}, false}}})) << none;
+}
+
 TEST_F(TextIndexTest, TakesNothingThatIsTypedForAnOperator) {
     TextIndex index;
     Put(index, 1, "NEAR and AND or NOT \"quoted\" col : ^ * ( )");
@@ -86,6 +125,7 @@ TEST_F(TextIndexTest, TakesNothingThatIsTypedForAnOperator) {
           std::string("-"), std::string("'; DROP TABLE texts; --"), zero, std::string("\xff\xfe"),
           std::string("🏠"), std::string(10'000, 'x'), std::string(10'000, '"')}) {
         EXPECT_NO_THROW(Find(index, typed)) << typed.substr(0, 40);
+        EXPECT_NO_THROW(index.WrittenOut({{{{typed}, false}}})) << typed.substr(0, 40);
     }
     EXPECT_THAT(Find(index, "and"), ElementsAre(1));
     EXPECT_THAT(Find(index, "\"quoted\""), ElementsAre(1));
