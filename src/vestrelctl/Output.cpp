@@ -3,7 +3,11 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <iostream>
+#include <sstream>
+#include <string>
+#include <string_view>
 
 #include "core/Globals.h"
 #include "platform/values/Errors.h"
@@ -14,6 +18,40 @@ namespace {
 
 [[noreturn]] void ThrowLost() {
     throw platform::Error("the output can't be written");
+}
+
+/// Takes in what is printed until it ends.
+class HeldOutput {
+  public:
+    HeldOutput() : usual_(std::cout.rdbuf(held_.rdbuf())) {}
+    ~HeldOutput() { std::cout.rdbuf(usual_); }
+    HeldOutput(const HeldOutput&) = delete;
+    HeldOutput& operator=(const HeldOutput&) = delete;
+
+    std::string Text() const { return held_.str(); }
+
+  private:
+    std::ostringstream held_;
+    std::streambuf* usual_;
+};
+
+/// Writes past the stream, which would try what it couldn't write once more when the program ends.
+bool Write(std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t written = write(STDOUT_FILENO, text.data(), text.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) return false;
+        text.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+std::string BookedOutput(const std::function<void()>& work) {
+    const HeldOutput held;
+    platform::UnitOfWork unit(core::App().Connection);
+    work();
+    unit.Commit();
+    return held.Text();
 }
 
 } // namespace
@@ -31,11 +69,11 @@ void FlushOutput() {
 }
 
 void BookAndPrint(const std::function<void()>& work) {
-    CheckOutput();
-    platform::UnitOfWork unit(core::App().Connection);
-    work();
     FlushOutput();
-    unit.Commit();
+    CheckOutput();
+    const std::string output = BookedOutput(work);
+    if (!Write(output))
+        std::cerr << "vestrelctl: booked, but the output can't be written: " << output;
 }
 
 } // namespace vestrelctl
