@@ -8,6 +8,7 @@
 #include "core/RegistryKeys.h"
 #include "core/Settings.h"
 #include "platform/system/Paths.h"
+#include "support/Cases.h"
 #include "support/ScriptedDialogs.h"
 
 namespace {
@@ -17,26 +18,16 @@ using FindDatabase = tests::CoreProcess;
 using DatabaseMender = tests::CoreProcess;
 
 TEST_F(FindDatabase, VersionDecidesWhetherADatabaseIsReady) {
-    struct Case {
-        const char* version; ///< null: no such file
-        std::int16_t number;
-        DatabaseState state;
-    };
-    const Case cases[] = {
-        {nullptr, 0, DatabaseState::TooOld}, {"", 0, DatabaseState::TooOld},
-        {"8", 8, DatabaseState::TooOld},     {"9", 9, DatabaseState::Ready},
-        {" 9\r\n", 9, DatabaseState::Ready}, {"10\n", 10, DatabaseState::Ready},
-        {"nine", 0, DatabaseState::TooOld},  {"40000", 0, DatabaseState::TooOld},
-        {"-9", -9, DatabaseState::TooOld},
-    };
     core::SetRegString(core::kDatabasesKey, "Default", Folder().string());
     MakeFile("Vestrel.mdb");
-    for (const Case& c : cases) {
-        std::filesystem::remove(Folder() / "Version");
-        if (c.version != nullptr) MakeFile("Version", c.version);
-        EXPECT_EQ(core::FindDatabase(nullptr), c.state) << c.number;
-        EXPECT_EQ(core::ReadDbVersion(), c.number);
-    }
+    support::ForEachCase(
+        VESTREL_TEST_DATA "/versions.cases", "versions", [this](const support::Case& each) {
+            std::filesystem::remove(Folder() / "Version");
+            if (each["file"] != "no file") MakeFile("Version", each["file"]);
+            EXPECT_EQ(core::FindDatabase(nullptr),
+                      each["state"] == "Ready" ? DatabaseState::Ready : DatabaseState::TooOld);
+            EXPECT_EQ(core::ReadDbVersion(), each.Number<std::int16_t>("number"));
+        });
 }
 
 TEST_F(FindDatabase, WhatWasFoundIsLogged) {

@@ -6,6 +6,7 @@
 #include "core/CoreFixture.h"
 #include "core/Startup.h"
 #include "platform/system/Paths.h"
+#include "support/Cases.h"
 
 namespace {
 
@@ -23,30 +24,15 @@ std::string SwitchesAsText() {
 }
 
 TEST_F(CommandLine, SwitchesAreReadAsTheyAreWritten) {
-    struct Case {
-        std::string_view line;
-        std::string_view switches;
-    };
-    const Case cases[] = {
-        {"", "[][Default][]"},
-        {"expert", "[][Default][]"},
-        {" /Expert /DIAG ", "diag expert [][Default][]"},
-        {"/nodb/upgradedb/nowarning", "nodb upgradedb [][Default][]"},
-        {"junk /experts /expert2 /=", "[][Default][]"},
-        {"/altdb = Second House ", "[][second house][]"},
-        {"/altdb=a=b", "[][a=b][]"},
-        {"/altdb", "[][][]"},
-        {"/appstart=c:\\k.exe /loadfile=x /altdb=2", "[x][2][c:\\k.exe]"},
-        {"/loadfile=a/b", "[a][Default][]"},
-    };
-    for (const Case& c : cases) {
-        core::Globals& app = core::App();
-        app.DbName = "Default";
-        app.Expert = app.SwitchDiag = app.SwitchNoDb = app.SwitchUpgradeDb = false;
-        app.LoadFile = app.AppStart = "";
-        core::ParseCommandLine(c.line);
-        EXPECT_EQ(SwitchesAsText(), c.switches) << c.line;
-    }
+    support::ForEachCase(
+        VESTREL_TEST_DATA "/commandline.cases", "command lines", [](const support::Case& each) {
+            core::Globals& app = core::App();
+            app.DbName = "Default";
+            app.Expert = app.SwitchDiag = app.SwitchNoDb = app.SwitchUpgradeDb = false;
+            app.LoadFile = app.AppStart = "";
+            core::ParseCommandLine(each["line"]);
+            EXPECT_EQ(SwitchesAsText(), each["switches"]);
+        });
 }
 
 TEST_F(ProgramDirectory, IsWhereTheProgramIsUnlessThatIsInstalledOrReadOnly) {

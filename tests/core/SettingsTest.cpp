@@ -7,16 +7,21 @@
 #include "core/PickLists.h"
 #include "core/Preferences.h"
 #include "core/RegistryKeys.h"
+#include "support/Cases.h"
 
 namespace {
 
 using core::Preferences;
 using core::WindowState;
+using support::Case;
+using support::ForEachCase;
 using Settings = tests::CoreProcess;
 using PreferenceStore = tests::CoreProcess;
 using PickLists = tests::CoreProcess;
 using FormPosition = tests::CoreProcess;
 using testing::ElementsAre;
+
+constexpr const char* kCases = VESTREL_TEST_DATA "/settings.cases";
 
 TEST_F(Settings, ValuesReadByTheirTypeAndDefaultOtherwise) {
     core::SetRegString("Key", "text", std::string_view("cut\0here", 8));
@@ -29,20 +34,11 @@ TEST_F(Settings, ValuesReadByTheirTypeAndDefaultOtherwise) {
 }
 
 TEST_F(Settings, OnlyTheWordTrueIsTrue) {
-    struct Case {
-        const char* stored;
-        bool whenDefaultIsTrue;
-        bool whenDefaultIsFalse;
-    };
-    const Case cases[] = {
-        {"True", true, true},   {"False", false, false}, {"", true, false},
-        {"true", false, false}, {"1", false, false},
-    };
-    for (const Case& c : cases) {
-        core::SetRegString("Key", "flag", c.stored);
-        EXPECT_EQ(core::GetRegFlag("Key", "flag", true), c.whenDefaultIsTrue) << c.stored;
-        EXPECT_EQ(core::GetRegFlag("Key", "flag", false), c.whenDefaultIsFalse) << c.stored;
-    }
+    ForEachCase(kCases, "flags", [](const Case& each) {
+        core::SetRegString("Key", "flag", each["stored"]);
+        EXPECT_EQ(core::GetRegFlag("Key", "flag", true), each.IsYes("when the default is true"));
+        EXPECT_EQ(core::GetRegFlag("Key", "flag", false), each.IsYes("when it is false"));
+    });
     core::SetRegFlag("Key", "flag", false);
     EXPECT_EQ(core::GetRegString("Key", "flag", ""), "False");
 }
@@ -72,12 +68,12 @@ TEST_F(PreferenceStore, EveryPreferenceComesBackAsItWasSaved) {
 }
 
 TEST_F(PickLists, RememberEachNewTextOnce) {
-    struct Case {
+    struct Typed {
         std::string_view text;
         std::string_view tag;
         std::string_view stored;
     };
-    const Case cases[] = {
+    const Typed cases[] = {
         {"  ", "?Car", ""},
         {"Van", "?", ""},
         {" Vanity ", "?Car", "Vanity"},
@@ -86,7 +82,7 @@ TEST_F(PickLists, RememberEachNewTextOnce) {
         {"Y\x01T", "?Car", "Vanity\x01Truck"},
         {"O'Brien", "?Car", "Vanity\x01Truck\x01O'Brien"},
     };
-    for (const Case& c : cases) {
+    for (const Typed& c : cases) {
         core::ChoiceList list;
         list.SetText(c.text);
         core::SavePickList(list, c.tag);
@@ -128,28 +124,12 @@ TEST_F(FormPosition, ComesBackAsFarAsTheFormTakesIt) {
 }
 
 TEST_F(FormPosition, DamagedTextIsNoPlace) {
-    struct Case {
-        std::string_view text;
-        bool isPlace;
-        bool hasSize;
-    };
-    const Case cases[] = {
-        {" ", false, false},
-        {"1", false, false},
-        {"1,2", true, false},
-        {"1,2,3", true, false},
-        {"1,x", false, false},
-        {"1,2,0,0", true, false},
-        {" 1 , 2 , 3 , 4 ", true, true},
-        {"1,2,3,4,5", true, true},
-        {"9e9,2,3,4", false, false},
-    };
-    for (const Case& c : cases) {
-        core::SetRegString(core::kFormPositionKey, "frm", c.text);
+    ForEachCase(kCases, "places of a form", [](const Case& each) {
+        core::SetRegString(core::kFormPositionKey, "frm", each["text"]);
         const auto found = core::RestoreForm("frm", core::FormSizing::Resizable);
-        EXPECT_EQ(found.place.has_value(), c.isPlace) << c.text;
-        EXPECT_EQ(found.appliesSize, c.hasSize) << c.text;
-    }
+        EXPECT_EQ(found.place.has_value(), each.IsYes("is a place"));
+        EXPECT_EQ(found.appliesSize, each.IsYes("has a size"));
+    });
 }
 
 } // namespace

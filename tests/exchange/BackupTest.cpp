@@ -8,6 +8,7 @@
 #include "exchange/Stops.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
+#include "support/Cases.h"
 
 namespace {
 
@@ -86,33 +87,15 @@ TEST_F(BackupTest, KeepsItsSettingsToTheByte) {
 
 TEST_F(BackupTest, TellsWhetherItIsTime) {
     EXPECT_TRUE(IsBackupDue()) << "there is no configuration";
-    const struct {
-        int interval;
-        int periods;
-        platform::Date last;
-        bool isDue;
-    } cases[] = {
-        {1, 2, {}, true},
-        {1, 2, {2024, 5, 16}, false},
-        {1, 2, {2024, 5, 15}, true},
-        {1, 0, {2024, 5, 17}, true},
-        {2, 1, {2024, 5, 11}, false},
-        {2, 1, {2024, 5, 10}, true},
-        {3, 1, {2024, 4, 30}, true},
-        {3, 1, {2024, 5, 1}, false},
-        {4, 1, {2023, 12, 31}, true},
-        {4, 1, {2024, 1, 1}, false},
-        {1, 2, {2024, 6, 1}, false}, // a clock that was set back
-        {9, 2, {2024, 5, 15}, true}, // no interval that we know
-    };
-    for (const auto& each : cases) {
-        BackupConfig config = Config();
-        config.backupInterval = each.interval;
-        config.backupPeriods = each.periods;
-        config.lastBackup = each.last;
-        SaveBackupConfig(config);
-        EXPECT_EQ(IsBackupDue(), each.isDue) << each.interval << ' ' << each.last.ToText();
-    }
+    support::ForEachCase(VESTREL_TEST_DATA "/backup.cases", "due",
+                         [this](const support::Case& each) {
+                             BackupConfig config = Config();
+                             config.backupInterval = each.Number<int>("interval");
+                             config.backupPeriods = each.Number<int>("periods");
+                             config.lastBackup = platform::Date::Parse(each["last"]);
+                             SaveBackupConfig(config);
+                             EXPECT_EQ(IsBackupDue(), each.IsYes("is due"));
+                         });
     WriteText(BackupConfigPath(), "cut");
     EXPECT_FALSE(IsBackupDue());
 }

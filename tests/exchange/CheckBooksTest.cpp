@@ -2,6 +2,7 @@
 
 #include "core/CoreFixture.h"
 #include "exchange/Stops.h"
+#include "support/Cases.h"
 
 namespace {
 
@@ -47,67 +48,17 @@ TEST_F(CheckBooksTest, FindsEachFaultByItself) {
     Run("INSERT INTO RentLog (IdRentLog, IdLease, IdTransaction, Class, Amount, Flags) "
         "VALUES (10, 4, 22, 2, 40, 2)");
     ASSERT_EQ(CheckSummary(Check()), "Everything is in order.");
-    const struct {
-        const char* statement;
-        Severity severity;
-        const char* what;
-    } cases[] = {
-        {"INSERT INTO Tenant (IdTenant) VALUES (3)", Severity::Fault,
-         "The identifier 3 belongs to several records: Tenant, Tenant"},
-        {"INSERT INTO Room (IdRoom, IdUnit) VALUES (5, 2)", Severity::Fault,
-         "The identifier 5 belongs to several records: Account, Room"},
-        {"INSERT INTO Account (ShowAs) VALUES ('x')", Severity::Fault,
-         "1 record without an identifier: Account"},
-        {"UPDATE Configuration SET NextId = 22", Severity::Fault,
-         "New records would get identifiers that are in use: the next one is 22, the highest in "
-         "use is 22"},
-        {"UPDATE Transactions SET IdTenant = 77 WHERE IdTransaction = 22", Severity::Note,
-         "1 record of Transactions whose IdTenant names no Tenant: 22"},
-        {"DELETE * FROM Configuration", Severity::Fault,
-         "The settings are missing, and with them the counter of identifiers"},
-        {"INSERT INTO RentLog (IdRentLog, IdLease, IdTransaction, Class, Amount, Flags) "
-         "VALUES (30, 4, NULL, 2, 0, 2)",
-         Severity::Fault, "1 rent payment without a transaction: 30"},
-        {"INSERT INTO Configuration (NextId) VALUES (100)", Severity::Fault,
-         "The settings have 2 rows instead of one"},
-        {"INSERT INTO Room (IdRoom, IdUnit) VALUES (30, 77)", Severity::Fault,
-         "1 record of Room whose IdUnit names no Unit: 30"},
-        {"INSERT INTO WorkOrder (IdWorkOrder, IdVendor) VALUES (30, 77)", Severity::Note,
-         "1 record of WorkOrder whose IdVendor names no Account: 30"},
-        {"INSERT INTO AutoEvent (IdAutoEvent, DebitType, DebitId) VALUES (30, 5, 5)",
-         Severity::Fault, "1 record of AutoEvent whose DebitId names no Tenant: 30"},
-        {"UPDATE Lease SET RentDue = 499.9999", Severity::Fault,
-         "The lease 4 has 499.9999 as RentDue, but its ledger adds up to 500.0000"},
-        {"INSERT INTO MortgageLog (IdMortgageLog, Principal, PayDown, Interest, Other, Total) "
-         "VALUES (30, 1, 2, 3, 4, 11)",
-         Severity::Fault, "1 ledger row of a mortgage whose total isn't the sum of its parts: 30"},
-        {"INSERT INTO Transactions (IdTransaction, Class, Flags, Amount) VALUES (30, 1, 0, 5)",
-         Severity::Fault, "1 transaction of a lease without a row in its ledger: 30"},
-        {"INSERT INTO Transactions (IdTransaction, Class, Flags) VALUES (30, 5, 0)",
-         Severity::Fault, "1 transaction of a mortgage without a row in its ledger: 30"},
-        {"INSERT INTO MortgageLog (IdMortgageLog, Flags, Principal, PayDown, Interest, Other, "
-         "Total) VALUES (30, 2, 0, 0, 0, -5, -5)",
-         Severity::Fault, "1 mortgage payment without a transaction: 30"},
-        {"INSERT INTO RentCredit (IdRentLog, IdOrigin, IdLease) VALUES (6, 77, 4)", Severity::Note,
-         "1 record of RentCredit whose IdOrigin names no RentLog: 6"},
-        {"INSERT INTO LeaseCredit (IdLease, SettleCharges) VALUES (77, True)", Severity::Note,
-         "1 record of LeaseCredit whose IdLease names no Lease: 77"},
-        {"INSERT INTO TakenBack (RecordKind, IdRecord, IdRow) VALUES (3, 77, 6)", Severity::Note,
-         "1 record of TakenBack whose IdRecord names no Mortgage: 6"},
-        // The payment of 100 is credited with itself, against a refund of 40.
-        {"INSERT INTO RentCredit (IdRentLog, IdOrigin, IdLease) VALUES (8, 9, 4)", Severity::Fault,
-         "1 amount paid ahead of which more was credited than was paid: 9"},
-    };
-    for (const auto& each : cases) {
+    support::ForEachCase(VESTREL_TEST_DATA "/check.cases", "faults", [](const support::Case& each) {
         const platform::UnitOfWork takenBack(core::App().Connection);
-        Run(each.statement);
+        Run(each["statement"]);
         const std::vector<Finding> findings = Check();
-        ASSERT_EQ(findings.size(), 1U) << each.statement;
-        EXPECT_EQ(findings.front().what, each.what);
-        EXPECT_EQ(findings.front().severity, each.severity);
+        ASSERT_EQ(findings.size(), 1U);
+        EXPECT_EQ(findings.front().what, each["what"]);
+        const bool isFault = each["severity"] == "Fault";
+        EXPECT_EQ(findings.front().severity, isFault ? Severity::Fault : Severity::Note);
         EXPECT_FALSE(findings.front().advice.empty());
-        EXPECT_EQ(HasFaults(findings), each.severity == Severity::Fault);
-    }
+        EXPECT_EQ(HasFaults(findings), isFault);
+    });
     // A payment from credit, all of whose charges are open again.
     Run("INSERT INTO Transactions (IdTransaction, Class, Flags, Amount) VALUES (31, 1, 0, 0)");
     EXPECT_TRUE(Check().empty());

@@ -4,6 +4,7 @@
 #include "exchange/PortFixture.h"
 #include "platform/values/Errors.h"
 #include "store/Tables.h"
+#include "support/Cases.h"
 #include "support/ScriptedChoosers.h"
 #include "support/ScriptedDialogs.h"
 #include "support/Words.h"
@@ -136,44 +137,20 @@ TEST_F(PortTest, AsksForTablesAndAFile) {
 }
 
 TEST_F(PortTest, TellsEachErrorWithItsLine) {
-    const std::string rooms = kRooms;
-    const struct {
-        std::string file;
-        std::string error;
-        int line;
-    } cases[] = {
-        {"\"Table\",\"Castle\",\"/Table\"", "invalid table name specified.", 1},
-        {"\"Table\"", "invalid table name specified.", 1},
-        {"\n\n\"Table\",\"Room\",\"Fields\"", "expected /Table not present.", 3},
-        {"\"Table\",\"Room\"", "expected /Table not present.", 1},
-        {"\"Fields\",\"IdRoom\",\"/Fields\"", "field names specified before valid table name.", 1},
-        {"\"Table\",\"Room\",\"/Table\"\n\"Fields\",\"/Fields\"", "no field names specified.", 2},
-        {"\"Table\",\"Room\",\"/Table\"\n\"Fields\",\"Turret\",\"/Fields\"",
-         "invalid field name specified.", 2},
-        {"\"Record\",1,\"/Record\"\n", "a record was specified before valid table name.", 1},
-        {rooms + "\"Record\",1,\"/Record\"", "record did not contain correct amount of fields.", 3},
-        {rooms + "\"Record\",1,\"a\r\nb\",\"/Record\"\r\n\"Record\",1,2,3,\"/Record\"",
-         "record did not contain correct amount of fields.", 5},
-        // Cut in a number, in a text, before the end.
-        {rooms + "\"Record\",1,\"a\",\"/Record\"\n\"Record\",48",
-         "record did not contain correct amount of fields.", 4},
-        {rooms + "\"Record\",1,\"Bedr", "record did not contain correct amount of fields.", 3},
-        {rooms + "\"Record\",1,\"Bedroom\",\"/Rec",
-         "record did not contain correct amount of fields.", 3},
-        {rooms + "\"Record\",1,\"5\" pipe\",\"/Record\"",
-         "record did not contain correct amount of fields.", 3},
-        {"\xFF\xFET\0a", "the file is UTF-16 text. Save it as UTF-8 and import it again.", 1},
-    };
     const std::vector<std::string> before = Dump();
-    for (const auto& each : cases) {
-        WriteText(PathTo("database.csv"), each.file);
+    const auto check = [&](const std::string& file, int line, const std::string& error) {
+        WriteText(PathTo("database.csv"), file);
         const ImportOutcome outcome = Import(ImportMode::Write, ImportRows::Overwrite);
-        EXPECT_EQ(outcome.error, each.error) << each.file;
-        EXPECT_EQ(outcome.line, each.line) << each.file;
-        EXPECT_EQ(status_, fmt::format("Status: An error occured with the import file at line {}\n",
-                                       each.line));
+        EXPECT_EQ(outcome.error, error);
+        EXPECT_EQ(outcome.line, line);
+        EXPECT_EQ(status_,
+                  fmt::format("Status: An error occured with the import file at line {}\n", line));
         EXPECT_EQ(Dump(), before);
-    }
+    };
+    support::ForEachCase(VESTREL_TEST_DATA "/port.cases", "faults", [&](const support::Case& each) {
+        check(each["file"], each.Number<int>("line"), each["error"]);
+    });
+    check("\xFF\xFET", 1, "the file is UTF-16 text. Save it as UTF-8 and import it again.");
     std::filesystem::remove(PathTo("database.csv"));
     support::ScriptedDialogs person;
     Import(ImportMode::Test, ImportRows::Append, ImportMessages::Show);

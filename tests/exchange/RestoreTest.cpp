@@ -5,6 +5,7 @@
 #include "exchange/Stops.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Errors.h"
+#include "support/Cases.h"
 
 namespace {
 
@@ -115,32 +116,13 @@ TEST_F(RestoreTest, ListsItAsCsv) {
 }
 
 TEST_F(RestoreTest, RefusesPathsThatClimbOut) {
-    const struct {
-        std::string path;
-        int type;
-        std::string place;
-    } cases[] = {
-        {"/home/u/db/Vestrel.mdb", 1, "Vestrel.mdb"},
-        {"C:\\Program Files\\db\\vestrel.MDB", 1, "Vestrel.mdb"},
-        {"/home/u/db/version", 1, "Version"},
-        {"/home/u/lease.rtf", 2, "Documents/home/u/lease.rtf"},
-        {"C:\\Docs\\lease.rtf", 2, "Documents/C/Docs/lease.rtf"},
-        {"plain.jpg", 3, "Files/plain.jpg"},
-        {"/a//b/...jpg", 3, "Files/a/b/...jpg"},
-        {"../../etc/passwd", 3, ""},
-        {"/home/../../etc/passwd", 2, ""},
-        {"C:\\x\\..\\..\\y", 3, ""},
-        {"/home/u/..", 1, ""},
-        {"/home/u/new\nline", 3, ""},
-        {"/", 3, ""},
-        {"/home/u/file", 7, ""},
-    };
-    for (const auto& each : cases) {
-        EntryHeader header;
-        header.filePath = each.path;
-        header.fileType = static_cast<std::int16_t>(each.type);
-        EXPECT_EQ(PlaceOf(header), each.place) << each.path;
-    }
+    support::ForEachCase(VESTREL_TEST_DATA "/backup.cases", "places",
+                         [](const support::Case& each) {
+                             EntryHeader header;
+                             header.filePath = each["path"];
+                             header.fileType = each.Number<std::int16_t>("type");
+                             EXPECT_EQ(PlaceOf(header), each["place"]);
+                         });
     // The other entries of such a container are restored, and the fault is reported.
     EntryHeader climbing{
         .filePath = "/a/../../../out",

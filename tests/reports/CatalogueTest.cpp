@@ -7,6 +7,7 @@
 #include "reports/ReportList.h"
 #include "reports/ReportMenus.h"
 #include "reports/ReportsFixture.h"
+#include "support/Cases.h"
 
 namespace {
 
@@ -26,30 +27,11 @@ ReportDef Read(std::string_view text, ReportKind kind = ReportKind::Report) {
 using CatalogueKeys = testing::Test;
 
 TEST_F(CatalogueKeys, AreReadUntrimmedAndOnlyInTheirSection) {
-    struct Case {
-        std::string text;
-        std::string description;
-    };
-    const std::vector<Case> cases = {
-        {"[GENERAL]\nDESCRIPTION=Rent roll\n", "Rent roll"},
-        {"[general]\r\ndescription= Rent roll \r\n", " Rent roll "},
-        {"[GENERAL]\nDESCRIPTION = Rent roll\n", "file"},
-        {"[GENERAL]\n DESCRIPTION=Rent roll\n", "file"},
-        {"  [GENERAL]  \nDESCRIPTION=a=b", "a=b"},
-        {"[GENERAL]\nDESCRIPTION=\n", ""},
-        {"DESCRIPTION=before\n", "file"},
-        {"[GENERAL]\n[DATA]\nDESCRIPTION=after\n", "file"},
-        {"[GENERAL]\n[ENDLOOP]\nDESCRIPTION=after\n[GENERAL]\nDESCRIPTION=again", "again"},
-        {"[GENERAL]\n[UNKNOWN]\nDESCRIPTION=still\n", "still"},
-        {"[GENERAL]\n#DESCRIPTION=comment\n #DESCRIPTION=no key\n", "file"},
-        {"[GENERAL]=\nDESCRIPTION=x", "x"},
-        {"[GENERAL]=1\nDESCRIPTION=x", "file"},
-        {"[GENERAL]\nDESCRIPTION=one\nDESCRIPTION=two", "two"},
-        {"\xEF\xBB\xBF", "file"},
-        {"", "file"},
-    };
-    for (const Case& one : cases)
-        EXPECT_EQ(Read(one.text).Description, one.description) << one.text;
+    support::ForEachCase(VESTREL_TEST_DATA "/catalogue.cases", "descriptions",
+                         [](const support::Case& each) {
+                             EXPECT_EQ(Read(each["text"]).Description, each["description"]);
+                         });
+    EXPECT_EQ(Read("\xEF\xBB\xBF").Description, "file");
 }
 
 TEST_F(CatalogueKeys, TakeTheWordsTheyKnowAndLeaveTheFieldOtherwise) {

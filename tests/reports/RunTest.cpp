@@ -14,15 +14,7 @@ using namespace tests;
 using reports::DateRange;
 using testing::ElementsAre;
 
-class ReportRuns : public Reports {
-  protected:
-    static void Units(std::initializer_list<int> ids) {
-        for (const int id : ids) {
-            CoreBooks::Run("INSERT INTO Unit (IdUnit, Unit) VALUES (" + std::to_string(id) +
-                           ", 'U" + std::to_string(id) + "')");
-        }
-    }
-};
+class ReportRuns : public Reports {};
 
 TEST_F(ReportRuns, TakesTheFilesDateRuleBeforeTheChoice) {
     using enum DateRange;
@@ -48,33 +40,6 @@ TEST_F(ReportRuns, TakesTheFilesDateRuleBeforeTheChoice) {
         EXPECT_THAT(Lines("[TEXT]\nPARAGRAPH=%STARTDATE% %ENDDATE%\n"), ElementsAre(one.dates))
             << static_cast<int>(one.rule) << " " << static_cast<int>(one.choice);
     }
-}
-
-TEST_F(ReportRuns, RunsTheSectionsOfEachPhaseAndDetail) {
-    const std::string body =
-        "[TEXT]\nPARAGRAPH=before\n[LOOP]\n%s[TEXT]\nSQLQUERY=SELECT Unit FROM Unit WHERE IdUnit = "
-        "%LOOPID%\nPARAGRAPH=%LOOPID% %UNIT%\n[DATA]\nDETAILLEVEL=SUMMARY\nHEADLINE=sum %LOOPID%\n"
-        "[ENDLOOP]\n[TEXT]\nDETAILLEVEL=FULL\nPARAGRAPH=full%LOOPID%\n[TEXT]\nPARAGRAPH=after\n";
-    const auto with = [&](std::string_view query) {
-        std::string text = body;
-        return text.replace(text.find("%s"), 2, query);
-    };
-    Units({3, 1, 2});
-    const std::string loop = "SQLQUERY=SELECT IdUnit, Unit FROM Unit ORDER BY IdUnit DESC\n";
-    EXPECT_THAT(Lines(with(loop)),
-                ElementsAre("p before", "p 3 U3", "p 2 U2", "p 1 U1", "p full", "p after"));
-    report.DetailLevel = reports::Detail::Summary;
-    EXPECT_THAT(Lines(with(loop)),
-                ElementsAre("p before", "p 3 U3", "rule sum 3", "p ", "p 2 U2", "rule sum 2", "p ",
-                            "p 1 U1", "rule sum 1", "p ", "p after"));
-    EXPECT_THAT(Lines(with("SQLQUERY=SELECT IdUnit FROM Unit WHERE IdUnit > 9\n")),
-                ElementsAre("p before", "p after"));
-    EXPECT_THAT(Lines(with("SQLQUERY=SELECT Nonsense\n")), ElementsAre("p before", "p after"));
-    EXPECT_THAT(Lines(with("")), ElementsAre("p before", "p  %UNIT%", "rule sum ", "p ", "p after"))
-        << "without a query every section runs once";
-    report.SelectedId = 2;
-    EXPECT_THAT(Lines(with("SQLQUERY=SELECT IdUnit FROM Unit WHERE IdUnit = %SELECTEDID%\n"))[1],
-                "p 2 U2");
 }
 
 TEST_F(ReportRuns, HeadsThePagesByTheFileAndTheCompany) {

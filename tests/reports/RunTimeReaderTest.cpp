@@ -6,6 +6,7 @@
 #include "reports/ReportsFixture.h"
 #include "reports/clsRptData.h"
 #include "reports/clsRptText.h"
+#include "support/Cases.h"
 
 namespace {
 
@@ -66,25 +67,11 @@ TEST_F(RunTimeReader, NumbersTheSectionsByTheLoopAndGivesEachItsQuery) {
 }
 
 TEST_F(RunTimeReader, EndsTheRunAtAFaultWithFileLineAndReason) {
-    const std::vector<std::pair<std::string, std::string>> cases = {
-        {"[TEXT]\nTOTALFIELD=x", "line 4: TOTALFIELD is not a command of a [TEXT] section"},
-        {"[DATA]\n\n#c\nParagraph=x", "line 6: PARAGRAPH is not a command of a [DATA] section"},
-        {"[DATA]\nMAXRECORDS=five", "line 4: MAXRECORDS: "},
-        {"[DATA]\nMAXRECORDS=99999", "line 4: MAXRECORDS: "},
-        {"SCALE=a,b", "line 3: SCALE: "},
-        {"[TEXT]\nFONTSIZE=big", "line 4: FONTSIZE: "},
-        {"[TEXT]\nLOCATE=1,x", "line 4: LOCATE: "},
-        {"[TEXT]\nLOCATE=1,1", "line 4: division by zero"},
-        {"SCALE=80\n[TEXT]\nDRAWLINE=1,1,2,2", "line 5: division by zero"},
-        {"SCALE=19,19\n[TEXT]\nDRAWGRID", "line 5: division by zero"},
-        {"SCALE=1,1\n[TEXT]\nLOCATE=9,0", "line 5: "},
-        {"[TEXT]\nPARAGRAPH=a\nTEXTCOLOR=red", "line 4: "},
-        {"[TEXT]\nSQLQUERY=SELECT 1e300 AS D\nPARAGRAPH=a\nFORMATDATE=D", "line 6: "},
-    };
-    for (const auto& [sections, fault] : cases) {
-        EXPECT_TRUE(Fault(sections).starts_with("test.rpt, " + fault)) << sections << "\n"
-                                                                       << Fault(sections);
-    }
+    support::ForEachCase(VESTREL_TEST_DATA "/runtime.cases", "faults",
+                         [this](const support::Case& each) {
+                             const std::string fault = Fault(each["sections"]);
+                             EXPECT_TRUE(fault.starts_with("test.rpt, " + each["fault"])) << fault;
+                         });
     EXPECT_EQ(Fault("TOTALFIELD=x\n[HEADER]\nPARAGRAPH=x\n[TEXT]\nNOSUCHKEY=x\n"), "");
 }
 

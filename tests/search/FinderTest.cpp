@@ -11,6 +11,8 @@
 #include "core/RecordsFixture.h"
 #include "platform/database/Recordset.h"
 #include "search/SourceRow.h"
+#include "support/Cases.h"
+#include "support/Words.h"
 
 namespace {
 
@@ -82,43 +84,10 @@ TEST_F(FinderTest, FindsRecordsByWhatTheyHold) {
     EXPECT_TRUE(finder.IsStale());
     EXPECT_THAT(Find(finder, "smith"), IsEmpty()) << "nothing is read yet";
     Read(finder);
-    struct Case {
-        const char* text;
-        std::vector<std::string> found;
-    };
-    const std::vector<Case> cases = {
-        {"smi", {"Tenants 5 30", "Leases 2 40", "Transactions 10 90", "Open Charges 30 96"}},
-        {"john smith", {"Tenants 5 30", "Leases 2 40"}},
-        {"o'br", {"Tenants 5 31"}},
-        {"OBRIEN", {"Tenants 5 31"}},
-        {"oboe", {"Tenants 5 31"}},
-        {"123456789", {}}, // what is secret isn't found
-        {"elm b",
-         {"Leases 2 40", "Units 29 20", "Rooms 9 80", "Appliances 8 70", "Open Charges 30 96"}},
-        {"1050", {"Transactions 10 92", "Transactions 10 91", "Transactions 10 90"}},
-        {"1,050.00", {"Transactions 10 90"}},
-        {"1050.2", {"Transactions 10 92"}},
-        {"105",
-         {"Transactions 10 93", "Transactions 10 92", "Transactions 10 91",
-          "Transactions 10 90"}}, // no whole number: the beginning of one
-        {"4711", {"Transactions 10 90"}},
-        {"may river", {"Transactions 10 90"}},
-        {"05/2024 ace", {"Transactions 10 93", "Transactions 10 92", "Transactions 10 91"}},
-        {"5/2/24", {"Transactions 10 91"}},
-        {"ace 5/2", {"Transactions 10 91"}},
-        {"5/2 ace", {"Transactions 10 91"}},
-        {"5/2 - 5/2/24 ace", {"Transactions 10 91"}},
-        {"quill", {"Contacts 1 60"}}, // opens the account that it belongs to
-        {"37.50", {"Open Charges 30 96"}},
-        {"61.00", {}}, // a settled charge is found by its payment
-        {"950.5", {"Units 29 20"}},
-        {"smith oboe", {}},
-        {"", {}},
-        {"\"", {}},
-        {"🏠", {}},
-    };
-    for (const Case& each : cases)
-        EXPECT_EQ(Find(finder, each.text), each.found) << each.text;
+    support::ForEachCase(VESTREL_TEST_DATA "/records.cases", "records",
+                         [&](const support::Case& each) {
+                             EXPECT_EQ(Find(finder, each["text"]), support::Split(each["found"]));
+                         });
     const std::string longest(10'000, 'z');
     EXPECT_THAT(Find(finder, longest), IsEmpty());
 }

@@ -7,6 +7,7 @@
 #include "core/RecordKinds.h"
 #include "core/RecordsFixture.h"
 #include "platform/database/Recordset.h"
+#include "support/Cases.h"
 
 namespace {
 
@@ -52,50 +53,19 @@ class Views : public tests::CoreRecords {
 };
 
 TEST_F(Views, HaveTheirColumnsWithAndWithoutTheId) {
-    struct Case {
-        std::int16_t kind;
-        const char* idColumn;
-        std::vector<std::string> columns;
-    };
-    for (const Case& c : std::vector<Case>{
-             {core::kAccount,
-              "IdAccount",
-              {"Description", "City", "State", "Phone", "FAX", "Account Type", "Account Number"}},
-             {core::kLease,
-              "IdLease",
-              {"Status", "Tenant", "Address", "Unit", "Date Active", "Rent", "Rent Status",
-               "Option"}},
-             {core::kMortgage,
-              "IdMortgage",
-              {"Status", "Lender", "Account Number", "Borrower", "Address", "Payment Status",
-               "Balance", "I Rate", "Payment"}},
-             {core::kTenant,
-              "IdTenant",
-              {"Status", "Name", "Phone", "Alternate Phone", "Marital Status", "Spouse Name",
-               "Email"}},
-             {core::kWorkOrder,
-              "IdWorkOrder",
-              {"Status", "Description", "Priority", "Date Opened", "Initiator", "Address", "Unit"}},
-             {core::kTransaction,
-              "IdTransaction",
-              {"Effective Date", "From", "To", "Amount", "Category", "Check #", "Description"}},
-             {core::kUnit,
-              "IdUnit",
-              {"Status", "Address", "Unit", "City", "State", "Bedrooms", "Bathrooms", "Size",
-               "Rent"}},
-         }) {
-        for (const IdColumn idColumn : {IdColumn::First, IdColumn::Omitted}) {
-            platform::Recordset rows;
-            rows.Open(core::App().Connection, BuildViewSql(c.kind, {}, idColumn));
-            std::vector<std::string> names;
-            names.reserve(rows.FieldCount());
-            for (std::size_t i = 0; i < rows.FieldCount(); ++i)
-                names.push_back(rows[i].Name());
-            std::vector<std::string> expected = c.columns;
-            if (idColumn == IdColumn::First) expected.insert(expected.begin(), c.idColumn);
-            EXPECT_EQ(names, expected);
-        }
-    }
+    support::ForEachCase(
+        VESTREL_TEST_DATA "/views.cases", "columns", [](const support::Case& each) {
+            for (const IdColumn idColumn : {IdColumn::First, IdColumn::Omitted}) {
+                platform::Recordset rows;
+                rows.Open(core::App().Connection,
+                          BuildViewSql(each.Number<std::int16_t>("kind"), {}, idColumn));
+                std::string names;
+                for (std::size_t i = 0; i < rows.FieldCount(); ++i)
+                    names += (i == 0 ? "" : ", ") + rows[i].Name();
+                const bool hasId = idColumn == IdColumn::First;
+                EXPECT_EQ(names, (hasId ? each["id column"] + ", " : "") + each["columns"]);
+            }
+        });
     EXPECT_EQ(BuildViewSql(core::kAlert, {}, IdColumn::First), "");
     EXPECT_EQ(BuildViewSql(core::kMileage, {}, IdColumn::First), "");
 }

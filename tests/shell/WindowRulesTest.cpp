@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -7,6 +8,7 @@
 #include "shell/Availability.h"
 #include "shell/CellMarks.h"
 #include "shell/ViewTexts.h"
+#include "support/Cases.h"
 
 namespace {
 
@@ -73,27 +75,12 @@ TEST(ExtraItems, BelongToTheirViews) {
 }
 
 TEST(CellMarks, TurnRedLaterForALeaseThanForAMortgage) {
-    struct Case {
-        std::int16_t kind;
-        const char* word;
-        Mark mark;
-    };
-    for (const Case& c : std::vector<Case>{
-             {core::kMortgage, "Due", Mark::Yellow},
-             {core::kMortgage, "Late", Mark::Red},
-             {core::kMortgage, "Warning", Mark::None},
-             {core::kMortgage, "Paid", Mark::None},
-             {core::kLease, "Due", Mark::Yellow},
-             {core::kLease, "Late", Mark::Yellow},
-             {core::kLease, "Warning", Mark::Red},
-             {core::kLease, "Eviction", Mark::Red},
-             {core::kLease, "Paid", Mark::None},
-             {core::kLease, "late", Mark::None},
-             {core::kLease, "", Mark::None},
-             {core::kTenant, "Due", Mark::None},
-         }) {
-        EXPECT_EQ(shell::MarkOf(c.kind, c.word), c.mark) << c.kind << " " << c.word;
-    }
+    const std::map<std::string, Mark> marks = {
+        {"None", Mark::None}, {"Yellow", Mark::Yellow}, {"Red", Mark::Red}};
+    support::ForEachCase(VESTREL_TEST_DATA "/marks.cases", "marks", [&](const support::Case& each) {
+        const auto kind = each.Number<std::int16_t>("kind");
+        EXPECT_EQ(shell::MarkOf(kind, each["word"]), marks.at(each["mark"]));
+    });
 }
 
 TEST(StatusText, TellsTheCountTheKindAndTheSort) {

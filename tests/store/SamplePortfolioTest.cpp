@@ -7,6 +7,8 @@
 #include "store/SampleFixture.h"
 #include "store/Tables.h"
 #include "support/Books.h"
+#include "support/Cases.h"
+#include "support/Words.h"
 
 namespace {
 
@@ -44,59 +46,14 @@ TEST(SamplePortfolio, HasAsManyUnitsAsAsked) {
 
 TEST(SamplePortfolio, ShowsEveryKindOfRecord) {
     SampleDatabase sample(store::kSampleUnits, kToday);
-    struct Case {
-        const char* statement;
-        std::vector<std::string> words;
-    };
-    const Case cases[] = {
-        {"SELECT DISTINCT AccountType FROM Account",
-         {"Retail", "Credit", "Bank", "Utility", "Other", "Vendor", "Insurance", "Mortgagee",
-          "Building Manager", "Building Owner"}},
-        {"SELECT DISTINCT Status FROM WorkOrder", {"Open", "Vendor", "Completed", "Closed"}},
-        {"SELECT DISTINCT Status FROM Tenant", {"Pending", "Approved", "Rejected", "Current"}},
-        {"SELECT DISTINCT Status FROM Unit", {"Hold", "Avaliable", "Leased"}},
-        {"SELECT DISTINCT Status FROM Lease", {"Pending"}},
-        {"SELECT DISTINCT TermType FROM Lease", {"WTW", "MTM", "Week(s)", "Month(s)", "Year(s)"}},
-        {"SELECT DISTINCT ExpireOption FROM Lease", {"", "WTW", "MTM", "Renew", "Expire"}},
-        {"SELECT DISTINCT SubsidyType FROM Lease WHERE Subs = True", {"1", "5"}},
-        {"SELECT DISTINCT dbType FROM Contact", {"1", "5", "28"}},
-        {"SELECT DISTINCT FeeType FROM ManagerLink", {"Fixed", "Percentage"}},
-        {"SELECT DISTINCT BillType FROM SvcContract", {"Mail", "Auto CC", "Auto Debit"}},
-        {"SELECT DISTINCT Status FROM Mortgage", {"Current"}},
-        {"SELECT DISTINCT EventType FROM AutoEvent", {"1", "2"}},
-    };
-    for (const Case& each : cases) {
-        EXPECT_THAT(sample.Texts(each.statement), IsSupersetOf(each.words)) << each.statement;
-    }
-    const char* const some[] = {
-        "Room",
-        "Content",
-        "Appliance",
-        "Incident",
-        "WOItem",
-        "Mileage",
-        "Alerts",
-        "Users",
-        "Lease WHERE [Option] = True AND OptionCredit > 0",
-        "Lease WHERE Pets = True",
-        "Lease WHERE SubLet = True",
-        "Lease WHERE DailyFee > 0",
-        "Lease WHERE Discount > 0",
-        "Deposit WHERE IsGlobal = True",
-        "Deposit WHERE IdBuilding <> 0",
-        "Deposit WHERE IdUnit <> 0",
-        "Building WHERE HOAAccount <> 0",
-        "SvcContract WHERE IdAppliance <> 0",
-        "WorkOrder WHERE IdAppliance <> 0",
-        "Mortgage WHERE ARM = True",
-        "Mortgage WHERE IntOnly = True",
-        "Mortgage WHERE PPM = True",
-        "Tenant WHERE LastName LIKE 'O''%'",
-        "Tenant WHERE Len(LastName) > 20",
-        "Tenant WHERE Initial IS NULL",
-    };
-    for (const char* each : some)
-        EXPECT_GT(sample.Count(each), 0) << each;
+    const char* const cases = VESTREL_TEST_DATA "/sample.cases";
+    support::ForEachCase(cases, "words", [&](const support::Case& each) {
+        EXPECT_THAT(sample.Texts("SELECT DISTINCT " + each["column"]),
+                    IsSupersetOf(support::Split(each["words"])));
+    });
+    support::ForEachCase(cases, "some", [&](const support::Case& each) {
+        EXPECT_GT(sample.Count(each["rows"]), 0);
+    });
     EXPECT_EQ(sample.Count("AutoEvent WHERE Enabled = True"), 0);
     EXPECT_EQ(sample.Count("RentLog") + sample.Count("Transactions"), 0);
 }

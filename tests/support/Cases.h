@@ -55,6 +55,13 @@ class Case {
         throw std::runtime_error("'" + text + "' is not a number");
     }
 
+    /// Whether a cell is "yes". Throws std::runtime_error if it is not "no" either.
+    bool IsYes(std::string_view column) const {
+        const std::string& text = (*this)[column];
+        if (text == "yes" || text == "no") return text == "yes";
+        throw std::runtime_error("'" + text + "' is not yes or no");
+    }
+
     const std::vector<std::string>& Cells() const { return cells_; }
 
   private:

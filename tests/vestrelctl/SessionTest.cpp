@@ -23,6 +23,8 @@
 
 #include <sstream>
 
+#include "support/Patterns.h"
+
 namespace tests {
 
 namespace {
@@ -32,18 +34,6 @@ namespace fs = std::filesystem;
 constexpr std::string_view kCommand = "  $ ";
 constexpr std::string_view kMore = "  > ";
 constexpr std::string_view kPrinted = "  ";
-constexpr std::string_view kAnyText = "\u2026";
-
-bool Matches(std::string_view text, std::string_view pattern) {
-    const std::size_t open = pattern.find(kAnyText);
-    if (open == std::string_view::npos) return text == pattern;
-    if (!text.starts_with(pattern.substr(0, open))) return false;
-    pattern.remove_prefix(open + kAnyText.size());
-    for (text.remove_prefix(open);; text.remove_prefix(1)) {
-        if (Matches(text, pattern)) return true;
-        if (text.empty()) return false;
-    }
-}
 
 /// The lines of a file; empty ones belong to what follows them.
 std::vector<std::string> LinesOf(const fs::path& file) {
@@ -111,7 +101,7 @@ TEST_P(Session, PrintsWhatIsWritten) {
         for (; is(i, kPrinted) && !is(i, kCommand); ++i)
             expected += lines[i];
         const std::string printed = Print(words);
-        actual += Matches(printed, expected) ? expected : printed;
+        actual += support::Matches(printed, expected) ? expected : printed;
     }
     EXPECT_GT(commands, 0U);
     fs::create_directories("actual");

@@ -4,6 +4,8 @@
 #include "core/binding/Tags.h"
 #include "core/binding/Wiring.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/Text.h"
+#include "support/Cases.h"
 #include "support/screens/Screens.h"
 
 namespace support {
@@ -13,6 +15,9 @@ using core::binding::BindFromRecord;
 using core::binding::BindToRecord;
 using core::binding::CheckFields;
 using core::binding::DateEdit;
+using platform::qt::FromScreen;
+
+constexpr const char* kCases = VESTREL_TEST_DATA "/binding.cases";
 
 /// A form without a layout, and a table with a field of each sort.
 class BindingTest : public ScreenTest {
@@ -60,40 +65,17 @@ class BindingTest : public ScreenTest {
     QWidget form_;
 };
 
-struct Shown {
-    const char* tag;
-    const char* field;
-    const char* literal;
-    const char* text;
-};
-
 TEST_F(BindingTest, ShowsEachSortInItsForm) {
-    for (const Shown& one : {
-             Shown{"_Words", "Words", "'Elm & Oak'", "Elm & Oak"},
-             Shown{"_Words", "Words", "''", ""},
-             Shown{"#Small", "Small", "12", "12"},
-             Shown{"#Part", "Part", "7.25", "7.25"},
-             Shown{"#Sum", "Sum", "1234.5", "1234.5"},
-             Shown{"&Part", "Part", "1234.25", "1,234.3"},
-             Shown{"&Part", "Part", "2", "2.0"},
-             Shown{"$Sum", "Sum", "0", "0.00"},
-             Shown{"$Sum", "Sum", "-5", "(5.00)"},
-             Shown{"$Sum", "Sum", "1234.5", "1,234.50"},
-             Shown{"%Part", "Part", "0.075", "7.5"},
-             Shown{"%Part", "Part", "0.07125", "7.13"},
-             Shown{"%Part", "Part", "1", "100.0"},
-             Shown{"@Day", "Day", "'3/7/2024'", "03/07/2024"},
-         }) {
-        SCOPED_TRACE(std::string(one.tag) + " " + one.literal);
-        Store(one.field, one.literal);
-        auto& box = Add<QLineEdit>(one.tag);
-        auto& label = Add<QLabel>(one.tag);
+    ForEachCase(kCases, "shown", [this](const Case& each) {
+        Store(each["field"], each["stored"]);
+        auto& box = Add<QLineEdit>(each["tag"]);
+        auto& label = Add<QLabel>(each["tag"]);
         Show();
-        EXPECT_EQ(box.text(), QString::fromLatin1(one.text));
-        EXPECT_EQ(label.text(), QString::fromLatin1(one.text));
+        EXPECT_EQ(FromScreen(box.text()), each["text"]);
+        EXPECT_EQ(FromScreen(label.text()), each["text"]);
         delete &box;
         delete &label;
-    }
+    });
 }
 
 TEST_F(BindingTest, ANullLeavesEveryControlAlone) {
@@ -114,37 +96,14 @@ TEST_F(BindingTest, ANullLeavesEveryControlAlone) {
     EXPECT_EQ(date.Day(), platform::Date(2024, 1, 1));
 }
 
-struct Kept {
-    const char* tag;
-    const char* typed;
-    const char* field;
-    const char* stored;
-};
-
 TEST_F(BindingTest, KeepsWhatIsTyped) {
-    for (const Kept& one : {
-             Kept{"_Words", "O'Brien", "Words", "O'Brien"},
-             Kept{"_Words", "", "Words", ""},
-             Kept{"#Small", "12", "Small", "12"},
-             Kept{"#Small", "", "Small", "0"},
-             Kept{"#Small", "many", "Small", "0"},
-             Kept{"#Part", ".5", "Part", "0.5"},
-             Kept{"&Part", "1,234.3", "Part", "1234.3"},
-             Kept{"$Sum", "", "Sum", "0"},
-             Kept{"$Sum", "1,234.50", "Sum", "1234.5"},
-             Kept{"$Sum", "(5.00)", "Sum", "-5"},
-             Kept{"%Part", "7.5", "Part", "0.075"},
-             Kept{"%Part", "", "Part", "0"},
-             Kept{"@Day", "3/7/2024", "Day", "03/07/2024"},
-             Kept{"@Day", "", "Day", ""},
-         }) {
-        SCOPED_TRACE(std::string(one.tag) + " " + one.typed);
-        auto& box = Add<QLineEdit>(one.tag);
-        box.setText(QString::fromLatin1(one.typed));
+    ForEachCase(kCases, "kept", [this](const Case& each) {
+        auto& box = Add<QLineEdit>(each["tag"]);
+        box.setText(QString::fromStdString(each["typed"]));
         Keep();
-        EXPECT_EQ(Ask(std::string("SELECT ") + one.field + " FROM Sample"), one.stored);
+        EXPECT_EQ(Ask("SELECT " + each["field"] + " FROM Sample"), each["stored"]);
         delete &box;
-    }
+    });
 }
 
 TEST_F(BindingTest, RefusesWhatTheFieldCannotHold) {

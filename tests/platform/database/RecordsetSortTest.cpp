@@ -1,4 +1,5 @@
 #include "DatabaseFixture.h"
+#include "support/Cases.h"
 
 namespace platform {
 
@@ -35,36 +36,14 @@ class RecordsetSortTest : public DatabaseFixture {
     Recordset rows_;
 };
 
-TEST_F(RecordsetSortTest, OrdersEachTypeByItsOwnRule) {
-    struct {
-        const char* order;
-        const char* ids;
-    } const cases[] = {
-        {"Name", "5 4 2 8 3 1 6 7 "},   {"Name DESC", "7 6 1 3 8 2 4 5 "},
-        {"Age", "5 3 8 1 6 2 4 7 "},    {"Age DESC", "7 2 4 1 6 8 3 5 "},
-        {"Weight", "3 2 6 4 5 1 7 8 "}, {"Balance", "3 7 1 8 6 4 2 5 "},
-        {"Active", "4 2 5 7 1 3 6 8 "}, {"Active DESC, Name", "8 3 1 6 5 2 7 4 "},
-        {"Born", "5 3 8 1 6 2 4 7 "},
-    };
-    for (const auto& [order, ids] : cases) {
-        rows_.Sort("");
-        EXPECT_EQ(Sorted(order), ids) << order;
-    }
-}
-
-TEST_F(RecordsetSortTest, ReadsNamesInBracketsAndDirectionsInAnyCase) {
-    struct {
-        const char* order;
-        const char* ids;
-    } const cases[] = {
-        {"[Age] ASC, [ID] desc", "5 3 8 6 1 4 2 7 "},
-        {" age  asc ,Id Desc", "5 3 8 6 1 4 2 7 "},
-        {"[Name, full]DESC", "7 6 1 3 8 2 4 5 "},
-        {"Desc", "5 4 2 8 3 1 6 7 "},
-    };
-    for (const auto& [order, ids] : cases) {
-        rows_.Sort("");
-        EXPECT_EQ(Sorted(order), ids) << order;
+TEST_F(RecordsetSortTest, OrdersEachTypeByItsOwnRuleHoweverTheOrderIsWritten) {
+    for (const char* const table :
+         {"each type by its own rule", "names in brackets and directions in any case"}) {
+        support::ForEachCase(VESTREL_TEST_DATA "/orders.cases", table,
+                             [this](const support::Case& each) {
+                                 rows_.Sort("");
+                                 EXPECT_EQ(Sorted(each["order"]), each["ids"] + " ");
+                             });
     }
 }
 

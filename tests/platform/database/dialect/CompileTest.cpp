@@ -5,10 +5,13 @@
 
 #include "TestTables.h"
 #include "platform/database/dialect/Compiler.h"
+#include "support/Cases.h"
 
 namespace platform::dialect {
 namespace {
 
+using support::Case;
+using support::ForEachCase;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -16,83 +19,36 @@ CompiledStatement CompileText(std::string_view text) {
     return Compile(text, TestCatalog());
 }
 
-struct SqlCase {
-    const char* statement;
-    const char* sql;
-};
+constexpr const char* kCases = VESTREL_TEST_DATA "/compile.cases";
 
-// The conditions that the engine's planner must find in plain form to use an index, and what it
-// must find bracketed to mean the same.
+/// The texts, separated by commas.
+template <typename Items, typename Text>
+std::string List(const Items& items, Text text) {
+    std::string list;
+    for (const auto& item : items)
+        list.append(list.empty() ? "" : ", ").append(text(item));
+    return list;
+}
+
 TEST(Compile, EmitsPlainConditionsWithNoMoreParenthesesThanNeeded) {
-    constexpr SqlCase kCases[] = {
-        {"DELETE * FROM Pay WHERE (((Id = 5)))", R"(DELETE FROM "Pay" WHERE "Pay"."Id" = 5)"},
-        {"DELETE FROM Pay WHERE Id = ? AND Amount > 0.5",
-         R"(DELETE FROM "Pay" WHERE "Pay"."Id" = ?1 AND "Pay"."Amount" > 5000)"},
-        {"DELETE FROM Pay WHERE Id IN (1, 2) OR Id BETWEEN 3 AND 4",
-         R"(DELETE FROM "Pay" WHERE "Pay"."Id" IN (1, 2) OR "Pay"."Id" BETWEEN 3 AND 4)"},
-        {"DELETE FROM Pay WHERE DateValue(Due) >= #1/1/1900#",
-         R"(DELETE FROM "Pay" WHERE vestrel_date("Pay"."Due") >= 2)"},
-        {"DELETE FROM Pay WHERE Category = 'x' & 'y'",
-         R"(DELETE FROM "Pay" WHERE "Pay"."Category" COLLATE VESTREL_TEXT = 'x' || 'y')"},
-        {"DELETE FROM Pay WHERE Category & '' = 'x'",
-         R"(DELETE FROM "Pay" WHERE (IFNULL("Pay"."Category", '') || '') COLLATE VESTREL_TEXT = 'x')"},
-        {"DELETE FROM Pay WHERE (Id = 1 OR Id = 2) AND NOT (Id = 3 AND Id = 4)",
-         R"(DELETE FROM "Pay" WHERE ("Pay"."Id" = 1 OR "Pay"."Id" = 2) AND )"
-         R"(NOT ("Pay"."Id" = 3 AND "Pay"."Id" = 4))"},
-        {"DELETE FROM Pay WHERE 1 - (2 - 3) - 4 - -5 = -Id * (1 + 2)",
-         R"(DELETE FROM "Pay" WHERE 1 - (2 - 3) - 4 - -5 = -"Pay"."Id" * (1 + 2))"},
-        {"DELETE FROM Pay WHERE - - Id = --5", R"(DELETE FROM "Pay" WHERE -(-"Pay"."Id") = -(-5))"},
-        {"DELETE FROM Pay WHERE (Id = 1) = (Id < 2)",
-         R"(DELETE FROM "Pay" WHERE ("Pay"."Id" = 1) = ("Pay"."Id" < 2))"},
-        {"UPDATE Pay SET Amount = Amount - 1 + 2 * Id",
-         R"(UPDATE "Pay" SET "Amount" = vestrel_exact("Pay"."Amount" - 10000 + )"
-         R"(2 * "Pay"."Id" * 10000))"},
-    };
-    for (const auto& [statement, sql] : kCases)
-        EXPECT_EQ(CompileText(statement).sql, sql);
+    ForEachCase(kCases, "conditions", [](const Case& each) {
+        EXPECT_EQ(CompileText(each["statement"]).sql, each["sql"]);
+    });
 }
 
 TEST(Compile, KnowsTheFieldsThatColumnsShow) {
-    const auto fields = [](std::string_view text) {
-        std::vector<std::string> found;
-        for (const ResultColumn& column : CompileText(text).columns)
-            found.push_back(column.field.empty() ? "" : column.table + "." + column.field);
-        return found;
-    };
-    EXPECT_THAT(fields("SELECT category AS C, P.Category, Category & '', Due FROM Pay AS P"),
-                ElementsAre("Pay.Category", "Pay.Category", "", "Pay.Due"));
-    EXPECT_THAT(fields("SELECT * FROM (SELECT DISTINCT Category FROM Pay) AS P"),
-                ElementsAre("Pay.Category"));
-    EXPECT_THAT(fields("SELECT P.C, 1 FROM (SELECT Category AS C FROM Pay) AS P"),
-                ElementsAre("Pay.Category", ""));
-    EXPECT_THAT(fields("SELECT Category FROM Pay UNION SELECT Category FROM Pay"),
-                ElementsAre("Pay.Category"));
-    EXPECT_THAT(fields("SELECT Category FROM Pay UNION SELECT Name FROM Person"), ElementsAre(""));
+    ForEachCase(kCases, "fields that columns show", [](const Case& each) {
+        const auto field = [](const ResultColumn& column) {
+            return column.field.empty() ? "-" : column.table + "." + column.field;
+        };
+        EXPECT_EQ(List(CompileText(each["statement"]).columns, field), each["fields"]);
+    });
 }
 
 TEST(Compile, TakesParametersTypesFromTheirPlaces) {
-    struct Case {
-        const char* statement;
-        std::vector<FieldType> types;
-    };
-    using enum FieldType;
-    const Case cases[] = {
-        {"SELECT Id FROM Pay WHERE Amount > ? AND ? = Category AND Class = ?",
-         {Currency, Text, Long}},
-        {"SELECT Id FROM Pay WHERE DateValue(Due) BETWEEN ? AND ?", {Date, Date}},
-        {"SELECT Id FROM Pay WHERE Id IN (?, ?) AND Amount IN (SELECT ? FROM Pay)",
-         {Long, Long, Text}},
-        {"SELECT Id FROM Person WHERE Active = ? AND Weight < ?", {Boolean, Double}},
-        {"SELECT ?, Amount + ?, Name & ?, Left(?, ?), IIf(?, Age, ?) FROM Person, Pay",
-         {Text, Currency, Text, Text, Long, Boolean, Integer}},
-        {"INSERT INTO Pay VALUES (?, ?, ?, ?, ?, ?)", {Long, Long, Currency, Text, Integer, Text}},
-        {"UPDATE Person SET Active = ?, Remark = ? WHERE Id = ? AND ? IS NULL",
-         {Boolean, Memo, Long, Text}},
-        {"SELECT Id FROM Person WHERE ? = ? OR Name LIKE ?", {Text, Text, Text}},
-        {"SELECT Amount FROM Pay UNION SELECT ? FROM Pay", {Currency}},
-    };
-    for (const Case& each : cases)
-        EXPECT_EQ(CompileText(each.statement).parameters, each.types) << each.statement;
+    ForEachCase(kCases, "types of parameters", [](const Case& each) {
+        EXPECT_EQ(List(CompileText(each["statement"]).parameters, FieldTypeName), each["types"]);
+    });
 }
 
 TEST(Compile, TellsTheTableBehindRowsThatCanBeWritten) {
