@@ -15,11 +15,13 @@ namespace leases {
 platform::Date ProposedChargeFrom(const LeaseTerms& terms);
 
 /// Returns the lease's first due date on or after `from`, counted on from its next due date as its
-/// walk counts. With it as the next due date nothing is charged before `from`.
+/// walk counts. With it as the next due date nothing is charged before `from`. Throws OverflowError
+/// if the calendar ends before it.
 platform::Date FirstDueFrom(const LeaseTerms& terms, platform::Date from);
 
 /// Returns the rows that bringing the lease up to today will post if it is next due on `nextDue`,
-/// oldest first. Nothing is written. Throws FieldError if the terms can't be walked.
+/// oldest first. Nothing is written. Throws FieldError if the terms can't be walked, OverflowError
+/// if the calendar ends before a fee's days are over.
 PreviewRows PreviewCharges(LeaseTerms terms, platform::Date nextDue);
 
 } // namespace leases

@@ -182,41 +182,6 @@ TEST_F(Return, OfAPaymentWhoseChargesWerePaidAgainIsRefusedAndTheNewOneCanBeRetu
     ExpectBalanced();
 }
 
-TEST_F(Return, TakesBackTheCreditAndWhatWasBoughtWithIt) {
-    Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
-    for (const int spent : {0, 300, 500}) {
-        SCOPED_TRACE(spent);
-        Restart();
-        Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
-        const std::int32_t id = leases::SubmitAmount(Amount(1500));
-        if (spent > 0) {
-            Charge(Date(2024, 2, 9), spent + 10);
-            leases::SubmitAmount(Amount(10));
-        }
-        EXPECT_EQ(leases::CreditBalance(kLeaseId, TransactionClass::Rent),
-                  Currency::FromUnits(500 - spent));
-        const leases::PaymentReturn returned = leases::ProposeReturn(id);
-        std::string told;
-        for (const leases::PreviewRow& row : leases::PreviewReturn(returned)) {
-            if (row.what.starts_with("Credit"))
-                told += fmt::format("{} {};", row.what, row.amount.Scaled() / Currency::kScale);
-        }
-        EXPECT_EQ(told, "Credit withdrawn -500;");
-        leases::SubmitReturn(returned);
-        EXPECT_EQ(leases::CreditBalance(kLeaseId, TransactionClass::Rent), Currency());
-        EXPECT_EQ(Open(), std::to_string(1000 + spent));
-        EXPECT_EQ(
-            Ask("SELECT Sum(Amount) FROM RentLog WHERE IdTransaction = " + std::to_string(id)),
-            "0");
-        if (spent == 0) continue;
-        leases::AmountPayment part = Amount(100);
-        for (leases::PaymentCharge& charge : part.payment.charges)
-            charge.selected = charge.description.starts_with("Deferred");
-        leases::SubmitAmount(part);
-        EXPECT_EQ(Open(), std::to_string(900 + spent)) << "what is owed again is paid in part";
-    }
-}
-
 TEST_F(Return, LeavesAPaymentWhoseTextsCanBeEditedAndNothingElse) {
     Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
     const std::int32_t id = PayAll();

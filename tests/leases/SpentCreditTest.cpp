@@ -1,6 +1,7 @@
 // A payment is returned whose credit was spent: the due date goes back to where it was, and what
 // the credit had paid is open again.
 
+#include <algorithm>
 #include <string>
 
 #include <fmt/core.h>
@@ -179,6 +180,29 @@ TEST_F(SpentCredit, ThatWasPaidOutInPartIsShownRowByRow) {
     EXPECT_EQ(shown,
               "Charge open again 1000; Charge open again 100; Credit still used -300; Credit "
               "withdrawn -100; Credit spent, owed again 300; ");
+}
+
+TEST_F(SpentCredit, ThatWasPaidAheadOnceMoreIsOwedBesideTheNewCredit) {
+    Begin();
+    const std::int32_t id = leases::SubmitAmount(Amount(1400));
+    Charge(Date(2024, 1, 8), 100);
+    const std::int32_t later = leases::SubmitAmount(Amount(500)); // 400 of it paid ahead
+    leases::RentPayment edit = leases::ReadPayment(later);
+    leases::ReadCharges(edit, leases::OpenCharges::Offer);
+    // The older of the two credits of the day.
+    std::ranges::find(edit.charges, "Credit of 01/02/2024", &leases::PaymentCharge::description)
+        ->selected = true;
+    leases::SubmitPayment(edit);
+    EXPECT_EQ(Ask("SELECT Sum(Amount) FROM Transactions"), "1500");
+    leases::SubmitReturn(leases::ProposeReturn(id));
+    // The fee and 300 of the credit against the new credit of 400.
+    EXPECT_EQ(Open(), "1000R 0 ");
+    EXPECT_EQ(NextDue(), "01/01");
+    ExpectBalanced();
+    PayAll();
+    EXPECT_EQ(NextDue(), "02/01");
+    EXPECT_EQ(Open(), "");
+    ExpectBalanced();
 }
 
 TEST_F(SpentCredit, LeavesAMarkOnAnEmptyPaymentUntilTheReturnIsDeleted) {

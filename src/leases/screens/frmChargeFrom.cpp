@@ -7,6 +7,7 @@
 #include "core/forms/Help.h"
 #include "leases/ChargeFrom.h"
 #include "platform/qt/Text.h"
+#include "platform/values/Errors.h"
 #include "platform/values/Format.h"
 #include "ui_frmChargeFrom.h"
 
@@ -65,13 +66,21 @@ std::optional<Date> frmChargeFrom::NextDue() const {
 void frmChargeFrom::ShowAnswer() {
     ui_->dpFrom->setEnabled(ui_->optDay->isChecked());
     std::optional<Date> nextDue;
-    core::forms::Guarded([&] { nextDue = NextDue(); });
-    ui_->buttons->button(QDialogButtonBox::Ok)->setEnabled(nextDue.has_value());
     PreviewRows rows;
-    if (nextDue) core::forms::Guarded([&] { rows = PreviewCharges(terms_, *nextDue); });
+    QString missing = tr("Enter a day.");
+    core::forms::Guarded([&] {
+        try {
+            const std::optional<Date> due = NextDue();
+            if (due) rows = PreviewCharges(terms_, *due);
+            nextDue = due;
+        } catch (const platform::OverflowError&) {
+            missing = tr("The calendar ends before that. Enter an earlier day.");
+        }
+    });
+    ui_->buttons->button(QDialogButtonBox::Ok)->setEnabled(nextDue.has_value());
     ui_->lvwPreview->ShowPreview(rows);
     if (!nextDue) {
-        ui_->lblSummary->setText(tr("Enter a day."));
+        ui_->lblSummary->setText(missing);
     } else if (rows.empty()) {
         ui_->lblSummary->setText(tr("Nothing is posted up to today. Rent is next due on %1.")
                                      .arg(ToScreen(nextDue->ToText())));

@@ -1,5 +1,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -70,6 +71,14 @@ TEST_F(ChargeFromScreen, AsksBeforeALeaseThatIsEnteredLateIsSaved) {
            const auto* save =
                Find<QDialogButtonBox>(question, "buttons").button(QDialogButtonBox::Ok);
            EXPECT_FALSE(save->isEnabled());
+           // From there on no rent falls due.
+           for (const char* const day : {"12/31/9999", "12/11/9999"}) {
+               Type(Find<QLineEdit>(question, "dpFrom"), day);
+               EXPECT_FALSE(save->isEnabled()) << day;
+               EXPECT_TRUE(Find<QLabel>(question, "lblSummary").text().startsWith("The calendar"));
+           }
+           Type(Find<QLineEdit>(question, "dpFrom"), "12/10/9999");
+           EXPECT_TRUE(save->isEnabled());
            Press(question, QDialogButtonBox::Cancel);
        });
     EXPECT_EQ(Ask(kNewLease), "0");
