@@ -5,11 +5,11 @@
 #include "books/ScheduledEvents.h"
 #include "core/Preferences.h"
 #include "core/RunHeard.h"
-#include "leases/Crashes.h"
+#include "support/Crashes.h"
 
 namespace {
 
-using tests::Crashes;
+using support::Crashes;
 
 class BooksCrash : public tests::BooksTest {
   protected:
@@ -24,18 +24,18 @@ TEST_F(BooksCrash, APostingWithItsEventsIsNeverHalf) {
     AddTriggered(101, 1, 60, "Rent Payment");
     AddTriggered(102, 5, 30, "Rent Payment");
     Run("UPDATE AutoEvent SET Alert = True");
-    ExpectWhole(tests::CrashAtEveryStatement([] { books::PostTransaction(Payment()); }), 12);
+    ExpectWhole(support::CrashAtEveryStatement([] { books::PostTransaction(Payment()); }), 12);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "3");
     EXPECT_EQ(Ask("SELECT Count(*) FROM Alerts"), "2");
 }
 
 TEST_F(BooksCrash, ASaveWithItsTripIsNeverHalf) {
     const std::int32_t id = books::AddTransaction(Payment(), books::Trip::None);
-    ExpectWhole(tests::CrashAtEveryStatement(
+    ExpectWhole(support::CrashAtEveryStatement(
                     [&] { books::EditTransaction(id, Payment(), Payment(), books::Trip::Keep); }),
                 5);
     core::Preferences().ConfirmDelete = false;
-    ExpectWhole(tests::CrashAtEveryStatement(
+    ExpectWhole(support::CrashAtEveryStatement(
                     [&] { books::EditTransaction(id, Payment(), Payment(), books::Trip::None); }),
                 5);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Mileage"), "0");
@@ -45,7 +45,7 @@ TEST_F(BooksCrash, APassOfTheEventsIsNeverHalf) {
     AddScheduled(101, 3, 1, "04/17/2024");
     AddScheduled(102, 2, 1, "05/10/2024");
     Run("UPDATE AutoEvent SET Alert = True");
-    ExpectWhole(tests::CrashAtEveryStatement([] {
+    ExpectWhole(support::CrashAtEveryStatement([] {
                     tests::RunHeard heard;
                     books::ScheduledEvents(heard).RunScheduledEvents();
                 }),

@@ -1,30 +1,24 @@
 #include "leases/AmountPayment.h"
 
-#include <algorithm>
 #include <string>
 #include <tuple>
 #include <vector>
 
-#include <fmt/core.h>
 #include <gtest/gtest.h>
 
-#include "leases/CreditBooks.h"
+#include "leases/BooksTest.h"
 #include "leases/Credits.h"
-#include "leases/DumpBooks.h"
 #include "leases/RentSplit.h"
 #include "platform/values/Errors.h"
+#include "support/Dump.h"
 
 namespace tests {
 
 namespace {
 
-using leases::AmountPayment;
 using leases::PaymentCharge;
-using leases::RentFlags;
-using leases::RentPart;
 using leases::TransactionClass;
 using platform::Currency;
-using platform::Date;
 
 TEST(AmountPlan, SpreadsTheAmountOverTheChargesInTheirOrder) {
     struct Case {
@@ -80,172 +74,24 @@ TEST(AmountPlan, SpreadsTheAmountOverTheChargesInTheirOrder) {
     }
 }
 
-class PayAmount : public CreditBooks {};
+class Ties : public BooksTest {};
 
-TEST_F(PayAmount, WritesJustTheRowsThatThePreviewShows) {
-    SetLeaseField("Option", "True");
-    SetLeaseField("OptionCredit", "12.5");
-    struct Case {
-        int received;
-        RentPart part;
-        const char* nextDue;
-        Lines ledger; // the rows that are new or were changed
-    };
-    for (const Case& c : std::vector<Case>{
-             {400, RentPart::Open, "01/01/2024", {"Rent 400 +", "Rent Deferred 600 -"}},
-             {400, RentPart::Paid, "02/01/2024", {"Rent 400 +", "Rent Deferred 600 -"}},
-             {1000, RentPart::Open, "02/01/2024", {"Rent 1000 +"}},
-             {1020, RentPart::Paid, "02/01/2024", {"Rent 1000 +", "Fee 20 +", "Fee Deferred 20 -"}},
-             {1540,
-              RentPart::Open,
-              "02/01/2024",
-              {"Rent 1000 +", "Fee 40 +", "Rent 500 +", "Rent Deferred 500 -"}},
-             {2500,
-              RentPart::Open,
-              "03/01/2024",
-              {"Rent 1000 +", "Fee 40 +", "Rent 1000 +", "Overpayment 460 +", "Credit -460 -"}},
-         }) {
-        SCOPED_TRACE(fmt::format("{} {}", c.received, c.nextDue));
-        Restart();
-        Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
-        Charge(Date(2024, 1, 9), 40);
-        Charge(Date(2024, 2, 1), 1000, RentFlags::PeriodRent);
-        const Lines before = LedgerLines();
-        AmountPayment amount = Amount(c.received);
-        amount.rentPart = c.part;
-        const leases::PreviewRows preview = leases::PreviewAmount(amount);
-        leases::SubmitAmount(amount);
-        EXPECT_EQ(Difference(LedgerLines(), before), NewRows(preview));
-        EXPECT_EQ(Difference(before, LedgerLines()), RemovedRows(preview));
-        EXPECT_EQ(Ask("SELECT DateNextDue FROM Lease"), c.nextDue);
-        EXPECT_EQ(Paid(), c.ledger);
-        ExpectBalanced();
-        const auto due = std::ranges::find(preview, "Next due date", &leases::PreviewRow::what);
-        const bool moves = std::string(c.nextDue) != "01/01/2024";
-        ASSERT_EQ(due != preview.end(), moves);
-        if (moves) {
-            EXPECT_EQ(due->date.ToText(), c.nextDue);
-        }
-    }
-}
-
-TEST_F(PayAmount, RefusesWhatIsNoAmount) {
-    Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
-    const Lines before = DumpBooks();
-    for (const int units : {0, -1, -1000}) {
-        const AmountPayment amount = Amount(units);
-        EXPECT_EQ(leases::AmountErrors(amount),
-                  Lines{"The amount received must be more than zero."});
-        EXPECT_TRUE(leases::PreviewAmount(amount).empty());
-        EXPECT_THROW(leases::SubmitAmount(amount), platform::FieldError);
-    }
-    AmountPayment fraction = Amount(300);
-    fraction.received = platform::Currency::FromScaled(3'333'330);
-    EXPECT_THROW(leases::SubmitAmount(fraction), platform::FieldError);
-    EXPECT_EQ(DumpBooks(), before);
-    AmountPayment stored = Amount(1000);
-    stored.payment.idTransaction = leases::SubmitAmount(stored);
-    EXPECT_THROW(leases::SubmitAmount(stored), platform::FieldError);
-}
-
-TEST_F(PayAmount, FollowsAnOrderOfTheUsersOwn) {
-    const auto rent = Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
-    const auto fee = Charge(Date(2024, 1, 9), 40);
-    AmountPayment amount = Amount(100);
-    leases::SortCharges(amount.payment, std::vector<std::int32_t>{4711, fee});
-    ASSERT_EQ(amount.payment.charges.size(), 2U);
-    EXPECT_EQ(amount.payment.charges.back().idRentLog, rent);
-    EXPECT_EQ(leases::DescribeAmount(amount),
-              "1 charge paid and one in part, next due date stays 01/01/2024");
-    leases::SubmitAmount(amount);
-    EXPECT_EQ(Paid(), (Lines{"Rent 60 +", "Rent Deferred 940 -", "Fee 40 +"}));
-}
-
-TEST_F(PayAmount, ACreditIsTakenInByALaterPaymentAsAnyCharge) {
-    leases::SubmitAmount(Amount(300));
-    EXPECT_EQ(leases::CreditBalance(kLeaseId, TransactionClass::Rent), Currency::FromUnits(300));
-    EXPECT_EQ(Ask("SELECT RentDue FROM Lease"), "-300");
-    EXPECT_THROW(leases::CheckNotTied(Id("SELECT IdOrigin FROM RentCredit")),
-                 platform::ConflictError);
-    EXPECT_NO_THROW(leases::CheckNotTied(Id("SELECT IdRentLog FROM RentCredit")));
-    Charge(Date(2024, 4, 1), 1000, RentFlags::PeriodRent);
-    const leases::RentPayment rest = leases::ProposePayment(kLeaseId, TransactionClass::Rent);
-    EXPECT_EQ(rest.Total(), Currency::FromUnits(700));
-    leases::SubmitPayment(rest);
-    EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE IdTransaction = 0"), "0");
-    EXPECT_EQ(Ask("SELECT Sum(Amount) FROM Transactions"), "1000");
-    ExpectBalanced();
-}
-
-TEST_F(PayAmount, OfADepositOrASubsidyKeepsWhatIsOverInItsOwnClass) {
-    for (const TransactionClass rentClass :
-         {TransactionClass::Deposit, TransactionClass::Subsidy}) {
-        Restart();
-        Charge(Date(2024, 1, 1), 800, RentFlags::Ordinary, rentClass);
-        leases::SubmitAmount(Amount(500, rentClass));
-        EXPECT_EQ(Paid(), (Lines{"Fee 500 +", "Fee Deferred 300 -"}));
-        leases::SubmitAmount(Amount(450, rentClass));
-        EXPECT_EQ(leases::CreditBalance(kLeaseId, rentClass), Currency::FromUnits(150));
-        EXPECT_EQ(Ask("SELECT DateNextDue FROM Lease"), "01/01/2024");
-        const bool isDeposit = rentClass == TransactionClass::Deposit;
-        EXPECT_EQ(Ask("SELECT DepositDue FROM Lease"), isDeposit ? "-150" : "0");
-        EXPECT_EQ(Ask("SELECT DepositBalance FROM Lease"), isDeposit ? "950" : "0");
-        EXPECT_EQ(Ask("SELECT SubsDue FROM Lease"), isDeposit ? "0" : "-150");
-        ExpectBalanced();
-    }
-}
-
-TEST_F(PayAmount, IsRefusedAsAWholeIfWhatItWasPlannedOnHasChanged) {
-    const auto rent = Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
-    Charge(Date(2024, 2, 1), 1000, RentFlags::PeriodRent);
-    const std::string where = " WHERE IdRentLog = " + std::to_string(rent);
-    for (const std::string& change :
-         {"UPDATE RentLog SET Amount = 999" + where, "UPDATE RentLog SET IdTransaction = 7" + where,
-          "DELETE * FROM RentLog" + where}) {
-        const AmountPayment stale = Amount(1500);
-        Run(change);
-        const Lines before = DumpBooks();
-        EXPECT_THROW(leases::SubmitAmount(stale), platform::ConflictError) << change;
-        EXPECT_EQ(DumpBooks(), before) << change;
-        Run("UPDATE RentLog SET IdTransaction = 0, Amount = 1000");
-    }
-    // The same amount twice from two screens: the second finds its charge split.
-    const AmountPayment twice = Amount(400);
-    leases::SubmitAmount(twice);
-    EXPECT_THROW(leases::SubmitAmount(twice), platform::ConflictError);
-    EXPECT_EQ(Ask("SELECT Sum(Amount) FROM Transactions"), "400");
-}
-
-TEST_F(PayAmount, EditedLaterKeepsItsAmountUntilItsChargesChange) {
-    Charge(Date(2024, 1, 1), 1000, RentFlags::PeriodRent);
-    const std::int32_t id = leases::SubmitAmount(Amount(1200));
-    leases::RentPayment edit = leases::ReadPayment(id);
-    EXPECT_EQ(edit.Total(), Currency::FromUnits(1200));
-    edit.checkNumber = "17";
-    leases::SubmitPayment(edit);
-    EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "1200");
-    ExpectBalanced();
-    // Without what was paid ahead the payment is smaller, and the two rows cancel each other.
-    edit = leases::ReadPayment(id);
-    edit.charges.back().selected = false;
-    leases::SubmitPayment(edit);
-    EXPECT_EQ(Ask("SELECT Amount FROM Transactions"), "1000");
-    EXPECT_EQ(Ask("SELECT RentDue FROM Lease"), "0");
-    ExpectBalanced();
-}
-
-TEST_F(PayAmount, APartOfACreditBelongsToThePaymentAsTheWholeDid) {
-    leases::SubmitAmount(Amount(300));
-    const std::int32_t credit = Id("SELECT IdRentLog FROM RentLog WHERE Amount < 0 AND Flags = 0");
+TEST_F(Ties, KeepACreditAndTheRowThatItComesFromAsTheyAre) {
+    leases::SubmitAmount(
+        {leases::ProposePayment(kLeaseId, TransactionClass::Rent), Currency::FromUnits(300)});
+    const std::int32_t origin = std::stoi(Ask("SELECT IdOrigin FROM RentCredit"));
+    const std::int32_t credit = std::stoi(Ask("SELECT IdRentLog FROM RentCredit"));
+    EXPECT_THROW(leases::CheckNotTied(origin), platform::ConflictError);
+    EXPECT_NO_THROW(leases::CheckNotTied(credit));
+    // A part of a credit belongs to the payment as the whole did.
     auto split = leases::ReadSplit(credit);
     split->parts[0].amount = Currency::FromUnits(-100);
     split->parts[1].amount = Currency::FromUnits(-200);
     leases::SaveSplit(*split);
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentCredit"), "2");
-    const auto origin = leases::ReadSplit(Id("SELECT IdOrigin FROM RentCredit"));
-    const Lines before = DumpBooks();
-    EXPECT_THROW(leases::SaveSplit(*origin), platform::ConflictError);
-    EXPECT_EQ(DumpBooks(), before);
+    const Lines before = support::Dump();
+    EXPECT_THROW(leases::SaveSplit(*leases::ReadSplit(origin)), platform::ConflictError);
+    EXPECT_EQ(support::Dump(), before);
 }
 
 } // namespace

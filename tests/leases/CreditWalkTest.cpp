@@ -9,15 +9,17 @@
 
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "leases/CreditBooks.h"
+#include "leases/AmountPayment.h"
+#include "leases/BooksTest.h"
+#include "leases/CreditChecks.h"
 #include "leases/Credits.h"
-#include "leases/DumpBooks.h"
+#include "leases/LeaseEditor.h"
 #include "leases/ReturnPayment.h"
 #include "leases/mLease.h"
 #include "platform/system/Clock.h"
 #include "removal/DeleteRecord.h"
 #include "store/CreateDatabase.h"
-#include "support/Books.h"
+#include "support/Dump.h"
 #include "support/ScriptedDialogs.h"
 
 namespace tests {
@@ -30,8 +32,23 @@ using leases::WalkMode;
 using platform::Currency;
 using platform::Date;
 
-class CreditWalk : public CreditBooks {
+class CreditWalk : public BooksTest {
   protected:
+    /// Empties the ledger and puts the lease back to where it began.
+    static void Restart() {
+        for (const char* const table : {"RentLog", "Transactions", "RentCredit", "LeaseCredit"})
+            Run(std::string("DELETE * FROM ") + table);
+        SetLeaseField("DateNextDue", "01/01/2024");
+        leases::StoreBalances(kLeaseId);
+    }
+    static std::int32_t LastTransaction() {
+        return std::stoi(Ask("SELECT Max(IdTransaction) FROM Transactions"));
+    }
+    /// A payment of this many units for all that is open.
+    static leases::AmountPayment Amount(int units,
+                                        TransactionClass rentClass = TransactionClass::Rent) {
+        return {leases::ProposePayment(kLeaseId, rentClass), Currency::FromUnits(units)};
+    }
     static void Start(Date day) {
         platform::SetToday(day);
         leases::UpdateLeaseById(kLeaseId, WalkMode::CatchUp);
@@ -45,7 +62,7 @@ class CreditWalk : public CreditBooks {
     /// Everything but the tables of credits, which books of earlier versions don't have.
     static Lines OldTables() {
         Lines lines;
-        for (const std::string& line : DumpBooks()) {
+        for (const std::string& line : support::Dump()) {
             if (!line.starts_with("RentCredit:") && !line.starts_with("LeaseCredit:"))
                 lines.push_back(line);
         }
@@ -141,61 +158,12 @@ TEST_F(CreditWalk, ComesToTheSameDayByDayAndAfterAClosedMonth) {
                       "0");
             if (c.credit > 0) ExpectBalanced();
             if (isDaily) {
-                daily = DumpBooks();
+                daily = support::Dump();
             } else {
-                EXPECT_EQ(DumpBooks(), daily);
+                EXPECT_EQ(support::Dump(), daily);
             }
         }
     }
-}
-
-TEST_F(CreditWalk, UsesCreditOnlyWhereTheLeaseSaysSo) {
-    const auto live = [] {
-        Restart();
-        platform::SetToday(Date(2024, 3, 31));
-        SetLeaseField("DateUpdated", "03/31/2024");
-        SetLeaseField("DateNextDue", "04/01/2024");
-        leases::SubmitAmount(Amount(1500));
-        Start(Date(2024, 4, 1));
-    };
-    live();
-    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "1");
-    EXPECT_EQ(Ask("SELECT DateNextDue FROM Lease"), "04/01/2024");
-    // Reprocessing posts what was posted again, for the user to look at: nothing of it is paid.
-    leases::SetSettlesCharges(kLeaseId, true);
-    EXPECT_TRUE(leases::SettlesCharges(kLeaseId));
-    leases::UpdateLeaseById(kLeaseId, WalkMode::Reprocess);
-    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "1");
-    leases::SetSettlesCharges(kLeaseId, false);
-    EXPECT_FALSE(leases::SettlesCharges(kLeaseId));
-    leases::SetSettlesCharges(kLeaseId, true);
-    EXPECT_EQ(Ask("SELECT Count(*) FROM LeaseCredit"), "1");
-    // A discount is no credit of the tenant's.
-    Restart();
-    leases::SetSettlesCharges(kLeaseId, true);
-    Charge(Date(2024, 3, 1), -30);
-    Run("UPDATE RentLog SET Category = 'Rent Discount'");
-    SetLeaseField("DateNextDue", "04/02/2024");
-    Start(Date(2024, 4, 2));
-    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0");
-}
-
-TEST_F(CreditWalk, RunsNoEventSinceNoMoneyComesIn) {
-    Run("INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, "
-        "TriggerID, TriggerTaxCategory, DebitType, DebitId, CreditType, CreditId, Amount, "
-        "TaxCategory, Description) VALUES (7, 2, True, 1, 1, 105, 'Rent Payment', 1, 105, 1, 106, "
-        "5, 'Management Fees', 'Fee')");
-    const auto fees = [] {
-        return Ask("SELECT Count(*) FROM Transactions WHERE TaxCategory = 'Management Fees'");
-    };
-    leases::SetSettlesCharges(kLeaseId, true);
-    const std::int32_t id = leases::SubmitAmount(Amount(1500));
-    EXPECT_EQ(fees(), "1");
-    SetLeaseField("DateNextDue", "03/06/2024");
-    Start(Date(2024, 3, 6));
-    leases::SubmitReturn(leases::ProposeReturn(id));
-    EXPECT_EQ(fees(), "1");
-    EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "4");
 }
 
 TEST_F(CreditWalk, LeavesAYearWithoutCreditsAsItWas) {
@@ -219,8 +187,7 @@ TEST_F(CreditWalk, LeavesAYearWithoutCreditsAsItWas) {
             }
             if (day % 90 == 0) {
                 const support::ScriptedDialogs dialogs({day % 180 == 0});
-                removal::DeleteRecord(core::kTransaction,
-                                      Id("SELECT Max(IdTransaction) FROM Transactions"),
+                removal::DeleteRecord(core::kTransaction, LastTransaction(),
                                       removal::Confirm::DontAsk);
             }
         }
@@ -233,7 +200,7 @@ TEST_F(CreditWalk, LeavesAYearWithoutCreditsAsItWas) {
     // Books of an earlier version get the tables, and keep their rows.
     store::AddMissingTables(core::App().Connection);
     store::AddMissingTables(core::App().Connection);
-    EXPECT_EQ(DumpBooks(), with);
+    EXPECT_EQ(support::Dump(), with);
     leases::SubmitAmount(Amount(5000));
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentCredit"), "1");
 }
@@ -257,9 +224,8 @@ TEST_F(CreditWalk, KeepsTheSumsThroughYearsOfEverything) {
         for (int day = 0; day < 400 && !HasFailure(); ++day) {
             Start(DateAdd(platform::Interval::Day, 1, platform::Today()));
             const auto rentClass = TransactionClass{static_cast<std::int16_t>(1 + pick(2))};
-            const std::int32_t last = Ask("SELECT Count(*) FROM Transactions") == "0"
-                                          ? 0
-                                          : Id("SELECT Max(IdTransaction) FROM Transactions");
+            const std::int32_t last =
+                Ask("SELECT Count(*) FROM Transactions") == "0" ? 0 : LastTransaction();
             switch (pick(30)) {
                 case 0:
                 case 1:

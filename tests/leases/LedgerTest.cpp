@@ -1,7 +1,5 @@
 #include "leases/Ledger.h"
 
-#include <algorithm>
-
 #include <fmt/core.h>
 
 #include "books/SaveTransaction.h"
@@ -12,8 +10,6 @@
 #include "leases/BooksTest.h"
 #include "leases/ChargeEditor.h"
 #include "leases/RentPayment.h"
-#include "leases/RentSplit.h"
-#include "platform/values/Format.h"
 
 namespace tests {
 
@@ -21,51 +17,10 @@ namespace {
 
 using core::TransactionClass;
 using leases::RentFlags;
-using leases::RentSplit;
 using platform::Currency;
 using platform::Date;
 
-class LedgerTest : public BooksTest {
-  protected:
-    static Lines Tab(std::string_view name) {
-        for (const leases::LedgerTab& tab : leases::kLedgerTabs) {
-            if (tab.name != name) continue;
-            Lines lines;
-            for (const leases::LedgerRow& row : leases::ReadLedger(kLeaseId, tab)) {
-                lines.push_back(row.description +
-                                (row.openTotal ? " = " + FormatMoney(*row.openTotal) : ""));
-            }
-            return lines;
-        }
-        return {"no such tab"};
-    }
-};
-
-TEST_F(LedgerTest, EachTabShowsItsRowsTheLatestFirstAndSumsWhatIsOpen) {
-    for (const int rentClass : {1, 2, 3, 4}) {
-        const TransactionClass of{static_cast<std::int16_t>(rentClass)};
-        Charge(Date(2024, 2, 1), 100 * rentClass, RentFlags::Ordinary, of);
-        Charge(Date(2023, 12, 31), -10 * rentClass, RentFlags::Ordinary, of);
-        const auto paid = Charge(Date(2024, 1, 1), rentClass, RentFlags::Ordinary, of);
-        Run("UPDATE RentLog SET IdTransaction = 7 WHERE IdRentLog = " + std::to_string(paid));
-    }
-    Run("INSERT INTO RentLog (IdRentLog, IdLease, IdTransaction, DatePosted, Class, Amount) "
-        "VALUES (1, 999, 0, '01/01/2024', 1, 5000)");
-    EXPECT_EQ(Tab("Rent"), (Lines{"100 on 02/01/2024 = 90.00", "-10 on 12/31/2023 = (10.00)"}));
-    EXPECT_EQ(Tab("Rent History"), Lines{"1 on 01/01/2024"});
-    EXPECT_EQ(Tab("Subsidy"), (Lines{"200 on 02/01/2024 = 180.00", "-20 on 12/31/2023 = (20.00)"}));
-    EXPECT_EQ(Tab("Subsidy History"), Lines{"2 on 01/01/2024"});
-    EXPECT_EQ(Tab("Deposit"), (Lines{"300 on 02/01/2024 = 270.00", "-30 on 12/31/2023 = (30.00)"}));
-    EXPECT_EQ(Tab("Deposit History"), Lines{"3 on 01/01/2024"});
-    EXPECT_EQ(Tab("Option Credits"),
-              (Lines{"400 on 02/01/2024", "4 on 01/01/2024", "-40 on 12/31/2023"}));
-}
-
-TEST_F(LedgerTest, RowsOfADayStandInTheOrderTheyCame) {
-    Charge(Date(2024, 2, 1), 1);
-    Charge(Date(2024, 2, 1), 2);
-    EXPECT_EQ(Tab("Rent"), (Lines{"2 on 02/01/2024 = 3.00", "1 on 02/01/2024 = 1.00"}));
-}
+class LedgerTest : public BooksTest {};
 
 TEST_F(LedgerTest, ADepositGoesBackToTheTenantOrToAnAccountThatIsStillToBeChosen) {
     SetLeaseField("DepositAccount", "106");
@@ -135,104 +90,6 @@ TEST_F(LedgerTest, AnAmountIsSavedInWholeCents) {
                                         {-55'550, -55'600},
                                         {49, 0}}) {
         EXPECT_EQ(leases::InCents(Currency::FromScaled(entered)), Currency::FromScaled(kept));
-    }
-}
-
-class Split : public LedgerTest {
-  protected:
-    static RentSplit Of(std::int32_t id, std::int64_t first, std::int64_t second) {
-        RentSplit split = leases::ReadSplit(id).value();
-        split.parts[0].amount = Currency::FromScaled(first);
-        split.parts[1].amount = Currency::FromScaled(second);
-        return split;
-    }
-};
-
-TEST_F(Split, ProposesTheChargeAndItsDeferredTwin) {
-    const auto id = Charge(Date(2024, 2, 1), 1000, RentFlags::PeriodRent);
-    const RentSplit split = leases::ReadSplit(id).value();
-    EXPECT_TRUE(split.IsPeriodRent());
-    EXPECT_EQ(split.parts[0].description, "1000 on 02/01/2024");
-    EXPECT_EQ(split.parts[1].description, "Deferred 1000 on 02/01/2024");
-    EXPECT_EQ(split.parts[1].category, "Rent");
-    EXPECT_EQ(split.parts[1].date, Date(2024, 2, 1));
-    EXPECT_EQ(split.Missing(), Currency());
-    EXPECT_FALSE(leases::ReadSplit(999'999).has_value());
-    for (const auto& [part, rest] : {std::pair{400, 600}, {0, 1000}, {1200, -200}}) {
-        EXPECT_EQ(split.Rest(Currency::FromUnits(part)), Currency::FromUnits(rest));
-    }
-}
-
-TEST_F(Split, PutsThePartsInThePlaceOfTheCharge) {
-    struct Case {
-        RentFlags flags;
-        std::size_t rentPart;
-        std::int64_t first;
-        std::int64_t second;
-        Lines ledger;
-        bool losesRent = false;
-    };
-    for (const Case& c :
-         {Case{RentFlags::PeriodRent,
-               0,
-               4'000'000,
-               6'000'000,
-               {"02/01/2024 1 400.00 -", "02/01/2024 0 600.00 -"}},
-          Case{RentFlags::PeriodRent,
-               1,
-               4'000'000,
-               6'000'000,
-               {"02/01/2024 0 400.00 -", "02/01/2024 1 600.00 -"}},
-          Case{RentFlags::Ordinary,
-               0,
-               1,
-               9'999'999,
-               {"02/01/2024 0 0.00 -", "02/01/2024 0 1,000.00 -"}},
-          Case{RentFlags::PeriodRent, 0, 10'000'000, 0, {"02/01/2024 1 1,000.00 -"}},
-          Case{RentFlags::PeriodRent, 0, 0, 10'000'000, {"02/01/2024 0 1,000.00 -"}, true},
-          Case{RentFlags::Ordinary,
-               0,
-               12'000'000,
-               -2'000'000,
-               {"02/01/2024 0 1,200.00 -", "02/01/2024 0 (200.00) -"}},
-          // Parts that don't add up are accepted: the user saw the difference.
-          Case{RentFlags::Ordinary,
-               0,
-               1'000'000,
-               1'000'000,
-               {"02/01/2024 0 100.00 -", "02/01/2024 0 100.00 -"}}}) {
-        Run("DELETE * FROM RentLog");
-        const auto id = Charge(Date(2024, 2, 1), 1000, c.flags);
-        RentSplit split = Of(id, c.first, c.second);
-        split.rentPart = c.rentPart;
-        EXPECT_EQ(split.LosesRent(), c.losesRent);
-        const auto parts = leases::SaveSplit(split);
-        EXPECT_EQ(Ledger(), c.ledger);
-        EXPECT_EQ(std::ranges::count(parts, 0), 2 - static_cast<int>(c.ledger.size()));
-        EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE IdRentLog = " + std::to_string(id)), "0");
-        EXPECT_EQ(Ask("SELECT RentDue FROM Lease"), Ask("SELECT Sum(Amount) FROM RentLog"));
-    }
-    EXPECT_EQ(Of(Charge(Date(2024, 2, 1), 1000), 1'000'000, 1'000'000).Missing(),
-              Currency::FromUnits(800));
-}
-
-TEST_F(Split, OfASettledChargeStaysSettled) {
-    const auto id = Charge(Date(2024, 2, 1), 1000);
-    Run("UPDATE RentLog SET IdTransaction = 7");
-    leases::SaveSplit(Of(id, 4'000'000, 6'000'000));
-    EXPECT_EQ(Ledger(), (Lines{"02/01/2024 0 400.00 +", "02/01/2024 0 600.00 +"}));
-}
-
-TEST_F(Split, OfAChargePaidOrRemovedMeanwhileIsRefusedWhole) {
-    for (const auto* meanwhile : {"UPDATE RentLog SET IdTransaction = 7",
-                                  "UPDATE RentLog SET Amount = 5", "DELETE * FROM RentLog"}) {
-        Run("DELETE * FROM RentLog");
-        const RentSplit split =
-            Of(Charge(Date(2024, 2, 1), 1000, RentFlags::PeriodRent), 4'000'000, 6'000'000);
-        Run(meanwhile);
-        const Lines before = Ledger();
-        EXPECT_THROW(leases::SaveSplit(split), platform::ConflictError) << meanwhile;
-        EXPECT_EQ(Ledger(), before);
     }
 }
 

@@ -1,48 +1,29 @@
-#include "leases/Story.h"
-
-#include <algorithm>
-
 #include <gtest/gtest.h>
 
+#include "leases/LeaseStory.h"
 #include "leases/LeaseWalk.h"
-#include "support/TemporaryFolder.h"
 
 namespace tests {
 
 namespace {
 
-std::vector<std::filesystem::path> StoryFiles() {
-    std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::directory_iterator(
-             std::filesystem::path(VESTREL_TEST_DATA) / "stories")) {
-        if (entry.path().extension() == ".story") files.push_back(entry.path());
-    }
-    std::sort(files.begin(), files.end());
-    return files;
+std::vector<support::Story> Stories() {
+    return support::ReadStories(std::filesystem::path(VESTREL_TEST_DATA) / "stories");
 }
-
-std::string TestName(const testing::TestParamInfo<std::filesystem::path>& info) {
-    std::string name = info.param.stem().string();
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-}
-
-class LeaseStory : public testing::TestWithParam<std::filesystem::path> {};
 
 TEST_P(LeaseStory, EndsAsTold) {
-    const Story story = ReadStory(GetParam());
-    ASSERT_FALSE(story.then.empty()) << "a story without an end tells nothing";
-    const support::TemporaryFolder folder;
-    EXPECT_EQ(LiveThrough(story, folder.Path() / "db"), story.then);
+    Play(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Stories, LeaseStory, testing::ValuesIn(StoryFiles()), TestName);
+INSTANTIATE_TEST_SUITE_P(Stories, LeaseStory, testing::ValuesIn(Stories()), support::StoryName);
 
 TEST(LeaseStories, TellOfEveryKindOfCharge) {
     std::string all;
-    for (const auto& file : StoryFiles()) {
-        for (const std::string& line : ReadStory(file).then)
-            all += line + '\n';
+    for (const support::Story& story : Stories()) {
+        for (const support::StoryPart& part : story.parts) {
+            for (const support::StoryLine& line : part.lines)
+                all += line.text + '\n';
+        }
     }
     using leases::ChargeKind;
     for (const ChargeKind kind : {ChargeKind::Rent, ChargeKind::Subsidy, ChargeKind::Discount,

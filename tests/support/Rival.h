@@ -9,10 +9,12 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/Globals.h"
 #include "platform/database/StatementProbe.h"
 #include "platform/values/Errors.h"
+#include "support/Dump.h"
 
 namespace support {
 
@@ -42,6 +44,8 @@ class Rival {
 
     /// True once the other program has done its work without a failure.
     bool HasWorked() const { return hasWorked_ && status_ == 0; }
+    /// Every row of the books as the other program left them.
+    const std::vector<std::string>& BooksAfterwards() const { return books_; }
 
   private:
     [[noreturn]] void Live(const std::string& file, const std::function<void()>& work) {
@@ -61,12 +65,14 @@ class Rival {
     void Work() {
         if (write(start_[1], "!", 1) != 1) return;
         waitpid(process_, &status_, 0);
+        books_ = Dump();
     }
 
     std::array<int, 2> start_{};
     pid_t process_ = 0;
     int status_ = -1;
     bool hasWorked_ = false;
+    std::vector<std::string> books_;
 };
 
 } // namespace support

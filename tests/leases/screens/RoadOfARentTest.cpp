@@ -1,5 +1,6 @@
 // The road of one rent: the first of the month passes, and what follows from it on the screens.
 
+#include <fmt/core.h>
 #include <QTabBar>
 
 #include "alerts/screens/Alerts.h"
@@ -7,7 +8,6 @@
 #include "books/screens/frmTransaction.h"
 #include "core/DailyRun.h"
 #include "core/EditRecord.h"
-#include "leases/DumpBooks.h"
 #include "leases/LeaseRun.h"
 #include "leases/Ledger.h"
 #include "leases/screens/LeaseScreens.h"
@@ -15,6 +15,7 @@
 #include "leases/screens/frmRentPayment.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Paths.h"
+#include "support/Dump.h"
 #include "support/TemporaryFolder.h"
 
 namespace tests {
@@ -139,14 +140,15 @@ class AYear : public RoadOfARent {
     static std::vector<std::string> LiveByCompanion(const std::filesystem::path& books) {
         for (const Date day : PayDays()) {
             for (const std::string& words :
-                 {std::string("update"), "pay " + std::to_string(kLease)}) {
-                const std::string line = std::string(VESTRELCTL) + " --data " + books.string() +
-                                         " --today " + day.ToText() + " " + words + " >/dev/null";
+                 {std::string("update"), fmt::format("pay {}", kLease)}) {
+                const std::string line =
+                    fmt::format("{} --data {} --today {} {} >/dev/null", VESTRELCTL, books.string(),
+                                day.ToText(), words);
                 EXPECT_EQ(std::system(line.c_str()), 0) << line;
             }
         }
         core::App().Connection.Open(books / "Vestrel.mdb");
-        return DumpBooks();
+        return support::Dump();
     }
     void LiveByScreens() {
         core::EditRecord(core::kLease, kLease);
@@ -176,7 +178,7 @@ TEST_F(AYear, IsTheSameByTheScreensAndByTheCompanion) {
     EXPECT_EQ(Ask("SELECT Sum(Amount) FROM Transactions WHERE Class = 1"), "11560");
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions WHERE CheckNum = 'AutoEvent'"), "12");
     EXPECT_EQ(Ask("SELECT Count(*) FROM RentLog WHERE IdTransaction = 0"), "0");
-    const std::vector<std::string> screens = DumpBooks();
+    const std::vector<std::string> screens = support::Dump();
     core::App().Connection.Close();
     EXPECT_EQ(LiveByCompanion(other.Path()), screens);
 }

@@ -4,7 +4,7 @@ given
   OneTimeFee = 25
   DateUpdated = 12/31/2023
 when
-  settle from credit
+  settle from credit yes
   today 01/01/2024
   pay amount 2300
   daily 03/07/2024

@@ -1,5 +1,5 @@
 # A check without cover: the rents are open again, the due date goes back, and the bank's fee is
-# charged. What fell due meanwhile stays as it was posted.
+# charged. What fell due in the meantime stays as it was posted.
 when
   today 02/02/2024
   pay rent

@@ -8,6 +8,7 @@ given
 when
   today 01/10/2024
 then
+  nothing in the ledger
   Status = Pending
   DateUpdated = 04/30/2024
   RentStatus = OK

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace tests {
+namespace support {
 
 /// The result of stopping a routine again and again.
 struct Crashes {
@@ -23,4 +23,4 @@ struct Crashes {
 /// row of every table compared. In the end the work is done.
 Crashes CrashAtEveryStatement(const std::function<void()>& work);
 
-} // namespace tests
+} // namespace support

@@ -1,4 +1,4 @@
-#include "leases/Crashes.h"
+#include "support/Crashes.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -6,10 +6,10 @@
 #include <exception>
 
 #include "core/Globals.h"
-#include "leases/DumpBooks.h"
 #include "platform/database/StatementProbe.h"
+#include "support/Dump.h"
 
-namespace tests {
+namespace support {
 
 namespace fs = std::filesystem;
 
@@ -63,7 +63,7 @@ int StopBefore(int statement, const fs::path& file, const std::function<void()>&
 
 std::vector<std::string> Reopen(const fs::path& file) {
     core::App().Connection.Open(file);
-    std::vector<std::string> books = DumpBooks();
+    std::vector<std::string> books = Dump();
     core::App().Connection.Close();
     return books;
 }
@@ -100,4 +100,4 @@ Crashes CrashAtEveryStatement(const std::function<void()>& work) {
     return crashes;
 }
 
-} // namespace tests
+} // namespace support

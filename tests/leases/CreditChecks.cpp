@@ -1,4 +1,4 @@
-#include "leases/CreditBooks.h"
+#include "leases/CreditChecks.h"
 
 #include <algorithm>
 #include <array>
@@ -6,9 +6,9 @@
 #include <iterator>
 
 #include <fmt/core.h>
+#include <gtest/gtest.h>
 
 #include "core/Globals.h"
-#include "leases/LeaseEditor.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/Format.h"
 #include "support/Books.h"
@@ -26,12 +26,16 @@ std::string LineOf(std::string_view day, std::string_view category, std::string_
     return fmt::format("{}|{}|{}|{}", day, category, description, platform::FormatMoney(amount));
 }
 
-std::vector<std::string> LinesOf(const leases::PreviewRows& preview,
-                                 const std::function<bool(const std::string& what)>& wanted) {
-    std::vector<std::string> lines;
+/// The rows of a preview that are wanted; the predicate also gets the row before.
+Lines LinesOf(
+    const leases::PreviewRows& preview,
+    const std::function<bool(const std::string& what, const std::string& before)>& wanted) {
+    Lines lines;
+    std::string before;
     for (const leases::PreviewRow& row : preview) {
-        if (wanted(row.what))
+        if (wanted(row.what, before))
             lines.push_back(LineOf(row.date.ToText(), row.category, row.description, row.amount));
+        before = row.what;
     }
     std::ranges::sort(lines);
     return lines;
@@ -39,22 +43,7 @@ std::vector<std::string> LinesOf(const leases::PreviewRows& preview,
 
 } // namespace
 
-void CreditBooks::Restart() {
-    for (const char* const table : {"RentLog", "Transactions", "RentCredit", "LeaseCredit"})
-        Run(std::string("DELETE * FROM ") + table);
-    SetLeaseField("DateNextDue", "01/01/2024");
-    leases::StoreBalances(kLeaseId);
-}
-
-std::int32_t CreditBooks::Id(std::string_view select) {
-    return core::App().Connection.Scalar(select)->AsLong();
-}
-
-leases::AmountPayment CreditBooks::Amount(int units, leases::TransactionClass rentClass) {
-    return {leases::ProposePayment(kLeaseId, rentClass), platform::Currency::FromUnits(units)};
-}
-
-BooksTest::Lines CreditBooks::LedgerLines() {
+Lines LedgerLines() {
     Lines lines;
     platform::Recordset rows;
     rows.Open(core::App().Connection, "SELECT * FROM RentLog");
@@ -66,23 +55,24 @@ BooksTest::Lines CreditBooks::LedgerLines() {
     return lines;
 }
 
-BooksTest::Lines CreditBooks::Difference(const Lines& a, const Lines& b) {
+Lines Difference(const Lines& a, const Lines& b) {
     Lines lines;
     std::ranges::set_difference(a, b, std::back_inserter(lines));
     return lines;
 }
 
-BooksTest::Lines CreditBooks::NewRows(const leases::PreviewRows& preview) {
-    return LinesOf(preview, [](const std::string& what) {
-        return std::ranges::find(kWrites, what) != kWrites.end();
+Lines NewRows(const leases::PreviewRows& preview) {
+    return LinesOf(preview, [](const std::string& what, const std::string& before) {
+        const bool isPartOfCredit = what == "Credit used" && before == "Split in two";
+        return isPartOfCredit || std::ranges::find(kWrites, what) != kWrites.end();
     });
 }
 
-BooksTest::Lines CreditBooks::RemovedRows(const leases::PreviewRows& preview) {
-    return LinesOf(preview, [](const std::string& what) { return what == "Split in two"; });
+Lines RemovedRows(const leases::PreviewRows& preview) {
+    return LinesOf(preview, [](const std::string& what, auto&) { return what == "Split in two"; });
 }
 
-BooksTest::Lines CreditBooks::Paid() {
+Lines PaidCharges() {
     Lines lines;
     platform::Recordset rows;
     rows.Open(core::App().Connection,
@@ -102,7 +92,7 @@ BooksTest::Lines CreditBooks::Paid() {
     return lines;
 }
 
-void CreditBooks::ExpectBalanced() {
+void ExpectBalanced() {
     EXPECT_EQ(support::Rows(core::App().Connection,
                             "SELECT t.IdTransaction, t.Amount, Sum(r.Amount) AS Rest FROM "
                             "Transactions AS t INNER JOIN RentLog AS r ON t.IdTransaction = "

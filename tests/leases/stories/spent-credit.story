@@ -1,0 +1,98 @@
+# A payment is returned whose credit was spent: the due date goes back to where it was, and what the
+# credit had paid is open again. An open rest keeps the due date; a paid part never moved it. Paid
+# once more, the rents move the due date on.
+given
+  it is 01/02/2024
+  DateUpdated = 01/02/2024
+  Option = True
+  OptionCredit = 50
+  charge rent 1000 on 01/01/2024
+  settle from credit <by itself>
+when
+  pay amount <received>
+  today <day>
+  <event>
+then
+  DateNextDue = <due before>
+when
+  return payment 1
+then
+  DateNextDue = <due>
+  owed -> <owed>
+  OptionBalance = <option>
+  credit of rent -> 0.00
+  SELECT Count(*) FROM Transactions WHERE Amount = 0 AND Description NOT LIKE 'Returned *' -> 0
+when
+  pay rent
+then
+  DateNextDue = <due again>
+  owed -> nothing is
+  the books balance
+each
+  received | by itself | day | event | due before | due | due again | owed | option
+  # All of it paid rents.
+  2000 | yes | 02/03/2024 | the books balance | 03/01/2024 | 01/01/2024 | 03/01/2024 | rent 2000 | 0.00
+  3000 | yes | 03/03/2024 | the books balance | 04/01/2024 | 01/01/2024 | 04/01/2024 | rent 3000 | 0.00
+  3300 | yes | 03/03/2024 | the books balance | 04/01/2024 | 01/01/2024 | 04/01/2024 | rent 3000 | 0.00
+  # It paid a part, and the rest is open, or paid by other money.
+  1400 | yes | 02/03/2024 | the books balance | 02/01/2024 | 01/01/2024 | 03/01/2024 | rent 1600, other 400 | 0.00
+  1400 | yes | 02/03/2024 | pay rent | 03/01/2024 | 02/01/2024 | 03/01/2024 | rent 1000, other 400 | 50.00
+  # It made up what other money lacked.
+  1400 | no | 02/03/2024 | pay rent | 03/01/2024 | 01/01/2024 | 03/01/2024 | rent 1400 | 0.00
+  1400 | no | 02/03/2024 | pay amount 600 | 03/01/2024 | 01/01/2024 | 03/01/2024 | rent 1400 | 0.00
+  # The next rent was paid by other money.
+  2000 | yes | 03/03/2024 | pay rent | 04/01/2024 | 02/01/2024 | 04/01/2024 | rent 2000 | 50.00
+  # It wasn't spent, or was paid out.
+  1400 | no | 01/09/2024 | the books balance | 02/01/2024 | 01/01/2024 | 02/01/2024 | rent 1000 | 0.00
+  1400 | no | 01/09/2024 | pay rent | 02/01/2024 | 01/01/2024 | 02/01/2024 | rent 1000, other 400 | 0.00
+# The same for a fee that credit has paid.
+given
+  it is 01/02/2024
+  DateUpdated = 01/02/2024
+  charge rent 1000 on 01/01/2024
+  pay amount 1400
+  today 01/09/2024
+  charge fee 500 on 01/08/2024
+  pay amount 100
+when
+  return payment 1
+then
+  DateNextDue = 01/01/2024
+  owed -> rent 1000, other 400
+when
+  pay rent
+then
+  DateNextDue = 02/01/2024
+  owed -> nothing is
+  the books balance
+# The return shows all of that before, and is refused if the credit was spent in another way since.
+given
+  it is 01/02/2024
+  DateUpdated = 01/02/2024
+  Option = True
+  OptionCredit = 50
+  charge rent 1000 on 01/01/2024
+  pay amount 1400
+  today 02/03/2024
+  pay rent
+then
+  preview return of 1
+    -> Transaction (1,400.00)
+    -> Charge open again 1,000.00
+    -> Split in two 1,000.00
+    -> Part still paid 600.00
+    -> Part open again 400.00
+    -> Credit withdrawn (400.00)
+    -> In the place of the charges 1,400.00
+    -> Settled by the return (1,400.00)
+    -> Payment in the ledger 1,400.00
+    -> Option credit withdrawn (100.00)
+    -> Next due date 0.00
+    -> Payment marked 0.00
+when
+  open return stale of 1
+  edit payment 2, only 2
+  submit return stale -> refused: ...
+  # A payment that was deleted still shows on the open screen.
+  delete payment 1
+  rows of stale -> 12
