@@ -4,6 +4,7 @@
 #include "platform/database/Recordset.h"
 #include "platform/system/Clock.h"
 #include "store/CreateDatabase.h"
+#include "support/CopyBooks.h"
 
 namespace tests {
 
@@ -31,10 +32,12 @@ constexpr std::string_view kRecords[] = {
 } // namespace
 
 BooksWithOneLease::BooksWithOneLease(const std::filesystem::path& folder) {
-    store::CreateDatabase(folder);
-    core::App().Connection.Open(folder / "Vestrel.mdb");
-    for (const std::string_view statement : kRecords)
-        core::App().Connection.Execute(statement);
+    support::CopyBooks(folder, [](const std::filesystem::path& made) {
+        store::CreateDatabase(made);
+        core::App().Connection.Open(made / "Vestrel.mdb");
+        for (const std::string_view statement : kRecords)
+            core::App().Connection.Execute(statement);
+    });
     platform::SetToday(platform::Date(2023, 12, 31));
 }
 

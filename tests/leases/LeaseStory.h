@@ -15,7 +15,7 @@ namespace tests {
 /// Lives through stories of one lease. `Field = value` are fields of the lease, and `unit` and
 /// `tenant` are their statuses; the ledger's rows are `date | class.flags | 'category' | amount |
 /// description`, with ` | paid` once a transaction has settled them. The events, where N counts the
-/// transactions of the books from 1:
+/// transactions of the lease from 1:
 ///
 ///   today DATE, daily DATE           the program starts on that day, or every day up to it
 ///   roll forward, reprocess, run all leases
@@ -27,13 +27,11 @@ namespace tests {
 ///   outlook of CLASS|amount A|payment N; charges of CLASS|N; preview amount A;
 ///   read again NAME
 ///   return payment N, fee A, on DATE; open return NAME of N; submit return NAME
-///   preview return of N; errors of return N; delete payment N, with its charges; delete lease
-///   settle from credit yes|no; credit of CLASS; paid; owed; the books balance
-///   charge deposits
-///   give notice, N days; break lease; cancel notice; renew lease
-///   save new lease, FIELD = value; save lease, FIELD = value
-///   tab NAME; split N; split N into A and B, the second stays rent   N counts the charges from 1
-///   store balances; set rent status; read settings
+///   preview return of N; rows of NAME; marks of NAME; errors of return N; delete payment N, with
+///   its charges; delete lease settle from credit yes|no; credit of CLASS; paid; owed; the books
+///   balance charge deposits give notice, N days; break lease; cancel notice; renew lease save new
+///   lease, FIELD = value; save lease, FIELD = value tab NAME; split N; split N into A and B, the
+///   second stays rent   N counts the charges from 1 store balances; set rent status; read settings
 ///
 /// and what a payment may be given: `only 1 3` (the ticked charges; or `only none`), `first 2 1`
 /// (the order), `on DATE`, `check X`, `as TYPE`, `from NAME`, `from account ID`, `to ID|NAME`,

@@ -39,11 +39,15 @@ bool IsNumber(const std::string& text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
 }
 
-/// The id of the transaction that a story counts; a number of three digits or more is the id.
+/// The id of the lease's transaction that a story counts; a number of three digits or more is the
+/// id.
 std::int32_t IdOf(const std::string& number) {
     if (number.size() > 2) return std::stoi(number);
-    const auto ids = support::Rows(core::App().Connection,
-                                   "SELECT IdTransaction FROM Transactions ORDER BY IdTransaction");
+    const auto ids = support::Rows(
+        core::App().Connection,
+        fmt::format("SELECT IdTransaction FROM Transactions WHERE IdLease = {} ORDER BY "
+                    "IdTransaction",
+                    kLeaseId));
     return std::stoi(ids.at(std::stoul(number) - 1));
 }
 
@@ -256,6 +260,10 @@ void LeaseStory::AddReturns() {
        [this](const Event& event) { leases::SubmitReturn(returns_.at(event.rest)); });
     On("rows of ", [this](const Event& event) {
         return Lines{std::to_string(leases::PreviewReturn(returns_.at(event.rest)).size())};
+    });
+    On("marks of ", [this](const Event& event) {
+        const leases::PreviewRow row = leases::PreviewReturn(returns_.at(event.rest)).back();
+        return Lines{row.what + ": " + row.description};
     });
     On("errors of return ",
        [](const Event& event) { return leases::ReturnErrors(ProposeReturn(event.rest, event)); });

@@ -20,8 +20,8 @@ namespace tests {
 ///   pay all; pay charges 1 2
 ///   edit payment N, only 1 2         or `only none`; the open charges follow those it settled
 ///   open payment NAME; open payment NAME of N; read again NAME; submit NAME
-///   charges; charges of N            answers the charges and entries of the proposal, or of a payment
-///   post payoff                      answers Posted or NotFound
+///   charges; charges of N            answers the charges and entries of the proposal, or of a
+///   payment post payoff                      answers Posted or NotFound
 ///
 /// and what a payment may be given: `extra A` (principal), `on no day`, `check
 /// X`, `described X`, `from ID NAME`.

@@ -90,7 +90,10 @@ void StoryPlayer::AddCommonEvents() {
         }
         return texts;
     });
-    On("told", [this](const Event&) { return Lines{std::exchange(told_, "")}; });
+    On("told", [this](const Event&) {
+        const std::string told = std::exchange(told_, "");
+        return told.empty() ? Lines() : Lines{told};
+    });
     On("elsewhere ", [this](const Event& event) {
         rival_ = std::make_unique<Rival>([this, event] { Do(event.rest); });
     });

@@ -148,7 +148,7 @@ given
   it is 03/05/2024
   DateUpdated = 03/05/2024
   charge rent 1000 on 01/01/2024
-  told -> ...
+  told
 when
   pay rent
 then

@@ -109,32 +109,6 @@ when
 then
   DateNextDue = 01/01/2024
   owed -> rent 1000, other 25
-# A return takes back the credit that the payment brought, and what was bought with it is owed
-# again and can be paid in part.
-given
-  it is 03/05/2024
-  DateUpdated = 03/05/2024
-  charge rent 1000 on 01/01/2024
-  pay amount 1500
-  charge fee <fee> on 02/09/2024
-  pay amount 10
-then
-  credit of rent -> <credit>
-when
-  return payment 1
-then
-  credit of rent -> 0.00
-  owed -> <owed>
-  SELECT Sum(Amount) FROM RentLog WHERE IdTransaction =
-    (SELECT Min(IdTransaction) FROM Transactions) -> 0
-when
-  pay amount 100, only <deferred>
-then
-  owed -> <rest>
-each
-  fee | credit | owed | deferred | rest
-  310 | 200.00 | rent 1000, other 300 | 2 | rent 1000, other 200
-  510 | 0.00 | rent 1000, other 500 | 2 | rent 1000, other 400
 # Both sides of a return keep their charges: only their texts can be edited, and the mark stays.
 given
   it is 03/05/2024

@@ -7,6 +7,11 @@ given
   Option = True
   OptionCredit = 50
   charge rent 1000 on 01/01/2024
+  # Events that wait for the tenant's payments post rows in the midst of each.
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (900, 2, True, 1, 5, 103, 'Rent Payment', 0)
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (901, 2, True, 1, 5, 103, 'Rent Payment', 0)
   settle from credit <by itself>
 when
   pay amount <received>
@@ -21,7 +26,8 @@ then
   owed -> <owed>
   OptionBalance = <option>
   credit of rent -> 0.00
-  SELECT Count(*) FROM Transactions WHERE Amount = 0 AND Description NOT LIKE 'Returned *' -> 0
+  SELECT Count(*) FROM Transactions WHERE IdLease = 101 AND Amount = 0
+    AND Description NOT LIKE 'Returned *' -> 0
 when
   pay rent
 then
@@ -42,6 +48,9 @@ each
   1400 | no | 02/03/2024 | pay amount 600 | 03/01/2024 | 01/01/2024 | 03/01/2024 | rent 1400 | 0.00
   # The next rent was paid by other money.
   2000 | yes | 03/03/2024 | pay rent | 04/01/2024 | 02/01/2024 | 04/01/2024 | rent 2000 | 50.00
+  # It covered the rent, and the rest, if any, was paid out.
+  2400 | no | 02/03/2024 | pay rent | 03/01/2024 | 01/01/2024 | 03/01/2024 | rent 2000, other 400 | 0.00
+  2000 | no | 02/03/2024 | pay rent | 03/01/2024 | 01/01/2024 | 03/01/2024 | rent 2000 | 0.00
   # It wasn't spent, or was paid out.
   1400 | no | 01/09/2024 | the books balance | 02/01/2024 | 01/01/2024 | 02/01/2024 | rent 1000 | 0.00
   1400 | no | 01/09/2024 | pay rent | 02/01/2024 | 01/01/2024 | 02/01/2024 | rent 1000, other 400 | 0.00
@@ -50,6 +59,11 @@ given
   it is 01/02/2024
   DateUpdated = 01/02/2024
   charge rent 1000 on 01/01/2024
+  # Events that wait for the tenant's payments post rows in the midst of each.
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (900, 2, True, 1, 5, 103, 'Rent Payment', 0)
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (901, 2, True, 1, 5, 103, 'Rent Payment', 0)
   pay amount 1400
   today 01/09/2024
   charge fee 500 on 01/08/2024
@@ -72,6 +86,11 @@ given
   Option = True
   OptionCredit = 50
   charge rent 1000 on 01/01/2024
+  # Events that wait for the tenant's payments post rows in the midst of each.
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (900, 2, True, 1, 5, 103, 'Rent Payment', 0)
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (901, 2, True, 1, 5, 103, 'Rent Payment', 0)
   pay amount 1400
   today 02/03/2024
   pay rent
@@ -96,3 +115,97 @@ when
   # A payment that was deleted still shows on the open screen.
   delete payment 1
   rows of stale -> 12
+# Credit that was used for a fee and paid out for the rest is shown row by row.
+given
+  it is 01/02/2024
+  DateUpdated = 01/02/2024
+  Option = True
+  OptionCredit = 50
+  charge rent 1000 on 01/01/2024
+  # Events that wait for the tenant's payments post rows in the midst of each.
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (900, 2, True, 1, 5, 103, 'Rent Payment', 0)
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (901, 2, True, 1, 5, 103, 'Rent Payment', 0)
+  pay amount 1400
+  charge fee 100 on 01/08/2024
+  pay rent
+then
+  preview return of 1
+    -> Transaction (1,400.00)
+    -> Charge open again 1,000.00
+    -> Charge open again 100.00
+    -> Credit still used (300.00)
+    -> Credit withdrawn (100.00)
+    -> Credit spent, owed again 300.00
+    -> In the place of the charges 1,400.00
+    -> Settled by the return (1,400.00)
+    -> Payment in the ledger 1,400.00
+    -> Option credit withdrawn (50.00)
+    -> Next due date 0.00
+    -> Payment marked 0.00
+# Credit that was paid ahead once more is owed beside the new credit.
+given
+  it is 01/02/2024
+  DateUpdated = 01/02/2024
+  Option = True
+  OptionCredit = 50
+  charge rent 1000 on 01/01/2024
+  # Events that wait for the tenant's payments post rows in the midst of each.
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (900, 2, True, 1, 5, 103, 'Rent Payment', 0)
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (901, 2, True, 1, 5, 103, 'Rent Payment', 0)
+  pay amount 1400
+  charge fee 100 on 01/08/2024
+  pay amount 500
+  # The older of the two credits of the day is taken in too.
+  edit payment 2, only 1 2 4
+then
+  SELECT Sum(Amount) FROM Transactions -> 1500
+when
+  return payment 1
+then
+  owed -> rent 1000, other 0
+  DateNextDue = 01/01/2024
+when
+  pay rent
+then
+  DateNextDue = 02/01/2024
+  owed -> nothing is
+  the books balance
+# A payment from credit that is left empty is marked until the return is deleted; of two returns on
+# a day either may have left it.
+given
+  it is 01/02/2024
+  DateUpdated = 01/02/2024
+  Option = True
+  OptionCredit = 50
+  charge rent 1000 on 01/01/2024
+  # Events that wait for the tenant's payments post rows in the midst of each.
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (900, 2, True, 1, 5, 103, 'Rent Payment', 0)
+  INSERT INTO AutoEvent (IdAutoEvent, EventType, Enabled, EventAction, TriggerType, TriggerID,
+    TriggerTaxCategory, Amount) VALUES (901, 2, True, 1, 5, 103, 'Rent Payment', 0)
+  pay amount 2000
+  today 02/03/2024
+  pay rent
+  charge fee 60 on 02/03/2024
+  pay rent
+  <other return>
+when
+  open return last of 1
+  marks of last
+    -> Payment from credit marked: Returned 02/03/2024: Rent Payment for O'Brien, 12 Elm Street A
+  submit return last
+then
+  SELECT Description FROM Transactions WHERE IdLease = 101 AND Amount = 0
+    -> Returned 02/03/2024: Rent Payment for O'Brien, 12 Elm Street A
+when
+  delete payment <reversal>
+then
+  SELECT Description FROM Transactions WHERE IdLease = 101 AND Amount = 0 -> <description>
+each
+  other return | reversal | description
+  the books balance | 4 | Rent Payment for O'Brien, 12 Elm Street A
+  return payment 3 | 5 | Returned 02/03/2024: Rent Payment for O'Brien, 12 Elm Street A

@@ -15,11 +15,11 @@ then
 given
   xPri = 100.5,0
   run to 02/20/2024
-  told -> ...
+  told
 when
   pay charges 1, check 77, from 203 Somebody
 then
-  told -> ...
+  told -> 10 23 3
   SELECT DateEffective, DebitType, DebitId, DebitDesc, CheckNum, CreditType, CreditId, CreditDesc,
     Amount, TaxCategory, IEN, Description, Flags, Class, Reconciled, IdMortgage, IdBuilding,
     IdTenant, DebitExported FROM Transactions
