@@ -10,7 +10,7 @@
 namespace support {
 
 /// Stands for the desktop while it lives: keeps the documents and web pages that it was asked to
-/// open.
+/// open, and the addresses of mails after "mail ".
 class KeepingDesktop {
   public:
     /// `takes`: whether there is a program for them.
@@ -32,7 +32,9 @@ class KeepingDesktop {
         Seam(std::shared_ptr<std::vector<std::string>> opened, bool takes)
             : opened_(std::move(opened)), takes_(takes) {}
         bool OpenWebPage(std::string_view address) override { return Keep(address); }
-        bool WriteMail(std::string_view) override { return false; }
+        bool WriteMail(std::string_view address) override {
+            return Keep("mail " + std::string(address));
+        }
         bool OpenDocument(std::string_view file) override { return Keep(file); }
 
       private:

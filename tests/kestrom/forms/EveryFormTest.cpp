@@ -19,6 +19,7 @@
 #include "platform/qt/Text.h"
 #include "support/screens/ColorChecks.h"
 #include "support/screens/Driving.h"
+#include "support/screens/Gallery.h"
 #include "support/screens/ScreenChecks.h"
 
 namespace support {
@@ -113,10 +114,16 @@ TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
             ASSERT_EQ(Open().size(), 1U) << name;
             Form& form = *Open().front();
             faults.merge(FocusFaults(form, name));
+            int page = 0;
             OnEachPage(form, [&] {
                 faults.merge(PlaceFaults(form, name));
                 faults.merge(LookFaults(form, name));
-                for (const auto& kind : {TabOrderFaults(form), MnemonicFaults(form)}) {
+                // A picture for people: of each form once, and of a record rather than a new one.
+                const bool isPictured = *time == '\0' && !name.starts_with("new ");
+                const std::string picture = "form-" + name + "-" + std::to_string(++page);
+                for (const auto& kind :
+                     {TabOrderFaults(form), MnemonicFaults(form), NameFaults(form),
+                      isPictured ? Portray(form, picture) : std::vector<std::string>()}) {
                     for (const std::string& fault : kind)
                         faults.insert(name + ": " + fault);
                 }

