@@ -16,8 +16,9 @@ std::string FaultsOf(std::string_view definition) {
     return faults;
 }
 
-TEST(ReportCheck, FindsTagsThatNobodyFillsAndCommandsWithoutEffect) {
-    for (const char* const table : {"tags that nobody fills", "commands without effect"}) {
+TEST(ReportCheck, FindsWhatIsWrongInEachLine) {
+    for (const char* const table :
+         {"faults of each kind", "tags that nobody fills", "commands without effect"}) {
         support::ForEachCase(VESTREL_TEST_DATA "/check.cases", table,
                              [](const support::Case& each) {
                                  EXPECT_EQ(FaultsOf(each["definition"]), each["faults"]);

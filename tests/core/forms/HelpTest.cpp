@@ -37,13 +37,6 @@ TEST_F(HelpTest, OpensThePageThatIsAskedFor) {
     EXPECT_EQ(form->Topic(), QStringLiteral("contents")) << "a page that isn't there";
 }
 
-TEST_F(HelpTest, EveryScreenHasItsPage) {
-    const auto form = Open(QStringLiteral("contents"));
-    for (const char* const name : {"contents", "frmConfig", "frmPreferences", "frmOwnerLink"}) {
-        EXPECT_TRUE(form->HasTopic(QString::fromLatin1(name))) << name;
-    }
-}
-
 TEST_F(HelpTest, EveryLinkLeadsToAPage) {
     const auto form = Open(QStringLiteral("contents"));
     const QStringList pages = Pages(*form);
