@@ -23,12 +23,27 @@ bool IsSameName(std::string_view a, std::string_view b) {
     return true;
 }
 
+/// A number that names of a table hardly ever share.
+std::size_t PlaceOf(std::string_view name) {
+    if (name.empty()) return 0;
+    const auto letter = [&](std::size_t i) -> std::size_t {
+        return static_cast<unsigned char>(name[i]);
+    };
+    return name.size() * 5 + letter(0) * 3 + letter(name.size() / 2) * 31 +
+           letter(name.size() - 1) * 7;
+}
+
 } // namespace
 
 std::optional<std::size_t> Recordset::State::Find(std::string_view name) const {
     const auto& columns = Compiled().columns;
+    if (columns.empty()) return std::nullopt;
+    std::uint16_t& last = found[PlaceOf(name) % found.size()];
+    if (IsSameName(columns[last].name, name)) return last;
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        if (IsSameName(columns[i].name, name)) return i;
+        if (!IsSameName(columns[i].name, name)) continue;
+        last = static_cast<std::uint16_t>(i);
+        return i;
     }
     return std::nullopt;
 }
@@ -122,6 +137,7 @@ void Recordset::Close() {
     if (!state_) return;
     State& state = *state_;
     state.plan.reset();
+    state.found.fill(0);
     state.pending.reset();
     state.rows.Clear();
     state.ordered = false;

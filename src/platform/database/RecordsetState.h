@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -35,8 +36,10 @@ struct Recordset::State {
 
     const dialect::CompiledStatement& Compiled() const { return plan->compiled; }
     std::size_t FieldCount() const { return plan->compiled.columns.size(); }
-    /// The field's index; nothing when there is none of this name.
+    /// The field's index, the first if several have this name; nothing when there is none.
     std::optional<std::size_t> Find(std::string_view name) const;
+    /// Where names were found last, by their spelling: row after row is read by the same few names.
+    mutable std::array<std::uint16_t, 128> found{};
 
     std::size_t Count() const {
         if (ordered) return order.size();

@@ -70,6 +70,15 @@ TEST_F(RecordsetTest, FieldsAreKnownByNameInAnyCaseAndByNumber) {
     EXPECT_FALSE(rows.HasField("Name"));
     EXPECT_EQ(ErrorOf([&] { rows["Name"]; }), "There is no field Name.");
     EXPECT_THROW(rows[3], FieldError);
+    // In the next statement they are elsewhere, and the first of a name counts.
+    rows.Open(connection_,
+              "SELECT Balance AS [Full Name], Id AS Größe, Name AS [Full Name], Id "
+              "AS [full name] FROM Person");
+    EXPECT_EQ(rows["FULL name"].Type(), FieldType::Currency);
+    EXPECT_EQ(rows["full name"].Type(), FieldType::Currency);
+    EXPECT_EQ(rows["grÖße"].AsLong(), 1);
+    EXPECT_FALSE(rows.HasField("Id"));
+    EXPECT_FALSE(rows.HasField(""));
 }
 
 TEST_F(RecordsetTest, AFieldSpeaksOfTheRowThatIsCurrent) {
