@@ -77,7 +77,7 @@ TEST_P(Sections, ShowWhatIsWritten) {
     int checked = 0;
     for (const Block& block : BlocksOf(GetParam())) {
         const testing::ScopedTrace trace(GetParam().c_str(), block.line, block.kind);
-        const std::string definition = before + block.text + after;
+        const std::string definition = std::string(before).append(block.text).append(after);
         if (block.kind == "books") {
             std::istringstream statements(block.text);
             for (std::string statement; std::getline(statements, statement);)
