@@ -94,6 +94,17 @@ TEST_F(Ties, KeepACreditAndTheRowThatItComesFromAsTheyAre) {
     EXPECT_EQ(support::Dump(), before);
 }
 
+TEST(SortCharges, SkipsADeletedChargeAndKeepsTheOrderOfTheOthers) {
+    leases::RentPayment payment;
+    for (const std::int32_t id : {1, 2, 3})
+        payment.charges.emplace_back().idRentLog = id;
+    leases::SortCharges(payment, std::vector<std::int32_t>{4711, 3});
+    std::vector<std::int32_t> ids;
+    for (const PaymentCharge& charge : payment.charges)
+        ids.push_back(charge.idRentLog);
+    EXPECT_EQ(ids, (std::vector{3, 1, 2}));
+}
+
 } // namespace
 
 } // namespace tests

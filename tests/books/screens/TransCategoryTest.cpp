@@ -88,11 +88,5 @@ TEST_F(TransCategoryTest, EnterKeepsTheTypedNameAndTheScreen) {
     EXPECT_FALSE(form->isVisible());
 }
 
-TEST_F(TransCategoryTest, LooksAndReadsRight) {
-    const auto form = Open();
-    Select(*form, "lstExpense", 2);
-    EXPECT_EQ(LookFaults(*form, "frmTransCategory"), Said{});
-}
-
 } // namespace
 } // namespace support

@@ -340,15 +340,5 @@ TEST_F(TransactionTest, RefusesAnAmountThatIsNone) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0");
 }
 
-TEST_F(TransactionTest, LooksAndReadsRight) {
-    AddRow(900,
-           "DateEffective, DebitType, DebitId, DebitDesc, CreditType, CreditId, CreditDesc, "
-           "Amount, TaxCategory, IEN, Description, IdUnit, IdBuilding, IdLease, IdTenant",
-           "'03/01/2024', 5, 30, '', 1, 60, '', 950, 'Rent Payment', 0, 'Rent of March', 20, 10, "
-           "40, 30");
-    const auto form = OpenId(900);
-    EXPECT_EQ(LookFaults(*form, "frmTransaction"), Said{});
-}
-
 } // namespace
 } // namespace support

@@ -211,16 +211,6 @@ TEST_F(ChargeScreen, ALeaseDeletedMeanwhileIsChargedNothing) {
     EXPECT_EQ(Row("Count(*)"), "0");
 }
 
-TEST_F(ChargeScreen, LooksAndReadsRight) {
-    const auto charge = Open(Charge("05/01/2024", 950, RentFlags::PeriodRent));
-    const auto split = Split(Charge("05/01/2024", 950, RentFlags::PeriodRent));
-    Type(Find<QLineEdit>(*split, "txtAmount1"), "300");
-    for (const auto& [form, name] :
-         {std::pair<QWidget*, const char*>{charge, "frmRentLog"}, {split, "frmRentSplit"}}) {
-        EXPECT_EQ(support::LookFaults(*form, name), Said{});
-    }
-}
-
 } // namespace
 
 } // namespace tests

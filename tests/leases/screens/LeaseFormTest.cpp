@@ -287,17 +287,6 @@ TEST_F(LeaseForm, ALeaseWhoseUnitIsGoneCanBeGivenAnotherAndBePaid) {
     EXPECT_FALSE(IsEnabled(*form, "cboIdUnit"));
 }
 
-TEST_F(LeaseForm, LooksAndReadsRight) {
-    Charge("05/01/2024", 950, RentFlags::PeriodRent);
-    Charge("05/06/2024", 40);
-    Charge("05/11/2024", 15);
-    Run("UPDATE Lease SET Subs = True, SubsAmt = 300, SubsidyId = 60, [Option] = True");
-    const auto form = Open();
-    EXPECT_EQ(support::LookFaultsOfTabs(*form, "frmLease"), Said{});
-    EXPECT_LE(form->width(), 1280);
-    EXPECT_LE(form->height(), 760);
-}
-
 } // namespace
 
 } // namespace tests

@@ -363,14 +363,6 @@ TEST_F(PaymentScreen, PrintsTheReceiptOfAPostedPayment) {
     reports::SetReportViewer(nullptr);
 }
 
-TEST_F(PaymentScreen, LooksAndReadsRight) {
-    const auto form = Open();
-    Tick(*form, 2, false);
-    form->resize(720, 560);
-    support::SettleEvents();
-    EXPECT_EQ(support::LookFaults(*form, "frmRentPayment"), Said{});
-}
-
 } // namespace
 
 } // namespace tests

@@ -129,6 +129,8 @@ then
   SELECT Amount, CheckNum FROM Transactions -> 1200|17
   the books balance
 when
+  open payment stored of 1, amount 1000
+  submit stored -> refused: A payment that was posted is corrected by its charges.
   edit payment 1, only 1
 then
   SELECT Amount FROM Transactions -> 1000

@@ -62,7 +62,7 @@ when
   edit payment 1, only 1 2
   submit mine, described Mine
     -> refused: The payment was changed after it was opened. Nothing was posted.
-  open payment mine of 1
+  read again mine
   submit mine, described Mine
 then
   SELECT Amount, Description FROM Transactions -> 1040|Mine

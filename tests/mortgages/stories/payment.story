@@ -138,6 +138,7 @@ given
   pay all
 when
   DELETE * FROM Mortgage
+  charges -> refused: ...
   edit payment 1, check 5
 then
   SELECT IdBuilding, IdMortgage, CheckNum, Amount FROM Transactions -> 202|201|5|599.5505

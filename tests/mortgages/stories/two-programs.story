@@ -71,6 +71,12 @@ when
   submit mine
 then
   SELECT Count(*), Sum(Total) FROM MortgageLog WHERE Flags = 2 -> 1|-1699.101
+when
+  DELETE * FROM MortgageLog WHERE Flags = 2
+  read again mine
+  submit mine
+then
+  SELECT Count(*), Sum(Total) FROM MortgageLog WHERE Flags = 2 -> 1|-1699.101
 # A payment that was deleted in the meantime isn't brought back.
 given
   run to 02/20/2024

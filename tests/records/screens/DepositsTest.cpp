@@ -150,10 +150,5 @@ TEST_F(DepositsTest, TheListAddsOpensAndDeletes) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM Deposit"), "0");
 }
 
-TEST_F(DepositsTest, LooksAndReadsRight) {
-    const auto form = Open(0, DepositScope::Building);
-    EXPECT_EQ(LookFaults(*form, "frmDeposit"), Said{});
-}
-
 } // namespace
 } // namespace support
