@@ -52,16 +52,17 @@ void StoreLastRun(std::int32_t idAutoEvent, Date date) {
 
 } // namespace
 
-std::int32_t RunAutoEvent(std::int32_t idAutoEvent, Date date) {
+std::int32_t RunAutoEvent(std::int32_t idAutoEvent, Date date, EventPosts posts) {
     if (!date.IsSet()) date = platform::Today();
     platform::UnitOfWork unit(core::App().Connection);
     Recordset event = core::Read("SELECT * FROM AutoEvent WHERE IdAutoEvent = ?", {idAutoEvent});
     if (event.Eof()) return 0;
 
-    const bool posts =
+    const bool hasTransaction =
         EventAction{CountOf(event["EventAction"])} == EventAction::ProcessTransaction;
-    const std::int32_t idTransaction =
-        posts ? PostTransaction(PostingOf(event, date), Triggers::Skip) : 0;
+    const std::int32_t idTransaction = hasTransaction && posts == EventPosts::Yes
+                                           ? PostTransaction(PostingOf(event, date), Triggers::Skip)
+                                           : 0;
     if (FlagOf(event["Alert"])) {
         core::AddAlert(fmt::format("Auto Event Launched: {} [{}]", TextOf(event["Description"]),
                                    date.ToText()),
@@ -70,10 +71,6 @@ std::int32_t RunAutoEvent(std::int32_t idAutoEvent, Date date) {
     StoreLastRun(idAutoEvent, date);
     unit.Commit();
     return idTransaction;
-}
-
-void SkipAutoEvent(std::int32_t idAutoEvent, Date date) {
-    StoreLastRun(idAutoEvent, date);
 }
 
 } // namespace books

@@ -46,8 +46,7 @@ core::RunReason ReasonOf(const EventSchedule& schedule, Date due) {
     return {.posting = core::Posting::EventTransaction,
             .due = due,
             .number = schedule.period,
-            .every = neverRan ? core::Every::NeverRan
-                              : core::Every{static_cast<std::int16_t>(schedule.interval)}};
+            .every = neverRan ? std::nullopt : std::optional(schedule.interval)};
 }
 
 std::string DescriptionOf(Recordset& event) {
@@ -73,11 +72,10 @@ std::optional<EventOutcome> RunIfDue(Recordset& event) {
     outcome.id = event["IdAutoEvent"].AsLong();
     outcome.description = DescriptionOf(event);
     outcome.category = TextOf(event["TaxCategory"]);
-    if (core::TakenBack(core::kAutoEvent, outcome.id).Has(core::Posting::EventTransaction, *due)) {
-        SkipAutoEvent(outcome.id, *due);
-        return outcome;
-    }
-    const std::int32_t idTransaction = RunAutoEvent(outcome.id, *due);
+    const bool isTakenBack =
+        core::TakenBack(core::kAutoEvent, outcome.id).Has(core::Posting::EventTransaction, *due);
+    const std::int32_t idTransaction =
+        RunAutoEvent(outcome.id, *due, isTakenBack ? EventPosts::No : EventPosts::Yes);
     if (idTransaction != 0) {
         outcome.posted = {
             *due, {}, MoneyOf(event["Amount"]), ReasonOf(ScheduleOf(event), *due), idTransaction};

@@ -24,6 +24,9 @@ enum class TransactionClass : std::int16_t {
 /// The flags of a transaction that refunds a deposit, or charges something against it.
 enum class DepositFlags : std::int16_t { Refund = 3, Charge = 4 };
 
+/// The unit of an automated event's interval.
+enum class IntervalType : std::int16_t { Day = 1, Week = 2, Month = 3, DayOfMonth = 4, Year = 5 };
+
 /// The ledger whose charges a payment settles.
 enum class Ledger { None, Rent, Mortgage };
 

@@ -31,23 +31,22 @@ std::string Interval(std::int32_t count, std::string_view unit) {
 }
 
 std::string EventText(const RunReason& reason) {
+    if (!reason.every) return "The first run of the event, which had never run before";
     std::string when;
-    switch (reason.every) {
-        case Every::NeverRan:
-            return "The first run of the event, which had never run before";
-        case Every::Day:
+    switch (*reason.every) {
+        case IntervalType::Day:
             when = Interval(reason.number, "day");
             break;
-        case Every::Week:
+        case IntervalType::Week:
             when = Interval(reason.number, "week");
             break;
-        case Every::Month:
+        case IntervalType::Month:
             when = Interval(reason.number, "month");
             break;
-        case Every::DayOfMonth:
+        case IntervalType::DayOfMonth:
             when = fmt::format("on day {} of each month", reason.number);
             break;
-        case Every::Year:
+        case IntervalType::Year:
             when = Interval(reason.number, "year");
             break;
     }
@@ -57,6 +56,7 @@ std::string EventText(const RunReason& reason) {
 } // namespace
 
 std::string ReasonText(const RunReason& reason) {
+    if (!reason.due.IsSet()) return {};
     const std::string due = reason.due.ToText();
     switch (reason.posting) {
         case Posting::Unknown:

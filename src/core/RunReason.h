@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
+#include "core/Codes.h"
 #include "platform/values/Date.h"
 
 namespace core {
@@ -23,9 +25,6 @@ enum class Posting : std::int16_t {
     EventTransaction = 11,
 };
 
-/// The interval of an event, as its record stores it; 0 for an event that never ran before.
-enum class Every : std::int16_t { NeverRan = 0, Day, Week, Month, DayOfMonth, Year };
-
 /// Why the run posted a row: its kind, and the figures that its day follows from.
 struct RunReason {
     Posting posting = Posting::Unknown;
@@ -35,12 +34,14 @@ struct RunReason {
     /// fees of a loan), the number of the loan's payment, or how many intervals lie between two
     /// runs of an event.
     std::int32_t number = 0;
-    Every every = Every::NeverRan;
+    /// The unit of an event's interval; unset if the event had never run before.
+    std::optional<IntervalType> every{};
 
     friend bool operator==(const RunReason&, const RunReason&) = default;
 };
 
-/// Returns the reason in words: "Rent due 11/01/2026, unpaid for 5 days: the lease's one-time fee".
+/// Returns the reason in words: "Rent due 11/01/2026, unpaid for 5 days: the lease's one-time fee";
+/// empty if its due date isn't known.
 std::string ReasonText(const RunReason& reason);
 
 } // namespace core

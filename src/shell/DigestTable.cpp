@@ -34,7 +34,7 @@ Value FaultValue(const DigestFault& fault, std::size_t column) {
 
 } // namespace
 
-DigestTable::DigestTable(const RunDigest& digest, std::vector<core::TakenRow> takenBack)
+DigestTable::DigestTable(const RunDigest& digest, std::shared_ptr<const TakenRows> takenBack)
     : digest_(digest),
       takenBack_(std::move(takenBack)),
       columns_({MakeColumn("No.", FieldType::Long), MakeColumn("Day", FieldType::Date),
@@ -76,10 +76,12 @@ std::optional<RecordPlace> DigestTable::RecordOf(std::int32_t number) const {
 }
 
 platform::Date DigestTable::TakenOn(const DigestRow& row) const {
+    if (!takenBack_) return {};
     const core::TakenRow wanted = TakenRowOf(row);
-    const auto found = std::ranges::find_if(
-        takenBack_, [&](const core::TakenRow& taken) { return taken.IsSameRow(wanted); });
-    return found == takenBack_.end() ? platform::Date() : found->takenOn;
+    const auto [first, end] = takenBack_->equal_range(row.rowId);
+    const auto found =
+        std::find_if(first, end, [&](const auto& taken) { return taken.second.IsSameRow(wanted); });
+    return found == end ? platform::Date() : found->second.takenOn;
 }
 
 Value DigestTable::PostedValue(const DigestRow& row, std::size_t column) const {

@@ -1,11 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 #include "core/Table.h"
-#include "core/TakenBack.h"
 #include "shell/RunDigest.h"
+#include "shell/TakenRows.h"
 
 namespace shell {
 
@@ -22,8 +23,9 @@ struct RecordPlace {
 /// table.
 class DigestTable : public core::Table {
   public:
-    /// `takenBack` are the rows that are shown as taken back.
-    explicit DigestTable(const RunDigest& digest, std::vector<core::TakenRow> takenBack = {});
+    /// `takenBack` are the rows that are shown as taken back; null for none.
+    explicit DigestTable(const RunDigest& digest,
+                         std::shared_ptr<const TakenRows> takenBack = nullptr);
 
     const std::vector<core::TableColumn>& Columns() const override { return columns_; }
     std::int64_t RowCount() const override;
@@ -43,7 +45,7 @@ class DigestTable : public core::Table {
     platform::Value PostedValue(const DigestRow& row, std::size_t column) const;
 
     const RunDigest& digest_;
-    std::vector<core::TakenRow> takenBack_;
+    std::shared_ptr<const TakenRows> takenBack_;
     std::vector<core::TableColumn> columns_;
 };
 

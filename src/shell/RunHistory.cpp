@@ -4,12 +4,15 @@
 
 #include <algorithm>
 #include <fstream>
+#include <optional>
 #include <utility>
 
 #include <fmt/core.h>
 #include <nlohmann/json.hpp>
 
 #include "core/Globals.h"
+#include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "platform/system/AppendToFile.h"
 #include "platform/system/Clock.h"
 #include "platform/values/Conversions.h"
@@ -39,7 +42,14 @@ Json RowAsJson(const core::PostedRow& row) {
             {"posting", static_cast<std::int16_t>(row.reason.posting)},
             {"due", row.reason.due.ToText()},
             {"number", row.reason.number},
-            {"every", static_cast<std::int16_t>(row.reason.every)}};
+            {"every", row.reason.every ? static_cast<std::int16_t>(*row.reason.every) : 0}};
+}
+
+/// 0 stands for an event that had never run before.
+std::optional<core::IntervalType> IntervalFrom(const Json& number) {
+    const auto type = number.get<std::int16_t>();
+    if (type == 0) return std::nullopt;
+    return core::IntervalType{type};
 }
 
 Date DateFrom(const Json& text) {
@@ -55,7 +65,7 @@ core::PostedRow RowFrom(const Json& row) {
         .reason = core::RunReason{.posting = core::Posting{row.at("posting").get<std::int16_t>()},
                                   .due = DateFrom(row.at("due")),
                                   .number = row.at("number").get<std::int32_t>(),
-                                  .every = core::Every{row.at("every").get<std::int16_t>()}},
+                                  .every = IntervalFrom(row.at("every"))},
         .id = row.at("row").get<std::int32_t>()};
 }
 
@@ -73,10 +83,46 @@ void AddRecord(RunDigest& digest, const Json& line) {
     digest.Posted(kind, id, name, rows);
 }
 
+/// Returns the day that the run of a line brought the books to, without reading the rest of the
+/// line; unset if it can't be read.
+Date DayOf(std::string_view line) {
+    constexpr std::string_view kMark = R"("to":")";
+    constexpr std::size_t kHead = 200; // before anything that the user has named
+    constexpr std::size_t kDayLength = 10;
+    const std::size_t at = line.substr(0, kHead).find(kMark);
+    if (at == std::string_view::npos) return {};
+    return Date::TryParse(std::string(line.substr(at + kMark.size(), kDayLength))).value_or(Date());
+}
+
+/// The books may be used together with others, who read and write this file too.
+std::filesystem::perms PermissionsOfBooks() {
+    std::error_code failure;
+    const auto status = std::filesystem::status(core::App().Connection.File(), failure);
+    using std::filesystem::perms;
+    return failure ? perms::owner_read | perms::owner_write : status.permissions();
+}
+
+/// Runs are written in the order of their days, so that the first line tells whether there is
+/// anything to drop.
+void DropOldRuns(const std::filesystem::path& file) {
+    const Date oldest =
+        platform::DateAdd(platform::Interval::Year, -kYearsOfHistory, platform::Today());
+    std::ifstream lines(file);
+    std::string first;
+    if (!std::getline(lines, first) || DayOf(first) >= oldest) return;
+    platform::KeepLines(file, [&](std::string_view line) { return DayOf(line) >= oldest; });
+}
+
 /// Collects the lines of each run, which other programs may have mixed with theirs.
 class Reader {
   public:
+    explicit Reader(Date since) : since_(since) {}
+
     void Read(const std::string& text) {
+        if (since_.IsSet() && DayOf(text) < since_) {
+            page_.hasEarlier = true;
+            return;
+        }
         const Json line = Json::parse(text, nullptr, false);
         if (!line.is_object()) return;
         try {
@@ -86,29 +132,27 @@ class Reader {
         }
     }
 
-    std::vector<PastRun> Take() {
-        std::ranges::reverse(runs_);
-        std::erase_if(runs_, [](const PastRun& run) {
+    RunPage Take() {
+        std::ranges::reverse(page_.runs);
+        std::erase_if(page_.runs, [](const PastRun& run) {
             return run.digest.Rows().empty() && run.digest.Faults().empty();
         });
-        return std::move(runs_);
+        return std::move(page_);
     }
 
   private:
     PastRun& RunOf(const Json& line) {
         auto name = line.at("run").get<std::string>();
-        const auto found = std::find(names_.rbegin(), names_.rend(), name);
-        if (found != names_.rend()) {
-            const auto place = std::distance(found, names_.rend()) - 1;
-            return runs_[static_cast<std::size_t>(place)];
-        }
-        PastRun run{.at = line.at("at").get<std::string>(), .day = DateFrom(line.at("to"))};
-        names_.push_back(std::move(name));
-        return runs_.emplace_back(std::move(run));
+        const auto found = std::find_if(page_.runs.rbegin(), page_.runs.rend(),
+                                        [&](const PastRun& run) { return run.name == name; });
+        if (found != page_.runs.rend()) return *found;
+        return page_.runs.emplace_back(PastRun{.name = std::move(name),
+                                               .at = line.at("at").get<std::string>(),
+                                               .day = DateFrom(line.at("to"))});
     }
 
-    std::vector<PastRun> runs_;
-    std::vector<std::string> names_; ///< of the same runs
+    Date since_;
+    RunPage page_;
 };
 
 } // namespace
@@ -128,17 +172,21 @@ std::string PastRun::Days() const {
     return fmt::format("{} to {}", first.ToText(), day.ToText());
 }
 
-std::vector<PastRun> ReadHistory(const std::filesystem::path& file) {
+RunPage ReadHistory(const std::filesystem::path& file, Date since) {
     std::error_code failure;
     if (!std::filesystem::exists(file, failure)) return {};
     std::ifstream lines(file);
     if (!lines)
         throw platform::Error(
             fmt::format("The history of runs, {}, can't be read.", file.string()));
-    Reader reader;
+    Reader reader(since);
     for (std::string line; std::getline(lines, line);)
         reader.Read(line);
     return reader.Take();
+}
+
+std::vector<PastRun> ReadHistory(const std::filesystem::path& file) {
+    return ReadHistory(file, Date()).runs;
 }
 
 RunRecorder::RunRecorder(std::filesystem::path file, core::RunListener& next)
@@ -175,7 +223,8 @@ void RunRecorder::Failed(int recordKind, std::int32_t id, std::string_view descr
 void RunRecorder::Append(const std::string& line) {
     if (file_.empty() || !fault_.empty()) return;
     try {
-        platform::AppendLine(file_, line);
+        if (!std::exchange(hasWritten_, true)) DropOldRuns(file_);
+        platform::AppendLine(file_, line, PermissionsOfBooks());
     } catch (const platform::Error& failure) {
         fault_ = failure.what();
     }
@@ -183,8 +232,11 @@ void RunRecorder::Append(const std::string& line) {
 
 void RunAndRecord(RunDigest& digest) {
     RunRecorder recorder(HistoryFile(core::App().Connection), digest);
+    const auto before = digest.Rows().size() + digest.Faults().size();
     core::UpdateRecords(recorder);
     if (!recorder.Fault().empty()) digest.SetHistoryFault(recorder.Fault());
+    if (digest.Rows().size() + digest.Faults().size() != before)
+        core::NotifyAll(core::kNone, core::kRecordsChanged, 0);
 }
 
 } // namespace shell

@@ -10,8 +10,11 @@
 namespace shell {
 
 // The runs that posted rows or skipped records are kept in a text file beside the books, a line of
-// JSON for each record. The books themselves know nothing of it: without the file, or with
-// another's, they are the same.
+// JSON for each record, with the permissions of the books. The books themselves know nothing of it:
+// without the file, or with another's, they are the same.
+
+/// Runs to a day more than so many years ago are dropped when a later one is written.
+inline constexpr int kYearsOfHistory = 7;
 
 /// Returns the file for books of this file name; an empty path, which keeps no history, for an
 /// empty one.
@@ -21,6 +24,8 @@ std::filesystem::path HistoryFile(const platform::Connection& books);
 
 /// A run of the past.
 struct PastRun {
+    /// Tells apart the runs of a history.
+    std::string name{};
     /// "11/22/2026 10:36:05".
     std::string at;
     /// The day that the books were brought to.
@@ -31,11 +36,21 @@ struct PastRun {
     std::string Days() const;
 };
 
-/// Returns the runs of a history, the last one first; none if there is no file. Lines that can't be
-/// read are skipped. Throws Error if the file can't be opened.
+/// Runs of a history, the last one first.
+struct RunPage {
+    std::vector<PastRun> runs;
+    /// Whether there are runs from before the days that were asked for.
+    bool hasEarlier = false;
+};
+
+/// Reads the runs to `since` and later days, or all of them if it is unset; none if there is no
+/// file. Lines that can't be read are skipped. Throws Error if the file can't be opened.
+RunPage ReadHistory(const std::filesystem::path& file, platform::Date since);
+/// Returns all runs.
 std::vector<PastRun> ReadHistory(const std::filesystem::path& file);
 
-/// Writes the run that it listens to into the history, and passes on what it hears.
+/// Writes the run that it listens to into the history, and passes on what it hears. The books are
+/// those of the session.
 class RunRecorder : public core::RunListener {
   public:
     /// The run begins now. `next` must outlive the recorder.
@@ -57,9 +72,11 @@ class RunRecorder : public core::RunListener {
     std::string at_;
     std::string run_; ///< tells apart runs of the same second
     std::string fault_;
+    bool hasWritten_ = false;
 };
 
 /// Brings the books up to date, and keeps the run in their history. Adds what happened to `digest`.
+/// A run that posted rows or skipped records ends with a broadcast of kind core::kNone.
 void RunAndRecord(RunDigest& digest);
 
 } // namespace shell

@@ -46,7 +46,7 @@ Value RunTable::ValueAt(std::int64_t row, std::size_t column) const {
 }
 
 RunRowTable::RunRowTable(const std::vector<PastRun>& runs,
-                         const std::vector<core::TakenRow>& takenBack)
+                         const std::shared_ptr<const TakenRows>& takenBack)
     : runs_(runs),
       columns_({MakeColumn("Run", FieldType::Text), MakeColumn("RecordKind", FieldType::Integer),
                 MakeColumn("RecordId", FieldType::Long)}) {

@@ -29,7 +29,8 @@ class RunTable : public core::Table {
 /// runs must outlive the table.
 class RunRowTable : public core::Table {
   public:
-    RunRowTable(const std::vector<PastRun>& runs, const std::vector<core::TakenRow>& takenBack);
+    RunRowTable(const std::vector<PastRun>& runs,
+                const std::shared_ptr<const TakenRows>& takenBack);
 
     const std::vector<core::TableColumn>& Columns() const override { return columns_; }
     std::int64_t RowCount() const override { return std::ssize(places_); }

@@ -13,9 +13,11 @@ void AddRuns(CLI::App& line, const Options& options) {
         "runs", "What the runs of these books posted, each row with its reason, as CSV");
     command->callback([&options] {
         OpenDatabase(options, Purpose::Read);
-        const std::vector<shell::PastRun> runs =
+        std::vector<shell::PastRun> runs =
             shell::ReadHistory(shell::HistoryFile(core::App().Connection));
-        core::WriteCsv(shell::RunRowTable(runs, core::ReadTakenBack()), std::cout);
+        const auto taken = shell::ReadTakenRows();
+        if (auto earlier = shell::RunOfTakenRows(*taken, runs)) runs.push_back(std::move(*earlier));
+        core::WriteCsv(shell::RunRowTable(runs, taken), std::cout);
     });
 }
 

@@ -21,28 +21,10 @@ using tests::LineOf;
 using tests::TakingBack;
 using Lines = std::vector<std::string>;
 
-TEST_F(TakingBack, LeavesAYearAsItIsWithoutIt) {
-    const auto year = [&](bool keepsHistory) {
-        OpenFresh();
-        for (int month = 1; month <= 12; ++month) {
-            platform::SetToday(DateAdd(Interval::Month, month, kMade));
-            RunDigest digest;
-            if (keepsHistory) {
-                shell::RunAndRecord(digest);
-            } else {
-                core::UpdateRecords(digest);
-            }
-        }
-        EXPECT_EQ(fs::exists(shell::HistoryFile(App().Connection)), keepsHistory);
-        return support::Dump(App().Connection);
-    };
-    const Lines kept = year(true);
-    EXPECT_EQ(kept, year(false));
-    EXPECT_EQ(Ask("SELECT Count(*) FROM TakenBack"), "0");
-}
-
 TEST_F(TakingBack, KeepsTheHistoryOfRuns) {
     const fs::path file = shell::HistoryFile(App().Connection);
+    const auto shared = static_cast<fs::perms>(0664);
+    fs::permissions(App().Connection.File(), shared);
     EXPECT_THAT(shell::ReadHistory(file), IsEmpty());
     RunTo(kMade);
     EXPECT_FALSE(fs::exists(file)) << "nothing was posted";
@@ -50,7 +32,7 @@ TEST_F(TakingBack, KeepsTheHistoryOfRuns) {
     core::Execute(
         "UPDATE Lease SET DateNextDue = 'soon' WHERE IdLease = (SELECT Max(IdLease) FROM Lease)");
     const RunDigest second = RunTo(DateAdd(Interval::Month, 2, kMade));
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(fs::status(file).permissions(), shared) << "the permissions of the books";
 
     // The last line is cut off, as by a full disk; the next keeps to itself.
     fs::resize_file(file, fs::file_size(file) - 5);
@@ -85,6 +67,23 @@ TEST_F(TakingBack, KeepsTheHistoryOfRuns) {
               "\"Record\",\"Taken Back\"");
 }
 
+TEST_F(TakingBack, DropsRunsAfterSevenYears) {
+    const fs::path file = shell::HistoryFile(App().Connection);
+    RunTo(DateAdd(Interval::Month, 1, kMade));
+    RunTo(DateAdd(Interval::Month, 2, kMade));
+    core::Execute("UPDATE Lease SET Status = 'Expired'");
+    const auto runs = [&] { return shell::ReadHistory(file).size(); };
+    RunTo(DateAdd(Interval::Year, 7, Date(2026, 12, 21)));
+    EXPECT_EQ(runs(), 3U) << "to the day";
+    const Date later(2034, 1, 10);
+    RunTo(later);
+    EXPECT_EQ(runs(), 3U);
+    const shell::RunPage page = shell::ReadHistory(file, later);
+    EXPECT_EQ(page.runs.size(), 1U);
+    EXPECT_TRUE(page.hasEarlier);
+    EXPECT_FALSE(shell::ReadHistory(file, Date(2027, 1, 21)).hasEarlier);
+}
+
 TEST_F(TakingBack, RunsWithoutAHistoryThatCannotBeKept) {
     fs::create_directory(shell::HistoryFile(App().Connection));
     const RunDigest digest = RunTo(DateAdd(Interval::Month, 1, kMade));
@@ -97,7 +96,7 @@ TEST_F(TakingBack, HasAnExampleInTheSample) {
     const auto runs = shell::ReadHistory(shell::HistoryFileOf(books));
     ASSERT_EQ(runs.size(), 1U);
     App().Connection.Open(books);
-    const shell::DigestTable table(runs.front().digest, core::ReadTakenBack());
+    const shell::DigestTable table(runs.front().digest, shell::ReadTakenRows());
     const auto waived =
         std::ranges::count_if(runs.front().digest.Rows(),
                               [&](const DigestRow& row) { return table.TakenOn(row) == kMade; });
@@ -111,7 +110,7 @@ TEST(RunReasons, SayWhyARowWasPosted) {
         core::RunReason reason;
         const char* text;
     };
-    using core::Every;
+    using core::IntervalType;
     const Date due(2026, 11, 1);
     for (const Case& c :
          {Case{{}, ""}, Case{{Posting::Rent, due}, "Rent due 11/01/2026: the lease's rent"},
@@ -127,13 +126,13 @@ TEST(RunReasons, SayWhyARowWasPosted) {
                "Payment 14 of the loan, due 11/01/2026: principal and interest"},
           Case{{Posting::LoanLateFee, due, 15},
                "Payment of the loan due 11/01/2026, 15 days of grace: the mortgage's late fee"},
-          Case{{Posting::EventTransaction, due, 1, Every::Month},
+          Case{{Posting::EventTransaction, due, 1, IntervalType::Month},
                "Due 11/01/2026: the event runs every month"},
-          Case{{Posting::EventTransaction, due, 2, Every::Week},
+          Case{{Posting::EventTransaction, due, 2, IntervalType::Week},
                "Due 11/01/2026: the event runs every 2 weeks"},
-          Case{{Posting::EventTransaction, due, 1, Every::DayOfMonth},
+          Case{{Posting::EventTransaction, due, 1, IntervalType::DayOfMonth},
                "Due 11/01/2026: the event runs on day 1 of each month"},
-          Case{{Posting::EventTransaction, due, 1, Every::NeverRan},
+          Case{{Posting::EventTransaction, due, 1},
                "The first run of the event, which had never run before"}}) {
         EXPECT_EQ(core::ReasonText(c.reason), c.text);
     }

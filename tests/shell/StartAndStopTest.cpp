@@ -158,12 +158,14 @@ TEST(DigestTable, ListsWhatWasSkippedAndThenWhatWasPosted) {
                    {day, "Rent Subsidy ", amount, {core::Posting::Subsidy, day}, 9}});
     digest.Failed(2, 42, "Zu", "no date");
     digest.Failed(0, 0, "Leases", "no table");
-    const shell::DigestTable table(digest, {{.recordKind = 2,
-                                             .recordId = 41,
-                                             .posting = core::Posting::Subsidy,
-                                             .date = day,
-                                             .rowId = 9,
-                                             .takenOn = platform::Date(2026, 10, 5)}});
+    const core::TakenRow taken{.recordKind = 2,
+                               .recordId = 41,
+                               .posting = core::Posting::Subsidy,
+                               .date = day,
+                               .rowId = 9,
+                               .takenOn = platform::Date(2026, 10, 5)};
+    const shell::DigestTable table(
+        digest, std::make_shared<const shell::TakenRows>(shell::TakenRows{{taken.rowId, taken}}));
     std::ostringstream text;
     core::WriteCsv(table, text);
     EXPECT_EQ(text.str(), empty.str() +

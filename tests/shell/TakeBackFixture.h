@@ -54,6 +54,7 @@ class TakingBack : public CoreProcess {
         core::Execute("DELETE * FROM LeaseCredit");
         core::Execute(
             "UPDATE Lease SET OneTimeFee = 77, OneTimeDays = 5, DailyFee = 3, DailyDays = 50");
+        core::Execute("UPDATE AutoEvent SET Alert = True");
         core::Execute("UPDATE Mortgage SET LateFee = 45, GracePeriod = 15, PMI = 31.5");
     }
 

@@ -96,7 +96,8 @@ TEST_F(TakingBack, KeepsRowsOutOfEveryLaterRunOfAYear) {
                  {"SELECT IdLease, Status, RentStatus, DateUpdated, DateNextDue, DateRenewed FROM "
                   "Lease ORDER BY IdLease",
                   "SELECT * FROM Mortgage ORDER BY IdMortgage",
-                  "SELECT * FROM AutoEvent ORDER BY IdAutoEvent"}) {
+                  "SELECT * FROM AutoEvent ORDER BY IdAutoEvent",
+                  "SELECT EntryDate, Description FROM Alerts ORDER BY EntryDate, Description"}) {
                 for (std::string& line : Rows(sql))
                     end.records.push_back(std::move(line));
             }

@@ -1,7 +1,9 @@
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <system_error>
@@ -50,6 +52,37 @@ bool WriteAll(int file, std::string_view contents) {
     return true;
 }
 
+bool HasThisName(int descriptor, const fs::path& file) {
+    struct stat opened {};
+    struct stat named {};
+    return fstat(descriptor, &opened) == 0 && stat(file.c_str(), &named) == 0 &&
+           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+}
+
+int OpenOrMake(const fs::path& file, fs::perms mode) {
+    constexpr int kFlags = O_RDWR | O_APPEND | O_CLOEXEC;
+    const int found = open(file.c_str(), kFlags);
+    if (found >= 0 || errno != ENOENT) return found;
+    const int made = open(file.c_str(), kFlags | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+    if (made < 0) return errno == EEXIST ? open(file.c_str(), kFlags) : made;
+    constexpr auto kReadAndWrite = static_cast<mode_t>(0666);
+    fchmod(made, static_cast<mode_t>(mode) & kReadAndWrite);
+    return made;
+}
+
+/// Opens a file that several programs add lines to, and locks it where the file system can. It is
+/// opened again if another program has replaced it while this one waited.
+int OpenShared(const fs::path& file, int lock, fs::perms mode) {
+    for (;;) {
+        const int opened = OpenOrMake(file, mode);
+        if (opened < 0) return opened;
+        while (flock(opened, lock) != 0 && errno == EINTR) {
+        }
+        if (HasThisName(opened, file)) return opened;
+        close(opened);
+    }
+}
+
 // The file that a link points to, so that the link itself stays.
 fs::path Target(const fs::path& file) {
     std::error_code failure;
@@ -91,9 +124,8 @@ std::string ReadWholeFile(const fs::path& file) {
     }
 }
 
-void AppendLine(const fs::path& file, std::string_view line) {
-    const Descriptor out(
-        open(file.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
+void AppendLine(const fs::path& file, std::string_view line, fs::perms mode) {
+    const Descriptor out(OpenShared(file, LOCK_SH, mode));
     if (!out.IsOpen()) Fail("write", file, errno);
     struct stat before {};
     char last = '\n';
@@ -103,6 +135,21 @@ void AppendLine(const fs::path& file, std::string_view line) {
     std::string text = last == '\n' ? "" : "\n";
     text.append(line).append("\n");
     if (!WriteAll(out.Number(), text)) Fail("write", file, errno);
+}
+
+void KeepLines(const fs::path& file, const std::function<bool(std::string_view line)>& keeps) {
+    const Descriptor lock(
+        OpenShared(file, LOCK_EX, fs::perms::owner_read | fs::perms::owner_write));
+    if (!lock.IsOpen()) Fail("write", file, errno);
+    const std::string text = ReadWholeFile(file);
+    std::string kept;
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = std::min(text.find('\n', begin), text.size() - 1) + 1;
+        const std::string_view line(text.data() + begin, end - begin);
+        if (keeps(line)) kept += line;
+        begin = end;
+    }
+    if (kept.size() != text.size()) WriteFileAtomically(file, kept, fs::status(file).permissions());
 }
 
 } // namespace platform

@@ -1,11 +1,14 @@
 #include "shell/screens/frmPosted.h"
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <iterator>
 
 #include <fmt/core.h>
 
@@ -32,16 +35,26 @@ namespace {
 constexpr int kFirstShown = 1; // after the row number
 constexpr std::size_t kMostNamed = 10;
 
-/// The grid below its title, which has its mnemonic.
-QWidget* Titled(const QString& title, Grid& grid) {
+/// The grid below its title, which has its mnemonic, and what stands beside the title.
+QWidget* Titled(const QString& title, Grid& grid, QWidget* beside = nullptr) {
     auto* const part = new QWidget;
     auto* const rows = new QVBoxLayout(part);
     rows->setContentsMargins(0, 0, 0, 0);
     auto* const label = new QLabel(title, part);
     label->setBuddy(&grid);
-    rows->addWidget(label);
+    auto* const top = new QHBoxLayout;
+    top->addWidget(label, 1);
+    if (beside != nullptr) top->addWidget(beside);
+    rows->addLayout(top);
     rows->addWidget(&grid);
     return part;
+}
+
+std::pair<std::uintmax_t, std::filesystem::file_time_type> StateOf(
+    const std::filesystem::path& file) {
+    std::error_code missing;
+    return {std::filesystem::file_size(file, missing),
+            std::filesystem::last_write_time(file, missing)};
 }
 
 } // namespace
@@ -49,6 +62,7 @@ QWidget* Titled(const QString& title, Grid& grid) {
 frmPosted::frmPosted(QWidget* parent)
     : Form(parent),
       notice_(core::forms::MakeNotice(*this, QStringLiteral("lblHistoryFault"))),
+      earlier_(new QPushButton(tr("&Earlier Runs"), this)),
       runList_(new Grid(this)),
       list_(new Grid(this)),
       reason_(new QLabel(this)) {
@@ -74,7 +88,11 @@ void frmPosted::SetUpGrids(QVBoxLayout& rows) {
     list_->setObjectName(QStringLiteral("lvwPosted"));
     list_->setAccessibleName(tr("Rows of the run"));
     auto* const parts = new QSplitter(Qt::Vertical, this);
-    parts->addWidget(Titled(tr("&Runs:"), *runList_));
+    earlier_->setObjectName(QStringLiteral("cmdEarlier"));
+    earlier_->setToolTip(tr("Show the runs of more than a year ago too"));
+    earlier_->setAutoDefault(false);
+    connect(earlier_, &QPushButton::clicked, this, &frmPosted::ReadEarlierRuns);
+    parts->addWidget(Titled(tr("&Runs:"), *runList_, earlier_));
     parts->addWidget(Titled(tr("R&ows of the run:"), *list_));
     parts->setStretchFactor(0, 1);
     parts->setStretchFactor(1, 3);
@@ -82,9 +100,13 @@ void frmPosted::SetUpGrids(QVBoxLayout& rows) {
     rows.addWidget(parts, 1);
     for (Grid* const grid : {runList_, list_})
         core::grid::SetupGrid(*grid);
-    connect(runList_, &Grid::SelectionMoved, this, &frmPosted::ShowRun);
+    connect(runList_, &Grid::SelectionMoved, this, [this] {
+        if (!isLoading_) ShowRun();
+    });
     connect(runList_, &Grid::RowChosen, this, [this] { list_->setFocus(Qt::OtherFocusReason); });
-    connect(list_, &Grid::SelectionMoved, this, &frmPosted::ShowSelected);
+    connect(list_, &Grid::SelectionMoved, this, [this] {
+        if (!isLoading_) ShowSelected();
+    });
     connect(list_, &Grid::RowChosen, this, &frmPosted::OpenRow);
 }
 
@@ -114,67 +136,140 @@ void frmPosted::SetUpButtons(QVBoxLayout& rows) {
 }
 
 void frmPosted::Setup(const RunDigest& digest) {
-    core::forms::Guarded([this] { runs_ = ReadHistory(HistoryFile(core::App().Connection)); });
     if (!digest.HistoryFault().empty()) {
-        runs_.insert(
-            runs_.begin(),
-            {.at = "Since the program was started", .day = platform::Today(), .digest = digest});
+        unkept_ = {
+            .at = "Since the program was started", .day = platform::Today(), .digest = digest};
         notice_->setText(
             tr("The history of runs can't be kept: %1").arg(ToScreen(digest.HistoryFault())));
     }
-    notice_->setVisible(!digest.HistoryFault().empty());
-    ShowRuns();
+    notice_->setVisible(unkept_.has_value());
+    since_ = platform::DateAdd(platform::Interval::Year, -1, platform::Today());
+    core::forms::Guarded([this] { takenBack_ = ReadTakenRows(); });
+    core::forms::Guarded([this] { ReadRuns(); });
+    ShowRuns({});
+    ShowRun();
     Open();
     list_->setFocus(Qt::OtherFocusReason);
 }
 
-void frmPosted::ShowRuns() {
+void frmPosted::ReadRuns() {
+    const std::filesystem::path file = HistoryFile(core::App().Connection);
+    read_ = StateOf(file);
+    runs_.clear();
+    if (unkept_) runs_.push_back(*unkept_);
+    RunPage page = ReadHistory(file, since_);
+    if (page.runs.empty() && page.hasEarlier) {
+        since_ = {};
+        page = ReadHistory(file, since_);
+    }
+    std::ranges::move(page.runs, std::back_inserter(runs_));
+    earlier_->setVisible(page.hasEarlier);
+    if (page.hasEarlier) return;
+    if (auto taken = RunOfTakenRows(*ReadTakenRows(), runs_)) runs_.push_back(std::move(*taken));
+}
+
+void frmPosted::ReadEarlierRuns() {
+    since_ = {};
+    ReadAgain();
+    runList_->setFocus(Qt::OtherFocusReason);
+}
+
+void frmPosted::ShowRuns(const std::string& selected) {
+    const QScopedValueRollback loading(isLoading_, true);
     if (!runs_.empty()) list_->SetEmptyText(tr("Choose a run to see its rows."));
     core::grid::LoadGrid(*runList_, std::make_unique<RunTable>(runs_));
     core::grid::AutoSizeGrid(*runList_, kFirstShown, core::grid::Sizing::FillGrid);
-    runList_->SelectId(1);
-    ShowRun();
+    const auto found = std::ranges::find(runs_, selected, &PastRun::name);
+    const auto place = found == runs_.end() ? 0 : std::distance(runs_.begin(), found);
+    runList_->SelectId(static_cast<std::int32_t>(place) + 1);
 }
 
-const RunDigest* frmPosted::ShownDigest() const {
+const PastRun* frmPosted::ShownRun() const {
     const std::int32_t number = runList_->SelectedId();
     if (number < 1 || number > std::ssize(runs_)) return nullptr;
-    return &runs_[static_cast<std::size_t>(number - 1)].digest;
+    return &runs_[static_cast<std::size_t>(number - 1)];
+}
+
+const RunDigest& frmPosted::ShownDigest() const {
+    static const RunDigest nothing;
+    const PastRun* const run = ShownRun();
+    return run == nullptr ? nothing : run->digest;
 }
 
 void frmPosted::ShowRun() {
-    Reload();
-    list_->SelectId(1);
-    ShowSelected();
+    ShowRows({1});
 }
 
-void frmPosted::Reload() {
-    static const RunDigest nothing;
-    core::forms::Guarded([this] { takenBack_ = core::ReadTakenBack(); });
-    const RunDigest* const digest = ShownDigest();
-    core::grid::LoadGrid(
-        *list_, std::make_unique<DigestTable>(digest != nullptr ? *digest : nothing, takenBack_));
-    core::grid::AutoSizeGrid(*list_, kFirstShown, core::grid::Sizing::FitGrid);
+void frmPosted::ShowRows(const std::vector<std::int32_t>& selected) {
+    {
+        const QScopedValueRollback loading(isLoading_, true);
+        core::grid::LoadGrid(*list_, std::make_unique<DigestTable>(ShownDigest(), takenBack_));
+        core::grid::AutoSizeGrid(*list_, kFirstShown, core::grid::Sizing::FitGrid);
+        if (!selected.empty()) list_->SelectId(selected.front());
+        for (const std::int32_t number : selected) {
+            list_->selectionModel()->select(
+                list_->Model().index(number - 1, kFirstShown),
+                QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        }
+    }
+    ShowSelected();
 }
 
 void frmPosted::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
     const bool isLedger =
         kind == core::kRentLog || kind == core::kMortgageLog || kind == core::kTransaction;
     if (isLedger) Refresh();
+    // A run ends with a broadcast of no kind.
+    if (kind == core::kNone) FollowHistory();
+}
+
+/// Another program doesn't broadcast, so its runs are looked up when the window is activated.
+void frmPosted::changeEvent(QEvent* event) {
+    Form::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || IsBusy()) return;
+    try {
+        FollowHistory();
+    } catch (const std::exception&) {
+        // A message would activate the window again. The next command reports the failure.
+    }
 }
 
 void frmPosted::Refresh() {
-    const std::int32_t selected = list_->SelectedId();
-    Reload();
-    list_->SelectId(selected);
-    ShowSelected();
+    takenBack_ = ReadTakenRows();
+    ShowRows(list_->SelectedIds());
+}
+
+void frmPosted::FollowHistory() {
+    const bool isSame = read_ == StateOf(HistoryFile(core::App().Connection));
+    if (!isSame) ReadAgain();
+    Refresh();
+}
+
+void frmPosted::ReadAgain() {
+    const std::string run = ShownRun() == nullptr ? std::string() : ShownRun()->name;
+    // The records that were skipped come before the rows, and a run that goes on may add some.
+    const auto skipped = std::ssize(ShownDigest().Faults());
+    std::vector<std::int32_t> selected = list_->SelectedIds();
+    {
+        // The lists refer to the runs that are replaced.
+        const QScopedValueRollback loading(isLoading_, true);
+        static const std::vector<PastRun> noRuns;
+        static const RunDigest nothing;
+        core::grid::LoadGrid(*runList_, std::make_unique<RunTable>(noRuns));
+        core::grid::LoadGrid(*list_, std::make_unique<DigestTable>(nothing));
+    }
+    core::forms::Guarded([this] { ReadRuns(); });
+    ShowRuns(run);
+    for (std::int32_t& number : selected) {
+        if (number > skipped)
+            number += static_cast<std::int32_t>(std::ssize(ShownDigest().Faults()) - skipped);
+    }
+    ShowRows(selected);
 }
 
 std::vector<DigestRow> frmPosted::SelectedRows(Rows wanted) const {
     std::vector<DigestRow> rows;
-    const RunDigest* const digest = ShownDigest();
-    if (digest == nullptr) return rows;
-    const DigestTable table(*digest, takenBack_);
+    const DigestTable table(ShownDigest(), takenBack_);
     for (const std::int32_t number : list_->SelectedIds()) {
         const DigestRow* const row = table.PostedRow(number);
         if (row == nullptr) continue;
@@ -185,11 +280,10 @@ std::vector<DigestRow> frmPosted::SelectedRows(Rows wanted) const {
 
 void frmPosted::ShowSelected() {
     const bool isReadOnly = core::App().Connection.IsReadOnly();
-    const RunDigest* const digest = ShownDigest();
+    const DigestTable table(ShownDigest());
     const std::int32_t number = list_->SelectedId();
-    const bool hasRow = digest != nullptr && number > 0;
-    reason_->setText(hasRow ? ToScreen(DigestTable(*digest).ReasonOf(number)) : QString());
-    open_->setEnabled(hasRow && DigestTable(*digest).RecordOf(number).has_value());
+    reason_->setText(ToScreen(table.ReasonOf(number)));
+    open_->setEnabled(table.RecordOf(number).has_value());
     takeBack_->setEnabled(!isReadOnly && !SelectedRows(Rows::Posted).empty());
     postAgain_->setEnabled(!isReadOnly && !SelectedRows(Rows::TakenBack).empty());
 }
@@ -199,9 +293,7 @@ void frmPosted::OpenSelected() const {
 }
 
 void frmPosted::OpenRow(std::int32_t number) const {
-    const RunDigest* const digest = ShownDigest();
-    if (digest == nullptr) return;
-    const auto record = DigestTable(*digest).RecordOf(number);
+    const auto record = DigestTable(ShownDigest()).RecordOf(number);
     if (!record) return;
     core::forms::Guarded([&] { core::EditRecord(record->kind, record->id); });
 }
@@ -210,7 +302,7 @@ bool frmPosted::Agreed(const std::vector<DigestRow>& rows) const {
     std::string text = rows.size() == 1 ? "Take this row back on purpose?\n"
                                         : "Take these rows back on purpose?\n";
     for (std::size_t i = 0; i < std::min(rows.size(), kMostNamed); ++i)
-        text += "\n" + NameOfRow(*ShownDigest(), rows[i]);
+        text += "\n" + NameOfRow(ShownDigest(), rows[i]);
     if (rows.size() > kMostNamed) text += fmt::format("\nand {} more", rows.size() - kMostNamed);
     text += rows.size() == 1 ? "\n\nIt is deleted, and no later run posts it again."
                              : "\n\nThey are deleted, and no later run posts them again.";
@@ -223,7 +315,7 @@ void frmPosted::TakeBackSelected() {
         if (!rows.empty() && Agreed(rows)) TakeBack(rows);
     });
     // Another program may have been first.
-    if (!done) Refresh();
+    if (!done) core::forms::Guarded([this] { Refresh(); });
 }
 
 void frmPosted::PostSelectedAgain() {
@@ -239,7 +331,7 @@ void frmPosted::PostSelectedAgain() {
                         deletedBefore),
             platform::Icon::Information);
     });
-    if (!done) Refresh();
+    if (!done) core::forms::Guarded([this] { Refresh(); });
 }
 
 } // namespace shell::screens

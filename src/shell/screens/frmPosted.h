@@ -1,5 +1,10 @@
 #pragma once
 
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "core/forms/Form.h"
@@ -30,18 +35,28 @@ class frmPosted : public core::forms::Form {
 
   protected:
     void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void SetUpGrids(QVBoxLayout& rows);
     void SetUpButtons(QVBoxLayout& rows);
-    void ShowRuns();
+    void ReadRuns();
+    void ReadEarlierRuns();
+    /// Shows the runs, and selects the one of this name, or the last one if it isn't there.
+    void ShowRuns(const std::string& selected);
     void ShowRun();
-    void Reload();
-    /// Reads the rows again, and keeps the selected one selected.
+    /// Shows the rows of the selected run, and selects some by their numbers.
+    void ShowRows(const std::vector<std::int32_t>& selected);
+    /// Reads what was taken back again, and keeps the selected rows selected.
     void Refresh();
+    /// The same, and shows runs that were posted in the meantime.
+    void FollowHistory();
+    void ReadAgain();
     /// Shows the selected row's reason, and enables the buttons that it has work for.
     void ShowSelected();
-    const RunDigest* ShownDigest() const;
+    const PastRun* ShownRun() const;
+    /// Returns one without rows if no run is selected.
+    const RunDigest& ShownDigest() const;
     void OpenRow(std::int32_t number) const;
     void OpenSelected() const;
 
@@ -53,8 +68,16 @@ class frmPosted : public core::forms::Form {
     void PostSelectedAgain();
 
     std::vector<PastRun> runs_;
-    std::vector<core::TakenRow> takenBack_;
+    /// The run that the history doesn't have, if there is one.
+    std::optional<PastRun> unkept_;
+    /// The first day of the runs that are shown; unset for all.
+    platform::Date since_;
+    /// The size and the time of the history when it was read.
+    std::pair<std::uintmax_t, std::filesystem::file_time_type> read_;
+    bool isLoading_ = false;
+    std::shared_ptr<const TakenRows> takenBack_;
     QLabel* notice_;
+    QPushButton* earlier_;
     core::grid::Grid* runList_;
     core::grid::Grid* list_;
     QLabel* reason_; ///< of the selected row, in full

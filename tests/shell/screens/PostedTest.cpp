@@ -156,9 +156,54 @@ TEST_F(Posted, TakesARowBackAndPostsItAgain) {
     EXPECT_EQ(Ask("SELECT Count(*) FROM TakenBack"), "1") << "the sample's own";
 }
 
+TEST_F(Posted, FollowsRunsWhileItIsOpenAndKeepsTheSelection) {
+    Runs().SelectId(2);
+    const int rent = Select("|Rent|");
+    const std::string line = Line(rent);
+    const auto expect = [&](int run) {
+        EXPECT_EQ(Runs().SelectedId(), run);
+        EXPECT_EQ(Rows().SelectedId(), rent);
+        EXPECT_EQ(Line(rent), line);
+        EXPECT_TRUE(Button("cmdTakeBack").isEnabled());
+    };
+    RunTo(Date(2027, 3, 1));
+    expect(3);
+    // Another program doesn't broadcast.
+    shell::RunDigest digest;
+    shell::RunRecorder other(shell::HistoryFile(core::App().Connection), digest);
+    other.Failed(core::kLease, 7, "Smith", "no date");
+    expect(3);
+    QEvent activated(QEvent::ActivationChange);
+    QApplication::sendEvent(&Form(), &activated);
+    expect(4);
+    EXPECT_THAT(support::GridText(Runs()), HasSubstr("\n03/01/2027 "));
+    Rows().selectAll();
+    const auto all = Rows().SelectedIds();
+    QApplication::sendEvent(&Form(), &activated);
+    EXPECT_EQ(Rows().SelectedIds(), all);
+
+    EXPECT_FALSE(Button("cmdEarlier").isVisible());
+    Form().close();
+    support::SettleEvents();
+    RunTo(Date(2027, 12, 31));
+    EXPECT_EQ(Runs().Model().rowCount(), 4) << "of the last twelve months";
+    Button("cmdEarlier").click();
+    EXPECT_EQ(Runs().Model().rowCount(), 5);
+    EXPECT_FALSE(Button("cmdEarlier").isVisible());
+}
+
 TEST_F(Posted, SaysThatThereIsNothingToShow) {
     const auto history = shell::HistoryFile(core::App().Connection);
     std::filesystem::remove(history);
+    // As in restored books: what was taken back can be posted again without the history.
+    EXPECT_THAT(support::GridText(Runs()), HasSubstr("\nTaken back, of earlier runs|"));
+    EXPECT_THAT(Line(1), testing::MatchesRegex("[0-9/]+.Late Fee..[0-9.]+.[^|]+.11/21/2026"));
+    Button("cmdPostAgain").click();
+    EXPECT_THAT(Line(1), testing::EndsWith("|"));
+    EXPECT_EQ(Ask("SELECT Count(*) FROM TakenBack"), "0");
+    Form().close();
+    support::SettleEvents();
+
     EXPECT_EQ(platform::qt::FromScreen(Runs().EmptyText()), "No run has posted anything yet.");
     EXPECT_EQ(Runs().Model().rowCount(), 0);
     for (const char* const button : {"cmdOpen", "cmdTakeBack", "cmdPostAgain"})
