@@ -1,4 +1,7 @@
+#include <limits>
+#include <map>
 #include <memory>
+#include <utility>
 
 #include <fmt/core.h>
 
@@ -8,6 +11,7 @@
 #include "core/Rows.h"
 #include "exchange/ImportCheck.h"
 #include "exchange/KeepCopy.h"
+#include "exchange/KnownRows.h"
 #include "exchange/Port.h"
 #include "exchange/PortFile.h"
 #include "platform/database/Connection.h"
@@ -30,7 +34,7 @@ platform::Error FileChanged() {
     return platform::Error("the file was changed while it was read.");
 }
 
-/// Adds the records of a checked file to the database.
+/// Adds the records of a checked file to the database, and counts those that it has already.
 class Importer {
   public:
     Importer(ImportRows rows, const ImportCheck& check, const PortWatcher& watcher)
@@ -45,6 +49,7 @@ class Importer {
             case PortMarker::Fields:
                 writer_ = std::make_unique<platform::RowWriter>(core::App().Connection, table_,
                                                                 names_ = TextsOf(reader.Items()));
+                if (known_ != nullptr) known_->SetFields(names_);
                 break;
             case PortMarker::Record:
                 if (!writer_ || reader.Items().size() != names_.size()) throw FileChanged();
@@ -56,6 +61,7 @@ class Importer {
     }
 
     std::int64_t Records() const { return records_; }
+    std::int64_t Known() const { return knownRecords_; }
 
   private:
     void OpenTable(std::string_view name) {
@@ -64,10 +70,18 @@ class Importer {
         const bool isConfiguration = platform::EqualIgnoringCase(table_, kConfigurationTable);
         if (isConfiguration || rows_ == ImportRows::Overwrite) {
             core::Execute("DELETE * FROM " + platform::dialect::QuoteName(table_));
+            known_ = nullptr;
+            return;
         }
+        // As the table was before the import, even if the file begins it a second time.
+        const std::string key = platform::ToLower(table_);
+        const auto* const table = core::App().Connection.Tables().Find(table_);
+        if (table == nullptr) throw FileChanged();
+        known_ = &tables_.try_emplace(key, *table).first->second;
     }
 
     void WriteRecord(const std::vector<PortItem>& items) {
+        if (known_ != nullptr && known_->Has(items)) ++knownRecords_;
         cells_.resize(items.size());
         scratch_.resize(std::max(scratch_.size(), items.size()));
         for (std::size_t i = 0; i < items.size(); ++i)
@@ -94,17 +108,35 @@ class Importer {
     std::unique_ptr<platform::RowWriter> writer_;
     std::vector<platform::Cell> cells_;
     std::vector<std::string> scratch_;
+    std::map<std::string, KnownRows> tables_; ///< by their names in small letters
+    KnownRows* known_ = nullptr;              ///< of the current table; null if it was emptied
     std::int64_t records_ = 0;
+    std::int64_t knownRecords_ = 0;
 };
 
-/// Writes all records, or those before the first one that can't be written.
-ImportOutcome WriteRecords(const std::filesystem::path& file, ImportRows rows,
-                           const ImportCheck& check, const PortWatcher& watcher) {
+/// How an import is to be written.
+struct WriteOrder {
+    const std::filesystem::path& file;
+    ImportRows rows;
+    const ImportCheck& check;
+    /// How many records may be in the database already.
+    std::int64_t mayBeKnown;
+};
+
+/// Writes all records, or those before the first one that can't be written; none if more of them
+/// are in the database already than may be. A copy of the database is kept before any table is
+/// emptied, which `note` then says.
+ImportOutcome WriteRecords(const WriteOrder& order, const PortWatcher& watcher, std::string& note) {
     ImportOutcome outcome;
     platform::UnitOfWork unit(core::App().Connection);
-    PortReader reader(file, check.letters);
+    if (order.rows == ImportRows::Overwrite || order.check.hasConfiguration) {
+        // Inside the unit, so that another program's last rows are in the copy.
+        note += fmt::format("The database as it was is kept in {}\n",
+                            KeepCopy(CopyReason::Import).string());
+    }
+    PortReader reader(order.file, order.check.letters);
     {
-        Importer importer(rows, check, watcher);
+        Importer importer(order.rows, order.check, watcher);
         try {
             while (reader.NextLine())
                 importer.WriteLine(reader);
@@ -112,14 +144,16 @@ ImportOutcome WriteRecords(const std::filesystem::path& file, ImportRows rows,
             outcome = {failure.what(), reader.Number()};
         }
         outcome.written = importer.Records();
+        outcome.known = importer.Known();
     }
+    if (outcome.known > order.mayBeKnown) return outcome;
     try {
         unit.Commit();
     } catch (const platform::Error& failure) {
         // After some errors, such as a full disk, the engine has already rolled the unit back.
         if (outcome.Succeeded()) outcome.error = failure.what();
         outcome.error += " Nothing was imported.";
-        outcome.written = 0;
+        outcome.written = outcome.known = 0;
     }
     return outcome;
 }
@@ -165,6 +199,39 @@ std::string EndText(const ImportCheck& check, const std::string& note) {
                        check.tables, check.records, note);
 }
 
+constexpr std::string_view kDeclined = "the import was cancelled.";
+
+bool IsDeclined(const ImportOutcome& outcome) {
+    return outcome.error == kDeclined;
+}
+
+/// Asks whether to add what the database has already, and writes the records. Another program may
+/// add some of them while the user is asked: then nothing is written, and the question is put again
+/// with the new number.
+ImportOutcome AskAndWrite(const std::filesystem::path& file, ImportRows rows, ImportCheck check,
+                          const PortWatcher& watcher, std::string& note) {
+    if (core::App().Connection.IsReadOnly())
+        throw platform::DatabaseError("These books can only be read.");
+    std::int64_t agreed = watcher.addAgain ? 0 : std::numeric_limits<std::int64_t>::max();
+    for (;;) {
+        if (check.known > agreed) {
+            if (!watcher.addAgain(check.known, check.records))
+                return {.error = std::string(kDeclined)};
+            agreed = check.known;
+        }
+        std::string written;
+        ImportOutcome outcome = WriteRecords({file, rows, check, agreed}, watcher, written);
+        if (outcome.known > agreed) {
+            check = CheckImport(file, rows, watcher);
+            if (!check.outcome.Succeeded()) return check.outcome;
+            continue;
+        }
+        if (!outcome.Succeeded()) written = WrittenNote(outcome.written, rows) + written;
+        note = written + note;
+        return outcome;
+    }
+}
+
 } // namespace
 
 ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode, ImportRows rows,
@@ -179,24 +246,15 @@ ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode,
         watcher.Status(TestText(check, note));
         return outcome;
     }
-    if (outcome.Succeeded() && check.known > 0 && watcher.addAgain &&
-        !watcher.addAgain(check.known, check.records)) {
-        watcher.Status("Status: The import was cancelled. Nothing was imported.\n");
-        return {.error = "the import was cancelled."};
-    }
     if (outcome.Succeeded()) {
         try {
-            if (core::App().Connection.IsReadOnly()) {
-                throw platform::DatabaseError("These books can only be read.");
-            }
-            if (rows == ImportRows::Overwrite || check.hasConfiguration) {
-                note += fmt::format("The database as it was is kept in {}\n",
-                                    KeepCopy(CopyReason::Import).string());
-            }
-            outcome = WriteRecords(file, rows, check, watcher);
-            if (!outcome.Succeeded()) note = WrittenNote(outcome.written, rows) + note;
+            outcome = AskAndWrite(file, rows, check, watcher, note);
         } catch (const platform::Error& failure) {
             outcome.error = failure.what();
+        }
+        if (IsDeclined(outcome)) {
+            watcher.Status("Status: The import was cancelled. Nothing was imported.\n");
+            return outcome;
         }
         TellScreens();
     }

@@ -12,7 +12,28 @@ namespace exchange {
 
 namespace {
 
+struct TableKey {
+    std::string_view table;
+    std::vector<std::string> fields;
+};
+
+/// The tables whose first field isn't the id of their rows.
+const std::vector<TableKey>& OtherKeys() {
+    static const std::vector<TableKey> keys = {
+        {"Alerts", {"EntryDate", "Description"}},
+        {"BooksSetting", {"Name"}},
+        {"RentCredit", {"IdRentLog", "IdOrigin"}},
+        {"TakenBack", {"IdRow", "RecordKind", "IdRecord", "Posting", "DatePosted"}},
+        {"TransCategory", {"Category", "IEN"}},
+    };
+    return keys;
+}
+
+/// In a table that isn't the program's own, an id or the first two fields.
 std::vector<std::string> KeyFieldsOf(const platform::dialect::Table& table) {
+    for (const TableKey& key : OtherKeys()) {
+        if (platform::EqualIgnoringCase(key.table, table.name)) return key.fields;
+    }
     const bool hasId = platform::EqualIgnoringCase(table.columns.front().name.substr(0, 2), "Id") &&
                        table.columns.front().type == platform::FieldType::Long;
     std::vector<std::string> names;

@@ -11,7 +11,8 @@
 namespace exchange {
 
 /// Tells which records of a text file a table of the process's database has already: those with the
-/// same id or, in a table without ids, with the same first two fields.
+/// same id or, in a table whose rows have none of their own, with the same fields that a table may
+/// have only once.
 class KnownRows {
   public:
     /// Reads the keys of the table's rows. Throws on failure.

@@ -15,8 +15,9 @@ struct PortWatcher {
     std::function<void(std::string_view lines)> status;
     /// 0 to 100.
     std::function<void(int percent)> progress;
-    /// Asked before an import adds records of which the database has some already; returns whether
-    /// to add them. Without it they are added.
+    /// Asked before an import adds records of which the database has some already, and again if
+    /// another program adds more of them in the meantime; returns whether to add them. Without it
+    /// they are added.
     std::function<bool(std::int64_t known, std::int64_t records)> addAgain = {};
 
     void Status(std::string_view lines) const {
@@ -49,6 +50,8 @@ struct ImportOutcome {
     std::int64_t line = 0;
     /// How many records are in the database now because of it.
     std::int64_t written = 0;
+    /// How many of them it had already, and so has twice.
+    std::int64_t known = 0;
 
     bool Succeeded() const { return error.empty(); }
 };

@@ -15,22 +15,14 @@ namespace vestrelctl {
 namespace {
 
 exchange::PortWatcher Printer() {
-    return {
-        .status =
-            [](std::string_view lines) {
-                std::cout << lines;
-                if (!lines.ends_with('\n')) std::cout << '\n';
-            },
-        .progress = {},
-        // A script can't be asked.
-        .addAgain =
-            [](std::int64_t known, std::int64_t records) {
-                std::cerr << fmt::format(
-                    "Note: {} of the {} records were in the database already and are in it twice "
-                    "now\n",
-                    known, records);
-                return true;
-            }};
+    return {.status =
+                [](std::string_view lines) {
+                    std::cout << lines;
+                    if (!lines.ends_with('\n')) std::cout << '\n';
+                },
+            .progress = {},
+            // A script can't be asked; the end of the import says how many there were.
+            .addAgain = {}};
 }
 
 struct ImportWords {
@@ -45,6 +37,11 @@ void Import(const ImportWords& words) {
         ImportDatabase(words.file, words.test ? ImportMode::Test : ImportMode::Write,
                        words.overwrite ? ImportRows::Overwrite : ImportRows::Append,
                        ImportMessages::Quiet, Printer());
+    if (outcome.known > 0) {
+        std::cerr << fmt::format(
+            "Note: {} of the {} records were in the database already and are in it twice now\n",
+            outcome.known, outcome.written);
+    }
     if (outcome.Succeeded()) return;
     const std::string place = outcome.line > 0 ? fmt::format(" (line {})", outcome.line) : "";
     throw platform::Error("An error occured while reading the import file, " + outcome.error +

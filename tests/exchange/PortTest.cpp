@@ -253,6 +253,9 @@ TEST_F(PortTest, FindsTheRecordsThatTheDatabaseHas) {
     Run("DELETE * FROM TransCategory");
     Run("INSERT INTO TransCategory (Category, IEN) VALUES ('Rent, \"old\"', 1)");
     Run("INSERT INTO Room (IdRoom, RoomType) VALUES (1, 'a')");
+    Run("INSERT INTO BooksSetting (Name, Content) VALUES ('Begin', 'one')");
+    Run("INSERT INTO TakenBack (IdRow, RecordKind, IdRecord, Posting, DatePosted) "
+        "VALUES (7, 2, 40, 1, '05/01/2024')");
     const std::string categories =
         "\"Table\",\"TransCategory\",\"/Table\"\n\"Fields\",\"IEN\",\"Category\",\"/Fields\"\n";
     const struct {
@@ -268,6 +271,13 @@ TEST_F(PortTest, FindsTheRecordsThatTheDatabaseHas) {
         {categories + "\"Record\",1,\"Rent, \"\"old\"\"\",\"/Record\"\n" + kRooms +
              "\"Record\",\"1\",\"b\",\"/Record\"\n",
          2},
+        {"\"Table\",\"BooksSetting\",\"/Table\"\n\"Fields\",\"Name\",\"Content\",\"/Fields\"\n"
+         "\"Record\",\"Begin\",\"other\",\"/Record\"\n",
+         1},
+        {"\"Table\",\"TakenBack\",\"/Table\"\n\"Fields\",\"IdRow\",\"RecordKind\",\"IdRecord\","
+         "\"Posting\",\"DatePosted\",\"/Fields\"\n"
+         "\"Record\",7,2,40,1,\"06/01/2024\",\"/Record\"\n",
+         0}, // a row of another table, or of another day
     };
     const std::vector<std::string> before = Dump();
     for (const auto& each : cases) {
@@ -297,6 +307,23 @@ TEST_F(PortTest, FindsTheRecordsThatTheDatabaseHas) {
         Run("DELETE * FROM Room");
         Run("INSERT INTO Room (IdRoom, RoomType) VALUES (1, 'a')");
     }
+
+    // Another program adds one of them while the user is asked.
+    WriteText(PathTo("database.csv"),
+              kRooms + "\"Record\",1,\"b\",\"/Record\"\n\"Record\",2,\"b\",\"/Record\"\n");
+    std::vector<std::int64_t> asked;
+    PortWatcher agreeing = Watcher();
+    agreeing.addAgain = [&](std::int64_t known, std::int64_t) {
+        asked.push_back(known);
+        if (asked.size() == 1) Run("INSERT INTO Room (IdRoom, RoomType) VALUES (2, 'b')");
+        return true;
+    };
+    const ImportOutcome outcome =
+        ImportDatabase(PathTo("database.csv"), ImportMode::Write, ImportRows::Append,
+                       ImportMessages::Quiet, agreeing);
+    EXPECT_THAT(asked, testing::ElementsAre(1, 2));
+    EXPECT_EQ(outcome.known, 2);
+    EXPECT_EQ(Ask("SELECT Count(*) FROM Room"), "4");
 }
 
 } // namespace
