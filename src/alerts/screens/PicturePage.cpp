@@ -13,6 +13,7 @@
 #include <fmt/core.h>
 
 #include "alerts/screens/FigurePanel.h"
+#include "core/Configuration.h"
 #include "core/EditRecord.h"
 #include "core/RecordKinds.h"
 #include "core/forms/ErrorRoll.h"
@@ -63,7 +64,7 @@ PicturePage::PicturePage(QWidget* parent)
       copy_(MakeButton(*this, "cmdCopyPicture", tr("Copy as &Picture"))),
       print_(MakeButton(*this, "cmdPrintPicture", tr("P&rint Picture..."))),
       board_(new QWidget(this)),
-      asOf_(new QLabel(this)),
+      asOf_(new QLabel(board_)),
       occupancy_(new FigurePanel(QStringLiteral("Occupancy"), tr("Occupancy"), board_)),
       rent_(new FigurePanel(QStringLiteral("Rent"), tr("Rent this month"), board_)),
       flow_(new FigurePanel(QStringLiteral("Flow"), tr("Income and expenses of twelve months"),
@@ -76,21 +77,23 @@ PicturePage::PicturePage(QWidget* parent)
 void PicturePage::Lay() {
     asOf_->setObjectName(QStringLiteral("lblAsOf"));
     asOf_->setTextFormat(Qt::PlainText);
+    asOf_->setWordWrap(true);
     auto* const top = new QHBoxLayout;
-    top->addWidget(asOf_, 1);
+    top->addStretch(1);
     top->addWidget(copy_);
     top->addWidget(print_);
     board_->setObjectName(QStringLiteral("picture"));
     board_->setAutoFillBackground(true);
     auto* const panels = new QGridLayout(board_);
-    panels->addWidget(occupancy_, 0, 0);
-    panels->addWidget(rent_, 0, 1);
-    panels->addWidget(flow_, 1, 0);
-    panels->addWidget(debts_, 1, 1);
+    panels->addWidget(asOf_, 0, 0, 1, 2);
+    panels->addWidget(occupancy_, 1, 0);
+    panels->addWidget(rent_, 1, 1);
+    panels->addWidget(flow_, 2, 0);
+    panels->addWidget(debts_, 2, 1);
     panels->setColumnStretch(0, 1);
     panels->setColumnStretch(1, 1);
-    panels->setRowStretch(0, 2);
-    panels->setRowStretch(1, 3);
+    panels->setRowStretch(1, 2);
+    panels->setRowStretch(2, 3);
     flow_->Chart().setMinimumHeight(170);
     debts_->Chart().setMinimumHeight(150);
     auto* const scroll = new QScrollArea(this);
@@ -136,9 +139,10 @@ void PicturePage::Connect() {
 
 void PicturePage::Refresh() {
     figures_ = GetPortfolioPicture();
-    asOf_->setText(
-        tr("As of %1")
-            .arg(ToScreen(platform::FormatDate(platform::Today(), platform::kDateFormat))));
+    const QString today = ToScreen(platform::FormatDate(platform::Today(), platform::kDateFormat));
+    const QString company = ToScreen(core::Config().CompanyName).simplified();
+    asOf_->setText(company.isEmpty() ? tr("As of %1").arg(today)
+                                     : tr("%1, as of %2").arg(company, today));
     ShowOccupancy();
     ShowRent();
     ShowFlow();
@@ -213,8 +217,8 @@ void PicturePage::ShowDebts() {
         labels << Shortened(name) + QStringLiteral("  ") + Money(debtor.amount);
         owed.values.push_back(debtor.amount.ToDouble());
     }
-    debts_->ShowFigure(
-        tr("%1 is owed in all, deposits and fees included.").arg(Money(figure.total)));
+    debts_->ShowFigure(tr("%1 is owed in all, deposits and fees included and credits taken off.")
+                           .arg(Money(figure.total)));
     debts_->Chart().Show(labels, {std::move(owed)}, ChartShape::Rows, ChartDepth::Flat, false);
 }
 

@@ -40,7 +40,7 @@ class PicturePage : public QWidget {
     QPushButton* copy_;
     QPushButton* print_;
     QWidget* board_;
-    QLabel* asOf_;
+    QLabel* asOf_; ///< within the picture, so that a copy and a print say it too
     FigurePanel* occupancy_;
     FigurePanel* rent_;
     FigurePanel* flow_;

@@ -116,7 +116,8 @@ TEST_F(Picture, TellsEachFigureInWordsAndOpensWhatIsBehindIt) {
     EXPECT_EQ(Sentence("Rent"),
               "May 2024, with subsidies and fees: 51 % of what was charged was collected.");
     EXPECT_EQ(Sentence("Flow"), "Income 1,000.00, expenses 80.00, together 920.00.");
-    EXPECT_EQ(Sentence("Debts"), "975.50 is owed in all, deposits and fees included.");
+    EXPECT_EQ(Sentence("Debts"),
+              "975.50 is owed in all, deposits and fees included and credits taken off.");
     for (const char* const panel : {"Occupancy", "Rent", "Flow", "Debts"})
         Find<QToolButton>(page_, (std::string("cmd") + panel).c_str()).click();
     EXPECT_THAT(opened_, ElementsAre("Vacancy and turnover 2024", "Rent charged and collected 2024",
@@ -166,6 +167,9 @@ TEST_F(Picture, IsCopiedAndPrinted) {
     Run("UPDATE Tenant SET LastName = 'Featherstonehaugh-Cholmondeley <b>& Sons</b> of Upper Elm'");
     Show();
     EXPECT_THAT(support::LookFaults(page_, "picture-long"), IsEmpty());
+    EXPECT_EQ(FromScreen(Find<QLabel>(Find<QWidget>(page_, "picture"), "lblAsOf").text()),
+              "As of 05/17/2024")
+        << "on the picture itself";
     Find<QPushButton>(page_, "cmdCopyPicture").click();
     EXPECT_GT(QApplication::clipboard()->image().width(), 500);
 
