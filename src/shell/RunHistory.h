@@ -49,11 +49,10 @@ RunPage ReadHistory(const std::filesystem::path& file, platform::Date since);
 /// Returns all runs.
 std::vector<PastRun> ReadHistory(const std::filesystem::path& file);
 
-/// Writes the run that it listens to into the history, and passes on what it hears. The books are
-/// those of the session.
+/// Writes the run that it listens to into the history, and passes on what it hears.
 class RunRecorder : public core::RunListener {
   public:
-    /// The run begins now. `next` must outlive the recorder.
+    /// The run begins now, on the session's books. `next` must outlive the recorder.
     RunRecorder(std::filesystem::path file, core::RunListener& next);
 
     void Posted(int recordKind, std::int32_t id, std::string_view description,

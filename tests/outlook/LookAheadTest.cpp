@@ -269,19 +269,6 @@ TEST_F(LookAhead, CountsWhatIsPaidFromCreditOnlyOnce) {
     EXPECT_THAT(foretold, testing::UnorderedElementsAreArray(run.posted));
 }
 
-TEST_F(LookAhead, LeavesAYearAsItIsWithoutIt) {
-    const auto year = [&](bool looksAhead) {
-        OpenFresh();
-        for (int month = 1; month <= 12; ++month) {
-            platform::SetToday(DateAdd(Interval::Month, month, kMade));
-            if (looksAhead) To(DateAdd(Interval::Day, 90, platform::Today()));
-            core::UpdateRecords();
-        }
-        return support::Dump(App().Connection);
-    };
-    EXPECT_EQ(year(true), year(false));
-}
-
 TEST_F(LookAhead, ShowsASampleYearOfEveryKind) {
     const Forecast year = To(DateAdd(Interval::Day, 365, kMade));
     std::map<std::string, int> counts;

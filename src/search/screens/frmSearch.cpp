@@ -7,7 +7,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "core/Descriptions.h"
 #include "core/EditRecord.h"
+#include "core/RecordNotices.h"
 #include "core/forms/ErrorRoll.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
@@ -135,6 +137,11 @@ void frmSearch::OpenHit(const Hit& hit) {
         Guarded([&] {
             if (!chosen.record) return openItem(chosen.item);
             const Target& record = *chosen.record;
+            // It may have been deleted since it was found, and would open as a new one.
+            if (!core::RecordExists(record.kind, record.id)) {
+                core::OneRecordFound(0);
+                return;
+            }
             core::EditRecord(record.kind, record.id, record.parent1, 0, record.parent3);
         });
     });

@@ -131,6 +131,15 @@ TEST_F(SearchScreen, FollowsTheBooksWhileItIsOpen) {
     EXPECT_EQ(Status(), "Nothing has all of these words.");
 }
 
+TEST_F(SearchScreen, SaysThatARecordWasDeletedSinceItWasFound) {
+    Search("smith");
+    Run("DELETE FROM Tenant WHERE IdTenant = 30"); // nobody tells of it
+    QTest::keyClick(&Box(), Qt::Key_Return);
+    support::SettleEvents();
+    EXPECT_THAT(Heard(), ElementsAre(StartsWith("No Record Found: ")));
+    EXPECT_THAT(opened_, IsEmpty());
+}
+
 TEST_F(SearchScreen, LetsTheIndexGoWhenItCloses) {
     Run("UPDATE Tenant SET Phone = '555-0100'");
     core::NotifyAll(core::kTenant, core::kRecordsChanged, 0);

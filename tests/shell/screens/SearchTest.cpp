@@ -6,8 +6,10 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "core/EditRecord.h"
 #include "core/RecordKinds.h"
 #include "platform/qt/Text.h"
+#include "reports/PrintReport.h"
 #include "reports/ReportList.h"
 #include "search/screens/ResultList.h"
 #include "search/screens/frmSearch.h"
@@ -29,6 +31,28 @@ using testing::IsEmpty;
 class SearchEverything : public tests::KestromTest {
   protected:
     SearchEverything() {
+        for (const auto* sql :
+             {"UPDATE Transactions SET CheckNum = '4711' WHERE IdTransaction = 90",
+              "UPDATE Tenant SET Notes = 'Plays the oboe' WHERE IdTenant = 31",
+              "INSERT INTO Unit (IdUnit, IdBuilding, Unit) VALUES (23, 11, 'Penthouse')",
+              "INSERT INTO TransCategory (Category, IEN) VALUES ('Moat Upkeep', 1)"})
+            Run(sql);
+        std::filesystem::create_directories(core::App().ReportPath);
+        MakeFile("Reports/Herons.rpt", "[GENERAL]\nDESCRIPTION=Herons seen\n");
+        reports::LoadReportList();
+        reports::SetReportViewer([this](int index) {
+            log_.push_back("report " + reports::FindReport(index)->Description);
+        });
+        core::RegisterOpener(core::kBuilding, [this](const core::EditRequest& request) {
+            log_.push_back("28 " + std::to_string(request.id));
+        });
+        core::RegisterTransactionOpener(
+            core::TransactionEditor::Transaction,
+            [this](const core::EditRequest& request, const core::TransactionPlace&) {
+                log_.push_back("10 " + std::to_string(request.id));
+            });
+        services_.commands.Add(QStringLiteral("mnuTransCategory"),
+                               [this](const auto&) { log_.emplace_back("categories"); });
         services_.commands.Add(QStringLiteral("mnuPreferences"),
                                [](const auto&) { (new shell::screens::frmPreferences)->Setup(); });
         services_.commands.Add(QStringLiteral("mnuGlobalConfig"),
@@ -36,6 +60,12 @@ class SearchEverything : public tests::KestromTest {
         services_.commands.Add(QStringLiteral("mnuPayRent"), [this](const auto& selection) {
             log_.push_back("pay " + std::to_string(selection.id));
         });
+    }
+
+    ~SearchEverything() override {
+        reports::SetReportViewer({});
+        core::RegisterOpener(core::kBuilding, {});
+        core::RegisterTransactionOpener(core::TransactionEditor::Transaction, {});
     }
 
     template <class Screen>
@@ -64,10 +94,26 @@ class SearchEverything : public tests::KestromTest {
     }
 };
 
-TEST_F(SearchEverything, OpensRecordsCommandsAndSettings) {
+TEST_F(SearchEverything, OpensWhatIsFoundOfEachSort) {
     Window();
-    EXPECT_EQ(SearchAndOpen("smith john"), "Smith, John Q");
-    EXPECT_THAT(log_, ElementsAre("5 30"));
+    const struct {
+        const char* text;
+        const char* title;
+        const char* opened;
+    } cases[] = {
+        {"smith john", "Smith, John Q", "5 30"},    {"elm salem", "12 Elm St, Salem OR", "28 10"},
+        {"penthouse", "Oak Rd Penthouse", "29 23"}, {"4711", "Ann to River Bank", "10 90"},
+        {"12.50", "Ann to River Bank", "10 90"},    {"oboe", "O'Brien, Ann", "5 31"},
+        {"moat", "Moat Upkeep", "categories"},      {"herons", "Herons seen", "report Herons seen"},
+    };
+    for (const auto& each : cases) {
+        log_.clear();
+        EXPECT_EQ(SearchAndOpen(each.text), each.title) << each.text;
+        EXPECT_THAT(log_, ElementsAre(each.opened)) << each.text;
+    }
+}
+
+TEST_F(SearchEverything, OpensCommandsAndSettings) {
     Go("LEASES");
     EXPECT_EQ(SearchAndOpen("pay rent"), "Pay Rent");
     EXPECT_THAT(log_, Contains("pay " + std::to_string(Window().SelectedId())));
