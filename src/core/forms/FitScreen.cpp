@@ -77,6 +77,13 @@ QSize FrameOf(const QWidget& window) {
     return window.frameGeometry().size() - window.geometry().size();
 }
 
+/// Returns the height of the title bar that the window system has yet to put above a new window. A
+/// window that was moved has its place with the title bar.
+int TitleToCome(const QWidget& window) {
+    const bool comes = FrameOf(window).isEmpty() && !window.testAttribute(Qt::WA_Moved);
+    return comes ? kTitleHeight : 0;
+}
+
 /// Returns the largest size of a window that fits its screen, without its frame.
 QSize RoomFor(const QWidget& window) {
     const QSize frame = FrameOf(window);
@@ -128,7 +135,7 @@ bool LetFormScroll(QWidget& form) {
 void FitToScreen(QWidget& window) {
     const QScreen* const screen = window.screen();
     if (!screen || window.isMaximized()) return;
-    const QRect available = screen->availableGeometry();
+    const QRect available = screen->availableGeometry().adjusted(0, TitleToCome(window), 0, 0);
     const QSize room = RoomFor(window);
     // A form's own least size is the one it would like to have.
     window.setMinimumSize(window.minimumSize().boundedTo(room));
