@@ -84,23 +84,27 @@ void Lease_Ledger::MakeButtons() {
     select_->setMenu(new QMenu(select_));
     AddPickMenu(*select_->menu(), QStringLiteral("mnuSelect"),
                 [this](ChargePick pick) { list_->Select(pick); });
-    rent_ = MakeButton(tr("Pay Rent..."), tr("Take a payment for what is open here"), "cmdRent");
-    refund_ =
-        MakeButton(tr("Refund Deposit..."), tr("Give the deposit back to the tenant"), "cmdRefund");
     return_ = MakeButton(tr("Returned..."),
                          tr("The bank has returned the payment that settled the row in focus"),
                          "cmdReturn");
     charge_ = MakeButton(tr("Charge Deposit..."), tr("Keep a part of the deposit"), "cmdCharge");
+    refund_ =
+        MakeButton(tr("Refund Deposit..."), tr("Give the deposit back to the tenant"), "cmdRefund");
+    rent_ = MakeButton(tr("Pay Rent..."), tr("Take a payment for what is open here"), "cmdRent");
 
-    auto* const row = new QHBoxLayout;
-    for (QWidget* const button : std::initializer_list<QWidget*>{add_, edit_, delete_, select_})
-        row->addWidget(button);
-    row->addStretch();
-    row->addWidget(total_);
-    row->addStretch();
+    // Two rows: the deposits have more buttons than fit the form in one.
+    auto* const rows = static_cast<QVBoxLayout*>(layout());
+    auto* const edits = new QHBoxLayout;
+    for (QWidget* const button : {add_, edit_, delete_, select_})
+        edits->addWidget(button);
+    edits->addStretch();
+    edits->addWidget(total_);
+    rows->addLayout(edits);
+    auto* const payments = new QHBoxLayout;
+    payments->addStretch();
     for (QWidget* const button : {return_, charge_, refund_, rent_})
-        row->addWidget(button);
-    static_cast<QVBoxLayout*>(layout())->addLayout(row);
+        payments->addWidget(button);
+    rows->addLayout(payments);
 }
 
 QPushButton* Lease_Ledger::MakeButton(const QString& text, const QString& hint, const char* name,
