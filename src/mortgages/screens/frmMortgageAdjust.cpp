@@ -35,7 +35,7 @@ void ShowRate(QLineEdit& box, double rate) {
 } // namespace
 
 frmMortgageAdjust::frmMortgageAdjust(QWidget* parent)
-    : EntryForm(parent), ui_(std::make_unique<Ui::frmMortgageAdjust>()) {
+    : EntryForm(parent, core::FormSizing::Fixed), ui_(std::make_unique<Ui::frmMortgageAdjust>()) {
     ui_->setupUi(this);
 }
 

@@ -33,6 +33,10 @@ frmMortgageWizard::frmMortgageWizard(QWidget* parent)
     MakeSteps();
     WireSteps();
     connect(lender_->optAccount0, &QRadioButton::toggled, this, &frmMortgageWizard::ShowAvailable);
+    // Most loans still have their first rate.
+    connect(terms_->txtOrigInt, &QLineEdit::textEdited, this, [this](const QString& rate) {
+        if (!current_->txtCurrInt->isModified()) current_->txtCurrInt->setText(rate);
+    });
 }
 
 frmMortgageWizard::~frmMortgageWizard() = default;
