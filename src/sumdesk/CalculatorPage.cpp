@@ -82,8 +82,8 @@ CalculatorPage::CalculatorPage(QWidget* parent)
     setFocusProxy(ui_->txtSum);
     Enlarge(*ui_->txtSum, kSumSize);
     Enlarge(*ui_->lblResult, kResultSize);
-    ui_->lblResult->setMinimumHeight(ui_->lblResult->fontMetrics().height());
-    ui_->lblFault->setMinimumHeight(ui_->lblFault->fontMetrics().height());
+    for (QLabel* const line : {ui_->lblResult, ui_->lblFault})
+        line->setMinimumHeight(line->minimumSizeHint().height());
     ui_->txtSum->installEventFilter(this);
     connect(ui_->txtSum, &QLineEdit::textChanged, this, &CalculatorPage::ShowPreview);
     connect(ui_->chkCents, &QCheckBox::toggled, this, [this](bool on) {

@@ -34,6 +34,7 @@ void frmDeposit::Setup(std::int32_t id, DepositScope scope, const DepositPlace& 
         },
         [this, scope] {
             ui_->txtDescription->setText(tr("New Deposit"));
+            ui_->txtDescription->selectAll(); // to be typed over
             ui_->txtAmount->setText(QStringLiteral("0.00"));
             ShowScope(scope);
         });
