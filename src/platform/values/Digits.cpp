@@ -126,7 +126,7 @@ void RoundDigits(Digits& number, std::int64_t places) {
         while (!digits.empty() && digits.back() == '9')
             digits.pop_back();
         if (digits.empty()) {
-            digits = "1";
+            digits.push_back('1');
             ++number.pointAt;
         } else {
             ++digits.back();
