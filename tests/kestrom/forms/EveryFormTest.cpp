@@ -9,6 +9,8 @@
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTabBar>
+#include <QTabWidget>
 #include <functional>
 #include <set>
 
@@ -92,19 +94,57 @@ class EveryForm : public tests::EveryForm {
             faults.insert(name + ": " + fault);
         return faults;
     }
-    /// Calls `look` for each page of the form's tabs, or once.
+    /// Calls `look` for each page of the form's tabs, or once, and for each tab of the panels
+    /// there.
     static void OnEachPage(Form& form, const std::function<void()>& look) {
         auto* const tabs = form.findChild<QTabWidget*>();
         for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
             if (tabs) tabs->setCurrentIndex(page);
             support::SettleEvents();
             look();
+            for (QTabBar* const panel : form.findChildren<QTabBar*>()) {
+                if (!panel->isVisible() ||
+                    (tabs && tabs->isAncestorOf(panel) && panel->parentWidget() == tabs))
+                    continue;
+                for (int tab = 1; tab < panel->count(); ++tab) {
+                    if (!panel->isTabVisible(tab) || !panel->isTabEnabled(tab)) continue;
+                    panel->setCurrentIndex(tab);
+                    support::SettleEvents();
+                    look();
+                }
+            }
         }
     }
+    /// Opens each form on the large screen with texts of so many times their usual size.
+    void WalkOnALargeScreen(int times, const std::function<Faults(const Form& form)>& more) {
+        const QFont usual = QApplication::font();
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * times);
+        QApplication::setFont(font);
+        Faults faults;
+        for (const Opening& opening : Openings()) {
+            opening.open();
+            support::SettleEvents();
+            ASSERT_EQ(Open().size(), 1U) << opening.name;
+            Form& form = *Open().front();
+            OnEachPage(form, [&] {
+                faults.merge(PlaceFaults(form, opening.name));
+                faults.merge(LookFaults(form, opening.name));
+                for (const std::string& fault : more(form))
+                    faults.insert(opening.name + ": " + fault);
+            });
+            form.CloseUnasked();
+            support::SettleEvents();
+        }
+        QApplication::setFont(usual);
+        EXPECT_THAT(faults, IsEmpty());
+    }
+    static bool IsScreenLarge() { return QGuiApplication::primaryScreen()->size().width() >= 1920; }
 };
 
 TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
     std::set<std::string> faults;
+    std::set<std::string> unseen = FormsOfTheProgram();
     for (const Opening& opening : Openings()) {
         // The second time from a place that was stored on a larger screen.
         for (const char* const time : {"", " again"}) {
@@ -129,6 +169,7 @@ TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
                 }
             });
             const std::string key = FromScreen(form.objectName());
+            unseen.erase(key);
             form.CloseUnasked();
             SettleEvents();
             ASSERT_THAT(Open(), IsEmpty()) << name;
@@ -136,32 +177,25 @@ TEST_F(EveryForm, FitsTheScreenAndOpensOnItsFirstEntry) {
         }
     }
     EXPECT_THAT(faults, IsEmpty());
+    EXPECT_THAT(unseen, IsEmpty()) << "this walk doesn't open them";
 }
 
 // The size that texts have on a screen at 200 %, and the room that 1920x1080 has for them.
 TEST_F(EveryForm, ShowsAllOfItsTextsAtTwiceTheSize) {
-    if (QGuiApplication::primaryScreen()->size().width() < 1920) {
-        GTEST_SKIP() << "a run of its own has the screen for it";
-    }
-    const QFont usual = QApplication::font();
-    QFont large = usual;
-    large.setPointSizeF(usual.pointSizeF() * 2);
-    QApplication::setFont(large);
-    std::set<std::string> faults;
-    for (const Opening& opening : Openings()) {
-        opening.open();
-        support::SettleEvents();
-        ASSERT_EQ(Open().size(), 1U) << opening.name;
-        Form& form = *Open().front();
-        OnEachPage(form, [&] {
-            faults.merge(PlaceFaults(form, opening.name));
-            faults.merge(LookFaults(form, opening.name));
-        });
-        form.CloseUnasked();
-        support::SettleEvents();
-    }
-    QApplication::setFont(usual);
-    EXPECT_THAT(faults, IsEmpty());
+    if (!IsScreenLarge()) GTEST_SKIP() << "a run of its own has the screen for it";
+    WalkOnALargeScreen(2, [](const Form&) { return Faults(); });
+}
+
+TEST_F(EveryForm, ScrollsNothingSidewaysAndMarksAWrongDateNotByColourAlone) {
+    if (!IsScreenLarge()) GTEST_SKIP() << "a run of its own has the screen for it";
+    WalkOnALargeScreen(1, [](const Form& form) {
+        Faults faults;
+        for (const std::string& fault : tests::WidthFaults(form))
+            faults.insert(fault);
+        for (const std::string& fault : tests::DateFaults(form))
+            faults.insert(fault);
+        return faults;
+    });
 }
 
 } // namespace

@@ -4,15 +4,19 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QAction>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTextEdit>
 
+#include "core/binding/DateEdit.h"
 #include "platform/qt/Text.h"
 
 namespace tests {
@@ -51,6 +55,19 @@ bool ShowsText(const QWidget& control) {
            qobject_cast<const QGroupBox*>(&control);
 }
 
+std::string SizeOf(QSize size) {
+    return std::to_string(size.width()) + "x" + std::to_string(size.height());
+}
+
+QImage PictureOf(const QWidget& control) {
+    const QAction* const action = control.actions().value(0);
+    return action ? action->icon().pixmap(16).toImage() : QImage();
+}
+
+QString WordsOf(QWidget& control) {
+    return QAccessible::queryAccessibleInterface(&control)->text(QAccessible::Description);
+}
+
 } // namespace
 
 std::vector<std::string> NamelessFaults(const QWidget& screen) {
@@ -78,8 +95,33 @@ std::vector<std::string> ClippingFaults(const QWidget& screen) {
             wanted.setWidth(0); // of any length; its tool tip has the whole
         }
         if (control->width() < wanted.width() || control->height() < wanted.height()) {
-            faults.push_back(NameOf(*control) + " is cut off");
+            faults.push_back(NameOf(*control) + " is cut off: " + SizeOf(control->size()) +
+                             " rather than " + SizeOf(wanted));
         }
+    }
+    return faults;
+}
+
+std::vector<std::string> DateFaults(const QWidget& screen) {
+    std::vector<std::string> faults;
+    for (auto* const box : screen.findChildren<core::binding::DateEdit*>()) {
+        if (!IsShownIn(*box, screen)) continue;
+        box->clearFocus();
+        box->setText(QStringLiteral("1/1/2026"));
+        const QImage picture = PictureOf(*box);
+        const QString words = WordsOf(*box);
+        box->setText(QStringLiteral("soon"));
+        if (PictureOf(*box) == picture) faults.push_back(NameOf(*box) + " shows no picture");
+        if (WordsOf(*box) == words) faults.push_back(NameOf(*box) + " says nothing");
+    }
+    return faults;
+}
+
+std::vector<std::string> WidthFaults(const QWidget& screen) {
+    std::vector<std::string> faults;
+    for (const auto* const page : screen.findChildren<QScrollArea*>()) {
+        if (IsShownIn(*page, screen) && page->horizontalScrollBar()->maximum() > 0)
+            faults.push_back(NameOf(*page->parentWidget()) + " is wider than its form");
     }
     return faults;
 }

@@ -15,4 +15,11 @@ std::vector<std::string> NamelessFaults(const QWidget& screen);
 /// Controls that get less room than their text needs.
 std::vector<std::string> ClippingFaults(const QWidget& screen);
 
+/// Date boxes that show by their colour only that they hold no date, without a picture for those
+/// who see no colours and without words for those who see nothing. Changes what the boxes hold.
+std::vector<std::string> DateFaults(const QWidget& screen);
+
+/// Scrolling pages that are wider than the form shows them.
+std::vector<std::string> WidthFaults(const QWidget& screen);
+
 } // namespace tests

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,8 @@ struct Opening {
 class EveryForm : public SampleEditors {
   protected:
     static std::vector<Opening> Openings();
+    /// Returns the names of the forms that the program's sources define.
+    static std::set<std::string> FormsOfTheProgram();
 
   private:
     static std::int32_t Id(const char* sql) { return std::stoi(Ask(sql)); }
