@@ -91,7 +91,7 @@ std::vector<Opening> EveryForm::Openings() {
         openings.push_back({"frmMortgageAdjust", [frame] { (new Adjust->*frame)(SomeLoan()); }});
     }
     openings.push_back(
-        {"frmDeposit",
+        {"new frmDeposit",
          [] { (new records::screens::frmDeposit)->Setup(0, records::DepositScope::Global, {}); }});
     openings.push_back({"frmMileageWiz", [] { (new books::screens::frmMileageWiz)->Setup(); }});
     openings.push_back({"frmDepreciation", [] {
