@@ -148,7 +148,8 @@ void frmDocMgmt::Setup() {
     LoadOptions();
     Open();
     ui_->grd->setFocus();
-    if (ui_->grd->item(0, kName)->data(Qt::UserRole).toInt() != 0)
+    const QTableWidgetItem* const first = ui_->grd->item(0, kName); // null if nothing could be read
+    if (first != nullptr && first->data(Qt::UserRole).toInt() != 0)
         ui_->grd->setCurrentCell(0, kName);
 }
 
