@@ -62,7 +62,8 @@ std::vector<std::string> OwnerErrors(const OwnerEntry& entry) {
 
 PrimaryMark SettlePrimary(std::int32_t idBuilding, std::int32_t idBuildingBefore,
                           std::int32_t idOwnerLink, PrimaryMark entered) {
-    if (idBuildingBefore != idBuilding && !HasPrimary(idBuildingBefore)) {
+    const bool isMoved = idBuildingBefore != 0 && idBuildingBefore != idBuilding;
+    if (isMoved && !HasPrimary(idBuildingBefore)) {
         core::Execute(
             "UPDATE OwnerLink SET IsPrimary = True WHERE IdOwnerLink = "
             "(SELECT TOP 1 IdOwnerLink FROM OwnerLink WHERE IdBuilding = ?)",

@@ -108,6 +108,7 @@ void RecordForm::Store() {
     FindRowToWrite(row);
     WriteRow(row);
     row.Update();
+    StoreRest();
     unit.Commit();
 }
 

@@ -78,6 +78,8 @@ class RecordForm : public Form {
     virtual std::vector<std::string> Errors() { return {}; }
     /// Asks any questions once the entries are valid; returns false to stop the save.
     virtual bool Agreed() { return true; }
+    /// Writes what is saved together with the row, within its unit of work.
+    virtual void StoreRest() {}
     /// Writes the entries, within a unit of work. A screen that saves more than its row leaves all
     /// of it to the logic and sets a new record's id.
     virtual void Store();

@@ -4,13 +4,11 @@
 
 #include "books/screens/General_Ledger.h"
 #include "core/Configuration.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/binding/AddressBox.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
-#include "platform/database/Connection.h"
 #include "platform/qt/Text.h"
 #include "records/screens/Contacts.h"
 #include "records/screens/Panels.h"
@@ -91,12 +89,8 @@ std::vector<std::string> frmAccount::Errors() {
     return AccountErrors(Name());
 }
 
-/// The account and the contact on the screen are saved in one unit of work.
-void frmAccount::Store() {
-    platform::UnitOfWork unit(core::App().Connection);
-    RecordForm::Store();
+void frmAccount::StoreRest() {
     contacts_->Write();
-    unit.Commit();
 }
 
 void frmAccount::AfterSave() {

@@ -40,7 +40,7 @@ class frmAccount : public core::forms::RecordForm {
     void WriteRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
-    void Store() override;
+    void StoreRest() override;
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
 

@@ -1,10 +1,7 @@
 #include "records/screens/frmOwnerLink.h"
 
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
-#include "core/Rows.h"
 #include "core/binding/ComboList.h"
-#include "platform/database/Connection.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
 #include "ui_frmOwnerLink.h"
@@ -40,15 +37,15 @@ std::vector<std::string> frmOwnerLink::Errors() {
                         platform::qt::FromScreen(ui_->txtPctOwned->text())});
 }
 
-/// The owner and the marks of the building's other owners are saved in one unit of work.
-void frmOwnerLink::Store() {
-    platform::UnitOfWork unit(core::App().Connection);
-    const auto before = platform::AsOr0<std::int32_t>(
-        core::ReadValue("SELECT IdBuilding FROM OwnerLink WHERE IdOwnerLink = ?", {Id()}));
-    RecordForm::Store();
-    mark_ = SettlePrimary(GetSelectedId(*ui_->cboBuilding), before, Id(),
+void frmOwnerLink::WriteRow(platform::Recordset& row) {
+    buildingBefore_ = WritesNewRow() ? 0 : platform::IdOf(row["IdBuilding"]);
+    RecordForm::WriteRow(row);
+}
+
+/// The marks of the building's other owners.
+void frmOwnerLink::StoreRest() {
+    mark_ = SettlePrimary(GetSelectedId(*ui_->cboBuilding), buildingBefore_, Id(),
                           ui_->chkIsPrimary->isChecked() ? PrimaryMark::Yes : PrimaryMark::No);
-    unit.Commit();
 }
 
 void frmOwnerLink::AfterSave() {

@@ -26,12 +26,14 @@ class frmOwnerLink : public core::forms::RecordForm {
   protected:
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
-    void Store() override;
+    void WriteRow(platform::Recordset& row) override;
+    void StoreRest() override;
     void AfterSave() override;
     void Refresh(std::int16_t kind) override;
 
   private:
     std::unique_ptr<Ui::frmOwnerLink> ui_;
+    std::int32_t buildingBefore_ = 0;    ///< of the owner being saved; 0 for a new one
     PrimaryMark mark_ = PrimaryMark::No; ///< of the owner that was saved last
 };
 

@@ -1,13 +1,11 @@
 #include "records/screens/frmTenant.h"
 
 #include "books/screens/General_Ledger.h"
-#include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/binding/AddressBox.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
 #include "documents/screens/FileObjects.h"
-#include "platform/database/Connection.h"
 #include "platform/qt/Text.h"
 #include "records/TenantRules.h"
 #include "records/screens/Contacts.h"
@@ -77,12 +75,8 @@ std::vector<std::string> frmTenant::Errors() {
     return TenantErrors(platform::qt::FromScreen(person_->txtLastName->text()));
 }
 
-/// The tenant and the contact on the screen are saved in one unit of work.
-void frmTenant::Store() {
-    platform::UnitOfWork unit(core::App().Connection);
-    RecordForm::Store();
+void frmTenant::StoreRest() {
     contacts_->Write();
-    unit.Commit();
 }
 
 void frmTenant::AfterSave() {

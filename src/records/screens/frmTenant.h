@@ -38,7 +38,7 @@ class frmTenant : public core::forms::RecordForm {
   protected:
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
-    void Store() override;
+    void StoreRest() override;
     void AfterSave() override;
 
   private:
