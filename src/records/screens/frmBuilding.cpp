@@ -2,8 +2,6 @@
 
 #include "records/screens/frmBuilding.h"
 
-#include <algorithm>
-
 #include "core/Configuration.h"
 #include "core/Descriptions.h"
 #include "core/Globals.h"
@@ -133,12 +131,19 @@ void frmBuilding::ShowRow(platform::Recordset& row) {
     ShowUnit();
 }
 
+/// Whether the unit was found, and is one of the building's.
+bool frmBuilding::IsHere(platform::Recordset& unit) const {
+    return !unit.Eof() && platform::IdOf(unit["IdBuilding"]) == Id();
+}
+
 /// Shows the unit, or the building's first if none was asked for or it is no longer here.
 void frmBuilding::ShowUnit() {
-    const auto units = UnitsOf(Id());
-    if (std::ranges::find(units, idUnit_, &core::Choice::id) == units.end())
-        idUnit_ = units.empty() ? 0 : units.front().id;
     platform::Recordset row = FindById(kUnitTable, idUnit_);
+    if (!IsHere(row)) {
+        const auto units = UnitsOf(Id());
+        idUnit_ = units.empty() ? 0 : units.front().id;
+        row = FindById(kUnitTable, idUnit_);
+    }
     unitFields_.ShowBlanks(*this);
     if (row.Eof()) row = core::NewRow(kUnitTable); // never written: what is entered differs from it
     unitFields_.Show(*this, row);
@@ -230,7 +235,7 @@ void frmBuilding::Refresh(std::int16_t kind) {
 /// Leases change the unit's status, and other screens its other fields.
 void frmBuilding::FollowOthers(const core::binding::Controls& /*touched*/) {
     platform::Recordset row = FindById(kUnitTable, idUnit_);
-    if (row.Eof() || platform::IdOf(row["IdBuilding"]) != Id()) return ShowAnotherUnit();
+    if (!IsHere(row)) return ShowAnotherUnit();
     unitFields_.ShowUntouched(*this, row, unitFields_.Touched(*this));
 }
 

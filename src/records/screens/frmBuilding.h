@@ -69,6 +69,7 @@ class frmBuilding : public core::forms::RecordForm {
     void FillFreeAccounts();
     void Propose(std::int32_t fromUnit);
 
+    bool IsHere(platform::Recordset& unit) const;
     void ShowUnit();
     void FillUnits();
     void ShowPanels();
