@@ -50,10 +50,7 @@ void DatabaseCopy::CopyPages(SQLite::Database& copy, const Progress& progress) c
     while ((result = sqlite3_backup_step(backup.get(), pages)) == SQLITE_OK) {
         if (progress) progress(size_ - pageSize_ * sqlite3_backup_remaining(backup.get()));
     }
-    if (result != SQLITE_DONE) {
-        throw DatabaseError(DescribeEngineFailure(result, 0, sqlite3_errstr(result)),
-                            result & 0xFF);
-    }
+    if (result != SQLITE_DONE) ThrowEngineError(result);
 }
 
 void DatabaseCopy::WriteTo(DiskFile& out, std::int64_t offset, const Progress& progress) const {

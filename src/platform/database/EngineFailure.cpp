@@ -46,4 +46,8 @@ void ThrowEngineError(sqlite3* database) {
         code & 0xFF);
 }
 
+void ThrowEngineError(int result) {
+    throw DatabaseError(DescribeEngineFailure(result, 0, sqlite3_errstr(result)), result & 0xFF);
+}
+
 } // namespace platform

@@ -13,5 +13,7 @@ std::string DescribeEngineFailure(int code, int systemError, const std::string& 
 
 /// Throws the engine's last failure as a DatabaseError.
 [[noreturn]] void ThrowEngineError(sqlite3* database);
+/// Throws a failure of which only the engine's result code is known.
+[[noreturn]] void ThrowEngineError(int result);
 
 } // namespace platform

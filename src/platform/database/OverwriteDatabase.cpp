@@ -5,7 +5,6 @@
 
 #include "platform/database/DatabaseFile.h"
 #include "platform/database/EngineFailure.h"
-#include "platform/values/Errors.h"
 
 namespace platform {
 
@@ -20,10 +19,7 @@ void OverwriteDatabase(const std::filesystem::path& database, const std::filesys
     const int stepped = sqlite3_backup_step(copying, kAllPages);
     const int finished = sqlite3_backup_finish(copying); // commits, or rolls back
     const int result = stepped == SQLITE_DONE ? finished : stepped;
-    if (result != SQLITE_OK) {
-        throw DatabaseError(DescribeEngineFailure(result, 0, sqlite3_errstr(result)),
-                            result & 0xFF);
-    }
+    if (result != SQLITE_OK) ThrowEngineError(result);
 }
 
 } // namespace platform
