@@ -47,7 +47,7 @@ void Enter(const FirstEntries& entries) {
     }
     core::Execute("UPDATE Configuration SET CompanyName = ?",
                   {std::string(platform::Trim(entries.company))});
-    if (entries.since.IsSet()) core::SetBooksKeptSince(entries.since);
+    core::SetBooksKeptSince(entries.since);
     const std::string_view address = platform::Trim(entries.address);
     if (!address.empty()) AddProperty(entries, address);
     work.Commit();

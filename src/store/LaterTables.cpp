@@ -33,10 +33,15 @@ TableDefinition TakenBackTable() {
                      {"IdRecord"});
 }
 
+// A setting of the books that the table Configuration has no field for, by its name.
+TableDefinition BooksSettingTable() {
+    return MakeTable("BooksSetting", {{Text, "Name Content"}});
+}
+
 } // namespace
 
-std::vector<TableDefinition> CreditTables() {
-    return {RentCreditTable(), LeaseCreditTable(), TakenBackTable()};
+std::vector<TableDefinition> LaterTables() {
+    return {RentCreditTable(), LeaseCreditTable(), TakenBackTable(), BooksSettingTable()};
 }
 
 } // namespace store

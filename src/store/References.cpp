@@ -65,10 +65,6 @@ void FillReferences(platform::Connection& connection) {
     work.Commit();
 }
 
-} // namespace
-
-namespace {
-
 void MakeReferences(const std::filesystem::path& path) {
     NewFile file(path);
     platform::Connection connection;

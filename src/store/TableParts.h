@@ -23,9 +23,7 @@ std::vector<TableDefinition> PropertyTables();
 std::vector<TableDefinition> PeopleTables();
 std::vector<TableDefinition> MoneyTables();
 std::vector<TableDefinition> SupportTables();
-// The credits of tenants, which came later, and the rows of the run that were taken back.
-std::vector<TableDefinition> CreditTables();
-// Settings of the books, which came later too.
-TableDefinition BooksSettingTable();
+// Tables that books of earlier versions lack.
+std::vector<TableDefinition> LaterTables();
 
 } // namespace store

@@ -24,12 +24,6 @@ std::vector<TableDefinition> AllTables() {
     return all;
 }
 
-std::vector<TableDefinition> LaterTables() {
-    std::vector<TableDefinition> later = CreditTables();
-    later.push_back(BooksSettingTable());
-    return later;
-}
-
 std::string_view DefaultOf(FieldKind kind) {
     return kind == FieldKind::Long || kind == FieldKind::Boolean ? " DEFAULT 0" : "";
 }
