@@ -9,7 +9,7 @@ RowsetTable::RowsetTable(platform::Recordset rows) : rows_(std::move(rows)) {
     rowCount_ = rows_.RecordCount();
     for (std::size_t i = 0; i < rows_.FieldCount(); ++i) {
         const platform::Field field = rows_[i];
-        columns_.push_back({field.Name(), field.Type(), FormatOf(field.Type(), field.Name())});
+        columns_.push_back(MakeColumn(field.Name(), field.Type()));
     }
 }
 

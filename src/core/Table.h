@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/GridFormat.h"
@@ -15,6 +16,11 @@ struct TableColumn {
     platform::FieldType type = platform::FieldType::Text;
     ColumnFormat format{};
 };
+
+/// Returns a column with the format of its type and caption.
+inline TableColumn MakeColumn(std::string_view caption, platform::FieldType type) {
+    return {std::string(caption), type, FormatOf(type, caption)};
+}
 
 /// Rows to show, print or export: the rows of a row set, a schedule, what a run has posted. A value
 /// is worked out when it is asked for, so a table of a million rows costs what is shown of it.

@@ -2,16 +2,13 @@
 
 namespace outlook {
 
+using core::MakeColumn;
 using platform::FieldType;
 using platform::Value;
 
 namespace {
 
 enum Column : std::size_t { Number, RecordKind, RecordId, Day, What, For, Amount, FlowWord };
-
-core::TableColumn MakeColumn(std::string_view caption, FieldType type) {
-    return {std::string(caption), type, core::FormatOf(type, caption)};
-}
 
 } // namespace
 

@@ -8,16 +8,13 @@
 
 namespace shell {
 
+using core::MakeColumn;
 using platform::FieldType;
 using platform::Value;
 
 namespace {
 
 enum Column : std::size_t { Number, Day, What, Reason, Amount, Record, Taken };
-
-core::TableColumn MakeColumn(std::string_view caption, FieldType type) {
-    return {std::string(caption), type, core::FormatOf(type, caption)};
-}
 
 Value FaultValue(const DigestFault& fault, std::size_t column) {
     switch (column) {

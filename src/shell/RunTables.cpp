@@ -2,14 +2,11 @@
 
 namespace shell {
 
+using core::MakeColumn;
 using platform::FieldType;
 using platform::Value;
 
 namespace {
-
-core::TableColumn MakeColumn(std::string_view caption, FieldType type) {
-    return {std::string(caption), type, core::FormatOf(type, caption)};
-}
 
 Value Count(std::int64_t count) {
     return static_cast<std::int32_t>(count);
