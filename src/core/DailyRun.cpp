@@ -4,6 +4,8 @@
 #include <exception>
 #include <utility>
 
+#include <fmt/core.h>
+
 #include "core/Globals.h"
 #include "core/MessagePump.h"
 #include "core/RecordKinds.h"
@@ -32,6 +34,11 @@ class NobodyListens : public RunListener {
 };
 
 } // namespace
+
+std::string NameOfFailed(int recordKind, std::string_view description) {
+    if (recordKind == kNone) return std::string(description);
+    return fmt::format("{} {}", RecordKindName(recordKind), description);
+}
 
 void RegisterRunStep(RunStep step, RunStepFunction work) {
     Steps().at(static_cast<std::size_t>(step)).work = std::move(work);

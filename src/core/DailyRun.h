@@ -36,6 +36,9 @@ class RunListener {
                         std::string_view reason) = 0;
 };
 
+/// Returns "Lease Smith, Elm St" for a record that the run skipped; a whole step has no kind.
+std::string NameOfFailed(int recordKind, std::string_view description);
+
 /// The steps of the run, in the only order they run in.
 enum class RunStep { ScheduledEvents, Mortgages, Leases };
 

@@ -95,4 +95,9 @@ void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id) {
     }
 }
 
+void NotifyOfAllKinds() {
+    for (std::int16_t kind = kAccount; kind <= kRentLog; ++kind)
+        NotifyAll(kind, kRecordsChanged, 0);
+}
+
 } // namespace core

@@ -28,5 +28,7 @@ class NotifyToken {
 /// Inside a unit of work the messages wait until the whole unit is committed. Each then goes out
 /// once, in the order of its last announcement; if the unit is rolled back, none does.
 void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id);
+/// The same for every kind: any record may have changed, and the settings too.
+void NotifyOfAllKinds();
 
 } // namespace core

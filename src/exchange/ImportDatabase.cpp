@@ -7,7 +7,6 @@
 
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "exchange/ImportCheck.h"
 #include "exchange/KeepCopy.h"
@@ -158,12 +157,6 @@ ImportOutcome WriteRecords(const WriteOrder& order, const PortWatcher& watcher, 
     return outcome;
 }
 
-/// Records of any kind may have been imported, and the settings too.
-void TellScreens() {
-    for (std::int16_t kind = core::kAccount; kind <= core::kRentLog; ++kind)
-        core::NotifyAll(kind, core::kRecordsChanged, 0);
-}
-
 void TellError(const ImportOutcome& outcome, ImportMessages messages, const PortWatcher& watcher,
                const std::string& note) {
     if (messages == ImportMessages::Show) {
@@ -256,7 +249,7 @@ ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode,
             watcher.Status("Status: The import was cancelled. Nothing was imported.\n");
             return outcome;
         }
-        TellScreens();
+        core::NotifyOfAllKinds();
     }
     if (!outcome.Succeeded()) {
         TellError(outcome, messages, watcher, note);

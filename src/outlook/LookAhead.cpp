@@ -80,10 +80,8 @@ class Recorder : public core::RunListener {
 
     void Failed(int recordKind, std::int32_t /*id*/, std::string_view description,
                 std::string_view reason) override {
-        const std::string_view kind = core::RecordKindName(recordKind);
-        std::string fault = recordKind == core::kNone
-                                ? fmt::format("{}: {}", description, reason)
-                                : fmt::format("{} {}: {}", kind, description, reason);
+        std::string fault =
+            fmt::format("{}: {}", core::NameOfFailed(recordKind, description), reason);
         // The run of the later day fails as today's did.
         if (std::ranges::find(forecast_.faults, fault) == forecast_.faults.end())
             forecast_.faults.push_back(std::move(fault));
@@ -108,8 +106,10 @@ Forecast LookAhead(const std::filesystem::path& books, platform::Date until,
         AddComingDays(forecast);
         Recorder recorder(forecast);
         core::UpdateRecords(recorder);
-        platform::SetTodayOfThread(until); // the end of the session puts the day back
-        core::UpdateRecords(recorder);
+        if (until > forecast.today) {
+            platform::SetTodayOfThread(until); // the end of the session puts the day back
+            core::UpdateRecords(recorder);
+        }
     } catch (const platform::Error&) {
         if (!isStopped()) throw;
     }

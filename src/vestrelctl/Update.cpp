@@ -34,11 +34,8 @@ class Printer : public core::RunListener {
 
     void Failed(int recordKind, std::int32_t, std::string_view description,
                 std::string_view reason) override {
-        // A whole step of the run has no kind of record.
-        std::string name(description);
-        if (recordKind != core::kNone)
-            name = fmt::format("{} {}", core::RecordKindName(recordKind), description);
-        std::cout << fmt::format("Not updated: {}: {}\n", name, reason);
+        std::cout << fmt::format("Not updated: {}: {}\n",
+                                 core::NameOfFailed(recordKind, description), reason);
         ++failed_;
     }
 

@@ -5,7 +5,6 @@
 
 #include "core/Globals.h"
 #include "core/NotifyAll.h"
-#include "core/RecordKinds.h"
 #include "core/forms/OpenForms.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
@@ -48,8 +47,7 @@ void ResetOpenSample(const std::filesystem::path& vestrelctl) {
     if (!agreed || !core::forms::MayCloseAllForms()) return;
     core::forms::CloseAllForms();
     const std::string fault = RunReset(vestrelctl);
-    for (std::int16_t kind = core::kAccount; kind <= core::kRentLog; ++kind)
-        core::NotifyAll(kind, core::kRecordsChanged, 0);
+    core::NotifyOfAllKinds();
     if (!fault.empty())
         platform::TheDialogs().ShowMessage(kTitle, fault, platform::Icon::Exclamation);
 }
