@@ -6,7 +6,6 @@
 
 #include "core/grid/RowDelegate.h"
 #include "platform/qt/Text.h"
-#include "platform/values/Format.h"
 
 namespace core::grid {
 
@@ -16,7 +15,13 @@ namespace {
 
 constexpr int kIdRole = Qt::UserRole;
 constexpr int kFlagsRole = Qt::UserRole + 1;
-constexpr int kSortRole = Qt::UserRole + 2;
+constexpr int kPlaceRole = Qt::UserRole + 2;
+constexpr int kSortRole = Qt::UserRole + 3;
+
+/// The columns of the table before the first one that is shown.
+constexpr std::size_t kIdColumn = 0;
+constexpr std::size_t kFlagsColumn = 1;
+constexpr std::size_t kHidden = 2;
 
 /// Sorts dates as dates and money as money.
 class Row : public QTreeWidgetItem {
@@ -28,6 +33,29 @@ class Row : public QTreeWidgetItem {
         return mine.toLongLong() < other.data(column, kSortRole).toLongLong();
     }
 };
+
+/// Returns the number by which a date or money is sorted; nothing for what is sorted by its text.
+QVariant SortNumber(const platform::Value& value, platform::FieldType type) {
+    switch (type) {
+        case platform::FieldType::Date:
+            return qlonglong{value.IsNull() ? 0 : value.AsDate().Serial()};
+        case platform::FieldType::Currency:
+            return qlonglong{value.IsNull() ? 0 : value.AsCurrency().Scaled()};
+        case platform::FieldType::Integer:
+        case platform::FieldType::Long:
+            return qlonglong{value.IsNull() ? 0 : value.AsLong()};
+        default:
+            return {};
+    }
+}
+
+void ShowCell(QTreeWidgetItem& row, int place, const platform::Value& value,
+              const core::TableColumn& column) {
+    if (!value.IsNull()) row.setText(place, ToScreen(core::CellText(value, column.format)));
+    if (column.type == platform::FieldType::Text) row.setToolTip(place, row.text(place));
+    if (column.format.right) row.setTextAlignment(place, Qt::AlignRight | Qt::AlignVCenter);
+    row.setData(place, kSortRole, SortNumber(value, column.type));
+}
 
 } // namespace
 
@@ -47,29 +75,62 @@ LedgerList::LedgerList(QWidget* parent) : QTreeWidget(parent) {
             [this](QTreeWidgetItem* row) { Q_EMIT RowChosen(IdOf(*row)); });
 }
 
-QTreeWidgetItem* LedgerList::MakeRow(std::int32_t id, int flags, platform::Date date,
-                                     bool ticked) const {
-    auto* const row = new Row;
-    row->setData(0, kIdRole, id);
-    row->setData(0, kFlagsRole, flags);
-    row->setText(0, ToScreen(date.ToText()));
-    row->setData(0, kSortRole, date.IsSet() ? date.Serial() : 0);
-    if (ticks_) row->setCheckState(0, ticked ? Qt::Checked : Qt::Unchecked);
-    return row;
+void LedgerList::ShowTable(const core::Table& table, const std::vector<bool>& ticks) {
+    const std::vector<core::TableColumn>& columns = table.Columns();
+    ShowCaptions(columns);
+    QList<QTreeWidgetItem*> rows;
+    for (std::int64_t i = 0; i < table.RowCount(); ++i) {
+        auto* const row = new Row;
+        row->setData(0, kIdRole, table.ValueAt(i, kIdColumn).AsLong());
+        row->setData(0, kFlagsRole, table.ValueAt(i, kFlagsColumn).AsInteger());
+        row->setData(0, kPlaceRole, qlonglong{i});
+        for (std::size_t column = kHidden; column < columns.size(); ++column) {
+            ShowCell(*row, static_cast<int>(column - kHidden), table.ValueAt(i, column),
+                     columns[column]);
+        }
+        if (ticks_) {
+            const bool isTicked = ticks.at(static_cast<std::size_t>(i));
+            row->setCheckState(0, isTicked ? Qt::Checked : Qt::Unchecked);
+        }
+        rows << row;
+    }
+    ShowRows(rows);
 }
 
-void LedgerList::SetMoney(QTreeWidgetItem& row, int column, platform::Currency amount) {
-    row.setText(column, ToScreen(platform::FormatMoney(amount)));
-    row.setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
-    row.setData(column, kSortRole, qlonglong{amount.Scaled()});
+void LedgerList::ShowCaptions(const std::vector<core::TableColumn>& columns) {
+    const int shown = static_cast<int>(columns.size() - kHidden);
+    setColumnCount(shown);
+    if (sortedBy_ >= shown) sortedBy_ = -1;
+    for (int place = 0; place < shown; ++place) {
+        const core::TableColumn& column = columns[static_cast<std::size_t>(place) + kHidden];
+        const bool isDescription = column.caption == "Description";
+        headerItem()->setText(place, ToScreen(column.caption));
+        headerItem()->setTextAlignment(
+            place, (column.format.right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        header()->setSectionResizeMode(
+            place, isDescription ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    }
+}
+
+void LedgerList::ShowTicks(const std::vector<bool>& ticks) {
+    Fill([&] {
+        for (int i = 0; i < topLevelItemCount(); ++i) {
+            QTreeWidgetItem& row = *topLevelItem(i);
+            row.setCheckState(0, ticks.at(PlaceOf(row)) ? Qt::Checked : Qt::Unchecked);
+        }
+    });
 }
 
 std::int32_t LedgerList::IdOf(const QTreeWidgetItem& row) {
     return row.data(0, kIdRole).toInt();
 }
 
-int LedgerList::FlagsOf(const QTreeWidgetItem& row) {
-    return row.data(0, kFlagsRole).toInt();
+std::int16_t LedgerList::FlagsOf(const QTreeWidgetItem& row) {
+    return static_cast<std::int16_t>(row.data(0, kFlagsRole).toInt());
+}
+
+std::size_t LedgerList::PlaceOf(const QTreeWidgetItem& row) {
+    return static_cast<std::size_t>(row.data(0, kPlaceRole).toULongLong());
 }
 
 void LedgerList::ShowRows(const QList<QTreeWidgetItem*>& rows) {

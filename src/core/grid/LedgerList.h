@@ -4,8 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "platform/values/Currency.h"
-#include "platform/values/Date.h"
+#include "core/Table.h"
 
 namespace core::grid {
 
@@ -18,6 +17,12 @@ class LedgerList : public QTreeWidget {
     explicit LedgerList(QWidget* parent = nullptr);
 
     void SetTicks(bool ticks) { ticks_ = ticks; }
+    /// Shows the rows of a table: its first column has their ids, the second their flags, and the
+    /// third their dates, beside which the ticks are. The descriptions take the width that the
+    /// other columns leave. The current row stays current.
+    void ShowTable(const core::Table& table, const std::vector<bool>& ticks = {});
+    /// Sets only the ticks, in the order of the table.
+    void ShowTicks(const std::vector<bool>& ticks);
 
     /// Returns the selected rows from top to bottom.
     std::vector<std::int32_t> SelectedIds() const;
@@ -31,17 +36,11 @@ class LedgerList : public QTreeWidget {
     void DeleteAsked();
 
   protected:
-    /// The first item data role free for derived lists.
-    static constexpr int kOwnRole = Qt::UserRole + 3;
-
-    /// Creates a row that isn't shown yet, with its date in the first column.
-    QTreeWidgetItem* MakeRow(std::int32_t id, int flags, platform::Date date, bool ticked) const;
-    static void SetMoney(QTreeWidgetItem& row, int column, platform::Currency amount);
     static std::int32_t IdOf(const QTreeWidgetItem& row);
-    static int FlagsOf(const QTreeWidgetItem& row);
+    static std::int16_t FlagsOf(const QTreeWidgetItem& row);
+    /// Returns the place of the row in the table, counted from 0.
+    static std::size_t PlaceOf(const QTreeWidgetItem& row);
 
-    /// Replaces the shown rows. The current row stays current.
-    void ShowRows(const QList<QTreeWidgetItem*>& rows);
     /// Runs `work`, whose changes to the items don't count as the user's.
     template <class Work>
     void Fill(Work&& work) {
@@ -55,6 +54,8 @@ class LedgerList : public QTreeWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void ShowCaptions(const std::vector<core::TableColumn>& columns);
+    void ShowRows(const QList<QTreeWidgetItem*>& rows);
     void SortBy(int column);
 
     bool ticks_ = false;

@@ -1,26 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
-#include <string>
 #include <vector>
 
 #include "core/grid/LedgerList.h"
-#include "leases/RentCodes.h"
 
 namespace leases::screens {
-
-/// A line of the list: one charge or credit of the ledger.
-struct ChargeLine {
-    std::int32_t idRentLog = 0;
-    RentFlags flags = RentFlags::Ordinary;
-    platform::Date date;
-    std::string category;
-    std::string description;
-    platform::Currency amount;
-    std::optional<platform::Currency> openTotal;
-    bool ticked = false;
-};
 
 /// Which charges a command selects together.
 enum class ChargePick { All, Rent, Other };
@@ -31,12 +16,6 @@ class ChargeList : public core::grid::LedgerList {
 
   public:
     explicit ChargeList(QWidget* parent = nullptr);
-
-    /// Sets the captions of the columns, in the order date, category, description, amount, running
-    /// total, and the share of the width that each takes; a column without a share is hidden.
-    void SetColumns(const QStringList& captions, const std::vector<int>& percents);
-    /// Shows these lines. The current row stays current.
-    void ShowLines(const std::vector<ChargeLine>& lines);
 
     std::vector<std::int32_t> TickedIds() const;
     /// All rows, from the top.
@@ -53,14 +32,8 @@ class ChargeList : public core::grid::LedgerList {
     void TicksChanged();
     void SelectionMoved();
 
-  protected:
-    void resizeEvent(QResizeEvent* event) override;
-
   private:
     static bool IsPicked(const QTreeWidgetItem& row, ChargePick pick);
-    void ShareWidth();
-
-    std::vector<int> percents_;
 };
 
 } // namespace leases::screens

@@ -15,6 +15,7 @@
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/PanelCommand.h"
 #include "leases/DeleteCharges.h"
+#include "leases/LedgerTable.h"
 #include "leases/screens/ChargeList.h"
 #include "leases/screens/PickMenu.h"
 #include "leases/screens/frmRentPayment.h"
@@ -28,20 +29,6 @@ namespace leases::screens {
 using core::forms::Guarded;
 using core::forms::PerformOn;
 using platform::qt::ToScreen;
-
-namespace {
-
-std::vector<ChargeLine> LinesOf(const std::vector<LedgerRow>& rows) {
-    std::vector<ChargeLine> lines;
-    lines.reserve(rows.size());
-    for (const LedgerRow& row : rows) {
-        lines.push_back({row.idRentLog, row.flags, row.datePosted, row.category, row.description,
-                         row.amount, row.openTotal});
-    }
-    return lines;
-}
-
-} // namespace
 
 Lease_Ledger::Lease_Ledger(QWidget* parent)
     : QWidget(parent),
@@ -157,13 +144,9 @@ void Lease_Ledger::OfferTabs(bool subsidy, bool option) {
 }
 
 void Lease_Ledger::ShowRows() {
-    const bool isOpen = Tab().rows == LedgerRows::Open;
-    list_->SetColumns(
-        {tr("Date Posted"), tr("Category"), tr("Description"), tr("Amount"), tr("Open Total")},
-        {15, 18, 37, 15, isOpen ? 15 : 0});
     const std::vector<LedgerRow> rows =
         idLease_ == 0 ? std::vector<LedgerRow>() : ReadLedger(idLease_, Tab());
-    list_->ShowLines(LinesOf(rows));
+    list_->ShowTable(LedgerTable(rows, Tab().rows));
     ShowTotal(rows);
     ShowAvailable();
 }

@@ -11,6 +11,7 @@
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/OpenForms.h"
 #include "leases/DeleteCharges.h"
+#include "leases/LedgerTable.h"
 #include "leases/PaymentOutlook.h"
 #include "leases/screens/PickMenu.h"
 #include "leases/screens/frmRentSplit.h"
@@ -35,9 +36,6 @@ frmRentPayment::frmRentPayment(QWidget* parent)
     ui_->setupUi(this);
     ui_->dpEffectiveDate->SetRequired(true);
     ui_->lvwCharges->SetTicks(true);
-    ui_->lvwCharges->SetColumns(
-        {tr("Date"), tr("Category"), tr("Description"), tr("Amount"), QString()},
-        {20, 20, 40, 15, 0});
     ui_->cboFromType->addItem(tr("Account"), core::kAccount);
     ui_->cboFromType->addItem(tr("Tenant"), core::kTenant);
     AddChargeItems();
@@ -176,13 +174,10 @@ void frmRentPayment::ShowCharges() {
 }
 
 void frmRentPayment::ListCharges() {
-    std::vector<ChargeLine> lines;
-    lines.reserve(payment_.charges.size());
-    for (const PaymentCharge& charge : payment_.charges) {
-        lines.push_back({charge.idRentLog, charge.flags, charge.datePosted, charge.category,
-                         charge.description, charge.amount, std::nullopt, charge.selected});
-    }
-    ui_->lvwCharges->ShowLines(lines);
+    std::vector<bool> ticks;
+    for (const PaymentCharge& charge : payment_.charges)
+        ticks.push_back(charge.selected);
+    ui_->lvwCharges->ShowTable(ChargeTable(payment_.charges), ticks);
     ShowTotal();
     ShowAvailable();
 }

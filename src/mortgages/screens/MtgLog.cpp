@@ -13,6 +13,7 @@
 #include "core/binding/Tags.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/PanelCommand.h"
+#include "mortgages/LogTable.h"
 #include "mortgages/screens/LogList.h"
 #include "mortgages/screens/frmMortgagePayment.h"
 #include "platform/qt/Text.h"
@@ -41,9 +42,6 @@ MtgLog::MtgLog(QWidget* parent)
     list_->setObjectName(QStringLiteral("lvw"));
     list_->setAccessibleName(tr("Charges and payments"));
     list_->setMinimumHeight(140);
-    list_->SetColumns({tr("Date Posted"), tr("Category"), tr("Description"), tr("Principal"),
-                       tr("Paydown"), tr("Interest"), tr("Other"), tr("Total")},
-                      2, 2);
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs_);
@@ -125,19 +123,7 @@ void MtgLog::Load(std::int32_t idMortgage) {
 
 void MtgLog::ShowRows() {
     rows_ = idMortgage_ == 0 ? std::vector<LogRow>() : ReadLog(idMortgage_, Part());
-    std::vector<LogLine> lines;
-    lines.reserve(rows_.size());
-    for (const LogRow& row : rows_) {
-        const MortgageLogEntry& entry = row.entry;
-        lines.push_back(
-            {.idMortgageLog = row.idMortgageLog,
-             .flags = entry.flags,
-             .date = entry.datePosted,
-             .texts = std::vector{ToScreen(entry.category), ToScreen(entry.description)},
-             .amounts = std::vector{entry.principal, entry.payDown, entry.interest, entry.other,
-                                    row.total}});
-    }
-    list_->ShowLines(lines);
+    list_->ShowTable(LogTable(rows_));
     ShowAvailable();
 }
 

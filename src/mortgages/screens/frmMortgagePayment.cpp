@@ -6,6 +6,7 @@
 #include "core/RecordKinds.h"
 #include "core/forms/ErrorRoll.h"
 #include "mortgages/LogRows.h"
+#include "mortgages/LogTable.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/qt/Text.h"
 #include "platform/values/Format.h"
@@ -20,8 +21,6 @@ frmMortgagePayment::frmMortgagePayment(QWidget* parent)
     : PaymentForm(parent), ui_(std::make_unique<Ui::frmMortgagePayment>()) {
     ui_->setupUi(this);
     ui_->lvwCharges->SetTicks(true);
-    ui_->lvwCharges->SetColumns(
-        {tr("Date"), tr("Period"), tr("Category"), tr("Description"), tr("Amount")}, 3, 3);
     AddChargeItems();
     WirePayment(*ui_->lvwCharges);
     connect(ui_->lvwCharges, &LogList::Ticked, this,
@@ -75,29 +74,20 @@ void frmMortgagePayment::FillParties() {
 
 void frmMortgagePayment::ShowCharges() {
     ReadCharges(payment_);
-    std::vector<LogLine> lines;
-    lines.reserve(payment_.charges.size());
-    for (const PaymentCharge& charge : payment_.charges) {
-        lines.push_back(
-            {.idMortgageLog = charge.idMortgageLog,
-             .flags = charge.flags,
-             .date = charge.datePosted,
-             .texts = std::vector{QString::number(charge.period), ToScreen(charge.category),
-                                  ToScreen(charge.description)},
-             .amounts = std::vector{charge.total},
-             .ticked = charge.selected});
-    }
-    ui_->lvwCharges->ShowLines(lines);
-    ui_->lblEmpty->setText(lines.empty() ? tr("Nothing is open") : QString());
-    ShowTicks();
+    ui_->lvwCharges->ShowTable(ChargeTable(payment_.charges), Ticks());
+    ui_->lblEmpty->setText(payment_.charges.empty() ? tr("Nothing is open") : QString());
+    ShowTotal();
+}
+
+std::vector<bool> frmMortgagePayment::Ticks() const {
+    std::vector<bool> ticks;
+    for (const PaymentCharge& charge : payment_.charges)
+        ticks.push_back(charge.selected);
+    return ticks;
 }
 
 void frmMortgagePayment::ShowTicks() {
-    std::vector<bool> ticks;
-    ticks.reserve(payment_.charges.size());
-    for (const PaymentCharge& charge : payment_.charges)
-        ticks.push_back(charge.selected);
-    ui_->lvwCharges->ShowTicks(ticks);
+    ui_->lvwCharges->ShowTicks(Ticks());
     ShowTotal();
 }
 

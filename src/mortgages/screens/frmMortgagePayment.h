@@ -34,6 +34,7 @@ class frmMortgagePayment : public books::screens::PaymentForm {
   private:
     void AddChargeItems();
     void ShowCharges();
+    std::vector<bool> Ticks() const;
     void ShowTicks();
     void ShowTotal();
     void TickOne(std::size_t charge, bool on);

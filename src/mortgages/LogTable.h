@@ -1,0 +1,18 @@
+#pragma once
+
+#include <vector>
+
+#include "core/RowTable.h"
+#include "mortgages/LogRows.h"
+#include "mortgages/MortgagePayment.h"
+
+namespace mortgages {
+
+// Rows of a mortgage's log as tables. Their first column holds the ids in the log, their second the
+// flags.
+
+core::RowTable<LogRow> LogTable(std::vector<LogRow> rows);
+/// The charges that a payment may settle.
+core::RowTable<PaymentCharge> ChargeTable(std::vector<PaymentCharge> charges);
+
+} // namespace mortgages
