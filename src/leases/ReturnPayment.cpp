@@ -78,19 +78,23 @@ std::int32_t LastOptionCredit(std::int32_t idLease, std::int32_t idTransaction,
     return next.IsNull() ? std::numeric_limits<std::int32_t>::max() : next.AsLong();
 }
 
-/// The option credits that a payment earned for so many rents.
+/// The option credits that a payment earned for so many rents. Without a row of its own, they are
+/// told from the credits that the user entered since by their description.
 Currency OptionCreditOf(std::int32_t idLease, std::int32_t idTransaction, std::int32_t idPaymentRow,
                         int rents) {
     Currency total;
     if (rents == 0) return total;
     Recordset rows = core::Read(
-        "SELECT Amount FROM RentLog WHERE (IdLease = ?) AND (Class = 4) AND (Flags = 0) AND "
-        "(Category = ?) AND (Amount > 0) AND (IdRentLog > ?) AND (IdRentLog <= ?) "
-        "ORDER BY IdRentLog",
+        "SELECT Amount, Description FROM RentLog WHERE (IdLease = ?) AND (Class = 4) AND "
+        "(Flags = 0) AND (Category = ?) AND (Amount > 0) AND (IdRentLog > ?) AND "
+        "(IdRentLog <= ?) ORDER BY IdRentLog",
         {idLease, kCategoryOptionCredit, idPaymentRow != 0 ? idPaymentRow : idTransaction,
          LastOptionCredit(idLease, idTransaction, idPaymentRow, rents)});
-    for (; !rows.Eof() && rents > 0; rows.MoveNext(), --rents)
+    for (; !rows.Eof() && rents > 0; rows.MoveNext()) {
+        if (idPaymentRow == 0 && TextOf(rows["Description"]) != kCategoryOptionCredit) continue;
         total += MoneyOf(rows["Amount"]);
+        --rents;
+    }
     return total;
 }
 

@@ -209,3 +209,20 @@ each
   other return | reversal | description
   the books balance | 4 | Rent Payment for O'Brien, 12 Elm Street A
   return payment 3 | 5 | Returned 02/03/2024: Rent Payment for O'Brien, 12 Elm Street A
+# A payment that earned no option credit takes none along that was entered by hand since.
+given
+  it is 01/02/2024
+  DateUpdated = 01/02/2024
+  Option = True
+  OptionCredit = 0
+  charge rent 1000 on 01/01/2024
+  settle from credit yes
+  pay amount 2000
+when
+  today 02/03/2024
+  INSERT INTO RentLog (IdRentLog, IdLease, IdTransaction, Class, Flags, DatePosted, Category,
+    Amount, Description) VALUES (99000, 101, 0, 4, 0, '02/03/2024', 'Option Credit', 5000, 'Paid')
+  return payment 1
+then
+  owed -> rent 2000
+  SELECT Sum(Amount) FROM RentLog WHERE Class = 4 -> 5000
