@@ -12,11 +12,13 @@
 #include "platform/database/Connection.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/values/Errors.h"
+#include "removal/RentCredits.h"
 
 namespace leases {
 
 using platform::ConflictError;
 using platform::Date;
+using removal::SetDescription;
 
 namespace {
 
@@ -55,11 +57,6 @@ void WriteSides(ReturnPlan& plan, std::int32_t idReversal) {
     const std::int32_t idCounterpart = WriteRentLog(plan.counterpart);
     WriteRentLog(plan.payment);
     TieCredit(idCounterpart, idOrigin, plan.returned.idLease, idReversal);
-}
-
-void SetDescription(std::int32_t idTransaction, const std::string& description) {
-    core::Execute("UPDATE Transactions SET Description = ? WHERE IdTransaction = ?",
-                  {description, idTransaction});
 }
 
 /// Marks a payment from credit that settles nothing any more.

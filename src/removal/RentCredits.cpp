@@ -26,11 +26,6 @@ std::string MarkOf(const std::string& description) {
     return isMark ? mark : std::string();
 }
 
-void SetDescription(std::int32_t idTransaction, const std::string& description) {
-    core::Execute("UPDATE Transactions SET Description = ? WHERE IdTransaction = ?",
-                  {description, idTransaction});
-}
-
 /// Whether another payment of the lease was returned with this mark.
 bool IsMarkOfOther(const std::string& mark, std::int32_t idLease, std::int32_t idReturn) {
     Recordset others = core::Read(
@@ -172,6 +167,11 @@ std::string KeepReturnMark(std::int32_t idTransaction, const std::string& descri
         "SELECT Description FROM Transactions WHERE IdTransaction = ?", {idTransaction});
     const std::string mark = MarkOf(platform::AsOr0<std::string>(stored));
     return description.starts_with(mark) ? description : mark + description;
+}
+
+void SetDescription(std::int32_t idTransaction, const std::string& description) {
+    core::Execute("UPDATE Transactions SET Description = ? WHERE IdTransaction = ?",
+                  {description, idTransaction});
 }
 
 void UndoReturn(std::int32_t idReturn) {

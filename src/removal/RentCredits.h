@@ -51,10 +51,13 @@ std::string ReturnMark(platform::Date day);
 /// Returns a description for a payment that is saved again: with the mark that the stored one has.
 std::string KeepReturnMark(std::int32_t idTransaction, const std::string& description);
 
+/// Replaces the description of a transaction.
+void SetDescription(std::int32_t idTransaction, const std::string& description);
+
 /// Takes the mark off the payment that this transaction has returned, and off the payments from its
 /// credit that the return has left empty, before the transaction is deleted; does nothing for other
-/// transactions. If another payment of the lease was returned on that day, empty ones keep the
-/// mark: they may be the other's.
+/// transactions. Empty ones keep the mark if the returned payment was deleted before, or if another
+/// payment of the lease was returned on that day: they may be the other's.
 void UndoReturn(std::int32_t idReturn);
 
 } // namespace removal
