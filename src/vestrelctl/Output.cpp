@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <iostream>
 #include <sstream>
 #include <string>
@@ -37,6 +38,8 @@ class HeldOutput {
 
 /// Writes past the stream, which would try what it couldn't write once more when the program ends.
 bool Write(std::string_view text) {
+    // Without a reader the program would end here, as though nothing had been booked.
+    std::signal(SIGPIPE, SIG_IGN);
     while (!text.empty()) {
         const ssize_t written = write(STDOUT_FILENO, text.data(), text.size());
         if (written < 0 && errno == EINTR) continue;
