@@ -113,6 +113,7 @@ void Follow(std::span<const DigestRow> rows) {
     }
     for (const std::int32_t idLease : leases)
         leases::StoreBalances(idLease);
+    core::NotifyAll(core::kFileObject, core::kRecordsChanged, 0); // the files attached to the rows
 }
 
 /// Whether a run has posted a deleted row again, under another id.
