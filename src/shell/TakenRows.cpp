@@ -44,7 +44,7 @@ void AddTo(RunDigest& digest, const core::TakenRow& taken) {
         {{.date = taken.date,
           .category = category,
           .amount = MoneyIn(content, taken.recordKind == core::kMortgage ? "Total" : "Amount"),
-          .reason = {.posting = taken.posting},
+          .reason = core::RunReason{.posting = taken.posting},
           .id = taken.rowId}});
 }
 
