@@ -80,12 +80,12 @@ class Importer {
     }
 
     void WriteRecord(const std::vector<PortItem>& items) {
-        if (known_ != nullptr && known_->Has(items)) ++knownRecords_;
         cells_.resize(items.size());
         scratch_.resize(std::max(scratch_.size(), items.size()));
         for (std::size_t i = 0; i < items.size(); ++i)
             cells_[i] = CellOf(items[i], i);
         writer_->Add(cells_);
+        if (known_ != nullptr && known_->Has(items)) ++knownRecords_;
         if (++records_ % kRowsBetweenProgress == 0) watcher_.Progress(records_, check_.records);
     }
 
@@ -215,11 +215,10 @@ ImportOutcome AskAndWrite(const std::filesystem::path& file, ImportRows rows, Im
         std::string written;
         ImportOutcome outcome = WriteRecords({file, rows, check, agreed}, watcher, written);
         if (outcome.known > agreed) {
-            check = CheckImport(file, rows, watcher);
-            if (!check.outcome.Succeeded()) return check.outcome;
+            check.known = outcome.known; // in the letters of the file, and of this moment
             continue;
         }
-        if (!outcome.Succeeded()) written = WrittenNote(outcome.written, rows) + written;
+        if (!outcome.Succeeded()) written.insert(0, WrittenNote(outcome.written, rows));
         note = written + note;
         return outcome;
     }

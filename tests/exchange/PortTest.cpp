@@ -324,6 +324,15 @@ TEST_F(PortTest, FindsTheRecordsThatTheDatabaseHas) {
     EXPECT_THAT(asked, testing::ElementsAre(1, 2));
     EXPECT_EQ(outcome.known, 2);
     EXPECT_EQ(Ask("SELECT Count(*) FROM Room"), "4");
+
+    // A record in the letters of another make is known only when it is written.
+    Run("INSERT INTO TransCategory (Category, IEN) VALUES ('B\xC3\xBCro', 1)");
+    WriteText(PathTo("database.csv"), categories + "\"Record\",1,\"B\xFCro\",\"/Record\"\n");
+    EXPECT_EQ(ImportDatabase(PathTo("database.csv"), ImportMode::Write, ImportRows::Append,
+                             ImportMessages::Quiet, agreeing)
+                  .known,
+              1);
+    EXPECT_THAT(asked, testing::ElementsAre(1, 2, 1));
 }
 
 } // namespace
