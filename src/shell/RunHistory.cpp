@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <exception>
 #include <fstream>
 #include <optional>
 #include <utility>
@@ -119,7 +120,8 @@ class Reader {
     explicit Reader(Date since) : since_(since) {}
 
     void Read(const std::string& text) {
-        if (since_.IsSet() && DayOf(text) < since_) {
+        const Date day = DayOf(text); // unset in a line that can't be read
+        if (since_.IsSet() && day.IsSet() && day < since_) {
             page_.hasEarlier = true;
             return;
         }
@@ -222,8 +224,14 @@ void RunRecorder::Failed(int recordKind, std::int32_t id, std::string_view descr
 
 void RunRecorder::Append(const std::string& line) {
     if (file_.empty() || !fault_.empty()) return;
+    if (!std::exchange(hasWritten_, true)) {
+        try {
+            DropOldRuns(file_);
+        } catch (const std::exception&) {
+            // Old runs do no harm; the next run tries to drop them again.
+        }
+    }
     try {
-        if (!std::exchange(hasWritten_, true)) DropOldRuns(file_);
         platform::AppendLine(file_, line, PermissionsOfBooks());
     } catch (const platform::Error& failure) {
         fault_ = failure.what();

@@ -24,12 +24,12 @@ RunTable::RunTable(const std::vector<PastRun>& runs)
                 MakeColumn("Errors", FieldType::Long)}) {}
 
 Value RunTable::ValueAt(std::int64_t row, std::size_t column) const {
-    enum Column : std::size_t { Number, At, Days, Rows, Errors };
+    enum Column : std::size_t { Number, RanAt, Days, Rows, Errors };
     const PastRun& run = runs_[static_cast<std::size_t>(row)];
     switch (column) {
         case Number:
             return Count(row + 1);
-        case At:
+        case RanAt:
             return run.at;
         case Days:
             return run.Days();

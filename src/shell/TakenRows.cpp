@@ -69,7 +69,7 @@ std::optional<PastRun> RunOfTakenRows(const TakenRows& taken, const std::vector<
         }
     }
     if (left.empty()) return std::nullopt;
-    PastRun run{.name = "taken back", .at = "Taken back, of earlier runs"};
+    PastRun run{.name = std::string(kRunOfTakenRows), .at = "Taken back, of earlier runs"};
     std::vector<core::TakenRow> rows;
     std::ranges::copy(left | std::views::values, std::back_inserter(rows));
     std::ranges::stable_sort(rows, {}, &core::TakenRow::date);

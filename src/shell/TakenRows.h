@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "core/TakenBack.h"
@@ -15,6 +16,9 @@ using TakenRows = std::multimap<std::int32_t, core::TakenRow>;
 
 /// Reads the rows that were taken back in these books. Throws on failure.
 std::shared_ptr<const TakenRows> ReadTakenRows();
+
+/// The name of the run that RunOfTakenRows returns.
+inline constexpr std::string_view kRunOfTakenRows = "taken back";
 
 /// Returns the rows that were taken back and that none of the runs has, as a run of its own, so
 /// that they can be posted again; nothing if there are none. Restored books have such rows, and

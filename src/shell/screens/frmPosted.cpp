@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -236,7 +237,9 @@ void frmPosted::changeEvent(QEvent* event) {
 
 void frmPosted::Refresh() {
     takenBack_ = ReadTakenRows();
+    const int place = list_->verticalScrollBar()->value();
     ShowRows(list_->SelectedIds());
+    list_->verticalScrollBar()->setValue(place);
 }
 
 void frmPosted::FollowHistory() {
@@ -260,6 +263,9 @@ void frmPosted::ReadAgain() {
     }
     core::forms::Guarded([this] { ReadRuns(); });
     ShowRuns(run);
+    // Rows of another run have other numbers, and those taken back are counted anew each time.
+    const bool isSameRun = ShownRun() != nullptr && ShownRun()->name == run;
+    if (!isSameRun || run == kRunOfTakenRows) return ShowRows({});
     for (std::int32_t& number : selected) {
         if (number > skipped)
             number += static_cast<std::int32_t>(std::ssize(ShownDigest().Faults()) - skipped);
