@@ -124,7 +124,8 @@ References ReadReferences(Recordset& rows) {
     Transaction transaction;
     for (const FieldOf& field : kReferences)
         field.read(rows[field.name], transaction);
-    return transaction;
+    const References& references = transaction;
+    return references;
 }
 
 Transaction ReadTransactionFields(Recordset& rows) {

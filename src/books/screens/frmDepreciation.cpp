@@ -15,7 +15,6 @@
 
 namespace books::screens {
 
-using core::forms::Guarded;
 using platform::qt::ChartDepth;
 using platform::qt::ChartShape;
 using platform::qt::ToScreen;
