@@ -263,7 +263,7 @@ void frmPosted::ReadAgain() {
     }
     core::forms::Guarded([this] { ReadRuns(); });
     ShowRuns(run);
-    // Rows of another run have other numbers, and those taken back are counted anew each time.
+    // Rows of another run have other numbers, and those taken back are numbered again each time.
     const bool isSameRun = ShownRun() != nullptr && ShownRun()->name == run;
     if (!isSameRun || run == kRunOfTakenRows) return ShowRows({});
     for (std::int32_t& number : selected) {
