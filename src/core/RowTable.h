@@ -19,7 +19,7 @@ class RowTable : public Table {
       public:
         template <class Get>
         Column(std::string_view caption, platform::FieldType type, Get get)
-            : shown_{std::string(caption), type, FormatOf(type, caption)},
+            : shown_(MakeColumn(caption, type)),
               read_([get](const Row& row) { return AsValue(std::invoke(get, row)); }) {}
 
       private:

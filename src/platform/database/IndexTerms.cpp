@@ -6,6 +6,7 @@
 
 #include "platform/database/EngineFailure.h"
 #include "platform/database/PreparedStatement.h"
+#include "platform/values/Text.h"
 
 namespace platform {
 
@@ -21,14 +22,6 @@ bool IsPlain(std::string_view form) {
     return std::ranges::all_of(form, [](char c) {
         return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
     });
-}
-
-std::string Lower(std::string_view plain) {
-    std::string lower(plain);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    }
-    return lower;
 }
 
 } // namespace
@@ -61,7 +54,7 @@ SearchWord IndexTerms::WrittenOut(const SearchWord& word) {
     if (word.isWhole || !std::ranges::all_of(word.forms, isLongBeginning)) return word;
     SearchWord written{.forms = {}, .isWhole = true};
     for (const std::string& form : word.forms) {
-        if (!AddTerms(Lower(form), written.forms)) return word;
+        if (!AddTerms(ToLower(form), written.forms)) return word;
     }
     return written;
 }
