@@ -39,7 +39,7 @@ bool HasTwice(std::vector<std::string> names) {
 
 class Checker {
   public:
-    Checker(ImportRows rows, ImportCheck& found) : rows_(rows), found_(found) {}
+    Checker(KnownRecords known, ImportCheck& found) : knownRecords_(known), found_(found) {}
 
     /// Returns the error in the reader's line; empty if there is none.
     std::string_view CheckLine(const PortReader& reader) {
@@ -72,7 +72,7 @@ class Checker {
         ++found_.tables;
         if (platform::EqualIgnoringCase(table_->name, kConfigurationTable)) {
             found_.hasConfiguration = true;
-        } else if (rows_ == ImportRows::Append) {
+        } else if (knownRecords_ == KnownRecords::Count) {
             known_.emplace(*table_);
         }
         return {};
@@ -102,7 +102,7 @@ class Checker {
         return {};
     }
 
-    ImportRows rows_;
+    KnownRecords knownRecords_;
     ImportCheck& found_;
     // A copy, since the session may be closed by a window message while the file is read.
     std::optional<platform::dialect::Table> table_;
@@ -110,13 +110,13 @@ class Checker {
     std::size_t fields_ = 0;
 };
 
-void CheckLines(PortReader& reader, ImportRows rows, ImportCheck& found,
+void CheckLines(PortReader& reader, KnownRecords known, ImportCheck& found,
                 const PortWatcher& watcher) {
     if (reader.IsUtf16()) {
         found.outcome = {std::string(kUtf16), 1};
         return;
     }
-    Checker checker(rows, found);
+    Checker checker(known, found);
     for (std::int64_t lines = 1; reader.NextLine(); ++lines) {
         const std::string_view error = checker.CheckLine(reader);
         if (!error.empty()) {
@@ -140,7 +140,7 @@ std::vector<std::string> TextsOf(const std::vector<PortItem>& items) {
     return texts;
 }
 
-ImportCheck CheckImport(const std::filesystem::path& file, ImportRows rows,
+ImportCheck CheckImport(const std::filesystem::path& file, KnownRecords known,
                         const PortWatcher& watcher) {
     ImportCheck found;
     if (!platform::FileExists(file.string()) || std::filesystem::is_directory(file)) {
@@ -150,7 +150,7 @@ ImportCheck CheckImport(const std::filesystem::path& file, ImportRows rows,
     std::optional<PortReader> reader;
     try {
         reader.emplace(file, PortReader::Letters::Utf8);
-        CheckLines(*reader, rows, found, watcher);
+        CheckLines(*reader, known, found, watcher);
     } catch (const platform::Error& failure) {
         found.outcome = {failure.what(), reader ? reader->Number() : 0};
     }

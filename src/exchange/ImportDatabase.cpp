@@ -1,6 +1,7 @@
 #include <limits>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include <fmt/core.h>
@@ -192,24 +193,18 @@ std::string EndText(const ImportCheck& check, const std::string& note) {
                        check.tables, check.records, note);
 }
 
-constexpr std::string_view kDeclined = "the import was cancelled.";
-
-bool IsDeclined(const ImportOutcome& outcome) {
-    return outcome.error == kDeclined;
-}
-
 /// Asks whether to add what the database has already, and writes the records. Another program may
 /// add some of them while the user is asked: then nothing is written, and the question is put again
-/// with the new number.
-ImportOutcome AskAndWrite(const std::filesystem::path& file, ImportRows rows, ImportCheck check,
-                          const PortWatcher& watcher, std::string& note) {
+/// with the new number. Returns nothing if the user declines.
+std::optional<ImportOutcome> AskAndWrite(const std::filesystem::path& file, ImportRows rows,
+                                         ImportCheck check, const PortWatcher& watcher,
+                                         std::string& note) {
     if (core::App().Connection.IsReadOnly())
         throw platform::DatabaseError("These books can only be read.");
     std::int64_t agreed = watcher.addAgain ? 0 : std::numeric_limits<std::int64_t>::max();
     for (;;) {
         if (check.known > agreed) {
-            if (!watcher.addAgain(check.known, check.records))
-                return {.error = std::string(kDeclined)};
+            if (!watcher.addAgain(check.known, check.records)) return std::nullopt;
             agreed = check.known;
         }
         std::string written;
@@ -219,7 +214,7 @@ ImportOutcome AskAndWrite(const std::filesystem::path& file, ImportRows rows, Im
             continue;
         }
         if (!outcome.Succeeded()) written.insert(0, WrittenNote(outcome.written, rows));
-        note = written + note;
+        note.insert(0, written);
         return outcome;
     }
 }
@@ -230,7 +225,9 @@ ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode,
                              ImportMessages messages, const PortWatcher& watcher) {
     watcher.Status("Starting Import ...");
     watcher.Progress(0, 0);
-    const ImportCheck check = CheckImport(file, rows, watcher);
+    const bool asks = mode == ImportMode::Write && rows == ImportRows::Append && watcher.addAgain;
+    const ImportCheck check =
+        CheckImport(file, asks ? KnownRecords::Count : KnownRecords::Ignore, watcher);
     std::string note(check.letters == PortReader::Letters::Latin1 ? kLatin1Note : "");
     ImportOutcome outcome = check.outcome;
     if (outcome.Succeeded() && mode == ImportMode::Test) {
@@ -240,13 +237,14 @@ ImportOutcome ImportDatabase(const std::filesystem::path& file, ImportMode mode,
     }
     if (outcome.Succeeded()) {
         try {
-            outcome = AskAndWrite(file, rows, check, watcher, note);
+            const auto written = AskAndWrite(file, rows, check, watcher, note);
+            if (!written) {
+                watcher.Status("Status: The import was cancelled. Nothing was imported.\n");
+                return {.error = "the import was cancelled."};
+            }
+            outcome = *written;
         } catch (const platform::Error& failure) {
             outcome.error = failure.what();
-        }
-        if (IsDeclined(outcome)) {
-            watcher.Status("Status: The import was cancelled. Nothing was imported.\n");
-            return outcome;
         }
         core::NotifyOfAllKinds();
     }

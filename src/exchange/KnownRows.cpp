@@ -59,7 +59,7 @@ KnownRows::KnownRows(const platform::dialect::Table& table) : keyFields_(KeyFiel
     for (; !rows.Eof(); rows.MoveNext()) {
         std::string key;
         for (std::size_t i = 0; i < keyFields_.size(); ++i)
-            AddToKey(key, rows[i].IsNull() ? std::string() : rows[i].AsText());
+            AddToKey(key, platform::TextOf(rows[i]));
         keys_.insert(std::move(key));
     }
 }
