@@ -149,7 +149,10 @@ void KeepLines(const fs::path& file, const std::function<bool(std::string_view l
         if (keeps(line)) kept += line;
         begin = end;
     }
-    if (kept.size() != text.size()) WriteFileAtomically(file, kept, fs::status(file).permissions());
+    if (kept.size() == text.size()) return;
+    struct stat stored {};
+    if (fstat(lock.Number(), &stored) != 0) Fail("write", file, errno);
+    WriteFileAtomically(file, kept, static_cast<fs::perms>(stored.st_mode) & fs::perms::mask);
 }
 
 } // namespace platform
