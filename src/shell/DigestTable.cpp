@@ -1,10 +1,8 @@
 #include "shell/DigestTable.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/values/Text.h"
-#include "shell/TakeBack.h"
 
 namespace shell {
 
@@ -74,11 +72,8 @@ std::optional<RecordPlace> DigestTable::RecordOf(std::int32_t number) const {
 
 platform::Date DigestTable::TakenOn(const DigestRow& row) const {
     if (!takenBack_) return {};
-    const core::TakenRow wanted = TakenRowOf(row);
-    const auto [first, end] = takenBack_->equal_range(row.rowId);
-    const auto found =
-        std::find_if(first, end, [&](const auto& taken) { return taken.second.IsSameRow(wanted); });
-    return found == end ? platform::Date() : found->second.takenOn;
+    const auto found = FindTaken(*takenBack_, row);
+    return found == takenBack_->end() ? platform::Date() : found->second.takenOn;
 }
 
 Value DigestTable::PostedValue(const DigestRow& row, std::size_t column) const {

@@ -57,15 +57,19 @@ std::shared_ptr<const TakenRows> ReadTakenRows() {
     return rows;
 }
 
+TakenRows::const_iterator FindTaken(const TakenRows& taken, const DigestRow& row) {
+    const core::TakenRow wanted = TakenRowOf(row);
+    const auto [first, end] = taken.equal_range(row.rowId);
+    const auto found =
+        std::find_if(first, end, [&](const auto& each) { return each.second.IsSameRow(wanted); });
+    return found == end ? taken.end() : found;
+}
+
 std::optional<PastRun> RunOfTakenRows(const TakenRows& taken, const std::vector<PastRun>& runs) {
     TakenRows left = taken;
     for (const PastRun& run : runs) {
         for (const DigestRow& row : run.digest.Rows()) {
-            const auto [first, end] = left.equal_range(row.rowId);
-            const auto found = std::find_if(first, end, [&](const auto& each) {
-                return each.second.IsSameRow(TakenRowOf(row));
-            });
-            if (found != end) left.erase(found);
+            if (const auto found = FindTaken(left, row); found != left.end()) left.erase(found);
         }
     }
     if (left.empty()) return std::nullopt;

@@ -17,6 +17,9 @@ using TakenRows = std::multimap<std::int32_t, core::TakenRow>;
 /// Reads the rows that were taken back in these books. Throws on failure.
 std::shared_ptr<const TakenRows> ReadTakenRows();
 
+/// Returns the place of a row among those that were taken back; the end if it wasn't.
+TakenRows::const_iterator FindTaken(const TakenRows& taken, const DigestRow& row);
+
 /// The name of the run that RunOfTakenRows returns.
 inline constexpr std::string_view kRunOfTakenRows = "taken back";
 

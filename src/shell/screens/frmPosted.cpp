@@ -166,7 +166,8 @@ void frmPosted::ReadRuns() {
     std::ranges::move(page.runs, std::back_inserter(runs_));
     earlier_->setVisible(page.hasEarlier);
     if (page.hasEarlier) return;
-    if (auto taken = RunOfTakenRows(*ReadTakenRows(), runs_)) runs_.push_back(std::move(*taken));
+    if (!takenBack_) return;
+    if (auto taken = RunOfTakenRows(*takenBack_, runs_)) runs_.push_back(std::move(*taken));
 }
 
 void frmPosted::ReadEarlierRuns() {
@@ -243,9 +244,9 @@ void frmPosted::Refresh() {
 }
 
 void frmPosted::FollowHistory() {
-    const bool isSame = read_ == StateOf(HistoryFile(core::App().Connection));
-    if (!isSame) ReadAgain();
-    Refresh();
+    if (read_ == StateOf(HistoryFile(core::App().Connection))) return Refresh();
+    takenBack_ = ReadTakenRows();
+    ReadAgain();
 }
 
 void frmPosted::ReadAgain() {
