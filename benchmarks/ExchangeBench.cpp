@@ -84,24 +84,6 @@ void MakeBooksApart(const fs::path& folder, int rows) {
                         });
 }
 
-struct Pair {
-    Cost ours;
-    Cost plain;
-};
-
-/// The quickest of several turns of each. They take turns, since the disk and the processor are
-/// shared with others.
-template <class Ours, class Plain>
-Pair BestOf(Ours ours, Plain plain, int times = kTimes) {
-    Pair best;
-    for (int i = 0; i < times; ++i) {
-        const Pair now = {ours(), plain()};
-        if (i == 0 || now.ours.seconds < best.ours.seconds) best.ours = now.ours;
-        if (i == 0 || now.plain.seconds < best.plain.seconds) best.plain = now.plain;
-    }
-    return best;
-}
-
 void PrintCost(const char* what, const Cost& cost) {
     fmt::print("{:<52} {:>8.3f} s {:>12.0f} rows/s {:>8.1f} MB\n", what, cost.seconds,
                cost.rows / cost.seconds, cost.peakMegabytes);
@@ -138,13 +120,14 @@ std::string TextOf(const fs::path& file) {
 
 void MeasureExport(const fs::path& folder) {
     const fs::path books = folder / "books";
-    const auto [ours, plain] = BestOf(
-        [&] { return Export(books, folder / "ours.csv", kRows); },
-        [&] {
-            return bench::InOwnProcess(
-                [] {},
-                [&] { return bench::PlainExport(books / "Vestrel.mdb", folder / "plain.csv"); });
-        });
+    const auto [ours, plain] = bench::BestInTurn<2>(
+        kTimes,
+        {[&] { return Export(books, folder / "ours.csv", kRows); },
+         [&] {
+             return bench::InOwnProcess(
+                 [] {},
+                 [&] { return bench::PlainExport(books / "Vestrel.mdb", folder / "plain.csv"); });
+         }});
     if (TextOf(folder / "ours.csv") != TextOf(folder / "plain.csv")) {
         throw std::runtime_error("the two exports differ\n");
     }
@@ -158,15 +141,16 @@ void MeasureExport(const fs::path& folder) {
 
 void MeasureImport(const fs::path& folder) {
     const fs::path other = folder / "other";
-    const auto [ours, plain] = BestOf(
-        [&] { return Import(other, folder / "ours.csv", kRows); },
-        [&] {
-            fs::remove_all(other);
-            MakeBooksApart(other, 0);
-            return bench::InOwnProcess(
-                [] {},
-                [&] { return bench::PlainImport(other / "Vestrel.mdb", folder / "ours.csv"); });
-        });
+    const auto [ours, plain] = bench::BestInTurn<2>(
+        kTimes,
+        {[&] { return Import(other, folder / "ours.csv", kRows); },
+         [&] {
+             fs::remove_all(other);
+             MakeBooksApart(other, 0);
+             return bench::InOwnProcess(
+                 [] {},
+                 [&] { return bench::PlainImport(other / "Vestrel.mdb", folder / "ours.csv"); });
+         }});
     PrintCost("Its import with its check", ours);
     PrintCost("  the same by a plain loop", plain);
     bench::Report("  ratio of time", ours.seconds / plain.seconds, 1.7);
@@ -179,25 +163,25 @@ void MeasureBackup(const fs::path& folder) {
     const fs::path books = folder / "many";
     const fs::path database = books / "Vestrel.mdb";
     const fs::path container = folder / "Vestrel.0.vbk";
-    const auto [ours, plain] = BestOf(
-        [&] {
-            fs::remove(container);
-            return bench::InOwnProcess([&] { OpenBooks(books); },
-                                       [&] {
-                                           std::string result;
-                                           exchange::PackDatabase(container, database, {}, result);
-                                           if (result != "Success")
-                                               throw std::runtime_error(result);
-                                           exchange::SyncContainer(container);
-                                           return static_cast<double>(fs::file_size(container));
-                                       });
-        },
-        [&] {
-            fs::remove(folder / "copy");
-            return bench::InOwnProcess([] {},
-                                       [&] { return bench::PlainCopy(database, folder / "copy"); });
-        },
-        kTimesOfABackup);
+    const auto [ours, plain] = bench::BestInTurn<2>(
+        kTimesOfABackup,
+        {[&] {
+             fs::remove(container);
+             return bench::InOwnProcess([&] { OpenBooks(books); },
+                                        [&] {
+                                            std::string result;
+                                            exchange::PackDatabase(container, database, {}, result);
+                                            if (result != "Success")
+                                                throw std::runtime_error(result);
+                                            exchange::SyncContainer(container);
+                                            return static_cast<double>(fs::file_size(container));
+                                        });
+         },
+         [&] {
+             fs::remove(folder / "copy");
+             return bench::InOwnProcess(
+                 [] {}, [&] { return bench::PlainCopy(database, folder / "copy"); });
+         }});
     constexpr double kMegabyte = 1e6;
     fmt::print("{:<52} {:>8.3f} s {:>12.0f} MB/s   {:>8.1f} MB\n", "Backup of the database",
                ours.seconds, ours.rows / kMegabyte / ours.seconds, ours.peakMegabytes);

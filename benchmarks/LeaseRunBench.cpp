@@ -1,6 +1,7 @@
 // The bring-up-to-date run of leases against plain C calls of the engine that do the same writing.
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 
 #include <fmt/core.h>
 
@@ -17,59 +18,44 @@ using platform::Date;
 const Date kFirstDue(2024, 1, 1);
 const Date kYearLater(2024, 12, 31);
 
-/// Each work three times, on new books each time; the quickest counts.
-template <class Once>
-Cost BestOfThree(Once once) {
-    Cost best = once();
-    for (int i = 0; i < 2; ++i) {
-        const Cost cost = once();
-        best.peakMegabytes = std::max(best.peakMegabytes, cost.peakMegabytes);
-        best.seconds = std::min(best.seconds, cost.seconds);
-    }
-    return best;
-}
+constexpr int kRounds = 5;
 
-Cost CatchUp(int leases) {
-    return BestOfThree([&] {
-        const support::TemporaryFolder folder;
-        const auto books = folder.Path() / "books";
-        bench::InOwnProcess([&] { bench::MakeBooks(books, leases, kFirstDue); },
-                            [] { return 0.0; });
-        return bench::InOwnProcess([&] { bench::OpenBooks(books); },
-                                   [] { return bench::RunLeases(kYearLater); });
-    });
-}
+using Work = std::function<Cost(const std::filesystem::path& books)>;
 
-Cost PlainCatchUp(int leases, int rowsPerLease) {
-    return BestOfThree([&] {
-        const support::TemporaryFolder folder;
-        const auto books = folder.Path() / "books";
-        bench::InOwnProcess([&] { bench::MakeBooks(books, leases, kFirstDue); },
-                            [] { return 0.0; });
-        return bench::InOwnProcess(
-            [] {}, [&] { return bench::RunPlainEngine(books, leases, rowsPerLease); });
-    });
-}
-
-/// Books that have been kept for two months and whose tenants have paid, one day on: nothing falls
-/// due, every lease is tested, summed up and written.
-template <class Work>
-Cost OneDayOn(int leases, Work work) {
-    return BestOfThree([&] {
+/// Does the work on books of their own, which `prepare` brings to where the work begins.
+std::function<Cost()> OnNewBooks(int leases, const std::function<void()>& prepare,
+                                 const Work& work) {
+    return [=] {
         const support::TemporaryFolder folder;
         const auto books = folder.Path() / "books";
         bench::InOwnProcess(
             [&] {
                 bench::MakeBooks(books, leases, kFirstDue);
+                if (!prepare) return;
                 bench::OpenBooks(books);
+                prepare();
             },
-            [] {
-                const double rows = bench::RunLeases(Date(2024, 3, 1));
-                bench::PayEverything(Date(2024, 4, 1));
-                return rows;
-            });
+            [] { return 0.0; });
         return work(books);
-    });
+    };
+}
+
+Work RunTo(const Date& day) {
+    return [day](const std::filesystem::path& books) {
+        return bench::InOwnProcess([&] { bench::OpenBooks(books); },
+                                   [day] { return bench::RunLeases(day); });
+    };
+}
+
+Work RunPlainly(int leases, int rowsPerLease) {
+    return [=](const std::filesystem::path& books) {
+        return bench::InOwnProcess(
+            [] {}, [&] { return bench::RunPlainEngine(books, leases, rowsPerLease); });
+    };
+}
+
+std::function<Cost()> CatchUp(int leases) {
+    return OnNewBooks(leases, {}, RunTo(kYearLater));
 }
 
 void PrintCost(const char* what, const Cost& cost) {
@@ -79,8 +65,9 @@ void PrintCost(const char* what, const Cost& cost) {
 
 void BenchCatchUp() {
     constexpr int kLeases = 2'000;
-    const Cost ours = CatchUp(kLeases);
-    const Cost plain = PlainCatchUp(kLeases, static_cast<int>(ours.rows) / kLeases);
+    const int rows = static_cast<int>(CatchUp(kLeases)().rows) / kLeases;
+    const auto [ours, plain] = bench::BestInTurn<2>(
+        kRounds, {CatchUp(kLeases), OnNewBooks(kLeases, {}, RunPlainly(kLeases, rows))});
     PrintCost("catch-up of 12 months, 2,000 leases", ours);
     PrintCost("  the same rows by the engine alone", plain);
     bench::Report("  ratio of time", ours.seconds / plain.seconds, 2.0);
@@ -89,13 +76,15 @@ void BenchCatchUp() {
 
 void BenchOneDay() {
     constexpr int kLeases = 5'000;
-    const Cost ours = OneDayOn(kLeases, [](const std::filesystem::path& books) {
-        return bench::InOwnProcess([&] { bench::OpenBooks(books); },
-                                   [] { return bench::RunLeases(Date(2024, 3, 2)); });
-    });
-    const Cost plain = OneDayOn(kLeases, [](const std::filesystem::path& books) {
-        return bench::InOwnProcess([] {}, [&] { return bench::RunPlainEngine(books, kLeases, 0); });
-    });
+    // Two months kept and paid: on the next day nothing falls due, but every lease is tested,
+    // summed up and written.
+    const auto keepTwoMonths = [] {
+        bench::RunLeases(Date(2024, 3, 1));
+        bench::PayEverything(Date(2024, 4, 1));
+    };
+    const auto [ours, plain] =
+        bench::BestInTurn<2>(kRounds, {OnNewBooks(kLeases, keepTwoMonths, RunTo(Date(2024, 3, 2))),
+                                       OnNewBooks(kLeases, keepTwoMonths, RunPlainly(kLeases, 0))});
     fmt::print("{:<52} {:>8.3f} s {:>8.1f} MB\n", "one day on, 5,000 leases", ours.seconds,
                ours.peakMegabytes);
     fmt::print("{:<52} {:>8.3f} s {:>8.1f} MB\n", "  the same sums and updates by the engine alone",
@@ -104,8 +93,7 @@ void BenchOneDay() {
 }
 
 void BenchGrowth() {
-    const Cost small = CatchUp(1'000);
-    const Cost large = CatchUp(5'000);
+    const auto [small, large] = bench::BestInTurn<2>(kRounds, {CatchUp(1'000), CatchUp(5'000)});
     PrintCost("catch-up of 12 months, 1,000 leases", small);
     PrintCost("catch-up of 12 months, 5,000 leases", large);
     bench::Report("  growth of time for five times the leases", large.seconds / small.seconds, 5.5);

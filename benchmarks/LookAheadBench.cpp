@@ -47,18 +47,12 @@ double LookAhead() {
 
 int Run() {
     core::RegisterRunStep(core::RunStep::Leases, leases::UpdateLeases);
-    Cost ahead;
-    Cost run;
-    // In turns, so that a busy moment of the machine meets both; the quickest of each counts.
-    for (int i = 0; i < 3; ++i) {
-        const Cost nextAhead = OnCurrentBooks(LookAhead);
-        const Cost nextRun = OnCurrentBooks([] { return bench::RunLeases(kUntil); });
-        if (nextAhead.rows != nextRun.rows)
-            throw std::runtime_error(
-                fmt::format("{} rows were foretold and {} posted", nextAhead.rows, nextRun.rows));
-        if (i == 0 || bench::IsQuicker(nextAhead, ahead)) ahead = nextAhead;
-        if (i == 0 || bench::IsQuicker(nextRun, run)) run = nextRun;
-    }
+    const auto [ahead, run] = bench::BestInTurn<2>(
+        5, {[] { return OnCurrentBooks(LookAhead); },
+            [] { return OnCurrentBooks([] { return bench::RunLeases(kUntil); }); }});
+    if (ahead.rows != run.rows)
+        throw std::runtime_error(
+            fmt::format("{} rows were forecast and {} posted", ahead.rows, run.rows));
     fmt::print("{:<52} {:>8.3f} s {:>8.1f} MB\n", "look ahead of 90 days, 2,000 leases",
                ahead.seconds, ahead.peakMegabytes);
     fmt::print("{:<52} {:>8.3f} s {:>8.1f} MB\n", "  the run that posts the same rows", run.seconds,

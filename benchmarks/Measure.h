@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <functional>
 #include <string_view>
 
@@ -14,13 +17,28 @@ struct Cost {
     double rows = 0;
 };
 
-inline bool IsQuicker(const Cost& one, const Cost& other) {
-    return one.seconds < other.seconds;
-}
-
 /// Runs `setUp` and then `work`, which returns its count of rows, in a process of their own, so
 /// that the peak of memory is theirs; only `work` is timed. The peak counts both.
 Cost InOwnProcess(const std::function<void()>& setUp, const std::function<double()>& work);
+
+/// Does each work `rounds` times, in turn, so that a busy moment of the disk or the processor slows
+/// all of them. Returns the quickest time of each, and the most memory that it took.
+template <std::size_t kCount>
+std::array<Cost, kCount> BestInTurn(int rounds,
+                                    const std::array<std::function<Cost()>, kCount>& works) {
+    std::array<Cost, kCount> best;
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t i = 0; i < kCount; ++i) {
+            Cost cost = works[i]();
+            if (round > 0) {
+                cost.seconds = std::min(cost.seconds, best[i].seconds);
+                cost.peakMegabytes = std::max(cost.peakMegabytes, best[i].peakMegabytes);
+            }
+            best[i] = cost;
+        }
+    }
+    return best;
+}
 
 /// Prints a measured ratio beside the limit it is held against; remembers whether all were kept.
 void Report(std::string_view what, double measured, double limit, std::string_view unit = "times");

@@ -126,14 +126,9 @@ Cost RunPlain(int rows) {
 }
 
 void BenchRun() {
-    constexpr int kRounds = 7; // in turn, so that a busy moment of the machine hits both
-    Cost ours = RunOurs();
-    const int rows = static_cast<int>(ours.rows) / kMortgages;
-    Cost plain = RunPlain(rows);
-    for (int round = 1; round < kRounds; ++round) {
-        ours = std::min(ours, RunOurs(), bench::IsQuicker);
-        plain = std::min(plain, RunPlain(rows), bench::IsQuicker);
-    }
+    const int rows = static_cast<int>(RunOurs().rows) / kMortgages;
+    const auto [ours, plain] =
+        bench::BestInTurn<2>(7, {RunOurs, [rows] { return RunPlain(rows); }});
     fmt::print("catch-up of 12 months, {} mortgages, {} rows each {:>8.3f} s {:>8.1f} MB\n",
                kMortgages, rows, ours.seconds, ours.peakMegabytes);
     fmt::print("  the same rows by the engine alone {:>8.3f} s {:>8.1f} MB\n", plain.seconds,

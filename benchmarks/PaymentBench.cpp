@@ -1,5 +1,8 @@
 // Payments of rent, one after the other and each durable by itself, against plain C calls of the
 // engine that write the same rows.
+#include <filesystem>
+#include <functional>
+
 #include <fmt/core.h>
 
 #include "BenchBooks.h"
@@ -32,18 +35,14 @@ double PayAll() {
     return kPayments;
 }
 
-/// Each work five times, on new books each time; the quickest counts, since the disk is shared.
 template <class Work>
-Cost Best(Work work) {
-    Cost best;
-    for (int i = 0; i < 5; ++i) {
+std::function<Cost()> OnNewBooks(Work work) {
+    return [work] {
         const support::TemporaryFolder folder;
         const auto books = folder.Path() / "books";
         bench::InOwnProcess([&] { PrepareBooks(books); }, [] { return 0.0; });
-        const Cost cost = work(books);
-        if (i == 0 || cost.seconds < best.seconds) best = cost;
-    }
-    return best;
+        return work(books);
+    };
 }
 
 void PrintCost(const char* what, const Cost& cost) {
@@ -52,18 +51,19 @@ void PrintCost(const char* what, const Cost& cost) {
 }
 
 int Run() {
-    const Cost ours = Best([](const std::filesystem::path& books) {
+    const auto pay = [](const std::filesystem::path& books) {
         return bench::InOwnProcess(
             [&] {
                 platform::SetToday(kPayDay);
                 bench::OpenBooks(books);
             },
             PayAll);
-    });
-    const Cost plain = Best([](const std::filesystem::path& books) {
+    };
+    const auto payPlainly = [](const std::filesystem::path& books) {
         return bench::InOwnProcess([] {},
                                    [&] { return bench::RunPlainPayments(books, kPayments); });
-    });
+    };
+    const auto [ours, plain] = bench::BestInTurn<2>(7, {OnNewBooks(pay), OnNewBooks(payPlainly)});
     PrintCost("1,000 payments, one after the other", ours);
     PrintCost("  the same rows by the engine alone", plain);
     bench::Report("  ratio of time", ours.seconds / plain.seconds, 1.5);

@@ -75,16 +75,12 @@ double PrintHtml(const std::filesystem::path& path, std::size_t rows) {
     return static_cast<double>(rows);
 }
 
-/// The quickest of three: the machine does other things too.
 template <class Work>
-Cost Best(Work work) {
-    Cost best;
-    for (int i = 0; i < 3; ++i) {
+std::function<Cost()> OnNewFolder(Work work) {
+    return [work] {
         const support::TemporaryFolder folder;
-        const Cost cost = bench::InOwnProcess([] {}, [&] { return work(folder / "report"); });
-        if (i == 0 || cost.seconds < best.seconds) best = cost;
-    }
-    return best;
+        return bench::InOwnProcess([] {}, [&] { return work(folder / "report"); });
+    };
 }
 
 void PrintCost(const std::string& what, const Cost& cost) {
@@ -92,34 +88,42 @@ void PrintCost(const std::string& what, const Cost& cost) {
                cost.rows / cost.seconds, cost.peakMegabytes);
 }
 
+void PrintRatio(const std::string& what, const Cost& ours, const Cost& plain, double limit) {
+    PrintCost(what, ours);
+    PrintCost("  the same by a plain loop", plain);
+    bench::Report("  ratio of time", ours.seconds / plain.seconds, limit);
+}
+
 int Run() {
-    const std::array<std::size_t, 2> sizes = {10'000, 100'000};
-    std::array<Cost, 2> pdf;
-    std::array<Cost, 2> html;
-    for (std::size_t i = 0; i < sizes.size(); ++i) {
-        const std::size_t rows = sizes[i];
-        pdf[i] = Best([rows](const auto& path) { return PrintPdf(path, rows); });
-        html[i] = Best([rows](const auto& path) { return PrintHtml(path, rows); });
-        const Cost plainPdf = Best([rows](const auto& path) {
-            bench::WritePlainPdf(path.c_str(), rows);
+    constexpr int kRounds = 7;
+    constexpr std::size_t kFew = 10'000;
+    constexpr std::size_t kMany = 100'000;
+    const auto pdf = [](std::size_t rows) {
+        return OnNewFolder([rows](const auto& path) { return PrintPdf(path, rows); });
+    };
+    const auto html = [](std::size_t rows) {
+        return OnNewFolder([rows](const auto& path) { return PrintHtml(path, rows); });
+    };
+    const auto plainly = [](auto write, std::size_t rows) {
+        return OnNewFolder([write, rows](const auto& path) {
+            write(path.c_str(), rows, bench::FillRow);
             return static_cast<double>(rows);
         });
-        const Cost plainHtml = Best([rows](const auto& path) {
-            bench::WritePlainHtml(path.c_str(), rows);
-            return static_cast<double>(rows);
-        });
-        PrintCost(fmt::format("{} rows to PDF", rows), pdf[i]);
-        PrintCost("  the same pages by a plain loop", plainPdf);
-        bench::Report("  ratio of time", pdf[i].seconds / plainPdf.seconds, 5);
-        bench::Report("  peak memory", pdf[i].peakMegabytes, 64, "MB");
-        PrintCost(fmt::format("{} rows to HTML", rows), html[i]);
-        PrintCost("  the same text by a plain loop", plainHtml);
-        bench::Report("  ratio of time", html[i].seconds / plainHtml.seconds, 2);
-    }
-    bench::Report("PDF: growth from 10,000 to 100,000 rows", pdf[1].seconds / pdf[0].seconds, 11);
-    bench::Report("HTML: growth from 10,000 to 100,000 rows", html[1].seconds / html[0].seconds,
-                  11);
-    const Cost page = Best([](const auto& path) { return PrintPdf(path, 30); });
+    };
+    const auto [fewPdf, manyPdf, fewPlainPdf, manyPlainPdf] =
+        bench::BestInTurn<4>(kRounds, {pdf(kFew), pdf(kMany), plainly(bench::WritePlainPdf, kFew),
+                                       plainly(bench::WritePlainPdf, kMany)});
+    const auto [fewHtml, manyHtml, fewPlainHtml, manyPlainHtml] = bench::BestInTurn<4>(
+        kRounds, {html(kFew), html(kMany), plainly(bench::WritePlainHtml, kFew),
+                  plainly(bench::WritePlainHtml, kMany)});
+    PrintRatio("10,000 rows to PDF", fewPdf, fewPlainPdf, 5);
+    PrintRatio("100,000 rows to PDF", manyPdf, manyPlainPdf, 5);
+    bench::Report("  peak memory", manyPdf.peakMegabytes, 64, "MB");
+    bench::Report("  growth from 10,000 rows", manyPdf.seconds / fewPdf.seconds, 11);
+    PrintRatio("10,000 rows to HTML", fewHtml, fewPlainHtml, 2);
+    PrintRatio("100,000 rows to HTML", manyHtml, manyPlainHtml, 2);
+    bench::Report("  growth from 10,000 rows", manyHtml.seconds / fewHtml.seconds, 11);
+    const auto [page] = bench::BestInTurn<1>(kRounds, {pdf(30)});
     bench::Report("one page to PDF", page.seconds * 1000, 20, "ms");
     return bench::ExitStatus();
 }

@@ -3,9 +3,9 @@
 #include <fmt/core.h>
 #include <sqlite3.h>
 
-#include <array>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <string>
 
 #include "Measure.h"
@@ -74,21 +74,6 @@ class PlainBooks {
     sqlite3_stmt* rows_ = nullptr;
 };
 
-/// The quickest of three: the machine does other things too.
-template <class Work>
-Cost Best(const std::filesystem::path& folder, Work work) {
-    Cost best;
-    for (int i = 0; i < 3; ++i) {
-        const auto open = [&] { core::App().Connection.Open(folder / "Vestrel.mdb"); };
-        const Cost cost = bench::InOwnProcess(open, [&] {
-            work();
-            return 0.0;
-        });
-        if (i == 0 || cost.seconds < best.seconds) best = cost;
-    }
-    return best;
-}
-
 void WriteDefinition(const std::filesystem::path& file, std::size_t rows) {
     std::ofstream(file) << "[HEADER]\nSHOWTITLE=FALSE\nORIENTATION=LANDSCAPE\n[DATA]\nSHOWTABLE\n"
                         << "SQLQUERY=SELECT DateEffective, DebitDesc, CreditDesc, TaxCategory, "
@@ -104,45 +89,74 @@ void RunReport(const std::filesystem::path& definition, reports::FileFormat form
     reports::WriteReport(run, format, file);
 }
 
-void Print(const std::string& what, const Cost& cost, const Cost& plain, double limit) {
+/// Books with this many rows, the definition of a report on them, and the works that print it.
+class Bench {
+  public:
+    explicit Bench(std::size_t rows) : rows_(rows) {
+        MakeBooks(folder_.Path(), rows);
+        WriteDefinition(Definition(), rows);
+    }
+
+    std::function<Cost()> Ours(reports::FileFormat format) const {
+        return [this, format] {
+            return bench::InOwnProcess(
+                [this] { core::App().Connection.Open(folder_ / "Vestrel.mdb"); },
+                [this, format] {
+                    RunReport(Definition(), format, folder_ / "report");
+                    return static_cast<double>(rows_);
+                });
+        };
+    }
+
+    template <class Write>
+    std::function<Cost()> Plain(Write write) const {
+        return [this, write] {
+            return bench::InOwnProcess(
+                [] {},
+                [this, write] {
+                    PlainBooks books(folder_.Path());
+                    write((folder_ / "report").c_str(), rows_,
+                          [&](std::size_t, bench::PlainRow& row) { books.Next(row); });
+                    return static_cast<double>(rows_);
+                });
+        };
+    }
+
+  private:
+    std::filesystem::path Definition() const { return folder_ / "bench.rpt"; }
+
+    support::TemporaryFolder folder_;
+    std::size_t rows_;
+};
+
+void Print(const char* what, const Cost& cost, const Cost& plain, double limit) {
     fmt::print("{:<40} {:>8.3f} s {:>8.1f} MB   by a plain loop {:>8.3f} s\n", what, cost.seconds,
                cost.peakMegabytes, plain.seconds);
     bench::Report("  ratio of time", cost.seconds / plain.seconds, limit);
     bench::Report("  peak memory", cost.peakMegabytes, 64, "MB");
 }
 
+template <class Write>
+void BenchFormat(const Bench& few, const Bench& many, reports::FileFormat format, Write plainly,
+                 double limit) {
+    constexpr int kRounds = 7;
+    const auto [ours, plain, manyOurs, manyPlain] = bench::BestInTurn<4>(
+        kRounds, {few.Ours(format), few.Plain(plainly), many.Ours(format), many.Plain(plainly)});
+    Print("  10,000 rows", ours, plain, limit);
+    Print("  100,000 rows", manyOurs, manyPlain, limit);
+    bench::Report("  growth", manyOurs.seconds / ours.seconds, 11);
+}
+
 int Run() {
-    using reports::FileFormat;
-    const std::array<std::size_t, 2> sizes = {10'000, 100'000};
-    std::array<Cost, 2> pdf;
-    std::array<Cost, 2> html;
-    for (std::size_t i = 0; i < sizes.size(); ++i) {
-        const std::size_t rows = sizes[i];
-        const support::TemporaryFolder folder;
-        MakeBooks(folder.Path(), rows);
-        const auto definition = folder / "bench.rpt";
-        WriteDefinition(definition, rows);
-        const auto file = folder / "report";
-        const auto plain = [&](auto write) {
-            return Best(folder.Path(), [&] {
-                PlainBooks books(folder.Path());
-                write(file.c_str(), rows,
-                      [&](std::size_t, bench::PlainRow& row) { books.Next(row); });
-            });
-        };
-        pdf[i] = Best(folder.Path(), [&] { RunReport(definition, FileFormat::Pdf, file); });
-        html[i] = Best(folder.Path(), [&] { RunReport(definition, FileFormat::Html, file); });
-        Print(fmt::format("{} rows to PDF", rows), pdf[i], plain(bench::WritePlainPdf), 5);
-        Print(fmt::format("{} rows to HTML", rows), html[i], plain(bench::WritePlainHtml), 2);
-        if (i > 0) continue;
-        WriteDefinition(definition, 30);
-        const Cost page =
-            Best(folder.Path(), [&] { RunReport(definition, FileFormat::Pdf, file); });
-        bench::Report("a report of one page to PDF", page.seconds * 1000, 20, "ms");
-    }
-    bench::Report("PDF: growth from 10,000 to 100,000 rows", pdf[1].seconds / pdf[0].seconds, 11);
-    bench::Report("HTML: growth from 10,000 to 100,000 rows", html[1].seconds / html[0].seconds,
-                  11);
+    const Bench few(10'000);
+    const Bench many(100'000);
+    const Bench page(30);
+    fmt::print("reports to PDF\n");
+    BenchFormat(few, many, reports::FileFormat::Pdf, bench::WritePlainPdf, 5);
+    fmt::print("reports to HTML\n");
+    BenchFormat(few, many, reports::FileFormat::Html, bench::WritePlainHtml, 2);
+    const auto [one] = bench::BestInTurn<1>(3, {page.Ours(reports::FileFormat::Pdf)});
+    bench::Report("a report of one page to PDF", one.seconds * 1000, 20, "ms");
     return bench::ExitStatus();
 }
 
