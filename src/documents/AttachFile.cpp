@@ -18,7 +18,6 @@ namespace documents {
 
 namespace {
 
-constexpr std::size_t kLongestPath = 255; // characters, as many as the field holds
 constexpr std::size_t kLongestDescription = 50;
 constexpr std::array<std::string_view, 4> kPictureEndings = {"jpeg", "jpg", "gif", "bmp"};
 

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace documents {
+
+/// How many characters of a path fit its field.
+inline constexpr std::size_t kLongestPath = 255;
 
 /// Whether to leave out the messages about a path that is too long or isn't a file.
 enum class Quiet { No, Yes };

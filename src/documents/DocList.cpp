@@ -17,8 +17,7 @@ namespace documents {
 
 namespace {
 
-constexpr std::size_t kLongestPath = 255; // characters, as many as the field holds
-constexpr std::string_view kTooLong =
+constexpr std::string_view kPathTooLong =
     "The path for this file is too long.\n"
     "The maximum path length supported for an object is 255 characters.\n"
     "You will need to shorten your path or filename for this item to add\n"
@@ -44,7 +43,7 @@ std::vector<DocRow> AllDocs() {
 
 std::int32_t AddDoc(const std::string& filePath) {
     if (platform::LeftCharacters(filePath, kLongestPath).size() < filePath.size()) {
-        platform::TheDialogs().ShowMessage("Try Again", kTooLong, platform::Icon::Exclamation);
+        platform::TheDialogs().ShowMessage("Try Again", kPathTooLong, platform::Icon::Exclamation);
         return 0;
     }
     const std::int32_t id = core::NextId();

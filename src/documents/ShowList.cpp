@@ -8,13 +8,6 @@ namespace documents {
 
 namespace {
 
-/// A line of the file can't contain a line end.
-std::string OnOneLine(std::string text) {
-    std::ranges::replace_if(
-        text, [](char c) { return c == '\n' || c == '\r'; }, ' ');
-    return text;
-}
-
 /// Returns where the path in a line begins. A description may contain a bar too, so a bar before a
 /// full path takes precedence over the first bar.
 std::size_t BarOf(std::string_view line) {
@@ -25,9 +18,10 @@ std::size_t BarOf(std::string_view line) {
 } // namespace
 
 std::string ShowListText(const ShowList& list) {
-    std::string text = OnOneLine(list.title) + "\n";
+    std::string text = platform::OneLine(list.title) + "\n";
     for (const ShowPicture& picture : list.pictures) {
-        text += OnOneLine(picture.description) + "|" + OnOneLine(picture.path) + "\n";
+        text +=
+            platform::OneLine(picture.description) + "|" + platform::OneLine(picture.path) + "\n";
     }
     return text;
 }

@@ -30,9 +30,7 @@ constexpr std::size_t kPositionAt = 268;
 constexpr std::size_t kDateAt = 272;
 constexpr std::size_t kDateSize = 30;
 
-constexpr std::int16_t kFormat = 2;
-constexpr std::size_t kBlockSize = 100'000;
-constexpr auto kHeaderLength = static_cast<std::int64_t>(kHeaderSize);
+constexpr std::size_t kPackedAtOnce = 100'000;
 
 /// An error with the system's error number.
 class PackError : public platform::Error {
@@ -98,7 +96,7 @@ std::int64_t WriteHeader(platform::DiskFile& container, const fs::path& source, 
     EntryHeader header;
     header.filePath = source.string();
     header.fileType = static_cast<std::int16_t>(type);
-    header.format = kFormat;
+    header.format = kContainerFormat;
     header.fileSize = static_cast<std::int32_t>(size);
     header.dataPosition = static_cast<std::int32_t>(data + 1);
     header.fileDate = FileDateText(source);
@@ -109,7 +107,7 @@ std::int64_t WriteHeader(platform::DiskFile& container, const fs::path& source, 
 void CopyBlocks(platform::DiskFile& container, const Source& source, std::int64_t size) {
     std::string block;
     for (std::int64_t at = 0; at < size; at += static_cast<std::int64_t>(block.size())) {
-        block.resize(std::min(kBlockSize, static_cast<std::size_t>(size - at)));
+        block.resize(std::min(kPackedAtOnce, static_cast<std::size_t>(size - at)));
         source.Read(block.data(), block.size(), at);
         container.Write(block);
         core::LetMessagesRun();

@@ -13,7 +13,10 @@ namespace exchange {
 
 // A backup container: a sequence of entries, each a header of fixed length and the bytes of a file.
 
+inline constexpr std::int16_t kContainerFormat = 2;
 inline constexpr std::size_t kHeaderSize = 500;
+/// The same, to add to positions.
+inline constexpr auto kHeaderLength = static_cast<std::int64_t>(kHeaderSize);
 inline constexpr std::size_t kFilePathSize = 260;
 
 // The numbers are stored in the container.

@@ -10,11 +10,8 @@ namespace exchange {
 
 namespace {
 
-constexpr std::int16_t kFormat = 2;
-constexpr auto kHeaderLength = static_cast<std::int64_t>(kHeaderSize);
-
 bool MakesSense(const EntryHeader& header, std::int64_t position) {
-    return header.format == kFormat && header.fileSize >= 0 && !header.filePath.empty() &&
+    return header.format == kContainerFormat && header.fileSize >= 0 && !header.filePath.empty() &&
            header.dataPosition == position + kHeaderLength + 1;
 }
 

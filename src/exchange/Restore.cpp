@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t kBlockSize = 1 << 20;
+constexpr std::size_t kCopiedAtOnce = 1 << 20;
 
 /// Returns the parts of a path of this or another system.
 std::vector<std::string> PartsOf(std::string path) {
@@ -79,7 +79,7 @@ void Extract(const fs::path& container, const EntryHeader& header, const fs::pat
     platform::DiskFile out(file, platform::DiskFile::Start::New);
     std::string block;
     for (auto left = static_cast<std::size_t>(header.fileSize); left > 0; left -= block.size()) {
-        block.resize(std::min(left, kBlockSize));
+        block.resize(std::min(left, kCopiedAtOnce));
         source.read(block.data(), static_cast<std::streamsize>(block.size()));
         if (!source) {
             throw platform::Error(fmt::format("{} can't be read", container.string()));

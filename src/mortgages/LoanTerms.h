@@ -5,6 +5,8 @@
 
 namespace mortgages {
 
+inline constexpr double kHighestRate = 0.3;
+
 /// The terms of a loan as they are stored: rates and shares as fractions, periods in months. The
 /// members are named after the fields in the books.
 struct LoanTerms {

@@ -10,8 +10,6 @@ using platform::Currency;
 
 namespace {
 
-constexpr double kHighestRate = 0.3;
-
 void AddRateErrors(std::vector<std::string>& errors, double rate) {
     if (rate < 0) errors.emplace_back("Interest rate cannot be a negative value.");
     if (rate > kHighestRate) errors.emplace_back("Interest rate cannot be above 30 percent.");

@@ -12,7 +12,6 @@ using platform::Date;
 
 namespace {
 
-constexpr double kHighestRate = 0.3;
 constexpr double kHighestBalance = 10'000'000;
 constexpr double kMostPeriods = 1'200;
 

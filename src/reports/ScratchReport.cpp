@@ -1,6 +1,5 @@
 #include "reports/ScratchReport.h"
 
-#include <algorithm>
 #include <system_error>
 
 #include <fmt/core.h>
@@ -8,19 +7,9 @@
 #include "core/Globals.h"
 #include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
+#include "platform/values/Text.h"
 
 namespace reports {
-
-namespace {
-
-std::string OneLine(std::string_view text) {
-    std::string line(text);
-    std::ranges::replace_if(
-        line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
-    return line;
-}
-
-} // namespace
 
 std::string ScratchReportText(std::string_view title, std::string_view subTitle,
                               std::string_view sql) {
@@ -37,8 +26,10 @@ std::string ScratchReportText(std::string_view title, std::string_view subTitle,
         "\n"
         "[FOOTER]\n"
         "\n",
-        title, subTitle.empty() ? std::string() : fmt::format("SubTitle={}\n", OneLine(subTitle)),
-        OneLine(sql));
+        title,
+        subTitle.empty() ? std::string()
+                         : fmt::format("SubTitle={}\n", platform::OneLine(subTitle)),
+        platform::OneLine(sql));
 }
 
 std::filesystem::path WriteScratchReport(std::string_view definition) {

@@ -14,11 +14,11 @@ namespace reports {
 
 namespace {
 
-std::string OneLine(std::string_view text) {
-    std::string line(text);
-    std::ranges::replace_if(
-        line, [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
-    return std::string(platform::Trim(line));
+/// A definition's line, where a tab would separate fields.
+std::string StatementLine(std::string_view text) {
+    std::string line = platform::OneLine(platform::Trim(text));
+    std::ranges::replace(line, '\t', ' ');
+    return line;
 }
 
 ConsoleAnswer Select(const std::string& sql) {
@@ -54,7 +54,7 @@ ConsoleAnswer Change(const std::string& sql) {
 } // namespace
 
 ConsoleAnswer ExecuteInConsole(std::string_view text) {
-    const std::string sql = OneLine(text);
+    const std::string sql = StatementLine(text);
     ConsoleAnswer answer;
     if (sql.empty()) {
         answer.message = "SQL Command not specified";
@@ -94,7 +94,7 @@ ConsoleAnswer ListTablesInConsole() {
 }
 
 void WriteConsoleReport(std::string_view query) {
-    const std::string sql = OneLine(query);
+    const std::string sql = StatementLine(query);
     WriteScratchReport(ScratchReportText("Database Browser Query", "Query: " + sql, sql));
 }
 

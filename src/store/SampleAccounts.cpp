@@ -11,8 +11,6 @@ namespace store {
 
 namespace {
 
-constexpr std::int16_t kAccountKind = 1;
-
 std::int32_t AddFirm(SampleBooks& books, std::string_view type, std::string_view company,
                      std::string_view site, std::string_view notes = "") {
     const SampleTown& town = books.dice.Pick(SampleTowns());

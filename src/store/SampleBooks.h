@@ -12,6 +12,8 @@ namespace store {
 
 inline constexpr std::string_view kSampleCar = "Pickup truck";
 
+inline constexpr std::int16_t kAccountKind = 1;
+
 /// The accounts that the sample's other records name.
 struct SampleAccounts {
     std::int32_t operatingBank = 0;

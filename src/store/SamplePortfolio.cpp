@@ -18,7 +18,6 @@ using platform::Interval;
 namespace {
 
 constexpr std::uint64_t kSeed = 19'640'229;
-constexpr std::int16_t kAccountKind = 1;
 
 void AddDepositTemplates(SampleBooks& books, const std::vector<SampleBuilding>& buildings) {
     SampleWriter& rows = books.rows;

@@ -9,7 +9,6 @@ namespace sumdesk {
 namespace {
 
 constexpr int kMostDecimals = 10;
-constexpr int kMostWholeDigits = 15;
 
 Exact PowerOfTen(std::uint64_t exponent) {
     mpz_class power;

@@ -12,7 +12,10 @@ namespace sumdesk {
 /// rounded before it is shown. A third of 10, times 3, is 10.
 using Exact = mpq_class;
 
-/// Numbers of this size and above are refused; they are beyond any amount of money.
+/// How many digits a number may have before the point.
+inline constexpr int kMostWholeDigits = 15;
+
+/// Numbers with more whole digits are refused; they are beyond any amount of money.
 bool IsTooLarge(const Exact& number);
 
 /// Returns a number that isn't too large as a fraction.

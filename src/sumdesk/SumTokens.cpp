@@ -4,12 +4,13 @@
 #include <array>
 #include <utility>
 
+#include "sumdesk/Exact.h"
+
 namespace sumdesk {
 
 namespace {
 
 constexpr std::string_view kNumberCharacters = "0123456789.,$";
-constexpr std::int64_t kMostWholeDigits = 15;
 
 constexpr std::array<std::pair<std::string_view, TokenKind>, 13> kSigns = {
     {{"+", TokenKind::Plus},

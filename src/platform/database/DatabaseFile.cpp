@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <system_error>
 
+#include "platform/system/Paths.h"
 #include "platform/values/Errors.h"
 
 namespace platform {
@@ -82,14 +83,10 @@ void CheckExists(const fs::path& file) {
     }
 }
 
-// A file of its own, which nobody else may read from the first moment on.
-void MakePrivateFile(const fs::path& file) {
-    const int made = open(file.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (made >= 0) {
-        close(made);
-        return;
-    }
-    const int error = errno;
+// Nobody else may read the file from the first moment on.
+void MakeEmptyFile(const fs::path& file) {
+    const int error = MakePrivateFile(file);
+    if (error == 0) return;
     ThrowCannot("make", file, error == EEXIST ? "it already exists" : SystemText(error),
                 SQLITE_CANTOPEN);
 }
@@ -185,7 +182,7 @@ Handle OpenAsAllowed(const fs::path& file) {
 }
 
 Handle MakeFile(const fs::path& file) {
-    MakePrivateFile(file);
+    MakeEmptyFile(file);
     try {
         return OpenToWrite(file);
     } catch (const DatabaseError&) {

@@ -2,10 +2,7 @@
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
-#include <fcntl.h>
 #include <sqlite3.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <string_view>
@@ -14,6 +11,7 @@
 #include "platform/database/EngineFailure.h"
 #include "platform/database/IndexTerms.h"
 #include "platform/database/PreparedStatement.h"
+#include "platform/system/Paths.h"
 
 namespace platform {
 
@@ -32,15 +30,10 @@ using TextLife = PreparedStatement::TextLife;
 
 /// Only makes a file that isn't there: closing a file that the engine has open would drop the
 /// engine's locks on it.
-void MakePrivateFile(const std::filesystem::path& file) {
-    struct stat found {};
-    if (stat(file.c_str(), &found) == 0) return;
-    const int made = open(file.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (made >= 0) {
-        close(made);
-    } else if (errno != EEXIST) {
-        throw DatabaseError(std::generic_category().message(errno), SQLITE_CANTOPEN);
-    }
+void MakeIfMissing(const std::filesystem::path& file) {
+    const int error = MakePrivateFile(file);
+    if (error == 0 || error == EEXIST) return;
+    throw DatabaseError(std::generic_category().message(error), SQLITE_CANTOPEN);
 }
 
 std::unique_ptr<SQLite::Database> OpenIndexFile(const std::string& file) {
@@ -94,7 +87,7 @@ TextIndex::TextIndex() : database_(OpenIndexFile(":memory:")) {
 }
 
 TextIndex::TextIndex(const std::filesystem::path& file, std::int32_t layout) : layout_(layout) {
-    MakePrivateFile(file);
+    MakeIfMissing(file);
     database_ = OpenIndexFile(file.string());
     try {
         SetUp();

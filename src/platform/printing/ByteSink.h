@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace platform {
+
+/// A writer passes its bytes on when it has this many.
+inline constexpr std::size_t kBytesAtOnce = 32'768;
 
 /// Receives the bytes of a written document.
 class ByteSink {

@@ -12,8 +12,6 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t kPart = 32'768;
-
 constexpr std::string_view kStyleSheet =
     "html{-webkit-text-size-adjust:100%}"
     "body{font-family:Arial,'Liberation Sans',Helvetica,sans-serif;margin:1.5em auto;"
@@ -294,7 +292,7 @@ void HtmlWriter::EndFlow() {
 }
 
 void HtmlWriter::FlushIfLarge() {
-    if (out_.size() < kPart) return;
+    if (out_.size() < kBytesAtOnce) return;
     sink_.Write(out_);
     out_.clear();
 }

@@ -11,7 +11,6 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t kPart = 32'768;
 constexpr Twips kCellGap = 80; ///< between a cell's edge and its text
 
 std::string_view AlignWord(TextAlign align) {
@@ -237,7 +236,7 @@ void RtfWriter::EndFlow() {
 }
 
 void RtfWriter::FlushIfLarge() {
-    if (out_.size() < kPart) return;
+    if (out_.size() < kBytesAtOnce) return;
     body_.Write(out_);
     out_.clear();
 }

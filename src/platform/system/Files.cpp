@@ -93,6 +93,13 @@ fs::path Target(const fs::path& file) {
 
 } // namespace
 
+int MakePrivateFile(const fs::path& file) {
+    const int made = open(file.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (made < 0) return errno;
+    close(made);
+    return 0;
+}
+
 void WriteFileAtomically(const fs::path& file, std::string_view contents, fs::perms mode) {
     const fs::path target = Target(file);
     std::string draft = target.string() + ".XXXXXX";

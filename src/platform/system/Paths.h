@@ -34,6 +34,10 @@ std::filesystem::path DataHome();
 /// case). Directories stay; failures are ignored.
 void DeleteMatching(const std::filesystem::path& directory, std::string_view pattern);
 
+/// Makes an empty file that only its owner can open. Returns 0, or the system's error number:
+/// EEXIST leaves the file that is there untouched.
+int MakePrivateFile(const std::filesystem::path& file);
+
 /// Replaces `file` by `contents` in one step, so that a reader sees the old or the new text whole;
 /// `mode` is its permission bits. An Error with the reason on failure, the old file untouched.
 void WriteFileAtomically(const std::filesystem::path& file, std::string_view contents,

@@ -14,10 +14,6 @@ namespace {
 // An exponent beyond this is beyond every range, whatever digits it goes with.
 constexpr std::int64_t kExponentLimit = 100'000;
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool Take(std::string_view& text, char wanted) {
     if (text.empty() || text.front() != wanted) return false;
     text = Trim(text.substr(1));

@@ -158,6 +158,13 @@ std::size_t FindText(std::string_view text, std::string_view part, std::size_t f
     return static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
 }
 
+std::string OneLine(std::string_view text) {
+    std::string line(text);
+    std::ranges::replace_if(
+        line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return line;
+}
+
 std::string LeftCharacters(std::string_view text, std::size_t count) {
     std::string_view rest = text;
     for (; count > 0 && !rest.empty(); --count)

@@ -21,6 +21,13 @@ bool ContainsIgnoringCase(std::string_view text, std::string_view part);
 /// proportion to the lengths, whatever the strings hold.
 std::size_t FindText(std::string_view text, std::string_view part, std::size_t from = 0);
 
+/// The text with a blank for every line end.
+std::string OneLine(std::string_view text);
+
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 /// The first `count` characters (not bytes) of UTF-8 text.
 std::string LeftCharacters(std::string_view text, std::size_t count);
 
