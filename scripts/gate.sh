@@ -7,7 +7,7 @@ checks=$(dirname "${BASH_SOURCE[0]}")/gate
 build=${1:-build/test}
 
 failed=()
-for check in format layout includes links clock braces folders sizes help english; do
+for check in format layout includes names links clock braces folders sizes help english; do
     "$checks/$check.sh" || failed+=("$check")
 done
 "$checks/tidy.sh" . "$build" || failed+=(tidy)

@@ -4,9 +4,8 @@
 
 namespace leases {
 
-using enum platform::FieldType;
-
 core::RowTable<LedgerRow> LedgerTable(std::vector<LedgerRow> rows, LedgerRows which) {
+    using enum platform::FieldType;
     std::vector<core::RowTable<LedgerRow>::Column> columns = {
         {"IdRentLog", Long, &LedgerRow::idRentLog},     {"Flags", Integer, &LedgerRow::flags},
         {"Date Posted", Date, &LedgerRow::datePosted},  {"Category", Text, &LedgerRow::category},
@@ -20,6 +19,7 @@ core::RowTable<LedgerRow> LedgerTable(std::vector<LedgerRow> rows, LedgerRows wh
 }
 
 core::RowTable<PaymentCharge> ChargeTable(std::vector<PaymentCharge> charges) {
+    using enum platform::FieldType;
     return {std::move(charges),
             {{"IdRentLog", Long, &PaymentCharge::idRentLog},
              {"Flags", Integer, &PaymentCharge::flags},

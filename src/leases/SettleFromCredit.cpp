@@ -20,7 +20,7 @@ using platform::Currency;
 namespace {
 
 /// The row of a credit while the walk is written; what is left of it is a positive amount.
-struct CreditRow {
+struct CreditLeft {
     std::int32_t idRentLog = 0;
     Currency left;
 };
@@ -96,7 +96,7 @@ class Writer {
     }
 
     /// The part that is used becomes a row of its own; the rest keeps its row.
-    static void TakeCredit(CreditRow& credit, Currency used, std::int32_t idTransaction) {
+    static void TakeCredit(CreditLeft& credit, Currency used, std::int32_t idTransaction) {
         if (used == credit.left) {
             Settle(credit.idRentLog, idTransaction);
         } else {
@@ -127,7 +127,7 @@ class Writer {
     std::int32_t idLease_;
     const LeaseWalk& walk_;
     WalkIds written_;
-    std::vector<CreditRow> credits_;
+    std::vector<CreditLeft> credits_;
     std::map<std::size_t, Currency> settled_;
 };
 

@@ -4,9 +4,8 @@
 
 namespace mortgages {
 
-using enum platform::FieldType;
-
 core::RowTable<LogRow> LogTable(std::vector<LogRow> rows) {
+    using enum platform::FieldType;
     const auto of = [](auto member) {
         return [member](const LogRow& row) { return row.entry.*member; };
     };
@@ -24,6 +23,7 @@ core::RowTable<LogRow> LogTable(std::vector<LogRow> rows) {
 }
 
 core::RowTable<PaymentCharge> ChargeTable(std::vector<PaymentCharge> charges) {
+    using enum platform::FieldType;
     return {std::move(charges),
             {{"IdMortgageLog", Long, &PaymentCharge::idMortgageLog},
              {"Flags", Integer, &PaymentCharge::flags},

@@ -15,7 +15,7 @@ using platform::Value;
 
 namespace {
 
-constexpr std::string_view kFiles = "FileObject";
+constexpr std::string_view kFileTable = "FileObject";
 
 Json FieldsOf(Recordset& row) {
     Json fields = Json::object();
@@ -54,7 +54,7 @@ std::string ContentOf(std::int16_t kind, std::int32_t id, Recordset& stored) {
     Recordset files =
         core::Read("SELECT * FROM FileObject WHERE (dbType = ?) AND (IdOwner = ?)", {kind, id});
     for (; !files.Eof(); files.MoveNext())
-        content[kFiles].push_back(FieldsOf(files));
+        content[kFileTable].push_back(FieldsOf(files));
     return content.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
@@ -62,9 +62,9 @@ bool RestoreContent(std::string_view table, const std::string& content) {
     const Json fields = Json::parse(content, nullptr, false);
     if (!fields.is_object()) return false;
     WriteRow(table, fields);
-    if (const auto files = fields.find(kFiles); files != fields.end()) {
+    if (const auto files = fields.find(kFileTable); files != fields.end()) {
         for (const Json& file : *files)
-            WriteRow(kFiles, file);
+            WriteRow(kFileTable, file);
     }
     return true;
 }

@@ -14,7 +14,7 @@ namespace vestrelctl {
 
 namespace {
 
-void PrintSchedule(std::int32_t idMortgage) {
+void PrintAmortization(std::int32_t idMortgage) {
     mortgages::clsMortgage mortgage;
     if (!mortgage.LoadMtg(idMortgage)) {
         throw platform::Error(fmt::format("There is no mortgage {}", idMortgage));
@@ -31,7 +31,7 @@ void AddAmortize(CLI::App& line, const Options& options) {
     command->add_option("id", *id, "The mortgage's IdMortgage")->required();
     command->callback([id, &options] {
         OpenDatabase(options, Purpose::Read);
-        PrintSchedule(*id);
+        PrintAmortization(*id);
     });
 }
 

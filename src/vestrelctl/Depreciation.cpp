@@ -32,7 +32,7 @@ books::clsDepreciation ReadBuilding(std::int32_t idBuilding) {
     return depreciation;
 }
 
-void PrintSchedule(std::int32_t idBuilding) {
+void PrintDepreciation(std::int32_t idBuilding) {
     books::clsDepreciation depreciation = ReadBuilding(idBuilding);
     depreciation.Init();
     std::cout << R"("Period End","Beginning","Loss","Ending","Method")" << '\n';
@@ -58,7 +58,7 @@ void AddDepreciation(CLI::App& line, const Options& options) {
     command->add_option("id", *id, "The building's IdBuilding")->required();
     command->callback([id, &options] {
         OpenDatabase(options, Purpose::Read);
-        PrintSchedule(*id);
+        PrintDepreciation(*id);
     });
 }
 

@@ -14,7 +14,7 @@ namespace vestrelctl {
 
 namespace {
 
-exchange::PortWatcher Printer() {
+exchange::PortWatcher PortPrinter() {
     return {.status =
                 [](std::string_view lines) {
                     std::cout << lines;
@@ -36,7 +36,7 @@ void Import(const ImportWords& words) {
     const ImportOutcome outcome =
         ImportDatabase(words.file, words.test ? ImportMode::Test : ImportMode::Write,
                        words.overwrite ? ImportRows::Overwrite : ImportRows::Append,
-                       ImportMessages::Quiet, Printer());
+                       ImportMessages::Quiet, PortPrinter());
     if (outcome.known > 0) {
         std::cerr << fmt::format(
             "Note: {} of the {} records were in the database already and are in it twice now\n",
@@ -64,7 +64,7 @@ void AddExportText(CLI::App& line, const Options& options) {
     command->callback([tables, file, &options] {
         OpenDatabase(options, Purpose::Read);
         if (tables->empty()) *tables = core::ListTables(core::App().Connection).names;
-        exchange::WriteTables(*tables, *file, Printer());
+        exchange::WriteTables(*tables, *file, PortPrinter());
     });
 }
 

@@ -85,7 +85,7 @@ void Choose(reports::ReportDef& report, const ReportWords& words) {
     if (words.landscape) report.Orientation = platform::PageOrientation::Landscape;
 }
 
-void Write(const ReportWords& words, const Options& options) {
+void WriteFile(const ReportWords& words, const Options& options) {
     const auto format = reports::FormatOfFile(words.output);
     FoundReport found = Find(words.name);
     OpenBooks(options, Purpose::Read);
@@ -159,7 +159,7 @@ void AddReport(CLI::App& line, const Options& options) {
         }
         if (words->name.empty()) throw CLI::RequiredError("name");
         if (words->output.empty()) throw CLI::RequiredError("--output");
-        Write(*words, options);
+        WriteFile(*words, options);
     });
 }
 

@@ -149,7 +149,7 @@ planted() {
 
 makeSoundTree
 freshTree
-for check in format layout includes links clock braces folders sizes help english tidy; do
+for check in format layout includes names links clock braces folders sizes help english tidy; do
     passes "$check"
 done
 
@@ -195,6 +195,40 @@ for list in 'return {.day = 1, .debit = {1, 2}};' '    .debit = {kAccount,' 'f({
 done
 plant src/core/Shared.h '// .debit = {1, 2}\n    .debit = Party{1, 2}, .none = {},\nrow.debit = {1, 2};'
 passes braces
+
+# keepLocal FILE DECLARATION: adds a name that the file keeps to itself.
+keepLocal() {
+    mkdir -p "$scratch/tree/src/core"
+    printf 'namespace {\n\n%b\n\n} // namespace\n' "$2" >>"$scratch/tree/src/core/$1"
+}
+while IFS='|' read -r first second; do
+    freshTree
+    keepLocal A.cpp "$first"
+    keepLocal B.cpp "$second"
+    finds 'src/core/B.cpp:3:' names
+done <<'END'
+constexpr int kMost = 1;|constexpr long kMost = 2;
+constexpr int kMost[2] = {1, 2};|constexpr std::array kMost = {
+struct Row {|class Row {
+int Step(int from) {|struct Step {
+int Sum(int left, const Row& right) {|int Sum(int a, const Row& b) {
+using Row = core::Row;|using Row = leases::Row;
+END
+freshTree
+keepLocal A.cpp 'int Sum(int left, int right) {'
+keepLocal A.cpp 'using Row = core::Row;'
+keepLocal B.cpp 'int Sum(int left,\n        Row right) {'
+keepLocal B.cpp 'using Row = core::Row;'
+keepLocal B.cpp 'int Total(int left);'
+keepLocal C.cpp 'int Total(int left) {'
+mkdir "$scratch/tree/src/core/inner"
+keepLocal inner/D.cpp 'struct Sum {'
+passes names
+planted src/core/A.cpp 'using enum Kind;' 'belongs inside the function' names
+plant src/core/CMakeLists.txt 'set_source_files_properties(A.cpp PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)'
+keepLocal A.cpp 'struct Row {'
+keepLocal B.cpp 'struct Row {'
+passes names
 
 planted src/core/inner/New.h '#pragma once' 'src/core/inner: not listed' folders
 freshTree

@@ -6,7 +6,7 @@ namespace core::grid {
 namespace {
 
 // Rows searched before user input is processed again: some hundredths of a second.
-constexpr std::int32_t kSlice = 20'000;
+constexpr std::int32_t kRowsSearched = 20'000;
 
 } // namespace
 
@@ -22,7 +22,7 @@ void GridModel::Narrow(const QString& text, int firstColumn) {
     if (text == narrowed_) return;
     // A longer text can only match rows that the shorter one matched.
     const bool continues = !narrowed_.isEmpty() && text.startsWith(narrowed_) && !IsNarrowing() &&
-                           std::ssize(shown_) <= kSlice;
+                           std::ssize(shown_) <= kRowsSearched;
     beginResetModel();
     narrowed_ = text;
     search_.reset();
@@ -55,7 +55,7 @@ RowSearch GridModel::MakeSearch(const QString& text, int firstColumn) const {
 std::vector<std::int32_t> GridModel::SearchOn() {
     std::vector<std::int32_t> found;
     const auto end = static_cast<std::int32_t>(
-        std::min<std::int64_t>(rowCount_, std::int64_t{nextSearched_} + kSlice));
+        std::min<std::int64_t>(rowCount_, std::int64_t{nextSearched_} + kRowsSearched));
     for (; nextSearched_ < end; ++nextSearched_) {
         if (search_->Matches(*table_, nextSearched_)) found.push_back(nextSearched_);
     }

@@ -7,7 +7,7 @@ namespace core::grid {
 namespace {
 
 // Rows read before user input is processed again: some hundredths of a second.
-constexpr std::int64_t kSlice = 10'000;
+constexpr std::int64_t kRowsRead = 10'000;
 
 } // namespace
 
@@ -22,7 +22,7 @@ int GridModel::RowsAtHand() const {
 }
 
 void GridModel::ReadSlice() {
-    atHand_ = std::min(rowCount_, atHand_ + kSlice);
+    atHand_ = std::min(rowCount_, atHand_ + kRowsRead);
     // Reading the last of them reads the rows before it.
     if (atHand_ > 0) (void)table_->ValueAt(atHand_ - 1, 0);
     if (atHand_ < rowCount_) return;

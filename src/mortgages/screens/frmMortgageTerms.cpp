@@ -29,7 +29,7 @@ std::int16_t CountIn(const QLineEdit& box) {
     return platform::RoundToInt16(std::clamp(NumberTyped(box), 0.0, kMostCounted));
 }
 
-double AmountIn(const core::binding::MoneyEdit& box) {
+double DollarsIn(const core::binding::MoneyEdit& box) {
     return box.Amount().value_or(Currency()).ToDouble();
 }
 
@@ -96,13 +96,13 @@ bool frmMortgage::IsChanged(const QWidget& control) const {
 /// the user left alone keep their stored digits.
 void frmMortgage::ReadTerms(clsMortgage& loan) const {
     if (Id() != 0) return ReadSavedTerms(loan);
-    loan.SetOrigPV(AmountIn(*origin_->txtOrigPV));
+    loan.SetOrigPV(DollarsIn(*origin_->txtOrigPV));
     loan.SetOrigPer(NumberTyped(*origin_->txtOrigPer));
     loan.SetOrigRate(NumberTyped(*origin_->txtOrigRate));
     loan.SetBalloon(origin_->chkBalloon->isChecked());
     const auto due = origin_->dpDue->Day();
     if (due && due->IsSet()) loan.SetFirstDue(due->ToText());
-    loan.SetXPri(0, AmountIn(*origin_->txtXPriAll));
+    loan.SetXPri(0, DollarsIn(*origin_->txtXPriAll));
     loan.SetIntOnly(origin_->chkIntOnly->isChecked());
     loan.SetARM(origin_->chkARM->isChecked());
     ReadSavedTerms(loan);

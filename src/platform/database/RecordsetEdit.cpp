@@ -9,7 +9,6 @@ namespace platform {
 
 namespace {
 
-using TextLife = PreparedStatement::TextLife;
 using dialect::EngineName;
 using Edits = std::vector<std::optional<Value>>;
 
@@ -87,7 +86,7 @@ int BindEdits(PreparedStatement& statement, const dialect::CompiledStatement& se
     for (std::size_t i = 0; i < edits.size(); ++i) {
         if (!edits[i]) continue;
         statement.Bind(++index, StoredForm(*edits[i], select.columns[i].type),
-                       TextLife::UntilReset);
+                       PreparedStatement::TextLife::UntilReset);
     }
     return index;
 }
@@ -139,7 +138,7 @@ void Recordset::State::WriteNewRow() {
     PreparedStatement& row =
         engine.PrepareOwn(KeyOf('R', *plan, {}), [&] { return ReadBackSql(Compiled()); }).statement;
     const StatementRun run(row);
-    row.Bind(1, number, TextLife::UntilReset);
+    row.Bind(1, number, PreparedStatement::TextLife::UntilReset);
     if (!row.Step()) ThrowConflict(Compiled().table);
     rows.Start();
     for (int i = 0; i < row.ColumnCount(); ++i)
@@ -150,9 +149,10 @@ void Recordset::State::WriteNewRow() {
 }
 
 void Recordset::State::BindOriginal(PreparedStatement& statement, int index) {
-    statement.Bind(++index, Stored(FieldCount()), TextLife::UntilReset);
+    statement.Bind(++index, Stored(FieldCount()), PreparedStatement::TextLife::UntilReset);
     for (std::size_t i = 0; i < FieldCount(); ++i) {
-        if (!IsComputed(i)) statement.Bind(++index, Stored(i), TextLife::UntilReset);
+        if (!IsComputed(i))
+            statement.Bind(++index, Stored(i), PreparedStatement::TextLife::UntilReset);
     }
 }
 

@@ -20,7 +20,7 @@ class NobodyChooses : public Choosers {
     }
 };
 
-std::unique_ptr<Choosers>& Current() {
+std::unique_ptr<Choosers>& CurrentChoosers() {
     static std::unique_ptr<Choosers> current = std::make_unique<NobodyChooses>();
     return current;
 }
@@ -28,12 +28,12 @@ std::unique_ptr<Choosers>& Current() {
 } // namespace
 
 Choosers& TheChoosers() {
-    return *Current();
+    return *CurrentChoosers();
 }
 
 void SetChoosers(std::unique_ptr<Choosers> choosers) {
     if (!choosers) choosers = std::make_unique<NobodyChooses>();
-    Current() = std::move(choosers);
+    CurrentChoosers() = std::move(choosers);
 }
 
 } // namespace platform

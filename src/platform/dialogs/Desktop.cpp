@@ -14,7 +14,7 @@ class NoDesktop : public Desktop {
     bool OpenDocument(std::string_view /*file*/) override { return false; }
 };
 
-std::unique_ptr<Desktop>& Current() {
+std::unique_ptr<Desktop>& CurrentDesktop() {
     static std::unique_ptr<Desktop> current = std::make_unique<NoDesktop>();
     return current;
 }
@@ -22,12 +22,12 @@ std::unique_ptr<Desktop>& Current() {
 } // namespace
 
 Desktop& TheDesktop() {
-    return *Current();
+    return *CurrentDesktop();
 }
 
 void SetDesktop(std::unique_ptr<Desktop> desktop) {
     if (!desktop) desktop = std::make_unique<NoDesktop>();
-    Current() = std::move(desktop);
+    CurrentDesktop() = std::move(desktop);
 }
 
 } // namespace platform

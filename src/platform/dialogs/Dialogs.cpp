@@ -27,7 +27,7 @@ class NobodyThere : public Dialogs {
     }
 };
 
-std::unique_ptr<Dialogs>& Current() {
+std::unique_ptr<Dialogs>& CurrentDialogs() {
     static std::unique_ptr<Dialogs> current = std::make_unique<NobodyThere>();
     return current;
 }
@@ -35,12 +35,12 @@ std::unique_ptr<Dialogs>& Current() {
 } // namespace
 
 Dialogs& TheDialogs() {
-    return *Current();
+    return *CurrentDialogs();
 }
 
 void SetDialogs(std::unique_ptr<Dialogs> dialogs) {
     if (!dialogs) dialogs = std::make_unique<NobodyThere>();
-    Current() = std::move(dialogs);
+    CurrentDialogs() = std::move(dialogs);
 }
 
 } // namespace platform

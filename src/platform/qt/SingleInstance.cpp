@@ -11,7 +11,7 @@ namespace platform::qt {
 
 namespace {
 
-constexpr int kPatienceMs = 2000;
+constexpr int kAnswerPatienceMs = 2000;
 
 QString RuntimeFile(const QString& name) {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
@@ -42,7 +42,7 @@ SingleInstance::SingleInstance(const QString& name)
 bool SingleInstance::AskFirstToShow() const {
     QLocalSocket socket;
     socket.connectToServer(name_);
-    return socket.waitForConnected(kPatienceMs);
+    return socket.waitForConnected(kAnswerPatienceMs);
 }
 
 QString InstanceName() {

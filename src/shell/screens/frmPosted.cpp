@@ -33,7 +33,7 @@ using platform::qt::ToScreen;
 
 namespace {
 
-constexpr int kFirstShown = 1; // after the row number
+constexpr int kFirstField = 1; // after the row number
 constexpr std::size_t kMostNamed = 10;
 
 /// The grid below its title, which has its mnemonic, and what stands beside the title.
@@ -180,7 +180,7 @@ void frmPosted::ShowRuns(const std::string& selected) {
     const QScopedValueRollback loading(isLoading_, true);
     if (!runs_.empty()) list_->SetEmptyText(tr("Choose a run to see its rows."));
     core::grid::LoadGrid(*runList_, std::make_unique<RunTable>(runs_));
-    core::grid::AutoSizeGrid(*runList_, kFirstShown, core::grid::Sizing::FillGrid);
+    core::grid::AutoSizeGrid(*runList_, kFirstField, core::grid::Sizing::FillGrid);
     const auto found = std::ranges::find(runs_, selected, &PastRun::name);
     const auto place = found == runs_.end() ? 0 : std::distance(runs_.begin(), found);
     runList_->SelectId(static_cast<std::int32_t>(place) + 1);
@@ -206,11 +206,11 @@ void frmPosted::ShowRows(const std::vector<std::int32_t>& selected) {
     {
         const QScopedValueRollback loading(isLoading_, true);
         core::grid::LoadGrid(*list_, std::make_unique<DigestTable>(ShownDigest(), takenBack_));
-        core::grid::AutoSizeGrid(*list_, kFirstShown, core::grid::Sizing::FitGrid);
+        core::grid::AutoSizeGrid(*list_, kFirstField, core::grid::Sizing::FitGrid);
         if (!selected.empty()) list_->SelectId(selected.front());
         for (const std::int32_t number : selected) {
             list_->selectionModel()->select(
-                list_->Model().index(number - 1, kFirstShown),
+                list_->Model().index(number - 1, kFirstField),
                 QItemSelectionModel::Select | QItemSelectionModel::Rows);
         }
     }

@@ -47,7 +47,7 @@ BoundPtr Spread(std::string_view function, FunctionCall& call) {
 
 constexpr auto kKind = FunctionKind::Aggregate;
 
-constexpr FunctionDefinition kFunctions[] = {
+constexpr FunctionDefinition kAggregateFunctions[] = {
     {"Sum", 1, 1, Sum, kKind},
     {"Avg", 1, 1, Avg, kKind},
     {"Min", 1, 1, [](FunctionCall& call) { return OneOfGroup("MIN", call); }, kKind},
@@ -67,7 +67,7 @@ constexpr FunctionDefinition kFunctions[] = {
 } // namespace
 
 std::span<const FunctionDefinition> AggregateFunctions() {
-    return kFunctions;
+    return kAggregateFunctions;
 }
 
 } // namespace platform::dialect

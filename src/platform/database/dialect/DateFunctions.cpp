@@ -12,7 +12,7 @@ BoundPtr Part(std::string_view function, FunctionCall& call) {
     return MakeCall(function, FieldType::Long, call.Date(0));
 }
 
-constexpr FunctionDefinition kFunctions[] = {
+constexpr FunctionDefinition kDateFunctions[] = {
     {"DateValue", 1, 1, DateValue},
     {"CDate", 1, 1, DateValue},
     {"Date", 0, 0, [](FunctionCall&) { return MakeCall("vestrel_today", FieldType::Date); }},
@@ -45,7 +45,7 @@ constexpr FunctionDefinition kFunctions[] = {
 } // namespace
 
 std::span<const FunctionDefinition> DateFunctions() {
-    return kFunctions;
+    return kDateFunctions;
 }
 
 } // namespace platform::dialect

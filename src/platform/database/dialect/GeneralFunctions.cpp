@@ -55,7 +55,7 @@ BoundPtr IsNull(FunctionCall& call) {
     return test;
 }
 
-constexpr FunctionDefinition kFunctions[] = {
+constexpr FunctionDefinition kGeneralFunctions[] = {
     {"IIf", 3, 3, IIf},
     {"Nz", 1, 2, Nz},
     {"IsNull", 1, 1, IsNull},
@@ -65,7 +65,7 @@ constexpr FunctionDefinition kFunctions[] = {
 } // namespace
 
 std::span<const FunctionDefinition> GeneralFunctions() {
-    return kFunctions;
+    return kGeneralFunctions;
 }
 
 } // namespace platform::dialect

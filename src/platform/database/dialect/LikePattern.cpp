@@ -8,10 +8,6 @@ namespace platform::dialect {
 
 namespace {
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 /// Returns the first character of the text with all of its bytes.
 std::string_view FirstCharacter(std::string_view text) {
     std::size_t size = 1;
@@ -40,12 +36,12 @@ bool InSet(std::string_view character, std::string_view set) {
 }
 
 /// What a single step of the pattern matches, other than `*`.
-struct Step {
+struct PatternStep {
     std::string_view piece;
     bool isSet = false;
 };
 
-Step NextStep(std::string_view pattern) {
+PatternStep NextPatternStep(std::string_view pattern) {
     if (pattern.front() == '[') {
         const std::size_t close = pattern.find(']', 2);
         if (close != std::string_view::npos) return {pattern.substr(0, close + 1), true};
@@ -53,7 +49,7 @@ Step NextStep(std::string_view pattern) {
     return {FirstCharacter(pattern), false};
 }
 
-bool Takes(const Step& step, std::string_view character) {
+bool Takes(const PatternStep& step, std::string_view character) {
     if (step.isSet) return InSet(character, step.piece.substr(1, step.piece.size() - 2));
     if (step.piece == "?" || step.piece == "_") return true;
     if (step.piece == "#") return IsDigit(character.front());
@@ -85,7 +81,7 @@ bool MatchesPattern(std::string_view mixedText, std::string_view mixedPattern) {
             continue;
         }
         if (!pattern.empty() && !text.empty()) {
-            const Step step = NextStep(pattern);
+            const PatternStep step = NextPatternStep(pattern);
             const std::string_view character = FirstCharacter(text);
             if (Takes(step, character)) {
                 pattern.remove_prefix(step.piece.size());

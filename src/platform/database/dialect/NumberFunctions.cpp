@@ -34,7 +34,7 @@ BoundPtr ToWhole(FunctionCall& call) {
     return call.Whole(0, Type);
 }
 
-constexpr FunctionDefinition kFunctions[] = {
+constexpr FunctionDefinition kNumberFunctions[] = {
     {"Abs", 1, 1, [](FunctionCall& call) { return OfAnyNumber("abs", "abs", call); }},
     {"Int", 1, 1,
      [](FunctionCall& call) { return OfAnyNumber("floor", "vestrel_money_floor", call); }},
@@ -63,7 +63,7 @@ constexpr FunctionDefinition kFunctions[] = {
 } // namespace
 
 std::span<const FunctionDefinition> NumberFunctions() {
-    return kFunctions;
+    return kNumberFunctions;
 }
 
 } // namespace platform::dialect

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "platform/database/dialect/Parser.h"
+#include "platform/values/Text.h"
 
 namespace platform::dialect {
 
@@ -61,8 +62,7 @@ void Parser::ParseTop(Select& select) {
     Take();
     const Token number = Take();
     constexpr std::size_t kMostDigits = 9;
-    const bool isWhole =
-        std::ranges::all_of(number.text, [](char c) { return c >= '0' && c <= '9'; });
+    const bool isWhole = std::ranges::all_of(number.text, IsDigit);
     if (!isWhole || number.text.size() > kMostDigits) {
         ThrowFault(text_, number.position, "TOP needs a whole number");
     }

@@ -34,7 +34,7 @@ void AnswerKept(sqlite3_context* context) {
 }
 
 /// The mean so far, and the sum of the squared differences from it.
-struct Spread {
+struct SpreadState {
     double mean;
     double squares;
     std::int64_t count;
@@ -42,7 +42,8 @@ struct Spread {
 
 void AddToSpread(sqlite3_context* context, int, sqlite3_value** arguments) {
     if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) return;
-    auto* spread = static_cast<Spread*>(sqlite3_aggregate_context(context, sizeof(Spread)));
+    auto* spread =
+        static_cast<SpreadState*>(sqlite3_aggregate_context(context, sizeof(SpreadState)));
     if (spread == nullptr) return sqlite3_result_error_nomem(context);
     const double number = sqlite3_value_double(arguments[0]);
     const double difference = number - spread->mean;
@@ -54,7 +55,7 @@ void AddToSpread(sqlite3_context* context, int, sqlite3_value** arguments) {
 /// The deviation of a sample: null for fewer than two numbers.
 template <bool Root>
 void AnswerSpread(sqlite3_context* context) {
-    const auto* spread = static_cast<const Spread*>(sqlite3_aggregate_context(context, 0));
+    const auto* spread = static_cast<const SpreadState*>(sqlite3_aggregate_context(context, 0));
     if (spread == nullptr || spread->count < 2) return sqlite3_result_null(context);
     const double variance = spread->squares / static_cast<double>(spread->count - 1);
     sqlite3_result_double(context, Root ? std::sqrt(variance) : variance);

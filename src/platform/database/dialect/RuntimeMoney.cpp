@@ -78,7 +78,7 @@ void Fix(const RuntimeCall& call) {
     call.Answer(call.Whole(0) - call.Whole(0) % Currency::kScale);
 }
 
-void Round(const RuntimeCall& call) {
+void RoundMoney(const RuntimeCall& call) {
     if (call.Whole(1) < 0) throw ConversionError("Round needs a number of decimals");
     std::int64_t step = Currency::kScale;
     for (std::int64_t digits = call.Whole(1); digits > 0 && step > 1; --digits)
@@ -98,7 +98,7 @@ void AddMoneyFunctions(sqlite3* connection) {
                                AddAmount, AnswerAverage, nullptr);
     AddFunction<RunUnlessNull<Floor>>(connection, "vestrel_money_floor", 1);
     AddFunction<RunUnlessNull<Fix>>(connection, "vestrel_money_fix", 1);
-    AddFunction<RunUnlessNull<Round>>(connection, "vestrel_money_round", 2);
+    AddFunction<RunUnlessNull<RoundMoney>>(connection, "vestrel_money_round", 2);
 }
 
 } // namespace platform::dialect

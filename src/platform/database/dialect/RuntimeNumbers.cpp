@@ -67,7 +67,7 @@ void Single(const RuntimeCall& call) {
     call.Answer(static_cast<double>(static_cast<float>(call.Real(0))));
 }
 
-void Round(const RuntimeCall& call) {
+void RoundNumber(const RuntimeCall& call) {
     constexpr std::int64_t kMostPlaces = 22; // 10 to a higher power isn't exact
     const std::int64_t places = call.Whole(1);
     if (places < 0) throw ConversionError("Round needs a number of decimals");
@@ -126,7 +126,7 @@ void AddNumberFunctions(sqlite3* connection) {
     AddFunction<RunUnlessNull<BooleanText>>(connection, "vestrel_boolean_text", 1);
     AddFunction<RunUnlessNull<Power>>(connection, "vestrel_power", 2);
     AddFunction<RunUnlessNull<Single>>(connection, "vestrel_single", 1);
-    AddFunction<RunUnlessNull<Round>>(connection, "vestrel_round", 2);
+    AddFunction<RunUnlessNull<RoundNumber>>(connection, "vestrel_round", 2);
     AddFunction<RunUnlessNull<ReadLeadingNumber>>(connection, "vestrel_val", 1);
     AddFunction<FormatValue>(connection, "vestrel_format", 2);
     AddFunction<FormatAmount>(connection, "vestrel_format_money", 2);

@@ -65,7 +65,7 @@ void Lower(const RuntimeCall& call) {
 }
 
 /// Returns the position of one text in another, counted in characters from 1; 0 if it isn't there.
-void Find(const RuntimeCall& call) {
+void FindFrom(const RuntimeCall& call) {
     const std::string text = ToLower(call.Text(1));
     const std::string part = ToLower(call.Text(2));
     const auto start = std::max<std::int64_t>(1, call.Whole(0));
@@ -100,7 +100,7 @@ void AddTextFunctions(sqlite3* connection) {
     AddFunction<RunUnlessNull<Space>>(connection, "vestrel_space", 1);
     AddFunction<RunUnlessNull<Upper>>(connection, "vestrel_upper", 1);
     AddFunction<RunUnlessNull<Lower>>(connection, "vestrel_lower", 1);
-    AddFunction<RunUnlessNull<Find>>(connection, "vestrel_instr", 3);
+    AddFunction<RunUnlessNull<FindFrom>>(connection, "vestrel_instr", 3);
     AddFunction<RunUnlessNull<Like>>(connection, "vestrel_like", 2);
 }
 

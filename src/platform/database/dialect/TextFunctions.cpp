@@ -40,7 +40,7 @@ BoundPtr Replace(FunctionCall& call) {
     return MakeCall("replace", FieldType::Text, std::move(text), std::move(part), call.Text(2));
 }
 
-constexpr FunctionDefinition kFunctions[] = {
+constexpr FunctionDefinition kTextFunctions[] = {
     {"Left", 2, 2, [](FunctionCall& call) { return PartOf("vestrel_left", call); }},
     {"Right", 2, 2, [](FunctionCall& call) { return PartOf("vestrel_right", call); }},
     {"Mid", 2, 3, Mid},
@@ -64,7 +64,7 @@ constexpr FunctionDefinition kFunctions[] = {
 } // namespace
 
 std::span<const FunctionDefinition> TextFunctions() {
-    return kFunctions;
+    return kTextFunctions;
 }
 
 } // namespace platform::dialect

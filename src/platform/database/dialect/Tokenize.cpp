@@ -3,14 +3,11 @@
 #include <fmt/core.h>
 
 #include "platform/database/dialect/Token.h"
+#include "platform/values/Text.h"
 
 namespace platform::dialect {
 
 namespace {
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 // Letters beyond ASCII can be part of a name too.
 bool IsNameStart(char c) {
