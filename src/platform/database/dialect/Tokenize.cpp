@@ -118,14 +118,11 @@ class Tokenizer {
     }
 
     void AddText(char quote) {
-        std::size_t end = at_ + 1;
-        for (;; ++end) {
-            end = text_.find(quote, end);
-            if (end == std::string_view::npos)
-                ThrowFault(text_, at_, "A text has no closing quote");
-            if (end + 1 == text_.size() || text_[end + 1] != quote) break;
-            ++end;
-        }
+        std::size_t end = text_.find(quote, at_ + 1);
+        // A doubled quote is a quote of the text.
+        while (end != std::string_view::npos && end + 1 < text_.size() && text_[end + 1] == quote)
+            end = text_.find(quote, end + 2);
+        if (end == std::string_view::npos) ThrowFault(text_, at_, "A text has no closing quote");
         tokens_.push_back({TokenKind::Text, text_.substr(at_ + 1, end - at_ - 1), at_, quote});
         at_ = end + 1;
     }
