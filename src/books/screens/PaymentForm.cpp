@@ -10,6 +10,7 @@
 #include "core/binding/Tags.h"
 #include "core/forms/ErrorRoll.h"
 #include "platform/qt/Text.h"
+#include "platform/values/Errors.h"
 #include "platform/values/Text.h"
 
 namespace books::screens {
@@ -59,6 +60,15 @@ void PaymentForm::OpenPayment(std::int32_t idTransaction, const std::function<vo
     core::binding::SetTag(*this, idTransaction == 0 ? "" : std::to_string(idTransaction));
     Begin([this] { ShowPayment(); });
     charges_->setFocus();
+}
+
+void PaymentForm::Store() {
+    try {
+        PostPayment();
+    } catch (const platform::ConflictError&) {
+        Quietly([this] { RereadCharges(); });
+        throw;
+    }
 }
 
 void PaymentForm::ShowEntries(const Payment& payment, const std::vector<std::string>& types) {

@@ -38,6 +38,15 @@ class PaymentForm : public core::forms::EntryForm {
 
     /// Reads the payment and shows it; the screen doesn't open if `read` throws.
     void OpenPayment(std::int32_t idTransaction, const std::function<void()>& read);
+    /// Posts the payment. If another program has changed what it settles, nothing is posted and the
+    /// list shows the present charges before the user reads why.
+    void Store() final;
+    /// Posts the payment as it was entered. Throws ConflictError, and posts nothing, if the charges
+    /// aren't in the books as they were read.
+    virtual void PostPayment() = 0;
+    /// Reads the charges from the books again and lists them; the other entries stay.
+    virtual void RereadCharges() = 0;
+
     /// Shows the whole payment.
     virtual void ShowPayment() = 0;
     /// Fills the lists of payers and receivers.

@@ -18,7 +18,6 @@
 #include "leases/screens/frmReturnPayment.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
-#include "platform/values/Errors.h"
 #include "platform/values/Format.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportMenus.h"
@@ -321,20 +320,14 @@ std::vector<std::string> frmRentPayment::Errors() {
     return lines;
 }
 
-void frmRentPayment::Store() {
+void frmRentPayment::PostPayment() {
     ReadTicks();
     ReadEntries(payment_);
     payment_.from.type = static_cast<std::int16_t>(GetSelectedId(*ui_->cboFromType));
-    try {
-        if (payment_.IsNew() && ui_->amountPanel->IsUsed()) {
-            SubmitAmount(ReadAmount(), update_);
-        } else {
-            SubmitPayment(payment_, update_);
-        }
-    } catch (const platform::ConflictError&) {
-        // The list shows the present charges before the user reads why nothing was posted.
-        Quietly([this] { RereadCharges(); });
-        throw;
+    if (payment_.IsNew() && ui_->amountPanel->IsUsed()) {
+        SubmitAmount(ReadAmount(), update_);
+    } else {
+        SubmitPayment(payment_, update_);
     }
 }
 

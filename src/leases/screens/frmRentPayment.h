@@ -34,7 +34,8 @@ class frmRentPayment : public books::screens::PaymentForm {
                LeaseUpdate update);
 
   protected:
-    void Store() override;
+    void PostPayment() override;
+    void RereadCharges() override;
     std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;
     void ShowPayment() override;
@@ -51,7 +52,6 @@ class frmRentPayment : public books::screens::PaymentForm {
     void ListCharges();
     void ReadTicks();
     void TicksChanged();
-    void RereadCharges();
     void ChargeSplit(std::int32_t idRentLog, const std::array<std::int32_t, 2>& parts);
     void RestoreTicks();
     void ShowTotal();

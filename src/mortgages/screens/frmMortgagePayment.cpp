@@ -64,7 +64,7 @@ void frmMortgagePayment::ShowPayment() {
                        : tr("Mortgage Payment: %1").arg(ToScreen(payment_.dateEffective.ToText())));
     ShowEntries(payment_, {std::string(kCategoryPayment)});
     ui_->txtExtraPrincipal->setEnabled(payment_.IsNew());
-    ShowCharges();
+    RereadCharges();
 }
 
 void frmMortgagePayment::FillParties() {
@@ -72,7 +72,7 @@ void frmMortgagePayment::FillParties() {
         FillParty(core::kAccount, *combo);
 }
 
-void frmMortgagePayment::ShowCharges() {
+void frmMortgagePayment::RereadCharges() {
     ReadCharges(payment_);
     ui_->lvwCharges->ShowTable(ChargeTable(payment_.charges), Ticks());
     ui_->lblEmpty->setText(payment_.charges.empty() ? tr("Nothing is open") : QString());
@@ -130,13 +130,13 @@ std::vector<std::string> frmMortgagePayment::Errors() {
     return PaymentErrors(payment_);
 }
 
-void frmMortgagePayment::Store() {
+void frmMortgagePayment::PostPayment() {
     SubmitMortgagePayment(payment_);
 }
 
 void frmMortgagePayment::Refresh(std::int16_t kind) {
     if (kind == core::kAccount) FillParties();
-    if (kind == core::kMortgageLog) ShowCharges();
+    if (kind == core::kMortgageLog) RereadCharges();
 }
 
 } // namespace mortgages::screens

@@ -24,7 +24,8 @@ class frmMortgagePayment : public books::screens::PaymentForm {
     void Setup(std::int32_t idTransaction, std::int32_t idMortgage);
 
   protected:
-    void Store() override;
+    void PostPayment() override;
+    void RereadCharges() override;
     std::vector<std::string> Errors() override;
     void Refresh(std::int16_t kind) override;
 
@@ -33,7 +34,6 @@ class frmMortgagePayment : public books::screens::PaymentForm {
 
   private:
     void AddChargeItems();
-    void ShowCharges();
     std::vector<bool> Ticks() const;
     void ShowTicks();
     void ShowTotal();

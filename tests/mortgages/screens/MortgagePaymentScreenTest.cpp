@@ -164,9 +164,11 @@ TEST_F(MortgagePaymentScreen, BooksExtraPrincipal) {
     row->CloseUnasked();
 }
 
-TEST_F(MortgagePaymentScreen, SaysWhatAnotherProgramDidAndChangesNothing) {
+TEST_F(MortgagePaymentScreen, SaysWhatAnotherProgramDidAndPaysTheRestAfterwards) {
     const auto form = Open();
     Tick(*form, 0, true);
+    Tick(*form, 1, true);
+    Type(Find<QLineEdit>(*form, "txtCheckNumber"), "0042");
     Run("UPDATE MortgageLog SET IdTransaction = 77 WHERE Flags = 1 AND Period = 3");
     ClickAction(*form, "SUBMIT");
     const Said heard = Heard();
@@ -178,6 +180,13 @@ TEST_F(MortgagePaymentScreen, SaysWhatAnotherProgramDidAndChangesNothing) {
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(Ask("SELECT Count(*) FROM Transactions"), "0");
     EXPECT_EQ(Loan("CurrentPeriod"), "1");
+    const Said left = ListRows(*form, "lvwCharges");
+    ASSERT_EQ(left.size(), 8U) << "the charge that the other program paid isn't listed";
+    EXPECT_EQ(left[0], "x 03/01/2024|3|Mortgage Escrow|Mortgage Escrow Payment|250.00");
+    EXPECT_EQ(Text(*form, "txtTotalDue"), "250.00");
+    ClickAction(*form, "SUBMIT");
+    EXPECT_EQ(Heard(), Said{});
+    EXPECT_EQ(Ask("SELECT CheckNum & '|' & Amount FROM Transactions"), "0042|250");
 }
 
 TEST_F(MortgagePaymentScreen, AChargeKeepsABasePaymentsSplit) {
