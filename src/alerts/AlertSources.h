@@ -6,8 +6,8 @@
 
 namespace alerts {
 
-// One function a cause: each adds its lines to the list, none if its query fails. Throws Error,
-// which names the record, if a due date is not a valid date.
+// Each function handles one cause: it adds its lines to the list, and none if its query fails.
+// Throws Error, which names the record, if a due date is not a valid date.
 void AddLateRent(std::vector<AlertItem>& items);
 void AddLateMortgages(std::vector<AlertItem>& items);
 void AddOpenWorkOrders(std::vector<AlertItem>& items);

@@ -31,7 +31,7 @@ void PurgeMessages() {
     }
 }
 
-/// The list is complete without the purge, which the next refresh repeats.
+/// The list is complete without the purge; the next refresh tries it again.
 void TryToPurgeMessages() {
     try {
         PurgeMessages();

@@ -7,8 +7,8 @@
 
 namespace alerts {
 
-/// One line of what needs attention: its record (kind and id, 0 for none), its text, and the name
-/// of its picture.
+/// One line of what needs attention: its record (kind and id, 0 if there is no record), its text,
+/// and the name of its picture.
 struct AlertItem {
     std::int16_t recordKind = 0;
     std::int32_t recordId = 0;

@@ -5,10 +5,10 @@
 
 namespace alerts {
 
-/// The next thing to do in books that are still being set up.
+/// The next step in books that are still being set up.
 struct FirstStep {
     std::string_view text;
-    /// The text of the command that does it, and the kind of record that it adds.
+    /// The text of the command that does this step, and the kind of record that it adds.
     std::string_view command;
     std::int16_t kind = 0;
 };

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kMonths = 12;
 
-/// Runs what reads a figure; a failure becomes its fault.
+/// Runs `work`, which reads a figure; if it fails, the reason becomes the figure's fault.
 template <class Figure, class Work>
 Figure Gather(Work work) {
     Figure figure;
@@ -33,7 +33,7 @@ Figure Gather(Work work) {
     return figure;
 }
 
-/// Month 0 is this one.
+/// Returns the first day of a month; month 0 is the present one.
 Date FirstDayOf(int month) {
     const Date today = platform::Today();
     return platform::DateAdd(platform::Interval::Month, month,

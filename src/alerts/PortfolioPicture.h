@@ -10,8 +10,9 @@
 
 namespace alerts {
 
-// The figures of the home page's picture. Each is the one that a report shows, for the report to be
-// opened behind it. A figure that can't be read says why in `fault`, and the others go on.
+// The figures of the home page's picture. Each is also shown by a report, which the user can open
+// for the details. If a figure can't be read, its `fault` says why, and the others are read all the
+// same.
 
 /// Units that aren't hidden, and those of them that have a running lease.
 struct Occupancy {
@@ -35,7 +36,7 @@ struct MonthsFlow {
     platform::Currency expenses;
 };
 
-/// The last twelve months with this one, the oldest first.
+/// Income and expenses of the last twelve months, this month included, oldest first.
 struct YearsFlow {
     std::vector<MonthsFlow> months;
     std::string fault;
@@ -48,7 +49,8 @@ struct Debtor {
     platform::Currency amount;
 };
 
-/// The leases that owe most, the most first, and what all leases owe, credits taken off.
+/// The leases that owe the most, the largest debt first, and the total that all leases owe, less
+/// their credits.
 struct Debts {
     std::vector<Debtor> most;
     platform::Currency total;
@@ -73,7 +75,7 @@ inline constexpr std::string_view kRentReport = "Rent charged and collected";
 inline constexpr std::string_view kFlowReport = "Cash flow by month";
 inline constexpr std::string_view kDebtsReport = "Who owes what, by age";
 
-/// "45 %" of a part in a whole, rounded; empty if the whole isn't positive.
+/// Returns a part as a percentage of a whole, rounded: "45 %". Empty if the whole isn't positive.
 std::string PercentText(platform::Currency part, platform::Currency whole);
 
 } // namespace alerts

@@ -11,7 +11,8 @@ namespace alerts {
 struct SummaryItem {
     std::string_view name;
     platform::Currency total;
-    /// Why the sum can't be made; empty if it was made. The total is then 0 and means nothing.
+    /// Why the sum can't be calculated; empty if it was. If it can't be, the total is 0 and means
+    /// nothing.
     std::string fault;
 };
 

@@ -21,7 +21,7 @@ struct LedgerView {
 };
 
 /// Returns the select of the rows, newest first, with the transaction's id in the first column;
-/// empty for a kind that has no ledger. An account is matched by its id alone, whatever the kind of
+/// empty for a kind that has no ledger. An account is matched only by its id, whatever the kind of
 /// the party.
 std::string LedgerSql(const LedgerView& view, platform::Date today);
 

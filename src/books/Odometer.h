@@ -12,9 +12,9 @@ inline constexpr std::string_view kEndsBelowStart =
 /// less the start. Whichever of end and distance was typed last stays, and the other is calculated.
 class Odometer {
   public:
-    /// Nothing driven yet; the end is calculated.
+    /// Returns the readings of a new trip, with nothing driven yet; the end is calculated.
     static Odometer At(double begin);
-    /// A stored trip; the distance is calculated.
+    /// Returns the readings of a stored trip; the distance is calculated.
     static Odometer Of(double begin, double end);
 
     void TypeBegin(double reading);
@@ -23,7 +23,7 @@ class Odometer {
 
     double Begin() const { return begin_; }
     double End() const { return end_; }
-    /// Empty if the end is before the start.
+    /// Returns the end less the start; nothing if the end is before the start.
     std::optional<double> Distance() const;
 
   private:

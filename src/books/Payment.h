@@ -47,8 +47,8 @@ struct ChargeDeletion {
     std::function<void()> follow{};
 };
 
-/// Asks, then deletes the rows in one unit of work and refreshes the open screens. Returns true if
-/// they were deleted.
+/// Asks the user, then deletes the rows in one unit of work and refreshes the open screens. Returns
+/// true if they were deleted.
 bool DeleteCharges(const ChargeDeletion& deletion);
 
 /// Returns the first lines, as given by `lineOf`, and the number of further rows: "

@@ -47,7 +47,7 @@ struct Transaction : References {
     std::int16_t flags = 0;
 };
 
-/// Whether a new row triggers the events that wait for its like.
+/// Whether a new row triggers the events that wait for such a transaction.
 enum class Triggers { Fire, Skip };
 
 /// Adds a row to the transactions; rows reach the table in no other way. Before the commit, the

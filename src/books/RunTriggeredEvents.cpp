@@ -26,7 +26,7 @@ struct Waiting {
     std::string description;
 };
 
-/// Read completely before any of them runs, since a run writes to the table.
+/// Returns the events completely before any of them runs, since a run writes to the table.
 std::vector<Waiting> EventsOf(const Party& party, std::string_view taxCategory) {
     Recordset rows = core::Read(
         "SELECT IdAutoEvent, Description, TriggerTaxCategory FROM AutoEvent "

@@ -8,7 +8,7 @@
 namespace books {
 
 /// One daily run of the scheduled events. An event that can't run is reported to the listener once,
-/// with its books unchanged; the others run.
+/// and its books stay unchanged; the other events still run.
 class ScheduledEvents {
   public:
     explicit ScheduledEvents(core::RunListener& listener) : listener_(listener) {}
@@ -24,8 +24,8 @@ class ScheduledEvents {
     std::set<std::int32_t> passedOver_;
 };
 
-/// The step of the daily run: makes passes until nothing is left, and processes window messages
-/// between them.
+/// The step of the daily run that runs scheduled events: makes passes until no event is due, and
+/// processes window messages between them.
 void RunDueEvents(core::RunListener& listener);
 
 } // namespace books

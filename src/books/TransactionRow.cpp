@@ -48,7 +48,7 @@ constexpr FieldOf Of(const char* name) {
             [](const Field& field, Transaction& to) { Get(field, to.*member); }};
 }
 
-/// The same for a member of one party.
+/// Describes a member of one party in the same way.
 template <auto side, auto member>
 constexpr FieldOf OfSide(const char* name) {
     return {name,

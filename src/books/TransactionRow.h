@@ -18,8 +18,8 @@ core::RowToWrite TransactionToWrite(std::int32_t id);
 /// a party's balance is always the sum of its rows.
 void WriteTransactionFields(platform::Recordset& rows, const Transaction& transaction);
 
-/// Writes only the fields in which `entered` differs from `shown`, and the balances if there is
-/// one.
+/// Writes only the fields in which `entered` differs from `shown`, and the balances if any
+/// of them does.
 void WriteChangedFields(platform::Recordset& rows, const Transaction& entered,
                         const Transaction& shown);
 

@@ -82,7 +82,8 @@ std::vector<PlannedTrip> PlanTrips(const TripPlan& plan, const std::vector<TripO
             trip.vehicle = vehicle->name;
             trip.begin = Tenths(EvenReading(plan, *vehicle, day));
         } else {
-            // If the first trip of a day found no vehicle, its other trips find none either.
+            // If no vehicle was found for the first trip of a day, there is none for the day's
+            // other trips either.
             if (trips.empty() || trips.back().date != day) continue;
             trip.vehicle = trips.back().vehicle;
             trip.begin = trips.back().end;

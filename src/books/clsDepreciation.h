@@ -41,7 +41,7 @@ class clsDepreciation {
     void SetDescription(std::string_view text) { description_ = text; }
     double Basis() const { return basis_; }
     void SetBasis(double amount) { basis_ = amount; }
-    /// Years; stored, but without effect on the schedule.
+    /// Returns the life in years, which is stored but has no effect on the schedule.
     double Life() const { return life_; }
     void SetLife(double years) { life_ = years; }
     const std::string& Method() const { return method_; }

@@ -18,12 +18,12 @@ using platform::UnitOfWork;
 
 namespace {
 
-// Enough rows that a commit's wait for the disk no longer counts, few enough that a long catch-up
-// stays small in memory.
+// Enough rows that the wait for the disk at a commit no longer matters, few enough that a long
+// catch-up needs little memory.
 constexpr std::size_t kRowsPerCommit = 50'000;
 
-/// A record whose name is empty (its description then begins with the comma after the name) is
-/// called by its number.
+/// Returns the record's description. If the name is empty (the description then begins with the
+/// comma after the name), the record is called by its number.
 std::string Describe(std::int16_t kind, std::int32_t id) {
     std::string description = GetDescription(kind, id, 0, false);
     const std::string_view shown = platform::Trim(description);
@@ -62,7 +62,7 @@ class Outcome {
     std::vector<std::pair<std::int32_t, std::string>> faults_;
 };
 
-/// The run over the rows of one select.
+/// Runs over the rows of one select.
 class Batches {
   public:
     Batches(std::int16_t kind, std::string_view select, std::string_view idField,
@@ -71,7 +71,7 @@ class Batches {
         rows_ = Write(select);
     }
 
-    /// Updates and keeps the next records; false when all are done.
+    /// Updates the next records and keeps the results; returns false when all are done.
     bool DoNext() {
         if (rows_.Eof()) return false;
         UnitOfWork unit(App().Connection);
@@ -97,8 +97,8 @@ class Batches {
         }
     }
 
-    /// Another program has changed or deleted the record since the rows were read: it may have been
-    /// brought up to date already, so that everything is decided again on what is stored now.
+    /// Another program has changed or deleted the record since the rows were read. It may have been
+    /// brought up to date already, so everything is decided again from what is stored now.
     void UpdateAsStored(std::int32_t id) {
         std::string sql = select_;
         AddWhere(sql, idField_ + " = ?");

@@ -16,9 +16,10 @@ namespace core {
 using UpdateOne = std::function<std::vector<PostedRow>(platform::Recordset& row)>;
 
 /// Calls `update` with every row of `select`, in its order, for records of `kind` with the key
-/// `idField`. Many records are committed at a time and then reported to the listener; one that
-/// fails is reported and left as it was, and the others go on. A record that another program has
-/// changed since it was read is read again first. Messages run between the batches.
+/// `idField`. Many records are committed at a time and then reported to the listener; a record that
+/// fails is reported and left unchanged, and the others are still updated. A record that another
+/// program has changed since it was read is read again first. Window messages are processed between
+/// the batches.
 void UpdateEach(std::int16_t kind, std::string_view select, std::string_view idField,
                 const UpdateOne& update, RunListener& listener);
 

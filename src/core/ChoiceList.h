@@ -21,16 +21,16 @@ struct Choice {
 class ChoiceList {
   public:
     const std::vector<Choice>& Rows() const { return rows_; }
-    /// The index of the selected row.
+    /// Returns the index of the selected row.
     std::optional<std::size_t> Selected() const { return selected_; }
     const std::string& Text() const { return text_; }
 
     void Add(std::string_view text, std::int32_t id);
-    /// No rows, no selection, no text.
+    /// Removes the rows, the selection and the text.
     void Clear();
-    /// Selects a row, whose text goes into the box. A row that isn't there is not selected.
+    /// Selects a row and puts its text into the box; does nothing if there is no such row.
     void Select(std::size_t row);
-    /// Puts a text in the box; the selection goes unless it is the selected row's own.
+    /// Puts a text into the box, and drops the selection unless it is the selected row's own text.
     void SetText(std::string_view text);
 
   private:

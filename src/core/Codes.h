@@ -62,8 +62,8 @@ inline constexpr std::array kLeaseStatuses = {
 inline constexpr std::string_view kExpireRenews = "Renew";
 inline constexpr std::string_view kExpireEnds = "Expire";
 
-/// Returns the interval that a lease's term of this type is counted in. One from week to week or
-/// month to month has no term.
+/// Returns the interval in which a lease's term of this type is counted. A lease that runs from
+/// week to week or month to month has no term.
 constexpr platform::Interval TermInterval(std::string_view termType) {
     if (termType == "Weekly" || termType == "Week(s)") return platform::Interval::Week;
     if (termType == "Yearly" || termType == "Year(s)") return platform::Interval::Year;

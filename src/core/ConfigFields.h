@@ -9,8 +9,8 @@
 
 namespace core {
 
-/// Where a field of the table Configuration is kept in memory; monostate for one that is read from
-/// the table where it is needed.
+/// The member of ConfigValues that holds a field of the table Configuration; monostate for a field
+/// that is read from the table when it is needed.
 using ConfigMember =
     std::variant<std::monostate, std::string ConfigValues::*, std::int16_t ConfigValues::*,
                  std::int32_t ConfigValues::*, platform::Currency ConfigValues::*,
@@ -18,12 +18,12 @@ using ConfigMember =
 
 struct ConfigField {
     std::string_view name;
-    /// What new books get; null for a field that they leave unset.
+    /// The value in new books; null for a field that they leave unset.
     platform::Value newValue;
     ConfigMember member;
 };
 
-/// All fields of the table Configuration that the program gives a meaning.
+/// Returns all fields of the table Configuration that the program gives a meaning.
 std::vector<ConfigField> ConfigFields();
 
 } // namespace core

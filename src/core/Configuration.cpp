@@ -47,7 +47,7 @@ bool CreateDefaultConfiguration(platform::Connection& connection) {
     std::string path;
     if (!connection.IsOpen() && !OpenDatabase(connection, path)) return false;
     try {
-        // As a write from the start: two programs that start at the same time must not both add it.
+        // Begins as a write: two programs that start at the same time must not both add it.
         platform::UnitOfWork unit(connection);
         platform::Recordset rows;
         rows.Open(connection, "SELECT * FROM Configuration", platform::CursorMode::Updatable);

@@ -65,16 +65,16 @@ struct ConfigValues {
     double CFAVacancyRate = 0;
 };
 
-/// The settings as last loaded.
+/// Returns the settings as last loaded.
 ConfigValues& Config();
 
 /// Reads the settings from the books. Without a row, or on failure, they stay as they were; a field
 /// that is null or missing reads as its type's empty value.
 void LoadConfiguration();
 
-/// Gives books without settings the default ones, the first record identifier among them; opens
-/// the connection on the process's database if it isn't open. False on failure, and when there are
-/// settings already, which are never changed.
+/// Gives books without settings the default ones, the first record identifier among them; opens the
+/// connection on the process's database if it isn't open. Returns false on failure, and if there
+/// are settings already, which are never changed.
 bool CreateDefaultConfiguration(platform::Connection& connection);
 
 } // namespace core

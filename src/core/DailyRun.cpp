@@ -19,7 +19,7 @@ struct Step {
     RunStepFunction work;
 };
 
-/// In the order in which they run.
+/// Returns the steps in the order in which they run.
 std::array<Step, 3>& Steps() {
     static std::array<Step, 3> steps = {
         {{"Scheduled events", {}}, {"Mortgages", {}}, {"Leases", {}}}};

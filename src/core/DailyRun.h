@@ -18,20 +18,22 @@ struct PostedRow {
     std::string_view category;
     platform::Currency amount;
     RunReason reason{};
-    /// Its id in the rent log, the mortgage log or the transactions.
+    /// The row's id in the rent log, the mortgage log or the transactions.
     std::int32_t id = 0;
 };
 
-/// Receives the results of the daily run as it goes. They are committed when it hears of them: rows
-/// are reported after the unit of work that wrote them is committed.
+/// Receives the results of the daily run while it runs. Rows are reported only after the unit of
+/// work that wrote them has been committed.
 class RunListener {
   public:
     virtual ~RunListener() = default;
 
-    /// Rows posted for one record: its kind, id and description, and the rows in their order.
+    /// Called with the rows posted for one record: its kind, id and description, and the rows in
+    /// their order.
     virtual void Posted(int recordKind, std::int32_t id, std::string_view description,
                         const std::vector<PostedRow>& rows) = 0;
-    /// A record that the run skipped, by its description, and why. Its books are as before.
+    /// Called with a record that the run skipped, by its description, and with the reason. The
+    /// record and its rows are unchanged.
     virtual void Failed(int recordKind, std::int32_t id, std::string_view description,
                         std::string_view reason) = 0;
 };
@@ -44,13 +46,13 @@ enum class RunStep { ScheduledEvents, Mortgages, Leases };
 
 using RunStepFunction = std::function<void(RunListener&)>;
 
-/// Gives a step its work; without one the step is empty.
+/// Registers the work of a step; a step without work does nothing.
 void RegisterRunStep(RunStep step, RunStepFunction work);
 
 /// Makes the books current: scheduled events, then mortgages, then leases. A step that fails as a
 /// whole is reported to the listener (kind 0) and the next one runs.
 void UpdateRecords(RunListener& listener);
-/// The same with nobody listening.
+/// Does the same without a listener.
 void UpdateRecords();
 
 } // namespace core

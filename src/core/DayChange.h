@@ -8,8 +8,8 @@ namespace core {
 /// day, since the start has just brought the books up to date.
 class DayChange {
   public:
-    /// Called every now and then; does `work` when the day of the month is another than at the tick
-    /// before. What the work throws is thrown on, and the next tick tries again.
+    /// Called regularly. Calls `work` if the day of the month has changed since the previous tick.
+    /// An exception of `work` is passed on, and the next tick tries again.
     void Tick(const std::function<void()>& work);
 
   private:

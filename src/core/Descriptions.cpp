@@ -25,7 +25,7 @@ std::string_view DescriptionSql(const KindInfo& info, bool shortForm) {
     return shortForm && !info.shortDescription.empty() ? info.shortDescription : info.description;
 }
 
-/// Describes a record by a statement with its identifier for every parameter.
+/// Describes a record by a statement in which every parameter is its identifier.
 std::optional<platform::Value> Describe(std::string_view sql, std::int32_t id) {
     return std::ranges::count(sql, '?') == 2 ? LookUp(sql, {id, id}) : LookUp(sql, {id});
 }
@@ -36,14 +36,15 @@ std::string ExistenceSql(const KindInfo& info) {
     return fmt::format("SELECT {0} FROM {1} WHERE {0} = ?", info.key, info.table);
 }
 
-/// The statement of a description that leaves out what is null: '&' joins a null as an empty text.
+/// Returns the statement of a description that leaves out the parts that are null: '&' joins a null
+/// as an empty text.
 std::string WithoutNulls(std::string_view sql) {
     std::string joined(sql);
     std::ranges::replace(joined, '+', '&');
     return joined;
 }
 
-/// Without the commas and blanks at the end that joined what is left out.
+/// Returns the text without the commas and blanks at its end that joined what was left out.
 std::string WithoutLooseEnd(std::string text) {
     text.erase(text.find_last_not_of(" ,") + 1);
     return text;

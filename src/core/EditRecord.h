@@ -19,7 +19,7 @@ struct EditRequest {
 
 using RecordOpener = std::function<void(const EditRequest& request)>;
 
-/// Gives a kind the editor that opens its records, all but transactions'.
+/// Registers the editor that opens the records of a kind; transactions have their own function.
 void RegisterOpener(std::int16_t kind, RecordOpener opener);
 
 /// The screen that a transaction is edited on: the payment's screen if a payment made it.
@@ -34,19 +34,19 @@ struct TransactionPlace {
     friend bool operator==(const TransactionPlace&, const TransactionPlace&) = default;
 };
 
-/// Where a stored transaction is edited; the transaction's own editor for id 0 and for one that
-/// can't be read.
+/// Returns where a stored transaction is edited; the transaction's own editor for id 0 and for a
+/// transaction that can't be read.
 TransactionPlace FindTransactionPlace(std::int32_t id);
 
 using TransactionOpener =
     std::function<void(const EditRequest& request, const TransactionPlace& place)>;
 void RegisterTransactionOpener(TransactionEditor editor, TransactionOpener opener);
 
-/// Whether records of the kind can be opened.
+/// Returns whether records of the kind can be opened.
 bool HasEditor(std::int16_t kind);
 
-/// Gives the process its way of finding the open editor of an identifier and bringing it to the
-/// front: true when there is one, in whatever state.
+/// Registers the function that finds the open editor of an identifier and brings it to the front;
+/// it returns true if there is such an editor, in whatever state.
 void RegisterOpenRecords(std::function<bool(std::int32_t id)> bringToFront);
 
 /// Brings the open editor of the record to the front, or opens one; a new record (id 0) always gets

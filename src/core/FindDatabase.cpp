@@ -17,7 +17,7 @@ namespace core {
 
 namespace {
 
-/// The registered directory of the process's database, empty without one.
+/// Returns the registered directory of the process's database; empty if there is none.
 std::string RegisteredDirectory() {
     const std::string& name = App().DbName;
     std::string directory = GetRegString(kDatabasesKey, name, "");

@@ -14,22 +14,22 @@ namespace core {
 
 enum class DatabaseState { Ready = 0, Missing = 1, TooOld = 2 };
 
-/// Looks in the registry for the database directory of the process's name and sets the process's
-/// database path and file; a newer database than required is ready too. The "Default" one may also
-/// be found where the old settings have it, which are then moved over. Each finding goes to
-/// `diagFile` unless that is null.
+/// Looks up the process's database name in the registry, and sets the process's database path and
+/// file; a database that is newer than required is ready too. The "Default" database is also looked
+/// for in the old settings, which are then moved over. Each finding is written to `diagFile` unless
+/// that is null.
 DatabaseState FindDatabase(std::ostream* diagFile);
 
-/// The version in the database directory's file "Version"; 0 when it is missing or holds no number
-/// of 16 bits.
+/// Returns the version in the database directory's file "Version"; 0 if it is missing or doesn't
+/// hold a number of 16 bits.
 std::int16_t ReadDbVersion();
-/// The same of any directory.
+/// Returns the same for any directory.
 std::int16_t ReadDbVersion(std::string_view directory);
 
-/// Names a database directory to the programs. An Error when the registry can't be written.
+/// Registers a database directory under a name. Throws an Error if the registry can't be written.
 void RegisterDatabase(std::string_view name, const std::filesystem::path& directory);
 
-/// How StartDatabaseMender leaves this process.
+/// How StartDatabaseMender starts the repair tool and ends this process.
 struct MenderHandover {
     std::function<bool(const std::filesystem::path& program,
                        const std::vector<std::string>& arguments)>
@@ -38,15 +38,15 @@ struct MenderHandover {
     std::function<void()> endProcess;
 };
 
-/// How a user whose database can't be opened is received.
+/// How the user is received if the database can't be opened.
 enum class MenderGreeting {
     Notice,  ///< says that the database is missing or too old
-    Welcome, ///< for a user who never had one: the sibling program begins with its welcome page
+    Welcome, ///< for a user who never had one: the repair tool begins with its welcome page
 };
 
-/// For a database that is missing or too old: informs the user, starts the sibling program that
-/// mends databases (it starts this one again afterwards) and ends this process; says so if there
-/// is no such program.
+/// For a database that is missing or too old: informs the user, starts the repair tool (which
+/// starts this program again afterwards) and ends this process; informs the user if there is no
+/// repair tool.
 void StartDatabaseMender(const MenderHandover& handover,
                          MenderGreeting greeting = MenderGreeting::Notice);
 

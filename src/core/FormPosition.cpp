@@ -18,7 +18,8 @@ struct StoredPlace {
     bool hasSize = false;
 };
 
-/// "left,top,width,height"; only left and top are a place too. Empty for any other text.
+/// Reads "left,top,width,height"; left and top without the others are a place too. Returns nothing
+/// for any other text.
 std::optional<StoredPlace> ParsePlace(std::string_view text) {
     std::array<std::int32_t, 4> numbers = {};
     std::size_t count = 0;

@@ -21,7 +21,7 @@ struct FormRectangle {
 /// Whether a form keeps its size: a dialog whose border can't be moved always opens as designed.
 enum class FormSizing { Resizable, Fixed };
 
-/// What a form takes on when it loads.
+/// The place and state that a form takes when it loads.
 struct FormPlacement {
     WindowState state = WindowState::Normal;
     /// Empty if the form is not normal, or has no stored place: it opens where it is designed.
@@ -30,7 +30,7 @@ struct FormPlacement {
     bool appliesSize = false;
 };
 
-/// Reads where a form of this name stood when it was last closed.
+/// Reads where a form of this name was when it was last closed.
 FormPlacement RestoreForm(std::string_view formName, FormSizing sizing);
 
 /// Remembers the state of a form that closes, and its place if it is normal; a minimised or

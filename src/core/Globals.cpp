@@ -22,7 +22,7 @@ struct Switch {
     void (*apply)(Globals& app, std::string_view value);
 };
 
-// Those that nothing reads are accepted for the sibling programs, which share the command line.
+// Switches that nothing reads are accepted because the sibling programs share the command line.
 constexpr std::array<Switch, 8> kSwitches = {{
     {"nodb", [](Globals& app, std::string_view) { app.SwitchNoDb = true; }},
     {"diag", [](Globals& app, std::string_view) { app.SwitchDiag = true; }},

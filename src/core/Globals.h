@@ -28,7 +28,7 @@ struct Globals {
     /// Database directory and file; empty until FindDatabase.
     std::string DbPath;
     std::string DbFile;
-    /// The session: opened at start, closed at shut-down, and no other.
+    /// The only session: opened at the start, closed at shut-down.
     platform::Connection Connection;
     /// Why the database could not be opened, in one line for the user; empty if it could.
     std::string OpenFault;
@@ -44,13 +44,13 @@ struct Globals {
     std::string AppStart;
 };
 
-/// The one instance of this process.
+/// Returns the one instance of this process.
 Globals& App();
 
 inline constexpr std::array<std::string_view, 3> TaxClasses = {"Income", "Expenses",
                                                                "Unclassified"};
 
-/// Sets the paths of the program's files, those below `directory`.
+/// Sets the paths of the program's files to those below `directory`.
 void SetAppPath(std::string_view directory);
 
 /// Sets the paths from the program's place, then reads the switches of `commandLine` (the text

@@ -7,7 +7,7 @@
 
 namespace core {
 
-/// How the cells of a column read.
+/// How the cells of a column are shown.
 struct ColumnFormat {
     enum class Kind {
         Plain,
@@ -21,11 +21,11 @@ struct ColumnFormat {
     bool right = false;  ///< numbers are aligned right
 };
 
-/// The format of a column by its field's type and its caption: money, days, flags and fractions
-/// have one, "I Rate" one of its own; all else is shown as it is.
+/// Returns the format of a column by its field's type and its caption: money, days, flags and
+/// fractions have a format, the caption "I Rate" has its own; anything else is shown as it is.
 ColumnFormat FormatOf(platform::FieldType type, std::string_view caption);
 
-/// A cell's text; one blank for a null. A text that the pattern doesn't suit is unchanged.
+/// Returns a cell's text; one blank for a null. A text that the pattern doesn't suit is unchanged.
 std::string CellText(const platform::Value& value, const ColumnFormat& format);
 
 } // namespace core

@@ -97,7 +97,7 @@ constexpr std::array<KindInfo, 41> kKinds = {{
                       .list = "SELECT AccountNumber AS Description, IdMortgage AS ID "
                               "FROM Mortgage "}),
     Named(kAlert, {.plural = "alerts", .table = "Alerts", .icon = "alerts"}),
-    // In two halves, since text joined with null is null; a null initial isn't <> ''.
+    // In two parts, since text joined with null is null, and a null initial isn't <> ''.
     Named(kTenant,
           {.plural = "tenants",
            .table = "Tenant",

@@ -6,8 +6,8 @@
 
 namespace core {
 
-/// Everything that is known of a record kind; a new kind takes one more of these. What a kind
-/// doesn't have is empty.
+/// All that is known of a record kind. A new kind needs one more of these; members that don't apply
+/// to a kind are empty.
 struct KindInfo {
     std::int16_t kind = 0;
     std::string_view name{};   ///< "Work Order", in messages and on the status line
@@ -24,7 +24,7 @@ struct KindInfo {
     /// Selects the name of such a record for questions about it, if it has no description.
     std::string_view label{};
 
-    /// The row that a list of the kind offers for no record.
+    /// The row of a kind's list that means that no record is chosen.
     std::string_view noneRow{};
     /// Selects Description and ID of the records to choose from.
     std::string_view list{};

@@ -6,14 +6,15 @@
 
 namespace core {
 
-/// Where the rows of a kind's list come from. The select yields Description and ID and has no
-/// order yet; it is empty for a kind without a list.
+/// The source of the rows of a kind's list. The select yields Description and ID and has no order
+/// yet; it is empty for a kind without a list.
 struct ListStatement {
     std::string_view noneRow;
     std::string sql;
 };
 
-/// The account kinds' filter by type falls away while the settings show all accounts.
+/// Returns the statement of a kind's list. The kinds of accounts aren't filtered by type while the
+/// settings show all accounts.
 ListStatement ListStatementOf(int kind, std::int32_t parentId);
 
 } // namespace core

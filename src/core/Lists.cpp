@@ -13,7 +13,7 @@ namespace core {
 
 namespace {
 
-/// The index of the first row that meets the condition.
+/// Returns the index of the first row that meets the condition; nothing if there is none.
 template <typename Condition>
 std::optional<std::size_t> FindRow(const ChoiceList& list, Condition condition) {
     const auto found = std::ranges::find_if(list.Rows(), condition);

@@ -8,10 +8,10 @@
 namespace core {
 
 struct FillOptions {
-    /// The identifier to select (of several rows that have it the last); 0 keeps the list's
-    /// selection, by its identifier.
+    /// The identifier to select (if several rows have it, the last of them); 0 keeps the identifier
+    /// that is selected.
     std::int32_t selectedId = 0;
-    /// A first row "[ No ... Selected ]" of identifier 0, where the kind has one.
+    /// A first row "[ No ... Selected ]" of identifier 0, if the kind has one.
     bool addNone = false;
     /// The text in the box stays as it was.
     bool keepText = false;
@@ -29,7 +29,7 @@ void FillList(int kind, ChoiceList& list, const FillOptions& options = {});
 /// Adds the pieces between commas, unchanged, that aren't blank.
 void FillFromCommaList(ChoiceList& list, std::string_view text);
 
-/// The identifier of the selected row, 0 without one.
+/// Returns the identifier of the selected row; 0 if no row is selected.
 std::int32_t GetSelectedId(const ChoiceList& list);
 
 struct NoMatch {
@@ -39,10 +39,11 @@ struct NoMatch {
     bool setText = false;
 };
 
-/// Selects the first row with this identifier; without one, the first row if asked to.
+/// Selects the first row with this identifier; if there is none, does what `otherwise` says.
 void SelectById(ChoiceList& list, std::int32_t id, NoMatch otherwise = {});
 
-/// Selects the first row of this text, ignoring case; without one, does as `otherwise` says.
+/// Selects the first row with this text, ignoring case; if there is none, does what `otherwise`
+/// says.
 void SelectByText(ChoiceList& list, std::string_view text, NoMatch otherwise = {});
 
 } // namespace core

@@ -6,17 +6,17 @@
 
 namespace core {
 
-// Questions that many rooms ask of the open database. They keep their failures to themselves: an
-// identifier that isn't found is 0, a text empty.
+// Lookups in the open database that many rooms need. None of them throws: an identifier that isn't
+// found is 0, and a text is empty.
 
 std::int32_t GetMortgageBuilding(std::int32_t idMortgage);
 std::int32_t GetLeaseUnit(std::int32_t idLease);
 std::int32_t GetUnitBuilding(std::int32_t idUnit);
 
-/// Fills both from the lease; false without such a lease, and they stay as they were.
+/// Sets both from the lease; returns false, and leaves them unchanged, if there is no such lease.
 bool GetLeaseParties(std::int32_t idLease, std::int32_t& idUnit, std::int32_t& idTenant);
 
-/// The vehicle that a new trip proposes.
+/// Returns the vehicle that is proposed for a new trip.
 std::string GetDefaultCar();
 
 // Write the status and notify all listeners.

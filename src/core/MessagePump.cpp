@@ -22,7 +22,7 @@ void SetMessagePump(std::function<void()> pump) {
 
 void LetMessagesRun() {
     if (InScratchSession() || !Pump() || App().Connection.InUnitOfWork()) return;
-    // The pump may be replaced by what it runs.
+    // Copied, because a handler that it runs may replace the pump.
     const auto pump = Pump();
     pump();
 }

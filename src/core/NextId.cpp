@@ -25,7 +25,7 @@ std::int32_t NextIds(std::int32_t count) {
     LetMessagesRun();
     if (count < 1) throw platform::Error("fewer than one record identifier was asked for");
 
-    // Another program may take identifiers too, so that the read must be a part of the write.
+    // Another program may take identifiers too, so the read must be part of the write.
     std::optional<platform::UnitOfWork> unit;
     if (!App().Connection.InUnitOfWork()) unit.emplace(App().Connection);
     platform::Recordset rows = Write("SELECT NextId FROM Configuration");

@@ -16,7 +16,7 @@ namespace {
 
 struct Entry {
     int id = 0;
-    // Shared, so that a listener which ends its own listening isn't destroyed while it runs.
+    // Shared, so that a listener that removes itself isn't destroyed while it runs.
     std::shared_ptr<const NotifyListener> listener;
 };
 
@@ -43,19 +43,19 @@ struct Message {
 
 void Tell(const Message& message) {
     if (message.kind == kConfiguration) LoadConfiguration();
-    // A listener added during the broadcast has just read the records, and isn't notified.
+    // A listener added during the broadcast has just read the records, and needn't be notified.
     const std::vector<Entry> told = Listeners();
     for (const Entry& entry : told) {
         if (!IsListening(entry.id)) continue;
         try {
             (*entry.listener)(message.kind, message.action, message.id);
         } catch (...) {
-            // A screen that can't refresh must not stop the one that saved.
+            // If a screen can't refresh, the screen that saved must still go on.
         }
     }
 }
 
-/// Messages of the unit of work that is open.
+/// Returns the messages of the unit of work that is open.
 std::vector<Message>& HeldBack() {
     static std::vector<Message> messages;
     return messages;

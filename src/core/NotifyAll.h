@@ -10,7 +10,7 @@ inline constexpr std::int16_t kRecordsChanged = 1;
 
 using NotifyListener = std::function<void(std::int16_t kind, std::int16_t action, std::int32_t id)>;
 
-/// Adds a listener to the broadcast; destroying the token ends that.
+/// Adds a listener to the broadcast; destroying the token removes it.
 class NotifyToken {
   public:
     explicit NotifyToken(NotifyListener listener);
@@ -28,7 +28,7 @@ class NotifyToken {
 /// Inside a unit of work the messages wait until the whole unit is committed. Each then goes out
 /// once, in the order of its last announcement; if the unit is rolled back, none does.
 void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id);
-/// The same for every kind: any record may have changed, and the settings too.
+/// Does the same for every kind: any record may have changed, and the settings too.
 void NotifyOfAllKinds();
 
 } // namespace core

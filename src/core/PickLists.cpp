@@ -10,7 +10,7 @@ namespace {
 
 constexpr char kSeparator = '\x01';
 
-/// The field that a tag names, empty without one.
+/// Returns the field that a tag names; empty if it names none.
 std::string_view FieldOf(std::string_view tag) {
     if (tag.size() < 2) return {};
     tag.remove_prefix(1);

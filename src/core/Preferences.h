@@ -4,8 +4,8 @@
 
 namespace core {
 
-/// How the user wants the program on this machine; each is stored under its name in the registry,
-/// and starts with its default.
+/// The user's preferences on this machine. Each is stored under its name in the registry, and has a
+/// default.
 struct PreferenceValues {
     bool EnableExpert = false;
     /// Column sizing of grids: 0 by hand, 1 to the grid, 2 to the text.
@@ -17,7 +17,7 @@ struct PreferenceValues {
     bool ConfirmCancel = true;
     bool ConfirmMoves = true;
 
-    // What the home page shows, and how many days before.
+    // What the home page shows, and how many days in advance.
     bool LateRent = true;
     bool LateMortgage = true;
     bool LeaseExpiring = true;
@@ -44,14 +44,14 @@ struct PreferenceValues {
     std::int32_t Appearance = 0;
 };
 
-/// The preferences as last loaded or changed.
+/// Returns the preferences as last loaded or changed.
 PreferenceValues& Preferences();
 
-/// Reads all of them, defaults for those that are missing. EnableExpert makes the process an
-/// expert's; without it the command line decides.
+/// Reads all preferences; those that are missing get their defaults. EnableExpert turns the expert
+/// mode on; without it the command line decides.
 void LoadPreferences();
 
-/// Writes all of them; false if one couldn't be written.
+/// Writes all preferences; returns false if one couldn't be written.
 bool SavePreferences();
 
 } // namespace core

@@ -86,7 +86,7 @@ inline constexpr std::array<std::string_view, 31> RecordKinds = {"None",
                                                                  "Unit",
                                                                  "Rent Log"};
 
-/// The display name of a kind, empty for one without.
+/// Returns the display name of a kind; empty for a kind without a name.
 std::string_view RecordKindName(int kind);
 
 /// The account types that the program knows, in the order in which a list offers them; the user
@@ -95,8 +95,8 @@ inline constexpr std::array<std::string_view, 10> AccountTypes = {
     "Retail", "Credit",    "Bank",      "Utility",          "Other",
     "Vendor", "Insurance", "Mortgagee", "Building Manager", "Building Owner"};
 
-/// The account type that a kind asks for (31 to 36 and 40, and the owner and manager kinds), empty
-/// for one that asks for none.
+/// Returns the account type that a kind asks for (31 to 36 and 40, and the owner and manager
+/// kinds); empty for other kinds.
 std::string_view AccountTypeOfKind(int kind);
 
 } // namespace core

@@ -32,8 +32,8 @@ void OpenReferences(platform::Connection& references) {
     references.Open(App().AppPath + "References.mdb", platform::OpenMode::ReadOnly);
 }
 
-/// Only digits make a number here: "90210-1234" would otherwise be computed into the code of
-/// another place.
+/// Returns the number of a zip code of digits only: "90210-1234" would otherwise be calculated into
+/// the code of another place.
 std::optional<std::int32_t> ZipNumber(std::string_view zip) {
     const auto text = platform::Trim(zip);
     std::int32_t number = 0;

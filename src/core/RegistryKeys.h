@@ -10,7 +10,7 @@ namespace core {
 inline constexpr std::string_view kDatabasesKey = R"(SOFTWARE\Vestrel\Global\Databases)";
 inline constexpr std::string_view kDefaultDatabase = "Default";
 
-/// Where the database file stood before databases had names; read once, never written.
+/// Where the database file was before databases had names; read once, never written.
 inline constexpr std::string_view kOldSettingsKey = R"(USER\Vestrel\Global)";
 inline constexpr std::string_view kOldDatabaseFile = "DBPath";
 

@@ -10,8 +10,8 @@
 
 namespace core {
 
-/// Rows in memory as a table: each column is given by its caption, its type and the member of the
-/// row, or the function of it, that it shows.
+/// Rows in memory as a table: each column is given by its caption, its type, and the member or
+/// function of the row that it shows.
 template <class Row>
 class RowTable : public Table {
   public:

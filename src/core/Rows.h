@@ -10,8 +10,8 @@
 
 namespace core {
 
-// The rows of the books. Failures are thrown; the operations in core/Session.h keep theirs to
-// themselves. Without `books` it is the session's connection that is used.
+// The rows of the books. Failures are thrown, while the operations in core/Session.h don't report
+// them. Without `books`, the session's connection is used.
 
 using Parameters = std::initializer_list<platform::Value>;
 
@@ -21,14 +21,14 @@ platform::Recordset Read(std::string_view sql, Parameters parameters = {},
 platform::Recordset Read(std::string_view sql, std::span<const platform::Value> parameters,
                          platform::Connection& books = App().Connection);
 
-/// Opens them to change them.
+/// Opens the rows of a select to change them.
 platform::Recordset Write(std::string_view sql, Parameters parameters = {},
                           platform::Connection& books = App().Connection);
 
 /// Starts a new row of a table, whose other rows aren't fetched.
 platform::Recordset NewRow(std::string_view table, platform::Connection& books = App().Connection);
 
-/// True if a select has a row.
+/// Returns true if a select has a row.
 bool Exists(std::string_view sql, Parameters parameters = {},
             platform::Connection& books = App().Connection);
 

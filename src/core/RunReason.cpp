@@ -13,7 +13,7 @@ std::string Days(std::int32_t days) {
     return fmt::format("{} {}", days, days == 1 ? "day" : "days");
 }
 
-/// A lease may charge a fee on the due date itself, or even before it.
+/// Returns the text for a fee. A lease may charge it on the due date itself, or even before it.
 std::string FeeText(const RunReason& reason, std::string_view fee) {
     std::string since = "unpaid for " + Days(reason.number);
     if (reason.number == 0) since = "unpaid on that day";

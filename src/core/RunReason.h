@@ -25,7 +25,7 @@ enum class Posting : std::int16_t {
     EventTransaction = 11,
 };
 
-/// Why the run posted a row: its kind, and the figures that its day follows from.
+/// Why the run posted a row: its kind, and the figures that determine its day.
 struct RunReason {
     Posting posting = Posting::Unknown;
     /// The due date that the row is for.

@@ -9,12 +9,12 @@
 
 namespace core {
 
-/// Lets this thread work on a copy of the books in memory and at another day, while it lives. App()
-/// then returns the copy's session to this thread, and to no other; Today() returns `today`; nobody
-/// is notified of changes, and no window message runs. So a routine that writes may be tried out:
-/// whatever it does, and however it ends, the books stay as they are.
+/// While this object exists, its thread works on a copy of the books in memory, at another day:
+/// App() returns the copy's session to this thread, and to no other; Today() returns `today`;
+/// nobody is notified of changes, and no window message runs. So a routine that writes can be tried
+/// out: whatever it does, and however it ends, the books stay as they are.
 ///
-/// The session must end on the thread that began it, after any that was begun inside it.
+/// The session must end on the thread that began it, after any session that was begun inside it.
 class ScratchSession {
   public:
     /// Copies `books`, which are only read and may be books that can't be written to. Once `stop`
@@ -33,7 +33,7 @@ class ScratchSession {
     std::optional<platform::Date> todayBefore_;
 };
 
-/// Whether this thread works on a copy.
+/// Returns whether this thread works on a copy.
 bool InScratchSession();
 
 } // namespace core

@@ -74,7 +74,7 @@ void CloseRecordset(platform::Recordset& rows) {
     try {
         rows.Close();
     } catch (const std::exception&) {
-        // A row set that can't be closed ends with its life.
+        // A row set that can't be closed ends when it is destroyed.
     }
 }
 

@@ -14,11 +14,12 @@
 
 namespace core {
 
-// The database session. Every operation here keeps its failures to itself and returns False, -1, 0
-// or an unchanged output, unless it says otherwise; callers that need the reason use core/Rows.h.
+// The database session. Operations here don't report failures: they return false, -1, 0 or leave
+// their output unchanged, unless they say otherwise. Callers that need the reason use core/Rows.h.
 
-/// Opens `path`, or the process's database if it is empty (then `path` is set to its file); only to
-/// read if the file can't be written to. What went wrong is kept in App().OpenFault.
+/// Opens `path`, or the process's database if it is empty (then `path` is set to its file); opens
+/// it read-only if the file can't be written to. The reason for a failure is kept in
+/// App().OpenFault.
 bool OpenDatabase(platform::Connection& connection, std::string& path);
 bool CloseDatabase(platform::Connection& connection);
 
@@ -30,24 +31,26 @@ bool ExecuteSql(std::string_view sql, std::initializer_list<platform::Value> par
 std::int64_t OpenRecordset(platform::Recordset& rows, std::string_view sql,
                            platform::CursorMode mode,
                            std::initializer_list<platform::Value> parameters = {});
-/// The same count for a routine whose answer has 16 bits: -1 past 32767 rows.
+/// Returns a count for a routine whose result has 16 bits: -1 if there are more than 32767 rows.
 std::int16_t CountIn16Bits(std::int64_t count);
 void CloseRecordset(platform::Recordset& rows);
 
-/// Rows of a table; 0 on failure.
+/// Returns the number of rows of a table; 0 on failure.
 std::int32_t CountTable(std::string_view table);
-/// Rows that meet `where` (without the word WHERE, may be empty); 0 on failure.
+/// Returns the number of rows that meet `where` (without the word WHERE, may be empty); 0 on
+/// failure.
 std::int32_t CountRecords(std::string_view table, std::string_view where);
 
-/// Reads the column `Result` of the first row into `value`, which stays as it was without a row,
-/// for a null and on failure.
+/// Reads the column `Result` of the first row into `value`, which stays unchanged if there is no
+/// row, for a null and on failure.
 void GetScalar(std::string_view sql, platform::Value& value);
-/// The first column of the first row; nothing without a row, for a null and on failure.
+/// Returns the first column of the first row; nothing if there is no row, for a null and on
+/// failure.
 std::optional<platform::Value> LookUp(std::string_view sql,
                                       std::initializer_list<platform::Value> parameters);
 
 bool TableExists(std::string_view table);
-/// Whether the table has every one of these fields.
+/// Returns whether the table has every one of these fields.
 bool FieldsExist(std::string_view table, std::span<const std::string> names);
 
 struct TableTotals {
@@ -56,21 +59,22 @@ struct TableTotals {
     std::int32_t records = 0;
     std::vector<std::string> names;
 };
-/// The tables of an open database, and the sums of their fields and rows.
+/// Returns the tables of an open database, and the sums of their fields and rows.
 TableTotals ListTables(platform::Connection& connection);
 
-/// A new record identifier, unique in the whole database, also while another program takes some.
-/// Throws on failure.
+/// Returns a new record identifier, unique in the whole database even while another program takes
+/// new ones. Throws on failure.
 std::int32_t NextId();
-/// The first of `count` consecutive new identifiers, for a routine that writes many rows at once.
+/// Returns the first of `count` consecutive new identifiers, for a routine that writes many rows at
+/// once.
 std::int32_t NextIds(std::int32_t count);
 
-/// Appends a condition to `sql`: with WHERE, or with AND where the word occurs already.
+/// Appends a condition to `sql`: with WHERE, or with AND if that word is in it already.
 void AddWhere(std::string& sql, std::string_view condition);
 
 /// Gives every null of the current row the empty value of its type (0, False or an empty text;
-/// 16-bit integers and dates stay null); true if there was one. Each is written to `diagFile`
-/// unless that is null. The caller writes the row.
+/// 16-bit integers and dates stay null). Returns true if there was a null. Each repair is written
+/// to `diagFile` unless that is null. The caller writes the row.
 bool RepairNulls(platform::Recordset& rows, std::ostream* diagFile);
 
 } // namespace core

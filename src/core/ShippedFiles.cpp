@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The file in the folder that says what we put there: a checksum and a name a line.
+/// The file in the folder that lists what we put there: a checksum and a name per line.
 constexpr std::string_view kManifest = ".shipped";
 
 using Checksum = std::uint64_t;
@@ -59,7 +59,7 @@ void WriteManifest(const fs::path& file, const Manifest& known) {
     platform::WriteFileAtomically(file, text);
 }
 
-/// One file of ours. `known` is what we put there last, null the first time.
+/// One file of ours. `known` is what we put there last; null the first time.
 class Installation {
   public:
     Installation(fs::path target, const std::string& ours, const Checksum* known)
@@ -85,7 +85,7 @@ class Installation {
         return known_ != nullptr && ChecksumOf(text) == *known_;
     }
 
-    /// A neighbour that the user has changed is kept too.
+    /// Returns a free name beside the file; a file there that the user has changed is kept too.
     fs::path Neighbour() const {
         fs::path file = target_;
         do {
@@ -101,8 +101,8 @@ class Installation {
     const Checksum* known_;
 };
 
-/// Installs one file and notes it in `known`. One that fails is neither noted nor in the others'
-/// way.
+/// Installs one file and notes it in `known`. A file that fails isn't noted, and doesn't keep the
+/// others from being installed.
 void Install(const fs::path& shipped, const fs::path& folder, Manifest& known) {
     try {
         const std::string name = shipped.filename().string();
@@ -129,7 +129,7 @@ void InstallShippedFiles(const fs::path& shipped, const fs::path& folder) {
         }
         if (known != before) WriteManifest(folder / kManifest, known);
     } catch (const std::exception&) {
-        // A folder that can't be written has the files that it has.
+        // A folder that can't be written keeps the files that it has.
     }
 }
 

@@ -63,7 +63,7 @@ constexpr auto StoredChoice(std::string_view name) {
                            }};
 }
 
-/// Reads each member from below `key`; one that isn't there keeps its value.
+/// Reads each member from below `key`; a member that isn't stored keeps its value.
 template <class Settings, std::size_t count>
 void LoadSettings(std::string_view key, const StoredMember<Settings> (&members)[count],
                   Settings& settings) {

@@ -13,7 +13,7 @@ namespace core {
 
 namespace {
 
-/// The time of day, as "3:05:09 PM".
+/// Returns the time of day, as "3:05:09 PM".
 std::string TimeOfDay() {
     constexpr int kMinute = 60;
     constexpr int kHour = 3600;

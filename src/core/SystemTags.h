@@ -15,7 +15,7 @@ struct SystemTag {
     std::string (*value)();
 };
 
-/// All of them, in the order in which reports fill them.
+/// Returns all system tags, in the order in which reports fill them.
 std::span<const SystemTag> SystemTags();
 
 /// Returns the value of a system tag, whose name matches in any case; nullopt for any other name.

@@ -22,8 +22,9 @@ inline TableColumn MakeColumn(std::string_view caption, platform::FieldType type
     return {std::string(caption), type, FormatOf(type, caption)};
 }
 
-/// Rows to show, print or export: the rows of a row set, a schedule, what a run has posted. A value
-/// is worked out when it is asked for, so a table of a million rows costs what is shown of it.
+/// Rows to show, print or export: the rows of a row set, a schedule, the rows that a run has
+/// posted. Values are calculated on demand, so a table of a million rows costs only as much as is
+/// shown of it.
 class Table {
   public:
     Table() = default;

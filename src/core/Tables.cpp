@@ -18,7 +18,7 @@ std::int32_t Count(platform::Connection& connection, std::string_view sql) {
     }
 }
 
-/// The process's table of this name; null when there is none, or no session.
+/// Returns the process's table of this name; null if there is none, or if no session is open.
 const platform::dialect::Table* FindTable(std::string_view name) {
     try {
         return App().Connection.Tables().Find(name);

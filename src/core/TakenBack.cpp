@@ -42,7 +42,7 @@ bool TakenBack::Has(Posting posting, Date date) {
         for (; !stored.Eof(); stored.MoveNext())
             rows_->emplace_back(Posting{CountOf(stored[0])}, TextOf(stored[1]));
     }
-    // The day is put into words only for the few records of which something was taken back.
+    // The day is only formatted for the few records of which a row was taken back.
     return !rows_->empty() &&
            std::ranges::find(*rows_, std::pair(posting, date.ToText())) != rows_->end();
 }

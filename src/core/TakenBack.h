@@ -14,23 +14,23 @@ namespace core {
 // Rows of the daily run that the user took back on purpose. The run posts none of them again,
 // whatever it is asked to charge; otherwise it goes on as if they had been posted and deleted.
 //
-// Failures are thrown. Books of an earlier version have none.
+// Failures are thrown. Books of an earlier version have no such rows.
 
 /// A row of the run that was taken back.
 struct TakenRow {
-    /// What it was posted for, and what makes the row the only one of its kind.
+    /// The record, the kind of posting and the day, which together identify the row.
     std::int16_t recordKind = 0;
     std::int32_t recordId = 0;
     Posting posting = Posting::Unknown;
     platform::Date date{};
-    /// Its id in its ledger.
+    /// The row's id in its ledger.
     std::int32_t rowId = 0;
     /// The day on which it was taken back.
     platform::Date takenOn{};
     /// The deleted row, to be posted again; empty if it had been deleted before.
     std::string content{};
 
-    /// True for the same row of the run.
+    /// Returns whether both are the same row of the run.
     bool IsSameRow(const TakenRow& other) const;
 };
 
@@ -39,8 +39,8 @@ class TakenBack {
   public:
     TakenBack(std::int16_t recordKind, std::int32_t recordId) : kind_(recordKind), id_(recordId) {}
 
-    /// Reads the books when it is called first, so that it costs nothing for a record that has
-    /// nothing to post.
+    /// Returns whether the row of this kind and day was taken back. Reads the books only at its
+    /// first call, so that it costs nothing for a record that has nothing to post.
     bool Has(Posting posting, platform::Date date);
 
   private:

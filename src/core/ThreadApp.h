@@ -4,8 +4,8 @@
 
 namespace core {
 
-/// Makes App return `app` to this thread, the process's instance for null. Returns what was set
-/// before. Only for ScratchSession.
+/// Makes App return `app` on this thread; null restores the process's instance. Returns the
+/// previous setting. Only for ScratchSession.
 Globals* SetAppOfThread(Globals* app);
 
 } // namespace core

@@ -36,7 +36,7 @@ Diagnosis Examine(const std::filesystem::path& folder, Depth depth = Depth::Tabl
 /// Examines the whole database that is registered under this name.
 Diagnosis ExamineRegistered(const std::string& dbName);
 
-/// Whether nothing was ever registered under this name.
+/// Returns whether nothing was ever registered under this name.
 bool HasNoBooks(const std::string& dbName);
 
 /// Returns a sentence for the user about what is wrong, and where.

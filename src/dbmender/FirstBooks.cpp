@@ -17,7 +17,7 @@ namespace {
 
 using core::RowToWrite;
 
-/// Fills the fields that nobody entered, as the editors do.
+/// Fills the fields that nobody entered, as the editors do, and keeps the row.
 void Keep(RowToWrite& row) {
     row["Hide"].Set(false);
     row["Selected"].Set(false);

@@ -17,8 +17,8 @@ struct FirstEntries {
     platform::Date since; ///< the first day that the books keep
 };
 
-/// Creates a database in `folder` with these entries. Throws Error on failure; then there is no
-/// database, whatever had been made.
+/// Creates a database in `folder` with these entries. Throws Error on failure, and then leaves no
+/// database there.
 void MakeFirstBooks(const std::filesystem::path& folder, const FirstEntries& entries);
 
 } // namespace dbmender

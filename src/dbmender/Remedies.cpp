@@ -21,7 +21,8 @@ bool HasDatabase(const fs::path& folder) {
     return fs::exists(folder / store::kDatabaseFile, ignored);
 }
 
-/// A build folder may be deleted at any time, with the books in it.
+/// Returns whether a folder is in a build folder, which may be deleted at any time together with
+/// the books in it.
 bool IsInBuildFolder(fs::path folder) {
     std::error_code ignored;
     for (; folder.has_relative_path(); folder = folder.parent_path()) {
@@ -85,7 +86,7 @@ std::vector<Remedy> RemediesFor(const Diagnosis& diagnosis) {
         case Condition::Damaged:
             break;
     }
-    // Books that existed once are more likely to have been moved than to be started again.
+    // Books that existed once were more likely moved than given up.
     return {Remedy::UseExisting, Remedy::MakeEmpty, Remedy::MakeSample};
 }
 

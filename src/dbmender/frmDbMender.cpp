@@ -138,7 +138,7 @@ void frmDbMender::ShowObjection() {
     if (objection.empty() && isMaking && !ui_->dpSince->IsValid()) {
         objection = "The day since which the books are kept is not a valid date.";
     }
-    // The finding at the top has said it already.
+    // The finding at the top says that already.
     if (!objection.empty() && objection == FromScreen(ui_->lblFinding->text())) {
         objection = "Choose another folder, or one of the other answers.";
     }

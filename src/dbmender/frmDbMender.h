@@ -38,7 +38,7 @@ class frmDbMender : public QDialog {
     /// again.
     void SetupFor(Beginning beginning, std::function<void()> back);
 
-    /// Escape and Cancel: the first one only stops making a sample.
+    /// Handles Escape and Cancel: while a sample is being made, they only stop that.
     void reject() override;
 
   protected:

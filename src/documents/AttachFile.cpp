@@ -34,7 +34,7 @@ struct NameParts {
     std::string_view ending; ///< without the dot
 };
 
-/// A dot at the start of a name begins no extension.
+/// Returns the parts of a file's name. A dot at its start doesn't begin an extension.
 NameParts PartsOf(std::string_view path) {
     const std::string_view name = path.substr(platform::PathOf(path).size());
     const std::size_t dot = name.rfind('.');

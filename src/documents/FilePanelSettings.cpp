@@ -25,7 +25,7 @@ std::string KeyOf(std::string_view panel) {
     return fmt::format(R"({}\{})", kFileObjectsKey, panel);
 }
 
-/// A value that isn't a share of the panel is replaced by the usual one.
+/// Reads a share of the panel; any other value is replaced by the usual one.
 double ReadShare(const std::string& key, std::string_view name, double usual) {
     try {
         const double share = platform::StrToDouble(core::GetRegString(key, name, ""));

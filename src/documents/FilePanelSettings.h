@@ -17,7 +17,7 @@ struct FilePanelSettings {
     double hSplit = 0.4;
 };
 
-/// `panel` is the name under which a panel's settings are stored.
+/// Load and save the settings of a file panel; `panel` is the name under which they are stored.
 FilePanelSettings LoadFilePanelSettings(std::string_view panel);
 void SaveFilePanelSettings(std::string_view panel, const FilePanelSettings& settings);
 

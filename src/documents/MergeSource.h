@@ -6,7 +6,7 @@
 
 namespace documents {
 
-/// Whether letters can be merged for records of this kind.
+/// Returns whether letters can be merged for records of this kind.
 bool HasMergeSource(std::int16_t kind);
 
 /// Opens the row that templates of this kind are merged with: the record's fields, the fields of

@@ -41,7 +41,8 @@ constexpr std::array kTests = {
     KindTest{core::kUnitWithBuilding, "selBuilding = True OR selUnit = True"},
 };
 
-/// Buildings are merged through one of their units, whose id is given.
+/// Returns the kind that letters are merged for: a building through one of its units, whose id is
+/// given.
 std::int16_t KindOfOwner(std::int16_t kind) {
     return kind == core::kBuilding || kind == core::kUnitWithBuilding ? core::kUnit : kind;
 }
@@ -186,7 +187,7 @@ int OpenDocs(std::int16_t kind, std::span<const std::int32_t> ids, std::int32_t 
         for (const std::int32_t id : ids) {
             document = MergeDocument(*letter, kind, id);
             ++made;
-            // If no program opens one of them, none opens the others of its type.
+            // If no program opens one of them, no program opens the others of its type.
             opened = opened && platform::TheDesktop().OpenDocument(document.file.string());
         }
     } catch (const platform::Error& failure) {

@@ -46,9 +46,9 @@ MergedDocument MergeDocument(const DocTemplate& letter, std::int16_t kind, std::
 /// false if there is no such template, or its file is missing, which is reported in a message.
 bool OpenDoc(std::int16_t kind, std::int32_t id, std::int32_t idDoc);
 
-/// The same for several records, a letter each, after a question that states their number. Returns
-/// how many letters were written: 0 if the user declined. If a letter fails, throws platform::Error
-/// with that number; the letters before it are kept.
+/// Does the same for several records, a letter each, after a question that states their number.
+/// Returns how many letters were written: 0 if the user declined. If a letter fails, throws
+/// platform::Error with that number; the letters before it are kept.
 int OpenDocs(std::int16_t kind, std::span<const std::int32_t> ids, std::int32_t idDoc);
 
 } // namespace documents

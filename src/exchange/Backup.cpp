@@ -33,7 +33,8 @@ constexpr std::string_view kObjectMark = "[f]";
 constexpr std::size_t kMarkSize = 3;
 constexpr std::size_t kOwnFiles = 3; // database, version and configuration
 
-/// An existing file of that name is neither changed nor deleted.
+/// Returns whether files can be written to the folder; an existing file of that name is neither
+/// changed nor deleted.
 bool CanWriteTo(const fs::path& folder) {
     if (folder.empty()) return false;
     const fs::path test = folder / "test.vbk";
@@ -191,7 +192,7 @@ class Run {
         Tell(kAction, word);
     }
 
-    /// A failure adds a line of its own.
+    /// Packs a file; a failure adds a line of its own.
     bool PackOther(const fs::path& file, FileType type) {
         std::string result;
         if (file.string().size() > kFilePathSize) {
@@ -219,7 +220,7 @@ class Run {
         Tell(kAction, isWhole ? kSuccess : kWarning);
     }
 
-    /// A container that isn't safely on the disk is no backup.
+    /// A container that isn't safely on the disk isn't a backup.
     void SyncAll() {
         std::error_code ignored;
         if (!fs::exists(container_, ignored)) return;
@@ -231,8 +232,8 @@ class Run {
         }
     }
 
-    // A database that can't be packed may be damaged: then the older containers are the way back,
-    // and the next backup is as urgent as before.
+    // If the database can't be packed, it may be damaged: then the older containers are needed to
+    // restore it, and the next backup is as urgent as before.
     void Finish() {
         if (outcome_ == BackupOutcome::Failed) {
             Tell("Removing expired backups", kWarning);

@@ -30,7 +30,7 @@ using CheckProgress = std::function<void(std::string_view part, int number, int 
 /// Window messages are processed between the parts.
 std::vector<Finding> CheckBooks(platform::Connection& books, const CheckProgress& progress);
 
-/// "2 faults and 1 note were found.", "Everything is in order."
+/// Returns "2 faults and 1 note were found." or "Everything is in order."
 std::string CheckSummary(const std::vector<Finding>& findings);
 bool HasFaults(const std::vector<Finding>& findings);
 

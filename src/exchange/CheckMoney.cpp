@@ -110,7 +110,8 @@ constexpr auto kPaymentQuestions = std::to_array<Question>({
      "transaction", "of a mortgage without a row in its ledger", kRemoveTransaction},
 });
 
-/// Credit that was paid ahead, in all its parts, against what the payment has for it.
+/// Checks credit that was paid ahead, in all its parts, against the amount that the payment has for
+/// it.
 void CheckCredits(platform::Connection& books, std::vector<Finding>& findings) {
     if (books.Tables().Find("RentCredit") == nullptr) return;
     const FoundIds found =

@@ -21,12 +21,12 @@ struct FoundIds {
     std::int64_t count = 0;
 
     bool Any() const { return count > 0; }
-    /// "4711, 4712 and 5 more"
+    /// Returns the ids as text: "4711, 4712 and 5 more".
     std::string List() const;
 };
 FoundIds FindIds(platform::Connection& books, std::string_view sql);
 
-/// "1 record" or "3 records".
+/// Returns a count with its noun: "1 record" or "3 records".
 std::string Counted(std::int64_t count, std::string_view word);
 
 } // namespace exchange

@@ -182,7 +182,8 @@ bool PackFile(const fs::path& container, const fs::path& source, FileType type,
         try {
             CopyBlocks(out, from, size);
         } catch (const SourceError&) {
-            // The entries after it couldn't be found if it were left shorter than its header says.
+            // If the entry stayed shorter than its header says, the entries after it couldn't be
+            // found.
             out.CutTo(begin);
             throw;
         }

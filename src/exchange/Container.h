@@ -47,8 +47,8 @@ std::string FileDateText(const std::filesystem::path& file);
 bool PackFile(const std::filesystem::path& container, const std::filesystem::path& source,
               FileType type, std::string& result);
 
-/// The same for a database that may be in use: the entry holds its state at one moment. `progress`
-/// is called every few megabytes.
+/// Does the same for a database that may be in use: the entry holds its state at one moment.
+/// `progress` is called every few megabytes.
 bool PackDatabase(const std::filesystem::path& container, const std::filesystem::path& database,
                   const std::function<void()>& progress, std::string& result);
 

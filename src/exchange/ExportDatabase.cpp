@@ -108,7 +108,7 @@ void WriteTables(std::span<const std::string> tables, const std::filesystem::pat
     for (const std::string& name : tables) {
         const auto* const table = database.Tables().Find(name);
         if (table == nullptr) throw platform::Error(fmt::format("there is no table {}", name));
-        // Its rows would be imported twice.
+        // Otherwise its rows would be imported twice.
         if (std::ranges::find(parts, table, &Part::table) != parts.end()) {
             throw platform::Error(fmt::format("the table {} is given twice", table->name));
         }

@@ -21,7 +21,7 @@ namespace exchange {
 namespace {
 
 /// Returns the condition for the transactions of an account. The export reads them in the table's
-/// order, so `debit` and `credit` are written such that the engine scans the table.
+/// order, so `debit` and `credit` are written in a form that makes the engine scan the table.
 std::string WhereOf(std::int32_t id, const ExportRange& range, std::string_view debit = "DebitId",
                     std::string_view credit = "CreditID") {
     switch (range.range) {
@@ -42,7 +42,8 @@ std::string WhereOf(std::int32_t id, const ExportRange& range, std::string_view 
         id, range.start.ToText(), range.end.ToText(), debit, credit);
 }
 
-/// A stored text that isn't a valid date is exported unchanged.
+/// Returns a stored date in the form of the export; a text that isn't a valid date is exported
+/// unchanged.
 std::string DayText(const std::string& stored) {
     const auto day = platform::Date::TryParse(stored);
     return day ? day->ToText() : stored;

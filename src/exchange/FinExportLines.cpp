@@ -22,7 +22,7 @@ constexpr std::array<FinFormat, 3> kFormats = {
       "!SPL\tTRNSTYPE\tDATE\tACCNT\tCLASS\tAMOUNT\tMEMO\r\n"
       "!ENDTRNS\r\n"}}};
 
-// The opposite amount is a floating-point number.
+// Returns the opposite amount, which is a floating-point number.
 std::string OppositeText(platform::Currency amount) {
     return amount.IsZero() ? "0" : platform::NumberToText(amount.ToDouble() * -1);
 }

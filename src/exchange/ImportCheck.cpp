@@ -29,7 +29,7 @@ constexpr std::string_view kBadCount = "record did not contain correct amount of
 constexpr std::string_view kUtf16 =
     "the file is UTF-16 text. Save it as UTF-8 and import it again.";
 
-/// If a field is named twice it isn't clear which value it gets.
+/// Returns whether a field is named twice: then it isn't clear which value it gets.
 bool HasTwice(std::vector<std::string> names) {
     for (std::string& name : names)
         name = platform::ToLower(name);

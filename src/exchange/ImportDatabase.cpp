@@ -29,7 +29,8 @@ constexpr int kRowsBetweenProgress = 1000;
 constexpr std::string_view kLatin1Note =
     "Note: the file is not UTF-8; its letters are read as Latin-1.\n";
 
-/// Thrown for a malformed line, since the first reading found none.
+/// Returns the error for a malformed line, which means a changed file: the first reading found no
+/// such line.
 platform::Error FileChanged() {
     return platform::Error("the file was changed while it was read.");
 }
@@ -73,7 +74,7 @@ class Importer {
             known_ = nullptr;
             return;
         }
-        // As the table was before the import, even if the file begins it a second time.
+        // Counts as the table was before the import, even if the file begins it a second time.
         const std::string key = platform::ToLower(table_);
         const auto* const table = core::App().Connection.Tables().Find(table_);
         if (table == nullptr) throw FileChanged();
@@ -108,7 +109,7 @@ class Importer {
     std::unique_ptr<platform::RowWriter> writer_;
     std::vector<platform::Cell> cells_;
     std::vector<std::string> scratch_;
-    std::map<std::string, KnownRows> tables_; ///< by their names in small letters
+    std::map<std::string, KnownRows> tables_; ///< by their names in lower case
     KnownRows* known_ = nullptr;              ///< of the current table; null if it was emptied
     std::int64_t records_ = 0;
     std::int64_t knownRecords_ = 0;
@@ -123,9 +124,9 @@ struct WriteOrder {
     std::int64_t mayBeKnown;
 };
 
-/// Writes all records, or those before the first one that can't be written; none if more of them
-/// are in the database already than may be. A copy of the database is kept before any table is
-/// emptied, which `note` then says.
+/// Writes all records, or those before the first one that can't be written; writes none if more of
+/// them are in the database already than `order` allows. A copy of the database is saved before any
+/// table is emptied, and `note` then says so.
 ImportOutcome WriteRecords(const WriteOrder& order, const PortWatcher& watcher, std::string& note) {
     ImportOutcome outcome;
     platform::UnitOfWork unit(core::App().Connection);

@@ -11,7 +11,7 @@ enum class CopyReason { Import, Removal };
 /// import 1.mdb", "... 2.mdb" and so on (or "before removal"). Only the last five copies of a
 /// reason are kept. Returns the path of the copy. Throws an Error if it can't be written.
 std::filesystem::path KeepCopy(CopyReason reason);
-/// The same for any database file.
+/// Does the same for any database file.
 std::filesystem::path KeepCopyOf(const std::filesystem::path& database, CopyReason reason);
 
 } // namespace exchange

@@ -17,7 +17,7 @@ struct TableKey {
     std::vector<std::string> fields;
 };
 
-/// The tables whose first field isn't the id of their rows.
+/// Returns the tables whose first field isn't the id of their rows.
 const std::vector<TableKey>& OtherKeys() {
     static const std::vector<TableKey> keys = {
         {"Alerts", {"EntryDate", "Description"}},
@@ -29,7 +29,7 @@ const std::vector<TableKey>& OtherKeys() {
     return keys;
 }
 
-/// In a table that isn't the program's own, an id or the first two fields.
+/// Returns the key fields of a table that isn't the program's own: an id, or the first two fields.
 std::vector<std::string> KeyFieldsOf(const platform::dialect::Table& table) {
     for (const TableKey& key : OtherKeys()) {
         if (platform::EqualIgnoringCase(key.table, table.name)) return key.fields;

@@ -38,7 +38,7 @@ void RefuseOwnFile(const fs::path& file) {
                                          folder / "Notes.txt"};
     const bool isInFolder = IsSame(fs::absolute(file).parent_path(), folder);
     const bool isOwn = std::ranges::any_of(own, [&](const fs::path& each) {
-        // Compared by name too, since not all of these files exist all the time.
+        // Names are compared too, since not all of these files exist all the time.
         return IsSame(file, each) || (isInFolder && file.filename() == each.filename());
     });
     if (!isOwn) return;

@@ -11,9 +11,9 @@ namespace exchange {
 
 /// Called by an export or import to show its progress; each function may be empty.
 struct PortWatcher {
-    /// Replaces the lines of the status.
+    /// Called with the new lines of the status.
     std::function<void(std::string_view lines)> status;
-    /// 0 to 100.
+    /// Called with the progress in percent, 0 to 100.
     std::function<void(int percent)> progress;
     /// Asked before an import adds records of which the database has some already, and again if
     /// another program adds more of them in the meantime; returns whether to add them. Without it
@@ -23,7 +23,7 @@ struct PortWatcher {
     void Status(std::string_view lines) const {
         if (status) status(lines);
     }
-    /// `done` of `total`.
+    /// Reports the progress: `done` of `total`.
     void Progress(std::int64_t done, std::int64_t total) const;
 };
 

@@ -17,7 +17,7 @@ namespace exchange {
 //   "Table","Room","/Table"
 //   "Fields","IdRoom","RoomType","/Fields"
 //   "Record",4823114,"Bedroom","/Record"
-// Texts stand in quotes, their own quotes doubled, and may hold line ends; numbers and amounts are
+// Texts are in quotes, their own quotes doubled, and may hold line ends; numbers and amounts are
 // bare, Yes/No values #TRUE# and #FALSE#, a null is an empty quoted item.
 
 /// The kind of a line, which its first item names.
@@ -46,7 +46,8 @@ class PortReader {
     /// Reads the next line; returns false at the end of the file. Throws an Error if reading fails,
     /// or for a line of unreasonable length.
     bool NextLine();
-    /// The number of the line, counted from 1 as in a text editor, on which the current one begins.
+    /// Returns the number of the line, counted from 1 as in a text editor, on which the current one
+    /// begins.
     std::int64_t Number() const { return number_; }
     PortMarker Marker() const { return marker_; }
     /// Returns the items between the markers; valid until the next line is read.
@@ -80,7 +81,7 @@ class PortReader {
     std::int64_t nextNumber_ = 1;
     PortMarker marker_ = PortMarker::None;
     std::vector<PortItem> items_;
-    std::deque<std::string> kept_; // texts that don't stand in the buffer as they are
+    std::deque<std::string> kept_; // texts that differ from the bytes in the buffer
     std::size_t keptCount_ = 0;
     bool isWhole_ = false;
     bool isUtf8_ = true;

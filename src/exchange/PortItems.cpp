@@ -1,4 +1,4 @@
-// Single items: writing and reading values.
+// Writing and reading of single items.
 
 #include <charconv>
 #include <cmath>

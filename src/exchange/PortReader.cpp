@@ -1,4 +1,4 @@
-// Lines: where each ends, and its items.
+// Reading of lines: where each ends, and its items.
 
 #include <fcntl.h>
 #include <unistd.h>

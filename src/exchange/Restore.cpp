@@ -37,7 +37,7 @@ std::vector<std::string> PartsOf(std::string path) {
         if (end > begin) parts.push_back(path.substr(begin, end - begin));
         begin = end + 1;
     }
-    // A drive becomes a folder.
+    // A drive letter becomes a folder.
     if (!parts.empty() && parts.front().size() == 2 && parts.front().back() == ':') {
         parts.front().pop_back();
     }
@@ -49,7 +49,7 @@ bool IsHarmless(const std::string& part) {
            std::ranges::none_of(part, [](unsigned char c) { return c < ' ' || c == 0x7F; });
 }
 
-/// The program finds its own files by their exact names.
+/// Returns the exact name of one of the program's own files, by which the program finds it.
 std::string OwnName(const std::string& name) {
     for (const std::string_view own :
          {store::kDatabaseFile, store::kVersionFile, kBackupConfigFile}) {
@@ -110,7 +110,7 @@ class Restoration {
         const fs::path place = PlaceOf(entry.header);
         RestoredFile file{entry.header.filePath, {}, {}};
         const auto [before, isNew] = taken_.emplace(place, entry.header.filePath);
-        // A file named by several records is in the backup once for each of them.
+        // A file that several records refer to is in the backup once for each of them.
         const bool isSame = !isNew && before->second == entry.header.filePath &&
                             entry.header.fileType != static_cast<std::int16_t>(FileType::Database);
         if (isSame) return;

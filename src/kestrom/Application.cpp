@@ -20,8 +20,8 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     return false;
 }
 
-/// Shows one box at a time: a window that fails while it is painted would fail again behind the
-/// box, endlessly.
+/// Shows one box at a time: otherwise a window that fails while it is painted would fail again
+/// behind the box, endlessly.
 void Application::Show(const std::exception& failure) {
     std::fprintf(stderr, "kestrom: %s\n", failure.what());
     if (showing_) return;

@@ -4,7 +4,7 @@
 
 namespace kestrom {
 
-/// The main window's commands on the documents of the selected records: letters and pictures.
+/// Adds the main window's commands for the documents of the selected records: letters and pictures.
 void AddDocumentCommands(shell::screens::Commands& commands);
 
 } // namespace kestrom

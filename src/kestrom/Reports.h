@@ -8,7 +8,7 @@ namespace kestrom {
 /// its report viewer.
 void LoadReports();
 
-/// The main window's printing of the selected record.
+/// Adds the main window's commands that print the selected record.
 void AddReportCommands(shell::screens::Commands& commands);
 
 } // namespace kestrom

@@ -48,7 +48,7 @@ void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEn
         return;
     }
     if (core::FindDatabase(nullptr) == core::DatabaseState::Ready) return;
-    // A user who names a database has had one.
+    // A user who names a database already has one.
     const core::Globals& app = core::App();
     const bool hadBooks = !app.DbPath.empty() || app.DbName != core::kDefaultDatabase ||
                           platform::TheRegistry().IsDamaged();

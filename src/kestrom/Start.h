@@ -12,7 +12,7 @@ struct ProcessEnd {
 };
 
 /// Finds the database: the one on the command line, or the registered one. If it is missing or too
-/// old, starts the repair tool, unless `isEnding` returns that the program was asked to end in the
+/// old, starts the repair tool, unless `isEnding` says that the program was asked to end in the
 /// meantime, and throws ProcessEnd.
 void FindBooks(const shell::CommandLine& line, const std::function<bool()>& isEnding);
 

@@ -110,7 +110,7 @@ int Run(kestrom::Application& application, const shell::CommandLine& line) {
         kestrom::LetSplashBeSeen();
         splash.reset();
     }
-    // The window may have been closed behind the splash.
+    // The window may have been closed while the splash was shown.
     return window->HasEnded() ? 0 : kestrom::Application::exec();
 }
 

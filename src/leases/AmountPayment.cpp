@@ -21,7 +21,7 @@ using platform::Currency;
 
 namespace {
 
-/// A row of the ledger that only the payment brings.
+/// The rows of the ledger that only an amount brings.
 struct CreditRows {
     RentLogEntry origin;
     RentLogEntry credit;
@@ -46,7 +46,7 @@ const PaymentCharge& ChargeOf(const RentPayment& payment, std::int32_t idRentLog
     return *std::ranges::find(payment.charges, idRentLog, &PaymentCharge::idRentLog);
 }
 
-/// Writes the parts in the place of the whole; returns the one that is settled.
+/// Writes the parts in place of the whole; returns the one that is settled.
 PaymentCharge WriteParts(const AmountStep& step, RentPart rentPart) {
     auto split = ReadSplit(step.idRentLog);
     if (!split) throw platform::ConflictError("The charge was deleted. Nothing was posted.");
@@ -76,7 +76,7 @@ PaymentCharge WriteCredit(const RentPayment& payment, Currency amount) {
             .description = rows.origin.description};
 }
 
-/// The payment of just what is settled, its charges as they are before they are split.
+/// Returns the payment of only what is settled, with its charges as they are before they are split.
 RentPayment WholePayment(const AmountPayment& amount, const AmountPlan& plan) {
     RentPayment payment = amount.payment;
     payment.charges.clear();

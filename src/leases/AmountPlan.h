@@ -14,7 +14,7 @@ namespace leases {
 struct AmountStep {
     std::int32_t idRentLog = 0;
     platform::Currency settled;
-    /// What is split off and stays open; zero if the whole row is settled.
+    /// The part that is split off and stays open; zero if the whole row is settled.
     platform::Currency rest;
 
     bool IsPart() const { return !rest.IsZero(); }
@@ -23,18 +23,19 @@ struct AmountStep {
 
 /// How an amount that came in is spread over charges.
 struct AmountPlan {
-    /// In the order of the charges; a charge that gets nothing is left out. At most one is a part.
+    /// In the order of the charges; a charge that gets nothing is left out. At most one step
+    /// settles only a part.
     std::vector<AmountStep> steps;
-    /// What is over, and becomes a credit of the tenant.
+    /// The surplus, which becomes a credit of the tenant.
     platform::Currency credit;
 
-    /// The step of a charge; null if it gets nothing.
+    /// Returns the step of a charge; null if it gets nothing.
     const AmountStep* StepOf(std::int32_t idRentLog) const;
 };
 
-/// Spreads `received`, which is positive, over the selected charges in their order. Selected
-/// credits are taken in, in their order too, as far as the amount doesn't reach; those that aren't
-/// needed stay open.
+/// Spreads `received`, which is positive, over the selected charges in their order. If the amount
+/// isn't enough, the selected credits are used too, in their order; credits that aren't needed stay
+/// open.
 AmountPlan PlanAmount(std::span<const PaymentCharge> charges, platform::Currency received);
 
 } // namespace leases

@@ -35,7 +35,7 @@ platform::Currency InCents(platform::Currency amount) {
 
 namespace {
 
-/// An amount that its payment counts on can't be changed on its own.
+/// Refuses to change an amount that its payment relies on.
 void CheckAmount(platform::Recordset& row) {
     const std::int32_t id = platform::IdOf(row["IdRentLog"]);
     const auto stored = core::ReadValue("SELECT Amount FROM RentLog WHERE IdRentLog = ?", {id});
@@ -43,7 +43,7 @@ void CheckAmount(platform::Recordset& row) {
         CheckNotTied(id);
 }
 
-/// A new charge of a deleted lease would be owed by nobody.
+/// Refuses a new charge of a deleted lease, which nobody would owe.
 void CheckLease(std::int32_t idRentLog, std::int32_t idLease) {
     if (core::RecordExists(core::kLease, idLease) || core::RecordExists(core::kRentLog, idRentLog))
         return;

@@ -22,7 +22,7 @@ struct OpenCredit {
     platform::Currency amount;
 };
 
-/// How much of a thing, by its place in a list, is used.
+/// How much of an item of a list is used; the item is given by its place.
 struct Use {
     std::size_t place = 0;
     platform::Currency amount;
@@ -42,16 +42,16 @@ struct CreditPayment {
     platform::Currency Total() const;
 };
 
-/// The credits of a lease while its days are walked. An empty purse settles nothing.
+/// The credits of a lease while its days are walked. If it is empty, it settles nothing.
 class CreditPurse {
   public:
     CreditPurse() = default;
-    /// The credits in the order in which they are used.
+    /// `credits` are in the order in which they are used.
     explicit CreditPurse(std::vector<OpenCredit> credits);
 
-    /// Settles charges of one class and of `day` as far as the credits of that day and before go,
-    /// in the order of the charges: those of `charges` from the place `first` on. Returns nothing
-    /// if there is nothing to settle, or to settle it with.
+    /// Settles charges of one class and of `day`, as far as the credits of that day and before
+    /// suffice: those of `charges` from the place `first` on, in their order. Returns nothing if
+    /// there are no such charges or no such credits.
     std::optional<CreditPayment> Settle(platform::Date day, TransactionClass rentClass,
                                         std::span<const Charge> charges, std::size_t first);
 

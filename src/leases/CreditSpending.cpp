@@ -20,7 +20,7 @@ using platform::Recordset;
 
 namespace {
 
-/// The transactions that took in credit of the payment, with what they took.
+/// Returns the transactions that took in credit of the payment, with what they took.
 std::vector<CreditSpending> ReadSpentCredits(std::int32_t idPayment) {
     std::vector<CreditSpending> spendings;
     Recordset rows = core::Read(
@@ -44,7 +44,8 @@ std::vector<CreditSpending> ReadSpentCredits(std::int32_t idPayment) {
     return spendings;
 }
 
-/// Finds the charges that the credits paid for, and how much of the credits that is.
+/// Finds the charges that the credits paid for, and the amount of the credits that was used for
+/// them.
 void FindCharges(CreditSpending& spending, const RentPayment& later) {
     Currency spent;
     for (const SpentCredit& credit : spending.credits)
@@ -65,7 +66,7 @@ void FindCharges(CreditSpending& spending, const RentPayment& later) {
                   [](const SpentCredit& credit) { return credit.reopened.IsZero(); });
 }
 
-/// Returns the part, of the amount `open`, that is to be open.
+/// Splits off the amount `open` of a row; returns the part that is to be open.
 std::int32_t SplitOff(std::int32_t idRentLog, Currency open) {
     auto split = ReadSplit(idRentLog);
     if (!split) throw platform::ConflictError("The charge was deleted. Nothing was posted.");

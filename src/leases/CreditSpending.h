@@ -37,7 +37,7 @@ struct SpentCredit {
 /// How a later payment, or the daily run, used the credit that a payment had brought.
 struct CreditSpending {
     std::int32_t idTransaction = 0;
-    /// The transaction's.
+    /// The description of the transaction.
     std::string description;
     /// 0 if no money came in with it, as with the payments of the daily run.
     std::int32_t idPaymentRow = 0;
@@ -55,8 +55,8 @@ struct CreditSpending {
 /// out to the tenant, is left out. Failures are thrown.
 std::vector<CreditSpending> ReadSpendings(const RentPayment& payment);
 
-/// Opens the charges and the credits again. Of a row that is open again in part, the part is split
-/// off; the open part of a period's rent is the period's rent. Failures are thrown.
+/// Opens the charges and the credits again. A row that is open again only in part is split; the
+/// open part of a period's rent stays the period's rent. Failures are thrown.
 void UndoSpending(const CreditSpending& spending);
 
 /// Returns how many rents of a period are open again, whole or in part.

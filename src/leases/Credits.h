@@ -48,7 +48,7 @@ std::vector<OpenCredit> ReadCredits(std::int32_t idLease);
 
 /// Returns whether the lease settles new charges from credit by itself, on the day they fall due.
 bool SettlesCharges(std::int32_t idLease);
-/// Returns whether any lease of the books does.
+/// Returns whether any lease of the books does so.
 bool AnySettlesCharges();
 void SetSettlesCharges(std::int32_t idLease, bool settles);
 

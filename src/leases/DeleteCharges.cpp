@@ -29,7 +29,8 @@ std::string NameOf(std::int32_t idRentLog) {
                        platform::FormatMoney(MoneyOf(row["Amount"])));
 }
 
-/// Returns an empty question for one row, which gets the usual question of its kind.
+/// Returns the question for several rows; for one row an empty text, because it gets the usual
+/// question of its kind.
 std::string QuestionOf(std::string_view question, const std::vector<std::int32_t>& ids) {
     if (ids.size() == 1) return {};
     const std::string names = books::NameFirst(ids, kNamed, NameOf);

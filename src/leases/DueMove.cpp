@@ -11,7 +11,7 @@ using platform::Date;
 
 namespace {
 
-/// Step by step, as payments move it.
+/// Moves a due date step by step, as payments move it.
 Date Step(std::string_view termType, Date due, int periods) {
     const int step = periods < 0 ? -1 : 1;
     for (; periods != 0; periods -= step)

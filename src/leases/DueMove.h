@@ -9,12 +9,13 @@
 
 namespace leases {
 
-/// The effect of paid rents on a lease beside the ledger of its charges.
+/// The effects of paid rents on a lease, besides those on its ledger.
 struct DueMove {
     /// The next due date as it is; unset if the lease has none.
     platform::Date from;
     platform::Date to;
-    /// What one of the periods earns towards the purchase, zero without an option.
+    /// The credit that one of the periods earns towards the purchase; zero if the lease has no
+    /// option.
     platform::Currency optionCredit;
 };
 
@@ -22,9 +23,9 @@ struct DueMove {
 /// deleted.
 std::optional<DueMove> ReadDueMove(std::int32_t idLease, int periods);
 
-/// Steps a next due date back over so many periods of a lease, as far as they can be told: a
-/// month's last day may have been shortened on the way. `oldest` is the day of the oldest rent
-/// among them, which is the answer if paying leads from it to `due`.
+/// Steps a next due date back by so many periods of a lease, as far as that can be told: on the
+/// way, the day may have been shortened to a month's last day. `oldest` is the day of the oldest
+/// rent among them; it is the result if paying leads from it to `due`.
 platform::Date DueBefore(std::string_view termType, platform::Date due, int periods,
                          platform::Date oldest);
 

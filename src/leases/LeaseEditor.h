@@ -44,7 +44,7 @@ enum class LeaseAge { New, Stored };
 /// and tenant get their status. One unit of work. Throws on failure.
 void SaveLease(platform::Recordset& row, LeaseAge age);
 
-/// What a lease of some status allows on its screen.
+/// The parts of the lease screen that are available, depending on the lease's status.
 struct LeaseAvailability {
     bool giveNotice = false;
     bool breakLease = false;

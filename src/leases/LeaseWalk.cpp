@@ -34,7 +34,7 @@ class DueDates {
     bool IsDiscountDay(Date day) const { return day == discountDate_; }
     bool IsOneTimeDay(Date day) const { return day == oneTimeDate_; }
     bool IsDailyFeeDay(Date day) const { return day > dailyDate_; }
-    /// The due dates whose days are counted for the fees.
+    /// Return the due dates from which the days of the fees are counted.
     Date OneTimeDue() const { return oneTimeDue_; }
     Date DailyDue() const { return dailyDue_; }
     /// The next one-time fee is for the due date reached now.
@@ -126,7 +126,8 @@ LeaseWalk WalkLease(LeaseTerms terms, WalkMode mode, Date today, CreditPurse pur
         walk.renewed = walk.renewed || step.renewed;
         const std::size_t before = walk.charges.size();
         if (IsCharged(walk.terms.status)) ChargeDay(walk, dates, day, mode, taken);
-        // The fee days start from the oldest unpaid due date, as they do in a run of the next day.
+        // The days of the fees start from the oldest unpaid due date, as they do in a run on the
+        // next day.
         if (SettleDay(walk, purse, day, before)) dates = DueDates(walk.terms);
     }
     if (end > start) walk.terms.dateUpdated = end;

@@ -24,7 +24,7 @@ struct Charge {
     /// The day on which it is posted.
     platform::Date date;
     platform::Currency amount;
-    /// The due date that it is for; for a fee, the one whose days were counted.
+    /// The due date of the charge; for a fee, the due date from which its days were counted.
     platform::Date due;
 };
 
@@ -35,7 +35,7 @@ std::string DescriptionOf(const Charge& charge);
 core::Posting PostingOf(ChargeKind kind);
 core::RunReason ReasonOf(const Charge& charge);
 
-/// What a run does besides catching the lease up to today.
+/// The work of a run besides catching the lease up to today.
 enum class WalkMode {
     CatchUp,
     RollForward, ///< on to the next due date, discounts included, for a tenant who pays ahead

@@ -11,9 +11,9 @@ namespace leases {
 // Rows of the ledger as tables. Their first column holds the ids in the rent log, their second the
 // flags.
 
-/// The rows of a tab of the ledger; the open ones with their running total.
+/// Returns the rows of a tab of the ledger; the open ones with their running total.
 core::RowTable<LedgerRow> LedgerTable(std::vector<LedgerRow> rows, LedgerRows which);
-/// The charges that a payment may settle.
+/// Returns the charges that a payment may settle.
 core::RowTable<PaymentCharge> ChargeTable(std::vector<PaymentCharge> charges);
 
 } // namespace leases

@@ -10,7 +10,7 @@ namespace leases {
 
 /// One row that submitting will write, change or delete, for the user to look at before.
 struct PreviewRow {
-    /// What happens, in words: "Charge paid", "Part left open".
+    /// The change in words: "Charge paid", "Part left open".
     std::string what;
     platform::Date date;
     std::string category;

@@ -33,7 +33,7 @@ void Insert(std::int32_t idRentLog, const RentLogEntry& entry) {
                                  entry.amount, entry.description, Code(entry.flags)});
 }
 
-/// Every writer announces its rows, so that no routine built on it can forget to.
+/// Every writer announces its rows, so that no routine that uses it can forget to.
 void Announce() {
     core::NotifyAll(core::kRentLog, core::kRecordsChanged, 0);
 }

@@ -26,7 +26,7 @@ struct RentLogEntry {
     RentFlags flags = RentFlags::Ordinary;
 };
 
-/// The open row that a charge of a lease's walk becomes.
+/// Returns the open row that a charge of a lease's walk becomes.
 RentLogEntry EntryOf(std::int32_t idLease, const Charge& charge);
 
 // Each of these writers broadcasts the rows it wrote. All throw on failure.

@@ -57,15 +57,14 @@ void ReadCharges(RentPayment& payment, OpenCharges open = OpenCharges::Leave);
 /// date.
 bool IsPeriodRent(RentFlags flags);
 
-/// Returns how many rents of a period a payment settles; none if it isn't one of rent.
+/// Returns how many rents of a period a payment settles; 0 if it isn't a payment of rent.
 int CountPeriodRents(const RentPayment& payment);
 
 /// Returns by how many periods the payment moves the next due date: one for each period's rent that
 /// a new payment of rent settles. A stored payment never moves it, in either direction.
 int PeriodsPaid(const RentPayment& payment);
 
-/// Returns whether two readings of a charge are of the same row, which says the same about what is
-/// owed.
+/// Returns whether two readings of a charge are of the same row and agree about what is owed.
 bool IsSameCharge(const PaymentCharge& a, const PaymentCharge& b);
 
 /// Returns the payment as the books have it now. Throws ConflictError if a charge that it settles

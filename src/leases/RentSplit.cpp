@@ -49,8 +49,8 @@ void CheckUnchanged(const RentSplit& split) {
         "The charge was changed or removed since it was read, so it can't be split.");
 }
 
-/// Without the row its payment would no longer add up. Money that is owed again, since its payment
-/// was returned or deleted, is a charge like any other.
+/// Refuses to split a row without which its payment would no longer add up. Money that is owed
+/// again, since its payment was returned or deleted, is a charge like any other.
 void CheckCredit(const RentLogEntry& charge, std::int32_t idRentLog) {
     if (charge.idTransaction == 0 || !IsOrigin(idRentLog)) return;
     throw platform::ConflictError(

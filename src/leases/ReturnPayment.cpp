@@ -27,7 +27,7 @@ using platform::Recordset;
 
 namespace {
 
-/// The payment's row. Throws Error if it is no payment that can be returned.
+/// Reads the payment's row. Throws Error if it can't be returned.
 Recordset ReadReturnable(std::int32_t idTransaction) {
     Recordset row =
         core::Read("SELECT * FROM Transactions WHERE IdTransaction = ?", {idTransaction});
@@ -52,7 +52,7 @@ Recordset ReadReturnable(std::int32_t idTransaction) {
     return row;
 }
 
-/// The day of the oldest rent that is open again; unset if there is none.
+/// Returns the day of the oldest rent that is open again; unset if there is none.
 Date OldestRent(const PaymentReturn& returned) {
     Date oldest;
     const auto add = [&](const PaymentCharge& charge) {
@@ -65,9 +65,10 @@ Date OldestRent(const PaymentReturn& returned) {
     return oldest;
 }
 
-/// The last number that an option credit earned by a payment can have. They follow its own row, one
-/// for each rent. One that settled its rents by credit has no row, and events that waited for it
-/// may have posted rows in between; the next payment of a rent has option credits of its own.
+/// Returns the highest id that an option credit earned by a payment can have. Option credits follow
+/// the payment's own row, one for each rent. If the payment settled its rents by credit, it has no
+/// row, and events that waited for it may have posted rows in between; the next payment of a rent
+/// has option credits of its own.
 std::int32_t LastOptionCredit(std::int32_t idLease, std::int32_t idTransaction,
                               std::int32_t idPaymentRow, int rents) {
     if (idPaymentRow != 0) return idPaymentRow + rents;
@@ -78,8 +79,8 @@ std::int32_t LastOptionCredit(std::int32_t idLease, std::int32_t idTransaction,
     return next.IsNull() ? std::numeric_limits<std::int32_t>::max() : next.AsLong();
 }
 
-/// The option credits that a payment earned for so many rents. Without a row of its own, they are
-/// told from the credits that the user entered since by their description.
+/// Returns the option credits that a payment earned for so many rents. If it has no row of its own,
+/// their description distinguishes them from the credits that the user has entered since.
 Currency OptionCreditOf(std::int32_t idLease, std::int32_t idTransaction, std::int32_t idPaymentRow,
                         int rents) {
     Currency total;
@@ -108,7 +109,7 @@ Currency OptionCreditOf(const PaymentReturn& returned) {
     return total;
 }
 
-/// Rents that are open again.
+/// Counts the rents that are open again.
 int CountRents(const PaymentReturn& returned) {
     int rents = CountPeriodRents(returned.payment);
     if (returned.payment.rentClass != TransactionClass::Rent) return rents;

@@ -18,15 +18,16 @@ struct PaymentReturn {
     platform::Currency amount;
     /// The day the bank gave it back.
     platform::Date date;
-    /// What the bank takes for it, charged to the tenant; zero charges nothing.
+    /// The bank's fee for the return, charged to the tenant; zero charges nothing.
     platform::Currency fee;
     /// The lease's next due date as it was when this was read, and as it will be. Unset for a
     /// payment that settles no rent.
     platform::Date dueNow;
     platform::Date dueAfter;
-    /// Earned by the payment, or with its credit, towards the purchase, and withdrawn.
+    /// The option credit that the payment, or its credit, earned towards the purchase, and that is
+    /// withdrawn.
     platform::Currency optionCredit;
-    /// How the credit that it brought was spent since.
+    /// How the credit that the payment brought was spent since.
     std::vector<CreditSpending> spendings;
 };
 
@@ -36,7 +37,7 @@ struct PaymentReturn {
 /// its lease deleted.
 PaymentReturn ProposeReturn(std::int32_t idTransaction);
 
-/// Returns what is wrong with it, a line each.
+/// Returns the errors in the entries, a line each.
 std::vector<std::string> ReturnErrors(const PaymentReturn& returned);
 
 /// Returns every row that SubmitReturn will write, change or delete. Empty if there are errors.

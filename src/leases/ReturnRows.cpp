@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kLongestDescription = 255;
 
-/// A row of the ledger that the return writes.
+/// Returns a row of the ledger that the return writes.
 RentLogEntry EntryOf(const PaymentReturn& returned, std::string_view category, Currency amount,
                      std::string description) {
     return {.idLease = returned.payment.idLease,
@@ -26,7 +26,7 @@ RentLogEntry EntryOf(const PaymentReturn& returned, std::string_view category, C
             .description = std::move(description)};
 }
 
-/// A deposit has no fees; what the bank takes is owed with the rent.
+/// Returns the row of the bank's fee. A deposit has no fees: its fee is owed with the rent.
 RentLogEntry FeeOf(const PaymentReturn& returned) {
     RentLogEntry fee =
         EntryOf(returned, kCategoryReturnFee, returned.fee,
@@ -40,7 +40,7 @@ bool IsOriginOf(std::span<const removal::CreditOrigin> credits, const PaymentCha
            credits.end();
 }
 
-/// Cut between characters.
+/// Returns a text that fits the field, cut between characters.
 std::string Shortened(std::string text) {
     if (text.size() <= kLongestDescription) return text;
     std::size_t end = kLongestDescription;
@@ -121,7 +121,7 @@ ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::Credit
         for (const SpentCredit& credit : spending.credits) {
             const auto origin =
                 std::ranges::find(plan.credits, credit.idOrigin, &removal::CreditOrigin::idRentLog);
-            // The payment may have changed since it was shown; the return itself refuses that.
+            // The payment may have changed since it was shown; the return then refuses to go on.
             if (origin != plan.credits.end()) origin->open += credit.reopened;
         }
     }

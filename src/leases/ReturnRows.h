@@ -27,19 +27,19 @@ struct ReturnPlan {
     std::vector<removal::CreditOrigin> credits;
     /// The row that the payment settles in the place of its charges.
     RentLogEntry returned;
-    /// What the reversal settles: the counterpart of that row, and its own payment row.
+    /// The rows that the reversal settles: the counterpart of that row, and its own payment row.
     RentLogEntry counterpart;
     RentLogEntry payment;
     /// The amount is zero if there is none.
     RentLogEntry fee;
     RentLogEntry optionCredit;
-    /// What the payment is described as from now on.
+    /// The description of the payment from now on.
     std::string description;
     platform::Date dueNow;
     platform::Date dueAfter;
 };
 
-/// `credits` are the origins that the payment settles now.
+/// Works out the return of a payment. `credits` are the origins that the payment settles now.
 ReturnPlan PlanReturn(const PaymentReturn& returned, std::vector<removal::CreditOrigin> credits);
 
 PreviewRows RowsOf(const ReturnPlan& plan);

@@ -19,7 +19,7 @@ using platform::Currency;
 
 namespace {
 
-/// The row of a credit while the walk is written; what is left of it is a positive amount.
+/// The row of a credit while the walk is written; the amount left of it is positive.
 struct CreditLeft {
     std::int32_t idRentLog = 0;
     Currency left;

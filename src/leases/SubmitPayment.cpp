@@ -25,7 +25,8 @@ using platform::Recordset;
 
 namespace {
 
-/// Someone else paid or changed a charge since the payment was read; submitting would pay it twice.
+/// Someone else has paid or changed a charge since the payment was read; submitting would pay it
+/// twice.
 [[noreturn]] void ThrowConflict(const RentPayment& payment, const PaymentCharge& charge) {
     const auto settledBy = core::SettledBy(core::kRentLedger, charge.idRentLog);
     throw ConflictError(fmt::format(
@@ -57,7 +58,8 @@ void CheckReturn(const RentPayment& payment) {
         "The payment was returned, so its charges can't be changed. Nothing was posted.");
 }
 
-/// A stored payment whose lease was removed keeps the unit and building that it was posted with.
+/// Returns the payment's references. A stored payment whose lease was removed keeps the unit and
+/// building that it was posted with.
 books::References LinksOf(const RentPayment& payment) {
     books::References links = GetLeaseLinks(payment.idLease);
     if (links.idUnit != 0 || payment.IsNew()) return links;
@@ -79,8 +81,8 @@ void RememberAccount(const RentPayment& payment) {
                   {payment.to.id, payment.idLease});
 }
 
-/// A stored payment's row is written even for an amount of 0: left unchanged it would be money that
-/// nobody paid.
+/// A stored payment's row is written even for an amount of 0: left unchanged, it would be money
+/// that nobody paid.
 void WritePaymentRow(const RentPayment& payment, std::int32_t idTransaction,
                      std::int32_t idPaymentRow) {
     const RentLogEntry entry = {.idLease = payment.idLease,
@@ -123,7 +125,8 @@ RentPayment CheckUnchanged(const RentPayment& payment) {
         const auto same = std::ranges::find_if(
             now.charges, [&](const auto& other) { return IsSameCharge(charge, other); });
         if (same == now.charges.end()) ThrowConflict(payment, charge);
-        // Another edit has reopened it; a deleted payment has reopened all, and is posted again.
+        // Another edit of the payment has reopened it. A deleted payment has reopened all of its
+        // charges, and is posted again.
         if (isStored && charge.settled && !same->settled) ThrowPaymentChanged();
     }
     for (const PaymentCharge& settled : now.charges) {

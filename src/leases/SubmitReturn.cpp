@@ -42,7 +42,7 @@ void CheckUnchanged(const PaymentReturn& returned) {
 }
 
 void ReopenCharges(const ReturnPlan& plan, std::int32_t idTransaction) {
-    // Open again, the credit is withdrawn with the rest of it.
+    // If it is open again, the credit is withdrawn with the rest of it.
     for (const CreditSpending& spending : plan.spendings)
         UndoSpending(spending);
     removal::ReleaseCredits(idTransaction);
@@ -50,7 +50,7 @@ void ReopenCharges(const ReturnPlan& plan, std::int32_t idTransaction) {
         core::Settle(core::kRentLedger, charge.idRentLog, idTransaction, core::Settled::No);
 }
 
-/// Both sides of the return, tied to each other.
+/// Writes both sides of the return, tied to each other.
 void WriteSides(ReturnPlan& plan, std::int32_t idReversal) {
     plan.counterpart.idTransaction = plan.payment.idTransaction = idReversal;
     const std::int32_t idOrigin = WriteRentLog(plan.returned);
@@ -59,7 +59,7 @@ void WriteSides(ReturnPlan& plan, std::int32_t idReversal) {
     TieCredit(idCounterpart, idOrigin, plan.returned.idLease, idReversal);
 }
 
-/// Marks a payment from credit that settles nothing any more.
+/// Marks a payment from credit that no longer settles anything.
 void MarkSpending(const CreditSpending& spending, Date day) {
     if (!spending.isAll) return;
     SetDescription(spending.idTransaction, MarkedDescription(day, spending.description));

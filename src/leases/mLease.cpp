@@ -82,7 +82,7 @@ PostedRows UpdateLease(Recordset& row, WalkMode mode, CreditUse use) {
     const std::int32_t idLease = row["IdLease"].AsLong();
     std::optional<UnitOfWork> unit;
     std::vector<OpenCredit> credits;
-    // From here on no other program takes a row back, which would be posted again here.
+    // From here on, no other program can take a row back that would be posted again here.
     if (mode != WalkMode::CatchUp) unit.emplace(core::App().Connection);
     if (mode == WalkMode::CatchUp && use == CreditUse::AsLeaseSays && SettlesCharges(idLease)) {
         // Read inside the unit of work, so that no other program spends them too.
@@ -94,7 +94,7 @@ PostedRows UpdateLease(Recordset& row, WalkMode mode, CreditUse use) {
         WalkLease(LeaseTerms::Read(row), mode, platform::Today(), CreditPurse(credits),
                   [&](ChargeKind kind, Date day) { return taken.Has(PostingOf(kind), day); });
 
-    // On most days the lease's own row is all that is written, which one statement does whole.
+    // On most days only the lease's own row is written, in one statement.
     if (!unit && (!walk.charges.empty() || !walk.statuses.empty()))
         unit.emplace(core::App().Connection);
     for (const std::string& word : walk.statuses)
@@ -117,7 +117,8 @@ PostedRows UpdateLeaseById(std::int32_t idLease, WalkMode mode) {
     try {
         return UpdateStored(idLease, mode);
     } catch (const platform::ConflictError&) {
-        // Another program wrote the lease after it was read. Inside the unit of work none can.
+        // Another program has written the lease since it was read; inside the unit of work none
+        // can.
         UnitOfWork unit(core::App().Connection);
         PostedRows rows = UpdateStored(idLease, mode);
         unit.Commit();

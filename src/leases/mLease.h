@@ -16,19 +16,19 @@ namespace leases {
 
 using PostedRows = std::vector<core::PostedRow>;
 
-/// Whether a run settles new charges from credit. A run of many leases that knows that none does
-/// so saves the lookup for each.
+/// Whether a run settles new charges from credit. None saves a run of many leases the lookup for
+/// each, if it knows that no lease settles its charges so.
 enum class CreditUse { AsLeaseSays, None };
 
 /// Brings a lease up to date: walks it by the calendar, posts its charges, settles them from credit
 /// if `use` and the lease say so, sets unit and tenant, computes balances and rent status, writes
-/// the row and tells the screens. One unit of work. Returns what was posted. Throws ConflictError
-/// if the row was written since it was read.
+/// the row and notifies the screens. One unit of work. Returns what was posted. Throws
+/// ConflictError if the row was written since it was read.
 PostedRows UpdateLease(platform::Recordset& row, WalkMode mode,
                        CreditUse use = CreditUse::AsLeaseSays);
 
-/// The same for the lease of this id, read again if another program writes it in between. Does
-/// nothing for id 0 or a lease that doesn't exist.
+/// Does the same for the lease of this id, and reads it again if another program writes it in
+/// between. Does nothing for id 0 or a lease that doesn't exist.
 PostedRows UpdateLeaseById(std::int32_t idLease, WalkMode mode);
 
 enum class StatusChange { IfDifferent, Force };

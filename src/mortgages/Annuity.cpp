@@ -38,7 +38,8 @@ double Annuity::NPer(double payment, double presentValue) const {
 }
 
 Annuity Annuity::OfPayment(double periods, double payment, double presentValue) {
-    // No formula gives the rate. A higher one always means a higher payment, so it is enclosed.
+    // There is no formula for the rate. A higher rate always means a higher payment, so it is found
+    // by narrowing an interval.
     constexpr double kHighest = 1;
     double low = 0;
     double high = kHighest;

@@ -20,7 +20,7 @@ class Annuity {
     double Pmt(double periods, double presentValue) const;
     /// Returns the number of periods, with a fraction, in which `payment` pays off `presentValue`.
     double NPer(double payment, double presentValue) const;
-    /// Returns what is owed while `periods` such payments are still to come, 0 after the last.
+    /// Returns the balance while `periods` such payments are still to come; 0 after the last one.
     double PV(double periods, double payment) const;
     /// Return the interest and the principal in the first payment.
     double FirstIPmt(double presentValue) const;

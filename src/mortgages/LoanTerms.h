@@ -22,7 +22,7 @@ struct LoanTerms {
     std::int16_t BalloonPer = 60;
     double BalloonPmt = 0;    ///< computed
     bool PPM = false;         ///< paying much ahead costs a penalty
-    std::int16_t PPMPer = 60; ///< periods in which it does, 0 for all
+    std::int16_t PPMPer = 60; ///< periods in which it does so, 0 for all
     double PPMPct = 0.05;     ///< the penalty as a share of OrigPV
     double PPMTrigger = 0.2;  ///< the share of OrigPV, paid in a calendar year, that sets it off
     bool ARM = false;         ///< the rate is adjusted

@@ -12,7 +12,7 @@ namespace mortgages {
 // flags.
 
 core::RowTable<LogRow> LogTable(std::vector<LogRow> rows);
-/// The charges that a payment may settle.
+/// Returns the charges that a payment may settle.
 core::RowTable<PaymentCharge> ChargeTable(std::vector<PaymentCharge> charges);
 
 } // namespace mortgages

@@ -106,7 +106,8 @@ MortgagePayment ReadMortgagePayment(std::int32_t idTransaction) {
 }
 
 void ReadCharges(MortgagePayment& payment) {
-    // A new payment has settled no charges, and no rows of other mortgages.
+    // -1, because a new payment has settled no charges: 0 would find the open rows of every
+    // mortgage.
     const std::int32_t settledBy = payment.idTransaction == 0 ? -1 : payment.idTransaction;
     Recordset rows = core::Read(
         "SELECT *, 'True' AS [Selected] FROM MortgageLog WHERE (IdTransaction = ?) "
@@ -124,7 +125,7 @@ void ReadCharges(MortgagePayment& payment) {
         charge.selected = WasSelected(payment.charges, charge.idMortgageLog, charge.selected);
         charges.push_back(std::move(charge));
     }
-    // Charges of one day stay in the order they were posted.
+    // Charges of one day stay in the order in which they were posted.
     std::sort(charges.begin(), charges.end(), [](const auto& a, const auto& b) {
         return std::pair(a.datePosted, a.idMortgageLog) < std::pair(b.datePosted, b.idMortgageLog);
     });
@@ -154,7 +155,7 @@ std::string_view Select(MortgagePayment& payment, std::size_t charge, bool selec
 void SelectAll(MortgagePayment& payment, ChargeChoice choice, bool selected) {
     const std::size_t count = payment.charges.size();
     for (std::size_t i = 0; i < count; ++i) {
-        // Deselecting begins with the last, so that no gap is left in between.
+        // Deselecting begins with the last one, so that no gap arises.
         const std::size_t at = selected ? i : count - 1 - i;
         if (choice == ChargeChoice::All || payment.charges[at].IsBasePayment())
             Select(payment, at, selected);

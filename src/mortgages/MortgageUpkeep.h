@@ -29,8 +29,8 @@ enum class PayoffResult { Posted, NotFound };
 /// open screens. One unit of work: if the mortgage can't be calculated nothing is deleted.
 PayoffResult PostPayoff(std::int32_t idMortgage);
 
-/// Returns whether the log holds a payoff that was posted after this row of it. The payoff charges
-/// the whole balance, so that a charge from before it is no longer owed.
+/// Returns whether a payoff was posted to the log after this row. The payoff charges the whole
+/// balance, so that a charge from before it is no longer owed.
 bool HasPayoffAfter(std::int32_t idMortgage, std::int32_t idMortgageLog);
 
 } // namespace mortgages

@@ -40,7 +40,7 @@ class DueDays {
 
     bool IsDue(Date day) const { return day == due_; }
     bool IsLate(Date day) const { return day == late_; }
-    /// The due date whose days of grace are counted.
+    /// Returns the due date whose days of grace are counted.
     Date LateDue() const { return lateDue_; }
 
   private:

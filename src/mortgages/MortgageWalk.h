@@ -22,7 +22,7 @@ struct Charge {
     platform::Currency payDown;
     platform::Currency interest;
     platform::Currency other;
-    /// The due date that it is for; for a late fee, the one whose days of grace are over.
+    /// The due date of the charge; for a late fee, the due date whose days of grace are over.
     platform::Date due;
 
     platform::Currency Total() const { return principal + payDown + interest + other; }
@@ -38,7 +38,7 @@ ChargeWords WordsOf(LogFlags flags);
 core::Posting PostingOf(LogFlags flags);
 core::RunReason ReasonOf(const Charge& charge);
 
-/// What a run does besides catching the mortgage up to today.
+/// The work of a run besides catching the mortgage up to today.
 enum class RunMode {
     CatchUp,
     RollForward, ///< on to the next due date, for an owner who pays ahead
@@ -59,7 +59,7 @@ struct RunTerms {
     platform::Currency pmi;
     platform::Currency lateFee;
 
-    /// The day before the first day of a run, and its last day.
+    /// Return the day before the first day of a run, and its last day.
     platform::Date Start(RunMode mode) const;
     platform::Date Target(RunMode mode, platform::Date today) const;
 };

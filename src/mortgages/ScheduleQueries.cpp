@@ -12,7 +12,7 @@ using platform::Date;
 
 namespace {
 
-/// Returns what `read` gives for the last row due in the year, 0 if there is none.
+/// Returns what `read` gives for the last row that is due in the year; 0 if there is none.
 template <class Read>
 double OfYear(const std::vector<AmortPeriod>& schedule, std::string_view year, Read read) {
     const std::string present = std::to_string(platform::Today().Year());

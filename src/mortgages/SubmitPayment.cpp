@@ -83,7 +83,8 @@ void CheckUnchanged(const MortgagePayment& payment) {
     if (!errors.empty()) throw platform::Error(errors.front());
 }
 
-/// A payment of a deleted mortgage keeps the building it was posted for.
+/// Returns the building of a payment; if the mortgage was deleted, the building that it was posted
+/// for.
 std::int32_t BuildingOf(const MortgagePayment& payment) {
     if (payment.IsNew() || core::RecordExists(core::kMortgage, payment.idMortgage)) {
         return core::GetMortgageBuilding(payment.idMortgage);
@@ -114,8 +115,8 @@ MortgageLogEntry PaymentRowOf(const MortgagePayment& payment, std::int32_t idTra
     return entry;
 }
 
-/// Returns the row of a stored payment as it is now, 0 without one: another program may have added,
-/// deleted or replaced it since the payment was read, and a payment has one row.
+/// Returns the row of a stored payment as it is now, 0 if there is none: another program may have
+/// added, deleted or replaced it since the payment was read, and a payment has only one row.
 std::int32_t PaymentRowNow(MortgagePayment payment) {
     if (payment.IsNew()) return 0;
     ReadCharges(payment);

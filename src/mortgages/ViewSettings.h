@@ -5,7 +5,7 @@ namespace mortgages {
 /// How the schedule is drawn by years; the numbers are stored in the settings.
 enum class ChartType { Lines = 0, Bars = 1, Areas = 2 };
 
-/// What a mortgage's screen shows of the schedule; stored on this machine.
+/// The parts of the schedule that a mortgage's screen shows; stored on this machine.
 struct ViewSettings {
     bool detail = false;
     bool yearToDate = false;

@@ -30,7 +30,7 @@ clsMortgage::clsMortgage() {
 void clsMortgage::CreateMtg(std::string_view firstDue, double presentValue, double& periods,
                             double rate, double& payment, bool interestOnly, bool adjustable) {
     if (interestOnly) {
-        // A year's interest, negated: callers have always been given this; ReCalc calculates the
+        // A year's interest, negated: callers have always been given that. ReCalc calculates the
         // payment itself.
         payment = presentValue * rate * -1;
     } else if (payment != 0) {

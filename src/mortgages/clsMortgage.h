@@ -67,7 +67,7 @@ class clsMortgage {
     /// Returns the extra principal entered for a period, 0 beyond the entries; for period 0, that
     /// of all periods.
     double GetXPRI(int period) const;
-    /// Sets it; a period beyond the entries is skipped.
+    /// Sets the extra principal of a period; a period beyond the entries is skipped.
     void SetXPri(int period, double amount);
     void ClearXPri();
     /// Raises the rates of an adjustable loan to the highest possible; does nothing for other
@@ -100,10 +100,10 @@ class clsMortgage {
     /// Returns the period of `date`'s calendar month, 0 outside the loan.
     int GetPeriod(platform::Date date) const;
 
-    /// The rows of the schedule, and the terms as they are stored.
+    /// Return the rows of the schedule, and the terms as they are stored.
     const std::vector<AmortPeriod>& Schedule() const { return schedule_; }
     const LoanTerms& Terms() const { return terms_; }
-    /// The number of entries for extra principal and rates; there can be more than periods.
+    /// Returns the number of entries for extra principal and rates; there can be more than periods.
     int ArraySize() const { return arraySize_; }
 
     const std::string& Description() const { return terms_.Description; }
@@ -118,7 +118,7 @@ class clsMortgage {
     double OrigPer() const { return terms_.OrigPer; }
     void SetOrigPer(double periods);
     double OrigRate() const { return terms_.OrigRate * 100; }
-    /// If it differs from the present rate, it becomes every period's rate.
+    /// Sets the original rate; if it differs from the present one, every period gets it.
     void SetOrigRate(double percent);
     double OrigPmt() const { return terms_.OrigPmt; }
     const std::string& FirstDue() const { return terms_.FirstDue; }

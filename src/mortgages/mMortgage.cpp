@@ -21,7 +21,8 @@ using platform::UnitOfWork;
 
 namespace {
 
-/// On most days nothing in a row changes, and an unchanged field isn't written.
+/// Sets a text only if it differs: on most days nothing in a row changes, and an unchanged field
+/// isn't written.
 void SetWord(Recordset& row, std::string_view field, std::string_view word) {
     auto stored = row[field];
     if (stored.IsNull() || stored.AsText() != word) stored.Set(word);

@@ -17,10 +17,10 @@ namespace mortgages {
 /// what was posted.
 std::vector<core::PostedRow> UpdateMortgage(platform::Recordset& row, RunMode mode);
 
-/// The same for the mortgage of this id; does nothing if it doesn't exist.
+/// Does the same for the mortgage of this id; does nothing if it doesn't exist.
 void UpdateMortgageById(std::int32_t idMortgage, RunMode mode);
 
-/// Sets `Status` by the balance, and `PmtStatus` by today and the next due date; without one,
+/// Sets `Status` by the balance, and `PmtStatus` by today and the next due date; if there is none,
 /// PmtStatus stays. The caller writes the row.
 void SetMortgageStatus(platform::Recordset& row);
 

@@ -8,7 +8,8 @@
 
 namespace outlook {
 
-/// The same without the late fees, which come only if nothing is paid until then.
+/// Returns the forecast without its late fees, which are charged only if nothing is paid until
+/// then.
 Forecast WithoutLateFees(const Forecast& forecast);
 
 /// Money that comes in and goes out.
@@ -27,23 +28,24 @@ struct Week {
     Sums sums;
 };
 
-/// Seven days each, the first beginning today; rows before today count in it. The last week may
-/// reach beyond the forecast.
+/// Returns the weeks, seven days each, the first beginning today; rows before today count in the
+/// first one. The last week may reach beyond the forecast.
 std::vector<Week> WeeksOf(const Forecast& forecast);
 
-/// What a page of a calendar says of a day.
+/// The entries of one day on a page of a calendar.
 struct CalendarDay {
     Sums sums;
-    /// What else there is: transfers and days to know of.
+    /// The other entries of the day: transfers, and dates to be aware of.
     std::vector<std::string> others;
-    /// The place of its first row in the forecast.
+    /// The place of the day's first row in the forecast.
     std::size_t firstRow = 0;
 
-    /// Returns a few short lines: the money, then what else there is, or how many of them.
+    /// Returns a few short lines: the money, then the other entries, or their number if there are
+    /// too many.
     std::vector<std::string> Lines() const;
 };
 
-/// Every day that has a row.
+/// Returns the entries of every day that has a row.
 std::map<platform::Date, CalendarDay> DaysOf(const Forecast& forecast);
 
 } // namespace outlook

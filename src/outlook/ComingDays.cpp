@@ -37,9 +37,9 @@ ForecastRow DayOf(std::int16_t kind, std::int32_t id, Date date, std::string wha
 
 // Leases
 
-/// What happened to a lease on a day; empty if it is nothing to know of.
+/// Returns what happened to a lease on a day; empty if it isn't worth showing.
 std::string MeaningOf(const std::string& before, const leases::LeaseTerms& terms, bool renewed) {
-    // A term of no length renews every day, which says nothing.
+    // A term without a length renews every day, which isn't worth showing.
     if (renewed) return terms.term.Get() > 0 ? "Lease renews" : "";
     if (leases::IsOver(terms.status)) return "Lease ends";
     if (before == core::kLeasePending) return "Lease begins";
@@ -48,13 +48,14 @@ std::string MeaningOf(const std::string& before, const leases::LeaseTerms& terms
     return "Lease becomes " + terms.status;
 }
 
-/// The walk finds the end of a term on the day after it. A beginning is on its own day.
+/// Returns the day of a change: the walk finds the end of a term on the day after it, but a
+/// beginning on its own day.
 Date DayOfChange(const std::string& before, const leases::LeaseTerms& terms, Date found) {
     const bool begins = before == core::kLeasePending && !leases::IsOver(terms.status);
     return begins ? found : DateAdd(Interval::Day, -1, found);
 }
 
-/// The day after which the run will walk the lease.
+/// Returns the day after which the run will walk the lease.
 Date StartOf(const leases::LeaseTerms& terms) {
     const Date updated = terms.dateUpdated.Get();
     return updated.IsSet() ? updated : DateAdd(Interval::Month, -1, terms.dateActive.Get());
@@ -82,7 +83,7 @@ void AddDaysOfEvent(Forecast& forecast, Recordset& event) {
                                   CountOf(event["IntervalPeriod"]), DateOf(event["LastRun"])};
     const std::int32_t id = event["IdAutoEvent"].AsLong();
     const std::string description(platform::Trim(TextOf(event["Description"])));
-    // As the run does on each of these days.
+    // As the run would do on each of these days.
     for (const Date today : {forecast.today, forecast.until}) {
         while (const auto due = books::DueRun(schedule, today)) {
             ForecastRow row = DayOf(core::kAutoEvent, id, *due, "Reminder");
@@ -96,7 +97,7 @@ void AddDaysOfEvent(Forecast& forecast, Recordset& event) {
 
 // Dates of buildings and mortgages
 
-/// A date that a table holds, and what is due `yearsLater`.
+/// A date that a table holds, and the text for what is due `yearsLater` years after it.
 struct StoredDay {
     std::int16_t kind;
     std::string_view table;
@@ -148,7 +149,7 @@ void AddReminders(Forecast& forecast) {
             if (action == books::EventAction::ProcessTransaction) continue;
             AddDaysOfEvent(forecast, events);
         } catch (const platform::Error&) {
-            continue; // one that can't run, as the run reports
+            continue; // it can't run, which the run reports
         }
     }
 }

@@ -13,11 +13,11 @@ namespace outlook {
 /// isn't valid is added to the faults.
 void AddComingDays(Forecast& forecast);
 
-/// What a lease goes through by itself until the forecast's last day.
+/// Adds the days on which leases begin, renew or end by themselves, until the forecast's last day.
 void AddLeaseDays(Forecast& forecast);
-/// The days of the enabled scheduled events that raise an alert and post nothing.
+/// Adds the days of the enabled scheduled events that raise an alert and post nothing.
 void AddReminders(Forecast& forecast);
-/// The next dates that buildings and mortgages hold, from today on.
+/// Adds the next dates that buildings and mortgages hold, from today on.
 void AddRenewals(Forecast& forecast);
 
 } // namespace outlook

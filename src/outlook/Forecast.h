@@ -15,20 +15,20 @@ enum class Origin : std::uint8_t {
     Charge,  ///< the run will post it to a ledger
     LateFee, ///< likewise, because an earlier charge stays open
     Event,   ///< a scheduled event will post it
-    Day,     ///< nothing is posted: a day to know of
+    Day,     ///< nothing is posted: a date to be aware of
 };
 
 /// Which way the money of a row goes. A transfer, and a row without an amount, goes neither.
 enum class Flow : std::uint8_t { Neither, In, Out };
 
-/// "In", "Out" or an empty text.
+/// Returns "In", "Out" or an empty text.
 std::string_view FlowName(Flow flow);
 
-/// Something that is coming.
+/// One row of a forecast: something that will happen.
 struct ForecastRow {
     platform::Date date;
     Origin origin = Origin::Charge;
-    /// The record that it is about, to be opened.
+    /// The record that the row is about, which can be opened.
     std::int16_t recordKind = 0;
     std::int32_t recordId = 0;
     std::string name;
@@ -39,11 +39,11 @@ struct ForecastRow {
     Flow flow = Flow::Neither;
 };
 
-/// What comes from today to a day, if nothing else happens.
+/// All that will happen from today to a given day, if nothing else is entered.
 struct Forecast {
     platform::Date today;
     platform::Date until;
-    /// By day. Books that were not brought up to date have rows before today.
+    /// In the order of their days. Books that were not brought up to date have rows before today.
     std::vector<ForecastRow> rows;
     /// A line for each record that the run would skip, with the reason.
     std::vector<std::string> faults;

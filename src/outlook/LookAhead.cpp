@@ -49,13 +49,14 @@ Flow FlowOf(int recordKind, std::int32_t id) {
     return recordKind == core::kLease ? Flow::In : Flow::Out;
 }
 
-/// A payment from credit has come in before: it makes less of what falls due on the day.
+/// Returns the amount of a row. A payment from credit came in earlier, so it reduces what falls due
+/// on the day.
 platform::Currency AmountOf(int recordKind, const core::PostedRow& row) {
     const bool isFromCredit = recordKind == core::kLease && row.category == leases::kPaidFromCredit;
     return isFromCredit ? -row.amount : row.amount;
 }
 
-/// Takes down what the run on the copy posts.
+/// Records what the run on the copy posts.
 class Recorder : public core::RunListener {
   public:
     explicit Recorder(Forecast& forecast) : forecast_(forecast) {}
@@ -113,7 +114,8 @@ Forecast LookAhead(const std::filesystem::path& books, platform::Date until,
     } catch (const platform::Error&) {
         if (!isStopped()) throw;
     }
-    // The run goes on with the next record after a failure, so a stop may have looked like many.
+    // After a failure the run continues with the next record, so a stop may look like many
+    // failures.
     if (isStopped()) throw Stopped();
     std::ranges::stable_sort(forecast.rows, {}, &ForecastRow::date);
     return forecast;

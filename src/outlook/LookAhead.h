@@ -8,7 +8,7 @@
 
 namespace outlook {
 
-/// The look ahead was stopped before it was done.
+/// Thrown if the look ahead was stopped before it was done.
 class Stopped : public platform::Error {
   public:
     Stopped() : Error("The look ahead was stopped.") {}

@@ -18,7 +18,8 @@ class Reel {
   public:
     explicit Reel(documents::ShowList list) : list_(std::move(list)) {}
 
-    // Each tries one picture after another until one can be shown; returns false if none can.
+    // Each function tries one picture after another until one can be shown; returns false if none
+    // can.
     bool First(const Obstacle& obstacle);
     bool Last(const Obstacle& obstacle);
     bool Next(const Obstacle& obstacle);

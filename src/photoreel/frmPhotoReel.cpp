@@ -83,7 +83,8 @@ void frmPhotoReel::Go(Step step) {
     ui_->picShow->setAccessibleName(ui_->lblCaption->text());
 }
 
-/// Restarts the interval: while it plays, a picture that the user chose stays as long as any other.
+/// Restarts the interval: while the show plays, a picture that the user chose stays as long as any
+/// other.
 void frmPhotoReel::StepByHand(Step step) {
     if (IsPlaying()) player_.start();
     Go(step);

@@ -7,8 +7,8 @@
 
 namespace records {
 
-// The errors in the rooms, contents and appliances of a unit, a line each; empty if they can be
-// saved.
+// Returns the errors in the rooms, contents and appliances of a unit, a line each; empty if they
+// can be saved.
 
 std::vector<std::string> RoomErrors(std::string_view roomType);
 std::vector<std::string> ContentErrors(std::string_view description);

@@ -10,7 +10,8 @@ namespace records {
 
 namespace {
 
-/// Text that isn't a number counts as 0, and a number that doesn't fit as infinity.
+/// Returns the percentage in a text. Text that isn't a number counts as 0, and a number that
+/// doesn't fit as infinity.
 double PercentOf(const std::string& text) {
     try {
         return platform::TryParseNumber(text).value_or(0);

@@ -12,7 +12,7 @@ namespace records {
 /// The choices for a work order's status, separated by commas; a new order starts with the first.
 inline constexpr std::string_view kWorkOrderStatuses = "Open,Vendor,Completed,Closed";
 
-// The errors in the entries, a line each; empty if they can be saved.
+// Returns the errors in the entries, a line each; empty if they can be saved.
 
 std::vector<std::string> WorkOrderErrors(std::string_view shortDesc);
 /// Checks an entry of a work order's history.

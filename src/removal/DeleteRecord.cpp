@@ -32,7 +32,8 @@ std::vector<std::int32_t> IdsOf(std::string_view sql, std::int32_t id) {
     return children;
 }
 
-/// Removes the records that can't be without this one, theirs before them.
+/// Removes the records that can't exist without this one, after the ones that can't exist without
+/// them.
 void RemoveChildren(Removal& removal, std::int16_t kind, std::int32_t id) {
     const KindRemoval* const entry = RemovalOf(kind);
     if (entry == nullptr) return;
@@ -45,7 +46,7 @@ void RemoveChildren(Removal& removal, std::int16_t kind, std::int32_t id) {
     }
 }
 
-/// The building that can't be without this unit, 0 if it has others.
+/// Returns the building that can't exist without this unit; 0 if it has others.
 std::int32_t BuildingOfLastUnit(std::int32_t idUnit) {
     const std::int32_t idBuilding = core::GetUnitBuilding(idUnit);
     if (idBuilding == 0) return 0;
@@ -98,7 +99,7 @@ bool AgreedToDelete(std::int16_t kind, std::int32_t id) {
 bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm, Tell tell) {
     if (id == 0) return false;
     if (confirm == Confirm::Ask && !AgreedToDelete(kind, id)) return false;
-    // Asked before the work begins, so that no unit of work is open while the user thinks.
+    // Asked before the work begins, so that no unit of work is open while the user decides.
     const Charges charges = AskAboutCharges(kind, id);
     if (!MayGo(kind, id)) return false;
     RunRemoval(tell, [&](Removal& removal) {

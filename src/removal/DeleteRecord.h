@@ -14,31 +14,32 @@ enum class Confirm { Ask, DontAsk };
 /// Whether the open screens are notified of what was deleted.
 enum class Tell { Screens, Nobody };
 
-/// Asks, then removes the record with the records that can't be without it: the links of an account
-/// to buildings, the leases of a tenant and of a unit, the units of a building, and the building of
-/// its last unit. Returns true if it was removed, false if the user said No and for id 0.
+/// Asks, then removes the record together with the records that can't exist without it: the links
+/// of an account to buildings, the leases of a tenant and of a unit, the units of a building, and
+/// the building of its last unit. Returns true if it was removed, false if the user said No and for
+/// id 0.
 ///
-/// A failure is thrown. What was removed before it stays removed; only when the machine stops
+/// Throws on failure. What was removed before the failure stays removed; only if the machine stops
 /// midway are the books as before.
 bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm = Confirm::Ask,
                   Tell tell = Tell::Screens);
 
 /// Called before a building is removed, after the user has agreed; false keeps the building.
 using BeforeBuilding = std::function<bool()>;
-/// Gives the process this step; an empty one takes it away.
+/// Sets this step for the process; an empty one removes it.
 void SetBeforeBuilding(BeforeBuilding step);
 
-/// Asks as DeleteRecord does, for a routine that removes the record as a part of its own work; true
-/// if the user agrees, or isn't to be asked.
+/// Asks as DeleteRecord does, for a routine that removes the record as a part of its own work;
+/// returns true if the user agrees, or needn't be asked.
 bool AgreedToDelete(std::int16_t kind, std::int32_t id);
-/// Asks a question of its own, with the record's name below it if there is one.
+/// Asks the caller's question, with the record's name below it if there is one.
 bool AgreedToDelete(std::string_view title, std::string_view question, const platform::Value& name);
 
-/// Removes one record, its attached files' links, and what points to it elsewhere, which then
-/// points to nothing; for a kind that isn't removed only the links of files go. Id 0 does nothing.
-/// Failures as of DeleteRecord.
+/// Removes one record and the links of its attached files, and clears the references to it in other
+/// rows; for a kind that isn't removed, only the links of files are removed. Does nothing for id 0.
+/// Failures are the same as for DeleteRecord.
 ///
-/// Nothing is asked, except of a payment: whether its charges go too or are open again.
+/// Nothing is asked, except for a payment: whether its charges are deleted too or are open again.
 void RemoveRecord(std::int16_t kind, std::int32_t id, Tell tell = Tell::Screens);
 
 } // namespace removal

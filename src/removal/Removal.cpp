@@ -19,7 +19,7 @@ namespace removal {
 
 namespace {
 
-/// The table that a statement of a removal deletes from or updates.
+/// Returns the table that a statement of a removal deletes from or updates.
 std::string_view WrittenTable(std::string_view statement) {
     for (const std::string_view before : {"DELETE * FROM ", "UPDATE "}) {
         if (!statement.starts_with(before)) continue;

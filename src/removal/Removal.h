@@ -20,10 +20,11 @@ class Removal {
   public:
     Removal();
 
-    /// The statements of one record. `charges` matters only for payments.
+    /// Runs the statements that remove one record. `charges` matters only for payments.
     void Remove(std::int16_t kind, std::int32_t id, Charges charges = Charges::OpenAgain);
 
-    /// Notes that the screens are to hear of a kind; what was noted before isn't noted again.
+    /// Notes that the screens are to be notified of a kind; a second note of the same kind has no
+    /// effect.
     void Note(std::int16_t kind, std::int16_t action);
 
     void Keep(Tell tell);
@@ -49,10 +50,10 @@ class Removal {
 };
 
 /// Does `work` as one removal. If it fails, what was done until then is kept and broadcast, and the
-/// failure thrown on.
+/// failure is passed on.
 void RunRemoval(Tell tell, const std::function<void(Removal& removal)>& work);
 
-/// Asks what becomes of the charges where the record is a payment.
+/// If the record is a payment, asks what becomes of its charges.
 Charges AskAboutCharges(std::int16_t kind, std::int32_t id);
 
 } // namespace removal

@@ -11,8 +11,8 @@ struct RemovalQuestion {
     std::string text;
 };
 
-/// Returns the question before a record is removed, with the count of what goes with it; nothing
-/// for a kind that is removed without a question.
+/// Returns the question before a record is removed, with the number of records that are removed
+/// with it; nothing for a kind that is removed without a question.
 std::optional<RemovalQuestion> QuestionBefore(std::int16_t kind, std::int32_t id);
 
 } // namespace removal

@@ -10,7 +10,7 @@ namespace removal {
 inline constexpr std::int16_t kAnalysis = 71;
 inline constexpr std::int16_t kNoteAnalysis = 73;
 
-/// Records that go along with a removed one, counted by the field that points to it.
+/// Records that are removed together with another, counted by the field that refers to it.
 struct Counted {
     std::string_view table;
     std::string_view field;
@@ -27,10 +27,10 @@ struct Children {
 struct KindRemoval {
     std::int16_t kind = 0;
     std::string_view title = "Confirm Delete";
-    /// The question before it, unless it counts what goes along.
+    /// The question before a removal, unless it is a question that counts.
     std::string_view question{};
-    /// The record and the word for its references, in a question that counts; of a tenant, the
-    /// references are said to be an account's.
+    /// How a question that counts calls the record and its references; for a tenant, it says that
+    /// the references are those to an account.
     std::string_view thing{};
     std::string_view referred{};
     std::span<const Counted> counted{};

@@ -40,8 +40,8 @@ void Removal::RemoveOwner(std::int32_t id) {
     Execute("DELETE * FROM OwnerLink WHERE IdOwnerLink = ?", {id});
     const std::int32_t idBuilding = building ? building->AsLong() : 0;
     if (idBuilding == 0) return;
-    // The number counted by is the link's own and not the building's. That is meant: some owner
-    // always becomes primary, and a building that then has two is put right at its next save.
+    // The number counted by is the link's own, not the building's. That is intended: some owner
+    // always becomes primary, and a building that then has two is corrected at its next save.
     const auto primaries = core::LookUp(
         "SELECT Count(*) AS [Result] FROM OwnerLink "
         "WHERE (IdBuilding = ?) AND (IsPrimary = TRUE)",

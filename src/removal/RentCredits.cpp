@@ -18,7 +18,7 @@ constexpr std::string_view kMarkStart = "Returned ";
 constexpr std::string_view kMarkEnd = ": ";
 constexpr std::size_t kMarkLength = kMarkStart.size() + 10 + kMarkEnd.size();
 
-/// The mark that a description begins with; empty if it has none.
+/// Returns the mark that a description begins with; empty if it has none.
 std::string MarkOf(const std::string& description) {
     const std::string mark = description.substr(0, kMarkLength);
     const bool isMark = mark.starts_with(kMarkStart) && mark.ends_with(kMarkEnd) &&
@@ -26,7 +26,7 @@ std::string MarkOf(const std::string& description) {
     return isMark ? mark : std::string();
 }
 
-/// Whether another payment of the lease was returned with this mark.
+/// Returns whether another payment of the lease was returned with this mark.
 bool IsMarkOfOther(const std::string& mark, std::int32_t idLease, std::int32_t idReturn) {
     Recordset others = core::Read(
         "SELECT t.Description FROM (RentCredit AS c INNER JOIN RentLog AS o "
@@ -54,7 +54,7 @@ void UnmarkEmptyPayments(const std::string& mark, std::int32_t idLease) {
     }
 }
 
-/// The origins of credit that the payment brought or took in.
+/// Returns the origins of credit that the payment brought or took in.
 std::vector<std::int32_t> TouchedOrigins(std::int32_t idTransaction) {
     std::vector<std::int32_t> ids;
     for (const std::string_view field : {"IdRentLog", "IdOrigin"}) {

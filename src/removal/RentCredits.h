@@ -10,14 +10,15 @@
 namespace removal {
 
 // Money that was paid ahead is an open row of negative amount in the rent log, the credit. The
-// payment that brought it settles a row of the opposite amount, the credit's origin. Both add up to
-// nothing, so that every payment is still the sum of what it settles. The table RentCredit ties the
+// payment that brought it settles a row of the opposite amount, the credit's origin. The two add up
+// to zero, so that every payment is still the sum of what it settles. The table RentCredit ties the
 // credit, or the parts that it was split into, to the origin.
 //
 // A payment that was returned is tied to its reversal in the same way: it settles an origin of its
 // whole amount, and the reversal settles the credit.
 //
-// Failures are thrown. Books of an earlier version have no credits, and nothing is done to them.
+// Failures are thrown. Books of an earlier version have no credits; these functions change nothing
+// in them.
 
 /// Returns whether the books can hold credits.
 bool HasCredits();
@@ -45,7 +46,8 @@ void ForgetCredit(std::int32_t idRentLog);
 /// Forgets the credits of a lease and what it does with them, before the lease is deleted.
 void ForgetLeaseCredits(std::int32_t idLease);
 
-/// The text that marks the description of a payment returned on a day: "Returned 11/20/2026: ".
+/// Returns the text that marks the description of a payment returned on a day: "Returned
+/// 11/20/2026: ".
 std::string ReturnMark(platform::Date day);
 
 /// Returns a description for a payment that is saved again: with the mark that the stored one has.

@@ -17,8 +17,8 @@ struct DataColumns {
     std::vector<std::string> captions;
 };
 
-/// `textSizes` has how many characters each column of texts leaves room for; one that isn't there
-/// may be long.
+/// Returns the columns of an open query. `textSizes` says for how many characters each column of
+/// texts leaves room; a column that it lacks may be long.
 DataColumns ColumnsOf(platform::Recordset& rows, std::span<const int> textSizes,
                       platform::Twips printWidth);
 

@@ -23,8 +23,8 @@ class KnownTags {
     /// Returns the text with each tag replaced by its sample.
     std::string Fill(std::string text) const;
 
-    /// Returns the names between two "%" that aren't known, as written. None for text with LIKE, in
-    /// whose patterns "%" matches any characters.
+    /// Returns the names between two "%" that aren't known, as written. Returns nothing for text
+    /// with LIKE, in whose patterns "%" matches any characters.
     std::set<std::string> Unfilled(const std::string& text) const;
 
   private:

@@ -18,7 +18,8 @@ struct DefinitionLine {
     std::string_view name;  ///< the key as it is written
     std::string_view value; ///< what follows the first "=", empty without one
 
-    /// Returns true for "[DATA]" and the like, if `section` is the word between the brackets.
+    /// Returns true if the line is "[DATA]" or the like, and `section` is the word between its
+    /// brackets.
     bool Opens(std::string_view section) const;
 };
 

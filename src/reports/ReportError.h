@@ -12,7 +12,7 @@ class ReportError : public platform::Error {
   public:
     /// `line` counts from 1. The text is one line: "line 12: reason".
     ReportError(int line, std::string_view reason);
-    /// The same, beginning with the file: "Owner.rpt, line 12: reason".
+    /// Creates the same error with the file before it: "Owner.rpt, line 12: reason".
     ReportError(std::string_view file, const ReportError& inFile);
 
     int Line() const { return line_; }

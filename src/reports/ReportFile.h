@@ -36,8 +36,8 @@ struct ReportFile {
 /// ReportError for a command that the section's class lacks and for a number that is not one.
 ReportFile ReadReport(std::string_view text);
 
-/// The same for a file. A file that is missing or can't be read gives a report of defaults without
-/// sections. The text of a ReportError begins with the file's name.
+/// Does the same for a file. A file that is missing or can't be read gives a report of defaults
+/// without sections. The text of a ReportError begins with the file's name.
 ReportFile LoadReportFile(const std::filesystem::path& file);
 
 } // namespace reports

@@ -15,8 +15,8 @@ inline constexpr int kScratchReport = 1;
 /// files that can't be read are skipped.
 void LoadReportList();
 
-/// Reports are numbered from 1 to ReportCount. Once loaded, the catalogue has at least the scratch
-/// report.
+/// Returns the number of reports, which are numbered from 1. Once loaded, the catalogue has at
+/// least the scratch report.
 int ReportCount();
 /// Returns the report of a number; null if there is none.
 ReportDef* FindReport(int index);

@@ -129,7 +129,7 @@ void ReportRun::DrawTitle(PrintSurface& page) const {
     page.DrawRectangle(left, top, left + page.PrintWidth(), top + kBoxHeight);
     page.MoveTo(left + kInset, top + kInset);
     page.ApplyStyle("Title");
-    // The box is one line high: a longer title is set smaller.
+    // The box is one line high, so a longer title gets a smaller font.
     while (page.TextWidth(file_.Title) > page.PrintWidth() - 2 * kInset &&
            page.Style().fontSize > kSmallestTitle) {
         page.Style().fontSize -= 1;

@@ -23,7 +23,7 @@ class ReportRun {
     /// Reads the report's file in the reports folder. An orientation that the file gives is stored
     /// in `report`, which must outlive the run.
     explicit ReportRun(ReportDef& report);
-    /// The same for a file elsewhere.
+    /// Reads a file elsewhere instead.
     ReportRun(ReportDef& report, std::filesystem::path file);
 
     const ReportDef& Definition() const { return *report_; }

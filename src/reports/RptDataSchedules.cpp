@@ -42,7 +42,7 @@ void FitFont(PrintSurface& page, const std::vector<std::vector<std::string>>& ro
     if (widest > room) size = std::max(kSmallestFont, std::floor(2 * size * room / widest) / 2);
 }
 
-/// A field that is null or 0 counts as missing.
+/// Returns the number in a field; a field that is null or 0 counts as missing.
 double NumberOf(const platform::Field& field) {
     return field.IsNull() ? 0 : field.AsDouble();
 }

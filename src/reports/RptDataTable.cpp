@@ -79,8 +79,8 @@ class clsRptData::TableRun {
     std::string Filter() const {
         return section_.SQLFilter.empty() ? std::string() : " WHERE " + section_.SQLFilter;
     }
-    /// The value is quoted as text whatever the field's type, and a quote in it isn't doubled: a
-    /// group named O'Brien prints nothing.
+    /// Returns the condition for a group. The value is quoted as text whatever the field's type,
+    /// and a quote in it isn't doubled: a group named O'Brien prints nothing.
     std::string GroupTest(std::size_t pass) const {
         return " (" + section_.GroupField + " = '" + groups_[pass] + "')";
     }

@@ -42,7 +42,7 @@ void TextWithValue(clsRptText& section, Line line) {
     (section.*Command)(line.value, line.number);
 }
 
-// Attributes apply to the command queued last; before the first command they are lost.
+// Attributes apply to the command queued last; before the first command they are ignored.
 template <auto Member>
 void TextAttribute(clsRptText& section, Line line) {
     if (TextCommand* command = section.Last()) command->*Member = line.value;

@@ -14,7 +14,7 @@ namespace reports {
 
 namespace {
 
-/// A definition's line, where a tab would separate fields.
+/// Returns a statement as a line of a definition, in which a tab would separate fields.
 std::string StatementLine(std::string_view text) {
     std::string line = platform::OneLine(platform::Trim(text));
     std::ranges::replace(line, '\t', ' ');

@@ -65,8 +65,8 @@ struct TagFormatCommand {
 /// show the result of a calculation below it.
 class clsRptText : public ReportSection {
   public:
-    // Commands; `line` is where the file has them. Coordinates are integers separated by ",", of
-    // which missing ones are 0; a ConversionError or OverflowError if they aren't.
+    // Commands; `line` is their line in the file. Coordinates are integers separated by ",";
+    // missing ones are 0. Throws a ConversionError or OverflowError if they aren't integers.
     void Paragraph(std::string_view text, int line);
     void SQLQuery(std::string_view sql, int line);
     void Calc(std::string_view expression, int line);
@@ -77,8 +77,8 @@ class clsRptText : public ReportSection {
     void DrawBox(std::string_view coordinates, int line);
     void Locate(std::string_view coordinates, int line);
 
-    /// Returns the command that attributes apply to, the one queued last; null before the first
-    /// command, when attributes are lost.
+    /// Returns the command that attributes apply to, which is the one queued last; null before the
+    /// first command, when attributes are ignored.
     TextCommand* Last() { return commands_.empty() ? nullptr : &commands_.back(); }
 
     /// Shows the variable of this name in a format.

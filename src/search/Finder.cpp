@@ -17,9 +17,9 @@ using platform::TextIndex;
 
 namespace {
 
-/// Among so many matches of a group, the newest, the best are chosen.
+/// The newest of so many matches of a group, among which the best are chosen.
 constexpr std::size_t kCandidates = 50;
-/// Matches of a full group that are skipped one by one, before the next group is looked up.
+/// The matches of a full group that are skipped one by one before the next group is looked up.
 constexpr std::size_t kPassedOver = 10;
 
 } // namespace
@@ -82,7 +82,7 @@ bool Finder::IsStale() {
         if (!watch_) watch_ = std::make_unique<platform::ChangeWatch>(books_.File());
         nextVersion_ = watch_->Version();
     } catch (const DatabaseError&) {
-        nextVersion_.reset(); // nobody can tell, so the books are read
+        nextVersion_.reset(); // the version isn't known, so the books are read
         watch_.reset();
     }
     return !version_ || !nextVersion_ || *version_ != *nextVersion_;
@@ -93,14 +93,14 @@ bool Finder::Step() {
     try {
         StepOnce();
     } catch (const DatabaseError& failure) {
-        // Books that can't be read are no failure of the update.
+        // If the books can't be read, the update hasn't failed.
         Recover(failure);
         return false;
     }
     return !update_;
 }
 
-/// Ends the update; the next step begins another, in a sound index or in memory.
+/// Ends the update; the next step begins another one, in a sound index or in memory.
 void Finder::Recover(const DatabaseError& failure) {
     update_.reset();
     hasRead_ = false;
@@ -153,7 +153,7 @@ std::vector<HitGroup> Finder::Find(std::string_view text, std::size_t most) {
 }
 
 std::vector<HitGroup> Finder::FindAll(std::string_view text, std::size_t most) {
-    // A number that was typed is first taken for all of it: "105" isn't lost among 1050 to 1059.
+    // A typed number is first taken as the whole number: "105" isn't lost among 1050 to 1059.
     std::vector<HitGroup> groups = FindWords({text, QueryWords(text, Numbers::Whole)}, most);
     if (groups.empty() && HasNumber(text))
         groups = FindWords({text, QueryWords(text, Numbers::Beginning)}, most);

@@ -16,7 +16,7 @@
 
 namespace search {
 
-/// Something of the program that can be found beside the records: a report, a command, a setting.
+/// Something other than a record that can be found: a report, a command, a setting.
 struct Item {
     std::string group; ///< the heading of its results; items of a group follow one another
     std::string icon;
@@ -41,7 +41,7 @@ struct HitGroup {
 };
 
 /// Finds records and items by words. The words of the records are in an index beside the books, in
-/// a file that can be deleted at any time; where there can't be such a file they are in memory.
+/// a file that can be deleted at any time; if there can't be such a file, the index is in memory.
 class Finder {
   public:
     /// Searches the books that are open on `books`, which must outlive it. Nothing is read yet.
@@ -53,25 +53,26 @@ class Finder {
     /// Returns the file of the index of these books.
     static std::filesystem::path IndexFile(const platform::Connection& books);
 
-    /// Puts these items in the place of those before.
+    /// Replaces the items.
     void SetItems(std::vector<Item> items);
     const std::vector<Item>& Items() const { return items_; }
 
-    /// Returns whether the records were written to since they were last read: Step reads them
-    /// again, until it returns true. It takes no time where nothing was written.
+    /// Returns whether the records were written to since they were last read; Step then reads them
+    /// again, and is to be called until it returns true. Takes no time if nothing was written.
     bool IsStale();
     bool Step();
-    /// Drops what Step has begun, so that nobody waits for it; the next Step starts over.
+    /// Drops the work that Step has begun, so that nobody waits for it; the next Step starts over.
     void Abandon();
-    /// Whether Step has begun and isn't done; no records are found in the meantime.
+    /// Returns whether Step has begun and isn't done; no records are found in the meantime.
     bool IsReading() const { return update_ != nullptr; }
     int Percent() const;
 
     /// Returns what the user should know about the search; empty as a rule.
     std::string Notice() const;
 
-    /// Returns what has all words of the text, up to `most` hits of each group. Records are found
-    /// as they were read last. Returns nothing for a text without a word.
+    /// Returns the records and items that have all words of the text, up to `most` hits of each
+    /// group. Records are found as they were when last read. Returns nothing for a text without a
+    /// word.
     std::vector<HitGroup> Find(std::string_view text, std::size_t most);
 
   private:

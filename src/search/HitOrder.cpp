@@ -18,7 +18,7 @@ bool IsLetter(char c) {
     return letter >= 0x80 || (letter >= '0' && letter <= '9') || (letter >= 'a' && letter <= 'z');
 }
 
-/// Whether a word of the title begins so; both in lower case.
+/// Returns whether a word of the title begins with `word`; both are in lower case.
 bool HasWord(std::string_view title, std::string_view word) {
     for (std::size_t at = title.find(word); at != std::string_view::npos;
          at = title.find(word, at + 1)) {
@@ -27,7 +27,7 @@ bool HasWord(std::string_view title, std::string_view word) {
     return false;
 }
 
-/// Most titles are plain ASCII, for which this is much faster.
+/// Returns the text in lower case. Most titles are plain ASCII, for which this is much faster.
 std::string Lower(std::string_view text) {
     const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
     if (!std::ranges::all_of(text, isAscii)) return platform::ToLower(text);
@@ -51,7 +51,7 @@ Rank RankOf(const std::string& search, std::string_view shown) {
 }
 
 std::string Typed(std::string_view text) {
-    // A longer one is in no title.
+    // A longer text is in no title.
     constexpr std::size_t kLongest = 200;
     return platform::ToLower(platform::Trim(text.substr(0, kLongest)));
 }

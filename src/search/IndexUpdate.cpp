@@ -9,7 +9,7 @@ namespace search {
 
 namespace {
 
-// A step takes some milliseconds, whether or not there is much to write.
+// A step takes a few milliseconds, whether or not there is much to write.
 constexpr int kRowsAtOnce = 2000;
 constexpr std::size_t kWritesAtOnce = 300;
 

@@ -12,9 +12,10 @@
 
 namespace search {
 
-/// Brings an index up to date with the books, a little at a time, so that a window lives on. Every
-/// record is compared with what the index holds of it, whoever has written it; only what differs
-/// is written. A failure of the index is thrown; Faults returns the tables that can't be read.
+/// Brings an index up to date with the books, a little at a time, so that the window stays
+/// responsive. Every record is compared with its text in the index, whoever has written it; only
+/// what differs is written. A failure of the index is thrown; Faults returns the tables that can't
+/// be read.
 class IndexUpdate {
   public:
     IndexUpdate(platform::TextIndex& index, platform::Connection& books);
@@ -22,14 +23,14 @@ class IndexUpdate {
     IndexUpdate(const IndexUpdate&) = delete;
     IndexUpdate& operator=(const IndexUpdate&) = delete;
 
-    /// Works for a few milliseconds. Returns true when all is done; the changes are kept then, all
-    /// at once, and not before.
+    /// Works for a few milliseconds. Returns true when all is done; only then are the changes kept,
+    /// all of them together.
     bool Step();
-    /// How much is done, 0 to 100.
+    /// Returns how much is done, 0 to 100.
     int Percent() const;
     /// Returns how many texts were written or removed.
     std::int64_t Changes() const { return changes_; }
-    /// Returns a line for each source that couldn't be read, and so isn't found.
+    /// Returns a line for each source that couldn't be read, whose records therefore aren't found.
     const std::vector<std::string>& Faults() const { return faults_; }
 
   private:

@@ -19,7 +19,7 @@ void Mix(std::uint64_t& mark, std::string_view text) {
         mark ^= static_cast<unsigned char>(letter);
         mark *= kPrime;
     }
-    // So that a letter that moves to the next field changes the mark.
+    // A letter that moves to the next field must change the mark.
     mark ^= 0xFF;
     mark *= kPrime;
 }
@@ -42,7 +42,7 @@ std::string Typed(const platform::Field& field) {
     }
 }
 
-/// Returns a field as lists show it; what can't be read is left out.
+/// Returns a field as lists show it; a field that can't be read is left out.
 std::string ShownText(const platform::Field& field) {
     try {
         return Typed(field);

@@ -13,7 +13,7 @@ namespace search {
 /// an index made by an older program is made again.
 inline constexpr std::int32_t kLayout = 1;
 
-/// The keys of a source's records, the newest record first.
+/// Returns the keys of a source's records, the newest record first.
 std::int64_t FirstKey(std::size_t source);
 std::int64_t LastKey(std::size_t source);
 std::int64_t KeyOf(std::size_t source, std::int32_t id);

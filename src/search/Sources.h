@@ -7,9 +7,9 @@
 namespace search {
 
 /// One kind of records that can be found, and the select that reads them, newest first. Its columns
-/// are the record's number, and then, by the first letters of their names: Kind, Parent1 and
-/// Parent3, what opens the record, if it isn't opened by its kind and number alone; T, the title;
-/// D, what is shown beside it; W, what is only searched.
+/// are the record's number and, by the first letters of their names: Kind, Parent1 and Parent3,
+/// needed to open the record if its kind and number aren't enough; T, the title; D, the text shown
+/// beside it; W, text that is only searched.
 struct Source {
     std::string_view name; ///< the heading of its results
     std::string_view icon;
@@ -18,8 +18,8 @@ struct Source {
     std::string_view sql;
 };
 
-/// Returns the sources in the order of their results. What is secret (bank and card numbers,
-/// passwords, social security numbers) isn't read, and so isn't in the index.
+/// Returns the sources in the order of their results. Secret fields (bank and card numbers,
+/// passwords, social security numbers) aren't read, and so aren't in the index.
 std::span<const Source> Sources();
 
 } // namespace search

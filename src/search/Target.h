@@ -19,7 +19,7 @@ struct Target {
 
 /// Returns the target as the index keeps it.
 std::string TargetText(const Target& target);
-/// Returns nothing for a text that isn't a target.
+/// Reads a target's text. Returns nothing for a text that isn't a target.
 std::optional<Target> ReadTarget(std::string_view text);
 
 } // namespace search

@@ -48,7 +48,7 @@ struct Amount {
     bool hasPoint = false;
 };
 
-/// Returns the digits before the point without their commas, which must part groups of three.
+/// Returns the digits before the point without their commas, which must separate groups of three.
 std::optional<std::string> JoinGroups(std::string_view text) {
     std::string digits;
     std::size_t group = 0;
@@ -69,7 +69,7 @@ std::optional<std::string> JoinGroups(std::string_view text) {
     return digits;
 }
 
-/// Returns the amount that a word is; nothing for a word without a comma and without a point.
+/// Returns the amount that a word means; nothing for a word without a comma and without a point.
 std::optional<Amount> AmountIn(std::string_view word) {
     if (word.find_first_of(",.") == std::string_view::npos) return std::nullopt;
     Amount amount;
@@ -86,7 +86,7 @@ std::optional<Amount> AmountIn(std::string_view word) {
     return amount;
 }
 
-/// The parts of a day or of the beginning of one, between slashes; -1 for a part that isn't there.
+/// The parts of a day or of the beginning of one, between slashes; -1 for a part that is missing.
 struct Day {
     int first = -1;
     int second = -1;
@@ -113,7 +113,7 @@ std::optional<Day> DayIn(std::string_view word) {
     return day;
 }
 
-/// A year of two digits is one of this century.
+/// Returns the year; one of two digits is in this century.
 int FullYear(const Day& day) {
     return day.lastDigits == 2 ? 2000 + day.third : day.third;
 }
@@ -122,7 +122,7 @@ std::string DayWord(const Day& day) {
     return fmt::format("{:02}d{:02}d{}", day.first, day.second, FullYear(day));
 }
 
-/// A year of fewer than four digits may be one that is still being typed.
+/// Returns the words to look for. A year of fewer than four digits may still be being typed.
 platform::SearchWord DayQuery(const Day& day) {
     if (day.lastDigits == 4) return {{DayWord(day)}, true};
     const std::string typed = fmt::format("{:02}d{:02}d{}", day.first, day.second, day.third);
@@ -144,7 +144,7 @@ platform::SearchWord WordFor(std::string_view typed, Numbers numbers) {
     return {{std::string(typed)}, false};
 }
 
-/// "O'Brien" is found as "OBrien" too.
+/// Returns the word without apostrophes: "O'Brien" is found as "OBrien" too.
 std::string WithoutApostrophes(std::string_view word) {
     std::string joined = " ";
     std::ranges::copy_if(word, std::back_inserter(joined), [](char c) { return c != '\''; });

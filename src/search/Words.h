@@ -8,8 +8,8 @@
 
 namespace search {
 
-// Amounts and days are written in several ways. The index holds them in one, made of letters and
-// digits only: "1,050.00" as "1050" and "1050p00", "11/05/2026" as "11d05d2026" and "2026m11".
+// Amounts and days are written in several ways. The index holds them in one form, made of letters
+// and digits only: "1,050.00" as "1050" and "1050p00", "11/05/2026" as "11d05d2026" and "2026m11".
 
 /// Returns a text as the index holds it.
 std::string IndexWords(std::string_view text);
@@ -21,7 +21,7 @@ enum class Numbers { Whole, Beginning };
 /// count.
 std::vector<platform::SearchWord> QueryWords(std::string_view text, Numbers numbers);
 
-/// Whether the text has a number, so that it matters how numbers are taken.
+/// Returns whether the text has a number, so that it matters how numbers are taken.
 bool HasNumber(std::string_view text);
 
 } // namespace search

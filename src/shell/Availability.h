@@ -43,7 +43,7 @@ struct ExtraItems {
     bool payMortgage = false;
     bool copy = false;
 
-    /// The separator above the payments.
+    /// Returns whether the separator above the payments is shown.
     bool Separator() const { return payRent || payMortgage; }
 };
 

@@ -65,7 +65,7 @@ std::optional<RecordPlace> DigestTable::RecordOf(std::int32_t number) const {
     } else if (const DigestFault* const fault = FaultOf(number)) {
         place = {fault->recordKind, fault->recordId};
     }
-    // A whole step of the run that fails belongs to no record.
+    // If a whole step of the run fails, there is no record to open.
     if (place.id == 0) return std::nullopt;
     return place;
 }

@@ -33,7 +33,7 @@ class DigestTable : public core::Table {
 
     /// Returns the posted row of this number; null for a record that was skipped.
     const DigestRow* PostedRow(std::int32_t number) const;
-    /// Returns why the row of this number was posted, or the record wasn't updated.
+    /// Returns why the row of this number was posted, or why the record wasn't updated.
     std::string ReasonOf(std::int32_t number) const;
     /// Returns the record that the row of this number is about, if there is one.
     std::optional<RecordPlace> RecordOf(std::int32_t number) const;

@@ -17,7 +17,7 @@ namespace shell {
 
 namespace {
 
-/// A building's records are more than a user wants to enter again.
+/// Keeps a copy of the books: entering a building's records again is too much work for a user.
 bool KeepCopyBeforeRemoval() {
     try {
         exchange::KeepCopy(exchange::CopyReason::Removal);

@@ -43,7 +43,7 @@ void CheckIsSample(const fs::path& folder) {
         fmt::format("The books in {} were not made as a sample there.", folder.string()));
 }
 
-/// A new folder for the new sample, which is deleted in the end.
+/// A new folder for the new sample; it is deleted at the end.
 class DraftFolder {
   public:
     explicit DraftFolder(const fs::path& folder) {

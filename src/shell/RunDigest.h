@@ -52,7 +52,7 @@ class RunDigest : public core::RunListener {
     /// Returns the earliest date of a posted row; unset if nothing was posted.
     platform::Date FirstDay() const;
 
-    /// Why the history of runs doesn't have this one; empty if it has.
+    /// Returns why the history of runs doesn't have this run; empty if it has it.
     const std::string& HistoryFault() const { return historyFault_; }
     void SetHistoryFault(std::string reason) { historyFault_ = std::move(reason); }
 

@@ -46,7 +46,7 @@ Json RowAsJson(const core::PostedRow& row) {
             {"every", row.reason.every ? static_cast<std::int16_t>(*row.reason.every) : 0}};
 }
 
-/// 0 stands for an event that had never run before.
+/// Returns the interval of a number; 0 means an event that had never run before.
 std::optional<core::IntervalType> IntervalFrom(const Json& number) {
     const auto type = number.get<std::int16_t>();
     if (type == 0) return std::nullopt;
@@ -57,7 +57,7 @@ Date DateFrom(const Json& text) {
     return Date::TryParse(text.get<std::string>()).value_or(Date());
 }
 
-/// The row refers to the text of its category in `row`.
+/// Returns a posted row, which refers to the text of its category in `row`.
 core::PostedRow RowFrom(const Json& row) {
     return {
         .date = DateFrom(row.at("day")),
@@ -95,7 +95,8 @@ Date DayOf(std::string_view line) {
     return Date::TryParse(std::string(line.substr(at + kMark.size(), kDayLength))).value_or(Date());
 }
 
-/// The books may be used together with others, who read and write this file too.
+/// Returns the permissions of the books. Other users may work with the books too, and read and
+/// write this file.
 std::filesystem::perms PermissionsOfBooks() {
     std::error_code failure;
     const auto status = std::filesystem::status(core::App().Connection.File(), failure);
@@ -228,7 +229,7 @@ void RunRecorder::Append(const std::string& line) {
         try {
             DropOldRuns(file_);
         } catch (const std::exception&) {
-            // Old runs do no harm; the next run tries to drop them again.
+            // Old runs do no harm; the next run tries again to drop them.
         }
     }
     try {

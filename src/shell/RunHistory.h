@@ -24,7 +24,7 @@ std::filesystem::path HistoryFile(const platform::Connection& books);
 
 /// A run of the past.
 struct PastRun {
-    /// Tells apart the runs of a history.
+    /// Distinguishes the runs of a history.
     std::string name{};
     /// "11/22/2026 10:36:05".
     std::string at;
@@ -49,10 +49,10 @@ RunPage ReadHistory(const std::filesystem::path& file, platform::Date since);
 /// Returns all runs.
 std::vector<PastRun> ReadHistory(const std::filesystem::path& file);
 
-/// Writes the run that it listens to into the history, and passes on what it hears.
+/// Listens to a run and writes it into the history; passes everything on to the next listener.
 class RunRecorder : public core::RunListener {
   public:
-    /// The run begins now, on the session's books. `next` must outlive the recorder.
+    /// Begins the run now, on the session's books. `next` must outlive the recorder.
     RunRecorder(std::filesystem::path file, core::RunListener& next);
 
     void Posted(int recordKind, std::int32_t id, std::string_view description,
@@ -74,8 +74,8 @@ class RunRecorder : public core::RunListener {
     bool hasWritten_ = false;
 };
 
-/// Brings the books up to date, and keeps the run in their history. Adds what happened to `digest`.
-/// A run that posted rows or skipped records ends with a broadcast of kind core::kNone.
+/// Brings the books up to date, and keeps the run in their history. Adds the results to `digest`. A
+/// run that posted rows or skipped records ends with a broadcast of kind core::kNone.
 void RunAndRecord(RunDigest& digest);
 
 } // namespace shell

@@ -21,7 +21,7 @@ class SampleBorrower {
     void PlanNextPayment();
 
     store::SampleLoan plan_;
-    /// Returns the next day of payment; unset once nothing more will be paid.
+    /// The next day of payment; unset once nothing more will be paid.
     platform::Date nextPayment_;
 };
 

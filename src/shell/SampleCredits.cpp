@@ -34,7 +34,7 @@ bool StaysAndPays(const SampleHabit& habit) {
     return !habit.givesNotice.IsSet() && !habit.breaks.IsSet() && !habit.stopsPaying.IsSet();
 }
 
-/// Whether the lease runs by the month, without a subsidy.
+/// Returns whether the lease runs by the month, without a subsidy.
 bool IsPlain(std::int32_t idLease) {
     platform::Recordset lease =
         core::Read("SELECT Status, Subs, TermType FROM Lease WHERE IdLease = ?", {idLease});
@@ -73,7 +73,7 @@ void SampleCredits::LiveThrough(Date day) {
     }
 }
 
-/// A lease that nothing else happens to; each is chosen once.
+/// Chooses a lease to which nothing else happens; each is chosen once.
 std::optional<std::int32_t> SampleCredits::Choose(PayHabit habit) {
     const auto chosen = std::ranges::find_if(habits_, [&](const SampleHabit& each) {
         return each.habit == habit && StaysAndPays(each) && IsPlain(each.idLease);

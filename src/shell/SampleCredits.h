@@ -18,7 +18,7 @@ class SampleCredits {
     SampleCredits(std::span<const store::SampleHabit> habits, platform::Date today);
 
     /// Does what happens on this day, which the clock is set to. Called for each day in order,
-    /// after the tenants have lived it; on most days nothing happens.
+    /// after everything the tenants do on it; on most days nothing happens.
     void LiveThrough(platform::Date day);
 
   private:

@@ -53,7 +53,7 @@ void MakeSettings(Connection& connection, Date today) {
 /// The history of the sample's runs. Its file is deleted again unless the sample is kept.
 class SampleHistory {
   public:
-    /// A history that books of the past have left is replaced.
+    /// Replaces a history that former books have left behind.
     explicit SampleHistory(std::filesystem::path file) : file_(std::move(file)) { Remove(); }
     ~SampleHistory() {
         if (!kept_) Remove();
@@ -74,7 +74,7 @@ class SampleHistory {
     bool kept_ = false;
 };
 
-/// One run of the program, after which the landlord waives the last of its late fees.
+/// Runs the program once, after which the landlord waives the last late fee that it charged.
 void RunOnce(const SampleHistory& history) {
     RunDigest digest;
     RunRecorder recorder(history.File(), digest);
@@ -134,7 +134,7 @@ void MakeSamplePortfolio(const std::filesystem::path& folder, int units, Date to
             store::WriteSampleRecords(OpenSession::Session(), {units, today, core::NextId});
         core::LoadConfiguration();
         LiveThrough(cast, today, history, progress);
-        // Last, so that the other rows have the same ids with and without templates.
+        // Comes last, so that the other rows have the same ids with and without templates.
         documents::InstallShippedDocs();
         documents::AddShippedDocs(documents::ShippedDocsFolder());
     }

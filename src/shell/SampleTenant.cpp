@@ -29,7 +29,7 @@ namespace {
 struct LeaseDates {
     bool over = false;
     Date nextDue;
-    /// The first day on which the lease is over, unset if it runs on.
+    /// The first day on which the lease is over; unset if it doesn't end.
     Date ends;
     int oneTimeDays = 0;
     int discountDays = 0;
@@ -57,7 +57,7 @@ LeaseDates ReadLease(std::int32_t idLease) {
             row["NoticeDays"].AsInteger()};
 }
 
-/// Days from the due day to the day on which this tenant pays.
+/// Returns the days from the due day to the day on which this tenant pays.
 int DaysAfterDue(const store::SampleHabit& habit, const LeaseDates& lease) {
     const int own = static_cast<int>(habit.idLease % 3);
     switch (habit.habit) {

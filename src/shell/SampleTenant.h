@@ -22,7 +22,7 @@ class SampleTenant {
     void PlanNextPayment(platform::Date day);
 
     store::SampleHabit habit_;
-    /// Returns the next day on which the tenant pays; unset once nothing more will be paid.
+    /// The next day on which the tenant pays; unset once nothing more will be paid.
     platform::Date nextPayment_;
     /// The day on which the lease is over and its unit is free to be let again.
     platform::Date ends_;

@@ -7,7 +7,7 @@ namespace shell {
 SplashTime::SplashTime(double secondOfDay) : start_(std::round(secondOfDay)) {}
 
 bool SplashTime::IsOver(double secondOfDay) const {
-    // A time before the start, beyond its rounding, belongs to the next day.
+    // A time before the start, by more than its rounding, belongs to the next day.
     return secondOfDay > start_ + 1 || secondOfDay < start_ - 1;
 }
 

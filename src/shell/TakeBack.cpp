@@ -31,7 +31,7 @@ using platform::UnitOfWork;
 
 namespace {
 
-/// Where the run posts the rows of a kind of records.
+/// The tables in which the run posts the rows of a kind of records.
 struct PostedLedger {
     std::int16_t recordKind;
     std::int16_t rowKind;
@@ -75,7 +75,8 @@ Recordset StoredRow(const PostedLedger& ledger, const DigestRow& row) {
                       {row.rowId});
 }
 
-/// Whether a payment settles the row, or, of a transaction, whether it is one.
+/// Returns whether a payment settles the row or, if the row is a transaction, whether it is a
+/// payment.
 bool IsPaid(const PostedLedger& ledger, Recordset& stored) {
     if (ledger.rowKind == core::kTransaction)
         return core::LedgerOfTransaction(IdOf(stored[ledger.key])) != nullptr;
@@ -104,7 +105,7 @@ void Restore(const PostedLedger& ledger, const DigestRow& row, const std::string
     if (!RestoreContent(ledger.table, content)) Refuse(row, "what was stored of it can't be read.");
 }
 
-/// The balances and the lists that depend on these rows.
+/// Updates the balances and the lists that depend on these rows.
 void Follow(std::span<const DigestRow> rows) {
     std::set<std::int32_t> leases;
     for (const DigestRow& row : rows) {
@@ -116,7 +117,7 @@ void Follow(std::span<const DigestRow> rows) {
     core::NotifyAll(core::kFileObject, core::kRecordsChanged, 0); // the files attached to the rows
 }
 
-/// Whether a run has posted a deleted row again, under another id.
+/// Returns whether a run has posted a deleted row again, under another id.
 bool IsPostedAgain(const PostedLedger& ledger, const DigestRow& row) {
     if (ledger.owner.empty()) return false;
     return core::Exists(

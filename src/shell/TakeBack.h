@@ -8,9 +8,8 @@
 
 namespace shell {
 
-// Rows of a run that the user takes back on purpose, and posts again. Each call is one unit of
-// work for all its rows; if one of them can't be done it throws Error with the reason, and nothing
-// has changed.
+// Rows of a run that the user takes back on purpose, and posts again. Each call is one unit of work
+// for all its rows; if one of them fails it throws Error with the reason, and nothing has changed.
 
 /// Returns a row as the books remember it once it is taken back.
 core::TakenRow TakenRowOf(const DigestRow& row);

@@ -26,7 +26,7 @@ Json FieldsOf(Recordset& row) {
     return fields;
 }
 
-/// The tables whose rows outlive their parties set the link of one that is deleted to 0.
+/// The tables whose rows stay when a party is deleted set the link to it to 0.
 void UnlinkIfDeleted(Recordset& row, std::string_view type, std::string_view id) {
     if (!row.HasField(type)) return;
     const std::int16_t kind = CountOf(row[type]);
@@ -37,7 +37,7 @@ void UnlinkIfDeleted(Recordset& row, std::string_view type, std::string_view id)
 
 void WriteRow(std::string_view table, const Json& fields) {
     Recordset row = core::NewRow(table);
-    // Nulls are set too, or the table's defaults would take their places.
+    // Nulls are set too, since the table's defaults would take their place.
     for (const auto& [name, value] : fields.items()) {
         if (value.is_array()) continue;
         row[name].Set(value.is_string() ? Value(value.get_ref<const std::string&>()) : Value());

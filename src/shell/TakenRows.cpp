@@ -16,7 +16,7 @@ namespace shell {
 
 namespace {
 
-/// The text of a field of a row that was taken back; empty if it can't be read.
+/// Returns the text of a field of a row that was taken back; empty if it can't be read.
 std::string TextIn(const nlohmann::json& content, const char* field) {
     if (!content.is_object()) return {};
     const auto found = content.find(field);
@@ -32,7 +32,7 @@ platform::Currency MoneyIn(const nlohmann::json& content, const char* field) {
     }
 }
 
-/// A row that had been deleted before has no content, and so no amount.
+/// Adds a row to the digest. If it had been deleted before, it has no content, and so no amount.
 void AddTo(RunDigest& digest, const core::TakenRow& taken) {
     const auto stored = core::FindTakenBack(taken);
     const auto content =

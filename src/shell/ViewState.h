@@ -26,7 +26,7 @@ struct ViewState {
 /// without a view.
 std::string_view ViewTag(std::int16_t kind);
 
-/// An order that is neither "ASC" nor "DESC" reads as "ASC".
+/// Loads the state of a view. An order that is neither "ASC" nor "DESC" counts as "ASC".
 ViewState LoadViewState(std::string_view tag);
 /// Returns the registry values of a view's state.
 std::vector<platform::RegistryText> ViewStateTexts(std::string_view tag, const ViewState& state);

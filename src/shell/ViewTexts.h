@@ -19,7 +19,7 @@ std::string NarrowedText(std::int64_t shown, std::int64_t count);
 /// An empty list, for EmptyText.
 struct EmptyView {
     std::int16_t kind = 0;
-    /// As for StatusText: the number of rows before the search narrowed them.
+    /// The number of rows before the search narrowed them, as for StatusText.
     std::int64_t count = 0;
     std::string_view search;
     ViewFilter filter;

@@ -43,8 +43,8 @@ NewDatabase::NewDatabase(const fs::path& directory)
 }
 
 void NewDatabase::Publish() {
-    // The version first: a database is never seen without it, and a version without one is not
-    // taken for one.
+    // The version is written first: a database without it is never seen, and a version without a
+    // database isn't taken for one.
     const fs::path version = directory_ / kVersionFile;
     std::error_code ignored;
     const bool hadVersion = fs::exists(version, ignored);

@@ -36,7 +36,7 @@ class NewDatabase {
 /// Makes an empty database in `directory`: a NewDatabase, published.
 void CreateDatabase(const std::filesystem::path& directory);
 
-/// The same tables and categories in an open, empty database.
+/// Makes the same tables and categories in an open, empty database.
 void CreateTables(platform::Connection& connection);
 
 /// Adds the tables that books of an earlier version lack; their rows stay as they are. Does nothing

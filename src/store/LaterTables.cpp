@@ -7,14 +7,15 @@ using enum FieldKind;
 namespace {
 
 // A row says that the open or spent credit `IdRentLog` came from the ledger row `IdOrigin`, which
-// the payment settles that brought the money. `IdReturn` is the transaction that gave the money
-// back if the payment was returned, otherwise 0.
+// is settled by the payment that brought the money. `IdReturn` is the transaction that gave the
+// money back if the payment was returned, otherwise 0.
 TableDefinition RentCreditTable() {
     return MakeTable("RentCredit", {{Long, "IdRentLog IdOrigin IdLease IdReturn"}},
                      {"IdRentLog", "IdOrigin", "IdLease"});
 }
 
-// Whether a lease settles new charges from credit. One without a row leaves it to the user.
+// A row says whether a lease settles new charges from credit. If a lease has no row, this is left
+// to the user.
 TableDefinition LeaseCreditTable() {
     return MakeTable("LeaseCredit", {{Long, "IdLease"}, {Boolean, "SettleCharges"}}, {"IdLease"});
 }
@@ -33,7 +34,7 @@ TableDefinition TakenBackTable() {
                      {"IdRecord"});
 }
 
-// A setting of the books that the table Configuration has no field for, by its name.
+// A row is a setting of the books, by its name, for which the table Configuration has no field.
 TableDefinition BooksSettingTable() {
     return MakeTable("BooksSetting", {{Text, "Name Content"}});
 }

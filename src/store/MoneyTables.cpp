@@ -41,8 +41,9 @@ TableDefinition LeaseTable() {
         {"IdLease", "IdTenant", "IdUnit"});
 }
 
-// Its sums ask for one lease's open rows. With both links in one index they never walk the open
-// rows of all leases, whatever the engine guesses about the links' spread.
+// Sums over this table ask for the open rows of one lease. With both links in one index they never
+// walk the open rows of all leases, whatever the engine guesses about the distribution of the
+// links.
 TableDefinition RentLogTable() {
     return MakeTable("RentLog",
                      {{Long, "IdRentLog IdLease IdTransaction"},

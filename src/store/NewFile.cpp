@@ -43,7 +43,8 @@ fs::path WithEnding(fs::path file, const char* ending) {
     return file += ending;
 }
 
-/// Whether the one who had the lock before has removed its file, so that it locks nothing anymore.
+/// Returns whether the former holder of the lock has removed its file, so that it no longer locks
+/// anything.
 bool IsRemoved(int handle) {
     struct stat status = {};
     return fstat(handle, &status) == 0 && status.st_nlink == 0;
@@ -56,7 +57,7 @@ MakersLock::MakersLock(const fs::path& file) : path_(WithEnding(file, ".lock")),
         if (handle_ >= 0) close(handle_);
         handle_ = open(path_.c_str(), O_CREAT | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
         if (handle_ < 0) ThrowCannotMake(file, std::generic_category().message(errno));
-        // A file system without locks has no second program on it either.
+        // On a file system without locks there is no second program either.
         while (flock(handle_, LOCK_EX) != 0 && errno == EINTR) {
         }
     } while (IsRemoved(handle_));
@@ -87,7 +88,7 @@ void NewFile::RemoveDraft() const {
 void NewFile::Publish() {
     RefuseTaken(file_);
     std::error_code error;
-    // A log that could not be written back when the draft was closed holds a part of it.
+    // If the log could not be written back when the draft was closed, it holds a part of the draft.
     if (fs::exists(WithEnding(draft_, "-wal"), error))
         ThrowCannotMake(file_, "it could not be written to the disk");
     fs::rename(draft_, file_, error);

@@ -25,7 +25,7 @@ class MakersLock {
 /// refused.
 class NewFile {
   public:
-    /// An Error when anything of the name `file` already exists.
+    /// Throws an Error if anything named `file` already exists.
     explicit NewFile(std::filesystem::path file);
     /// Removes the draft, unless it was published.
     ~NewFile();
@@ -47,8 +47,8 @@ class NewFile {
 /// What happens to the files in a new folder that isn't kept.
 enum class UnkeptFiles { Stay, AreRemoved };
 
-/// A folder, made private to the user if it is missing, with those above it. What was made is
-/// removed again unless it is kept, but no folder in which files stay.
+/// A folder that is made, private to the user, if it is missing, and those above it. Folders that
+/// were made are removed again unless this one is kept; a folder in which files stay isn't removed.
 class NewFolder {
   public:
     explicit NewFolder(const std::filesystem::path& folder, UnkeptFiles files = UnkeptFiles::Stay);

@@ -20,7 +20,7 @@ struct TaxOffice {
     std::string_view query; ///< what follows the office's address
 };
 
-// The offices of the counties that the sample has property in, at addresses that are nobody's.
+// The offices of the counties in which the sample has property, at addresses that belong to nobody.
 constexpr TaxOffice kTaxOffices[] = {
     {"Lane", "Oregon", "OR", "property?account=<<taxaccount>>"},
     {"Benton", "Oregon", "OR", "assessor/search.html?id=<<TaxAccount>>"},
@@ -40,7 +40,7 @@ constexpr TaxOffice kTaxOffices[] = {
     {"Chittenden", "Vermont", "VT", "grandlist?span=<<taxaccount>>"},
 };
 
-/// "Los Angeles", "CA" to "los-angeles-ca".
+/// Returns the host for an office: "los-angeles-ca" for "Los Angeles", "CA".
 std::string HostOf(const TaxOffice& office) {
     std::string host = fmt::format("{}-{}", office.county, office.stateAbbr);
     std::transform(host.begin(), host.end(), host.begin(), [](char c) {
@@ -81,7 +81,7 @@ void CreateReferences(const std::filesystem::path& directory) {
     try {
         MakeReferences(path);
     } catch (const platform::Error&) {
-        // They were there, or another program has made them at the same time.
+        // They already exist, or another program has made them at the same time.
         std::error_code ignored;
         if (!std::filesystem::is_regular_file(path, ignored)) throw;
     }

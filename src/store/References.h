@@ -18,11 +18,11 @@ struct ZipCode {
     std::string_view county;
 };
 
-/// The places that the reference database is made with: towns of every state.
+/// Returns the places that the reference database is made with: towns of every state.
 std::span<const ZipCode> ZipCodes();
 
-/// Makes the reference database in `directory`, which is there: zip codes, and the pages where some
-/// counties show a property's taxes. It is only ever read afterwards; an existing one stays as it
+/// Makes the reference database in `directory`, which must exist: zip codes, and the pages where
+/// some counties show a property's taxes. It is only read afterwards; an existing one stays as it
 /// is. Throws an Error if it can't be made; then nothing is left.
 void CreateReferences(const std::filesystem::path& directory);
 

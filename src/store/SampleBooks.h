@@ -25,7 +25,7 @@ struct SampleAccounts {
     std::int32_t pestControl = 0;
     std::int32_t applianceStore = 0;
     std::vector<std::int32_t> utilities; ///< electricity, water, gas, sewage, cable, trash
-    std::vector<std::int32_t> vendors;   ///< those who repair
+    std::vector<std::int32_t> vendors;   ///< repair firms
     std::vector<std::int32_t> insurers;
     std::vector<std::int32_t> mortgagees;
     std::vector<std::int32_t> owners;

@@ -5,12 +5,12 @@
 
 namespace store {
 
-/// Numbers that look thrown but are the same in every run and on every machine.
+/// Numbers that look random but are the same in every run and on every machine.
 class SampleDice {
   public:
     explicit SampleDice(std::uint64_t seed) : state_(seed) {}
 
-    /// 0 to count - 1.
+    /// Returns a number from 0 to count - 1.
     std::size_t Below(std::size_t count) {
         // Steps and mixing of a 64-bit counter; the top half of the product spreads evenly.
         state_ += 0x9E3779B97F4A7C15U;

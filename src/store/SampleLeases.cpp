@@ -51,8 +51,8 @@ LeaseDates PlanDates(SampleBooks& books, const LeasePlan& plan) {
         case SampleTurn::Behind: {
             const Date due = DateAdd(Interval::Day, -plan.turnAgo, today);
             dates.begins = DateAdd(Interval::Month, -plan.monthsAgo, due);
-            // The due day can lie days earlier by now: months without a 31st pull it forward for
-            // good.
+            // The due day can be some days earlier by now: months without a 31st move it forward
+            // permanently.
             dates.habit.stopsPaying = DateAdd(Interval::Day, -5, due);
             break;
         }
@@ -65,7 +65,8 @@ LeaseDates PlanDates(SampleBooks& books, const LeasePlan& plan) {
     return dates;
 }
 
-/// Later rounds of the stories begin in other months and on other days, if nothing depends on it.
+/// Returns the plan with its month and day changed for later rounds of the stories, if nothing
+/// depends on them.
 LeasePlan Varied(SampleDice& dice, LeasePlan plan, bool alone) {
     constexpr int kDays[] = {1, 1, 1, 5, 10, 15};
     const bool free = alone && plan.turn == SampleTurn::None && plan.monthsAgo >= 12 &&
@@ -76,7 +77,7 @@ LeasePlan Varied(SampleDice& dice, LeasePlan plan, bool alone) {
     return plan;
 }
 
-/// Rent for one period of a lease, from that for a month.
+/// Returns the rent for one period of a lease, from the rent for a month.
 Currency PeriodRent(Currency monthly, std::string_view termType) {
     const std::int64_t units = monthly.Scaled() / Currency::kScale;
     if (termType == "Week(s)" || termType == "WTW") return Currency::FromUnits(units * 3 / 65 * 5);
@@ -162,7 +163,8 @@ std::int32_t AddLease(SampleBooks& books, const SampleUnit& unit, std::int32_t i
                            {"Residents", std::to_string(books.dice.Between(1, 4))}});
 }
 
-/// Saving a lease for the first time takes its unit and tenant immediately, whenever it begins.
+/// Saving a lease for the first time makes its unit and tenant taken immediately, whenever it
+/// begins.
 void TakeUnit(SampleBooks& books, const SampleUnit& unit, std::int32_t idTenant) {
     platform::Connection& connection = books.rows.Books();
     connection.Execute("UPDATE Unit SET Status = 'Leased' WHERE IdUnit = ?", {unit.id});

@@ -7,8 +7,7 @@
 
 namespace store {
 
-/// Lets the units, each by the next of the stories: their tenants and leases, and what becomes of
-/// these.
+/// Lets the units: each gets the tenants and leases of the next story, and what becomes of them.
 SampleCast WriteSampleLeases(SampleBooks& books, const std::vector<SampleBuilding>& buildings);
 
 } // namespace store

@@ -29,7 +29,7 @@ struct Loan {
         return principal * monthly / (1 - std::pow(1 + monthly, -periods));
     }
 
-    /// The balance that is owed once `paid` payments are made.
+    /// Returns the balance that is owed once `paid` payments are made.
     double Balance(int paid) const {
         if (interestOnly) return principal;
         const double growth = std::pow(1 + rate / 12, paid);
@@ -37,7 +37,7 @@ struct Loan {
     }
 };
 
-/// The rate of every period, as the books keep it.
+/// Returns the rate of every period, as the books keep it.
 std::string RateList(const Loan& loan) {
     const std::string rate = platform::NumberToText(loan.rate);
     std::string list = rate;
@@ -46,15 +46,16 @@ std::string RateList(const Loan& loan) {
     return list;
 }
 
-/// Escrow is looked at once a year: for some, that is due within weeks.
+/// Returns the last review of escrow, which happens once a year: for some mortgages it is due
+/// within weeks.
 Date LastReview(SampleBooks& books, std::size_t index) {
     const int daysUntilNext =
         index % 4 == 0 ? books.dice.Between(5, 25) : books.dice.Between(60, 330);
     return DateAdd(Interval::Year, -1, DateAdd(Interval::Day, daysUntilNext, books.today));
 }
 
-/// Lenders take the first days after the due day well; one in six borrowers needs them all and
-/// more, and one hasn't got to this month's payment yet.
+/// Lenders accept payments in the first days after the due day; one in six borrowers needs all of
+/// these days and more, and one hasn't made this month's payment yet.
 SampleLoan PlanPayments(const SampleBooks& books, std::size_t index) {
     constexpr int kPastGrace = kGraceDays + 4;
     SampleLoan plan;
@@ -63,7 +64,7 @@ SampleLoan PlanPayments(const SampleBooks& books, std::size_t index) {
     return plan;
 }
 
-/// The loan, and the balance that it leaves on the building.
+/// Adds a loan; returns it with the balance that it leaves on the building.
 std::pair<SampleLoan, double> AddLoan(SampleBooks& books, const SampleBuilding& building,
                                       std::size_t index) {
     SampleDice& dice = books.dice;

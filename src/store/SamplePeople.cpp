@@ -24,8 +24,8 @@ void AddEmergencyContact(SampleBooks& books, std::int32_t idTenant, int areaCode
                                {"Phone", SamplePhone(books.dice, areaCode)}});
 }
 
-/// A middle initial. In large portfolios some tenants' is null, as an import leaves it: lists that
-/// join the parts of a name then show none.
+/// Returns a middle initial. In large portfolios it is null for some tenants, as after an import:
+/// lists that join the parts of a name then show no name.
 platform::Value Initial(SampleDice& dice, std::size_t tenant) {
     constexpr std::size_t kImportedOneIn = 25;
     if (tenant % kImportedOneIn == kImportedOneIn - 1) return {};

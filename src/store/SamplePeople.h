@@ -7,10 +7,10 @@
 
 namespace store {
 
-/// Writes a tenant with the status "Approved" or another word, and now and then somebody to call.
+/// Writes a tenant with the status "Approved" or another one, and for some of them a contact.
 std::int32_t AddSampleTenant(SampleBooks& books, int areaCode, std::string_view status);
 
-/// Writes what a late payer has on record.
+/// Writes the incidents of a late payer.
 void AddSampleIncidents(SampleBooks& books, std::int32_t idTenant);
 
 /// Writes people who applied and hold no lease: waiting, approved, refused.

@@ -40,14 +40,14 @@ void AddDepositTemplates(SampleBooks& books, const std::vector<SampleBuilding>& 
     }
 }
 
-/// The latest 5th of a month: from there on the event runs on each following one.
+/// Returns the latest 5th of a month: the event then runs on each following one.
 std::string LastFifth(platform::Date today) {
     constexpr unsigned kFifth = 5;
     const platform::Date fifth(today.Year(), today.Month(), kFifth);
     return (fifth <= today ? fifth : DateAdd(Interval::Month, -1, fifth)).ToText();
 }
 
-/// Disabled until the sample has lived its two years.
+/// Adds the events, disabled until the sample's two years are over.
 void AddEvents(SampleBooks& books, const SampleBuilding& building) {
     const SampleAccounts& accounts = books.accounts;
     const std::string today = books.today.ToText();

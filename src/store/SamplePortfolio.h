@@ -13,7 +13,7 @@ inline constexpr int kSampleUnits = 24;
 
 struct SampleOptions {
     int units = kSampleUnits;
-    /// The last of the days that the sample lives through.
+    /// The last day of the time that the sample covers.
     platform::Date today;
     /// Gives the next free record identifier, every time another one.
     std::function<std::int32_t()> nextId;
@@ -28,7 +28,7 @@ enum class PayHabit {
     PaidAhead,     ///< before the due day, early enough for a discount
 };
 
-/// The life that one lease of the sample is going to have.
+/// The course that one lease of the sample is going to take.
 struct SampleHabit {
     std::int32_t idLease = 0;
     PayHabit habit = PayHabit::OnTime;
@@ -47,18 +47,18 @@ struct SampleLoan {
 };
 
 struct SampleCast {
-    /// The first day that anything happens on, some two years back.
+    /// The first day on which anything happens, about two years ago.
     platform::Date begins;
     /// Every lease, in the order of the rows.
     std::vector<SampleHabit> leases;
     std::vector<SampleLoan> loans;
 };
 
-/// Fills an empty database with a portfolio as it stood before its leases began: property, people,
-/// maintenance, running mortgages as they stood two years back, and each lease as it was first
-/// saved, "Pending" and with an empty ledger. The settings' row, if there is one, names the
-/// sample's company and accounts. The same units, day and identifiers give the same rows. One unit
-/// of work; failures are thrown.
+/// Fills an empty database with a portfolio as it was before its leases began: property, people,
+/// maintenance, running mortgages as they were two years ago, and each lease as it was first saved,
+/// "Pending" and with an empty ledger. The settings' row, if there is one, names the sample's
+/// company and accounts. The same units, day and identifiers give the same rows. One unit of work;
+/// failures are thrown.
 SampleCast WriteSampleRecords(platform::Connection& connection, const SampleOptions& options);
 
 } // namespace store

@@ -16,7 +16,7 @@ using platform::Interval;
 
 namespace {
 
-/// Units of one building after the other, over and over.
+/// The number of units of each building; after the last number the first one follows.
 constexpr int kSizes[] = {1, 1, 4, 1, 6, 1, 2, 8};
 
 struct UnitPlan {
@@ -48,7 +48,8 @@ std::string_view PropertyType(int units, bool inAssociation) {
     return units <= 4 ? "Fourplex" : "Apartments";
 }
 
-/// Most policies end in some months; every fourth one within the days that the home page looks at.
+/// Returns the end of a policy, usually in some months; every fourth one is within the days that
+/// the home page looks ahead.
 platform::Date NextInsurance(SampleBooks& books, std::size_t index) {
     const int days = index % 4 == 0 ? books.dice.Between(3, 28) : books.dice.Between(31, 330);
     return DateAdd(Interval::Day, days, books.today);
@@ -123,7 +124,7 @@ std::int32_t AddBuilding(SampleBooks& books, const SampleTown& town, std::size_t
          {"GasType", "Natural"}});
 }
 
-/// Owners' shares, together 100; the first one is the primary owner.
+/// Adds owners with their shares, together 100; the first one is the primary owner.
 void AddOwners(SampleBooks& books, SampleBuilding& building, std::size_t index) {
     static const std::vector<double> kShares[] = {
         {100}, {50, 50}, {60, 25, 15}, {100}, {66.5, 33.5}};

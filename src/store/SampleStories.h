@@ -31,8 +31,8 @@ enum class SampleClause {
     ShortPatience, ///< warned after ten days
 };
 
-/// The plan of one lease. It begins on `day` of the month that lies `monthsAgo` back, the next one
-/// for -1.
+/// The plan of one lease. It begins on `day` of the month that was `monthsAgo` months ago; -1 is
+/// the next month.
 struct LeasePlan {
     int monthsAgo = 24;
     int day = 1;
@@ -45,14 +45,14 @@ struct LeasePlan {
     int turnAgo = 0;
 };
 
-/// What one unit saw: its leases, one after the other; none for a unit that was never let.
+/// The story of one unit: its leases, one after the other; none for a unit that was never let.
 struct UnitStory {
     std::span<const LeasePlan> leases;
-    /// What the unit reads before its first lease is saved.
+    /// The unit's status before its first lease is saved.
     std::string_view status = "Avaliable";
 };
 
-/// The stories that the units of the sample go through, over and over.
+/// Returns the stories of the units of the sample; after the last one they begin again.
 std::span<const UnitStory> UnitStories();
 
 } // namespace store

@@ -37,7 +37,7 @@ constexpr Job kJobs[] = {
     {"Smoke detector chirps", "", "", 1, 40},
 };
 
-/// Most of the work is done with.
+/// Most of the work has been done.
 constexpr std::string_view kStatuses[] = {"Open",   "Closed", "Vendor",    "Completed",
                                           "Closed", "Closed", "Completed", "Closed"};
 
@@ -133,7 +133,7 @@ void AddContracts(SampleBooks& books, const SampleBuilding& building, std::size_
     }
 }
 
-/// Trips to the buildings over the past months, each beginning where the last one ended.
+/// Adds trips to the buildings over the past months, each beginning where the last one ended.
 void AddTrips(SampleBooks& books, const std::vector<SampleBuilding>& buildings) {
     if (buildings.empty()) return;
     constexpr std::string_view kPurposes[] = {"Inspection", "Collect rent", "Meet the plumber",

@@ -101,7 +101,7 @@ constexpr std::string_view kStreets[] = {
     "Union Avenue",     "Vine Street",      "Willow Bend",       "Old Stagecoach Highway",
 };
 
-/// The letters a to z of a name, in lower case.
+/// Returns the letters a to z of a name, in lower case.
 std::string PlainLetters(std::string_view name) {
     std::string letters;
     for (const char c : name) {

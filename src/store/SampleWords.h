@@ -20,18 +20,20 @@ struct SampleTown {
 std::span<const SampleTown> SampleTowns();
 
 std::string_view SampleSurname(SampleDice& dice);
-/// The surnames one after the other, over and over: so that a few people have varied ones.
+/// Returns the surname for an index; after the last one they begin again, so that a few tenants
+/// have different ones.
 std::string_view SampleSurname(std::size_t index);
 std::string_view SampleGivenName(SampleDice& dice);
-/// "1248 Alder Street".
+/// Returns an address such as "1248 Alder Street".
 std::string SampleAddress(SampleDice& dice);
-/// One in the street of this number.
+/// Returns an address in the street of this number.
 std::string SampleAddress(SampleDice& dice, std::size_t street);
-/// A number of those that are set aside for stories: "(541) 555-0142".
+/// Returns a phone number of those that are reserved for fiction: "(541) 555-0142".
 std::string SamplePhone(SampleDice& dice, int areaCode);
-/// "ann.obrien@mail.example": the names in lower case, without what isn't a plain letter.
+/// Returns an e-mail address such as "ann.obrien@mail.example": the names in lower case, without
+/// anything but plain letters.
 std::string SampleEmail(std::string_view givenName, std::string_view surname);
-/// `count` digits.
+/// Returns `count` digits.
 std::string SampleDigits(SampleDice& dice, int count);
 
 } // namespace store

@@ -23,9 +23,9 @@ class SampleWriter {
 
     SampleWriter(platform::Connection& connection, std::function<std::int32_t()> nextId);
 
-    /// Adds a row. Where the table's first field is its key, that takes a new identifier, which is
-    /// answered; 0 otherwise. A null given for a day is written as empty. A field that the table
-    /// doesn't have throws FieldError.
+    /// Adds a row. If the table's first field is its key, it gets a new identifier, which is
+    /// returned; otherwise returns 0. A null given for a day is written as empty. Throws FieldError
+    /// for a field that the table doesn't have.
     std::int32_t Add(std::string_view table, Fields fields);
 
     platform::Connection& Books() { return connection_; }

@@ -17,13 +17,13 @@ struct FieldRun {
 TableDefinition MakeTable(std::string_view name, std::initializer_list<FieldRun> runs,
                           std::initializer_list<std::string_view> indexes = {});
 
-// The tables of the books by area: the property and who lives there, what is paid and owed, and
-// what the program itself keeps.
+// Returns the tables of the books by area: the property and who lives there, what is paid and owed,
+// and what the program itself keeps.
 std::vector<TableDefinition> PropertyTables();
 std::vector<TableDefinition> PeopleTables();
 std::vector<TableDefinition> MoneyTables();
 std::vector<TableDefinition> SupportTables();
-// Tables that books of earlier versions lack.
+// Returns the tables that books of earlier versions lack.
 std::vector<TableDefinition> LaterTables();
 
 } // namespace store

@@ -8,7 +8,7 @@ namespace store {
 
 /// The kinds of values that a field of the schema holds.
 enum class FieldKind {
-    Long,    ///< 32 bits; 0, never null, where nothing is linked
+    Long,    ///< 32 bits; 0, never null, if nothing is linked
     Counter, ///< a Long that may be null: nothing was counted yet
     Integer, ///< 16 bits
     Double,
@@ -16,7 +16,7 @@ enum class FieldKind {
     Boolean,
     Text,
     Memo,
-    DateText, ///< "mm/dd/yyyy"; empty or null where no day is set
+    DateText, ///< "mm/dd/yyyy"; empty or null if no day is set
 };
 
 struct FieldDefinition {
@@ -32,21 +32,21 @@ struct TableDefinition {
     std::vector<std::string> indexes;
 };
 
-/// Every table of the books.
+/// Returns every table of the books.
 const std::vector<TableDefinition>& BooksTables();
 
-/// Tables that the books of earlier versions lack: what became of money that was paid ahead or was
-/// returned, rows of the run that were taken back, and further settings. Books that never use them
-/// keep them empty.
+/// Returns the tables that the books of earlier versions lack: for money that was paid ahead or was
+/// returned, for rows of the run that were taken back, and for further settings. Books that never
+/// use them keep them empty.
 const std::vector<TableDefinition>& AddedTables();
 
-/// The tables of the reference database: zip codes and the pages of the tax offices.
+/// Returns the tables of the reference database: zip codes and the pages of the tax offices.
 const std::vector<TableDefinition>& ReferenceTables();
 
-/// The type that the schema declares a field of this kind with.
+/// Returns the type that the schema declares a field of this kind with.
 std::string_view DeclaredType(FieldKind kind);
 
-/// The statements that make these tables and their indexes, in the engine's own SQL.
+/// Returns the statements that make these tables and their indexes, in the engine's own SQL.
 std::string SchemaScript(const std::vector<TableDefinition>& tables);
 
 } // namespace store

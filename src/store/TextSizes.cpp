@@ -13,7 +13,7 @@ namespace store {
 namespace {
 
 constexpr int kLong = 255;
-/// As wide as a computed day in a printed list.
+/// As wide as a calculated day in a printed list.
 constexpr int kDaySize = 14;
 
 struct SizedFields {

@@ -16,7 +16,7 @@ struct DefaultCategory {
     CategoryClass ien;
 };
 
-/// The categories that a new database knows, in the order in which they are added.
+/// Returns the categories that a new database knows, in the order in which they are added.
 std::span<const DefaultCategory> DefaultCategories();
 
 /// Adds every default category whose name isn't there yet.

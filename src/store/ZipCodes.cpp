@@ -4,7 +4,7 @@ namespace store {
 
 namespace {
 
-// By number, so that codes of the north-east, which begin with a zero, come first.
+// Sorted by number, so that codes of the north-east, which begin with a zero, come first.
 constexpr ZipCode kZipCodes[] = {
     {1060, "Northampton", "MA", "Hampshire"},
     {1103, "Springfield", "MA", "Hampden"},

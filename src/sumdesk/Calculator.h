@@ -30,7 +30,7 @@ class Calculator {
     std::string SubtractFromMemory(std::string_view sum);
     void ClearMemory();
     bool HasMemory() const { return memory_.has_value(); }
-    /// The memory as it is shown; empty without one.
+    /// Returns the memory as it is shown; empty if nothing is stored.
     std::string Memory() const;
 
     /// Adds an entry to the tape: a line, or several with line feeds between them.

@@ -19,7 +19,7 @@ namespace {
 struct Key {
     const char* text;
     const char* inserted;
-    const char* name; ///< for those who hear it rather than see it
+    const char* name; ///< for screen readers
 };
 
 constexpr int kColumns = 4;
@@ -55,7 +55,7 @@ void Enlarge(QWidget& control, double factor) {
 QPushButton* MakeKey(QWidget& page, const QString& text, const QString& name) {
     auto* const key = new QPushButton(text, &page);
     key->setAccessibleName(name);
-    // The keyboard types the same; with the mouse, the line keeps the focus.
+    // The same can be typed on the keyboard; after a click, the line keeps the focus.
     key->setFocusPolicy(Qt::NoFocus);
     key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     Enlarge(*key, kKeySize);
@@ -67,7 +67,7 @@ bool IsSign(const QString& text) {
     return QStringLiteral("+-*/x:%)\u00D7\u00F7\u2212").contains(text);
 }
 
-/// A key as it appears in a sum.
+/// Returns a key as it appears in a sum.
 QString InSum(const QString& typed) {
     if (typed == QLatin1String("*") || typed == QLatin1String("x")) return QStringLiteral("\u00D7");
     if (typed == QLatin1String("/")) return QStringLiteral("\u00F7");
@@ -131,7 +131,7 @@ void CalculatorPage::ConnectMemory() {
         const QString shortcut = QLatin1String(keys);
         button->setToolTip(tr("%1 (%2)").arg(button->accessibleName(), shortcut));
         connect(button, &QPushButton::clicked, this, command);
-        // A shortcut of the button itself would act only after the button has been seen pressed.
+        // A shortcut of the button itself would act only after the button has been shown pressed.
         connect(new QShortcut(QKeySequence(shortcut), this), &QShortcut::activated, button,
                 &QPushButton::click);
     };

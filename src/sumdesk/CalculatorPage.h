@@ -42,7 +42,7 @@ class CalculatorPage : public QWidget {
     void Insert(const QString& text);
     void Enter();
     void Remember(MemoryCommand command);
-    /// Runs what may end in a SumError, and shows its result or the fault.
+    /// Does work that may end in a SumError, and shows its result or the fault.
     void Run(const std::function<std::string()>& work);
     void ShowPreview();
     void ShowMemory();

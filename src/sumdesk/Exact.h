@@ -12,10 +12,10 @@ namespace sumdesk {
 /// rounded before it is shown. A third of 10, times 3, is 10.
 using Exact = mpq_class;
 
-/// How many digits a number may have before the point.
+/// The number of digits that a number may have before the point.
 inline constexpr int kMostWholeDigits = 15;
 
-/// Numbers with more whole digits are refused; they are beyond any amount of money.
+/// Returns whether a number has more whole digits: it is beyond any amount of money.
 bool IsTooLarge(const Exact& number);
 
 /// Returns a number that isn't too large as a fraction.
@@ -24,7 +24,7 @@ Exact ExactOf(const platform::Digits& digits);
 /// Returns the number rounded to `places` decimals, halves away from zero.
 platform::Digits Rounded(const Exact& number, int places);
 
-/// The nearest double.
+/// Returns the nearest double.
 double DoubleOf(const Exact& number);
 
 enum class Decimals {

@@ -22,7 +22,7 @@ constexpr int kMostMonths = 1'200;
 constexpr double kHighestPercent = 100;
 constexpr int kMonthsOfYear = 12;
 constexpr double kPercent = 100;
-/// Less than this is a rounding of the formulas, not a payment or a balance.
+/// Anything less is only a rounding error of the formulas, not a payment or a balance.
 constexpr double kNothing = 0.00005;
 
 Exact NumberOf(std::string_view text, LoanField field, const char* missing) {
@@ -112,7 +112,7 @@ std::string RateText(const LoanAnswer& answer) {
     return platform::NumberToText(std::round(answer.rate * kDecimals) / kDecimals);
 }
 
-/// "360 months (30 years)", "18 months (1 year and 6 months)".
+/// Returns a term as text: "360 months (30 years)", "18 months (1 year and 6 months)".
 std::string TermText(int months) {
     const int years = months / kMonthsOfYear;
     const int rest = months % kMonthsOfYear;

@@ -15,14 +15,14 @@ class SumError : public platform::Error {
   public:
     SumError(const std::string& text, std::size_t position)
         : platform::Error(text), position_(position) {}
-    /// The 0-based offset of the fault in the sum's UTF-8 text.
+    /// Returns the 0-based offset of the fault in the sum's UTF-8 text.
     std::size_t Position() const { return position_; }
 
   private:
     std::size_t position_;
 };
 
-/// A number that was shown rounded. Where it appears in a sum as it was shown, the number itself is
+/// A number that was shown rounded. If it appears in a sum as it was shown, the number itself is
 /// meant: 10 ÷ 3 is shown as 3.3333333333, and three times that is 10.
 struct Remembered {
     std::string shown; ///< without a sign

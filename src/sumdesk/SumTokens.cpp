@@ -31,7 +31,7 @@ bool IsBlank(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
 
-/// The whole UTF-8 character at the front of a text that isn't empty.
+/// Returns the whole UTF-8 character at the front of a text that isn't empty.
 std::string_view FirstCharacter(std::string_view text) {
     std::size_t length = 1;
     while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80U)
@@ -50,8 +50,8 @@ Exact NumberOf(std::string_view text, std::size_t position,
     return ExactOf(*digits);
 }
 
-/// Whether the operator after a token of this kind stands between two numbers, rather than being
-/// the sign of the second.
+/// Returns whether an operator that follows a token of this kind joins two numbers, rather than
+/// being the sign of the second.
 bool EndsNumber(TokenKind kind) {
     return kind == TokenKind::Number || kind == TokenKind::Close || kind == TokenKind::Percent;
 }

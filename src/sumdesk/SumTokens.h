@@ -23,7 +23,8 @@ struct Token {
 /// for characters that no sum has, and for numbers that can't be read or are too large.
 std::vector<Token> TokensOf(std::string_view text, std::span<const Remembered> remembered);
 
-/// Returns the sum with a blank on either side of each operator, and "×" and "÷" for the others.
+/// Returns the sum with a blank on either side of each operator, and with "×" and "÷" for
+/// multiplication and division.
 std::string TidyText(std::span<const Token> tokens);
 
 } // namespace sumdesk

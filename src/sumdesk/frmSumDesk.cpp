@@ -15,7 +15,7 @@ namespace sumdesk {
 
 frmSumDesk::frmSumDesk(QWidget* parent) : Form(parent), ui_(std::make_unique<Ui::frmSumDesk>()) {
     ui_->setupUi(this);
-    ui_->pagSum->setProperty(platform::qt::kTakesEveryPress, true); // 55 is typed by two quick ones
+    ui_->pagSum->setProperty(platform::qt::kTakesEveryPress, true); // two quick presses type 55
     ui_->pagSum->SetCalculator(calculator_);
     ui_->pagLoan->SetCalculator(calculator_);
     ui_->pagDays->SetCalculator(calculator_);
@@ -28,7 +28,7 @@ frmSumDesk::frmSumDesk(QWidget* parent) : Form(parent), ui_(std::make_unique<Ui:
         connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this,
                 &QWidget::close);
     }
-    // Enter works out the page that has the focus; a default button would act on any.
+    // Enter calculates on the page that has the focus; a default button would act on any page.
     for (QPushButton* const button : findChildren<QPushButton*>())
         button->setAutoDefault(false);
     core::binding::WireControls(*this);

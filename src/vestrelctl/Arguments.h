@@ -31,10 +31,11 @@ inline constexpr const char* kPartyForms = "account:ID|tenant:ID|name:TEXT";
 /// without a record. Throws an Error if it has another form, or there is no such record.
 books::Party ReadParty(std::string_view option, const std::string& text);
 
-/// Reads an amount of money. Throws an Error that names the option if it is none.
+/// Reads an amount of money. Throws an Error that names the option if it isn't an amount.
 platform::Currency ReadAmount(std::string_view option, const std::string& text);
 
-/// The name of an account as a transaction keeps it. Throws an Error if there is no such account.
+/// Returns the name of an account as a transaction keeps it. Throws an Error if there is no such
+/// account.
 std::string AccountName(std::string_view option, std::int32_t id);
 
 /// Prints what a payment will write, as CSV.

@@ -78,7 +78,7 @@ void AddBackup(CLI::App& line, const Options& options) {
     command->add_flag("--database-only", *databaseOnly,
                       "Without document templates and attached files");
     command->callback([folder, databaseOnly, &options] {
-        // The day of the backup is kept beside the books.
+        // The day of the backup is stored beside the books.
         if (options.readOnly) throw platform::Error("--read-only: a backup keeps its day");
         OpenDatabase(options, Purpose::Read);
         core::CloseDatabase(core::App().Connection);

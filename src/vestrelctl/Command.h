@@ -9,7 +9,7 @@ namespace vestrelctl {
 
 /// The options before the command's name.
 struct Options {
-    /// The database directory; the registered default without it.
+    /// The database directory; unset for the registered default.
     std::optional<std::filesystem::path> data;
     /// Whether nothing may be written, even if the books allow it.
     bool readOnly = false;

@@ -27,8 +27,7 @@ struct ExportWords {
     std::filesystem::path file;
 };
 
-/// Sets the range. Where only one of its days is given, the other is the one that the screen
-/// proposes.
+/// Sets the range. If only one of its days is given, the other is the day that the screen proposes.
 void ChooseRange(const ExportWords& words, exchange::ExportRange& range) {
     range = {exchange::TransRange::New,
              platform::DateAdd(platform::Interval::Month, -1, platform::Today()),
@@ -52,12 +51,12 @@ void Export(const ExportWords& words) {
     if (!objection.text.empty()) throw platform::Error(objection.text);
     for (auto id = request.accounts.begin(); id != request.accounts.end(); ++id) {
         AccountName("--account", *id);
-        // Its transactions would be in the file twice.
+        // Otherwise its transactions would be in the file twice.
         if (std::find(request.accounts.begin(), id, *id) != id) {
             throw platform::Error(fmt::format("--account: {} is given twice", *id));
         }
     }
-    // A script that sees the export fail runs it again, when its marks are made already.
+    // A script that sees the export fail runs it again, although its marks have been made already.
     CheckOutput();
     std::cout << exchange::RunFinExport(request, words.file) << '\n';
 }

@@ -21,8 +21,8 @@ struct InitOptions {
     std::filesystem::path folder;
 };
 
-/// The look-ups of zip codes and tax offices are beside the program, once for all databases. A
-/// database is made without them all the same.
+/// Makes the tables of zip codes and tax offices, which are beside the program, once for all
+/// databases. If that fails, the database is made without them.
 void MakeReferences() {
     if (core::App().HasReferences) return;
     try {

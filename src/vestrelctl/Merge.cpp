@@ -29,7 +29,7 @@ struct MergeArguments {
     std::string output;
 };
 
-/// The template of an `IdDoc`, or a file that needn't be on the list.
+/// Returns the template with this `IdDoc`, or a file that needn't be on the list.
 documents::DocTemplate FindLetter(const std::string& text) {
     const auto number = platform::TryParseNumber(text);
     if (number && !platform::FileExists(text)) {

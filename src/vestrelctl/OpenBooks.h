@@ -12,9 +12,9 @@ enum class Purpose { Read, Write };
 /// writes.
 void OpenDatabase(const Options& options, Purpose purpose);
 
-/// Opens them as the program does at its start, with the settings of the books. A command that
-/// writes first adds what books of an earlier version lack, and the settings of a new database.
-/// Throws an Error as OpenDatabase does.
+/// Opens the books as the program does at its start, with their settings. A command that writes
+/// first adds what books of an earlier version lack, and the settings of a new database. Throws an
+/// Error as OpenDatabase does.
 void OpenBooks(const Options& options, Purpose purpose);
 
 } // namespace vestrelctl

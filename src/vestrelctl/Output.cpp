@@ -21,7 +21,7 @@ namespace {
     throw platform::Error("the output can't be written");
 }
 
-/// Takes in what is printed until it ends.
+/// Holds back what is printed until this object's lifetime ends.
 class HeldOutput {
   public:
     HeldOutput() : usual_(std::cout.rdbuf(held_.rdbuf())) {}
@@ -36,9 +36,9 @@ class HeldOutput {
     std::streambuf* usual_;
 };
 
-/// Writes past the stream, which would try what it couldn't write once more when the program ends.
+/// Writes past the stream, which would try again at the program's end to write what it couldn't.
 bool Write(std::string_view text) {
-    // Without a reader the program would end here, as though nothing had been booked.
+    // Without a reader, the program would end here as if nothing had been booked.
     std::signal(SIGPIPE, SIG_IGN);
     while (!text.empty()) {
         const ssize_t written = write(STDOUT_FILENO, text.data(), text.size());
@@ -63,7 +63,7 @@ void CheckOutput() {
     pollfd output{STDOUT_FILENO, POLLOUT, 0};
     const bool answered = poll(&output, 1, 0) > 0;
     if (answered && (output.revents & (POLLERR | POLLNVAL)) != 0) ThrowLost();
-    // Writing nothing fails only where writing something would.
+    // Writing nothing fails only if writing something would fail.
     if (write(STDOUT_FILENO, "", 0) < 0) ThrowLost();
 }
 

@@ -80,7 +80,7 @@ void CheckClass(const Transaction& transaction) {
     }
 }
 
-/// A category of the books by its name, or any other with its class: "Parking|0".
+/// Reads a category: one of the books by its name, or any other with its class: "Parking|0".
 books::Category ReadCategory(const std::string& text) {
     const auto bar = text.find('|');
     if (platform::Trim(text.substr(0, bar)).empty()) {

@@ -39,13 +39,13 @@ struct ReportWords {
     bool landscape = false;
 };
 
-/// A report and where its file is.
+/// A report and the place of its file.
 struct FoundReport {
     reports::ReportDef report;
     fs::path file;
 };
 
-/// A file outside the catalogue is read as the catalogue would.
+/// Reads a file outside the catalogue in the same way as the catalogue would.
 FoundReport ReadOutside(const fs::path& file) {
     const auto text = reports::ReadDefinition(file);
     if (!text) throw platform::Error(fmt::format("{} can't be read", file.string()));

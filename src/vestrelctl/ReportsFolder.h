@@ -5,7 +5,7 @@
 
 namespace vestrelctl {
 
-/// Makes a folder the one that holds the definition files; an empty name leaves the program's own.
+/// Sets the folder of the definition files; an empty name keeps the program's own.
 void UseReportsFolder(const std::string& folder);
 std::filesystem::path ReportsFolder();
 

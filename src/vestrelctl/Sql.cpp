@@ -56,7 +56,7 @@ bool ReadStatement(std::istream& input, std::string& statement) {
     return !platform::Trim(statement).empty();
 }
 
-/// Some editors begin a file with it.
+/// Skips the byte order mark with which some editors begin a file.
 void SkipByteOrderMark(std::istream& input) {
     constexpr std::string_view kMark = "\xEF\xBB\xBF";
     if (input.peek() == static_cast<unsigned char>(kMark.front())) input.ignore(kMark.size());

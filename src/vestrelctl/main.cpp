@@ -43,12 +43,12 @@ std::string SetToday(const std::string& text) {
     return {};
 }
 
-/// A script whose variable is empty doesn't mean the root of the file system.
+/// Refuses an empty name: a script with an empty variable doesn't mean the root of the file system.
 std::string IsNamed(const std::string& directory) {
     return directory.empty() ? "no directory is named" : std::string();
 }
 
-/// One line, whatever the reason holds.
+/// Prints the reason in one line, whatever it holds, and returns the status.
 int Fail(std::string reason, int status) {
     std::ranges::replace(reason, '\n', ' ');
     std::cout.flush();
@@ -56,7 +56,7 @@ int Fail(std::string reason, int status) {
     return status;
 }
 
-/// "--check=" gives an empty value, where the parser would take the next argument for it.
+/// "--check=" gives an empty value; without this, the parser would take the next argument for it.
 void AddGivenArgument(std::vector<std::string>& arguments, const std::string& argument) {
     const auto equals = argument.find('=');
     const bool isEmptyValue = argument.starts_with("--") && equals + 1 == argument.size() &&
@@ -69,7 +69,7 @@ void AddGivenArgument(std::vector<std::string>& arguments, const std::string& ar
     arguments.emplace_back();
 }
 
-/// In the order in which the parser takes them, the last one first.
+/// Returns the arguments in the order in which the parser takes them, the last one first.
 std::vector<std::string> ArgumentsOf(int argc, char** argv) {
     std::vector<std::string> arguments;
     for (int i = 1; i < argc; ++i)
@@ -104,7 +104,7 @@ int Run(int argc, char** argv) {
                                           "The folder of the report definitions")
         ->type_name("DIR");
 
-    // Before the work of a command, but not for its help.
+    // Runs before a command's work, but not for its help.
     line.parse_complete_callback(core::MakeDirectories);
 
     vestrelctl::AddInit(line);
@@ -131,7 +131,7 @@ int Run(int argc, char** argv) {
     vestrelctl::AddBackup(line, options);
     vestrelctl::AddRestore(line);
     vestrelctl::AddCheck(line, options);
-    // Now, as the commands would have taken it over.
+    // Set now, because commands would have inherited it.
     line.footer(kFooter);
 
     try {

@@ -103,7 +103,7 @@ void Alerts::SetUpSide() {
     info_->header()->setSectionsMovable(false);
     info_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     info_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    // As high as its lines, and no higher; it scrolls if there is less room.
+    // The box is as high as its lines; it scrolls if there is less room.
     info_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     info_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     info_->setMinimumHeight(kFewestInfoLines * info_->fontMetrics().lineSpacing());
@@ -221,7 +221,7 @@ void Alerts::LoadNotes() {
     if (text != notes_->toPlainText()) notes_->setPlainText(text);
 }
 
-/// The page says why the notes can't be saved; the end of the program asks.
+/// The page says why the notes can't be saved, and the user is asked when the program ends.
 void Alerts::TryToSaveNotes() {
     try {
         SaveNotes();

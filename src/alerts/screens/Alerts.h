@@ -27,11 +27,11 @@ class Alerts : public QWidget {
     explicit Alerts(QWidget* parent = nullptr);
 
     /// Reads the figures, the alerts and the notes again. If the alerts can't be listed, the list
-    /// shows why, and the Error is thrown, after the notes were read; the same failure is not
-    /// thrown again before a refresh has succeeded.
+    /// shows why, and the Error is thrown once the notes have been read; the same failure isn't
+    /// thrown again until a refresh has succeeded.
     void Refresh();
-    /// Writes the notes if they were changed. Throws Error if they can't be written; that is tried
-    /// again until they are.
+    /// Writes the notes if they were changed. Throws Error if they can't be written; a timer then
+    /// tries again until they are.
     void SaveNotes();
     std::string NotesText() const;
 
@@ -39,7 +39,8 @@ class Alerts : public QWidget {
     void BindItem(const QString& key, QAction& action);
 
   Q_SIGNALS:
-    /// The notes couldn't be saved, and why; an empty reason when they are saved again.
+    /// Emitted if the notes couldn't be saved, with the reason; emitted with an empty reason once
+    /// they are saved again.
     void NotesFault(const QString& reason);
 
   protected:

@@ -9,8 +9,8 @@ class QToolButton;
 
 namespace alerts::screens {
 
-/// One figure of the picture: its title, which opens the report behind it, a sentence that tells
-/// it in words, and its chart.
+/// One figure of the picture: its title, which opens the report with the details, a sentence that
+/// describes the figure, and its chart.
 class FigurePanel : public QFrame {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ class FigurePanel : public QFrame {
     platform::qt::SeriesChart& Chart() { return *chart_; }
     /// Shows the sentence above the chart.
     void ShowFigure(const QString& sentence);
-    /// Shows a sentence in the place of the chart: there is nothing to draw.
+    /// Shows a sentence instead of the chart, because there is nothing to draw.
     void ShowOnly(const QString& sentence);
 
   Q_SIGNALS:

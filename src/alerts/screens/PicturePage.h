@@ -12,9 +12,9 @@ namespace alerts::screens {
 
 class FigurePanel;
 
-/// The home page as a picture: how full the house is, the rent of this month, a year of income and
-/// expenses, and who owes most. Every figure opens what shows it in detail; all of it can be copied
-/// and printed.
+/// The home page as a picture: how many units are let, this month's rent, a year of income and
+/// expenses, and who owes most. Each figure opens the report with its details; the picture can be
+/// copied and printed.
 class PicturePage : public QWidget {
     Q_OBJECT
 

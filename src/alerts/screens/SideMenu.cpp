@@ -7,7 +7,7 @@ namespace alerts::screens {
 
 namespace {
 
-constexpr int kIndent = 18; // items stand under their heading's word
+constexpr int kIndent = 18; // items are below their heading's text
 
 QToolButton* MakeButton(QWidget* parent, const QString& text) {
     auto* const button = new QToolButton(parent);

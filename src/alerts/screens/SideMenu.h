@@ -27,7 +27,8 @@ class SideMenu : public QWidget {
     void EndGroups();
 
   private:
-    /// The Tab key goes through headings, contents and items in the order they were added.
+    /// Adds a widget to the tab order, which goes through headings, contents and items in the order
+    /// in which they were added.
     void AppendTabStop(QWidget* stop);
 
     QVBoxLayout* rows_;

@@ -34,7 +34,7 @@ constexpr int kFirstShown = 1;
 constexpr int kMileage = 5;
 constexpr int kMeal = 8;
 
-/// Replaces the list and keeps the entered text.
+/// Replaces the list but keeps the entered text.
 void Offer(QComboBox& combo, core::ChoiceList list) {
     list.SetText(FromScreen(combo.currentText()));
     core::binding::ShowInCombo(list, combo);
@@ -98,10 +98,10 @@ void frmMileage::Connect() {
     key(Qt::Key_Delete, &frmMileage::DeleteTrip);
 }
 
-/// The begin of a new trip follows its vehicle until the user types one.
+/// The start reading of a new trip follows its vehicle until the user types one.
 void frmMileage::ConnectChoices() {
     connect(ui_->txtOBegin, &QLineEdit::textEdited, this, [this] { beginTyped_ = true; });
-    // Not while a stored trip is shown, whose readings must not change.
+    // Only for a new trip: the readings of a stored one must not change.
     connect(ui_->cboVehicle, &QComboBox::currentIndexChanged, this, [this] {
         if (!Loading() && !filling_) Guarded([this] { VehicleChosen(); });
     });

@@ -15,13 +15,13 @@ class OdometerBoxes : public QObject {
     OdometerBoxes(QLineEdit& begin, QLineEdit& end, QLineEdit& distance);
 
     const Odometer& Readings() const { return readings_; }
-    /// Goes on from readings that the boxes show already, or are about to.
+    /// Takes over readings that the boxes already show, or are about to show.
     void Take(const Odometer& readings) { readings_ = readings; }
-    /// The same, and shows them.
+    /// Does the same, and also shows the readings.
     void Show(const Odometer& readings);
 
   private:
-    /// The box that is typed in stays as it is.
+    /// Shows the readings in all boxes except `typed`, in which the user is typing.
     void ShowBoxes(const QLineEdit* typed);
 
     QLineEdit& begin_;

@@ -57,7 +57,7 @@ void PartyBoxes::Refresh(std::int16_t kind) {
     const core::ChoiceList before = ReadCombo(party_);
     FillList(kind, party_, {.addNone = nobody_ == Nobody::Offered});
     if (!party_.isEditable()) return;
-    // A name that doesn't, or no longer, belong to a record in the list stays a name.
+    // A name that doesn't belong, or no longer belongs, to a record in the list stays a name.
     core::ChoiceList list = ReadCombo(party_);
     if (before.Selected() && core::GetSelectedId(list) == core::GetSelectedId(before)) return;
     list.SetText(before.Text());

@@ -24,7 +24,7 @@ class PartyBoxes : public QObject {
     void Show(std::int16_t type, std::int32_t id);
     /// Fills the second box for the kind shown in the first, and selects a stored row's record.
     void ShowStored(std::int32_t id);
-    /// The same for a party that may be a mere name.
+    /// Does the same for a party that may be a mere name.
     void ShowStored(std::int32_t id, std::string_view name);
     /// Refills the boxes after records of a kind changed; the party stays selected.
     void Refresh(std::int16_t kind);

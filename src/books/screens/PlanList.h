@@ -29,7 +29,7 @@ class PlanList : public QWidget {
                  QPushButton& remove);
     /// Fills the list and selects a row, the last one if there are fewer.
     void ShowRows(int select);
-    /// Returns the selected row, -1 if none is.
+    /// Returns the selected row; -1 if no row is selected.
     int Row() const;
 
     virtual int Count() const = 0;
@@ -41,7 +41,7 @@ class PlanList : public QWidget {
     virtual void ShowBoxes(int row) = 0;
     /// Returns the errors in the boxes, a line each. For a new row, `row` is Count().
     virtual std::vector<std::string> Errors(int row) const = 0;
-    /// Writes the boxes to a row; adds a row for Count().
+    /// Writes the contents of the boxes to a row; adds a new row if `row` is Count().
     virtual void Store(int row) = 0;
     virtual void Remove(int row) = 0;
 

@@ -30,7 +30,7 @@ ReferenceBoxes::ReferenceBoxes(const Boxes& boxes, QObject* parent)
 
 void ReferenceBoxes::Fill(const References& chosen) {
     for (const Box& box : all_) {
-        // A list that can't be read doesn't keep the others from being filled.
+        // If a list can't be read, the others are filled all the same.
         Guarded([&] {
             FillList(box.kind, *box.combo, {.selectedId = chosen.*box.id, .addNone = true});
         });

@@ -130,7 +130,7 @@ void frmDepreciation::ShowChart() {
 }
 
 void frmDepreciation::CopyClip() const {
-    // In the cells and lines that spreadsheets read from the clipboard.
+    // The clipboard gets the cells and lines that spreadsheets read.
     QString text = ToScreen(depreciation_.GetClip());
     QApplication::clipboard()->setText(text.replace(u'|', u'\t').replace(u';', u'\n'));
 }

@@ -133,7 +133,7 @@ void frmMileageWiz::Init() {
     to_ = to;
 }
 
-/// All are ticked at first; those that the user unticked stay so.
+/// All categories are ticked at first; those that the user unticked stay unticked.
 void frmMileageWiz::FillCategories(const std::vector<std::string>& categories) {
     QStringList unticked;
     QListWidget& list = *period_->lstCategories;

@@ -22,8 +22,8 @@ class frmMileageWiz : public core::forms::frmWizard {
     Q_OBJECT
 
   public:
-    /// Without a seed the random numbers are seeded from the clock, so that two wizards give
-    /// different logs.
+    /// Without a seed, the clock seeds the random numbers, so that two wizards make up different
+    /// logs.
     explicit frmMileageWiz(QWidget* parent = nullptr, std::optional<std::uint32_t> seed = {});
     ~frmMileageWiz() override;
 
@@ -40,7 +40,7 @@ class frmMileageWiz : public core::forms::frmWizard {
   private:
     void MakeSteps();
     void Connect();
-    /// Reads the lists of the period; the user's settings of rows that stay are kept.
+    /// Reads the lists of the period; rows that are still there keep the user's settings.
     void Init();
     void FillCategories(const std::vector<std::string>& categories);
     void PeriodTyped();

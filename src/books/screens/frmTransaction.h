@@ -16,8 +16,8 @@ class frmTransaction;
 
 namespace books::screens {
 
-/// The start of the transaction screen. All but the first and the last two members matter only for
-/// a new row.
+/// The values that the transaction screen starts with. All but the first and the last two members
+/// matter only for a new row.
 struct TransactionSetup {
     std::int32_t idTransaction = 0;
     std::int16_t fromType = core::kAccount;
@@ -46,13 +46,13 @@ class frmTransaction : public core::forms::RecordForm {
     ~frmTransaction() override;
 
     void Setup(const TransactionSetup& setup);
-    /// The same, but waits until the screen is closed; the caller owns the screen and can then read
-    /// the result.
+    /// Does the same, but returns only when the screen is closed; the caller owns the screen and
+    /// can then read the result.
     void SetupModal(const TransactionSetup& setup);
 
-    /// False once a save succeeded.
+    /// Returns false once a save has succeeded.
     bool Cancelled() const { return cancelled_; }
-    /// The amount at the last save.
+    /// Returns the amount at the last save.
     platform::Currency Amount() const { return amount_; }
 
   protected:

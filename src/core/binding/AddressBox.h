@@ -6,7 +6,7 @@ namespace core::binding {
 
 enum class AddressKind { Mail, Web };
 
-/// A click on the address opens it in the mail program or the browser; a click into a box that
+/// Makes a click on the address open it in the mail program or the browser; a click into a box that
 /// already has the focus only moves its caret.
 void OpenOnClick(QLineEdit& box, AddressKind kind);
 

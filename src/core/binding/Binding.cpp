@@ -14,7 +14,7 @@ namespace core::binding {
 
 namespace {
 
-/// The parts inside such a widget are its own business.
+/// Returns whether a widget is bound as a whole: the parts inside it are its own.
 bool IsWhole(const QWidget& widget) {
     return widget.property("panel").toBool() || qobject_cast<const QComboBox*>(&widget) ||
            qobject_cast<const QAbstractSpinBox*>(&widget) ||

@@ -34,7 +34,7 @@ void ShowSelection(const ChoiceList& list, QComboBox& combo) {
     combo.setCurrentIndex(combo.count() - 1);
 }
 
-/// What to fill a list with.
+/// The rows to fill a list with.
 struct Filling {
     int kind = 0;
     std::int32_t parentId = 0;

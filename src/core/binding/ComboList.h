@@ -20,18 +20,18 @@ ChoiceList ReadCombo(const QComboBox& combo);
 /// typed in.
 void ShowInCombo(const ChoiceList& list, QComboBox& combo);
 
-/// As core::FillList, but keeps the choice: a record without a name is offered by its number, and a
-/// selected record that the list doesn't offer (an account of another type) stays selected under
-/// its name while it exists. A list whose kind or parent changes keeps nothing. If it throws, the
-/// rows read so far are in the list.
+/// Works like core::FillList, but keeps the choice: a record without a name is offered by its
+/// number, and a selected record that the list doesn't offer (an account of another type) stays
+/// selected under its name while it exists. If the list's kind or parent changes, no choice is
+/// kept. If it throws, the rows read so far are in the list.
 void FillList(int kind, QComboBox& combo, const FillOptions& options = {});
-/// The same, with rows added by `fill`: records of the kind that belong to a parent.
+/// Does the same with rows added by `fill`: records of the kind that belong to a parent.
 void FillListWith(int kind, std::int32_t parentId, QComboBox& combo,
                   const std::function<void(ChoiceList& list)>& fill);
 /// Adds a record or code that isn't in the list: a record of the list's kind by its name, anything
 /// else by its number. Does nothing for 0.
 void OfferId(QComboBox& combo, std::int32_t id);
-/// The same for text.
+/// Does the same for text.
 void OfferText(QComboBox& combo, std::string_view text);
 void FillFromCommaList(QComboBox& combo, std::string_view text);
 std::int32_t GetSelectedId(const QComboBox& combo);

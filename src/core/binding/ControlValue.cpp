@@ -103,8 +103,8 @@ Value ReadMoney(const std::string& text) {
     return {*amount};
 }
 
-/// Returns the fraction in single precision, in the fewest digits that identify it: 7.5 becomes
-/// 0.075, not the double nearest to the single.
+/// Returns the fraction in single precision, as the number with the fewest digits that identify it:
+/// 7.5 becomes 0.075, and not the double that is nearest to the single.
 Value ReadPercent(const std::string& text) {
     const float fraction = platform::StrToSingle(text) / 100.0F;
     std::array<char, 32> digits{};

@@ -29,7 +29,7 @@ platform::Date FromScreenDay(QDate day) {
 /// The tool tip of a box while it is marked as not holding a date.
 constexpr const char* kOwnTip = "ownTip";
 
-/// The button at the end of the box says in a picture and in words whether there is a date.
+/// Makes the button at the end of the box show, in a picture and in words, whether there is a date.
 void ShowButton(QAction& button, bool isDate) {
     button.setIcon(
         platform::qt::LoadIcon(isDate ? QStringLiteral("calendar") : QStringLiteral("warning")));

@@ -18,7 +18,8 @@ class DateEdit : public QLineEdit {
   public:
     explicit DateEdit(QWidget* parent = nullptr);
 
-    /// A required date can't be left blank: the box goes back to its last date.
+    /// Returns whether a date is required: the box then can't be left blank, and returns to its
+    /// last date.
     bool IsRequired() const { return required_; }
     void SetRequired(bool required) { required_ = required; }
 

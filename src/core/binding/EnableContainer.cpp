@@ -7,7 +7,8 @@ namespace core::binding {
 
 namespace {
 
-/// Whether the widget is a plain frame or group box; many other widgets derive from a frame.
+/// Returns whether the widget is a plain frame or group box; many other widgets derive from a
+/// frame.
 bool IsContainer(const QWidget& widget) {
     return qobject_cast<const QGroupBox*>(&widget) ||
            widget.metaObject() == &QFrame::staticMetaObject ||

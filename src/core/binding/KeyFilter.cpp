@@ -18,8 +18,7 @@ std::optional<std::size_t> PointAt(std::u32string_view text) {
     return at;
 }
 
-/// Accepts digits and one point; `decimals` is how many places after the point a digit may be
-/// typed.
+/// Accepts digits and one point; `decimals` is the number of digits that may follow the point.
 bool NumberTakes(const KeyedBox& box, char32_t key, std::optional<std::size_t> decimals) {
     const auto point = PointAt(box.text);
     if (key == U'.') return !point;
@@ -27,7 +26,8 @@ bool NumberTakes(const KeyedBox& box, char32_t key, std::optional<std::size_t> d
     return !decimals || !point || box.caret < *point + 1 + *decimals;
 }
 
-/// The digit is tried at the end of the text wherever the caret is, so 10 takes a 0 but not a 1.
+/// Accepts a digit if it could also be typed at the end of the text, wherever the caret is, so 10
+/// takes a 0 but not a 1.
 bool PercentTakes(const KeyedBox& box, char32_t key) {
     if (key == U'.') return !PointAt(box.text);
     if (!IsDigit(key)) return false;

@@ -13,7 +13,7 @@ namespace core::binding {
 
 namespace {
 
-constexpr int kNoLimit = 32767; // what a line edit has when nobody sets one
+constexpr int kNoLimit = 32767; // the length of a line edit without a limit of its own
 
 char32_t Filtered(const QLineEdit& edit, char32_t key) {
     const std::string tag = TagOf(edit);
@@ -21,7 +21,7 @@ char32_t Filtered(const QLineEdit& edit, char32_t key) {
     KeyedBox box;
     box.tag = tag;
     box.text = text;
-    // Typed text replaces the selection from its start, wherever in it the caret is.
+    // Typed text replaces the selection from its start, wherever the caret is in it.
     box.caret = static_cast<std::size_t>(edit.hasSelectedText() ? edit.selectionStart()
                                                                 : edit.cursorPosition());
     box.selected = static_cast<std::size_t>(edit.selectedText().size());
@@ -31,8 +31,8 @@ char32_t Filtered(const QLineEdit& edit, char32_t key) {
 
 constexpr const char* kRefusing = "refusing";
 
-/// A number box visibly refuses an operator or sign, and what is typed after it until the user does
-/// something else: "12+3" must not become 123.
+/// Returns true for an operator or sign, which a number box visibly refuses, and for what is typed
+/// after it until the user does something else: "12+3" must not become 123.
 bool RefusesSum(QLineEdit& edit, const QString& text) {
     constexpr std::string_view kNumbers = "#&$%";
     const std::string tag = TagOf(edit);

@@ -12,7 +12,7 @@ class MaskedEdit : public QLineEdit {
   public:
     explicit MaskedEdit(QWidget* parent = nullptr);
 
-    /// False always shows the text, for a box whose text is only sometimes secret.
+    /// Turns the masking on or off; off is for a box whose text is only sometimes secret.
     void SetMasking(bool masking);
 
   protected:

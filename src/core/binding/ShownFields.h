@@ -22,15 +22,15 @@ using Controls = std::set<const QWidget*>;
 
 /// Remembers what the bound controls of a form held when a row was last shown in them. A control
 /// counts as touched if it holds something else since. Only touched controls are written, so a save
-/// changes nothing that the user didn't, whatever the lists offer, the boxes round or other
-/// programs wrote.
+/// changes only what the user changed, whatever the lists offer, however the boxes round, and
+/// whatever other programs wrote.
 class ShownFields {
   public:
     /// `table` selects among tags that also name a table, as in BindFromRecord.
     explicit ShownFields(std::string table = {}) : table_(std::move(table)) {}
 
-    /// Remembers the contents of the controls before any row is shown; a null is shown that way.
-    /// Only the first call counts.
+    /// Remembers the contents of the controls before any row is shown, which is how a null is
+    /// shown. Only the first call counts.
     void KeepBlanks(const QWidget& form);
     /// Shows the row. A stored choice that a list doesn't offer joins it under its name.
     void Show(QWidget& form, platform::Recordset& row);

@@ -14,7 +14,7 @@ inline constexpr std::string_view kSigils = "_#&$@!?*%:";
 /// Which field of which table a control shows, and how.
 struct Binding {
     char sigil = 0;
-    std::string table; ///< empty where the tag is read without tables
+    std::string table; ///< empty if the tag is read without tables
     std::string field;
 };
 
@@ -22,8 +22,9 @@ struct Binding {
 std::string TagOf(const QObject& control);
 void SetTag(QObject& control, std::string_view tag);
 
-/// Returns nothing for a tag of one character or less, or one whose first character isn't a sigil.
-/// With a `table` the name is split at its point, and the tag of another table is no binding.
+/// Reads a tag. Returns nothing if it has fewer than two characters, or if its first character
+/// isn't a sigil. With a `table` the name is split at its point, and a tag of another table isn't a
+/// binding.
 std::optional<Binding> ReadTag(std::string_view tag, std::string_view table);
 
 /// Returns a tag's bare field name: what follows the sigil, and the point if there is one.

@@ -25,8 +25,8 @@ bool HoldsNumber(const QObject& control) {
     return !tag.empty() && kNumbers.find(tag.front()) != std::string_view::npos;
 }
 
-/// Makes the wheel scroll the page, not a list, date or number that happens to be under the
-/// pointer.
+/// Makes the wheel scroll the page rather than change a list, date or number that happens to be
+/// under the pointer.
 class WheelGuard : public QObject {
   public:
     using QObject::QObject;

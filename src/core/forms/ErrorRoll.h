@@ -9,7 +9,7 @@ namespace core::forms {
 /// Returns the text of the error list: its heading, an empty line, and every error on its own line.
 std::string ErrorRollText(const std::vector<std::string>& lines);
 
-/// Shows the user all errors at once; returns true if there are none.
+/// Shows the user all errors in one message; returns true if there are none.
 bool ShowErrorRoll(const std::vector<std::string>& lines);
 
 /// Shows the message box for a failure that the user didn't cause.

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kTitleHeight = 40; // until the window system has said how high its frame is
 
-/// Asks for the size of its page, but can be smaller.
+/// A scroll area that asks for the size of its page, but can be smaller.
 class PageArea : public QScrollArea {
   public:
     explicit PageArea(QWidget* parent) : QScrollArea(parent) {
@@ -77,8 +77,8 @@ QSize FrameOf(const QWidget& window) {
     return window.frameGeometry().size() - window.geometry().size();
 }
 
-/// Returns the height of the title bar that the window system has yet to put above a new window. A
-/// window that was moved has its place with the title bar.
+/// Returns the height of the title bar that the window system is yet to add to a new window. The
+/// place of a window that was moved includes its title bar already.
 int TitleToCome(const QWidget& window) {
     const bool comes = FrameOf(window).isEmpty() && !window.testAttribute(Qt::WA_Moved);
     return comes ? kTitleHeight : 0;
@@ -137,7 +137,7 @@ void FitToScreen(QWidget& window) {
     if (!screen || window.isMaximized()) return;
     const QRect available = screen->availableGeometry().adjusted(0, TitleToCome(window), 0, 0);
     const QSize room = RoomFor(window);
-    // A form's own least size is the one it would like to have.
+    // A form's own minimum size is its preferred size.
     window.setMinimumSize(window.minimumSize().boundedTo(room));
     if (window.width() > room.width() || window.height() > room.height())
         window.resize(window.size().boundedTo(room));

@@ -96,7 +96,7 @@ void Form::Restore() {
     isPlaced_ = true;
     if (sizing_ == FormSizing::Resizable) {
         LetPagesScroll(*this);
-        // A scrolling page would be content with two thirds of the screen.
+        // By itself, a scrolling page would take only two thirds of the screen.
         if (!testAttribute(Qt::WA_Resized)) resize(sizeHint());
     }
     const bool scrolls = LetFormScroll(*this);

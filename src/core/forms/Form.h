@@ -9,9 +9,9 @@
 
 namespace core::forms {
 
-/// A modeless window of the program. It opens where it was last closed, receives broadcasts of
-/// changed records, and has its help page (F1), all by its object name. It deletes itself when it
-/// closes.
+/// A modeless window of the program. Its object name determines the place where it was last closed,
+/// at which it opens, and its help page (F1). It receives broadcasts of changed records, and
+/// deletes itself when it closes.
 class Form : public QDialog {
     Q_OBJECT
 
@@ -27,10 +27,10 @@ class Form : public QDialog {
     bool AskToClose();
     /// Closes without asking, for the end of the process.
     void CloseUnasked();
-    /// Whether a command of the form is running.
+    /// Returns whether a command of the form is running.
     bool IsBusy() const { return busy_; }
 
-    /// Escape.
+    /// Handles Escape.
     void reject() override;
 
   protected:

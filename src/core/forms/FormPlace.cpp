@@ -10,7 +10,7 @@ namespace {
 constexpr std::int32_t kHoldWidth = 80;
 constexpr std::int32_t kHoldHeight = 24;
 
-// Computed in 64 bits, since stored numbers may be anything.
+// Returns how far two ranges overlap. Calculated in 64 bits, since stored numbers may be anything.
 std::int64_t Overlap(std::int64_t aStart, std::int64_t aLength, std::int64_t bStart,
                      std::int64_t bLength) {
     return std::min(aStart + aLength, bStart + bLength) - std::max(aStart, bStart);

@@ -13,7 +13,7 @@ using HelpOpener = std::function<void(QWidget* owner, const QString& topic)>;
 /// The topic that opens the search instead of a page.
 inline constexpr const char* kHelpSearch = "search";
 
-/// Sets the process's help window; without one ShowHelp does nothing.
+/// Sets the process's help window; if there is none, ShowHelp does nothing.
 void SetHelpOpener(HelpOpener opener);
 
 /// Shows a form's page, which has the form's name.

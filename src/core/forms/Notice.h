@@ -7,8 +7,8 @@ class QWidget;
 
 namespace core::forms {
 
-/// Returns a line, hidden at first, that stands at the top of a screen and says what is wrong with
-/// what the screen holds.
+/// Returns a line for the top of a screen that says what is wrong with the screen's contents. It is
+/// hidden at first.
 QLabel* MakeNotice(QWidget& screen, const QString& name);
 
 } // namespace core::forms

@@ -47,7 +47,7 @@ bool MayCloseAllForms() {
 }
 
 void CloseAllForms() {
-    // Closing a form may close others, so each pointer is checked when its turn comes.
+    // Closing a form may close others, so each pointer is checked before it is used.
     const std::vector<QPointer<Form>> forms = Forms();
     for (const QPointer<Form>& form : forms | std::views::reverse) {
         if (!form) continue;

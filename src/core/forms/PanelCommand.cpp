@@ -9,7 +9,7 @@ namespace core::forms {
 
 namespace {
 
-/// The windows that a panel's command is running on, while it lives.
+/// The windows on which a command of a panel is running, during the lifetime of this object.
 class Running {
   public:
     explicit Running(const QWidget& window) : window_(&window) { Windows().insert(window_); }

@@ -25,16 +25,16 @@ struct Subject {
 /// kind, or is the form's own first menu; it begins with Apply and ends with Close.
 enum class RecordMenu { Record, Reports, Documents };
 
-/// What a filler gets. A report or letter shows stored data, so its action calls `save` first and
-/// does nothing if that returns false: the user refused the save, or it failed.
+/// The arguments of a menu filler. A report or letter shows stored data, so its action calls `save`
+/// first and does nothing if that returns false: the user refused the save, or it failed.
 struct MenuFilling {
     QMenu& menu;
     const std::vector<Subject>& subjects;
     std::function<bool()> save;
 };
 
-/// Adds actions to the menu; none if there are none for these records. It is called when a record
-/// is shown and whenever the menu opens, after its former actions were removed.
+/// Adds the actions for these records to the menu, if there are any. It is called when a record is
+/// shown and whenever the menu opens, after its former actions were removed.
 using MenuFiller = std::function<void(const MenuFilling& filling)>;
 
 /// Registers a filler under a name of its own; the same name replaces it and an empty filler

@@ -169,7 +169,7 @@ void RecordBar::SetCanApply(bool can) {
 }
 
 void RecordBar::Fill(Menu& menu) {
-    // One of them may be the action that is running.
+    // The action that is running may be one of them.
     for (QAction* const action : menu.added) {
         menu.menu->removeAction(action);
         if (action->menu()) {

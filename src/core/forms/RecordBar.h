@@ -53,7 +53,8 @@ class RecordBar : public QObject {
     std::vector<std::pair<QWidget*, std::string>> pages_;
 };
 
-/// Returns the title with a mnemonic that is free on the form; without one if all letters are used.
+/// Returns the title with a mnemonic that is free on the form; without a mnemonic if all letters
+/// are used.
 QString WithFreeMnemonic(const QWidget& form, const QString& title);
 
 } // namespace core::forms

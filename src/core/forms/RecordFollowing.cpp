@@ -1,4 +1,4 @@
-// How a record's screen follows changes made elsewhere, deletion included.
+// How a record's screen follows changes made elsewhere, including its deletion.
 
 #include <QBoxLayout>
 #include <QEvent>
@@ -27,7 +27,7 @@ void RecordForm::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::i
     const LoadingGuard loading(*this);
     const binding::Controls touched = Touched();
     Refresh(kind);
-    // The form reloads its own saves itself.
+    // The form itself loads the row again after its own saves.
     if (!storing_) FollowRow(touched);
 }
 

@@ -63,7 +63,7 @@ void RecordForm::OpenRecord(std::int32_t id, const std::function<void()>& fillLi
     read_.clear();
     fields_.Forget();
     binding::SetTag(*this, {});
-    // A list that can't be read completely doesn't keep the form from opening.
+    // If a list can't be read completely, the form opens all the same.
     Guarded(fillLists);
     fields_.KeepBlanks(*this);
     if (id_ != 0) Guarded([this] { Load(); });
@@ -116,7 +116,7 @@ void RecordForm::Load() {
     platform::Recordset row;
     FindRow(row);
     if (row.Eof()) {
-        // The screen goes on with a new record of the same contents.
+        // The screen continues as a new record with the same contents.
         id_ = 0;
         read_.clear();
         fields_.Forget();

@@ -26,7 +26,7 @@ struct RecordPlace {
     std::string tagTable = {};
 };
 
-/// The life of a screen that edits one row: it loads, becomes dirty, validates and saves. A derived
+/// The base of screens that edit one row: loading, becoming dirty, validating and saving. A derived
 /// screen adds its lists, its rules and what follows a save. It is constructed in this order:
 /// setupUi, Wire, then from the screen's own Setup, OpenRecord.
 ///
@@ -39,9 +39,9 @@ class RecordForm : public Form {
   public:
     /// Returns 0 while the record is new.
     std::int32_t Id() const { return id_; }
-    /// Whether something was changed since the last load or save.
+    /// Returns whether something was changed since the last load or save.
     bool Dirty() const { return dirty_; }
-    /// True while code fills the controls; change signals are not user edits.
+    /// Returns true while code fills the controls; change signals are not user edits.
     bool Loading() const { return loading_; }
 
     /// The commands of the buttons. Both save first and stop if that fails.
@@ -54,12 +54,12 @@ class RecordForm : public Form {
 
     /// Connects the controls created by setupUi.
     void Wire();
-    /// Fills the lists, loads the record, or fills in what a new one starts with (id 0, or an id
-    /// that doesn't exist), and shows the form.
+    /// Fills the lists, loads the record (or, for id 0 or an id that doesn't exist, fills in the
+    /// values that a new one starts with), and shows the form.
     void OpenRecord(std::int32_t id, const std::function<void()>& fillLists,
                     std::function<void()> propose = {});
 
-    /// Opens the record's row to read it; no current row if it doesn't exist.
+    /// Opens the record's row for reading; there is no current row if the record doesn't exist.
     virtual void FindRow(platform::Recordset& row);
     /// Opens the record's row for writing: a new row under a new id for a new record; a deleted one
     /// is restored under its id, with every field as it was last read.
@@ -71,21 +71,21 @@ class RecordForm : public Form {
     virtual void ShowRow(platform::Recordset& row);
     /// Copies the fields to be written to the row.
     virtual void WriteRow(platform::Recordset& row);
-    /// Called if no record has the id; the screen goes on with a new one.
+    /// Called if no record has the id; the screen continues as a new one.
     virtual void RowMissing() {}
     virtual void ShowCaption() = 0;
     /// Returns the errors in the entries, a line each; empty if they can be saved.
     virtual std::vector<std::string> Errors() { return {}; }
     /// Asks any questions once the entries are valid; returns false to stop the save.
     virtual bool Agreed() { return true; }
-    /// Writes what is saved together with the row, within its unit of work.
+    /// Writes whatever else is saved together with the row, within its unit of work.
     virtual void StoreRest() {}
     /// Writes the entries, within a unit of work. A screen that saves more than its row leaves all
     /// of it to the logic and sets a new record's id.
     virtual void Store();
-    /// Whether Close saves a new record without entries.
+    /// Returns whether Close saves a new record without entries.
     virtual bool SavesUntouched() const { return true; }
-    /// Called after a save, for what follows it.
+    /// Called after a save, to do what depends on it.
     virtual void AfterSave() {}
     /// Refreshes the parts that depend on records of `kind`; it never makes the form dirty.
     virtual void Refresh(std::int16_t kind);
@@ -98,7 +98,7 @@ class RecordForm : public Form {
 
     /// Shows another record in the same form, or a new one with id 0; the entries are dropped.
     void ShowRecord(std::int32_t id);
-    /// Makes the present contents a new record's.
+    /// Turns the present entries into a new record.
     void BecomeNew();
     void Load();
     /// Returns false if the entries are refused. Throws if the database fails; the form stays
@@ -107,7 +107,7 @@ class RecordForm : public Form {
     void MarkDirty();
     void SetId(std::int32_t id) { id_ = id; }
 
-    /// Whether the row being written is new, or is restored after its deletion.
+    /// Returns whether the row being written is new, or is restored after its deletion.
     bool WritesNewRow() const { return writesNewRow_; }
     /// Returns true for a new record, and for a control changed by the user since the row was
     /// shown.

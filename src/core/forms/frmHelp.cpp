@@ -110,7 +110,8 @@ QString frmHelp::Topic() const {
     return QFileInfo(page_->source().path()).completeBaseName();
 }
 
-/// The collection knows a help file by its path; a file that has changed since is registered again.
+/// The collection identifies a help file by its path; a file that has changed since is registered
+/// again.
 void frmHelp::RegisterFile(const QString& file) {
     engine_.setupData();
     const QString stamp = file + QFileInfo(file).lastModified().toString(Qt::ISODateWithMs);

@@ -77,7 +77,7 @@ void frmWizard::AddTextStep(const QString& word, const QString& heading, const Q
 
 void frmWizard::WireSteps() {
     binding::WireControls(*this);
-    // The buttons were created before the controls of the steps.
+    // The buttons were created before the controls of the steps, so the tab order is set here.
     QWidget* last = ui_->fraStep;
     for (QWidget* const button : std::initializer_list<QWidget*>{
              ui_->chkSkip, ui_->cmdHelp, ui_->cmdCancel, ui_->cmdBack, ui_->cmdNext}) {

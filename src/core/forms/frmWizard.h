@@ -37,7 +37,7 @@ class frmWizard : public Form {
 
     /// Adds a step at the end. Its heading is shown above it, and `word` in the list of steps.
     QFrame& AddStep(const QString& word, const QString& heading);
-    /// The same of a text, named `label`, with a control below it if there is one.
+    /// Adds a step that shows a text named `label`, with a control below it if there is one.
     void AddTextStep(const QString& word, const QString& heading, const QString& text,
                      const char* label = "lblIntro", QWidget* below = nullptr);
     /// Connects the controls of all steps.

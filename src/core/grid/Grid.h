@@ -21,7 +21,7 @@ enum class Sizing {
     Manual = 0,  ///< as the user left them
     FitGrid = 1, ///< all columns share the grid's width
     FitText = 2, ///< each as wide as its widest text
-    FillGrid,    ///< the same, and the columns share what is left of the grid's width
+    FillGrid,    ///< the same, and the columns share the rest of the grid's width
 };
 
 /// A table for reading and choosing the rows of a row set. Its first column usually holds the
@@ -60,13 +60,13 @@ class Grid : public QTableView {
     /// rows.
     std::vector<int> WantedWidths() const;
     void Fit(int firstColumn, Sizing sizing);
-    /// Gives the columns that the user has resized their widths back.
+    /// Restores the widths of the columns that the user has resized.
     void ApplyOwnWidths();
     /// Forgets the user's widths if other columns are shown now.
     void ColumnsLoaded();
     /// Sets widths on the program's behalf, not the user's; a width of 0 hides the column.
     void SetWidths(const std::vector<int>& widths, int firstColumn);
-    /// Whether the grid was ever visible. Widths of a grid that wasn't are meaningless.
+    /// Returns whether the grid was ever visible. Widths of a grid that wasn't are meaningless.
     bool WasSeen() const { return wasSeen_; }
     QString StoreName() const;
 
@@ -115,7 +115,7 @@ enum class HeaderFont { Plain, Bold };
 /// type. Columns may be resized from now on; a filter is removed.
 platform::FieldType LoadGrid(Grid& grid, platform::Recordset rows,
                              HeaderFont header = HeaderFont::Bold);
-/// The same with any table.
+/// Does the same with any table.
 platform::FieldType LoadGrid(Grid& grid, std::unique_ptr<core::Table> table,
                              HeaderFont header = HeaderFont::Bold);
 
@@ -130,7 +130,7 @@ void FormatColumnYesNo(Grid& grid, int column);
 /// an empty grid. FitGrid stays in force when the grid changes its size. A column that the user has
 /// resized keeps its width.
 void AutoSizeGrid(Grid& grid, int firstColumn, Sizing sizing);
-/// The same by counting characters.
+/// Does the same by counting characters.
 void AutoSizeByLength(Grid& grid, int firstColumn);
 
 /// Restores the widths stored under the grid's name, if there is one for each column.

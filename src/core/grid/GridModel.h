@@ -32,19 +32,19 @@ class GridModel : public QAbstractTableModel {
 
     /// Takes over a table; every column starts with the table's format. Null shows nothing.
     void SetTable(std::unique_ptr<core::Table> table);
-    /// The same for the rows of a row set, which may be closed.
+    /// Does the same for the rows of a row set, which may be closed.
     void SetRows(platform::Recordset rows);
     /// Reads a lazily read row set in slices while the user works, until AllRead. Rows that become
     /// visible before that are read immediately.
     void ReadOn();
     /// Returns how many rows can be shown without reading on.
     int RowsAtHand() const;
-    /// Whether there is a table with columns.
+    /// Returns whether there is a table with columns.
     bool IsLoaded() const { return !columns_.empty(); }
 
     /// Shows only the rows with `text` in any visible column, ignoring case; all rows for empty
-    /// text. In a long list the first matches show at once and the others join them as they are
-    /// found, until NarrowingEnded.
+    /// text. In a long list the first matches are shown immediately and the others join them as
+    /// they are found, until NarrowingEnded.
     void Narrow(const QString& text, int firstColumn);
     bool IsNarrowing() const { return search_.has_value(); }
 
@@ -59,7 +59,7 @@ class GridModel : public QAbstractTableModel {
     platform::FieldType TypeOf(int column) const;
 
     void SetFormat(int column, ColumnFormat format);
-    /// Does nothing for a cell outside the grid.
+    /// Sets the background of one cell; does nothing for a cell outside the grid.
     void SetColor(int column, int row, QColor color);
     void SetColorRule(int column, ColorRule rule);
     /// Sets the background of whole rows, below the colours of cells.
@@ -95,7 +95,7 @@ class GridModel : public QAbstractTableModel {
     std::unordered_map<std::int64_t, QColor> colors_;
     QString narrowed_;
     std::vector<std::int32_t> shown_; ///< while narrowed, the rows that are left
-    std::optional<RowSearch> search_; ///< while rows are still looked through
+    std::optional<RowSearch> search_; ///< while rows are still being searched
     std::int32_t nextSearched_ = 0;
     QTimer nextSlice_;
     RowRule rowRule_;

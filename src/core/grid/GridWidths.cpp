@@ -43,8 +43,9 @@ std::vector<int> SampleRows(int rowCount, int samples = kSamples) {
     return rows;
 }
 
-/// If the columns want more than there is room for, the widest give way, so that dates and amounts
-/// stay whole: every column is cut down to the largest common width that fits.
+/// If the columns want more width than there is, returns smaller widths: every column is cut down
+/// to the largest common width that fits, so that only the widest become narrower and dates and
+/// amounts stay whole.
 std::vector<int> Capped(std::vector<int> wanted, int first, int total) {
     const auto columns = std::ranges::subrange(wanted.begin() + first, wanted.end());
     const auto sumUnder = [&](int cap) {
@@ -92,7 +93,7 @@ void Grid::SetWidths(const std::vector<int>& widths, int firstColumn) {
 }
 
 void Grid::ColumnResized(int column, int before, int now) {
-    // A width changing to or from 0 means that the column is hidden or shown.
+    // If a width changes to or from 0, the column was hidden or shown.
     if (!sizingColumns_ && before > 0 && now > 0) ownWidths_[column] = now;
 }
 

@@ -34,7 +34,8 @@ class Row : public QTreeWidgetItem {
     }
 };
 
-/// Returns the number by which a date or money is sorted; nothing for what is sorted by its text.
+/// Returns the number by which a date or money is sorted; nothing for a value that is sorted by its
+/// text.
 QVariant SortNumber(const platform::Value& value, platform::FieldType type) {
     switch (type) {
         case platform::FieldType::Date:

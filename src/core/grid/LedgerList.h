@@ -18,7 +18,7 @@ class LedgerList : public QTreeWidget {
 
     void SetTicks(bool ticks) { ticks_ = ticks; }
     /// Shows the rows of a table: its first column has their ids, the second their flags, and the
-    /// third their dates, beside which the ticks are. The descriptions take the width that the
+    /// third their dates, with the ticks beside them. The descriptions take the width that the
     /// other columns leave. The current row stays current.
     void ShowTable(const core::Table& table, const std::vector<bool>& ticks = {});
     /// Sets only the ticks, in the order of the table.

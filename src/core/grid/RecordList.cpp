@@ -14,7 +14,7 @@ namespace core::grid {
 
 namespace {
 
-constexpr int kFirstShown = 1; // behind the id column
+constexpr int kFirstShown = 1; // after the id column
 constexpr int kRowsWanted = 6; // a lower list isn't worth its place
 
 } // namespace
@@ -48,7 +48,7 @@ RecordList::~RecordList() {
     KeepWidths();
 }
 
-/// The widths of a list that was never visible were chosen by nobody.
+/// The user didn't choose the widths of a list that was never visible.
 void RecordList::KeepWidths() {
     if (wasSeen_) SaveColumnWidths(*grid_);
 }

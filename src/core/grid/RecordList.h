@@ -27,7 +27,7 @@ class RecordList : public QWidget {
     /// Shows rows with their id in the first column, in a grid that stores its widths under
     /// `gridKey`. The selected record stays selected.
     void ShowRows(platform::Recordset rows, std::string_view gridKey);
-    /// Shows no rows but the reason why.
+    /// Shows no rows, but the reason for that.
     void ShowNothing(const QString& reason);
     /// Sets which buttons apply at all; Edit and Delete also need a selected row.
     void Allow(bool add, bool edit, bool remove);

@@ -29,7 +29,7 @@ class RowSearch {
     bool IsIn(const std::string& cell) const;
 
     std::string text_;
-    bool isPlain_ = true;       ///< ASCII alone
+    bool isPlain_ = true;       ///< only ASCII
     std::vector<Place> places_; ///< the columns that can have such a text
 };
 

@@ -10,7 +10,7 @@ namespace documents::screens {
 namespace {
 
 QIcon IconOfKind(const QFileInfo& file) {
-    // Decided by the name only: reading the file could take long on a slow disk.
+    // Chosen by the name only: reading the file could take long on a slow disk.
     const QMimeType kind = QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension);
     for (const QString& name : {kind.iconName(), kind.genericIconName()}) {
         if (QIcon::hasThemeIcon(name)) return QIcon::fromTheme(name);

@@ -8,7 +8,7 @@
 
 namespace documents::screens {
 
-/// A line of the list: the looks of its file.
+/// The parts of a file that its line in the list shows.
 struct FileLook {
     bool path = false; ///< instead of the description
     bool icon = true;

@@ -13,7 +13,7 @@ namespace {
 constexpr int kMostMegabytes = 256;
 constexpr qint64 kMostPixels = 300'000'000;
 
-/// The limit applies to the whole process, and pictures are read on several threads.
+/// Sets the limit for the whole process, because pictures are read on several threads.
 void LimitMemory() {
     static std::once_flag once;
     std::call_once(once, [] { QImageReader::setAllocationLimit(kMostMegabytes); });

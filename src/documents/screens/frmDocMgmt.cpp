@@ -153,7 +153,7 @@ void frmDocMgmt::Setup() {
         ui_->grd->setCurrentCell(0, kName);
 }
 
-/// The descriptions take the room that is left, which long paths need for themselves.
+/// The descriptions take the remaining width, which long paths need for themselves.
 void frmDocMgmt::ShowPaths(bool isOn) {
     ui_->grd->setColumnHidden(kPath, !isOn);
     ui_->grd->horizontalHeader()->setSectionResizeMode(

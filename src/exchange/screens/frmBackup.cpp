@@ -139,8 +139,7 @@ bool frmBackup::MayClose() {
     return core::forms::ShowErrorRoll(Errors());
 }
 
-/// A configuration that can't be saved doesn't keep the screen from closing, or the program from
-/// ending.
+/// If the configuration can't be saved, the screen closes and the program ends all the same.
 void frmBackup::closeEvent(QCloseEvent* event) {
     Form::closeEvent(event);
     if (!event->isAccepted()) return;

@@ -127,7 +127,7 @@ void frmFinExport::ShowSettings() {
                                                                             : Qt::AscendingOrder);
 }
 
-/// The dates are stored when they are entered.
+/// The settings' dates are stored when they are entered.
 void frmFinExport::ReadSettings() {
     settings_.finType = static_cast<FinType>(Selected(types_));
     settings_.range.range = static_cast<TransRange>(Selected(ranges_));

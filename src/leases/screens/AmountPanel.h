@@ -16,24 +16,24 @@ namespace leases::screens {
 
 class PreviewList;
 
-/// Where an amount that came in is entered, with the rows that it will write. Without an amount the
-/// preview is hidden, and whole charges are paid.
+/// The panel in which the user enters an amount that came in, with the rows that it will write.
+/// Without an amount the preview is hidden, and whole charges are paid.
 class AmountPanel : public QWidget {
     Q_OBJECT
 
   public:
     explicit AmountPanel(QWidget* parent = nullptr);
 
-    /// Whether an amount, or something else, was typed.
+    /// Returns whether an amount, or something else, was typed.
     bool IsUsed() const;
-    /// The amount; nothing if the text isn't one.
+    /// Returns the amount; nothing if the text isn't one.
     std::optional<platform::Currency> Received() const;
     RentPart Part() const;
     void ShowPreview(const PreviewRows& rows);
 
   Q_SIGNALS:
     void Changed();
-    /// The charge in focus is to be paid one place earlier (-1) or later (1).
+    /// Emitted to pay the charge in focus one place earlier (-1) or later (1).
     void MoveAsked(int step);
 
   private:

@@ -18,9 +18,9 @@ class ChargeList : public core::grid::LedgerList {
     explicit ChargeList(QWidget* parent = nullptr);
 
     std::vector<std::int32_t> TickedIds() const;
-    /// All rows, from the top.
+    /// Returns all rows, from the top.
     std::vector<std::int32_t> ShownIds() const;
-    /// Moves the row in focus up (-1) or down (1) by one place; false at the edge.
+    /// Moves the row in focus up (-1) or down (1) by one place; returns false at either end.
     bool MoveCurrent(int step);
 
     /// Selects exactly these rows.

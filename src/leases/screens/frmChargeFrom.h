@@ -35,7 +35,7 @@ class frmChargeFrom : public QDialog {
     platform::Date since_;
 };
 
-/// Asks this question if a lease with these terms raises it. Returns the next due date to give the
+/// Asks the question if a lease with these terms raises it. Returns the next due date to give the
 /// lease, unset if there was nothing to ask; nothing if the user cancelled.
 std::optional<platform::Date> AskChargeFrom(const LeaseTerms& terms, QWidget& form);
 

@@ -138,7 +138,7 @@ void frmLease::FillLists() {
         more_->cboSubsidyType->addItem(tr("Account"), core::kAccount);
         more_->cboSubsidyType->addItem(tr("Tenant"), core::kTenant);
     }
-    // A list that can't be read doesn't keep the others from being filled.
+    // If a list can't be read, the others are filled all the same.
     Guarded([this] { FillPayors(); });
     Guarded([this] { FillList(core::kUnit, *terms_->cboIdUnit, {.addNone = true}); });
     Guarded([this] { FillList(core::kTenant, *terms_->cboIdTenant, {.addNone = true}); });

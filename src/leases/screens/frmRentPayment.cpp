@@ -54,7 +54,7 @@ QMenu* frmRentPayment::MakePaymentMenu() {
     receiptMenu_->setToolTipsVisible(true);
     return_ = payment->addAction(tr("Re&turned by the Bank..."));
     return_->setObjectName(QStringLiteral("mnuReturnPayment"));
-    // Not as a command of this form, which closes first.
+    // It isn't run as a command of this form, which closes first.
     connect(return_, &QAction::triggered, this, [this] { Guarded([this] { ReturnPayment(); }); });
     return payment;
 }
@@ -193,7 +193,7 @@ void frmRentPayment::TicksChanged() {
     ShowTotal();
 }
 
-/// Ticks every open charge again, but remembers the user's own ticks.
+/// Reads the charges again, which ticks every open one, but restores the user's own ticks.
 void frmRentPayment::RereadCharges() {
     ReadTicks();
     if (!tickedAgain_) ticks_.Keep(payment_);

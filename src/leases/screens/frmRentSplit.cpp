@@ -88,7 +88,7 @@ SplitPart frmRentSplit::ReadPart(const Line& line) {
             FromScreen(line.description->text())};
 }
 
-/// The other part takes the remainder.
+/// The other part gets the remainder.
 void frmRentSplit::AmountChanged(std::size_t part) {
     if (Loading()) return;
     const auto amount = lines_[part].amount->Amount();

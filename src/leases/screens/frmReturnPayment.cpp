@@ -85,7 +85,7 @@ void frmReturnPayment::Store() {
     try {
         SubmitReturn(returned_);
     } catch (const platform::ConflictError&) {
-        // The preview shows the books as they are now before the user reads why nothing was posted.
+        // The preview must show the present books when the user reads why nothing was posted.
         Guarded([this] {
             const PaymentReturn entered = returned_;
             PaymentReturn now = ProposeReturn(entered.payment.idTransaction);

@@ -20,7 +20,8 @@ namespace {
 constexpr QRgb kTint = 0xFFE2FEEB;
 constexpr QRgb kTintOnDark = 0xFF24382B;
 
-/// The tint of every second row, dark in dark windows, so that their text stays readable.
+/// Returns the tint of every second row; it is dark in dark windows, so that their text stays
+/// readable.
 std::optional<QColor> Tint(int row) {
     if (!AmortGrid::IsTinted(row)) return std::nullopt;
     const bool isDark = QGuiApplication::palette().color(QPalette::Base).lightness() < 128;

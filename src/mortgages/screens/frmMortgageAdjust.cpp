@@ -94,7 +94,7 @@ void frmMortgageAdjust::SetupTakeBack(const clsMortgage& loan) {
                                           ToScreen(platform::FormatMoney(entry.amount)));
             ui_->cboTakeBack->addItem(text, entry.period);
         }
-        // The latest adjustment is the most likely slip.
+        // The latest adjustment is the one most likely made by mistake.
         const int before = ui_->cboTakeBack->findData(loan.CurrentPeriod() - 1);
         ui_->cboTakeBack->setCurrentIndex(std::max(before, 0));
     });

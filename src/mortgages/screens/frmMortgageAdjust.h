@@ -20,7 +20,7 @@ class frmMortgageAdjust : public core::forms::EntryForm {
     explicit frmMortgageAdjust(QWidget* parent = nullptr);
     ~frmMortgageAdjust() override;
 
-    // Each opens the screen with one of its frames, for the loan as it is shown.
+    // Each function opens the screen with one of its frames, for the loan as it is shown.
     void SetupInt(const clsMortgage& loan);
     void SetupBalance(const clsMortgage& loan);
     void SetupTerms(const clsMortgage& loan);

@@ -16,7 +16,7 @@ void ForecastRun::Start(const std::filesystem::path& books, platform::Date until
     isRunning_ = true;
     thread_ = std::thread([this, books, until, number = ++number_] {
         const Result result = Work(books, until, isStopped_);
-        // Taken by the window's thread; not at all once this object is destroyed.
+        // Taken over by the window's thread; dropped if this object has been destroyed.
         QMetaObject::invokeMethod(
             this,
             [this, result, number] {

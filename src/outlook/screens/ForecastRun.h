@@ -11,7 +11,7 @@
 
 namespace outlook::screens {
 
-/// Looks ahead on a thread of its own, so that the window goes on working.
+/// Looks ahead on a thread of its own, so that the window stays responsive.
 class ForecastRun : public QObject {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ class ForecastRun : public QObject {
 
     /// Begins a run. One that is under way is stopped first, and reports nothing.
     void Start(const std::filesystem::path& books, platform::Date until);
-    /// Lets the run end soon. It then reports Failed.
+    /// Makes the run end soon. It then reports Failed.
     void Stop();
     bool IsRunning() const { return isRunning_; }
 

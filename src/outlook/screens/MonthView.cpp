@@ -19,7 +19,7 @@ constexpr int kWeeks = 6;
 constexpr int kLinesRole = Qt::UserRole;
 constexpr int kCellMargin = 8;
 
-/// The weekday of the first column, 0 for Sunday.
+/// Returns the weekday of the first column, 0 for Sunday.
 int FirstWeekday() {
     return QLocale().firstDayOfWeek() % kDaysOfWeek;
 }
@@ -95,7 +95,7 @@ void MonthView::ShowDay(QTableWidgetItem& cell, Date day, bool isInMonth, bool i
     QFont font = this->font();
     font.setBold(isToday);
     cell.setFont(font);
-    // Another month's days are only there to be seen.
+    // The days of other months can only be seen, not chosen.
     cell.setFlags(isInMonth ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
 }
 

@@ -7,8 +7,8 @@
 
 namespace outlook::screens {
 
-/// A month as a page of a calendar: six weeks, with what comes on each day. Weeks begin as the
-/// machine's region has it.
+/// A month as a page of a calendar: six weeks, with the entries of each day. The weeks begin on the
+/// weekday that is usual in the machine's region.
 class MonthView : public QTableWidget {
     Q_OBJECT
 
@@ -18,11 +18,11 @@ class MonthView : public QTableWidget {
     /// Shows the month of `day`, with `day` as the current one.
     void ShowMonth(platform::Date day, platform::Date today,
                    const std::map<platform::Date, CalendarDay>& days);
-    /// The day of the current cell.
+    /// Returns the day of the current cell.
     platform::Date CurrentDay() const;
 
   Q_SIGNALS:
-    /// A double click or Enter on a day.
+    /// Emitted by a double click or Enter on a day.
     void DayChosen(platform::Date day);
 
   protected:

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-/// One stored value as the engine holds it. The bytes of a text belong to whoever gave the cell.
+/// One stored value as the engine holds it. The bytes of a text belong to the provider of the cell.
 struct Cell {
     enum class Kind : std::uint8_t { Null, Integer, Real, Text, Blob };
 
@@ -24,13 +24,13 @@ struct Cell {
     friend bool operator==(const Cell&, const Cell&) = default;
 };
 
-/// What a field of `type` reads from a stored value. What another tool stored in another form is
-/// read as the type would have it where that loses nothing, else as what it is. An amount or a day
-/// that no value holds throws OverflowError.
+/// Returns a stored value as a field of `type` reads it. A value that another tool stored in
+/// another form is converted to the type if nothing is lost by that; otherwise it is returned as it
+/// is. Throws OverflowError for an amount or a day that no value can hold.
 Value ReadCell(const Cell& cell, FieldType type);
 
-/// A value as a field of `type` stores it; one that doesn't convert throws as Value does. A text
-/// stays where it is in `value`, or is made in `scratch`.
+/// Returns a value as a field of `type` stores it; throws as Value does if it can't be converted. A
+/// text stays in `value`, or is made in `scratch`.
 Cell StoreCell(const Value& value, FieldType type, std::string& scratch);
 
 } // namespace platform

@@ -20,7 +20,7 @@ class ChangeWatch {
     ChangeWatch(const ChangeWatch&) = delete;
     ChangeWatch& operator=(const ChangeWatch&) = delete;
 
-    /// Returns a number that is another one after each commit. Throws DatabaseError on failure.
+    /// Returns a number that changes with each commit. Throws DatabaseError on failure.
     std::int64_t Version() const;
 
   private:

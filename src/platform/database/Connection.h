@@ -40,13 +40,13 @@ class Connection {
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// Opens an existing database; Create makes the file (private to the user), and fails if it is
-    /// there. An open connection is closed first.
+    /// Opens an existing database; with OpenMode::Create, makes the file (private to the user) and
+    /// fails if it already exists. An open connection is closed first.
     void Open(const std::filesystem::path& file, OpenMode mode = OpenMode::ReadWrite);
     /// Does nothing if it isn't open.
     void Close();
     bool IsOpen() const;
-    /// True if it is open and every statement that writes will fail.
+    /// Returns true if the connection is open, and every statement that writes will fail.
     bool IsReadOnly() const;
     const std::filesystem::path& File() const;
 
@@ -60,13 +60,13 @@ class Connection {
     std::optional<Value> Scalar(std::string_view sql, std::span<const Value> parameters = {});
     std::optional<Value> Scalar(std::string_view sql, std::initializer_list<Value> parameters);
 
-    /// The tables and their fields as the file declares them.
+    /// Returns the tables and their fields as the file declares them.
     const dialect::Catalog& Tables();
 
     /// Runs statements of the engine's own SQL, all or none of them: only for the schema.
     void RunScript(std::string_view script);
 
-    /// True between the begin and the end of a unit of work.
+    /// Returns whether a unit of work is open.
     bool InUnitOfWork() const;
 
     /// Calls `work` once, after the unit of work that is open now has ended as a whole, in the
@@ -88,10 +88,11 @@ class Connection {
 };
 
 /// Statements that are committed together or, without Commit, rolled back, also if the machine
-/// stops. A write from its start: what is read in it stays true until it ends. A unit inside
-/// another can be rolled back by itself, and so is a statement that fails. Only if the engine had
-/// to give up the whole unit (a full disk) does every further statement fail, and Commit too. The
-/// constructor throws DatabaseError if another program goes on writing for longer than we wait.
+/// stops. A unit counts as a write from its start: what is read in it stays true until it ends. A
+/// unit inside another can be rolled back by itself, and so is a statement that fails. Only if the
+/// engine had to give up the whole unit (a full disk), every further statement fails, and Commit
+/// too. The constructor throws DatabaseError if another program goes on writing for longer than we
+/// wait.
 class UnitOfWork {
   public:
     explicit UnitOfWork(Connection& connection);

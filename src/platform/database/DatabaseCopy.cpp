@@ -30,7 +30,7 @@ struct EndBackup {
 DatabaseCopy::DatabaseCopy(const std::filesystem::path& database)
     : source_(OpenDatabaseFile(database, OpenMode::ReadOnly)) {
     Ask(*source_, "PRAGMA mmap_size = 1073741824"); // saves copying each page once more
-    // The first reading after the begin fixes the view of the database, and with it the size.
+    // The first read after BEGIN fixes the view of the database, and so its size.
     Ask(*source_, "BEGIN");
     pageSize_ = Ask(*source_, "PRAGMA page_size");
     size_ = pageSize_ * Ask(*source_, "PRAGMA page_count");

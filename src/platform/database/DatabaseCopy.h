@@ -17,13 +17,13 @@ namespace platform {
 /// database as it was at one moment, made by the engine. Every failure is an Error with the reason.
 class DatabaseCopy {
   public:
-    /// Fixes the moment.
+    /// Fixes the moment of the copy.
     explicit DatabaseCopy(const std::filesystem::path& database);
     ~DatabaseCopy();
     DatabaseCopy(const DatabaseCopy&) = delete;
     DatabaseCopy& operator=(const DatabaseCopy&) = delete;
 
-    /// The length of the copy in bytes.
+    /// Returns the length of the copy in bytes.
     std::int64_t Size() const { return size_; }
 
     using Progress = std::function<void(std::int64_t bytesDone)>;

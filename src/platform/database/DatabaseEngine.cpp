@@ -36,7 +36,8 @@ bool IsNameLetter(char c) {
     return letter || (c >= '0' && c <= '9') || c == '_' || static_cast<unsigned char>(c) >= 0x80;
 }
 
-// The name in a statement that is nothing but a name, bare or in brackets; empty for another.
+// Returns the name in a statement that consists only of a name, bare or in brackets; empty for any
+// other statement.
 std::string_view BareName(std::string_view sql) {
     sql = Trim(sql);
     if (sql.size() > 2 && sql.front() == '[' && sql.find(']') == sql.size() - 1) {
@@ -80,7 +81,7 @@ DatabaseEngine::~DatabaseEngine() {
     try {
         ReadPending();
     } catch (const Error&) {
-        // A row set that can't be read to its end has the rows that were read.
+        // If a row set can't be read to its end, it keeps the rows that were read.
     }
 }
 
@@ -211,7 +212,8 @@ void DatabaseEngine::RollBack(int level) noexcept {
     try {
         ReadCatalog();
     } catch (const Error&) {
-        // The tables as they were last; a statement on a table that no longer exists will say so.
+        // The tables stay as they were when last read; a statement on a table that no longer exists
+        // fails with that message.
     }
 }
 

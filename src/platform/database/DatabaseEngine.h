@@ -28,17 +28,18 @@ class DatabaseEngine {
     bool IsReadOnly() const;
     const dialect::Catalog& Tables() const { return catalog_; }
 
-    /// The prepared form of a statement of the dialect; a table's bare name means its rows.
+    /// Returns the prepared form of a statement of the dialect; a table's bare name means its rows.
     CachedStatement& Prepare(std::string_view sql);
-    /// The prepared form of a statement of the engine's SQL that is known by a key of its own.
+    /// Returns the prepared form of a statement of the engine's SQL that is known by a key of its
+    /// own.
     template <typename MakeSql>
     CachedStatement& PrepareOwn(std::string_view key, MakeSql makeSql);
 
     /// Binds a value for each `?` of the plan; the values must stay until the statement is reset.
     static void Bind(CachedStatement& statement, std::span<const Value> parameters);
-    /// Runs a statement to its end. The number of rows affected, 0 for a select.
+    /// Runs a statement to its end. Returns the number of rows affected, 0 for a select.
     std::int64_t Run(CachedStatement& statement);
-    /// The number of the row that was inserted last.
+    /// Returns the number of the row that was inserted last.
     std::int64_t LastRowNumber() const { return database_->getLastInsertRowid(); }
     /// Throws DatabaseError inside a unit of work that the engine has given up: later statements
     /// would be written outside it.
@@ -46,12 +47,12 @@ class DatabaseEngine {
 
     void RunScript(std::string_view script);
 
-    /// Rows that are still to be read, until they are removed: they are read before anything is
-    /// written.
+    /// Adds rows that are still to be read. Until they are removed, they are read before anything
+    /// is written.
     void AddPending(PendingRows& rows) { pending_.push_back(&rows); }
     void RemovePending(const PendingRows& rows) noexcept { std::erase(pending_, &rows); }
 
-    // Units of work, one inside another; each has a level counted from 1.
+    // Begins a unit of work, which may be inside another, and returns its level, counted from 1.
     int Begin();
     void Commit(int level);
     /// Rolls back the unit of this level with all inside it; does nothing if it has ended.

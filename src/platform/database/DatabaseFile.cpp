@@ -24,7 +24,7 @@ std::chrono::milliseconds& BusyTimeout() {
     return timeout;
 }
 
-// The database in memory that waits to be opened.
+// Returns the database in memory that waits to be opened.
 Handle& Lent() {
     thread_local Handle database;
     return database;
@@ -44,7 +44,7 @@ int PrimaryCode(const SQLite::Exception& error) {
     return error.getErrorCode() & 0xFF;
 }
 
-// `systemError` is the errno that came with the engine's failure, 0 if none did.
+// `systemError` is the errno that came with the engine's failure, 0 if there was none.
 std::string ReasonOf(const SQLite::Exception& error, int systemError, const fs::path& file) {
     if (systemError == ENOSPC || systemError == EDQUOT) return "the disk is full";
     switch (PrimaryCode(error)) {
@@ -77,13 +77,13 @@ void CheckExists(const fs::path& file) {
     if (fs::is_directory(status)) {
         ThrowCannot("open", file, "it is a directory", SQLITE_CANTOPEN);
     }
-    // The engine would take a file without a byte for a new database.
+    // The engine would take an empty file for a new database.
     if (fs::is_regular_file(status) && fs::file_size(file, error) == 0 && !error) {
         ThrowCannot("open", file, "it is not a database", SQLITE_NOTADB);
     }
 }
 
-// Nobody else may read the file from the first moment on.
+// Makes a file that nobody else can read from the first moment on.
 void MakeEmptyFile(const fs::path& file) {
     const int error = MakePrivateFile(file);
     if (error == 0) return;
@@ -91,8 +91,8 @@ void MakeEmptyFile(const fs::path& file) {
                 SQLITE_CANTOPEN);
 }
 
-// The engine would count every piece of memory it takes, under a lock, for figures that nobody asks
-// for. It can be switched off only before its first use.
+// Otherwise the engine would count every piece of memory that it takes, under a lock, for figures
+// that nobody needs. The counting can be switched off only before the engine is first used.
 void TellEngineNotToCount() {
     static const int told = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
     static_cast<void>(told);
@@ -121,7 +121,7 @@ void SetUpToRead(SQLite::Database& database) {
 
 void SetUpToWrite(SQLite::Database& database) {
     SetUpToRead(database);
-    // The engine quietly falls back to reading where it may not write.
+    // The engine falls back to read-only without a message if it may not write.
     if (sqlite3_db_readonly(database.getHandle(), "main") != 0) {
         throw SQLite::Exception("read-only", SQLITE_READONLY);
     }
@@ -137,7 +137,7 @@ bool IsForbidden(const DatabaseError& error) {
     return error.Code() == SQLITE_CANTOPEN || error.Code() == SQLITE_READONLY;
 }
 
-// The name of a file that nobody changes while it is open, as the engine wants it.
+// Returns the engine's name for a file that nobody changes while it is open.
 std::string ImmutableName(const fs::path& file) {
     std::string name = "file:";
     for (const char c : file.string()) {
@@ -164,8 +164,8 @@ Handle OpenToRead(const fs::path& file) {
     try {
         return OpenHandle(file, file.string(), SQLITE_OPEN_READONLY, SetUpToRead);
     } catch (const DatabaseError& error) {
-        // A write-ahead log needs a file beside the database even to be read. Where none can be
-        // made nobody can be writing either.
+        // A write-ahead log needs a file beside the database even for reading. If that can't be
+        // made, nobody can be writing either.
         if (!IsForbidden(error) || HasUnreadLog(file)) throw;
     }
     return OpenHandle(file, ImmutableName(file), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI,

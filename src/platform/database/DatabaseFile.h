@@ -16,8 +16,8 @@ namespace platform {
 std::unique_ptr<SQLite::Database> OpenDatabaseFile(const std::filesystem::path& file,
                                                    OpenMode mode);
 
-/// Lends a database in memory a name, by which OpenDatabaseFile opens it once, on this thread and
-/// while this lives; in any mode.
+/// Gives a database in memory a name, by which OpenDatabaseFile can open it once, in any mode, on
+/// this thread and during this object's lifetime.
 class InMemory {
   public:
     explicit InMemory(std::unique_ptr<SQLite::Database> database);
@@ -28,8 +28,8 @@ class InMemory {
     static std::filesystem::path Name();
 };
 
-/// Sets how long connections opened from now on wait for another program that is writing; a test
-/// that lets one wait in vain sets less.
+/// Sets how long connections opened from now on wait for another program that is writing; a test in
+/// which one waits in vain sets less.
 void SetBusyTimeout(std::chrono::milliseconds timeout);
 
 /// Longer than any unit of work of ours takes, and short enough for a user who waits at a screen.

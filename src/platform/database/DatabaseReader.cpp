@@ -26,7 +26,7 @@ void RunCommand(sqlite3* handle, std::string_view sql) {
 
 DatabaseReader::DatabaseReader(const std::filesystem::path& database)
     : engine_(std::make_unique<DatabaseEngine>(database, OpenMode::ReadOnly)) {
-    // The first reading after the begin fixes the view of the database.
+    // The first read after BEGIN fixes the view of the database.
     RunCommand(engine_->Handle(), "BEGIN");
     RunCommand(engine_->Handle(), "SELECT Count(*) FROM sqlite_master");
 }

@@ -12,7 +12,8 @@ namespace platform {
 namespace {
 
 bool IsFullDisk(int code, int systemError) {
-    // The engine calls a disk full only where it appends; elsewhere it is an I/O error to it.
+    // The engine reports a full disk only if it appends to a file; otherwise it reports an I/O
+    // error.
     const int primary = code & 0xFF;
     if (primary == SQLITE_FULL) return true;
     return primary == SQLITE_IOERR && (systemError == ENOSPC || systemError == EDQUOT);

@@ -11,7 +11,7 @@ namespace {
     throw FieldError("Field " + field + ": " + std::string(what));
 }
 
-// Returns what `read` returns; if it can't convert, throws an error that names the field.
+// Returns the result of `read`; if it can't convert, throws an error that names the field.
 template <typename Read>
 auto Guarded(const std::string& field, Read read) {
     try {

@@ -32,7 +32,7 @@ T As(const Source& source) {
     }
 }
 
-/// The same, with 0, False, no day or an empty text if it is unset.
+/// Does the same, but returns 0, False, no day or an empty text if it is unset.
 template <class T, class Source>
 T AsOr0(const Source& source) {
     return source.IsBlank() ? T() : As<T>(source);

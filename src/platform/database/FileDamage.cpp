@@ -12,7 +12,7 @@ std::string FileDamage(const std::filesystem::path& file) {
         if (!check.executeStep()) return "the check gives no answer";
         std::string answer = check.getColumn(0).getString();
         if (answer == "ok") return {};
-        // The faults of one page come in several lines, under a heading for the database.
+        // The faults of one page are several lines, under a heading for the database.
         const std::size_t last = answer.find_last_of('\n');
         return last == std::string::npos ? answer : answer.substr(last + 1);
     } catch (const SQLite::Exception& failure) {

@@ -17,7 +17,7 @@ constexpr std::size_t kShortest = 4;
 /// More words than this take longer to list than the engine takes to merge them.
 constexpr std::size_t kMostTerms = 8;
 
-/// Whether the index holds the form as it is, but for its case, as a single word.
+/// Returns whether the index holds the form unchanged except for its case, as a single word.
 bool IsPlain(std::string_view form) {
     return std::ranges::all_of(form, [](char c) {
         return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -59,7 +59,7 @@ SearchWord IndexTerms::WrittenOut(const SearchWord& word) {
     return written;
 }
 
-/// Returns whether there was room for all words that begin so.
+/// Adds the words that begin so; returns false if there are too many.
 bool IndexTerms::AddTerms(std::string_view beginning, std::vector<std::string>& terms) {
     std::string from(beginning);
     while (true) {

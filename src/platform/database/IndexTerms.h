@@ -25,7 +25,7 @@ class IndexTerms {
     IndexTerms(const IndexTerms&) = delete;
     IndexTerms& operator=(const IndexTerms&) = delete;
 
-    /// As TextIndex::WrittenOut.
+    /// Does what TextIndex::WrittenOut does.
     std::optional<std::vector<SearchWord>> WrittenOut(std::span<const SearchWord> words);
 
   private:

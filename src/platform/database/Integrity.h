@@ -11,8 +11,8 @@ enum class CheckDepth {
     Full,  ///< the indexes against the rows besides
 };
 
-/// The engine's own check of a database file: what is wrong, a line each, at most a hundred; none
-/// for a sound file. Throws a DatabaseError if it can't be opened or read at all.
+/// Runs the engine's own check of a database file. Returns what is wrong, a line each, at most a
+/// hundred; nothing for a sound file. Throws a DatabaseError if it can't be opened or read at all.
 std::vector<std::string> CheckIntegrity(const std::filesystem::path& database, CheckDepth depth);
 
 } // namespace platform

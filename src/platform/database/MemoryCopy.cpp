@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-/// Of the engine's own small steps: a fraction of a millisecond.
+/// The engine's own small steps between two calls of `stop`; they take a fraction of a millisecond.
 constexpr int kStepsPerQuestion = 1000;
 
 int Ask(void* stop) {

@@ -10,8 +10,8 @@ namespace platform {
 
 namespace {
 
-/// The bytes are written in blocks that begin at multiples of this in the file. The database itself
-/// begins anywhere: otherwise each block would end within a page of the system's cache, and the
+/// The bytes are written in blocks that begin at multiples of this number in the file, wherever the
+/// database begins. Otherwise each block would end within a page of the system's cache, and the
 /// next one would have to complete that page.
 constexpr std::int64_t kBlockSize = 1 << 18;
 
@@ -47,7 +47,7 @@ int IsReserved(sqlite3_file*, int* answer) {
     return SQLITE_OK;
 }
 
-// The file belongs to this process alone, and whoever made it syncs it: nothing to close, cut,
+// The file belongs to this process only, and its creator syncs it: there is nothing to close, cut,
 // sync or lock.
 const sqlite3_io_methods kMethods = {
     .iVersion = 1,
@@ -79,7 +79,7 @@ int OpenThis(sqlite3_vfs* system, const char*, sqlite3_file* open, int flags, in
     return SQLITE_OK;
 }
 
-// There is never a journal beside it.
+// Answers that there is no such file: there is never a journal beside the database.
 int FindFile(sqlite3_vfs*, const char*, int, int* answer) {
     *answer = 0;
     return SQLITE_OK;
@@ -136,7 +136,7 @@ bool OffsetFile::Flush() {
     return WriteOut(Collected());
 }
 
-// The engine is C: what is thrown here must not pass through it.
+// The engine is written in C: no exception may pass through it.
 bool OffsetFile::WriteOut(std::int64_t count) {
     if (failure_) return false;
     if (count == 0) return true;

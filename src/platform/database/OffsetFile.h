@@ -11,8 +11,8 @@
 namespace platform {
 
 /// Lets the engine write a database into the middle of a file: byte 0 of the database is byte
-/// `offset` of `out`. While it lives the engine knows it as a file system by the name Name(), whose
-/// every file is this one.
+/// `offset` of `out`. During its lifetime the engine knows it as a file system named Name(), in
+/// which every file is this one.
 class OffsetFile {
   public:
     OffsetFile(DiskFile& out, std::int64_t offset);
@@ -22,10 +22,11 @@ class OffsetFile {
 
     const char* Name() const { return name_.c_str(); }
 
-    /// Writes what is still collected, and throws what went wrong while the engine wrote.
+    /// Writes the rest of the collected bytes. Throws if anything went wrong while the engine
+    /// wrote.
     void Finish();
 
-    // What the engine asks of the file; false on failure.
+    // The engine's requests to the file; each returns false on failure.
     bool Read(void* bytes, int count, std::int64_t at, int& got);
     bool Write(const void* bytes, int count, std::int64_t at);
     std::int64_t Size() const { return size_; }

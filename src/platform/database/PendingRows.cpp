@@ -12,7 +12,7 @@ PendingRows::PendingRows(DatabaseEngine& engine, const std::shared_ptr<const Sta
       rows_(rows),
       width_(static_cast<int>(plan->compiled.columns.size())) {
     DatabaseEngine::Bind(*select_, parameters_);
-    // The first row holds the view of the database in which the others are counted.
+    // The first row fixes the view of the database in which the others are counted.
     ReadTo(1);
     if (engine_ == nullptr) return;
     CachedStatement counting{

@@ -13,8 +13,8 @@ namespace platform {
 
 class DatabaseEngine;
 
-/// The rows of a select that aren't read yet. All of them come from one view of the database: the
-/// engine has the rest read before it writes.
+/// The rows of a select that haven't been read yet. All of them are as they were at one moment: the
+/// rest is read before the engine writes anything.
 class PendingRows {
   public:
     /// Starts the select, which puts its rows into `rows`, and counts them.
@@ -24,9 +24,9 @@ class PendingRows {
     PendingRows(const PendingRows&) = delete;
     PendingRows& operator=(const PendingRows&) = delete;
 
-    /// How many rows there are, read or not.
+    /// Returns how many rows there are, read or not.
     std::size_t Total() const { return total_; }
-    /// Reads on until `count` rows are there, or all.
+    /// Reads on until `count` rows have been read, or all of them.
     void ReadTo(std::size_t count);
 
   private:

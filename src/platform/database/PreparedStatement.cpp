@@ -27,7 +27,8 @@ PreparedStatement::~PreparedStatement() {
 
 void PreparedStatement::Bind(int index, const Cell& cell, TextLife life) {
     const auto keep = life == TextLife::UntilReset ? SQLITE_STATIC : SQLITE_TRANSIENT;
-    // The engine takes a null pointer for a null, and an empty text may well have one.
+    // The engine takes a null pointer for a null, and the pointer of an empty text may well be
+    // null.
     const char* bytes = cell.bytes.empty() ? "" : cell.bytes.data();
     int result = SQLITE_OK;
     switch (cell.kind) {

@@ -10,8 +10,8 @@ struct sqlite3_stmt;
 
 namespace platform {
 
-/// One statement of the engine's SQL. It speaks to the engine itself, since rows by the million are
-/// read through it: the wrapper's columns each carry a counted pointer and a check.
+/// One statement of the engine's SQL. It calls the engine directly, because millions of rows are
+/// read through it, and each column of the wrapper has a counted pointer and a check.
 class PreparedStatement {
   public:
     /// Throws DatabaseError if the engine doesn't accept the statement.
@@ -35,7 +35,7 @@ class PreparedStatement {
     void Reset();
 
     int ColumnCount() const;
-    /// A value of the row; its bytes stay until the next step.
+    /// Returns a value of the row; its bytes stay until the next step.
     Cell Column(int index) const;
 
   private:

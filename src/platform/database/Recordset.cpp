@@ -23,7 +23,7 @@ bool IsSameName(std::string_view a, std::string_view b) {
     return true;
 }
 
-/// A number that names of a table hardly ever share.
+/// Returns a number that is rarely the same for two names of a table.
 std::size_t PlaceOf(std::string_view name) {
     if (name.empty()) return 0;
     const auto letter = [&](std::size_t i) -> std::size_t {

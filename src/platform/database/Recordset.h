@@ -17,9 +17,9 @@ enum class CursorMode {
     ReadOnly,
     Updatable,
     AppendOnly, ///< opened to add rows: the statement names a table, whose rows aren't fetched
-    /// Only read, and no further than rows are asked for. They are as they were when it was opened
-    /// all the same: before anything is written, and before the connection closes, the rest is read
-    /// then. A failure that comes later is thrown when a row is asked for.
+    /// Read-only, and rows are read only as they are asked for. They are still the rows as they
+    /// were at opening: the rest is read before anything is written, and before the connection
+    /// closes. A failure that comes later is thrown when a row is asked for.
     ReadAsNeeded,
 };
 
@@ -29,21 +29,22 @@ inline constexpr int kFirstRowsRead = 500;
 class Recordset;
 
 /// One field of a row set's current row. It stays valid while the row set is open, and always
-/// speaks of the row that is current when it is asked.
+/// refers to the row that is current at the time of the call.
 class Field {
   public:
     const std::string& Name() const;
     FieldType Type() const;
 
     bool IsNull() const;
-    /// Null, or an empty text.
+    /// Returns true for null and for an empty text.
     bool IsBlank() const;
     platform::Value Value() const;
     /// Keeps the value, converted to the field's type, for Update. Throws FieldError if it doesn't
     /// convert or fit, or if the statement computes the field.
     void Set(const platform::Value& value);
 
-    // The value in one of its types. Throws FieldError, which names the field, if it isn't one.
+    // Each function returns the value as one type. Throws FieldError, which names the field, if it
+    // isn't of that type.
     bool AsBoolean() const;
     std::int16_t AsInteger() const;
     std::int32_t AsLong() const;
@@ -83,10 +84,10 @@ class Recordset {
     bool Eof() const;
     void MoveFirst();
     void MoveNext();
-    /// 1 for the first row in the present order, 0 if there is no current row. A new row comes
-    /// after all others.
+    /// Returns the position of the current row: 1 for the first row in the present order, 0 if
+    /// there is no current row. A new row comes after all others.
     std::int64_t AbsolutePosition() const;
-    /// If there is no row at this position, there is no current row afterwards.
+    /// Moves to the row at this position; if there is none, there is no current row afterwards.
     void SetAbsolutePosition(std::int64_t position);
 
     /// Orders the rows by "Field [ASC|DESC], ..." (names may be in square brackets) and moves to
@@ -97,20 +98,21 @@ class Recordset {
 
     std::size_t FieldCount() const;
     Field operator[](std::size_t index);
-    /// By name, ignoring case. Throws FieldError if the row set has no such field.
+    /// Returns a field by its name, ignoring case. Throws FieldError if the row set has no such
+    /// field.
     Field operator[](std::string_view name);
     bool HasField(std::string_view name) const;
 
-    /// Starts a new row, which becomes current; its fields are null until set. Throws
-    /// DatabaseError, as do Update and Delete, if the rows can't be written: opened to be read, or
-    /// of a statement whose rows don't belong to one table.
+    /// Starts a new row, which becomes current; its fields are null until set. Like Update and
+    /// Delete, throws DatabaseError if the rows can't be written: the row set was opened for
+    /// reading, or its statement's rows don't belong to one table.
     void AddNew();
     /// Writes the new row, or the changed fields of the current one; returns false if there was
     /// nothing to write. The row then shows what is stored, the table's defaults included. Throws
     /// ConflictError if the row was deleted or any of the fields read was changed since: the
     /// changes stay, unwritten.
     bool Update();
-    /// Drops what was set; after AddNew the row that was current before is so again.
+    /// Drops the values that were set; after AddNew, the previous row becomes current again.
     void CancelUpdate();
     /// Deletes the current row in the database and here; the next row becomes current.
     void Delete();

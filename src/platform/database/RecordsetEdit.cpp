@@ -12,8 +12,8 @@ namespace {
 using dialect::EngineName;
 using Edits = std::vector<std::optional<Value>>;
 
-// The key of a statement that writes rows: its kind, the select that the rows were read by, the
-// fields that it sets. No statement's text starts with a zero byte.
+// Returns the key of a statement that writes rows: its kind, the select that the rows were read by,
+// the fields that it sets. No statement's text starts with a zero byte.
 std::string KeyOf(char kind, const StatementPlan& plan, const Edits& edits) {
     std::string key{'\0', kind};
     for (unsigned shift = 0; shift < 64; shift += 8)
@@ -34,7 +34,7 @@ void WriteList(std::string& sql, const Edits& edits, Write write) {
     }
 }
 
-// The row as it was read: its number, and every field that it was read with.
+// Adds the condition for the row as it was read: its number, and every field that it was read with.
 void WriteWhere(std::string& sql, const dialect::CompiledStatement& select) {
     sql += " WHERE rowid = ?";
     for (const std::string& source : select.sources) {
@@ -51,8 +51,8 @@ std::string InsertSql(const dialect::CompiledStatement& select, const Edits& edi
            (names.empty() ? " DEFAULT VALUES" : " (" + names + ") VALUES (" + marks + ")");
 }
 
-// Reading the row again costs less than having the insert return it: for that the engine makes a
-// table in passing.
+// Returns the statement that reads the row again. That costs less than having the insert return it,
+// for which the engine would make a temporary table.
 std::string ReadBackSql(const dialect::CompiledStatement& select) {
     std::string sql = "SELECT ";
     for (const std::string& source : select.sources)
@@ -73,8 +73,8 @@ std::string DeleteSql(const dialect::CompiledStatement& select) {
     return sql;
 }
 
-// Edits hold their values in the form of their field, so that no text has to be made of another
-// kind of value.
+// Returns an edit's value in the form of its field, so that later on no text has to be made of
+// another type of value.
 Cell StoredForm(const Value& edit, FieldType type) {
     std::string unused;
     return StoreCell(edit, type, unused);

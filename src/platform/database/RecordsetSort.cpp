@@ -12,13 +12,13 @@ namespace platform {
 namespace {
 
 struct Place {
-    std::uint64_t number; // by the letters or the value looked at
-    std::uint32_t was;    // the row's place before
+    std::uint64_t number; // for the letters or the value being compared
+    std::uint32_t was;    // the row's former place
 };
 
-/// Orders rows by numbers only: by the numbers of the first key's values, then each run of equal
-/// rows by the numbers of the next letters or the next key. No row is looked at twice for the same
-/// letters.
+/// Orders rows by comparing only numbers: the numbers of the first key's values, then, within each
+/// run of equal rows, the numbers of the next letters or the next key. No row is compared twice by
+/// the same letters.
 class Sorter {
   public:
     Sorter(const RowBuffer& rows, const std::vector<dialect::ResultColumn>& columns,
@@ -72,7 +72,8 @@ class Sorter {
         }
     }
 
-    // Leaves a run of rows that are equal so far to be sorted by what follows, if anything does.
+    // Leaves a run of rows that are equal so far to be sorted by the next letters or key, if there
+    // is one.
     void PutOff(Run run, std::uint64_t turned) {
         const std::uint64_t number = places_[run.begin].number ^ turned;
         if (IsUndecided(number, TypeOf(run.key)) && !HoldsOneText(run)) {
@@ -83,7 +84,8 @@ class Sorter {
         }
     }
 
-    // Many rows of one text are common, and its further letters don't differ.
+    // Returns whether all rows of a run have the same text. Such runs are common, and comparing
+    // further letters would find no difference.
     bool HoldsOneText(const Run& run) const {
         const Cell first = CellOf(places_[run.begin], run.key);
         for (std::size_t i = run.begin + 1; i < run.end; ++i) {

@@ -22,7 +22,7 @@ struct Recordset::State {
     std::shared_ptr<const StatementPlan> plan; // null when it is closed
 
     RowBuffer rows;
-    std::unique_ptr<PendingRows> pending; // what is read as it is asked for; null for most
+    std::unique_ptr<PendingRows> pending; // rows that are read as they are asked for; mostly null
     bool ordered = false;                 // otherwise the rows are in the order read
     std::vector<std::uint32_t> order;
     std::size_t current = 0; // a place in the order
@@ -36,9 +36,10 @@ struct Recordset::State {
 
     const dialect::CompiledStatement& Compiled() const { return plan->compiled; }
     std::size_t FieldCount() const { return plan->compiled.columns.size(); }
-    /// The field's index, the first if several have this name; nothing when there is none.
+    /// Returns the field's index, the first if several have this name; nothing if there is none.
     std::optional<std::size_t> Find(std::string_view name) const;
-    /// Where names were found last, by their spelling: row after row is read by the same few names.
+    /// The places where names were last found, by their spelling: every row is read by the same few
+    /// names.
     mutable std::array<std::uint16_t, 128> found{};
 
     std::size_t Count() const {
@@ -49,10 +50,11 @@ struct Recordset::State {
     bool HasRow() const { return adding || current < Count(); }
     std::size_t CurrentRow() const { return ordered ? order[current] : current; }
     void MoveTo(std::size_t place);
-    /// Gives the order a list of its own, to be changed.
+    /// Makes the order a list of its own, which can be changed.
     void WriteOutOrder();
 
-    /// The current row's stored value at `index`: of a field, or of the row's number after them.
+    /// Returns the current row's stored value at `index`: of a field, or of the row's number after
+    /// them.
     Cell Stored(std::size_t index);
 
     bool IsReadOnly() const {

@@ -12,8 +12,8 @@ constexpr std::size_t kFirstChunk = 512;
 constexpr std::size_t kLargestChunk = std::size_t{1} << 20;
 constexpr std::size_t kRowsKept = 256;
 
-// The byte before a value says its kind and how many bytes follow. From kShortText on it also
-// says how long the text is.
+// The byte before a value gives its type and how many bytes follow. From kShortText on it also
+// gives the length of the text.
 enum Tag : unsigned char { kNull, kZero, kOne, kInt8, kInt16, kInt32, kInt64, kReal, kText, kBlob };
 constexpr unsigned kShortText = 16;
 constexpr std::size_t kLongestShortText = 0xFF - kShortText;

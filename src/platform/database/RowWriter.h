@@ -13,8 +13,8 @@ namespace platform {
 
 struct CachedStatement;
 
-/// Adds rows to one table, fast: for a routine that adds many of them. What isn't named takes the
-/// table's default. `connection` must outlive it.
+/// Adds rows to one table, fast: for a routine that adds many of them. Fields that aren't named
+/// take the table's defaults. `connection` must outlive the writer.
 class RowWriter {
   public:
     /// Throws a FieldError for a table or field that isn't there.
@@ -23,7 +23,7 @@ class RowWriter {
     RowWriter(const RowWriter&) = delete;
     RowWriter& operator=(const RowWriter&) = delete;
 
-    /// The types of the fields, in the order they were named.
+    /// Returns the types of the fields, in the order they were named.
     const std::vector<FieldType>& Types() const { return types_; }
 
     /// Adds a row, with a cell for each field as its type is stored. Throws a DatabaseError on

@@ -16,7 +16,7 @@ constexpr std::uint64_t kSignBit = std::uint64_t{1} << 63;
 constexpr std::uint64_t kLast = std::numeric_limits<std::uint64_t>::max();
 constexpr std::uint64_t kMoreLetters = kSortLetters + 2;
 
-// 0 is left to the null.
+// Returns the number for a whole number; 0 is reserved for null.
 std::uint64_t OfWhole(std::int64_t number) {
     return std::max<std::uint64_t>(1, static_cast<std::uint64_t>(number) ^ kSignBit);
 }
@@ -31,8 +31,8 @@ bool IsAscii(char c) {
     return static_cast<unsigned char>(c) < 0x80;
 }
 
-// The letters in lower case, and in the last byte how many there are of them; a text that ended
-// before is distinguished from a null by that.
+// Returns the letters in lower case, and in the last byte their count, which distinguishes a text
+// that ended before from a null.
 std::uint64_t OfText(std::string_view text, std::size_t passed) {
     std::string lower;
     if (!std::ranges::all_of(text.substr(0, passed + kSortLetters), IsAscii)) {
@@ -49,7 +49,8 @@ std::uint64_t OfText(std::string_view text, std::size_t passed) {
     return number << 8 | std::min<std::uint64_t>(text.size() + 1, kMoreLetters);
 }
 
-// Money and truths are whole numbers as they are stored; a date may have a time of day after it.
+// Returns the number for any value but a text. Money and booleans are whole numbers as they are
+// stored; a date may have a time of day.
 std::uint64_t OfNumber(const Cell& cell, FieldType type) {
     const bool real = type == FieldType::Double || type == FieldType::Date;
     switch (cell.kind) {
@@ -79,7 +80,7 @@ std::string_view TakeBracketed(std::string_view& text) {
     return name;
 }
 
-// Takes the direction off the end of `item`, if one follows a name. True for descending.
+// Takes the direction off the end of `item`, if one follows a name. Returns true for descending.
 bool TakeDirection(std::string_view& item, bool nameTaken) {
     const std::size_t blank = item.find_last_of(" \t\r\n");
     if (blank == std::string_view::npos && !nameTaken) return false;

@@ -24,14 +24,14 @@ struct SortItem {
 /// commas. Throws FieldError if a name is missing.
 std::vector<SortItem> ParseSortText(std::string_view text);
 
-/// A number that orders values of a field of `type`, nulls first. For a text it holds the first
-/// letters, ignoring case, that follow `passed` others.
+/// Returns a number that orders values of a field of `type`, nulls first. For a text it holds the
+/// first letters after `passed` others, ignoring case.
 std::uint64_t SortNumber(const Cell& cell, FieldType type, std::size_t passed);
 
 /// The letters that a number holds.
 inline constexpr std::size_t kSortLetters = 7;
 
-/// Whether this number may belong to several texts, which differ in later letters.
+/// Returns whether this number may belong to several texts, which differ in later letters.
 bool IsUndecided(std::uint64_t sortNumber, FieldType type);
 
 } // namespace platform

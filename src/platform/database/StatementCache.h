@@ -15,7 +15,7 @@ namespace platform {
 /// The compiled form of a statement of the dialect. Row sets keep it for as long as they are open.
 struct StatementPlan {
     dialect::CompiledStatement compiled;
-    /// Tells this plan from every other of the connection.
+    /// Distinguishes this plan from all others of the connection.
     std::uint64_t number = 0;
 };
 
@@ -25,13 +25,14 @@ struct CachedStatement {
     PreparedStatement statement;
 };
 
-/// The statements prepared last, by their text; the one that was not wanted for the longest time
-/// makes room for a new one.
+/// The statements prepared last, by their text. A new one replaces the one that wasn't used for the
+/// longest time.
 class StatementCache {
   public:
     explicit StatementCache(std::size_t capacity) : capacity_(capacity) {}
 
-    /// Null if there is none. The statement stays until `capacity` others were added.
+    /// Returns the statement for this key; null if there is none. It stays valid until `capacity`
+    /// others have been added.
     CachedStatement* Find(std::string_view key);
     CachedStatement& Add(std::string_view key, CachedStatement statement);
     void Clear();

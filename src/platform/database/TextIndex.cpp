@@ -17,7 +17,7 @@ namespace platform {
 
 namespace {
 
-/// Nobody at a search box waits for another program for long.
+/// A user at a search box doesn't wait long for another program.
 constexpr int kBusyMs = 500;
 
 constexpr const char* kTables =
@@ -28,7 +28,7 @@ constexpr const char* kTables =
 
 using TextLife = PreparedStatement::TextLife;
 
-/// Only makes a file that isn't there: closing a file that the engine has open would drop the
+/// Makes the file only if it isn't there: closing a file that the engine has open would release the
 /// engine's locks on it.
 void MakeIfMissing(const std::filesystem::path& file) {
     const int error = MakePrivateFile(file);
@@ -71,8 +71,8 @@ std::string MatchExpression(std::span<const SearchWord> words) {
     std::string expression;
     for (const SearchWord& word : words) {
         if (word.forms.size() < 2) continue;
-        // Beside a bracket the engine wants its AND, which fails on a word without letters; before
-        // a form of the first group such a word is no condition.
+        // Beside a bracket the engine needs its AND, which fails on a word without letters. Before
+        // a form of the first group, such a word isn't a condition.
         const std::string before = expression.empty() && !singles.empty() ? singles + ' ' : "";
         expression += expression.empty() ? "(" : " AND (";
         for (std::size_t i = 0; i < word.forms.size(); ++i)
@@ -244,7 +244,7 @@ void TextIndex::Remove(std::int64_t key) {
     remove.Step();
 }
 
-/// The engine wants to hear the words that it is to forget.
+/// The engine must be given the words that it is to remove.
 void TextIndex::DropWords(std::int64_t key) {
     PreparedStatement& read = Use(readWords_, "SELECT words FROM texts WHERE key = ?");
     const StatementRun run(read);
@@ -276,7 +276,7 @@ void TextIndex::Find(std::span<const SearchWord> words, std::int64_t first,
                      const std::function<bool(const Match& match)>& take) {
     const std::string expression = MatchExpression(words);
     if (expression.empty()) return;
-    // One statement for the words and the texts: the file is locked and looked over only once.
+    // One statement reads the words and the texts: the file is locked and checked only once.
     PreparedStatement& find = Use(find_,
                                   "SELECT key, title, detail, target FROM found CROSS JOIN texts "
                                   "ON key = found.rowid WHERE found MATCH ? AND found.rowid >= ? "

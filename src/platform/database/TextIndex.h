@@ -21,17 +21,17 @@ namespace platform {
 class IndexTerms;
 class PreparedStatement;
 
-/// A text that can be found, and what belongs to it.
+/// A text that can be found, with its key and the data that are kept with it.
 struct IndexedText {
     std::int64_t key = 0;   ///< matches come in the order of their keys
-    std::uint64_t mark = 0; ///< tells whoever made the text whether its source has changed since
+    std::uint64_t mark = 0; ///< shows whether the source of the text has changed since
     std::string title;
     std::string detail;
     std::string target;
-    std::string words; ///< what is searched; the others are only kept
+    std::string words; ///< the text that is searched; the others are only kept
 };
 
-/// A word to look for. A form of several words is found where they follow one another. Case and
+/// A word to look for. A form of several words is found if they follow one another. Case and
 /// accents don't matter, and nothing in a form has a meaning of its own.
 struct SearchWord {
     std::vector<std::string> forms; ///< one of them must be there
@@ -53,7 +53,7 @@ class TextIndex {
     TextIndex(const TextIndex&) = delete;
     TextIndex& operator=(const TextIndex&) = delete;
 
-    /// Whether a failure means that the index is damaged, which Empty cures.
+    /// Returns whether a failure means that the index is damaged, which Empty cures.
     static bool IsDamage(const DatabaseError& failure);
     /// Says why the index can't be used, to follow "because ".
     static std::string ReasonOf(const DatabaseError& failure);
@@ -67,17 +67,17 @@ class TextIndex {
     /// Returns the keys from `first` to `last` in order, with their marks.
     std::vector<Known> Keys(std::int64_t first, std::int64_t last);
 
-    /// Begins changes that are kept together by Commit. Throws DatabaseError if another program
+    /// Begins changes; Commit keeps all of them together. Throws DatabaseError if another program
     /// is making changes.
     void Begin();
     void Commit();
     /// Drops the changes since Begin, if there are any.
     void RollBack() noexcept;
-    /// Puts a text in the place of the one with its key, if there is one.
+    /// Adds a text; it replaces the text with the same key, if there is one.
     void Put(const IndexedText& text);
     void Remove(std::int64_t key);
 
-    /// While it lives, everything is read from the index as it is at the first look, whatever
+    /// During its lifetime, everything is read from the index as it was at the first read, whatever
     /// another program writes; the file is locked only once.
     class View {
       public:
@@ -90,16 +90,16 @@ class TextIndex {
         TextIndex& index_;
     };
 
-    /// A text that was found, which stays only until the call with it returns.
+    /// A text that was found. It is valid only until the call that receives it returns.
     struct Match {
         std::int64_t key = 0;
         std::string_view title;
         std::string_view detail;
         std::string_view target;
     };
-    /// Returns these words with each beginning replaced by the words of the index that begin so,
-    /// where they are few: a large index finds them many times faster. Returns nothing if no word
-    /// of the index begins so, and nothing can be found.
+    /// Returns these words with each beginning replaced by the words of the index that begin so, if
+    /// they are few: a large index finds them many times faster. Returns nothing if no word of the
+    /// index begins so, and nothing can be found.
     std::optional<std::vector<SearchWord>> WrittenOut(std::span<const SearchWord> words);
     /// Calls `take` with each text that has all these words, from the key `first` on, in order,
     /// until it returns false. Nothing is found without words.

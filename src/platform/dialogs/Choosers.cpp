@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-/// For programs without a screen.
+/// The choosers of programs without a screen: nothing is ever chosen.
 class NobodyChooses : public Choosers {
   public:
     std::optional<std::string> OpenFile(const FileQuestion& /*question*/) override { return {}; }

@@ -9,7 +9,7 @@
 
 namespace platform {
 
-/// "Web pages", "*.html *.htm"
+/// A choice of files in a dialog, such as "Web pages" with the patterns "*.html *.htm".
 struct FileFilter {
     std::string name;
     std::string patterns;
@@ -21,21 +21,23 @@ struct FileQuestion {
     std::vector<FileFilter> filters;
 };
 
-/// How a file, a folder or a colour is chosen. Empty if the user cancels.
+/// Lets the user choose a file, a folder or a colour. Each function returns nothing if the user
+/// cancels.
 class Choosers {
   public:
     virtual ~Choosers() = default;
 
-    /// An existing file.
+    /// Asks for an existing file.
     virtual std::optional<std::string> OpenFile(const FileQuestion& question) = 0;
-    /// A file to write; one that exists was agreed to be replaced.
+    /// Asks for a file to write; if it exists, the user has agreed to replace it.
     virtual std::optional<std::string> SaveFile(const FileQuestion& question) = 0;
     virtual std::optional<std::string> Folder(std::string_view title, std::string_view start) = 0;
-    /// A colour as 0xRRGGBB, starting at `rgb`.
+    /// Asks for a colour as 0xRRGGBB, starting at `rgb`.
     virtual std::optional<std::uint32_t> Color(std::string_view title, std::uint32_t rgb) = 0;
 };
 
-/// The choosers of this process. Without SetChoosers nothing is ever chosen; null brings that back.
+/// Returns the choosers of this process. Without SetChoosers nothing is ever chosen; setting null
+/// restores that.
 Choosers& TheChoosers();
 void SetChoosers(std::unique_ptr<Choosers> choosers);
 

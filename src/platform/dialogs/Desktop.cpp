@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-/// For programs without a screen.
+/// The desktop of programs without a screen: no program takes anything.
 class NoDesktop : public Desktop {
   public:
     bool OpenWebPage(std::string_view /*address*/) override { return false; }

@@ -5,7 +5,8 @@
 
 namespace platform {
 
-/// The other programs of the desktop that ours hands something to. True when somebody took it.
+/// Passes pages, mail and files to other programs of the desktop. Each function returns true if a
+/// program took it.
 class Desktop {
   public:
     virtual ~Desktop() = default;
@@ -18,7 +19,8 @@ class Desktop {
     virtual bool OpenDocument(std::string_view file) = 0;
 };
 
-/// The desktop of this process. Without SetDesktop nobody takes anything; null brings that back.
+/// Returns the desktop of this process. Without SetDesktop no program takes anything; setting null
+/// restores that.
 Desktop& TheDesktop();
 void SetDesktop(std::unique_ptr<Desktop> desktop);
 

@@ -7,7 +7,7 @@ namespace platform {
 
 namespace {
 
-/// For programs without a screen: nobody is there to answer, so nothing is agreed to.
+/// The dialogs of programs without a screen: nobody is there to answer, so nothing is agreed to.
 class NobodyThere : public Dialogs {
   public:
     void ShowMessage(std::string_view title, std::string_view text, Icon /*icon*/) override {

@@ -19,8 +19,8 @@ class Dialogs {
     virtual bool AskYesNo(std::string_view title, std::string_view text, Icon icon) = 0;
 };
 
-/// The dialogs of this process. Without SetDialogs messages go to standard error and every
-/// question is answered No; null brings that back.
+/// Returns the dialogs of this process. Without SetDialogs messages go to standard error and every
+/// question is answered No; setting null restores that.
 Dialogs& TheDialogs();
 void SetDialogs(std::unique_ptr<Dialogs> dialogs);
 

@@ -22,7 +22,7 @@ namespace {
                 ".");
 }
 
-/// The permissions that a new file of this user has.
+/// Returns the permissions that a new file of this user has.
 mode_t UsualMode() {
     const mode_t mask = umask(0);
     umask(mask);
@@ -69,7 +69,8 @@ void OutputFile::Write(std::string_view bytes) {
 void OutputFile::Commit() {
     if (std::fflush(file_) != 0) Fail();
     if (draft_.empty()) return;
-    // On the disk before it takes the name: a power cut must not leave a part of it.
+    // Synced to the disk before it gets its name: after a power cut, the name must not belong to a
+    // part of it.
     if (fdatasync(fileno(file_)) != 0) Fail();
     if (std::fclose(std::exchange(file_, nullptr)) != 0) Fail();
     if (rename(draft_.c_str(), path_.c_str()) != 0) Fail();

@@ -28,9 +28,9 @@ class StringSink : public ByteSink {
     std::string text_;
 };
 
-/// A file that takes its name only when it is whole: until Commit an older file of the name stays,
-/// and without Commit nothing is left. A name that isn't a regular file, such as a pipe, is written
-/// to as it is.
+/// A file that gets its name only when it is complete: until Commit an older file of that name
+/// stays, and without Commit nothing is left. If the name belongs to a pipe, for example, it is
+/// written to directly.
 class OutputFile : public ByteSink {
   public:
     /// Throws an Error with the reason if the file can't be made.
@@ -47,7 +47,7 @@ class OutputFile : public ByteSink {
     [[noreturn]] void Fail();
 
     std::filesystem::path path_;
-    std::string draft_; ///< empty where the file is written in place
+    std::string draft_; ///< empty if the file is written in place
     std::FILE* file_ = nullptr;
 };
 

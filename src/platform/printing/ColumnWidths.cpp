@@ -9,7 +9,7 @@ namespace {
 
 /// The width of a column without a width of its own if no room is left.
 constexpr double kLeastShare = kTwipsPerInch / 2.0;
-/// Columns that are too wide by less than this are so by rounding only: the text keeps its size.
+/// If columns are too wide by less than this, it is only by rounding: the text keeps its size.
 constexpr double kRoundingScale = 0.97;
 
 double WantedWidth(const TableColumn& column, Twips printWidth) {
@@ -45,7 +45,7 @@ FittedColumns FitColumns(std::span<const TableColumn> columns, Twips printWidth)
 
     FittedColumns fitted;
     fitted.textScale = scale < kRoundingScale ? scale : 1;
-    // Rounds the edges, not the widths, so that the right edge is where it should be.
+    // Edges are rounded rather than widths, so that the right edge is in its place.
     double edge = 0;
     Twips last = 0;
     for (const double width : wanted) {

@@ -9,12 +9,12 @@ namespace platform {
 
 struct FittedColumns {
     std::vector<Twips> widths;
-    /// The factor for the text's size: below 1 where the columns had to be made narrower.
+    /// The factor for the text's size: below 1 if the columns had to be made narrower.
     double textScale = 1;
 };
 
-/// The widths that a table's columns take on `printWidth`. A table that would be wider is scaled
-/// down in proportion, its text as far as it stays readable.
+/// Returns the widths that a table's columns take on `printWidth`. A table that would be wider is
+/// scaled down in proportion, its text as far as it stays readable.
 FittedColumns FitColumns(std::span<const TableColumn> columns, Twips printWidth);
 
 } // namespace platform

@@ -9,7 +9,7 @@
 
 namespace platform {
 
-/// A flow that is held, to be written as often as needed.
+/// A flow in memory, which can be written as often as needed.
 class DocumentFlow : public FlowSink {
   public:
     void BeginFlow(const DocumentInfo& info) override;
@@ -21,7 +21,7 @@ class DocumentFlow : public FlowSink {
     void Rule(const PrintStyle& style, std::string_view caption) override;
     void EndFlow() override;
 
-    /// Gives all that was recorded to another sink.
+    /// Writes everything that was recorded to another sink.
     void WriteTo(FlowSink& sink) const;
 
   private:

@@ -24,15 +24,16 @@ class FlowSink {
   public:
     virtual ~FlowSink() = default;
     virtual void BeginFlow(const DocumentInfo& info) = 0;
-    /// A text may hold line ends; an empty one is an empty line.
+    /// Takes a paragraph. Its text may hold line ends; an empty text is an empty line.
     virtual void Paragraph(const PrintStyle& style, std::string_view text) = 0;
-    /// `widths` are the columns' widths in twips as laid out, already fitted to the page.
+    /// Takes the start of a table. `widths` are the columns' widths in twips as laid out, already
+    /// fitted to the page.
     virtual void BeginTable(const PrintStyle& style, const PrintTable& table,
                             std::span<const Twips> widths) = 0;
-    /// `cells` has as many cells as the table has columns.
+    /// Takes a row of the table. `cells` has as many cells as the table has columns.
     virtual void TableRow(std::span<const std::string_view> cells) = 0;
     virtual void EndTable() = 0;
-    /// A separator line; the caption is empty for a plain one.
+    /// Takes a separator line; the caption is empty for a plain one.
     virtual void Rule(const PrintStyle& style, std::string_view caption) = 0;
     virtual void EndFlow() = 0;
 };

@@ -26,11 +26,11 @@ class FontMetrics {
   public:
     virtual ~FontMetrics() = default;
 
-    /// The face of this family, or the one that takes its place; never fails. The same name gives
-    /// the same number for the life of the metrics.
+    /// Returns the face of this family, or the one that takes its place; never fails. The same name
+    /// gives the same number for the life of the metrics.
     virtual FaceId Face(std::string_view family, Weight weight, Slant slant) = 0;
     virtual FaceHeights Heights(FaceId face) const = 0;
-    /// The advance width of a UTF-8 text without line ends.
+    /// Returns the advance width of a UTF-8 text without line ends.
     virtual double Width(FaceId face, std::string_view text) const = 0;
 };
 

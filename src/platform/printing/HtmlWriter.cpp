@@ -84,7 +84,7 @@ std::string Color(PrintColor color) {
                        color >> 16U & 0xFFU);
 }
 
-/// The attributes of a style that differ from the page's own, as a style attribute.
+/// Returns the attributes of a style that differ from the page's own, as a style attribute.
 std::string StyleAttribute(const PrintStyle& style, bool isHeading) {
     std::string css = fmt::format("font-size:{:g}pt", style.fontSize);
     if (!EqualIgnoringCase(style.fontName, "Arial")) {
@@ -140,7 +140,7 @@ std::string ClassAttribute(const TableColumn& column, CellKind kind) {
     std::string names;
     if (isAmount || column.align == TextAlign::Right) names += " r";
     if (!isAmount && column.align == TextAlign::Center) names += " c";
-    // Leaves the room of a negative amount's bracket.
+    // Leaves room for the bracket of a negative amount.
     if (kind == CellKind::Amount) names += " m";
     if (column.bold && kind != CellKind::Header) names += " b";
     if (column.wrap == Wrap::Ellipsis) names += " n";
@@ -165,9 +165,10 @@ std::string FrameElement(std::string_view tag, const FrameLine& line) {
     return fmt::format("<{0}>{1}</{0}>\n", tag, parts);
 }
 
-/// The width in em, 0 for any, at which each column of amounts is as wide as they need. A table of
-/// many columns is moved sideways on a phone; its totals, which are a table of their own, then stay
-/// below their columns. One of few columns fits better as wide as its texts need.
+/// Returns the width in em at which each column of amounts is as wide as its amounts need; 0 for
+/// any width. A table of many columns is moved sideways on a phone; its totals, which are a table
+/// of their own, then stay below their columns. A table of few columns fits better if it is as wide
+/// as its texts need.
 double LeastWidth(const PrintTable& table, std::span<const Twips> widths, double sum) {
     constexpr std::size_t kManyColumns = 7;
     constexpr double kAmount = 6; // "12,345.00" in bold and the room beside it
@@ -201,7 +202,7 @@ void HtmlWriter::BeginFlow(const DocumentInfo& info) {
 }
 
 void HtmlWriter::Paragraph(const PrintStyle& style, std::string_view text) {
-    // An empty line is only a distance, and the style sheet has its own distances.
+    // An empty line is only a gap, and the style sheet has its own gaps.
     if (Trim(text).empty()) return;
     const std::string_view tag = TagOf(style.heading);
     out_ += '<';
@@ -225,7 +226,7 @@ void HtmlWriter::BeginTable(const PrintStyle& style, const PrintTable& table,
         attributes.pop_back();
         attributes += fmt::format(";min-width:{:.0f}em\"", least);
     }
-    // A narrow table stays narrow where there is room.
+    // A narrow table stays narrow if there is room.
     if (const double share = sum / std::max(printWidth_, 1); share < 0.95) {
         attributes.pop_back();
         attributes += fmt::format(";width:{:.0f}%;min-width:min(100%,25em)\"", share * 100);

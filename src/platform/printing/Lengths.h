@@ -12,8 +12,8 @@ using Twips = std::int32_t;
 inline constexpr Twips kTwipsPerInch = 1440;
 inline constexpr Twips kTwipsPerPoint = 20;
 
-/// Reads "2880" (twips), "0.5in", "8pt", "2cm" or "12mm"; blanks around it don't matter. Nothing
-/// for any other text.
+/// Reads "2880" (twips), "0.5in", "8pt", "2cm" or "12mm"; blanks around it don't matter. Returns
+/// nothing for any other text.
 std::optional<Twips> ParseLength(std::string_view text);
 
 /// A colour as 0xBBGGRR: 255 is red, 0x800000 navy.

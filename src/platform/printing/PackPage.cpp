@@ -8,14 +8,15 @@ namespace platform {
 
 namespace {
 
-/// The numbers of an item but for its text's place, which follows from the texts before.
+/// The numbers of an item, except the place of its text, which follows from the texts before it.
 using Numbers = std::array<std::int64_t, 13>;
 
 Numbers NumbersOf(const PageItem& item) {
     return {static_cast<int>(item.kind), item.underline, item.filled, item.face, item.angle,
             item.pen, std::bit_cast<std::int32_t>(item.size), item.color, item.fill, item.x1,
             item.y1,
-            // From the item's own beginning: of one line of a table these are mostly the same.
+            // Relative to the start of the item: in one line of a table, most of these are the
+            // same.
             item.x2 - item.x1, item.y2 - item.y1};
 }
 
@@ -90,7 +91,7 @@ std::string PackPage(const PrintedPage& page) {
         for (std::size_t i = 0; i < numbers.size(); ++i) {
             if (numbers[i] != last[i]) changed |= std::uint64_t{1} << i;
         }
-        // The bits of places, which change most, come first and so fit into the shortest form.
+        // The bits for places change most often, so they come first: the number is then short.
         Put(out, changed >> 9U | (changed & 0x1FFU) << 4U);
         for (std::size_t i = 0; i < numbers.size(); ++i) {
             if (numbers[i] != last[i]) PutSigned(out, numbers[i] - last[i]);

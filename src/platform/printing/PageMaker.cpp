@@ -17,7 +17,7 @@ std::uint16_t PenOf(const PrintStyle& style) {
     return static_cast<std::uint16_t>(std::clamp(style.penWidth, 1, 1440));
 }
 
-/// The distance from the paper's edge of a header of this height in a margin.
+/// Returns the distance from the paper's edge of a header of this height in a margin.
 Twips FrameDistance(Twips margin, Twips height) {
     constexpr Twips kUsual = kTwipsPerInch / 2;
     constexpr Twips kGap = 100;

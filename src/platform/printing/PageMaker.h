@@ -15,12 +15,12 @@ struct TextInk {
     int angle = 0; ///< tenths of a degree
 };
 
-/// The page under construction: what is drawn lands on it, and it goes to the sink when it ends.
+/// The page under construction: everything is drawn on it, and it goes to the sink when it ends.
 class PageMaker {
   public:
     PageMaker(FontMetrics& metrics, PageSink* sink) : metrics_(metrics), sink_(sink) {}
 
-    /// False where nobody wants pages; they are counted, but nothing needs to be drawn.
+    /// Returns false if nobody wants pages: they are counted, but nothing needs to be drawn.
     bool HasSink() const { return sink_ != nullptr; }
     int Count() const { return count_; }
 
@@ -34,8 +34,8 @@ class PageMaker {
     Twips Left() const { return info_.setup.marginLeft; }
     Twips Right() const { return info_.setup.PageWidth() - info_.setup.marginRight; }
 
-    /// A line of text whose box has its upper left corner at (x, top); a turned one turns about
-    /// that corner.
+    /// Draws a line of text whose box has its upper left corner at (x, top); turned text is turned
+    /// about that corner.
     void Text(const TextInk& ink, Twips x, Twips top, const MeasuredLine& line);
     void Line(const PrintStyle& style, Twips x1, Twips y1, Twips x2, Twips y2);
     void Box(const PrintStyle& style, Twips x1, Twips y1, Twips x2, Twips y2);

@@ -14,17 +14,18 @@ namespace platform {
 enum class PageOrientation : std::int16_t { Portrait = 0, Landscape = 1 };
 enum class Paper : std::uint8_t { Letter, A4 };
 
-/// "Letter" or "A4", as in the setting of the paper.
+/// Returns "Letter" or "A4", as in the setting of the paper.
 std::string_view PaperName(Paper paper);
 
-/// Letter if the territory of a locale's name such as "en_US.UTF-8" uses it or the name has no
-/// territory, otherwise A4.
+/// Returns Letter if the territory of a locale's name such as "en_US.UTF-8" uses it or the name has
+/// no territory, otherwise A4.
 Paper PaperOfLocale(std::string_view locale);
 
-/// The paper of this machine's locale (LC_ALL, LC_PAPER, LANG).
+/// Returns the paper of this machine's locale (LC_ALL, LC_PAPER, LANG).
 Paper DefaultPaper();
 
-/// The paper of a setting's text, whatever its case; DefaultPaper if the text names no paper.
+/// Returns the paper of a setting's text, whatever its case; DefaultPaper if the text names no
+/// paper.
 Paper PaperOfSetting(std::string_view text);
 
 /// The page that a document is laid out for.
@@ -36,15 +37,16 @@ struct PageSetup {
     Twips marginRight = kTwipsPerInch;
     Twips marginBottom = kTwipsPerInch;
 
-    /// The whole page as it is read, so that landscape pages are wider than high.
+    /// Return the size of the whole page as it is read, so that landscape pages are wider than
+    /// high.
     Twips PageWidth() const;
     Twips PageHeight() const;
-    /// The page less its margins; margins that leave less than an inch are cut in proportion by
-    /// WithSaneMargins.
+    /// Return the size of the page less its margins; WithSaneMargins cuts margins that leave less
+    /// than an inch in proportion.
     Twips PrintWidth() const { return PageWidth() - marginLeft - marginRight; }
     Twips PrintHeight() const { return PageHeight() - marginTop - marginBottom; }
 
-    /// The same setup with margins that are not negative and leave at least an inch each way.
+    /// Returns this setup with margins that are not negative and leave at least an inch each way.
     PageSetup WithSaneMargins() const;
 
     friend bool operator==(const PageSetup&, const PageSetup&) = default;
@@ -55,7 +57,7 @@ struct FrameLine {
     FrameLine() = default;
     FrameLine(std::string leftPart, std::string centerPart, std::string rightPart)
         : left(std::move(leftPart)), center(std::move(centerPart)), right(std::move(rightPart)) {}
-    /// The parts of a text that separates them by "|".
+    /// Takes the three parts from a text in which "|" separates them.
     FrameLine(std::string_view text);
     FrameLine(const char* text) : FrameLine(std::string_view(text)) {}
 

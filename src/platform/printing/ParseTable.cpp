@@ -8,7 +8,7 @@ namespace platform {
 
 namespace {
 
-/// The parts of a text between separators; an empty text has no parts.
+/// Returns the parts of a text between separators; an empty text has no parts.
 std::vector<std::string_view> Split(std::string_view text, char separator) {
     std::vector<std::string_view> parts;
     while (!text.empty()) {

@@ -11,7 +11,7 @@ namespace platform {
 
 enum class TextAlign : std::uint8_t { Left, Center, Right };
 enum class PenStyle : std::uint8_t { Solid, None };
-/// The numbers are those that report definitions and engines know: 0 solid, 1 transparent.
+/// Report definitions and engines use these numbers: 0 solid, 1 transparent.
 enum class BrushStyle : std::uint8_t { Solid = 0, Transparent = 1 };
 /// The level of a heading in the document's outline, h1 to h3 in HTML.
 enum class HeadingLevel : std::uint8_t { None, First, Second, Third };
@@ -44,12 +44,12 @@ struct PrintStyle {
     friend bool operator==(const PrintStyle&, const PrintStyle&) = default;
 };
 
-/// The named styles of a surface. Names compare by their letters exactly.
+/// The named styles of a surface. Their names are case-sensitive.
 class PrintStyles {
   public:
     /// Adds a style or replaces the one of this name.
     void Add(std::string name, PrintStyle style);
-    /// The style of this name; null if there is none.
+    /// Returns the style of this name; null if there is none.
     const PrintStyle* Find(std::string_view name) const;
 
   private:

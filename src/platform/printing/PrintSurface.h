@@ -27,18 +27,18 @@ class PrintSurface {
     PrintSurface(const PrintSurface&) = delete;
     PrintSurface& operator=(const PrintSurface&) = delete;
 
-    // Before StartDoc. Margins that leave no room are made smaller.
+    // Sets the page; call it before StartDoc. Margins that leave no room are made smaller.
     void SetUp(const PageSetup& setup);
     void SetFrame(PageFrame frame);
     void SetDocName(std::string name);
-    /// Author and subject of the finished file.
+    /// Sets the author and the subject of the finished file.
     void SetInformation(std::string author, std::string subject);
 
     /// Begins the first page, at its upper left margin.
     void StartDoc();
     /// Ends the last page; a document always has one.
     void EndDoc();
-    /// The pages begun so far.
+    /// Returns the number of pages begun so far.
     int PageCount() const;
 
     // Page geometry.
@@ -56,11 +56,11 @@ class PrintSurface {
     PrintStyles& Styles() { return styles_; }
     /// Makes a named style current. A name that wasn't added changes nothing.
     void ApplyStyle(std::string_view name);
-    /// The current attributes, to be read and set: `surface.Style().fontBold = true`.
+    /// Returns the current attributes, to be read and set: `surface.Style().fontBold = true`.
     PrintStyle& Style() { return style_; }
     const PrintStyle& Style() const { return style_; }
 
-    // The current position in twips from the page's upper left corner.
+    // Returns the current position in twips from the page's upper left corner.
     Twips CurrentX() const { return x_; }
     Twips CurrentY() const { return y_; }
     void SetCurrentX(Twips x) { x_ = x; }
@@ -74,9 +74,9 @@ class PrintSurface {
     /// page as long as it fits, even if the lines that follow it don't.
     void Locate(Twips x, Twips y);
 
-    // Measures in the current font.
+    /// Returns the width of a text in the current font.
     Twips TextWidth(std::string_view text) const;
-    /// The height of all lines of the text; an empty text is one line high.
+    /// Returns the height of all lines of a text; an empty text is one line high.
     Twips TextHeight(std::string_view text) const;
 
     /// Prints a paragraph and moves to the left margin below it. It starts at the current position
@@ -94,19 +94,20 @@ class PrintSurface {
     /// Ends the page and continues at the upper left margin of the next.
     void NewPage();
 
-    // Shapes in page coordinates, with the current pen and, for rectangles, brush.
+    // Draw shapes in page coordinates, with the current pen and, for rectangles, brush.
     void DrawLine(Twips x1, Twips y1, Twips x2, Twips y2);
     void DrawRectangle(Twips x1, Twips y1, Twips x2, Twips y2);
 
     // Tables: StartTable, one AddTable, attributes by Table(), EndTable, which prints it at the
     // left margin of the current line and moves below it. A header row repeats on every page.
     void StartTable();
-    /// A table of text: rows separated by ";", cells by "|". An empty header gives no header row.
+    /// Adds a table of text: rows separated by ";", cells by "|". An empty header gives no header
+    /// row.
     void AddTable(std::string_view format, std::string_view header, std::string_view body);
-    /// A table of cells, whose "|" and ";" are text; `rows` is read in EndTable.
+    /// Adds a table of cells, whose "|" and ";" are text; `rows` is read in EndTable.
     void AddTableArray(std::string_view format, std::vector<std::string> header,
                        std::unique_ptr<TableRows> rows);
-    /// The table that was added last, until EndTable.
+    /// Returns the table that was added last, until EndTable.
     PrintTable& Table();
     void EndTable();
 

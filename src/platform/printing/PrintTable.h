@@ -11,7 +11,7 @@
 
 namespace platform {
 
-/// The numbers are those that report definitions and engines know.
+/// Report definitions and engines use these numbers.
 enum class TableBorder : std::uint8_t {
     None = 0,
     Bottom = 1,
@@ -46,10 +46,10 @@ struct TableColumn {
     TextAlign align = TextAlign::Left;
     Wrap wrap = Wrap::Wrap;
     bool bold = false;
-    /// The decimal points of "12.00" and "(12.00)" are lined up.
+    /// Whether the decimal points of "12.00" and "(12.00)" are lined up.
     bool alignCurrency = false;
-    Twips width = 0;    ///< 0 for a share of what is left
-    double percent = 0; ///< of the printable width; used where it is above 0
+    Twips width = 0;    ///< 0 for a share of the remaining width
+    double percent = 0; ///< of the printable width; used if it is above 0
 };
 
 struct TableHeader {
@@ -61,17 +61,17 @@ struct TableHeader {
 };
 
 /// The rows of a table, read once from the first to the last as they are printed, so that they
-/// needn't be held. The cells stay valid until the next call.
+/// needn't all be in memory. The cells stay valid until the next call.
 class TableRows {
   public:
     virtual ~TableRows() = default;
     virtual std::size_t Count() const = 0;
-    /// The cells of the next row; nothing after the last one. A row of fewer cells than the table
-    /// has columns leaves the rest blank, further cells are not shown.
+    /// Returns the cells of the next row; null after the last one. If a row has fewer cells than
+    /// the table has columns, the rest stays blank; further cells are not shown.
     virtual const std::vector<std::string>* Next() = 0;
 };
 
-/// Rows that are held.
+/// Rows in memory.
 class HeldRows : public TableRows {
   public:
     explicit HeldRows(std::vector<std::vector<std::string>> rows) : rows_(std::move(rows)) {}
@@ -93,17 +93,17 @@ struct PrintTable {
     std::size_t rowCount = 0; ///< without the header row
 };
 
-/// Columns of a format such as "<2880|>20%|^1.5in|<": "<", ">" and "^" align left, right and
-/// centre, "~" cuts instead of wrapping; the width is in twips, percent of the printable width or a
-/// unit that ParseLength reads; a column without a width above 0 shares what is
-/// left.
+/// Reads the columns of a format such as "<2880|>20%|^1.5in|<": "<", ">" and "^" align left, right
+/// and centre, "~" cuts instead of wrapping; the width is in twips, percent of the printable width
+/// or a unit that ParseLength reads. The columns without a width above 0 share the remaining width.
 std::vector<TableColumn> ParseTableFormat(std::string_view format);
 
-/// True for a text such as "1,234.50", "(12.00)" or "-5%": digits with the signs of numbers.
+/// Returns true for a text such as "1,234.50", "(12.00)" or "-5%": digits with the signs of
+/// numbers.
 bool LooksLikeAmount(std::string_view text);
 
-/// The rows and cells of a text: rows separated by ";", cells by "|". An empty text has no rows; a
-/// ";" at the end of the text adds no row.
+/// Returns the rows and cells of a text: rows separated by ";", cells by "|". An empty text has no
+/// rows; a ";" at the end of the text adds no row.
 std::vector<std::vector<std::string>> ParseTableText(std::string_view text);
 
 } // namespace platform

@@ -9,14 +9,14 @@
 
 namespace platform {
 
-/// A document that is held: its finished pages, and its flow beside them.
+/// A document in memory: its finished pages, and its flow.
 class PrintedDocument : public PageSink {
   public:
     const DocumentInfo& Info() const { return info_; }
     std::size_t PageCount() const { return pages_.size(); }
-    /// Counted from 0.
+    /// Returns a page, counted from 0.
     PrintedPage Page(std::size_t index) const;
-    /// True from EndPages on: no page will be added.
+    /// Returns true once EndPages was called: no more pages will be added.
     bool IsComplete() const { return complete_; }
     void Clear();
 

@@ -40,7 +40,7 @@ class PrintedPage {
     Twips Width() const { return width_; }
     Twips Height() const { return height_; }
     const std::vector<PageItem>& Items() const { return items_; }
-    /// The text of a text item, UTF-8 in reading order.
+    /// Returns the text of a text item, UTF-8 in reading order.
     std::string_view TextOf(const PageItem& item) const;
     bool IsEmpty() const { return items_.empty(); }
 
@@ -54,7 +54,7 @@ class PrintedPage {
     std::string text_;
 };
 
-/// The page as lines of text for golden files: "text 1440,1500 Arial ..." in drawing order.
+/// Returns the page as lines of text for golden files: "text 1440,1500 Arial ..." in drawing order.
 std::string DescribePage(const PrintedPage& page);
 
 } // namespace platform

@@ -9,7 +9,7 @@ namespace platform {
 /// line breaks.
 void AppendRtf(std::string& out, std::string_view text);
 
-/// The same, with each "%d" as a field that shows the page's number.
+/// Does the same, with each "%d" as a field that shows the page's number.
 void AppendRtfWithPageNumber(std::string& out, std::string_view text);
 
 /// Adds a font's name without the characters that the font table can't hold.

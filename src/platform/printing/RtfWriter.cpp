@@ -26,9 +26,9 @@ struct CellEdges {
     bool right;
 };
 
-/// The size in half points at which an amount or a day fits into a cell, 0 if it fits at the
-/// table's own size: what continues in a second line would be misread. Its width is estimated,
-/// since there is no font to measure with.
+/// Returns the size in half points at which an amount or a day fits into a cell; 0 if it fits at
+/// the table's own size. Its continuation in a second line would be misread. Its width is
+/// estimated, since there is no font to measure with.
 int AmountSize(std::string_view text, Twips room, double usual) {
     constexpr double kDigit = 0.56; // of an em
     constexpr int kLeast = 2;
@@ -55,7 +55,7 @@ int RtfWriter::FontIndex(const std::string& name) {
     return static_cast<int>(index);
 }
 
-/// 0 is the reader's own text colour.
+/// Returns the number of a colour in the colour table; 0 is the reader's own text colour.
 int RtfWriter::ColorIndex(PrintColor color) {
     const auto found = std::ranges::find(colors_, color);
     const auto index = found - colors_.begin();
@@ -139,7 +139,8 @@ void RtfWriter::BeginTable(const PrintStyle& style, const PrintTable& table,
     currencyIndent_ = static_cast<int>(style.fontSize * kTwipsPerPoint / 3);
 }
 
-/// A row is written when it is known whether another follows: the last one's lower edge differs.
+/// A row is written once it is known whether another follows, because the lower edge of the last
+/// row differs.
 void RtfWriter::WriteRow(bool isLast) {
     if (row_.cells.empty()) return;
     const bool isInner = !row_.isFirst && !row_.isHeader && !isLast;

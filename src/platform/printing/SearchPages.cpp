@@ -15,7 +15,7 @@ auto Place(const PageMatch& match) {
     return std::tuple(match.page, match.item, match.begin);
 }
 
-/// Every place on one page, in the order of its items.
+/// Returns every place on one page, in the order of its items.
 std::vector<PageMatch> MatchesOf(const PrintedPage& page, std::size_t number,
                                  const std::string& wanted) {
     std::vector<PageMatch> matches;
@@ -27,7 +27,7 @@ std::vector<PageMatch> MatchesOf(const PrintedPage& page, std::size_t number,
         for (auto at = lower.find(wanted); at != std::string::npos;
              at = lower.find(wanted, at + wanted.size())) {
             PageMatch match{.page = number, .item = i, .begin = at, .length = wanted.size()};
-            // Some letters are longer in the other case: then the place within the text isn't
+            // Some letters have more bytes in the other case: then the place within the text isn't
             // known.
             if (lower.size() != text.size()) {
                 match.begin = 0;
@@ -47,7 +47,7 @@ std::optional<PageMatch> SearchPages(const PrintedDocument& document, std::strin
     const std::string wanted = ToLower(text);
     if (count == 0 || wanted.empty()) return std::nullopt;
     const bool forward = direction == SearchDirection::Forward;
-    // The first page is looked at twice: from the place on, and at the end up to it.
+    // The first page is searched twice: from the place on, and at the end up to it.
     for (std::size_t step = 0; step <= count; ++step) {
         const std::size_t number =
             (forward ? from.page + step : from.page + 2 * count - step) % count;

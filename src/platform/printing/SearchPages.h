@@ -22,9 +22,9 @@ struct PageMatch {
     friend bool operator==(const PageMatch&, const PageMatch&) = default;
 };
 
-/// The next place of `text` after `from`, or the one before it, without regard to case; after the
-/// last page the search goes on at the first. A text is found within one line. Nothing if the
-/// document doesn't have it.
+/// Returns the next occurrence of `text` after `from`, or the one before it, ignoring case; after
+/// the last page the search continues on the first. A text is found only within one line. Returns
+/// nothing if the document doesn't contain it.
 std::optional<PageMatch> SearchPages(const PrintedDocument& document, std::string_view text,
                                      const PageMatch& from, SearchDirection direction);
 

@@ -47,7 +47,8 @@ Twips PrintSurface::TextHeight(std::string_view text) const {
     return TextMeasure(metrics_, style_).LineHeight() * static_cast<Twips>(lines);
 }
 
-/// True if something of this height goes to the next page; what is taller than a page doesn't.
+/// Returns true if something of this height goes to the next page; if it is taller than a page, it
+/// doesn't.
 bool PrintSurface::Breaks(Twips height) const {
     return y_ > MarginTop() && y_ + height > PageHeight() - MarginBottom();
 }

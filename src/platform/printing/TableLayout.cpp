@@ -9,8 +9,8 @@ namespace {
 /// A row that is taller than a page begins on a page that has room for this many of its lines.
 constexpr std::size_t kLinesOfTallRow = 4;
 
-/// A table of up to so many rows without a header stays on one page: such are the sums below
-/// others, of which the last would mean little alone on the next page.
+/// A table of up to so many rows without a header stays on one page: such tables are sums, and the
+/// last row would mean little by itself on the next page.
 constexpr std::size_t kRowsKept = 5;
 
 } // namespace
@@ -43,7 +43,7 @@ bool TableLayout::IsTall() const {
     return row_.Height() > maker_.Bottom() - maker_.Top() - RepeatedHeight();
 }
 
-/// How much of the table has to fit below the place where it begins.
+/// Returns how much of the table has to fit below the place where it begins.
 Twips TableLayout::BeginningHeight() const {
     if (IsTall()) return RepeatedHeight() + row_.HeightOf(kLinesOfTallRow);
     const bool isKept = table_.header.cells.empty() && table_.rowCount <= kRowsKept;
@@ -113,7 +113,7 @@ void TableLayout::DrawRow(TableRowLayout& row) {
 void TableLayout::DrawTallRow(TableRowLayout& row) {
     std::size_t first = 0;
     while (first < row.LineCount()) {
-        // At least one line on each page, so that the loop ends whatever the page's height.
+        // Each page takes at least one line, so that the loop ends whatever the page's height.
         const std::size_t room = std::max<std::size_t>(row.LinesIn(maker_.Bottom() - y_), 1);
         const std::size_t end = std::min(first + room, row.LineCount());
         row.Draw(maker_, maker_.Left(), y_, first, end);

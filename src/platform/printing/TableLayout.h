@@ -26,7 +26,7 @@ class TableLayout {
   private:
     Twips RepeatedHeight() const;
     Twips BeginningHeight() const;
-    /// True if the row doesn't fit on a page of its own.
+    /// Returns true if the row doesn't fit on a page of its own.
     bool IsTall() const;
     bool Fits(Twips height) const { return y_ + height <= maker_.Bottom(); }
     void DrawHeader();

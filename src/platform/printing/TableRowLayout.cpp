@@ -14,13 +14,13 @@ namespace platform {
 
 namespace {
 
-/// In points. Smaller text couldn't be read; it is wrapped more often instead.
+/// In points. Smaller text would be unreadable; it is wrapped more often instead.
 constexpr double kLeastSize = 4;
 constexpr double kLeastTitleSize = 3;
-/// Of a text whose words are too long for its column.
+/// For a text whose words are too long for its column.
 constexpr double kLeastWordSize = 6;
-/// Of what stays in one line however narrow its column is: it can still be read enlarged on the
-/// screen, while digits over several lines are misread.
+/// For text that stays in one line however narrow its column is: it can still be read enlarged on
+/// the screen, while digits over several lines are misread.
 constexpr double kLeastWholeSize = 1;
 
 double TextScale(const PrintStyle& style, double scale) {
@@ -44,7 +44,8 @@ std::string_view WidestWord(std::string_view text, const TextMeasure& measure) {
     return widest;
 }
 
-/// The end of the word that a text begins with: at a blank, or after a hyphen between letters.
+/// Returns the end of the word that a text begins with: at a blank, or after a hyphen between
+/// letters.
 std::size_t WordEnd(std::string_view text) {
     for (std::size_t at = 0; at < text.size(); ++at) {
         if (text[at] == ' ' || text[at] == '\n') return at;
@@ -55,8 +56,9 @@ std::size_t WordEnd(std::string_view text) {
     return text.size();
 }
 
-/// The word of the most letters, found without measuring. Empty if it is longer than any column,
-/// or may have letters of a script without blanks, which is broken anywhere.
+/// Returns the word of the most letters, found without measuring. Returns an empty text if the word
+/// is longer than any column, or if it may have letters of a script without blanks, which can be
+/// broken anywhere.
 std::string_view LongestWord(std::string_view text) {
     constexpr unsigned char kFirstOfThree = 0xE0; // bytes of a letter
     constexpr std::size_t kMost = 200;
@@ -71,7 +73,7 @@ std::string_view LongestWord(std::string_view text) {
     return isPlain && longest.size() < kMost ? longest : std::string_view();
 }
 
-/// The number that a text such as "-12.345" is; nothing for another text.
+/// Returns the number that a text such as "-12.345" is; nothing for another text.
 std::optional<double> PlainNumber(std::string_view text) {
     double value = 0;
     if (!LooksLikeAmount(text)) return std::nullopt;
@@ -129,7 +131,7 @@ void TableRowLayout::FillCell(std::size_t column, std::string_view text) {
     lineCount_ = std::max(lineCount_, lines_.size() - begin);
 }
 
-/// Adds a cell's lines; false if its text isn't whole in one line.
+/// Adds a cell's lines; returns false if its text isn't whole in one line.
 bool TableRowLayout::BreakCell(std::size_t column, const TextInk& ink, std::string_view text) {
     const Twips width = std::max(columns_.widths[column] - 2 * Inset(column), 1);
     // Column titles are never cut.
@@ -146,7 +148,7 @@ bool TableRowLayout::BreakCell(std::size_t column, const TextInk& ink, std::stri
     return isWhole;
 }
 
-/// A number rounded to the decimals that its column has room for, at least two.
+/// Returns a number rounded to the decimals that its column has room for, at least two.
 std::string_view TableRowLayout::Shortened(std::size_t column, std::string_view text) {
     constexpr std::size_t kLeastDecimals = 2;
     const auto point = text.find('.');
@@ -162,7 +164,7 @@ std::string_view TableRowLayout::Shortened(std::size_t column, std::string_view 
     return made_.emplace_back(std::move(shorter));
 }
 
-/// The part of a cell's text that should stay in one line: an amount or a day, or a word.
+/// Returns the part of a cell's text that should stay in one line: an amount, a day or a word.
 TableRowLayout::WholeText TableRowLayout::WholePart(std::size_t column,
                                                     std::string_view text) const {
     if (kind_ == RowKind::Header) return {WidestWord(text, InkOf(column).measure), kLeastTitleSize};
@@ -171,8 +173,8 @@ TableRowLayout::WholeText TableRowLayout::WholePart(std::size_t column,
     return {LongestWord(text), kLeastWordSize};
 }
 
-/// The column's font, smaller where an amount, a day or a word is too wide for the column: "18,205"
-/// above ".00" would be misread.
+/// Returns the column's font, smaller if an amount, a day or a word is too wide for the column:
+/// "18,205" above ".00" would be misread.
 const TextInk& TableRowLayout::FittingInk(std::size_t column, std::string_view text) {
     constexpr int kTenths = 10;
     const TextInk& usual = InkOf(column);
@@ -253,7 +255,7 @@ Twips TableRowLayout::LineX(std::size_t column, const MeasuredLine& line) const 
     return left;
 }
 
-/// Where an amount begins so that its decimal point is where that of "(12.00)" would be.
+/// Returns where an amount begins so that its decimal point is in line with the point of "(12.00)".
 Twips TableRowLayout::CurrencyX(const TextMeasure& measure, Twips right,
                                 const MeasuredLine& line) const {
     const Twips point = right - measure.Width(".00)");

@@ -15,8 +15,8 @@ namespace platform {
 
 enum class RowKind : std::uint8_t { Header, Body };
 
-/// One row of a table, broken into lines and ready to be drawn. It is made once a table and filled
-/// again for each row.
+/// One row of a table, broken into lines and ready to be drawn. It is made once per table and
+/// filled again for each row.
 class TableRowLayout {
   public:
     TableRowLayout(FontMetrics& metrics, const PrintStyle& style, const PrintTable& table,
@@ -27,9 +27,9 @@ class TableRowLayout {
 
     std::size_t LineCount() const { return lineCount_; }
     Twips Height() const { return HeightOf(lineCount_); }
-    /// The height of a part of so many lines.
+    /// Returns the height of a part with so many lines.
     Twips HeightOf(std::size_t lines) const;
-    /// How many lines fit into a height.
+    /// Returns how many lines fit into a height.
     std::size_t LinesIn(Twips height) const;
 
     /// Draws the lines from `first` to before `end` with the row's upper left corner at (x, y).

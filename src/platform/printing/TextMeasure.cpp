@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view kEllipsis = "\u2026";
 /// Longer than any line of a page: such a text isn't measured as a whole.
 constexpr std::size_t kLongText = 4000;
-/// Longer than a line too: such a word may be broken here, as it must be somewhere.
+/// Also longer than a line: such a word may be broken here, since it must be broken somewhere.
 constexpr std::size_t kLongWord = 1000;
 
 Twips Rounded(double twips) {
@@ -30,8 +30,8 @@ std::string_view WithoutBlanksAtEnd(std::string_view text) {
     return text;
 }
 
-/// The end of the piece that begins at `begin` and may not be broken: leading blanks, then a word
-/// up to a blank, a hyphen between letters or a letter that breaks anywhere.
+/// Returns the end of the piece that begins at `begin` and may not be broken: leading blanks, then
+/// a word up to a blank, a hyphen between letters or a letter that breaks anywhere.
 std::size_t PieceEnd(std::string_view text, std::size_t begin) {
     std::size_t at = std::min(text.find_first_not_of(' ', begin), text.size());
     bool first = true;
@@ -51,7 +51,7 @@ std::size_t PieceEnd(std::string_view text, std::size_t begin) {
     return at;
 }
 
-/// How many bytes of `text` fit into `width`, at least its first character.
+/// Returns how many bytes of `text` fit into `width`, at least its first character.
 std::size_t FittingPart(const TextMeasure& measure, std::string_view text, Twips width) {
     std::size_t end = FirstCluster(text);
     Twips used = measure.Width(text.substr(0, end));

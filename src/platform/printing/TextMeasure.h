@@ -12,14 +12,14 @@ namespace platform {
 /// One face at one size, measured in twips.
 class TextMeasure {
   public:
-    /// The font of a style; `scale` makes its size smaller.
+    /// Measures in the font of a style; `scale` makes its size smaller.
     TextMeasure(FontMetrics& metrics, const PrintStyle& style, double scale = 1);
 
     Twips Width(std::string_view text) const;
     Twips LineHeight() const { return lineHeight_; }
     Twips Ascent() const { return ascent_; }
     FaceId Face() const { return face_; }
-    /// In points.
+    /// Returns the size in points.
     float Size() const { return size_; }
 
   private:
@@ -42,8 +42,8 @@ struct MeasuredLine {
 void BreakLines(const TextMeasure& measure, std::string_view text, Twips width,
                 std::vector<MeasuredLine>& lines);
 
-/// The text up to its first line end, if it is all there is and no wider than `width`; otherwise as
-/// much of it as fits, followed by an ellipsis, made in `scratch`.
+/// Returns the text up to its first line end, if it is all there is and no wider than `width`;
+/// otherwise as much of it as fits, followed by an ellipsis, made in `scratch`.
 MeasuredLine CutLine(const TextMeasure& measure, std::string_view text, Twips width,
                      std::string& scratch);
 

@@ -15,7 +15,8 @@ namespace {
 /// The width of one character on the page.
 constexpr Twips kCharacter = 100;
 constexpr std::size_t kGap = 2;
-/// The least width of a column of numbers, "(999,999.99)", and of another, which may hold days.
+/// The least width of a column of numbers, "(999,999.99)", and of any other column, which may hold
+/// days.
 constexpr std::size_t kNumberWidth = 12;
 constexpr std::size_t kDayWidth = 10;
 
@@ -101,7 +102,7 @@ void TextWriter::BeginTable(const PrintStyle&, const PrintTable& table,
         const TableColumn& column = columns_[widths_.size()];
         const bool isNumber = column.alignCurrency || column.align == TextAlign::Right;
         const std::size_t share = next > last + kGap ? next - last - kGap : 1;
-        // One that is less than half as wide as a day holds none.
+        // A column that is less than half as wide as a day holds no days.
         const std::size_t least = isNumber ? kNumberWidth : share < kDayWidth / 2 ? 0 : kDayWidth;
         widths_.push_back(std::max(share, least));
         last = next;
@@ -130,7 +131,7 @@ void TextWriter::WriteRow(std::span<const std::string_view> cells, bool header) 
     std::size_t count = 1;
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const std::string_view text = CleanText(cells[i], cleaned[i]);
-        // An amount that is wider than its column moves the rest of its line.
+        // An amount that is wider than its column shifts the rest of its line.
         const bool isWhole = !header && StaysInOneLine(text);
         lines.push_back(LinesOf(text, isWhole ? std::max(widths_[i], text.size()) : widths_[i]));
         count = std::max(count, lines.back().size());

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-/// True for a text that would be misread in two lines: an amount, or a day "05/17/2024".
+/// Returns true for a text that would be misread in two lines: an amount, or a day "05/17/2024".
 bool StaysInOneLine(std::string_view text);
 
 } // namespace platform

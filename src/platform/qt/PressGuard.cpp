@@ -24,8 +24,8 @@ bool IsGuardedButton(const QObject& watched) {
     return button != nullptr && !TakesEveryPress(*button);
 }
 
-/// Whether a key that stays down would give the same command again: to the default button of a
-/// dialog, or to the row that a list has moved on to.
+/// Returns whether a key that stays down would give the same command again: to the default button
+/// of a dialog, or to the row that a list has moved on to.
 bool RepeatsCommand(const QObject& watched, int key) {
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
     if (qobject_cast<const QDialog*>(&watched) || qobject_cast<const QAbstractButton*>(&watched))
@@ -47,13 +47,13 @@ class PressGuard : public QObject {
     bool IsSecondPress(const QObject& watched, const QEvent& event) {
         switch (event.type()) {
             case QEvent::MouseButtonDblClick:
-                // The release that follows clicks nothing, as the button isn't down.
+                // The release that follows doesn't click, because the button isn't down.
                 return IsGuardedButton(watched);
             case QEvent::ShortcutOverride:
                 isHeld_ = static_cast<const QKeyEvent&>(event).isAutoRepeat();
                 return false;
             case QEvent::Shortcut:
-                // Doesn't say itself whether its key was held, but always follows the key's event.
+                // A click doesn't say whether its key was held, but always follows the key's event.
                 return isHeld_ && IsGuardedButton(watched);
             case QEvent::KeyPress: {
                 const auto& key = static_cast<const QKeyEvent&>(event);

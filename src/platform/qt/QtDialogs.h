@@ -8,8 +8,8 @@
 
 namespace platform::qt {
 
-// The interfaces of platform/dialogs for the window program. Each dialog belongs to the window that
-// is active when it is opened.
+// Return the window program's implementations of platform/dialogs. Each dialog belongs to the
+// window that is active when it is opened.
 
 std::unique_ptr<Dialogs> MakeDialogs();
 std::unique_ptr<Choosers> MakeChoosers();

@@ -26,7 +26,7 @@ struct Pipe {
     }
 };
 
-// Lives until the process ends, since a signal may come at any time.
+// It exists until the process ends, since a signal may come at any time.
 Pipe& SignalPipe() {
     static Pipe pipe;
     return pipe;

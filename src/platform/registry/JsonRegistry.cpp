@@ -21,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 using Json = nlohmann::ordered_json;
 
-// The member of this name whatever its case, or nothing.
+// Returns the member of this name whatever its case, or nothing.
 const Json* Member(const Json& object, std::string_view name) {
     if (!object.is_object()) return nullptr;
     for (const auto& item : object.items()) {
@@ -37,8 +37,8 @@ Json& MemberForWriting(Json& object, std::string_view name) {
     return object[std::string(name)];
 }
 
-/// Keeps other processes from writing between our reading afresh and our replacing. The lock is on
-/// the folder, since the file itself is another one after each write.
+/// Keeps other processes from writing between our reading and our replacing of the file. The lock
+/// is on the folder, since each write replaces the file itself.
 class FolderLock {
   public:
     explicit FolderLock(const fs::path& folder)
@@ -101,7 +101,7 @@ class JsonRegistry : public Registry {
 
   private:
     enum class State { Missing, Sound, Damaged, Unreadable };
-    // Tells one writing of the file from the next: each is a file of its own.
+    // Distinguishes one version of the file from the next: each is a file of its own.
     using Version = std::tuple<ino_t, off_t, time_t, long>;
 
     const Json* Find(std::string_view key, std::string_view name) {
@@ -110,7 +110,7 @@ class JsonRegistry : public Registry {
         return values != nullptr ? Member(*values, name) : nullptr;
     }
 
-    // Reads the file into contents_; empty unless the file is sound.
+    // Reads the file into contents_; they are empty unless the file is sound.
     void Load() {
         struct stat now {};
         if (stat(file_.c_str(), &now) != 0) {

@@ -23,30 +23,30 @@ class Registry {
   public:
     virtual ~Registry() = default;
 
-    /// Empty if the value is missing, of the other type, or the store can't be read.
+    /// Returns nothing if the value is missing or of the other type, or if the store can't be read.
     virtual std::optional<std::string> ReadText(std::string_view key, std::string_view name) = 0;
     virtual std::optional<std::int32_t> ReadNumber(std::string_view key, std::string_view name) = 0;
 
-    /// False when the store can't be written; it is then as before.
+    /// Returns false if the store can't be written; it is then unchanged.
     virtual bool WriteText(std::string_view key, std::string_view name, std::string_view value) = 0;
     virtual bool WriteNumber(std::string_view key, std::string_view name, std::int32_t value) = 0;
     /// Writes several texts in one step, all or none of them.
     virtual bool WriteTexts(std::span<const RegistryText> texts) = 0;
 
-    /// Whether there is a store that can't be understood, so that everything in it is missing.
+    /// Returns whether the store can't be understood, so that all of its values are missing.
     virtual bool IsDamaged() { return false; }
 };
 
-/// The registry kept as JSON in `file`: read afresh before each write, replaced in one step,
-/// private to the user. A damaged file reads as empty and is put aside ("registry.json.damaged")
-/// before the first write replaces it.
+/// Returns the registry kept as JSON in `file`: it is read again before each write, replaced in one
+/// step, and private to the user. A damaged file reads as empty and is put aside
+/// ("registry.json.damaged") before the first write replaces it.
 std::unique_ptr<Registry> OpenJsonRegistry(std::filesystem::path file);
 
-/// A registry that exists only in memory, for tests.
+/// Returns a registry that exists only in memory, for tests.
 std::unique_ptr<Registry> MakeMemoryRegistry();
 
-/// The registry of this process: `registry.json` below the configuration home until SetRegistry
-/// puts another in its place (null puts the file back).
+/// Returns the registry of this process: `registry.json` below the configuration home unless
+/// SetRegistry sets another one; setting null restores the file.
 Registry& TheRegistry();
 void SetRegistry(std::unique_ptr<Registry> registry);
 

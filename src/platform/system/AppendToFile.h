@@ -7,8 +7,8 @@
 namespace platform {
 
 /// Adds a line to the end of a text file, in one piece even if other programs add theirs; a file
-/// that is missing is made with these permissions. A last line that was cut off keeps to itself.
-/// Throws Error with the reason on failure.
+/// that is missing is made with these permissions. If the last line was cut off, the new line isn't
+/// joined to it. Throws Error with the reason on failure.
 void AppendLine(const std::filesystem::path& file, std::string_view line,
                 std::filesystem::perms mode);
 

@@ -7,10 +7,11 @@
 
 namespace platform {
 
-/// The one clock of the program: nothing else reads the system's date or time.
+/// Returns today's date. This is the only clock of the program: nothing else reads the system's
+/// date or time.
 Date Today();
 
-/// Seconds since midnight, with fractions, local time.
+/// Returns the local time in seconds since midnight, with fractions.
 double SecondOfDay();
 
 /// A moment of the calendar: a day and the seconds since its midnight, local time.
@@ -19,12 +20,12 @@ struct Moment {
     int second = 0;
 };
 
-/// When a file was changed last; an unset day if it can't be told.
+/// Returns when a file was last changed; an unset day if that isn't known.
 Moment ChangedAt(const std::filesystem::path& file);
-/// Gives a file the moment of its last change; a failure is skipped.
+/// Sets the moment of a file's last change; a failure is ignored.
 void SetChangedAt(const std::filesystem::path& file, const Moment& moment);
 
-/// Sets the day that Today returns from now on; an empty one returns to the system's.
+/// Sets the day that Today returns from now on; an empty one restores the system's day.
 void SetToday(std::optional<Date> day);
 
 } // namespace platform

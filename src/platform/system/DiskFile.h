@@ -9,19 +9,19 @@
 
 namespace platform {
 
-/// A file that can't be written; the text names it and the reason.
+/// A file that can't be written; the text names the file and the reason.
 class DiskError : public Error {
   public:
     DiskError(const std::string& text, int number) : Error(text), number_(number) {}
-    /// The system's number of the failure.
+    /// Returns the system's number of the error.
     int Number() const { return number_; }
 
   private:
     int number_;
 };
 
-/// A file open for writing; bytes go to the system without a buffer of the program's. Throws a
-/// DiskError on every failure (a full disk, a folder that can't be written to).
+/// A file open for writing; bytes go directly to the system, without a buffer of the program.
+/// Throws a DiskError on every failure (a full disk, a folder that can't be written to).
 class DiskFile {
   public:
     enum class Start {
@@ -43,9 +43,9 @@ class DiskFile {
     int Descriptor() const { return descriptor_; }
     std::int64_t Size() const;
 
-    /// Adds to the end.
+    /// Adds bytes to the end.
     void Write(std::string_view bytes);
-    /// Writes at an offset counted from 0.
+    /// Writes bytes at an offset counted from 0.
     void WriteAt(std::int64_t offset, std::string_view bytes);
     /// Removes the bytes from `size` on.
     void CutTo(std::int64_t size);
@@ -60,7 +60,7 @@ class DiskFile {
     std::size_t waiting_ = 0; ///< bytes that the system wasn't yet asked to write to the disk
 };
 
-/// Waits until the names in a folder are on the disk; a failure is skipped.
+/// Waits until the names in a folder are on the disk; a failure is ignored.
 void SyncFolder(const std::filesystem::path& folder);
 
 } // namespace platform

@@ -24,7 +24,8 @@ constexpr std::size_t kWriteSize = 1 << 18;
     throw Error("Can't write " + file.string() + ": " + reason + ".");
 }
 
-/// The file that `file` stands for, so that a link stays a link.
+/// Returns the file to write for `file`: the file that a link points to, so that the link stays a
+/// link.
 fs::path TargetOf(const fs::path& file) {
     std::error_code failure;
     if (file.filename().empty()) FailToMake(file, "it names no file");
@@ -43,7 +44,7 @@ int MakeDraft(const fs::path& target, std::string& draft) {
     draft = target.string() + ".XXXXXX";
     const int descriptor = mkostemp(draft.data(), O_CLOEXEC);
     if (descriptor < 0) FailToMake(target, std::generic_category().message(errno));
-    // Who could read the former file can read this one.
+    // Whoever could read the former file can read this one.
     struct stat former {};
     if (stat(target.c_str(), &former) == 0) {
         static_cast<void>(fchmod(descriptor, former.st_mode & 0777U));
@@ -72,8 +73,8 @@ void DraftFile::Flush() {
     collected_.clear();
 }
 
-// The two names change places, so that TakeBack can bring the former file back; where the file
-// system can't do that, the new one simply replaces it.
+// The two names are exchanged, so that TakeBack can restore the former file; on a file system that
+// can't do that, the new file simply replaces it.
 void DraftFile::Publish() {
     Flush();
     out_.Sync();

@@ -13,7 +13,7 @@ namespace platform {
 /// a draft that is not published is removed. Every failure is an Error with the reason.
 class DraftFile {
   public:
-    /// Makes the draft, private to the user. Fails where `file` is something other than a file.
+    /// Makes the draft, private to the user. Fails if `file` is something other than a file.
     explicit DraftFile(const std::filesystem::path& file);
     ~DraftFile();
     DraftFile(const DraftFile&) = delete;
@@ -21,12 +21,12 @@ class DraftFile {
     DraftFile(DraftFile&&) = delete;
     DraftFile& operator=(DraftFile&&) = delete;
 
-    /// Adds to the end; the bytes are collected into large writes.
+    /// Adds bytes to the end; they are collected into large writes.
     void Write(std::string_view bytes);
 
     /// Gives the finished file its name.
     void Publish();
-    /// After Publish: removes the file; the one that had its name before is back under it.
+    /// Undoes Publish: removes the file and restores the one that had its name before.
     void TakeBack();
 
   private:

@@ -70,7 +70,7 @@ int OpenOrMake(const fs::path& file, fs::perms mode) {
     return made;
 }
 
-/// Opens a file that several programs add lines to, and locks it where the file system can. It is
+/// Opens a file to which several programs add lines, and locks it if the file system can. It is
 /// opened again if another program has replaced it while this one waited.
 int OpenShared(const fs::path& file, int lock, fs::perms mode) {
     for (;;) {
@@ -83,7 +83,7 @@ int OpenShared(const fs::path& file, int lock, fs::perms mode) {
     }
 }
 
-// The file that a link points to, so that the link itself stays.
+// Returns the file that a link points to, so that the link itself stays.
 fs::path Target(const fs::path& file) {
     std::error_code failure;
     if (!fs::is_symlink(file, failure)) return file;
@@ -105,7 +105,8 @@ void WriteFileAtomically(const fs::path& file, std::string_view contents, fs::pe
     std::string draft = target.string() + ".XXXXXX";
     const Descriptor out(mkostemp(draft.data(), O_CLOEXEC));
     if (!out.IsOpen()) Fail("write", file, errno);
-    // On the disk before it takes the name: a power cut must not leave an empty file.
+    // Synced to the disk before it gets its name: after a power cut, the name must not belong to an
+    // empty file.
     if (!WriteAll(out.Number(), contents) || fchmod(out.Number(), static_cast<mode_t>(mode)) != 0 ||
         fsync(out.Number()) != 0 || rename(draft.c_str(), target.c_str()) != 0) {
         const int reason = errno;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view kSeparators = "/\\";
 
-// A base directory that isn't absolute counts as not given.
+// Returns a base directory; one that isn't absolute counts as not given.
 fs::path BaseDirectory(const char* variable, const char* standard) {
     if (const char* given = std::getenv(variable); given != nullptr && *given == '/') return given;
     return HomeFolder() / standard;

@@ -19,7 +19,7 @@ bool StartDetached(const std::filesystem::path& program,
         line.push_back(word.data());
     line.push_back(nullptr);
 
-    // A session of its own, so that closing our terminal doesn't end it.
+    // A session of its own, so that closing our terminal doesn't end the program.
     posix_spawnattr_t attributes;
     posix_spawn_file_actions_t files;
     posix_spawnattr_init(&attributes);
@@ -33,7 +33,8 @@ bool StartDetached(const std::filesystem::path& program,
     posix_spawnattr_destroy(&attributes);
     if (failure != 0) return false;
 
-    // Somebody must take note of its end, or it would stay in the process table as long as we live.
+    // Something must wait for its end, or it would stay in the process table as long as this
+    // process runs.
     std::thread([child] { waitpid(child, nullptr, 0); }).detach();
     return true;
 }

@@ -12,7 +12,8 @@ namespace {
 
 constexpr std::size_t kTextColumn = 30;
 
-/// The name, then the text from a fixed column on; on a line of its own if the name is too long.
+/// Appends the name, then the text from a fixed column on; if the name is too long, the text is on
+/// a line of its own.
 void AppendEntry(std::string& help, const HelpEntry& entry) {
     std::string line = fmt::format("  {}", entry.name);
     if (line.size() + 2 > kTextColumn) {

@@ -13,7 +13,7 @@ struct HelpEntry {
     std::string_view text;
 };
 
-/// What every program answers: the first entries of its options.
+/// The options that every program has; they come first in its help.
 inline constexpr HelpEntry kHelpOption{"-h,--help", "Print this help and exit"};
 inline constexpr HelpEntry kVersionOption{"--version", "Print the version and exit"};
 

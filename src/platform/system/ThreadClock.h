@@ -7,7 +7,7 @@
 namespace platform {
 
 /// Sets the day that Today returns to this thread from now on, whatever SetToday says; an empty one
-/// ends that. Returns what was set before.
+/// ends that. Returns the previous setting.
 std::optional<Date> SetTodayOfThread(std::optional<Date> day);
 
 } // namespace platform

@@ -26,7 +26,7 @@ T RoundTo(double number) {
     return static_cast<T>(whole);
 }
 
-// The four digits after the point.
+// Writes the four digits after the point.
 void PutDecimals(char* place, std::uint64_t decimals) {
     for (int i = 3; i >= 0; --i, decimals /= 10)
         place[i] = static_cast<char>('0' + decimals % 10);
@@ -82,7 +82,7 @@ std::optional<double> TryParseNumber(std::string_view text) {
     double number = 0;
     const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), number);
     if (error == std::errc::result_out_of_range) {
-        // Beyond the range at either end; what is too small is as good as nothing.
+        // Out of range at either end; a number that is too small counts as zero.
         if (scan->pointAt > 0) ThrowTooLarge();
         number = 0;
     }
@@ -106,7 +106,8 @@ std::optional<Currency> TryParseMoney(std::string_view text) {
     for (std::int64_t i = 0; i < kept; ++i) {
         magnitude = magnitude * 10 + static_cast<std::uint64_t>(digit(i) - '0');
     }
-    // The digits carry no trailing zeros, so one past the next makes it more than a half.
+    // The digits have no trailing zeros, so if another digit follows the next one, the rest is more
+    // than a half.
     const char next = digit(kept);
     const bool half = next == '5' && count == kept + 1;
     if (half ? (magnitude & 1) != 0 : next >= '5') ++magnitude;

@@ -7,13 +7,13 @@
 
 namespace platform {
 
-// Cells of RFC 4180 CSV, from which every value reads back the same: text always quoted, null as an
-// empty unquoted field, money with four decimals, doubles in their shortest form, booleans True and
-// False, dates mm/dd/yyyy.
+// Adds a value to a line as a cell of RFC 4180 CSV, from which every value reads back the same:
+// text always quoted, null as an empty unquoted field, money with four decimals, doubles in their
+// shortest form, booleans True and False, dates mm/dd/yyyy.
 void AppendCsvCell(std::string& line, const Value& value);
 std::string CsvCell(const Value& value);
 
-/// A text or a column's name, quoted, its own quotes doubled.
+/// Returns a text or a column's name in quotes, with its own quotes doubled.
 std::string CsvText(std::string_view text);
 
 } // namespace platform

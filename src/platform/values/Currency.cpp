@@ -9,11 +9,11 @@ namespace platform {
 
 namespace {
 
-// From here on a double has no bits left for halves, and its product with the scale would be
+// Above this number a double has no bits left for halves, and its product with the scale would be
 // rounded once too often.
 constexpr double kExactDoubles = 9'007'199'254'740'992.0; // 2^53
 
-// units * 10,000 in whole numbers, for doubles whose last bit is worth less than a unit.
+// Returns units * 10,000 in whole numbers, for doubles whose last bit is worth less than a unit.
 std::int64_t ScaleExactly(double units) {
     int exponent = 0;
     const double fraction = std::frexp(std::fabs(units), &exponent);

@@ -9,26 +9,26 @@ namespace detail {
 [[noreturn]] void ThrowMoneyOverflow();
 }
 
-/// An amount of money: a 64-bit integer scaled by 10,000. Exact; what does not fit is an
-/// OverflowError, never a wrong amount. It never turns into a double by itself.
+/// An amount of money: a 64-bit integer scaled by 10,000. It is exact: an amount that does not fit
+/// throws an OverflowError. It is never converted to a double implicitly.
 class Currency {
   public:
     static constexpr std::int64_t kScale = 10'000;
 
     constexpr Currency() = default;
 
-    /// An amount from its scaled form: 12345 is 1.2345.
+    /// Returns an amount from its scaled form: 12345 is 1.2345.
     static constexpr Currency FromScaled(std::int64_t scaled) { return Currency(scaled); }
-    /// A whole number of units.
+    /// Returns an amount of whole units.
     static constexpr Currency FromUnits(std::int64_t units) { return Currency(kScale) * units; }
-    /// The nearest amount, halves to the even last digit; what counts as a half is seen on the
-    /// double times 10,000, so that 0.00005 is one though no double is exactly that. NaN and
-    /// infinities are an OverflowError.
+    /// Returns the nearest amount; halves round to the even last digit. Whether it is a half is
+    /// seen on the double times 10,000, so that 0.00005 is one although no double is exactly that.
+    /// NaN and infinities throw an OverflowError.
     static Currency FromDouble(double units);
 
     constexpr std::int64_t Scaled() const { return scaled_; }
     constexpr bool IsZero() const { return scaled_ == 0; }
-    /// The nearest double.
+    /// Returns the nearest double.
     double ToDouble() const;
 
     constexpr Currency operator-() const { return Currency() - *this; }

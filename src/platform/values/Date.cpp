@@ -16,7 +16,7 @@ constexpr int kLastYear = 9999;
 constexpr int kFirstSerial = -657'434; // 1/1/100
 constexpr int kLastSerial = 2'958'465; // 12/31/9999
 
-// Reads up to `most` digits off the front of `text`; 0 digits or more than that is a failure.
+// Reads up to `most` digits off the front of `text`; fails if there are none or more than that.
 bool TakeNumber(std::string_view& text, std::size_t most, unsigned& number, std::size_t& digits) {
     number = 0;
     digits = 0;

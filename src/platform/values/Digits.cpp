@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-// An exponent beyond this is beyond every range, whatever digits it goes with.
+// An exponent beyond this is out of every range, whatever its digits.
 constexpr std::int64_t kExponentLimit = 100'000;
 
 bool Take(std::string_view& text, char wanted) {
@@ -20,7 +20,8 @@ bool Take(std::string_view& text, char wanted) {
     return true;
 }
 
-// "(", "-", "+" and "$" before it, ")" after it. The rest begins with the number itself.
+// Takes "(", "-", "+" and "$" before the number and ")" after it. The rest begins with the number
+// itself.
 bool TakeSigns(std::string_view& text, bool& negative) {
     if (Take(text, '(')) {
         if (text.empty() || text.back() != ')') return false;
@@ -36,7 +37,7 @@ bool TakeSigns(std::string_view& text, bool& negative) {
     return true;
 }
 
-// The digits with their commas and point; true when there was one digit at least.
+// Takes the digits with their commas and point; returns true if there was at least one digit.
 bool TakeDigits(std::string_view& text, Digits& scan) {
     bool any = false;
     bool point = false;
@@ -86,7 +87,7 @@ void DropTrailingZeros(Digits& number) {
 Digits DigitsOf(double number) {
     Digits result{.negative = number < 0, .digits = {}, .pointAt = 0};
     if (number == 0) return result;
-    // "d.ddde+xx", the shortest that reads back the same.
+    // "d.ddde+xx", the shortest form that reads back the same.
     char text[32];
     const char* const end =
         std::to_chars(text, text + sizeof text, std::fabs(number), std::chars_format::scientific)

@@ -16,15 +16,16 @@ struct Digits {
     std::int64_t pointAt = 0; ///< the place of the point, counted from the first digit
 };
 
-/// The digits of a number in its shortest form, and of an amount of money. The number is finite.
+/// Return the digits of a number in its shortest form, and of an amount of money. The number must
+/// be finite.
 Digits DigitsOf(double number);
 Digits DigitsOf(Currency amount);
 
 /// Rounds to `places` decimals, halves away from zero.
 void RoundDigits(Digits& number, std::int64_t places);
 
-/// Blanks around it, a sign, "$", thousands commas, parentheses for negative, an exponent. Nothing
-/// for a blank text or junk.
+/// Reads a number: blanks around it, a sign, "$", thousands commas, parentheses for negative, an
+/// exponent. Returns nothing for a blank text or junk.
 std::optional<Digits> ScanDigits(std::string_view text);
 
 } // namespace platform

@@ -18,7 +18,7 @@ class ConversionError : public Error {
     using Error::Error;
 };
 
-/// A number that does not fit where it is to go.
+/// A number that is too large for its destination.
 class OverflowError : public Error {
   public:
     using Error::Error;
@@ -34,14 +34,14 @@ class FieldError : public Error {
 class DatabaseError : public Error {
   public:
     explicit DatabaseError(const std::string& text, int code = 0) : Error(text), code_(code) {}
-    /// The engine's number of the failure, 0 where it has none.
+    /// Returns the engine's number of the error; 0 if it has none.
     int Code() const { return code_; }
 
   private:
     int code_;
 };
 
-/// A row that was deleted or changed by somebody else since it was read.
+/// A row that was deleted or changed by someone else since it was read.
 class ConflictError : public DatabaseError {
   public:
     using DatabaseError::DatabaseError;
@@ -50,8 +50,8 @@ class ConflictError : public DatabaseError {
 /// A statement that does not compile.
 class DialectError : public DatabaseError {
   public:
-    /// `position` is the 0-based offset of the fault in the statement's text; the text of the error
-    /// already says the place.
+    /// `position` is the 0-based offset of the fault in the statement's text; the error's text says
+    /// the place already.
     DialectError(const std::string& text, std::size_t position)
         : DatabaseError(text), position_(position) {}
     std::size_t Position() const { return position_; }

@@ -23,7 +23,8 @@ void PutNumber(std::string& out, unsigned number, std::size_t width) {
     out += digits;
 }
 
-// A run of one letter of a date format; false if it has no meaning.
+// Appends a part of a date for a run of one letter in the format; returns false if the letter has
+// no meaning.
 bool PutDatePart(std::string& out, Date date, char letter, std::size_t count) {
     if (letter == 'm' && count <= 4) {
         const std::string_view name = kMonths[date.Month() - 1];
@@ -99,7 +100,7 @@ std::string FormatDate(Date date, std::string_view format) {
 }
 
 std::string Format(const Value& value, std::string_view format) {
-    // The two formats of all lists need not be looked into, cell by cell.
+    // The two formats that all lists use needn't be parsed for each cell.
     if (const auto* amount = std::get_if<Currency>(&value.Held()); amount && format == kMoneyFormat)
         return FormatDigits(DigitsOf(*amount), format);
     if (const auto* date = std::get_if<Date>(&value.Held()); date && format == kDateFormat)

@@ -22,8 +22,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 9> kNamed = 
     {"Long Date", "dddd, mmmm dd, yyyy"},
 }};
 
-// Steps through a format, one character at a time; IsLiteral says of the current character whether
-// it is in quotes or after a backslash. The quotes and backslashes themselves are skipped.
+// Steps through a format, one character at a time; IsLiteral returns whether the current character
+// is in quotes or after a backslash. The quotes and backslashes themselves are skipped.
 class FormatReader {
   public:
     explicit FormatReader(std::string_view format) : format_(format) {}
@@ -50,7 +50,7 @@ class FormatReader {
     bool IsLiteral() const { return literal_; }
     bool Is(char c) const { return !literal_ && character_ == c; }
     bool IsPlaceholder() const { return Is('0') || Is('#'); }
-    /// The place where the next character begins.
+    /// Returns the place where the next character begins.
     std::size_t Position() const { return at_; }
 
   private:
@@ -61,7 +61,7 @@ class FormatReader {
     bool literal_ = false;
 };
 
-/// What a section asks for, counted before anything is shown.
+/// The requirements of a section, counted before anything is shown.
 struct Layout {
     std::int64_t whole = 0;         // places before the point
     std::int64_t wholeShown = 0;    // of them from the first `0` on
@@ -92,7 +92,7 @@ Layout Measure(std::string_view section) {
     return layout;
 }
 
-/// Puts one number into one section.
+/// Writes one number by one section.
 class SectionWriter {
   public:
     SectionWriter(const Digits& number, std::string_view section, const Layout& layout)
@@ -107,14 +107,14 @@ class SectionWriter {
         bool behindPoint = false;
         for (FormatReader reader(section_); reader.Next();) {
             if (reader.Is('.') && !behindPoint) {
-                // Without a place before it, the point itself makes room for the whole part.
+                // If there is no place before the point, the whole part is written at the point.
                 if (layout_.whole == 0) PutWhole(wholeDigits_, 0);
                 behindPoint = true;
                 out_ += '.';
             } else if (reader.IsPlaceholder() && behindPoint) {
                 PutDecimal(decimal++);
             } else if (reader.IsPlaceholder()) {
-                // The first place takes whatever digits there are more than places.
+                // The first place takes all further digits if there are more digits than places.
                 const bool first = place == layout_.whole;
                 PutWhole(first ? std::max(wholeDigits_, place) : place, place - 1);
                 --place;
@@ -131,7 +131,8 @@ class SectionWriter {
         return held ? number_.digits[static_cast<std::size_t>(index)] : '0';
     }
 
-    // The whole digits of the places from `from` - 1 down to `to`, the place of the units being 0.
+    // Writes the whole digits of the places from `from` - 1 down to `to`; the place of the units is
+    // 0.
     void PutWhole(std::int64_t from, std::int64_t to) {
         for (std::int64_t place = from - 1; place >= to; --place) {
             if (place >= wholeDigits_) continue;

@@ -7,17 +7,17 @@
 
 namespace platform {
 
-/// The `index`th of the sections that `;` separates, 0 the first; empty if there are fewer. A `;`
-/// in quotes or after a backslash parts nothing.
+/// Returns the section with this index, counted from 0, of the sections that `;` separates; empty
+/// if there are fewer. A `;` in quotes or after a backslash doesn't separate.
 std::string_view FormatSection(std::string_view format, int index);
 
-/// The format of a name such as "Fixed", else the format itself.
+/// Returns the format that a name such as "Fixed" means; any other format is returned unchanged.
 std::string_view NamedFormat(std::string_view format);
 
-/// True when the section shows digits, that is, holds `0` or `#` outside quotes.
+/// Returns true if the section shows digits, that is, if it holds `0` or `#` outside quotes.
 bool ShowsDigits(std::string_view section);
 
-/// A number by a number format, as FormatNumber describes.
+/// Formats a number by a number format, as FormatNumber describes.
 std::string FormatDigits(const Digits& number, std::string_view format);
 
 } // namespace platform

@@ -10,7 +10,7 @@ namespace platform {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n\f\v";
-// A byte that isn't UTF-8 counts as this: beyond every character, in the order of the bytes.
+// A byte that isn't UTF-8 counts as this number: above every character, in the order of the bytes.
 constexpr char32_t kStrayByte = 0x11'0000;
 
 bool IsAscii(char c) {
@@ -40,7 +40,7 @@ char32_t TakeCharacter(std::string_view& text) {
         valid = (next & 0xC0U) == 0x80;
         character = (character << 6) | (next & 0x3FU);
     }
-    // Overlong forms, surrogates and what lies beyond Unicode are no characters either.
+    // Overlong forms, surrogates and numbers beyond Unicode aren't characters either.
     if (valid && length == 3) valid = character >= 0x800 && (character & 0xFFFFF800U) != 0xD800;
     if (valid && length == 4) valid = character >= 0x1'0000 && character < kStrayByte;
     if (!valid) {
@@ -74,8 +74,8 @@ void PutCharacter(std::string& out, char32_t character) {
     }
 }
 
-// The letters of all scripts, whatever locale the process runs in; only ASCII if the C library
-// lacks them.
+// Returns the letters of all scripts, whatever locale the process runs in; only ASCII if the C
+// library lacks them.
 locale_t Letters() {
     static const locale_t letters = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     return letters;

@@ -24,7 +24,7 @@ concept Whole =
     throw ConversionError("\"" + text + "\" is not " + wanted + ".");
 }
 
-// The number of a value, except for money, which its callers take exactly.
+// Returns the number of a value, except for money, which its callers take exactly.
 struct ToNumber {
     double operator()(std::monostate) const { ThrowNull(); }
     double operator()(Whole auto value) const { return value; }

@@ -11,7 +11,7 @@
 
 namespace platform {
 
-/// The kind of a database field, by the numbers that screens and the repair of nulls know it by.
+/// The type of a database field. Screens and the repair of nulls know the types by these numbers.
 enum class FieldType : std::int16_t {
     Integer = 2, ///< 16 bits
     Long = 3,    ///< 32 bits
@@ -23,7 +23,7 @@ enum class FieldType : std::int16_t {
     Memo = 203,
 };
 
-/// The name of a field type in messages: "Integer", "Long", ...
+/// Returns the name of a field type in messages: "Integer", "Long", ...
 std::string_view FieldTypeName(FieldType type);
 
 /// One database value: null, or a value of one of the field types.
@@ -42,33 +42,34 @@ class Value {
     Value(const char* value) : data_(std::string(value)) {}
 
     bool IsNull() const { return std::holds_alternative<std::monostate>(data_); }
-    /// Null, or a text without a character: both mean that nothing is set.
+    /// Returns true for null and for an empty text: both mean that nothing is set.
     bool IsBlank() const;
 
-    // Readings convert as the field types convert: a number from a text that is one, a text from
-    // anything; True counts as 1, a date as its serial number. A null, or a text that does not
-    // convert, throws ConversionError; a number out of range OverflowError; halves round to even.
-    /// Any number but 0 is true; of texts only "True", "False" and numbers convert.
+    // The functions below convert a value as the field types do: a number from a text that is one,
+    // a text from anything; True counts as 1, a date as its serial number. A null, or a text that
+    // does not convert, throws ConversionError; a number out of range throws OverflowError; halves
+    // round to even. Any number but 0 is true; of texts only "True", "False" and numbers convert.
     bool AsBoolean() const;
     std::int16_t AsInteger() const;
     std::int32_t AsLong() const;
     double AsDouble() const;
     Currency AsCurrency() const;
-    /// A text that is a day, a date, or the serial number of one (its whole part); a blank text is
-    /// the unset date.
+    /// Returns the date of a text that is a day, of a date, or of a serial number (its whole part);
+    /// a blank text is the unset date.
     Date AsDate() const;
-    /// Numbers in their shortest form, booleans "True" and "False", dates "mm/dd/yyyy".
+    /// Returns numbers in their shortest form, booleans as "True" and "False", dates as
+    /// "mm/dd/yyyy".
     std::string AsText() const;
 
-    /// This value as a field of `type` holds it; null stays null.
+    /// Returns this value as a field of `type` holds it; null stays null.
     Value ConvertTo(FieldType type) const;
 
-    /// The stored form as it is, for code that acts by kind.
+    /// The stored form, for code that depends on the type of the value.
     using Data = std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, Currency,
                               Date, std::string>;
     const Data& Held() const { return data_; }
 
-    /// Same kind and same value; texts by their letters exactly.
+    /// Returns whether type and value are the same; texts are compared letter by letter.
     friend bool operator==(const Value&, const Value&) = default;
 
   private:

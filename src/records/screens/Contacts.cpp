@@ -110,8 +110,8 @@ void Contacts::Remove() {
     FillContacts(0);
 }
 
-/// Fields that can't be saved stay on the screen, and once the list has finished moving it returns
-/// to their contact.
+/// Fields that can't be saved stay on the screen; once the list has finished moving, it returns to
+/// their contact.
 void Contacts::MoveTo(QListWidgetItem* to) {
     if (Guarded([this] { SaveCurrent(); })) {
         id_ = IdOf(to);

@@ -14,7 +14,7 @@ class RelatedPanel : public core::grid::RecordList {
   protected:
     explicit RelatedPanel(QWidget* parent);
 
-    /// Shows the records of an owner; nothing while it has no id, or without a list.
+    /// Shows the records of an owner; shows nothing while the owner has no id, or no list.
     void ShowList(const RelatedList* list, const RelatedOwner& owner);
 
   private:

@@ -101,7 +101,7 @@ void frmBuilding::FillAccounts() {
           services_->cboSewageAccount, services_->cboCableAccount, services_->cboTrashAccount});
 }
 
-/// Accounts are only proposed where any name may be typed; the typed text stays.
+/// Accounts are only proposed if any name may be typed; the typed text stays.
 void frmBuilding::FillFreeAccounts() {
     for (QComboBox* const combo : {financial_->cboPurchFrom, financial_->cboPurchAgent,
                                    financial_->cboSoldTo, financial_->cboCloseAgent}) {
@@ -115,8 +115,8 @@ void frmBuilding::Propose(std::int32_t fromUnit) {
     place_->txtCounty->setText(ToScreen(core::Config().DefaultCounty));
     place_->txtState->setText(ToScreen(core::Config().DefaultState));
     if (fromUnit == 0) return;
-    // Shown first as a stored building, so that the lists add values they don't offer, and then as
-    // the copy that a new one starts with.
+    // Shown first as a stored building, so that the lists add values that they don't offer, and
+    // then as the copy that a new building starts with.
     ShownFields building{std::string(kBuildingTable)};
     ShownFields unit{std::string(kUnitTable)};
     platform::Recordset row = FindById(kBuildingTable, core::GetUnitBuilding(fromUnit));
@@ -131,7 +131,7 @@ void frmBuilding::ShowRow(platform::Recordset& row) {
     ShowUnit();
 }
 
-/// Whether the unit was found, and is one of the building's.
+/// Returns whether the unit was found and belongs to the building.
 bool frmBuilding::IsHere(platform::Recordset& unit) const {
     return !unit.Eof() && platform::IdOf(unit["IdBuilding"]) == Id();
 }

@@ -42,7 +42,7 @@ void frmOwnerLink::WriteRow(platform::Recordset& row) {
     RecordForm::WriteRow(row);
 }
 
-/// The marks of the building's other owners.
+/// Stores the marks of the building's other owners.
 void frmOwnerLink::StoreRest() {
     mark_ = SettlePrimary(GetSelectedId(*ui_->cboBuilding), buildingBefore_, Id(),
                           ui_->chkIsPrimary->isChecked() ? PrimaryMark::Yes : PrimaryMark::No);

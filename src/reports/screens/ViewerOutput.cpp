@@ -34,8 +34,8 @@ platform::FileFilter FilterOf(std::string_view words) {
             .patterns = std::string(words.substr(bar + 1))};
 }
 
-/// The name ends as files of the format do. Whatever else follows a dot, as in "Roll 11.22.2026",
-/// belongs to the name, and no program would know the file by it.
+/// Returns whether the name ends as files of the format do. Anything else after a dot, as in "Roll
+/// 11.22.2026", belongs to the name, and no program would recognise the file by it.
 bool HasEnding(const std::filesystem::path& file, std::string_view extension) {
     const std::string ending = file.extension().string();
     return platform::EqualIgnoringCase(ending, "." + std::string(extension)) ||
@@ -99,7 +99,7 @@ void frmReportViewer::Export(ExportFormat format) {
         TellExported(format, *path);
         SaveLastSaveDir(platform::PathOf(*path));
     }
-    // Something else may have been asked for in the meantime.
+    // The user may have asked for another report in the meantime.
     if (nextRun_) RunReport(*nextRun_);
     if (closesAfter_) close();
 }

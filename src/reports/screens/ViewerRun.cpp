@@ -53,8 +53,8 @@ void frmReportViewer::RunOnce(int index) {
 
 void frmReportViewer::Lay(ReportDef& report) {
     setWindowTitle(tr("Vestrel Report Viewer - ") + ToScreen(report.Description));
-    // A definition that can't be read leaves the choices hidden: until now they belong to the
-    // report before.
+    // A definition that can't be read leaves the choices hidden: they still belong to the previous
+    // report.
     std::optional<ReportRun> run;
     try {
         run.emplace(report);

@@ -43,7 +43,7 @@ class frmReportViewer : public core::forms::Form {
     bool InRun() const { return inRun_; }
     const platform::PrintedDocument& Document() const { return document_; }
 
-    /// Escape: stops the running work, ends the search, or else closes.
+    /// Handles Escape: stops the running work, ends the search, or else closes.
     void reject() override;
 
   protected:
@@ -75,7 +75,8 @@ class frmReportViewer : public core::forms::Form {
     void StoreChosenDates();
     void OpenPageSetup();
 
-    // Long work: keeps the window alive, and stops when the user asks.
+    // Begins long work, during which the window stays responsive, and which stops when the user
+    // asks.
     void BeginWork(Work work);
     bool GoOn(std::size_t done);
     void EndWork();

@@ -112,7 +112,7 @@ void frmReports::ShowTab() {
     Choose();
 }
 
-/// The answers belong to the report that was shown; the questions are the new report's.
+/// The answers belong to the report that was shown; the questions belong to the new one.
 void frmReports::Choose() {
     if (!StoreAnswers()) {
         // Stays on the report whose date is not valid.
@@ -227,7 +227,7 @@ void frmReports::Run() {
 }
 
 void frmReports::closeEvent(QCloseEvent* event) {
-    // A date that is not valid is dropped with the screen.
+    // If a date isn't valid, it is dropped when the screen closes.
     if (ReportDef* const report = FindReport(shown_)) static_cast<void>(StoreIn(*report));
     Form::closeEvent(event);
 }

@@ -13,7 +13,7 @@ using platform::qt::ToScreen;
 
 namespace {
 
-/// Hits of a group that are shown until the user asks for more.
+/// The hits of a group that are shown until the user asks for more.
 constexpr std::size_t kFirstShown = 6;
 constexpr int kGroupRole = Qt::UserRole;
 constexpr int kHitRole = Qt::UserRole + 1;
@@ -67,7 +67,7 @@ void ResultList::AddGroup(std::size_t number) {
     QFont bold = font();
     bold.setBold(true);
     heading->setFont(0, bold);
-    // All rows are as high as the first.
+    // All rows get the height of the first one.
     heading->setSizeHint(0, {0, fontMetrics().lineSpacing() + kRowSpace});
     const bool isWhole = opened_.contains(name) || group.hits.size() <= kFirstShown + 1;
     const std::size_t shown = isWhole ? group.hits.size() : kFirstShown;
@@ -119,7 +119,7 @@ void ResultList::Move(int rows) {
     const qsizetype next =
         std::clamp<qsizetype>(all.indexOf(currentItem()) + rows, 0, all.size() - 1);
     setCurrentItem(all[next]);
-    // The heading of the first row is seen as well.
+    // Scrolls so that the heading of the first row is visible too.
     if (next == 0) scrollToTop();
 }
 

@@ -21,7 +21,7 @@ class ResultList : public QTreeWidget {
     void Show(std::vector<HitGroup> groups, const QString& search);
     int HitCount() const;
 
-    /// Moves to the next or the previous row that can be chosen, over the headings.
+    /// Moves to the next or the previous row that can be chosen, skipping the headings.
     void Move(int rows);
     /// Opens the group of a line that shows more; otherwise sends Chosen.
     void ChooseCurrent();

@@ -102,7 +102,7 @@ void frmSearch::ReadOn() {
 void frmSearch::ShowResults() {
     const QString text = txtSearch_->text();
     list_->Show(finder_.Find(FromScreen(text), kMostHits), text);
-    // Also after a search that found the index damaged.
+    // Needed also after a search that found the index damaged.
     if (finder_.IsStale()) reading_->start();
     ShowStatus();
 }
@@ -126,7 +126,7 @@ void frmSearch::ShowStatus() {
     }
 }
 
-/// The box goes first, so that it isn't in the way of what opens.
+/// Opens a hit. The box closes first, so that it isn't in front of what opens.
 void frmSearch::OpenHit(const Hit& hit) {
     if (isOpening_) return;
     isOpening_ = true;
@@ -137,7 +137,7 @@ void frmSearch::OpenHit(const Hit& hit) {
         Guarded([&] {
             if (!chosen.record) return openItem(chosen.item);
             const Target& record = *chosen.record;
-            // It may have been deleted since it was found, and would open as a new one.
+            // The record may have been deleted since it was found, and would open as a new one.
             if (!core::RecordExists(record.kind, record.id)) {
                 core::OneRecordFound(0);
                 return;

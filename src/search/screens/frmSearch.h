@@ -33,7 +33,7 @@ class frmSearch : public core::forms::Form {
 
   private:
     void Lay();
-    /// Reads what was written since, a little of it; then shows the results once more.
+    /// Reads a little of what was written since, then shows the results again.
     void ReadOn();
     void ShowResults();
     void ShowStatus();

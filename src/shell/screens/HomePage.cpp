@@ -181,7 +181,7 @@ void HomePage::BindLookAhead(QAction& action) {
 void HomePage::Refresh() {
     ShowBooksNotice();
     ShowFirstStep();
-    // The picture is read only while it is seen.
+    // The picture is read only while it is visible.
     if (IsPictureCurrent()) picture_->Refresh();
     alerts_->Refresh();
 }

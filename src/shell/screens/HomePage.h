@@ -35,7 +35,8 @@ class HomePage : public QWidget {
     void BindLookAhead(QAction& action);
     /// Reads the alerts again.
     void Refresh();
-    /// The picture can be switched off; that, and the page that was shown last, are remembered.
+    /// Returns whether the picture is shown. It can be switched off; that, and the page that was
+    /// shown last, are remembered.
     bool HasPicture() const;
     void SetPicture(bool shown);
     /// Saves the notes; asks whether to continue if they can't be saved.

@@ -16,7 +16,7 @@ void SetAvailable(QAction& item, std::string_view reason);
 /// Makes the menu show tooltips for its disabled items only.
 void ShowReasons(QMenu& menu);
 
-/// Sets the tooltip of an item for while it is enabled: its description and its key.
+/// Sets the tooltip that an item has while it is enabled: its description and its key.
 void SetTip(QAction& item);
 
 } // namespace shell::screens

@@ -113,7 +113,7 @@ void PropertyTreeView::Apply(const std::vector<TreeChange>& changes) {
 void PropertyTreeView::Remove(const PropertyNode& node) {
     QTreeWidgetItem* const item = ItemOf(node);
     if (item == nullptr) return;
-    // No other node becomes the selection instead.
+    // Otherwise another node would become the selection.
     if (item == currentItem()) setCurrentItem(nullptr);
     while (item->childCount() > 0)
         ItemOf({PropertyKind::Unclaimed, 0})->addChild(item->takeChild(0));
@@ -126,7 +126,7 @@ void PropertyTreeView::MoveUnder(const PropertyNode& unit, const PropertyNode& b
     Select(unit);
 }
 
-/// Keeps the selection.
+/// Moves a node and keeps the selection.
 void PropertyTreeView::PutUnder(const PropertyNode& unit, const PropertyNode& building) {
     QTreeWidgetItem* const item = ItemOf(unit);
     QTreeWidgetItem* const parent = ItemOf(building);

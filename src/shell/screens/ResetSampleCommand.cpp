@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::string_view kTitle = "Reset Sample";
 
-/// Returns why it failed; empty if the sample is new.
+/// Resets the sample. Returns why that failed; empty if the sample is new.
 std::string RunReset(const std::filesystem::path& vestrelctl) {
     constexpr int kNoLimit = -1;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);

@@ -4,9 +4,9 @@
 
 namespace shell::screens {
 
-/// Makes the open sample new after a question, by this command-line program, and shows it. The
-/// forms are closed first; if one of them refuses, nothing happens. A failure is a message, and the
-/// sample is then as it was.
+/// Asks a question, then replaces the open sample by a new one with this command-line program, and
+/// shows it. The forms are closed first; if one of them refuses, nothing happens. If it fails, the
+/// user gets a message, and the sample is as before.
 void ResetOpenSample(const std::filesystem::path& vestrelctl);
 
 } // namespace shell::screens

@@ -35,7 +35,7 @@ void SearchEverything::Show() {
 }
 
 void SearchEverything::Release() {
-    // The box reads by the finder.
+    // The box reads through the finder, so it is deleted first.
     delete box_;
     finder_.reset();
 }

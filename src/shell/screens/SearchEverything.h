@@ -19,17 +19,18 @@ class SearchEverything : public QObject {
     Q_OBJECT
 
   public:
-    /// The menus of `window` are its commands.
+    /// The commands to be found are the items of the menus of `window`.
     explicit SearchEverything(QMainWindow& window);
     ~SearchEverything() override;
 
     /// Opens the box, or brings it to the front.
     void Show();
-    /// Releases the books and the index; before the session closes.
+    /// Releases the books and the index; call it before the session closes.
     void Release();
 
   protected:
-    /// Boxes to type in would take Ctrl+K to delete what follows the caret.
+    /// Leaves Ctrl+K to the menu: boxes to type in would take it to delete the text after the
+    /// caret.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

@@ -32,7 +32,7 @@ using platform::qt::ToScreen;
 
 namespace {
 
-/// Returns a text of a control without the mark of its letter, and without what ends it.
+/// Returns the text of a control without its mnemonic mark and without the characters that end it.
 QString Plain(QString text) {
     text.remove(QRegularExpression(QStringLiteral("&(?!&)")));
     text.replace(QLatin1String("&&"), QLatin1String("&"));
@@ -125,7 +125,7 @@ void Focus(QWidget& control) {
     control.setFocus(Qt::TabFocusReason);
 }
 
-/// Returns the caption of the page that a control is on, empty for one that is on none.
+/// Returns the caption of the page that a control is on; empty if it isn't on a page.
 QString PageOf(const QWidget& control) {
     for (const QWidget* page = &control; page != nullptr; page = page->parentWidget()) {
         for (QWidget* above = page->parentWidget(); above != nullptr;
@@ -138,7 +138,8 @@ QString PageOf(const QWidget& control) {
     return {};
 }
 
-/// Adds the controls of a screen that have a caption. The screen is made for it and not shown.
+/// Adds the controls of a screen that have a caption. The screen is created for this, but not
+/// shown.
 void AddControls(QMainWindow& window, const QWidget& screen, const char* command,
                  std::vector<SearchItem>& items) {
     const QString name = screen.objectName();
@@ -186,7 +187,7 @@ void AddCategories(QMainWindow& window, std::vector<SearchItem>& items) {
                              }});
         }
     } catch (const platform::Error&) {
-        return; // books that can't be read have no categories; the search says the rest
+        return; // books that can't be read have no categories; the search says so
     }
 }
 

@@ -113,7 +113,7 @@ void ViewPanel::ShowSortArrow() {
 
 /// Selects the row with this id, or else the first one. After a broadcast that deleted the record
 /// no row is selected, so that the next command can't reach another record; the id stays as it was
-/// until the user selects a row, and the arrow keys go on from where the row was.
+/// until the user selects a row, and the arrow keys continue from the deleted row's place.
 void ViewPanel::Select(std::int32_t id, Cause cause) {
     Grid& grid = *ui_->grd;
     if (id != 0 && grid.SelectId(id)) return;

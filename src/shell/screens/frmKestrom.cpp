@@ -56,7 +56,7 @@ frmKestrom::frmKestrom(WindowServices services)
     SetUpActions();
     ConnectCategories();
     ConnectCommands();
-    // Labels stay when a menu shows its own text in the status bar.
+    // Labels stay visible when a menu shows its own text in the status bar.
     status_->setObjectName(QStringLiteral("lblStatus"));
     status_->setTextFormat(Qt::PlainText);
     ui_->statusBar->addPermanentWidget(status_, 1);
@@ -133,9 +133,9 @@ void frmKestrom::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::i
     if (hasEnded_) return;
     if (kind == core::kConfiguration) ShowTitle();
     if (selectedDb_ == core::kAlert) {
-        // A save broadcasts several kinds in a row, which take one refresh. There is none during a
-        // run of the books: each refresh deletes the messages it has listed, and the run's messages
-        // would be deleted before anyone has seen them.
+        // A save broadcasts several kinds in a row, which cause only one refresh. There is no
+        // refresh during a run of the books: each refresh deletes the messages that it has listed,
+        // and the run's messages would be deleted before anyone has seen them.
         if (!updating_) homeRefresh_->start(0);
     } else if (kind == selectedDb_) {
         view_->Reload(ViewPanel::Cause::Broadcast);

@@ -36,7 +36,8 @@ namespace {
 constexpr int kFirstField = 1; // after the row number
 constexpr std::size_t kMostNamed = 10;
 
-/// The grid below its title, which has its mnemonic, and what stands beside the title.
+/// Makes a panel of the grid below its title, which has the grid's mnemonic, and `beside` next to
+/// the title.
 QWidget* Titled(const QString& title, Grid& grid, QWidget* beside = nullptr) {
     auto* const part = new QWidget;
     auto* const rows = new QVBoxLayout(part);
@@ -221,7 +222,7 @@ void frmPosted::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::in
     const bool isLedger =
         kind == core::kRentLog || kind == core::kMortgageLog || kind == core::kTransaction;
     if (isLedger) Refresh();
-    // A run ends with a broadcast of no kind.
+    // A run ends with a broadcast of kind kNone.
     if (kind == core::kNone) FollowHistory();
 }
 
@@ -232,7 +233,7 @@ void frmPosted::changeEvent(QEvent* event) {
     try {
         FollowHistory();
     } catch (const std::exception&) {
-        // A message would activate the window again. The next command reports the failure.
+        // A message would activate the window again; the next command reports the failure instead.
     }
 }
 
@@ -255,7 +256,7 @@ void frmPosted::ReadAgain() {
     const auto skipped = std::ssize(ShownDigest().Faults());
     std::vector<std::int32_t> selected = list_->SelectedIds();
     {
-        // The lists refer to the runs that are replaced.
+        // The lists still refer to the runs that are being replaced.
         const QScopedValueRollback loading(isLoading_, true);
         static const std::vector<PastRun> noRuns;
         static const RunDigest nothing;
@@ -321,7 +322,7 @@ void frmPosted::TakeBackSelected() {
         const std::vector<DigestRow> rows = SelectedRows(Rows::Posted);
         if (!rows.empty() && Agreed(rows)) TakeBack(rows);
     });
-    // Another program may have been first.
+    // Another program may have done it first.
     if (!done) core::forms::Guarded([this] { Refresh(); });
 }
 

@@ -49,13 +49,13 @@ class frmPosted : public core::forms::Form {
     void ShowRows(const std::vector<std::int32_t>& selected);
     /// Reads what was taken back again, and keeps the selected rows selected.
     void Refresh();
-    /// The same, and shows runs that were posted in the meantime.
+    /// Does the same, and also shows runs that were posted in the meantime.
     void FollowHistory();
     void ReadAgain();
-    /// Shows the selected row's reason, and enables the buttons that it has work for.
+    /// Shows the selected row's reason, and enables the buttons that apply to the row.
     void ShowSelected();
     const PastRun* ShownRun() const;
-    /// Returns one without rows if no run is selected.
+    /// Returns the digest that is shown; one without rows if no run is selected.
     const RunDigest& ShownDigest() const;
     void OpenRow(std::int32_t number) const;
     void OpenSelected() const;

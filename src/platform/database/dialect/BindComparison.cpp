@@ -93,7 +93,7 @@ BoundPtr Binder::ToDomain(BoundPtr value, Domain domain, FieldType parameterType
             break;
     }
     if (value->IsText() && !value->IsTextLiteral()) {
-        // A text field may hold numbers and other text; other text equals no number.
+        // A text field may hold numbers and other text; text that isn't a number never equals one.
         return MakeCall("vestrel_number_if", FieldType::Double, std::move(value));
     }
     return ToNumber(std::move(value));

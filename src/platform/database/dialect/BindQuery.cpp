@@ -28,7 +28,7 @@ std::unique_ptr<BoundQuery> Binder::BindQuery(const Query& query, Targets target
         BindTargets(*bound, targets, query.selects[0].position);
     }
     if (bound->selects.size() > 1) {
-        // After a union only its columns have names; the tables no longer do.
+        // After a union only its columns have names; the names of its tables are no longer known.
         scope.sources = {{kUnnamedRows, nullptr, &bound->columns}};
     }
     BindOrder(query, *bound);

@@ -138,7 +138,7 @@ bool IsExact(const BoundExpression& money);
 /// Returns the money expression without the check around it.
 BoundPtr WithoutCheck(BoundPtr money);
 
-/// While it exists, aggregates aren't allowed because the named clause is evaluated for single
+/// During its lifetime, aggregates aren't allowed because the named clause is evaluated for single
 /// rows; an empty name allows them again.
 class RowClause {
   public:

@@ -24,7 +24,7 @@ struct BoundQuery;
 
 enum class BoundKind : std::uint8_t {
     Number, ///< `text` in the engine's form; booleans and days too
-    Text,   ///< `text` what it says
+    Text,   ///< `text` is its content
     Null,
     Parameter,
     Column, ///< `table` and `text`
@@ -32,13 +32,13 @@ enum class BoundKind : std::uint8_t {
     Infix,  ///< `text` between the operands: two, or more of AND, OR and ||
     IsNull,
     Between,
-    In, ///< the first operand among the others
+    In, ///< true if the first operand is among the others
     InQuery,
     Exists,
     Subquery,
     Call, ///< function `text` of the operands; the star of Count is not an operand
     Cast, ///< to the engine's type `text`
-    Case, ///< conditions and values by turns, then what else
+    Case, ///< conditions and values by turns, then the value of ELSE
 };
 
 struct BoundExpression {
@@ -65,13 +65,13 @@ struct BoundExpression {
 
     bool Is(FieldType other) const { return type == other; }
     bool IsText() const { return Is(FieldType::Text) || Is(FieldType::Memo); }
-    /// An integer of 16 or 32 bits.
+    /// Returns true for an integer of 16 or 32 bits.
     bool IsWhole() const { return Is(FieldType::Integer) || Is(FieldType::Long); }
     bool IsNumberLiteral() const {
         return kind == BoundKind::Number && (IsWhole() || Is(FieldType::Double));
     }
     bool IsTextLiteral() const { return kind == BoundKind::Text; }
-    /// True if the value is certainly the same for all rows.
+    /// Returns true if the value is certainly the same for all rows.
     bool IsConstant() const {
         return kind == BoundKind::Number || kind == BoundKind::Text || kind == BoundKind::Null;
     }

@@ -11,7 +11,8 @@ bool IsText(FieldType type) {
     return type == FieldType::Text || type == FieldType::Memo;
 }
 
-/// The engine can sort a union only by its columns.
+/// Returns whether a query must be wrapped in another: the engine can sort a union only by its
+/// columns.
 bool NeedsRowsAround(const BoundQuery& query) {
     if (query.selects.size() == 1) return false;
     for (const BoundOrder& order : query.orderBy) {

@@ -17,7 +17,7 @@ class FunctionCall {
 
     std::size_t Count() const { return arguments_.size(); }
     const BoundExpression& operator[](std::size_t i) const { return *arguments_[i]; }
-    /// True for Count(*).
+    /// Returns true for Count(*).
     bool HasStar() const;
 
     // Each returns an argument, unchanged or converted. A function takes each argument only once.
@@ -52,7 +52,7 @@ struct FunctionDefinition {
 /// Returns the function with this name, ignoring case; null if there is none.
 const FunctionDefinition* FindFunction(std::string_view name);
 
-// The functions of the dialect, by subject.
+// Returns the functions of the dialect, by subject.
 std::span<const FunctionDefinition> TextFunctions();
 std::span<const FunctionDefinition> DateFunctions();
 std::span<const FunctionDefinition> NumberFunctions();

@@ -29,13 +29,13 @@ bool InSet(std::string_view character, std::string_view set) {
             to = FirstCharacter(set.substr(1));
             set.remove_prefix(1 + to.size());
         }
-        // UTF-8 sorts by bytes as it does by characters.
+        // UTF-8 bytes sort in the same order as the characters.
         found = found || (from <= character && character <= to);
     }
     return found != negated;
 }
 
-/// What a single step of the pattern matches, other than `*`.
+/// One step of the pattern other than `*`: the characters that it matches.
 struct PatternStep {
     std::string_view piece;
     bool isSet = false;

@@ -41,7 +41,7 @@ class Parser {
     void ParseTarget(Statement& statement);
     void ParseInsertColumns(Statement& statement);
     void ParseInsertValues(Statement& statement);
-    /// A field name, with an optional table before it.
+    /// Parses a field name, with an optional table before it.
     Assignment ParseField();
 
     // Queries.

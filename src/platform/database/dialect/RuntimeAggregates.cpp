@@ -52,7 +52,7 @@ void AddToSpread(sqlite3_context* context, int, sqlite3_value** arguments) {
     spread->squares += difference * (number - spread->mean);
 }
 
-/// The deviation of a sample: null for fewer than two numbers.
+/// Answers with the deviation of a sample; null for fewer than two numbers.
 template <bool Root>
 void AnswerSpread(sqlite3_context* context) {
     const auto* spread = static_cast<const SpreadState*>(sqlite3_aggregate_context(context, 0));

@@ -26,7 +26,7 @@ int ToCount(double number) {
 }
 
 /// Returns the day of a text that is exactly "mm/dd/yyyy", the stored form; nothing for any other
-/// text. It must be fast because it runs for every row of a ledger.
+/// text. It runs for every row of a ledger and so must be fast.
 std::optional<std::int64_t> StoredDay(std::string_view text) {
     if (text.size() != 10 || text[2] != '/' || text[5] != '/') return std::nullopt;
     unsigned strange = 0;

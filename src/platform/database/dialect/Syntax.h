@@ -25,7 +25,7 @@ enum class ExpressionKind : std::uint8_t {
     Function, ///< a call; `text` is the function's name
     Negate,
     Not,
-    Binary, ///< `text` is the operator, in capitals where it is a word
+    Binary, ///< `text` is the operator, in capitals if it is a word
     IsNull,
     Between,
     In,

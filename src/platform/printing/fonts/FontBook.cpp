@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-/// True for characters that a font draws one by one, whatever is beside them.
+/// Returns true for characters that a font draws one by one, whatever is beside them.
 bool StandsByItself(char32_t code) {
     if (code < 0x300) return code >= 0x20 && code != 0xAD;
     if (code < 0x590) return code >= 0x370 && (code < 0x483 || code > 0x489);

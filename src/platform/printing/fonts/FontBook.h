@@ -49,10 +49,11 @@ class FontBook : public FontMetrics {
     const FontFile& File(FontIndex font) const { return *fonts_[font]; }
     std::size_t FontCount() const { return fonts_.size(); }
 
-    /// The glyphs of a clean text without line ends.
+    /// Returns the glyphs of a clean text without line ends.
     std::vector<GlyphRun> Shape(FaceId face, std::string_view text) const;
 
-    /// The same with the font's own widths, quicker for texts that ShapePlain accepts.
+    /// Returns the glyphs with the font's own widths, which is quicker, for texts that ShapePlain
+    /// accepts.
     std::vector<GlyphRun> Glyphs(FaceId face, std::string_view text) const;
 
     /// The fast way for texts of one font without marks and joins: adds the glyphs to `glyphs`.

@@ -21,8 +21,8 @@ constexpr std::array<Family, 6> kFamilies = {{
     {{"LiberationSans-Regular.ttf", "LiberationSans-Bold.ttf", "LiberationSans-Italic.ttf",
       "LiberationSans-BoldItalic.ttf"},
      {"Arial", "Helvetica", "Liberation Sans", "MS Sans Serif", "Sans", ""}},
-    // The packaged Tahoma has Tahoma's widths, but its bold is the regular set wide: one whose bold
-    // letters are bold and differ in width by a fiftieth takes its place.
+    // The packaged Tahoma has Tahoma's widths, but its bold is only the regular font set wider. It
+    // is replaced by a font with real bold letters, whose widths differ by a fiftieth.
     {{"tahoma.ttf", "DejaVuSansCondensed-Bold.ttf", "", "DejaVuSansCondensed-BoldOblique.ttf"},
      {"Tahoma", "", "", "", "", ""}},
     {{"LiberationSerif-Regular.ttf", "LiberationSerif-Bold.ttf", "LiberationSerif-Italic.ttf",

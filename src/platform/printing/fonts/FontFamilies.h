@@ -18,7 +18,7 @@ struct FaceSource {
 /// so that a report has the same lines and pages on every machine. An unknown family is Arial.
 FaceSource SourceOf(std::string_view family, Weight weight, Slant slant);
 
-/// The files for characters that a family's own file lacks, best first.
+/// Returns the files for characters that a family's own file lacks, best first.
 std::vector<std::string_view> FallbackFiles(Weight weight);
 
 /// Returns the path of a font file of this name, empty if it isn't installed. Searches the system's

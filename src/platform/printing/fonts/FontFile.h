@@ -28,15 +28,15 @@ class FontFile {
     const std::filesystem::path& Path() const { return path_; }
     std::string PostScriptName() const;
     FaceHeights Heights() const;
-    /// The box that all glyphs fit in, in thousandths of an em: left, bottom, right, top.
+    /// Returns the box that all glyphs fit in, in thousandths of an em: left, bottom, right, top.
     std::array<int, 4> Bounds() const;
 
-    /// The character's own glyph, 0 if the font lacks it.
+    /// Returns the character's own glyph, 0 if the font lacks it.
     GlyphId Glyph(char32_t code) { return Look(code).glyph; }
-    /// Its advance width in ems.
+    /// Returns the advance width of a character in ems.
     double AdvanceOf(char32_t code) { return static_cast<double>(Look(code).advance); }
     double GlyphAdvance(GlyphId glyph) const;
-    /// The advance of an ASCII character in ems; negative if the font lacks it.
+    /// Returns the advance of an ASCII character in ems; negative if the font lacks it.
     double AsciiAdvance(unsigned char c) const { return ascii_[c]; }
 
     hb_face_t* HbFace() const { return face_; }

@@ -15,7 +15,7 @@ class Deflate {
     Deflate(const Deflate&) = delete;
     Deflate& operator=(const Deflate&) = delete;
 
-    /// The compressed form, valid until the next call.
+    /// Returns the compressed form, valid until the next call.
     std::string_view Compress(std::string_view text);
 
   private:

@@ -62,7 +62,7 @@ void PdfContent::Text(const PrintedPage& page, const PageItem& item) {
 }
 
 /// Records the characters of a plain text's glyphs, which are in glyphs_. Returns false if one of
-/// them already has another character.
+/// the glyphs already has another character.
 bool PdfContent::IsKnown(FontIndex font, std::string_view text) {
     if (known_.size() <= font) known_.resize(font + 1);
     std::vector<bool>& known = known_[font];
@@ -171,7 +171,7 @@ void PdfContent::EndText() {
     inText_ = false;
 }
 
-/// Moves are relative to the start of the last text of this block.
+/// Moves to a position. Moves are relative to the start of the last text of this block.
 void PdfContent::MoveText(Twips x, Twips y) {
     Number(x - textX_);
     Number(y - textY_);

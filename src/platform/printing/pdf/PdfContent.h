@@ -17,9 +17,9 @@ class PdfContent {
   public:
     PdfContent(const FontBook& book, PdfFile& pdf) : book_(book), pdf_(pdf) {}
 
-    /// The operators of a page, valid until the next call.
+    /// Returns the operators of a page, valid until the next call.
     std::string_view Draw(const PrintedPage& page);
-    /// The fonts used so far by their index in the book.
+    /// Returns the fonts used so far by their index in the book.
     const std::map<FontIndex, PdfFont>& Fonts() const { return fonts_; }
 
   private:

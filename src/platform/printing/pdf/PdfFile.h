@@ -12,18 +12,18 @@ namespace platform {
 
 using PdfObject = std::uint32_t;
 
-/// The objects of a PDF file, written one after the other, and the table of where they are.
+/// The objects of a PDF file, written one after the other, and the table of their places.
 class PdfFile {
   public:
     explicit PdfFile(ByteSink& sink) : sink_(sink) {}
 
     void Begin();
-    /// The number of an object that will be written later.
+    /// Returns the number of an object that will be written later.
     PdfObject Reserve();
     void Write(PdfObject object, std::string_view body);
-    /// A compressed stream; `entries` are further entries of its dictionary.
+    /// Writes a compressed stream; `entries` are further entries of its dictionary.
     void WriteStream(PdfObject object, std::string_view content, std::string_view entries = {});
-    /// The table and the trailer; all reserved objects have been written.
+    /// Writes the table and the trailer; all reserved objects must have been written.
     void End(PdfObject catalog, PdfObject info);
 
   private:
@@ -36,9 +36,9 @@ class PdfFile {
     std::vector<std::uint64_t> places_{0}; ///< of each object; 0 is no object
 };
 
-/// A text as PDF's string of UTF-16 in hexadecimal, with its brackets.
+/// Returns a text as a PDF string: UTF-16 in hexadecimal, with its brackets.
 std::string PdfText(std::string_view text);
-/// The UTF-16 of a text in hexadecimal.
+/// Returns the UTF-16 of a text in hexadecimal.
 std::string Utf16Hex(std::string_view text);
 
 } // namespace platform

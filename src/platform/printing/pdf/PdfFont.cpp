@@ -17,7 +17,7 @@ bool PdfFont::Use(GlyphId glyph, std::string_view text) {
     return known == text;
 }
 
-/// The font file with only the glyphs that were used, which keep their numbers.
+/// Returns the font file with only the glyphs that were used, which keep their numbers.
 std::string PdfFont::Subset() const {
     hb_subset_input_t* input = hb_subset_input_create_or_fail();
     if (!input) throw Error("There is no memory to embed a font.");
@@ -42,7 +42,7 @@ std::string PdfFont::Subset() const {
     return bytes;
 }
 
-/// The widths of the glyphs used, in thousandths of an em; neighbours share brackets.
+/// Returns the widths of the glyphs used, in thousandths of an em; neighbours share brackets.
 std::string PdfFont::Widths() const {
     std::string out;
     GlyphId last = 0;

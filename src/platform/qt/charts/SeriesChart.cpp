@@ -29,7 +29,7 @@ namespace {
 
 /// Readable on light and dark, and distinguishable without seeing red.
 constexpr std::array<QRgb, 3> kColors = {0xFF2F7ED8, 0xFF2CA25F, 0xFFE08214};
-/// With more labels they are drawn vertically.
+/// If there are more labels, they are drawn vertically.
 constexpr qsizetype kMostFlatLabels = 12;
 constexpr int kLineWidth = 2;
 constexpr int kRaisedWidth = 6;

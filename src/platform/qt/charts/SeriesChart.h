@@ -33,7 +33,7 @@ class SeriesChart : public QChartView {
     /// Replaces the series; clears the chart if there are no labels.
     void Show(const QStringList& labels, std::vector<ChartSeries> series, ChartShape shape,
               ChartDepth depth, bool legend);
-    /// Takes effect with the next Show.
+    /// Sets the marks, which take effect with the next Show.
     void SetMarks(ChartMarks marks) { marks_ = marks; }
 
     /// Lets the user open the labels, by a click or by the arrow keys and Enter.

@@ -22,8 +22,8 @@ class PagePreview : public QAbstractScrollArea {
     explicit PagePreview(QWidget* parent = nullptr);
     ~PagePreview() override;
 
-    /// Shows a document from its first page; null for none. Both must outlive the view or the next
-    /// call.
+    /// Shows a document from its first page; null shows nothing. The document and its fonts must
+    /// outlive the view, or stay valid until the next call.
     void SetDocument(const PrintedDocument* document, const FontBook* fonts);
     /// Called when pages were added to the document.
     void PagesAdded();
@@ -36,7 +36,7 @@ class PagePreview : public QAbstractScrollArea {
 
     PageFit Fit() const { return fit_; }
     void SetFit(PageFit fit);
-    /// In percent of the paper's size.
+    /// Returns the zoom in percent of the paper's size.
     double Zoom() const { return zoom_; }
     void SetZoom(double percent);
     void ZoomIn();

@@ -19,7 +19,7 @@ class PageThumbnails : public QListView {
     explicit PageThumbnails(QWidget* parent = nullptr);
     ~PageThumbnails() override;
 
-    /// As PagePreview::SetDocument and PagePreview::PagesAdded.
+    /// Do the same as PagePreview::SetDocument and PagePreview::PagesAdded.
     void SetDocument(const PrintedDocument* document, const FontBook* fonts);
     void PagesAdded();
 

@@ -32,7 +32,7 @@ struct PrintOrder {
     int last = 0;
 };
 
-/// How a printer and the range of pages are chosen.
+/// Lets the user choose a printer and the range of pages.
 class PrinterChooser {
   public:
     virtual ~PrinterChooser() = default;
@@ -43,8 +43,8 @@ class PrinterChooser {
     virtual std::unique_ptr<QPrinter> Usual() = 0;
 };
 
-/// The chooser of this process: the system's print dialog unless SetPrinterChooser sets another;
-/// null restores it.
+/// Returns the chooser of this process: the system's print dialog unless SetPrinterChooser sets
+/// another; null restores it.
 PrinterChooser& ThePrinterChooser();
 void SetPrinterChooser(std::unique_ptr<PrinterChooser> chooser);
 
