@@ -1,4 +1,4 @@
-// The road of one rent: the first of the month passes, and what follows from it on the screens.
+// One rent, step by step: the first of the month passes, and what follows from it on the screens.
 
 #include <fmt/core.h>
 #include <QTabBar>
