@@ -113,8 +113,8 @@ constexpr auto kLinks = std::to_array<Link>({
 std::string_view AdviceFor(Severity severity) {
     return severity == Severity::Fault
                ? "Open the record and choose what it belongs to, or delete it."
-               : "The record it named was deleted. Nothing needs to be done; choose another one "
-                 "where it matters.";
+               : "The record it named was deleted. Nothing needs to be done; choose another one if "
+                 "it matters.";
 }
 
 } // namespace

@@ -18,17 +18,17 @@ double Finite(double number) {
 // Uses log1p and expm1 instead of a power: at low rates, and towards the end of a loan, one plus
 // the rate and one minus the discount lose too many digits.
 Annuity::Annuity(double rate) : rate_(rate), logGrowth_(std::log1p(rate)) {
-    if (rate <= -1) throw platform::Error("The rate loses more than there is.");
+    if (rate <= -1) throw platform::Error("The rate must be above -100 percent.");
 }
 
 double Annuity::Pmt(double periods, double presentValue) const {
-    if (periods == 0) throw platform::Error("There is no period to pay the loan in.");
+    if (periods == 0) throw platform::Error("The loan needs at least one period.");
     if (rate_ == 0) return Finite(-presentValue / periods);
     return Finite(presentValue * rate_ / std::expm1(-periods * logGrowth_));
 }
 
 double Annuity::NPer(double payment, double presentValue) const {
-    if (payment == 0) throw platform::Error("A loan is not paid off by no payment.");
+    if (payment == 0) throw platform::Error("A payment of zero doesn't pay off a loan.");
     if (rate_ == 0) return Finite(-presentValue / payment);
     const double interestShare = presentValue * rate_ / payment;
     if (interestShare <= -1) {

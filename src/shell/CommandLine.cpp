@@ -11,7 +11,7 @@ constexpr std::array kOptions = {
     platform::kHelpOption,
     platform::kVersionOption,
     platform::HelpEntry{"--data DIR", "Open the books in this directory, not the registered ones"},
-    platform::HelpEntry{"--today MM/DD/YYYY", "Take this day for today"},
+    platform::HelpEntry{"--today MM/DD/YYYY", "Use this day as today"},
     platform::HelpEntry{"--read-only", "Change nothing: look at the books only"},
     platform::HelpEntry{"/altdb=NAME", "Open the books registered under this name"},
     platform::HelpEntry{"/welcome", "Welcome a user who has no books yet"},

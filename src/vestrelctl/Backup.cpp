@@ -25,7 +25,7 @@ void BackUp(const exchange::BackupChoice& choice) {
     if (report.outcome == exchange::BackupOutcome::Failed) throw platform::Error(report.text);
     if (exchange::ContainersLeft(exchange::Chosen(config, choice)) > 1) return;
     if (config.keepPeriods < 1) {
-        throw platform::Error("no backup is left: by the settings none is kept for a day");
+        throw platform::Error("no backup is left: the settings don't keep one for a whole day");
     }
 }
 
@@ -79,7 +79,7 @@ void AddBackup(CLI::App& line, const Options& options) {
                       "Without document templates and attached files");
     command->callback([folder, databaseOnly, &options] {
         // The day of the backup is stored beside the books.
-        if (options.readOnly) throw platform::Error("--read-only: a backup keeps its day");
+        if (options.readOnly) throw platform::Error("--read-only: a backup stores its date");
         OpenDatabase(options, Purpose::Read);
         core::CloseDatabase(core::App().Connection);
         exchange::BackupChoice choice;

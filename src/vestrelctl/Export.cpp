@@ -81,8 +81,8 @@ void AddExport(CLI::App& line, const Options& options) {
         ->expected(1)
         ->take_all()
         ->type_name("N");
-    CLI::Option* isNew =
-        command->add_flag("--new", words->isNew, "Transactions not yet exported, as without it");
+    CLI::Option* isNew = command->add_flag("--new", words->isNew,
+                                           "Transactions not yet exported, which is the default");
     CLI::Option* all = command->add_flag("--all", words->all, "All transactions")->excludes(isNew);
     const auto day = [&](const char* name, std::string& text, const char* what) {
         command->add_option(name, text, what)
@@ -91,8 +91,8 @@ void AddExport(CLI::App& line, const Options& options) {
             ->excludes(isNew)
             ->excludes(all);
     };
-    day("--from", words->from, "Transactions from this day on; a month ago without it");
-    day("--to", words->to, "Transactions up to this day; today without it");
+    day("--from", words->from, "Transactions from this day on, by default a month ago");
+    day("--to", words->to, "Transactions up to this day, by default today");
     command->add_flag("--mark", words->mark, "Mark them as exported");
     command->add_flag("--limit-length", words->limit,
                       "Cut names of accounts and categories to 15 letters");

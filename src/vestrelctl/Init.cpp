@@ -39,12 +39,12 @@ void AddInit(CLI::App& line) {
         line.add_subcommand("init", "Make an empty database, or a sample portfolio");
     auto init = std::make_shared<InitOptions>();
     CLI::Option* sample = command->add_flag("--sample", init->sample,
-                                            "Make a sample portfolio that has lived for two years");
+                                            "Make a sample portfolio with two years of history");
     command->add_option("--units", init->units, "Units of the sample portfolio")
         ->check(CLI::Range(1, 100'000))
         ->needs(sample)
         ->capture_default_str();
-    command->add_flag("--reset", init->reset, "Make the sample in this directory new")
+    command->add_flag("--reset", init->reset, "Replace the sample in this directory by a new one")
         ->needs(sample);
     command->add_option("directory", init->folder, "Where to make it")->required();
     command->callback([init] {

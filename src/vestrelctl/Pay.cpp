@@ -59,7 +59,8 @@ void SetOrder(leases::RentPayment& payment, const std::vector<std::int32_t>& ord
     for (const std::int32_t id : order) {
         if (std::ranges::find(payment.charges, id, &leases::PaymentCharge::idRentLog) ==
             payment.charges.end())
-            throw platform::Error(fmt::format("--order: {} is no open charge of the lease", id));
+            throw platform::Error(
+                fmt::format("--order: {} is not an open charge of the lease", id));
     }
     leases::SortCharges(payment, order);
 }
@@ -103,20 +104,19 @@ void PayAmount(const PayArguments& given) {
 }
 
 void AddAmountOptions(CLI::App& command, PayArguments& given) {
-    CLI::Option* amount =
-        command
-            .add_option("--amount", given.amount,
-                        "What came in: pays the oldest charges first, the last one in part; what "
-                        "is over becomes the tenant's credit")
-            ->type_name("A")
-            ->check(IsValue());
+    CLI::Option* amount = command
+                              .add_option("--amount", given.amount,
+                                          "What came in: pays the oldest charges first, the last "
+                                          "one in part; a surplus becomes the tenant's credit")
+                              ->type_name("A")
+                              ->check(IsValue());
     command.add_option("--order", given.order, "The charges (IdRentLog) that are paid first")
         ->type_name("ID,ID")
         ->delimiter(',')
         ->needs(amount);
     command
         .add_option("--rent-part", given.rentPart,
-                    "Of a rent paid in part, the part that moves the next due date when it is "
+                    "If a rent is paid in part: the part that moves the next due date when it is "
                     "paid: the open one (as a rule) or the paid one")
         ->transform(CLI::CheckedTransformer(std::map<std::string, leases::RentPart>{
             {"open", leases::RentPart::Open}, {"paid", leases::RentPart::Paid}}))

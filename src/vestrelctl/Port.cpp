@@ -56,7 +56,7 @@ void AddExportText(CLI::App& line, const Options& options) {
     auto file = std::make_shared<std::filesystem::path>();
     command
         ->add_option("--table", *tables,
-                     "A table to write; may be given several times, all without it")
+                     "A table to write; may be given several times, by default all")
         ->expected(1)
         ->take_all()
         ->type_name("T");

@@ -8,7 +8,7 @@ namespace vestrelctl {
 
 void AddRegister(CLI::App& line) {
     CLI::App* command =
-        line.add_subcommand("register", "Name a database directory to the programs");
+        line.add_subcommand("register", "Register a database directory under a name");
     auto name = std::make_shared<std::string>(core::kDefaultDatabase);
     auto folder = std::make_shared<std::filesystem::path>();
     command->add_option("--name", *name, "The name to register it by")->capture_default_str();

@@ -95,11 +95,11 @@ int Run(int argc, char** argv) {
     line.add_option("--data", options.data, "The database directory")
         ->type_name("DIR")
         ->check(CLI::Validator(IsNamed, "", ""));
-    line.add_option("--today", "The day to take for today")
+    line.add_option("--today", "The day to use as today")
         ->type_name("MM/DD/YYYY")
         ->check(CLI::Validator(SetToday, "", ""));
 
-    line.add_flag("--read-only", options.readOnly, "Change nothing, even where that is allowed");
+    line.add_flag("--read-only", options.readOnly, "Change nothing, even if that is allowed");
     line.add_option_function<std::string>("--reports", vestrelctl::UseReportsFolder,
                                           "The folder of the report definitions")
         ->type_name("DIR");

@@ -50,10 +50,11 @@ void General_Ledger::MakeHead() {
     core::binding::FillPeriods(*cboDays_, view_.days);
     optBuilding_ = new QRadioButton(tr("Building"), head);
     optBuilding_->setObjectName(QStringLiteral("optBuilding"));
-    optBuilding_->setToolTip(tr("What concerns the building as a whole, and no unit of it"));
+    optBuilding_->setToolTip(
+        tr("Transactions of the building as a whole, without transactions of its units"));
     optUnit_ = new QRadioButton(tr("Unit"), head);
     optUnit_->setObjectName(QStringLiteral("optUnit"));
-    optUnit_->setToolTip(tr("What concerns this unit"));
+    optUnit_->setToolTip(tr("Transactions of this unit"));
     optUnit_->setChecked(true);
     optBuilding_->hide();
     optUnit_->hide();

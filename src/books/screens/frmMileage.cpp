@@ -201,7 +201,7 @@ void frmMileage::ShowAvailable() {
         item->setToolTip(none);
     }
     ui_->cmdAdd->setEnabled(Dirty());
-    ui_->cmdAdd->setToolTip(Dirty() ? tr("Adds what the boxes hold as a new trip")
+    ui_->cmdAdd->setToolTip(Dirty() ? tr("Adds the entries in the boxes as a new trip")
                                     : tr("Enter a trip first"));
 }
 

@@ -104,7 +104,7 @@ void FileObjects::MakeOptions() {
     };
     add(tr("Show paths instead of descriptions"), "mnuShowPath", &FilePanelSettings::ShowPath);
     add(tr("Show icons"), "mnuShowIcons", &FilePanelSettings::ShowIcons);
-    add(tr("Take files that are dropped here"), "mnuAllowDandD", &FilePanelSettings::AllowDandD);
+    add(tr("Accept files that are dropped here"), "mnuAllowDandD", &FilePanelSettings::AllowDandD);
     add(tr("Allow deleting"), "mnuAllowDelete", &FilePanelSettings::AllowDelete);
     add(tr("Remember these settings"), "mnuSaveSettings", &FilePanelSettings::SaveSettings);
 }

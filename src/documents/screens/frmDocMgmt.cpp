@@ -71,9 +71,10 @@ QString FaultText(const DocRow& doc) {
         CheckTemplate(doc.letter.filePath, platform::ReadWholeFile(doc.letter.filePath), kinds);
     QStringList lines;
     if (!faults.unknown.empty())
-        lines += QStringLiteral("No record of its kinds fills: %1").arg(Joined(faults.unknown));
+        lines += QStringLiteral("Not filled by any record of these kinds: %1")
+                     .arg(Joined(faults.unknown));
     if (!faults.torn.empty())
-        lines += QStringLiteral("Torn by formatting (type them again in one go): %1")
+        lines += QStringLiteral("Broken up by formatting (type them again in one go): %1")
                      .arg(Joined(faults.torn));
     return lines.isEmpty() ? QStringLiteral("Every tag of this template can be filled.")
                            : lines.join(QLatin1Char('\n'));

@@ -38,12 +38,12 @@ AmountPanel::AmountPanel(QWidget* parent)
     received_->setMaximumWidth(130);
     received_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     received_->setToolTip(
-        tr("Settles the ticked charges from the top; the last one is split, and "
-           "what is over becomes the tenant's credit"));
+        tr("Settles the ticked charges from the top; the last one is split, and a surplus becomes "
+           "the tenant's credit"));
     part_->setObjectName(QStringLiteral("chkRentPart"));
     part_->setToolTip(
-        tr("A rent that is paid in part moves the next due date; without the tick "
-           "its rest does"));
+        tr("If ticked, a rent that is paid in part moves the next due date; otherwise only "
+           "paying its rest does"));
     preview_->setObjectName(QStringLiteral("lvwPreview"));
     preview_->setMinimumHeight(130);
     auto* const label = new QLabel(tr("Amount recei&ved:"), this);

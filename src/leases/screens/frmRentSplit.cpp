@@ -32,7 +32,7 @@ frmRentSplit::frmRentSplit(QWidget* parent)
                    ui_->optIsRent1},
               Line{ui_->dpDate2, ui_->cboCategory2, ui_->txtAmount2, ui_->txtDescription2,
                    ui_->optIsRent2}};
-    Wire(tr("&Save"), tr("Put the two parts in the place of the charge (Enter)"), "SAVE");
+    Wire(tr("&Save"), tr("Replace the charge by the two parts (Enter)"), "SAVE");
     for (std::size_t part = 0; part < lines_.size(); ++part) {
         lines_[part].date->SetRequired(true);
         connect(lines_[part].amount, &QLineEdit::textChanged, this,

@@ -80,8 +80,8 @@ void AmortPage::MakeOptions() {
                             settings_.yearToDate);
     cumulative_ = MakeCheck(tr("C&umulative"), tr("Sums since the first payment"),
                             "chkViewCumulative", settings_.cumulative);
-    legend_ =
-        MakeCheck(tr("L&egend"), tr("Tell the chart's colours"), "chkViewLegend", settings_.legend);
+    legend_ = MakeCheck(tr("L&egend"), tr("Explain the chart's colours"), "chkViewLegend",
+                        settings_.legend);
     type_ = new QComboBox(this);
     type_->setObjectName(QStringLiteral("cboChartType"));
     type_->addItems({tr("Lines"), tr("Bars"), tr("Areas")});

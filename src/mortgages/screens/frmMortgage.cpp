@@ -167,7 +167,7 @@ void frmMortgage::UpdateControls() {
              origin_->dpDue, origin_->txtXPriAll, origin_->chkIntOnly, origin_->chkARM})
         term->setEnabled(!isSaved);
     if (isSaved) {
-        const QString locked = tr("A saved loan keeps this term");
+        const QString locked = tr("This term of a saved loan can't be changed");
         origin_->chkIntOnly->setToolTip(locked);
         origin_->chkARM->setToolTip(locked);
         origin_->txtXPriAll->setToolTip(

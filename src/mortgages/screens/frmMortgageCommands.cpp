@@ -44,7 +44,7 @@ void frmMortgage::MakeMenu() {
     changeBalance_->setToolTip(tr("When the lender's balance is lower than the schedule's"));
     takeBack_ = AddAction("mnuTakeBack", tr("Remove &Extra Principal..."),
                           [this] { OpenAdjustment(&frmMortgageAdjust::SetupTakeBack); });
-    takeBack_->setToolTip(tr("Takes an entry out of the schedule, a mistyped balance for one"));
+    takeBack_->setToolTip(tr("Removes an entry from the schedule, for example a mistyped balance"));
     menu->addSeparator();
     for (const Item& item :
          {Item{MortgageCommand::RollForward, "mnuRollFOrward", tr("Roll &Forward...")},

@@ -45,7 +45,7 @@ void frmMortgageWizard::MakeSteps() {
     AddTextStep(tr("Welcome"), tr("New Mortgage"),
                 tr("This wizard adds a mortgage, also one that has been running for years. Have "
                    "the loan's papers and the lender's latest statement at hand: the first terms "
-                   "stand in the papers, the balance and the next payment in the statement."));
+                   "are in the papers, the balance and the next payment in the statement."));
     lender_->setupUi(
         &AddStep(tr("Lender"), tr("Choose the lender that provided the loan (optional):")));
     terms_->setupUi(&AddStep(tr("Terms"), tr("Set up the original terms of the loan:")));

@@ -76,7 +76,7 @@ void frmLookAhead::SetUpControls() {
     ui_->prgLook->hide();
     core::forms::ActionBar& bar = *ui_->cmdAction;
     bar.Apply().setText(tr("&Look Again"));
-    bar.Apply().setToolTip(tr("Work out once more what is coming"));
+    bar.Apply().setToolTip(tr("Work out again what is coming"));
     core::binding::SetTag(bar.Apply(), "START");
     bar.Cancel().setText(tr("&Stop"));
     bar.Cancel().setToolTip(tr("Stop looking ahead"));

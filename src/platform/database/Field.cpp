@@ -62,7 +62,7 @@ void Field::Set(const platform::Value& value) {
     Recordset::State& state = rows_->Opened();
     if (!state.HasRow()) ThrowAt(Name(), "there is no current row.");
     if (state.IsWritable() && state.IsComputed(index_)) {
-        ThrowAt(Name(), "the statement computes it, it can't be written.");
+        ThrowAt(Name(), "the statement computes it, so it can't be written.");
     }
     state.Edit(index_, Converted(Name(), value, Type()));
 }

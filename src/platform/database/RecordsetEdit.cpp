@@ -99,7 +99,7 @@ int BindEdits(PreparedStatement& statement, const dialect::CompiledStatement& se
 
 void Recordset::State::CheckWritable() const {
     if (IsReadOnly()) {
-        throw DatabaseError("The row set was opened only to be read.");
+        throw DatabaseError("The row set was opened for reading only.");
     }
     if (Compiled().table.empty()) {
         throw DatabaseError(

@@ -35,7 +35,7 @@ fs::path TargetOf(const fs::path& file) {
     }
     if (!fs::is_symlink(fs::symlink_status(file, failure))) return file;
     const fs::path target = fs::canonical(file, failure);
-    if (failure) FailToMake(file, "it is a link to nothing");
+    if (failure) FailToMake(file, "it is a link to a file that doesn't exist");
     return target;
 }
 

@@ -71,7 +71,7 @@ void frmReportViewer::FillFileMenu(QMenu& menu) {
     addExport("mnuExportRTF", tr("Export to &RTF..."), ExportFormat::Rtf);
     QAction* const open = AddAction(menu, "mnuOpenExport", tr("&Open Exported Files"));
     open->setCheckable(true);
-    open->setToolTip(tr("Show a file with the program for its kind when it is written"));
+    open->setToolTip(tr("Open a file in its program once it is written"));
     // Each run reads the setting again.
     connect(open, &QAction::triggered, this, &SaveOpenExport);
     menu.addSeparator();

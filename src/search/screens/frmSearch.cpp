@@ -117,8 +117,8 @@ void frmSearch::ShowStatus() {
     }
     const int hits = list_->HitCount();
     if (txtSearch_->text().trimmed().isEmpty()) {
-        status_->setText(
-            tr("Type some words. The arrow keys choose, Enter opens, Esc closes, F1 tells more."));
+        status_->setText(tr(
+            "Type some words. The arrow keys choose, Enter opens, Esc closes, F1 explains more."));
     } else if (hits == 0) {
         status_->setText(tr("Nothing has all of these words."));
     } else {

@@ -33,17 +33,18 @@ std::string RunReset(const std::filesystem::path& vestrelctl) {
     if (!hasRun) return vestrelctl.string() + " can't be started.";
     if (reset.exitStatus() == QProcess::NormalExit && reset.exitCode() == 0) return {};
     const QString said = QString::fromUtf8(reset.readAllStandardError()).trimmed();
-    return said.isEmpty() ? "The sample can't be made new." : FromScreen(said);
+    return said.isEmpty() ? "The sample can't be reset." : FromScreen(said);
 }
 
 } // namespace
 
 void ResetOpenSample(const std::filesystem::path& vestrelctl) {
-    const bool agreed = platform::TheDialogs().AskYesNo(
-        kTitle,
-        "The sample will be made new, as of today. All that was entered in it is lost.\n"
-        "No other books are touched. Do you want to continue?",
-        platform::Icon::Question);
+    const bool agreed =
+        platform::TheDialogs().AskYesNo(kTitle,
+                                        "The sample will be replaced by a new one, as of today. "
+                                        "All that was entered in it is lost.\n"
+                                        "No other books are touched. Do you want to continue?",
+                                        platform::Icon::Question);
     if (!agreed || !core::forms::MayCloseAllForms()) return;
     core::forms::CloseAllForms();
     const std::string fault = RunReset(vestrelctl);
