@@ -43,7 +43,8 @@ Transaction PostingOf(Recordset& event, Date date) {
     return posting;
 }
 
-/// By id and not by row: if an import brought events with the same id, they all move on together.
+/// Stores the date by id and not by row: if an import brought events with the same id, they all
+/// move on together.
 void StoreLastRun(std::int32_t idAutoEvent, Date date) {
     core::Execute("UPDATE AutoEvent SET LastRun = ? WHERE IdAutoEvent = ?",
                   {date.ToText(), idAutoEvent});

@@ -25,7 +25,8 @@ void FillLetters(QMenu& menu, const std::function<Selection()>& selection) {
     nothing->setToolTip(QObject::tr("Document Management lists the templates of letters"));
 }
 
-/// A unit's slide show includes the pictures of its building.
+/// Shows the pictures of the selected record; the slide show of a unit includes the pictures of its
+/// building.
 void ShowSelectedPictures(const Selection& selection) {
     const bool isUnit = selection.kind == core::kUnit;
     documents::ShowPictures(isUnit ? core::kUnitWithBuilding : selection.kind, selection.id);

@@ -22,8 +22,8 @@ namespace kestrom {
 
 namespace {
 
-/// The repair tool knows databases by their registered names, so it can't help with a folder that
-/// was given on the command line.
+/// Finds the books in a folder that was given on the command line. The repair tool can't help with
+/// these, since it knows databases by their registered names.
 void FindBooksIn(const std::string& folder) {
     core::Globals& app = core::App();
     app.DbPath = platform::AddBackslash(folder);

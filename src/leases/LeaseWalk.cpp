@@ -37,7 +37,7 @@ class DueDates {
     /// Return the due dates from which the days of the fees are counted.
     Date OneTimeDue() const { return oneTimeDue_; }
     Date DailyDue() const { return dailyDue_; }
-    /// The next one-time fee is for the due date reached now.
+    /// Lets the days of the next one-time fee count from the due date reached now.
     void MoveOneTimeDay() {
         oneTimeDue_ = nextDue_;
         oneTimeDate_ = DateAdd(Interval::Day, oneTimeDays_, nextDue_);

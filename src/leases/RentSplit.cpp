@@ -33,7 +33,8 @@ void OpenCharge(Recordset& row, std::int32_t idRentLog) {
     row = core::Read("SELECT * FROM RentLog WHERE IdRentLog = ?", {idRentLog});
 }
 
-/// If the charge has been paid in the meantime, its parts would be owed a second time.
+/// Refuses a charge that was changed since it was read: if it has been paid, its parts would be
+/// owed a second time.
 void CheckUnchanged(const RentSplit& split) {
     Recordset row;
     OpenCharge(row, split.idRentLog);

@@ -55,7 +55,8 @@ class Writer {
     }
 
   private:
-    /// A charge that is settled in part is written as the parts that a split makes of it.
+    /// Writes a charge. One that is settled in part is written as the parts that a split makes of
+    /// it.
     void WriteCharge(std::size_t place) {
         const Charge& charge = walk_.charges[place];
         RentLogEntry entry = EntryOf(idLease_, charge);
@@ -95,7 +96,7 @@ class Writer {
         core::Settle(core::kRentLedger, idRentLog, idTransaction, core::Settled::Yes);
     }
 
-    /// The part that is used becomes a row of its own; the rest keeps its row.
+    /// Uses a credit. The part that is used becomes a row of its own; the rest keeps its row.
     static void TakeCredit(CreditLeft& credit, Currency used, std::int32_t idTransaction) {
         if (used == credit.left) {
             Settle(credit.idRentLog, idTransaction);

@@ -46,7 +46,8 @@ void CheckLease(std::int32_t idLease) {
     throw ConflictError("The lease was deleted after this payment was opened. Nothing was posted.");
 }
 
-/// The two sides of a returned payment stay as they were posted; its texts can be edited.
+/// Refuses other charges for the two sides of a returned payment, which stay as they were posted;
+/// their texts can be edited.
 void CheckReturn(const RentPayment& payment) {
     if (ReturnOf(payment.idTransaction) == 0 && PaymentReturnedBy(payment.idTransaction) == 0)
         return;
@@ -72,7 +73,7 @@ books::References LinksOf(const RentPayment& payment) {
     return links;
 }
 
-/// The next payment proposes the account that received this one.
+/// Stores the account that received this payment; the next payment proposes it.
 void RememberAccount(const RentPayment& payment) {
     if (payment.rentClass != TransactionClass::Rent &&
         payment.rentClass != TransactionClass::Subsidy)

@@ -31,7 +31,8 @@ void Make(clsMortgage& loan, const LenderBalance& adjustment) {
     loan.BalanceMtg(adjustment.day, adjustment.balance.ToDouble(), adjustment.rate);
 }
 
-/// The monthly extra principal becomes an entry of each earlier period, for which it still holds.
+/// Changes the extra principal from a period on. The monthly extra principal becomes an entry of
+/// each earlier period, to which it still applies.
 void Make(clsMortgage& loan, const ExtraFrom& adjustment) {
     const double before = loan.GetXPRI(0);
     loan.SetXPri(0, 0);

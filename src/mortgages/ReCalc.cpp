@@ -118,8 +118,8 @@ class ScheduleBuilder {
         }
     }
 
-    /// The next rate is different: from the next row on, the balance is paid off over the remaining
-    /// periods of the original term.
+    /// Recalculates the payment for the next rate: from the next row on, the balance is paid off
+    /// over the remaining periods of the original term.
     void Reamortise(const AmortPeriod& row) {
         balance_ = row.EndBal;
         term_ -= sinceChange_;
@@ -128,7 +128,8 @@ class ScheduleBuilder {
         stale_ = true;
     }
 
-    /// The last payment is the remaining balance. The sums keep the amounts before the cut.
+    /// Cuts the last payment down to the remaining balance. The sums keep the amounts before the
+    /// cut.
     static void CutOvershoot(AmortPeriod& row) {
         if (row.BeginBal < row.Pri) {
             row.Pri = row.BeginBal;

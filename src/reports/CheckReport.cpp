@@ -57,7 +57,7 @@ class LineCheck {
         }
     }
 
-    /// A key of the catalogue whose line has blanks around its "=".
+    /// Reports a key of the catalogue whose line has blanks around its "=".
     void CheckBlanks(const DefinitionLine& untrimmed) {
         const std::string trimmed = platform::ToUpper(platform::Trim(untrimmed.name));
         if (untrimmed.key != trimmed && IsCatalogueKey(trimmed)) {

@@ -98,7 +98,7 @@ void frmMileage::Connect() {
     key(Qt::Key_Delete, &frmMileage::DeleteTrip);
 }
 
-/// The start reading of a new trip follows its vehicle until the user types one.
+/// Makes the start reading of a new trip follow its vehicle until the user types one.
 void frmMileage::ConnectChoices() {
     connect(ui_->txtOBegin, &QLineEdit::textEdited, this, [this] { beginTyped_ = true; });
     // Only for a new trip: the readings of a stored one must not change.

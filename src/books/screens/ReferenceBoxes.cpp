@@ -78,7 +78,7 @@ void ReferenceBoxes::MortgageChosen() {
     Select(*boxes_.building, core::GetMortgageBuilding(idMortgage));
 }
 
-/// A record that isn't offered selects nothing.
+/// Selects a record; selects nothing if it isn't offered.
 void ReferenceBoxes::Select(QComboBox& combo, std::int32_t id) {
     core::binding::SelectById(combo, id, {.selectFirst = true});
 }

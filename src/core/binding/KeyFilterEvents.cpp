@@ -48,7 +48,8 @@ bool RefusesSum(QLineEdit& edit, const QString& text) {
     return true;
 }
 
-/// Returns true if the text is not to be typed as it is; a capital is typed in place of its letter.
+/// Types the characters that pass the filter, such as the capital of a letter. Returns false, and
+/// types nothing, for a single character that passes unchanged.
 bool TakesOver(QLineEdit& edit, const QString& text) {
     const std::u32string keys = text.toStdU32String();
     for (const char32_t key : keys) {

@@ -48,7 +48,7 @@ RecordList::~RecordList() {
     KeepWidths();
 }
 
-/// The user didn't choose the widths of a list that was never visible.
+/// Stores the widths. A list that was never visible has none that the user has chosen.
 void RecordList::KeepWidths() {
     if (wasSeen_) SaveColumnWidths(*grid_);
 }

@@ -159,7 +159,7 @@ void frmPort::Execute() {
     }
 }
 
-/// In the order of the list, not of the selection.
+/// Exports the tables in the order of the list, not of the selection.
 void frmPort::Export() {
     std::vector<std::string> tables;
     for (int row = 0; row < ui_->lstTables->count(); ++row) {

@@ -172,7 +172,7 @@ void frmLease::ShowRow(platform::Recordset& row) {
     ShowEnabled();
 }
 
-/// The setting isn't a field of the lease's row.
+/// Shows the setting, which isn't a field of the lease's row.
 void frmLease::ShowSettles(bool settles) {
     settles_ = settles;
     fees_->chkSettleCharges->setChecked(settles);
@@ -215,7 +215,7 @@ std::vector<std::string> frmLease::Errors() {
                         !terms_->dpDateNextDue->text().trimmed().isEmpty()});
 }
 
-/// A lease that is entered late is charged from the day that the user chooses.
+/// Asks from which day a lease that is entered late is charged; returns false if the user cancels.
 bool frmLease::Agreed() {
     const bool isNew = age_ == LeaseAge::New;
     platform::Recordset row =

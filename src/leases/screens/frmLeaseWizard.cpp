@@ -159,7 +159,7 @@ void frmLeaseWizard::ShowSummary() {
                                      .arg(money(entry.lateFee)));
 }
 
-/// A lease that is entered late is charged from the day that the user chooses.
+/// Asks from which day a lease that is entered late is charged; returns false if the user cancels.
 bool frmLeaseWizard::Agreed() {
     const auto firstDue = AskChargeFrom(EnteredTerms(Entered()), *this);
     firstDue_ = firstDue.value_or(platform::Date());

@@ -83,7 +83,7 @@ void frmMortgage::OpenAdjustment(void (frmMortgageAdjust::*setup)(const clsMortg
     (form->*setup)(loan_);
 }
 
-/// Kept until the save, which applies it to the loan as it is stored then.
+/// Keeps the adjustment until the save, which applies it to the loan as it is stored then.
 void frmMortgage::AdjustLoan(const Adjustment& adjustment) {
     adjustments_.push_back(adjustment);
     Recalculate();

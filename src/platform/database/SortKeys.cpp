@@ -32,7 +32,7 @@ bool IsAscii(char c) {
 }
 
 // Returns the letters in lower case, and in the last byte their count, which distinguishes a text
-// that ended before from a null.
+// without further letters from a null.
 std::uint64_t OfText(std::string_view text, std::size_t passed) {
     std::string lower;
     if (!std::ranges::all_of(text.substr(0, passed + kSortLetters), IsAscii)) {

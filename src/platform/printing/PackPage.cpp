@@ -44,7 +44,7 @@ void Put(std::string& out, std::uint64_t number) {
     out += static_cast<char>(number);
 }
 
-/// Small numbers of either sign take one byte.
+/// Appends a number; small numbers of either sign take one byte.
 void PutSigned(std::string& out, std::int64_t number) {
     Put(out, static_cast<std::uint64_t>(number) << 1U ^ static_cast<std::uint64_t>(number >> 63));
 }

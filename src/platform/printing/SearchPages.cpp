@@ -47,7 +47,7 @@ std::optional<PageMatch> SearchPages(const PrintedDocument& document, std::strin
     const std::string wanted = ToLower(text);
     if (count == 0 || wanted.empty()) return std::nullopt;
     const bool forward = direction == SearchDirection::Forward;
-    // The first page is searched twice: from the place on, and at the end up to it.
+    // The first page is searched twice: at first from the place on, and at the end up to the place.
     for (std::size_t step = 0; step <= count; ++step) {
         const std::size_t number =
             (forward ? from.page + step : from.page + 2 * count - step) % count;

@@ -173,7 +173,7 @@ void PropertyTreeView::startDrag(Qt::DropActions /*actions*/) {
     drag->exec(Qt::MoveAction);
 }
 
-/// The unit's id, in a format of this process: another process may have other books open.
+/// Returns the unit's id in a format of this process: another process may have other books open.
 QMimeData* PropertyTreeView::mimeData(const QList<QTreeWidgetItem*>& items) const {
     auto* const carried = new QMimeData;
     if (items.size() == 1 && NodeOf(*items.front()).kind == PropertyKind::Unit)

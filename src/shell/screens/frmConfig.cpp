@@ -50,7 +50,7 @@ void frmConfig::Setup() {
         [this] { Load(); });
 }
 
-/// The settings are one row without an id.
+/// Finds the settings, which are one row without an id.
 void frmConfig::FindRow(platform::Recordset& row) {
     row = core::Write("SELECT * FROM Configuration");
 }
@@ -66,7 +66,7 @@ void frmConfig::ShowRow(platform::Recordset& row) {
     OfferExpiry();
 }
 
-/// The day isn't a field of the row.
+/// Shows the day, which isn't a field of the row.
 void frmConfig::ShowKeptSince() {
     keptSince_ = core::BooksKeptSince();
     leases_->dpKeptSince->SetDay(keptSince_);

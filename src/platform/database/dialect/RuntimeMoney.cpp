@@ -26,7 +26,7 @@ void ReadMoney(const RuntimeCall& call) {
     ThrowUnfit(call, "an amount of money");
 }
 
-/// The engine continues in doubles if integers overflow, which would make money inexact.
+/// Fails if the result isn't exact: the engine continues in doubles if integers overflow.
 void CheckExact(const RuntimeCall& call) {
     if (!call.IsWhole(0)) throw OverflowError(kTooLarge);
     call.AnswerArgument(0);
