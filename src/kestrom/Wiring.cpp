@@ -13,6 +13,7 @@
 #include "core/forms/OpenForms.h"
 #include "core/forms/frmHelp.h"
 #include "documents/screens/DocMenus.h"
+#include "documents/screens/FilesPage.h"
 #include "documents/screens/frmDocMgmt.h"
 #include "exchange/screens/frmCheck.h"
 #include "exchange/screens/frmFinExport.h"
@@ -156,6 +157,7 @@ void RegisterEditors() {
     core::RegisterOpener(core::kBuilding, records::screens::OpenBuilding);
     core::RegisterOpener(core::kUnit, records::screens::OpenBuilding);
     documents::screens::RegisterDocMenus(OpenOnce<documents::screens::frmDocMgmt>);
+    documents::screens::RegisterFilesPage();
 }
 
 shell::screens::Commands MenuCommands() {

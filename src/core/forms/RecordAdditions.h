@@ -42,7 +42,8 @@ using MenuFiller = std::function<void(const MenuFilling& filling)>;
 /// Documents menu shows only on forms opened after something was registered for it.
 void RegisterRecordMenu(RecordMenu menu, const std::string& name, MenuFiller filler);
 
-/// A page of the tab bar named "tabs", on the forms of some kinds.
+/// A page of the tab bar named "tabs", on the forms of some kinds. It comes last, or where the
+/// bar's property "addedPagesAt" says (the first page is 0).
 struct RecordPage {
     std::string caption;
     std::vector<std::int16_t> kinds;

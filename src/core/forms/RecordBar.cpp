@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QSet>
 #include <QTabWidget>
+#include <QVariant>
 #include <algorithm>
 
 #include "core/RecordKinds.h"
@@ -145,10 +146,12 @@ void RecordBar::MakeMenu(QDialog& form, QMenuBar& bar, RecordMenu which, const Q
 void RecordBar::MakePages(QDialog& form, std::int16_t kind) {
     auto* const tabs = form.findChild<QTabWidget*>(QStringLiteral("tabs"));
     if (!tabs) return;
+    const QVariant place = tabs->property("addedPagesAt");
+    int at = place.isValid() ? place.toInt() : tabs->count();
     for (const auto& [name, page] : Pages()) {
         if (std::ranges::find(page.kinds, kind) == page.kinds.end()) continue;
         QWidget* const widget = page.make(form);
-        tabs->addTab(widget, ToScreen(page.caption));
+        tabs->insertTab(at++, widget, ToScreen(page.caption));
         pages_.emplace_back(widget, name);
     }
 }

@@ -1,7 +1,6 @@
 #include "leases/screens/frmLease.h"
 
 #include <QMenuBar>
-#include <QVBoxLayout>
 
 #include "core/Descriptions.h"
 #include "core/EditRecord.h"
@@ -17,7 +16,6 @@
 #include "core/binding/Tags.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/TabPages.h"
-#include "documents/screens/FileObjects.h"
 #include "leases/Credits.h"
 #include "leases/mLease.h"
 #include "leases/screens/Lease_Ledger.h"
@@ -66,9 +64,6 @@ void frmLease::MakePanels() {
     ucLL_ = new Lease_Ledger(this);
     ucLL_->setObjectName(QStringLiteral("ucLL"));
     ui_->ledgerPage->insertWidget(0, ucLL_, 1);
-    ucFOB_ = new documents::screens::FileObjects(this);
-    ucFOB_->setObjectName(QStringLiteral("ucFOB"));
-    (new QVBoxLayout(ui_->tabFiles))->addWidget(ucFOB_);
 }
 
 void frmLease::MakeMenu() {
@@ -201,7 +196,6 @@ void frmLease::ShowCaption() {
         setWindowTitle(tr("Lease: %1").arg(name));
         ui_->lblTitle->setText(tr("Editing Lease: %1").arg(name));
     }
-    ucFOB_->SetRecord(core::kLease, Id());
     Guarded([this] {
         ucLL_->Load(Id());
         ShowBalances();

@@ -11,10 +11,6 @@
 
 class QAction;
 
-namespace documents::screens {
-class FileObjects;
-}
-
 namespace Ui {
 class frmLease;
 class frmLeaseFees;
@@ -74,7 +70,6 @@ class frmLease : public core::forms::RecordForm {
     std::unique_ptr<Ui::frmLeaseMore> more_;
     std::unique_ptr<Ui::frmLeaseNotes> notes_;
     Lease_Ledger* ucLL_ = nullptr;
-    documents::screens::FileObjects* ucFOB_ = nullptr;
     std::array<QAction*, 6> commands_{};
     /// New until a save has succeeded; one that failed midway doesn't count.
     LeaseAge age_ = LeaseAge::New;

@@ -10,7 +10,6 @@
 #include "core/binding/EnableContainer.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/TabPages.h"
-#include "documents/screens/FileObjects.h"
 #include "mortgages/MortgageUpkeep.h"
 #include "mortgages/screens/AmortPage.h"
 #include "mortgages/screens/MtgLog.h"
@@ -51,9 +50,6 @@ void frmMortgage::MakePanels() {
     amort_ = new AmortPage(this);
     amort_->setObjectName(QStringLiteral("ucAmort"));
     (new QVBoxLayout(ui_->tabAmortization))->addWidget(amort_);
-    ucFOB_ = new documents::screens::FileObjects(this);
-    ucFOB_->setObjectName(QStringLiteral("ucFOB"));
-    (new QVBoxLayout(ui_->tabFiles))->addWidget(ucFOB_);
 }
 
 void frmMortgage::Connect() {
@@ -174,7 +170,6 @@ void frmMortgage::UpdateControls() {
             tr("Change it with Change the Terms from a Period on, in the menu Mortgage"));
     }
     ucMtgLog_->Load(Id());
-    ucFOB_->SetRecord(core::kMortgage, Id());
     UpdateOptions();
 }
 

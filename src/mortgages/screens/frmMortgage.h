@@ -13,10 +13,6 @@
 
 class QAction;
 
-namespace documents::screens {
-class FileObjects;
-}
-
 namespace Ui {
 class frmMortgage;
 class frmMortgageEscrow;
@@ -87,7 +83,6 @@ class frmMortgage : public core::forms::RecordForm {
     std::unique_ptr<Ui::frmMortgageEscrow> escrow_;
     MtgLog* ucMtgLog_ = nullptr;
     AmortPage* amort_ = nullptr;
-    documents::screens::FileObjects* ucFOB_ = nullptr;
     std::array<QAction*, 3> commands_{};
     QAction* changeRate_ = nullptr;
     QAction* changeBalance_ = nullptr;

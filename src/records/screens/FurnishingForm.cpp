@@ -5,9 +5,7 @@
 #include "core/binding/ComboList.h"
 #include "core/forms/ActionBar.h"
 #include "core/forms/TabPages.h"
-#include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
-#include "records/screens/Panels.h"
 #include "records/screens/PickFields.h"
 
 namespace records::screens {
@@ -24,10 +22,8 @@ core::forms::RecordPlace PlaceOf(std::int16_t kind) {
 FurnishingForm::FurnishingForm(std::int16_t kind, NoUnit noUnit, QWidget* parent)
     : RecordForm(PlaceOf(kind), parent), kind_(kind), noUnit_(noUnit) {}
 
-void FurnishingForm::WireFurnishing(QComboBox& unit, QWidget& files,
-                                    core::forms::ActionBar& buttons) {
+void FurnishingForm::WireFurnishing(QComboBox& unit, core::forms::ActionBar& buttons) {
     unit_ = &unit;
-    files_ = PlacePanel(new documents::screens::FileObjects, files, "ucFOB");
     Wire();
     core::forms::PutLastInTabOrder(*this, buttons);
 }
@@ -48,7 +44,6 @@ void FurnishingForm::FillUnits(std::int32_t selectedId) {
 void FurnishingForm::ShowCaption() {
     const QString kind = platform::qt::ToScreen(core::RecordKindName(kind_));
     setWindowTitle(Id() == 0 ? tr("Adding New %1").arg(kind) : tr("%1: %2").arg(kind, Name()));
-    files_->SetRecord(kind_, Id());
 }
 
 void FurnishingForm::AfterSave() {

@@ -10,17 +10,13 @@ namespace core::forms {
 class ActionBar;
 }
 
-namespace documents::screens {
-class FileObjects;
-}
-
 namespace records::screens {
 
 /// Whether a record of a unit can also belong to none.
 enum class NoUnit { Refused, Offered };
 
-/// The base of the forms of a unit's rooms, contents and appliances. It has the list of units, the
-/// page of files, and the boxes that remember what was typed into them.
+/// The base of the forms of a unit's rooms, contents and appliances. It has the list of units and
+/// the boxes that remember what was typed into them.
 class FurnishingForm : public core::forms::RecordForm {
     Q_OBJECT
 
@@ -31,8 +27,8 @@ class FurnishingForm : public core::forms::RecordForm {
   protected:
     FurnishingForm(std::int16_t kind, NoUnit noUnit, QWidget* parent);
 
-    /// Connects the controls created by setupUi. `files` is the page of the files.
-    void WireFurnishing(QComboBox& unit, QWidget& files, core::forms::ActionBar& buttons);
+    /// Connects the controls created by setupUi.
+    void WireFurnishing(QComboBox& unit, core::forms::ActionBar& buttons);
     /// Fills the lists besides the units.
     virtual void FillLists() {}
     /// Returns the text that names the record in the caption.
@@ -48,7 +44,6 @@ class FurnishingForm : public core::forms::RecordForm {
     std::int16_t kind_;
     NoUnit noUnit_;
     QComboBox* unit_ = nullptr;
-    documents::screens::FileObjects* files_ = nullptr;
 };
 
 } // namespace records::screens

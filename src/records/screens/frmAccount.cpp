@@ -8,7 +8,6 @@
 #include "core/binding/AddressBox.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
-#include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/screens/Contacts.h"
 #include "records/screens/Panels.h"
@@ -43,7 +42,6 @@ frmAccount::~frmAccount() = default;
 void frmAccount::MakePanels() {
     contacts_ = PlacePanel(new Contacts(this), *ui_->tabContacts, "ucContacts");
     ledger_ = PlacePanel(new books::screens::General_Ledger(this), *ui_->tabLedger, "ucLedger");
-    files_ = PlacePanel(new documents::screens::FileObjects(this), *ui_->tabFiles, "ucFOB");
     connect(contacts_, &Contacts::Changed, this, [this] { MarkDirty(); });
 }
 
@@ -82,7 +80,6 @@ void frmAccount::ShowCaption() {
                                  : tr("Editing Account: %1").arg(shownAs));
     contacts_->Load(core::kAccount, Id());
     ledger_->SetParty(core::kAccount, Id());
-    files_->SetRecord(core::kAccount, Id());
 }
 
 std::vector<std::string> frmAccount::Errors() {

@@ -16,10 +16,6 @@ namespace books::screens {
 class General_Ledger;
 }
 
-namespace documents::screens {
-class FileObjects;
-}
-
 namespace records::screens {
 
 class Contacts;
@@ -54,7 +50,6 @@ class frmAccount : public core::forms::RecordForm {
     std::unique_ptr<Ui::frmAccountDetails> details_;
     Contacts* contacts_ = nullptr;
     books::screens::General_Ledger* ledger_ = nullptr;
-    documents::screens::FileObjects* files_ = nullptr;
 };
 
 } // namespace records::screens

@@ -18,7 +18,7 @@ frmAppliance::frmAppliance(QWidget* parent)
     ui_->setupUi(this);
     details_->setupUi(ui_->tabAppliance);
     contracts_ = PlacePanel(new RelatedDBs(this), *ui_->tabContracts, "ucContracts");
-    WireFurnishing(*details_->cboUnit, *ui_->tabFiles, *ui_->cmdAction);
+    WireFurnishing(*details_->cboUnit, *ui_->cmdAction);
 }
 
 frmAppliance::~frmAppliance() = default;

@@ -8,7 +8,6 @@
 
 class QLabel;
 class QMenuBar;
-class QTabBar;
 
 namespace Ui {
 class frmBuilding;
@@ -20,9 +19,6 @@ class frmBuildingServices;
 
 namespace books::screens {
 class General_Ledger;
-}
-namespace documents::screens {
-class FileObjects;
 }
 
 namespace records::screens {
@@ -73,7 +69,6 @@ class frmBuilding : public core::forms::RecordForm {
     void ShowUnit();
     void FillUnits();
     void ShowPanels();
-    void ShowFiles();
     void StoreBuilding();
     void StoreUnit();
     bool SaveChanges();
@@ -92,8 +87,6 @@ class frmBuilding : public core::forms::RecordForm {
     std::unique_ptr<Ui::frmBuildingFinancial> financial_;
     std::unique_ptr<Ui::frmBuildingServices> services_;
     books::screens::General_Ledger* ledger_ = nullptr;
-    documents::screens::FileObjects* files_ = nullptr;
-    QTabBar* filesOf_ = nullptr;
     std::int32_t idUnit_ = 0;
     bool multi_ = false;
     bool makeMulti_ = false; ///< the save makes a building of several units of this one

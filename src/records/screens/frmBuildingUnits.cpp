@@ -1,7 +1,6 @@
 // The units on the building's screen: choosing one, adding one, and the lists that belong to it.
 
 #include <QApplication>
-#include <QTabBar>
 
 #include "books/screens/General_Ledger.h"
 #include "core/Lookups.h"
@@ -9,7 +8,6 @@
 #include "core/binding/ComboList.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/OpenForms.h"
-#include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/BuildingRules.h"
 #include "records/screens/Panels.h"
@@ -38,14 +36,6 @@ frmBuilding* FindOpen(std::int32_t idBuilding) {
 
 void frmBuilding::MakePanels() {
     ledger_ = PlacePanel(new books::screens::General_Ledger(this), *ui_->tabLedger, "ucLedger");
-    filesOf_ = PlacePanel(new QTabBar(this), *ui_->tabFiles, "tabFilesOf");
-    filesOf_->setDrawBase(false);
-    filesOf_->setExpanding(false);
-    filesOf_->setAccessibleName(tr("Files of"));
-    filesOf_->addTab(tr("Of the Building"));
-    filesOf_->addTab(tr("Of the Unit"));
-    files_ = PlacePanel(new documents::screens::FileObjects(this), *ui_->tabFiles, "ucFOB");
-    connect(filesOf_, &QTabBar::currentChanged, this, &frmBuilding::ShowFiles);
 }
 
 void frmBuilding::ShowPanels() {
@@ -54,15 +44,6 @@ void frmBuilding::ShowPanels() {
     unit_->ucUnitLists->Load(core::kUnit, unit);
     financial_->ucDeposits->Load({Id(), unit});
     ledger_->SetParty(core::kUnit, unit, Id());
-    ShowFiles();
-}
-
-void frmBuilding::ShowFiles() {
-    if (filesOf_->currentIndex() == 0) {
-        files_->SetRecord(core::kBuilding, Id());
-    } else {
-        files_->SetRecord(core::kUnit, Id() == 0 ? 0 : idUnit_);
-    }
 }
 
 void frmBuilding::FillUnits() {

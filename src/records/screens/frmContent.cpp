@@ -11,7 +11,7 @@ frmContent::frmContent(QWidget* parent)
     : FurnishingForm(core::kContent, NoUnit::Refused, parent),
       ui_(std::make_unique<Ui::frmContent>()) {
     ui_->setupUi(this);
-    WireFurnishing(*ui_->cboUnit, *ui_->tabFiles, *ui_->cmdAction);
+    WireFurnishing(*ui_->cboUnit, *ui_->cmdAction);
 }
 
 frmContent::~frmContent() = default;

@@ -10,7 +10,7 @@ namespace records::screens {
 frmRoom::frmRoom(QWidget* parent)
     : FurnishingForm(core::kRoom, NoUnit::Refused, parent), ui_(std::make_unique<Ui::frmRoom>()) {
     ui_->setupUi(this);
-    WireFurnishing(*ui_->cboUnit, *ui_->tabFiles, *ui_->cmdAction);
+    WireFurnishing(*ui_->cboUnit, *ui_->cmdAction);
 }
 
 frmRoom::~frmRoom() = default;

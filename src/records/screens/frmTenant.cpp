@@ -5,7 +5,6 @@
 #include "core/binding/AddressBox.h"
 #include "core/binding/ComboList.h"
 #include "core/forms/TabPages.h"
-#include "documents/screens/FileObjects.h"
 #include "platform/qt/Text.h"
 #include "records/TenantRules.h"
 #include "records/screens/Contacts.h"
@@ -44,7 +43,6 @@ void frmTenant::MakePanels() {
     incidents_ = PlacePanel(new RelatedDBs(this), *history_->incidents, "ucIncidents");
     contacts_ = PlacePanel(new Contacts(this), *ui_->tabContacts, "ucContacts");
     ledger_ = PlacePanel(new books::screens::General_Ledger(this), *ui_->tabLedger, "ucLedger");
-    files_ = PlacePanel(new documents::screens::FileObjects(this), *ui_->tabFiles, "ucFOB");
     connect(contacts_, &Contacts::Changed, this, [this] { MarkDirty(); });
 }
 
@@ -68,7 +66,6 @@ void frmTenant::ShowCaption() {
     incidents_->Load(core::kTenant, Id());
     contacts_->Load(core::kTenant, Id());
     ledger_->SetParty(core::kTenant, Id());
-    files_->SetRecord(core::kTenant, Id());
 }
 
 std::vector<std::string> frmTenant::Errors() {

@@ -16,10 +16,6 @@ namespace books::screens {
 class General_Ledger;
 }
 
-namespace documents::screens {
-class FileObjects;
-}
-
 namespace records::screens {
 
 class Contacts;
@@ -51,7 +47,6 @@ class frmTenant : public core::forms::RecordForm {
     RelatedDBs* incidents_ = nullptr;
     Contacts* contacts_ = nullptr;
     books::screens::General_Ledger* ledger_ = nullptr;
-    documents::screens::FileObjects* files_ = nullptr;
 };
 
 } // namespace records::screens

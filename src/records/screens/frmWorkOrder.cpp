@@ -5,7 +5,6 @@
 #include "core/binding/EnableContainer.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/TabPages.h"
-#include "documents/screens/FileObjects.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/qt/Text.h"
 #include "platform/system/Clock.h"
@@ -39,7 +38,6 @@ frmWorkOrder::~frmWorkOrder() = default;
 
 void frmWorkOrder::MakePanels() {
     history_ = PlacePanel(new RelatedDBs(this), *ui_->tabHistory, "ucHistory");
-    files_ = PlacePanel(new documents::screens::FileObjects(this), *ui_->tabFiles, "ucFOB");
 }
 
 void frmWorkOrder::Setup(std::int32_t id, std::int32_t idUnit) {
@@ -100,11 +98,9 @@ void frmWorkOrder::ShowCaption() {
     setWindowTitle(isNew ? tr("Adding New WorkOrder") : tr("WorkOrder: %1").arg(name));
     ui_->lblTitle->setText(isNew ? tr("New WorkOrder (Press Apply to Save)")
                                  : tr("Editing WorkOrder: %1").arg(name));
-    for (QWidget* const page : {ui_->tabHistory, ui_->tabFiles}) {
-        ui_->tabs->setTabEnabled(ui_->tabs->indexOf(page), !isNew);
-    }
+    for (int page = 1; page < ui_->tabs->count(); ++page)
+        ui_->tabs->setTabEnabled(page, !isNew);
     history_->Load(core::kWorkOrder, Id());
-    files_->SetRecord(core::kWorkOrder, Id());
 }
 
 std::vector<std::string> frmWorkOrder::Errors() {

@@ -5,10 +5,6 @@
 
 #include "core/forms/RecordForm.h"
 
-namespace documents::screens {
-class FileObjects;
-}
-
 namespace Ui {
 class frmWorkOrder;
 class frmWorkOrderJob;
@@ -48,7 +44,6 @@ class frmWorkOrder : public core::forms::RecordForm {
     std::unique_ptr<Ui::frmWorkOrder> ui_;
     std::unique_ptr<Ui::frmWorkOrderJob> job_;
     RelatedDBs* history_ = nullptr;
-    documents::screens::FileObjects* files_ = nullptr;
 };
 
 } // namespace records::screens

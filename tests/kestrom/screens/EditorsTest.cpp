@@ -1,8 +1,11 @@
 #include <gmock/gmock.h>
 
+#include <QTabBar>
+#include <QTabWidget>
 #include <algorithm>
 
 #include "core/forms/RecordForm.h"
+#include "documents/screens/FileObjects.h"
 #include "kestrom/screens/SampleEditors.h"
 #include "platform/database/Recordset.h"
 #include "shell/screens/frmConfig.h"
@@ -180,6 +183,57 @@ TEST_F(Editors, OpenNewRecordsOfTheirOwn) {
         SettleEvents();
         core::forms::CloseAllForms();
     }
+}
+
+TEST_F(Editors, ShowTheFilesOfTheRecordsThatCanHaveFiles) {
+    std::vector<std::string> pages;
+    for (const Kind& kind : kKinds) {
+        const std::int32_t id = SomeId(kind);
+        if (!core::HasEditor(kind.kind) || kind.kind == core::kUnit) continue;
+        const std::int32_t file = 9000 + kind.kind;
+        Run("INSERT INTO FileObject (IdFileObject, dbType, IdOwner, FilePath) VALUES (" +
+            std::to_string(file) + ", " + std::to_string(kind.kind) + ", " + std::to_string(id) +
+            ", '/nowhere/picture.png')");
+        for (const std::int32_t opened : {id, 0}) {
+            core::EditRecord(kind.kind, opened);
+            ASSERT_EQ(Open().size(), 1U) << kind.table;
+            Form& form = *Open().front();
+            const auto* const tabs = form.findChild<QTabWidget*>("tabs");
+            const auto* const page = form.findChild<QWidget*>("tabFiles");
+            const int at = page ? tabs->indexOf(page) : -1;
+            if (at >= 0 && opened != 0) {
+                pages.push_back(kind.table + std::string(" ") + std::to_string(at + 1) + "/" +
+                                std::to_string(tabs->count()));
+                EXPECT_EQ("Files and Pictures", platform::qt::FromScreen(tabs->tabText(at)));
+            }
+            if (at >= 0) {
+                const auto& files = Find<documents::screens::FileObjects>(form, "ucFOB");
+                EXPECT_EQ(files.SelectedId(), opened == 0 ? 0 : file) << kind.table;
+                EXPECT_EQ(tabs->isTabEnabled(at), opened != 0 || kind.kind != core::kWorkOrder);
+                EXPECT_FALSE(static_cast<core::forms::RecordForm&>(form).Dirty()) << kind.table;
+            }
+            form.CloseUnasked();
+            SettleEvents();
+        }
+    }
+    EXPECT_THAT(pages, testing::UnorderedElementsAre("Account 4/4", "Lease 6/6", "Mortgage 6/6",
+                                                     "Tenant 6/6", "WorkOrder 3/3", "Appliance 3/3",
+                                                     "Room 2/2", "Content 2/2", "Building 5/6"));
+
+    // A building's form shows the files of its units too.
+    const std::int32_t unit = SomeId({core::kUnit, "Unit", "IdUnit"});
+    Run("UPDATE FileObject SET dbType = 29, IdOwner = " + std::to_string(unit) +
+        " WHERE dbType = 28");
+    core::EditRecord(core::kUnit, unit);
+    ASSERT_EQ(Open().size(), 1U);
+    const Form& form = *Open().front();
+    const auto& files = Find<documents::screens::FileObjects>(form, "ucFOB");
+    EXPECT_EQ(files.SelectedId(), 0);
+    auto& filesOf = Find<QTabBar>(form, "tabFilesOf");
+    EXPECT_EQ("Of the Building", platform::qt::FromScreen(filesOf.tabText(0)));
+    EXPECT_EQ("Of the Unit", platform::qt::FromScreen(filesOf.tabText(1)));
+    filesOf.setCurrentIndex(1);
+    EXPECT_EQ(files.SelectedId(), 9000 + core::kBuilding);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "core/EditRecord.h"
 #include "core/Lookups.h"
 #include "core/binding/MaskedEdit.h"
-#include "documents/screens/FileObjects.h"
 #include "records/screens/frmTenant.h"
 #include "removal/DeleteRecord.h"
 #include "support/screens/Screens.h"
@@ -177,7 +176,7 @@ TEST_F(TenantTest, ListsItsIncidentsAndOpensThem) {
     core::RegisterOpener(core::kIncident, {});
 }
 
-TEST_F(TenantTest, ShowsPaymentsAndFilesAndComesBackUnderItsNumberWhenRemovedMeanwhile) {
+TEST_F(TenantTest, ShowsPaymentsAndComesBackUnderItsNumberWhenRemovedMeanwhile) {
     Run("INSERT INTO Transactions (IdTransaction, IdTenant, DateEffective, Amount, Description) "
         "VALUES (600, 30, '05/01/2024', 950, 'May')");
     const auto form = Open(30);
@@ -186,13 +185,6 @@ TEST_F(TenantTest, ShowsPaymentsAndFilesAndComesBackUnderItsNumberWhenRemovedMea
     Run("UPDATE Transactions SET IdTenant = 31");
     core::NotifyAll(core::kTransaction, core::kRecordsChanged, 0);
     EXPECT_EQ(ledger->Model().rowCount(), 0);
-
-    Run("INSERT INTO FileObject (IdFileObject, dbType, IdOwner, Description, FilePath, IsPic) "
-        "VALUES (601, 5, 30, 'Lease', '/nowhere/lease.pdf', False)");
-    core::NotifyAll(core::kFileObject, core::kRecordsChanged, 0);
-    auto& files = Find<documents::screens::FileObjects>(*form, "ucFOB");
-    files.ShowFileObject(601);
-    EXPECT_EQ(files.SelectedId(), 601);
 
     Answer({true});
     removal::DeleteRecord(core::kTenant, 30);
