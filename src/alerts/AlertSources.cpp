@@ -157,7 +157,7 @@ void AddExpiringLeases(std::vector<AlertItem>& items) {
         "WHERE (Lease.IdUnit=Unit.IdUnit) AND (Unit.IdBuilding=Building.IdBuilding) "
         "AND (Lease.IdTenant=Tenant.IdTenant) AND (Lease.Status = 'Contracted')",
         LeaseName, [&](Recordset& row) {
-            const Interval interval = core::TermInterval(TextOf(row["TermType"]));
+            const Interval interval = core::FixedTermInterval(TextOf(row["TermType"]));
             const Date due =
                 DateAdd(interval, row["Term"].AsInteger(), row["DateRenewed"].AsDate());
             if (const auto days = DaysWithin(due, core::Preferences().LeaseExpiringDays)) {

@@ -21,8 +21,14 @@ enum class TransactionClass : std::int16_t {
     Mortgage = 5,
 };
 
-/// The flags of a transaction that refunds a deposit, or charges something against it.
-enum class DepositFlags : std::int16_t { Refund = 3, Charge = 4 };
+/// Flags of a row in the rent log; a deposit's transaction uses the last two.
+enum class RentFlags : std::int16_t {
+    Ordinary = 0,
+    PeriodRent = 1, ///< the rent of one period: paying it moves the next due date on
+    Payment = 2,
+    DepositRefund = 3,
+    DepositCharge = 4,
+};
 
 /// The unit of an automated event's interval.
 enum class IntervalType : std::int16_t { Day = 1, Week = 2, Month = 3, DayOfMonth = 4, Year = 5 };
@@ -58,17 +64,31 @@ inline constexpr std::array kLeaseStatuses = {
     kLeasePending, kLeaseWeekToWeek, kLeaseMonthToMonth, kLeaseContracted,
     kLeaseNotice,  kLeaseExpired,    kLeaseBroken};
 
-// Lease.ExpireOption, beside week to week and month to month
-inline constexpr std::string_view kExpireRenews = "Renew";
-inline constexpr std::string_view kExpireEnds = "Expire";
+// Lease.TermType, in the order in which lists offer them
+inline constexpr std::string_view kTermWeeks = "Week(s)";
+inline constexpr std::string_view kTermMonths = "Month(s)";
+inline constexpr std::string_view kTermYears = "Year(s)";
+inline constexpr std::array kLeaseTermTypes = {kLeaseWeekToWeek, kLeaseMonthToMonth, kTermWeeks,
+                                               kTermMonths, kTermYears};
 
-/// Returns the interval in which a lease's term of this type is counted. A lease that runs from
-/// week to week or month to month has no term.
-constexpr platform::Interval TermInterval(std::string_view termType) {
-    if (termType == "Weekly" || termType == "Week(s)") return platform::Interval::Week;
-    if (termType == "Yearly" || termType == "Year(s)") return platform::Interval::Year;
+/// Returns whether a lease of this term type has an end; one that runs from week to week or month
+/// to month has none.
+constexpr bool HasEnd(std::string_view termType) {
+    return termType != kLeaseMonthToMonth && termType != kLeaseWeekToWeek;
+}
+
+/// Returns the interval in which a term with an end is counted; a month for any other.
+constexpr platform::Interval FixedTermInterval(std::string_view termType) {
+    if (termType == "Weekly" || termType == kTermWeeks) return platform::Interval::Week;
+    if (termType == "Yearly" || termType == kTermYears) return platform::Interval::Year;
     return platform::Interval::Month;
 }
+
+// Lease.ExpireOption, in the order in which lists offer them
+inline constexpr std::string_view kExpireRenews = "Renew";
+inline constexpr std::string_view kExpireEnds = "Expire";
+inline constexpr std::array kExpireOptions = {kLeaseWeekToWeek, kLeaseMonthToMonth, kExpireRenews,
+                                              kExpireEnds};
 
 // Lease.RentStatus and Mortgage.PmtStatus
 inline constexpr std::string_view kPaymentNone = "n/a";

@@ -1,5 +1,6 @@
 #include "core/ConfigFields.h"
 
+#include "core/Codes.h"
 #include "core/Globals.h"
 #include "core/IdStart.h"
 
@@ -35,9 +36,9 @@ std::vector<ConfigField> ConfigFields() {
         {"DefaultMortgagee", noLink, &C::DefaultMortgagee},
         {"DefaultMortgagePmt", notSet, &C::DefaultMortgagePmt},
         {"DefaultCar", notSet, {}},
-        {"TermType", "Month(s)", &C::TermType},
+        {"TermType", kTermMonths, &C::TermType},
         {"Term", integer(12), &C::Term},
-        {"ExpireOption", "MTM", &C::ExpireOption},
+        {"ExpireOption", kLeaseMonthToMonth, &C::ExpireOption},
         {"Discount", Currency::FromUnits(50), &C::Discount},
         {"DiscountDays", integer(5), &C::DiscountDays},
         {"OneTimeFee", Currency::FromUnits(50), &C::OneTimeFee},

@@ -27,9 +27,10 @@ Openers& Registered() {
 
 /// Returns the screen that made a payment. The refund of a deposit, and a charge against one, are
 /// not payments.
-TransactionEditor EditorOf(TransactionClass transactionClass, DepositFlags flags) {
-    const bool isDepositReturn = transactionClass == TransactionClass::Deposit &&
-                                 (flags == DepositFlags::Refund || flags == DepositFlags::Charge);
+TransactionEditor EditorOf(TransactionClass transactionClass, RentFlags flags) {
+    const bool isDepositReturn =
+        transactionClass == TransactionClass::Deposit &&
+        (flags == RentFlags::DepositRefund || flags == RentFlags::DepositCharge);
     const Ledger ledger = isDepositReturn ? Ledger::None : LedgerOf(transactionClass);
     if (ledger == Ledger::Rent) return TransactionEditor::RentPayment;
     return ledger == Ledger::Mortgage ? TransactionEditor::MortgagePayment
@@ -81,7 +82,7 @@ TransactionPlace FindTransactionPlace(std::int32_t id) {
     }
     try {
         return {EditorOf(TransactionClass{platform::CountOf(rows["Class"])},
-                         DepositFlags{platform::CountOf(rows["Flags"])}),
+                         RentFlags{platform::CountOf(rows["Flags"])}),
                 platform::IdOf(rows["IdLease"]), platform::IdOf(rows["IdMortgage"])};
     } catch (const std::exception&) {
         return {};

@@ -130,10 +130,6 @@ LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view word) {
     return can;
 }
 
-bool HasEnd(std::string_view termType) {
-    return termType != core::kLeaseMonthToMonth && termType != core::kLeaseWeekToWeek;
-}
-
 void ReadBalances(Recordset& row, std::int32_t idLease) {
     OpenLease(row, idLease);
     if (!row.Eof()) SetLeaseBalances(row);

@@ -65,10 +65,6 @@ struct LeaseAvailability {
 
 LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view word);
 
-/// Returns whether a lease of this term type has an end; one that runs from week to week or month
-/// to month has none.
-bool HasEnd(std::string_view termType);
-
 /// Opens `row` with the lease's balances as its ledger has them now; the row isn't stored, only
 /// shown on a screen. There is no current row if the lease was deleted.
 void ReadBalances(platform::Recordset& row, std::int32_t idLease);

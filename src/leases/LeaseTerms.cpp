@@ -60,11 +60,11 @@ LeaseTerms LeaseTerms::Read(platform::Recordset& row) {
 }
 
 Interval TermInterval(std::string_view termType) {
-    return termType == core::kLeaseWeekToWeek ? Interval::Week : core::TermInterval(termType);
+    return termType == core::kLeaseWeekToWeek ? Interval::Week : core::FixedTermInterval(termType);
 }
 
 Interval BillingInterval(std::string_view termType) {
-    if (termType == "Year(s)") return Interval::Month;
+    if (termType == core::kTermYears) return Interval::Month;
     return termType == "Years(s)" ? Interval::Year : TermInterval(termType);
 }
 

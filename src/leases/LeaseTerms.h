@@ -37,7 +37,8 @@ struct LeaseTerms {
     Reading<bool> subsidised;
 };
 
-/// Returns the interval in which terms of this type are counted.
+/// Returns the interval in which terms of this type are counted: a week from week to week, a month
+/// from month to month.
 platform::Interval TermInterval(std::string_view termType);
 
 /// Returns the interval at which rent is charged. It spells the years differently from TermInterval

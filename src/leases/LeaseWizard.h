@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/Codes.h"
 #include "leases/LeaseTerms.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Date.h"
@@ -29,7 +30,7 @@ struct LeaseWizardEntry {
     /// The first due date; unset if it is the start.
     platform::Date firstDue{};
     std::int16_t term = 12;
-    std::string termType = "Month(s)";
+    std::string termType{core::kTermMonths};
     platform::Currency rent{};
     platform::Currency lateFee{};
     std::int16_t lateDays = 0;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string_view>
 
 #include "core/Codes.h"
@@ -11,14 +10,7 @@ namespace leases {
 /// OptionCredit.
 using core::TransactionClass;
 
-/// Flags of a row in the rent log; a deposit's transaction uses the last two.
-enum class RentFlags : std::int16_t {
-    Ordinary = 0,
-    PeriodRent = 1, ///< the rent of one period: paying it moves the next due date on
-    Payment = 2,
-    DepositRefund = 3,
-    DepositCharge = 4,
-};
+using core::RentFlags;
 
 // Values of the ledger's field `Category`. The subsidy's trailing blank is part of it: stored
 // ledgers have it, and reports compare with it.

@@ -1,5 +1,6 @@
 #include "records/BuildingRules.h"
 
+#include "core/Codes.h"
 #include "core/Descriptions.h"
 #include "core/NotifyAll.h"
 #include "core/RecordKinds.h"
@@ -37,7 +38,7 @@ std::int32_t MakeNewUnit(std::int32_t idBuilding) {
     core::RowToWrite row("Unit", "IdUnit");
     row["IdBuilding"].Set(idBuilding);
     row["Unit"].Set("<new>");
-    row["Status"].Set("Hold");
+    row["Status"].Set(core::kUnitHold);
     row["Rent"].Set(Currency());
     for (const auto* count : {"Ccount", "SqFt"})
         row[count].Set(std::int32_t{0});

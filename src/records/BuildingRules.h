@@ -11,8 +11,7 @@
 
 namespace records {
 
-/// The choices for a unit's status and for how often an association is paid, separated by commas.
-inline constexpr std::string_view kUnitStatuses = "Hold,Avaliable,Leased";
+/// The choices for how often an association is paid, separated by commas.
 inline constexpr std::string_view kHoaFrequencies = "Monthly,Quarterly,Annual";
 
 /// The depreciation period proposed for a new building, in years.

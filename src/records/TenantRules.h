@@ -6,9 +6,6 @@
 
 namespace records {
 
-/// The choices for a tenant's status, separated by commas; a new tenant starts with the first.
-inline constexpr std::string_view kTenantStatuses = "Pending,Approved,Rejected,Current,Archived";
-
 /// The choices for an incident's severity, separated by commas; a new incident starts with the
 /// first.
 inline constexpr std::string_view kSeverities =

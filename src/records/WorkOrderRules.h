@@ -9,9 +9,6 @@
 
 namespace records {
 
-/// The choices for a work order's status, separated by commas; a new order starts with the first.
-inline constexpr std::string_view kWorkOrderStatuses = "Open,Vendor,Completed,Closed";
-
 // Returns the errors in the entries, a line each; empty if they can be saved.
 
 std::vector<std::string> WorkOrderErrors(std::string_view shortDesc);

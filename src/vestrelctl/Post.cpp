@@ -39,8 +39,8 @@ struct PostArguments {
 
 constexpr auto kEntered = static_cast<std::int16_t>(core::TransactionClass::Ordinary);
 constexpr auto kDeposit = static_cast<std::int16_t>(core::TransactionClass::Deposit);
-constexpr auto kRefunded = static_cast<std::int16_t>(core::DepositFlags::Refund);
-constexpr auto kChargedOff = static_cast<std::int16_t>(core::DepositFlags::Charge);
+constexpr auto kRefunded = static_cast<std::int16_t>(core::RentFlags::DepositRefund);
+constexpr auto kChargedOff = static_cast<std::int16_t>(core::RentFlags::DepositCharge);
 
 /// An option that names a record that the transaction is about.
 struct Reference {

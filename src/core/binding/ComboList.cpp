@@ -121,6 +121,13 @@ void FillFromCommaList(QComboBox& combo, std::string_view text) {
     ShowInCombo(list, combo);
 }
 
+void FillFromWords(QComboBox& combo, std::span<const std::string_view> words) {
+    ChoiceList list = ReadCombo(combo);
+    for (const std::string_view word : words)
+        list.Add(word, 0);
+    ShowInCombo(list, combo);
+}
+
 std::int32_t GetSelectedId(const QComboBox& combo) {
     return core::GetSelectedId(ReadCombo(combo));
 }

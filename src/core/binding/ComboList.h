@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string_view>
 
 #include "core/ChoiceList.h"
@@ -34,6 +35,8 @@ void OfferId(QComboBox& combo, std::int32_t id);
 /// Does the same for text.
 void OfferText(QComboBox& combo, std::string_view text);
 void FillFromCommaList(QComboBox& combo, std::string_view text);
+/// Adds words that are stored as they are shown, without ids.
+void FillFromWords(QComboBox& combo, std::span<const std::string_view> words);
 std::int32_t GetSelectedId(const QComboBox& combo);
 void SelectById(QComboBox& combo, std::int32_t id, NoMatch otherwise = {});
 void SelectByText(QComboBox& combo, std::string_view text, NoMatch otherwise = {});

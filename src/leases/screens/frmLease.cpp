@@ -2,6 +2,7 @@
 
 #include <QMenuBar>
 
+#include "core/Codes.h"
 #include "core/Descriptions.h"
 #include "core/EditRecord.h"
 #include "core/RecordHelpers.h"
@@ -126,10 +127,10 @@ void frmLease::Setup(std::int32_t idLease) {
 }
 
 void frmLease::FillLists() {
-    using core::binding::FillFromCommaList;
+    using core::binding::FillFromWords;
     if (terms_->cboTermType->count() == 0) {
-        FillFromCommaList(*terms_->cboTermType, "WTW,MTM,Week(s),Month(s),Year(s)");
-        FillFromCommaList(*terms_->cboExpireOption, "WTW,MTM,Renew,Expire");
+        FillFromWords(*terms_->cboTermType, core::kLeaseTermTypes);
+        FillFromWords(*terms_->cboExpireOption, core::kExpireOptions);
         more_->cboSubsidyType->addItem(tr("Account"), core::kAccount);
         more_->cboSubsidyType->addItem(tr("Tenant"), core::kTenant);
     }
@@ -277,7 +278,7 @@ void frmLease::ShowAvailable() {
 
 /// Shows the parts of the screen that depend on the choices.
 void frmLease::ShowParts() {
-    const bool ends = HasEnd(FromScreen(terms_->cboTermType->currentText()));
+    const bool ends = core::HasEnd(FromScreen(terms_->cboTermType->currentText()));
     terms_->txtTerm->setEnabled(ends);
     terms_->lblExpireOption->setEnabled(ends);
     terms_->cboExpireOption->setEnabled(ends);

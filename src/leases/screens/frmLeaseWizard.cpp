@@ -1,5 +1,8 @@
 #include "leases/screens/frmLeaseWizard.h"
 
+#include <array>
+
+#include "core/Codes.h"
 #include "core/EditRecord.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
@@ -70,8 +73,9 @@ void frmLeaseWizard::Setup() {
         FillList(core::kUnit, *property_->cboProperty, {.addNone = true});
         FillList(core::kTenant, *tenant_->cboTenant, {.addNone = true});
     });
-    core::binding::FillFromCommaList(*terms_->cboTermType, "Week(s),Month(s)");
-    core::binding::SelectByText(*terms_->cboTermType, "Month(s)");
+    core::binding::FillFromWords(*terms_->cboTermType,
+                                 std::array{core::kTermWeeks, core::kTermMonths});
+    core::binding::SelectByText(*terms_->cboTermType, core::kTermMonths);
     terms_->dpStartDate->SetDay(FirstOfNextMonth());
     terms_->txtTerm->setText(QStringLiteral("12"));
     terms_->txtRent->SetAmount({});

@@ -2,6 +2,7 @@
 
 #include "records/screens/frmBuilding.h"
 
+#include "core/Codes.h"
 #include "core/Configuration.h"
 #include "core/Descriptions.h"
 #include "core/Globals.h"
@@ -80,7 +81,7 @@ void frmBuilding::Setup(std::int32_t idBuilding, std::int32_t idUnit, std::int32
 
 void frmBuilding::FillLists() {
     LoadPickFields(*this);
-    FillFromCommaList(*unit_->cboUnitStatus, kUnitStatuses);
+    core::binding::FillFromWords(*unit_->cboUnitStatus, core::kUnitStatuses);
     unit_->cboUnitStatus->setCurrentIndex(0);
     FillFromCommaList(*services_->cboHOAFrequency, kHoaFrequencies);
     FillFromCommaList(*financial_->cboDeprMethod, kStraightLine);

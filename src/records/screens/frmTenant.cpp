@@ -1,6 +1,7 @@
 #include "records/screens/frmTenant.h"
 
 #include "books/screens/General_Ledger.h"
+#include "core/Codes.h"
 #include "core/RecordKinds.h"
 #include "core/binding/AddressBox.h"
 #include "core/binding/ComboList.h"
@@ -50,7 +51,7 @@ void frmTenant::Setup(std::int32_t id) {
     OpenRecord(
         id,
         [this] {
-            core::binding::FillFromCommaList(*person_->cboStatus, kTenantStatuses);
+            core::binding::FillFromWords(*person_->cboStatus, core::kTenantStatuses);
             person_->cboStatus->setCurrentIndex(-1);
             LoadPickFields(*this);
         },

@@ -1,5 +1,6 @@
 #include "records/screens/frmWorkOrder.h"
 
+#include "core/Codes.h"
 #include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/EnableContainer.h"
@@ -51,7 +52,7 @@ void frmWorkOrder::Setup(std::int32_t id, std::int32_t idUnit) {
 }
 
 void frmWorkOrder::FillLists(std::int32_t idUnit) {
-    core::binding::FillFromCommaList(*job_->cboStatus, kWorkOrderStatuses);
+    core::binding::FillFromWords(*job_->cboStatus, core::kWorkOrderStatuses);
     FillList(core::kUnit, *job_->cboIdUnit, {.selectedId = idUnit, .addNone = true});
     FillList(core::kTenant, *job_->cboInitiator, {.keepText = true});
     FillVendors();

@@ -1,6 +1,7 @@
 #include "shell/screens/frmConfig.h"
 
 #include "core/BooksSettings.h"
+#include "core/Codes.h"
 #include "core/Globals.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
@@ -16,6 +17,7 @@
 
 namespace shell::screens {
 
+using platform::qt::FromScreen;
 using platform::qt::ToScreen;
 
 frmConfig::frmConfig(QWidget* parent)
@@ -95,10 +97,10 @@ void frmConfig::Refresh(std::int16_t kind) {
 }
 
 void frmConfig::FillLists() {
-    core::binding::FillFromCommaList(*leases_->cboTermType, "WTW,MTM,Week(s),Month(s),Year(s)");
-    core::binding::SelectByText(*leases_->cboTermType, "Month(s)");
-    core::binding::FillFromCommaList(*leases_->cboExpireOption, "WTW,MTM,Renew,Expire");
-    core::binding::SelectByText(*leases_->cboExpireOption, "MTM");
+    core::binding::FillFromWords(*leases_->cboTermType, core::kLeaseTermTypes);
+    core::binding::SelectByText(*leases_->cboTermType, core::kTermMonths);
+    core::binding::FillFromWords(*leases_->cboExpireOption, core::kExpireOptions);
+    core::binding::SelectByText(*leases_->cboExpireOption, core::kLeaseMonthToMonth);
     core::binding::LoadPickList(*other_->cboDefaultCar);
     other_->cboDefaultCar->clearEditText();
     FillAccounts();
@@ -112,10 +114,8 @@ void frmConfig::FillAccounts() {
     core::binding::FillList(core::kAccount, *other_->cboDefaultMortgageAccount, {.addNone = true});
 }
 
-/// A lease from month to month or week to week has no end.
 void frmConfig::OfferExpiry() {
-    const QString type = leases_->cboTermType->currentText();
-    const bool ends = type != QLatin1String("MTM") && type != QLatin1String("WTW");
+    const bool ends = core::HasEnd(FromScreen(leases_->cboTermType->currentText()));
     leases_->txtTerm->setEnabled(ends);
     leases_->lblExpireOption->setEnabled(ends);
     leases_->cboExpireOption->setEnabled(ends);
