@@ -5,12 +5,14 @@
 #include <string_view>
 #include <vector>
 
+#include "core/RecordKinds.h"
+
 namespace alerts {
 
 /// One line of what needs attention: its record (kind and id, 0 if there is no record), its text,
 /// and the name of its picture.
 struct AlertItem {
-    std::int16_t recordKind = 0;
+    core::RecordKind recordKind = core::kNone;
     std::int32_t recordId = 0;
     std::string text;
     std::string_view picture;

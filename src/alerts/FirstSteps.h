@@ -1,7 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <string_view>
+
+#include "core/RecordKinds.h"
 
 namespace alerts {
 
@@ -10,7 +11,7 @@ struct FirstStep {
     std::string_view text;
     /// The text of the command that does this step, and the kind of record that it adds.
     std::string_view command;
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
 };
 
 /// Returns the next step in books without a lease and without a mortgage: a building, then a

@@ -60,7 +60,7 @@ std::string LedgerSql(const LedgerView& view, platform::Date today) {
     return sql + "ORDER BY 2 DESC";
 }
 
-std::string_view LedgerStoreName(std::int16_t dbType) {
+std::string_view LedgerStoreName(core::RecordKind dbType) {
     switch (dbType) {
         case core::kAccount:
             return "ucLedger.Account";

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/RecordKinds.h"
 #include "platform/values/Date.h"
 
 namespace books {
@@ -13,7 +14,7 @@ enum class LedgerScope { Unit, Building };
 
 /// The record whose transactions a ledger shows, and which of them.
 struct LedgerView {
-    std::int16_t dbType = 0; ///< account, tenant or unit
+    core::RecordKind dbType = core::kNone; ///< account, tenant or unit
     std::int32_t id = 0;
     std::int32_t idBuilding = 0;
     LedgerScope scope = LedgerScope::Unit;
@@ -26,6 +27,6 @@ struct LedgerView {
 std::string LedgerSql(const LedgerView& view, platform::Date today);
 
 /// Returns the name that the grid's widths are stored under; empty for a kind without a ledger.
-std::string_view LedgerStoreName(std::int16_t dbType);
+std::string_view LedgerStoreName(core::RecordKind dbType);
 
 } // namespace books

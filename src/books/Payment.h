@@ -37,7 +37,7 @@ std::int32_t StoreTransaction(const Payment& payment, const Transaction& transac
 
 /// Rows of a charge ledger to be deleted after a question.
 struct ChargeDeletion {
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
     std::vector<std::int32_t> ids{};
     /// Empty to ask the usual question for the kind.
     std::string question{};

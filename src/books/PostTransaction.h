@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "core/RecordKinds.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Date.h"
 
@@ -14,7 +15,7 @@ enum class Ien : std::int16_t { Income = 0, Expense = 1, Unclassified = 2 };
 /// One party of a transaction: record kind (account or tenant), id (0 if it is only a name), and
 /// the name at the time of posting.
 struct Party {
-    std::int16_t type = 0;
+    core::RecordKind type = core::kNone;
     std::int32_t id = 0;
     std::string description;
 

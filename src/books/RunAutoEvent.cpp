@@ -6,6 +6,7 @@
 #include "books/TransactionRow.h"
 #include "core/Descriptions.h"
 #include "core/Globals.h"
+#include "core/KindOfTable.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
@@ -24,7 +25,7 @@ constexpr std::size_t kNameCharacters = 30;
 constexpr std::string_view kCheckNumber = "AutoEvent";
 
 Party PartyOf(Recordset& event, std::string_view typeField, std::string_view idField) {
-    const std::int16_t type = CountOf(event[typeField]);
+    const core::RecordKind type = core::KindOf(event[typeField]);
     const std::int32_t id = IdOf(event[idField]);
     return {type, id, core::GetDescription(type, id, kNameCharacters)};
 }

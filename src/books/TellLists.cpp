@@ -1,11 +1,12 @@
 #include "books/TellLists.h"
 
 #include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 
 namespace books {
 
-void TellLists(std::initializer_list<std::int16_t> kinds) {
-    for (const std::int16_t kind : kinds)
+void TellLists(std::initializer_list<core::RecordKind> kinds) {
+    for (const core::RecordKind kind : kinds)
         core::NotifyAll(kind, core::kRecordsChanged, 0);
 }
 

@@ -24,7 +24,7 @@ constexpr std::size_t kRowsPerCommit = 50'000;
 
 /// Returns the record's description. If the name is empty (the description then begins with the
 /// comma after the name), the record is called by its number.
-std::string Describe(std::int16_t kind, std::int32_t id) {
+std::string Describe(RecordKind kind, std::int32_t id) {
     std::string description = GetDescription(kind, id, 0, false);
     const std::string_view shown = platform::Trim(description);
     if (!shown.empty() && shown.front() != ',') return description;
@@ -34,7 +34,7 @@ std::string Describe(std::int16_t kind, std::int32_t id) {
 /// The results of a batch, reported to the listener once the batch is committed.
 class Outcome {
   public:
-    explicit Outcome(std::int16_t kind) : kind_(kind) {}
+    explicit Outcome(RecordKind kind) : kind_(kind) {}
 
     void Add(std::int32_t id, std::vector<PostedRow> rows) {
         rows_ += rows.size();
@@ -56,7 +56,7 @@ class Outcome {
     }
 
   private:
-    std::int16_t kind_;
+    RecordKind kind_;
     std::size_t rows_ = 0;
     std::vector<std::pair<std::int32_t, std::vector<PostedRow>>> posted_;
     std::vector<std::pair<std::int32_t, std::string>> faults_;
@@ -65,7 +65,7 @@ class Outcome {
 /// Runs over the rows of one select.
 class Batches {
   public:
-    Batches(std::int16_t kind, std::string_view select, std::string_view idField,
+    Batches(RecordKind kind, std::string_view select, std::string_view idField,
             const UpdateOne& update)
         : select_(select), idField_(idField), update_(update), outcome_(kind) {
         rows_ = Write(select);
@@ -120,7 +120,7 @@ class Batches {
 
 } // namespace
 
-void UpdateEach(std::int16_t kind, std::string_view select, std::string_view idField,
+void UpdateEach(RecordKind kind, std::string_view select, std::string_view idField,
                 const UpdateOne& update, RunListener& listener) {
     Batches batches(kind, select, idField, update);
     while (batches.DoNext()) {

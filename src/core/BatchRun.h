@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <string_view>
 #include <vector>
 
 #include "core/DailyRun.h"
+#include "core/RecordKinds.h"
 #include "platform/database/Recordset.h"
 
 namespace core {
@@ -20,7 +20,7 @@ using UpdateOne = std::function<std::vector<PostedRow>(platform::Recordset& row)
 /// fails is reported and left unchanged, and the others are still updated. A record that another
 /// program has changed since it was read is read again first. Window messages are processed between
 /// the batches.
-void UpdateEach(std::int16_t kind, std::string_view select, std::string_view idField,
+void UpdateEach(RecordKind kind, std::string_view select, std::string_view idField,
                 const UpdateOne& update, RunListener& listener);
 
 } // namespace core

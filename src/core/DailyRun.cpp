@@ -27,15 +27,15 @@ std::array<Step, 3>& Steps() {
 }
 
 class NobodyListens : public RunListener {
-    void Posted(int /*recordKind*/, std::int32_t /*id*/, std::string_view /*description*/,
+    void Posted(RecordKind /*recordKind*/, std::int32_t /*id*/, std::string_view /*description*/,
                 const std::vector<PostedRow>& /*rows*/) override {}
-    void Failed(int /*recordKind*/, std::int32_t /*id*/, std::string_view /*description*/,
+    void Failed(RecordKind /*recordKind*/, std::int32_t /*id*/, std::string_view /*description*/,
                 std::string_view /*reason*/) override {}
 };
 
 } // namespace
 
-std::string NameOfFailed(int recordKind, std::string_view description) {
+std::string NameOfFailed(RecordKind recordKind, std::string_view description) {
     if (recordKind == kNone) return std::string(description);
     return fmt::format("{} {}", RecordKindName(recordKind), description);
 }

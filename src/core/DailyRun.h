@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "core/RunReason.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Date.h"
@@ -30,16 +31,16 @@ class RunListener {
 
     /// Called with the rows posted for one record: its kind, id and description, and the rows in
     /// their order.
-    virtual void Posted(int recordKind, std::int32_t id, std::string_view description,
+    virtual void Posted(RecordKind recordKind, std::int32_t id, std::string_view description,
                         const std::vector<PostedRow>& rows) = 0;
     /// Called with a record that the run skipped, by its description, and with the reason. The
     /// record and its rows are unchanged.
-    virtual void Failed(int recordKind, std::int32_t id, std::string_view description,
+    virtual void Failed(RecordKind recordKind, std::int32_t id, std::string_view description,
                         std::string_view reason) = 0;
 };
 
 /// Returns "Lease Smith, Elm St" for a record that the run skipped; a whole step has no kind.
-std::string NameOfFailed(int recordKind, std::string_view description);
+std::string NameOfFailed(RecordKind recordKind, std::string_view description);
 
 /// The steps of the run, in the only order they run in.
 enum class RunStep { ScheduledEvents, Mortgages, Leases };

@@ -16,7 +16,7 @@ namespace core {
 namespace {
 
 /// Returns the kind of the records that a list of `kind` offers.
-const KindInfo& InfoOfOffered(int kind) {
+const KindInfo& InfoOfOffered(RecordKind kind) {
     const KindInfo& info = InfoOf(kind);
     return info.offers == kNone ? info : InfoOf(info.offers);
 }
@@ -52,7 +52,8 @@ std::string WithoutLooseEnd(std::string text) {
 
 } // namespace
 
-std::string GetDescription(int kind, std::int32_t id, std::size_t maxLength, bool shortForm) {
+std::string GetDescription(RecordKind kind, std::int32_t id, std::size_t maxLength,
+                           bool shortForm) {
     const std::string_view sql = DescriptionSql(InfoOf(kind), shortForm);
     if (sql.empty()) return {};
     const auto line = Describe(sql, id);
@@ -61,12 +62,12 @@ std::string GetDescription(int kind, std::int32_t id, std::size_t maxLength, boo
     return maxLength == 0 ? text : platform::LeftCharacters(text, maxLength);
 }
 
-bool RecordExists(int kind, std::int32_t id) {
+bool RecordExists(RecordKind kind, std::int32_t id) {
     const std::string sql = ExistenceSql(InfoOfOffered(kind));
     return !sql.empty() && Exists(sql, {id});
 }
 
-std::string NameOfRecord(int kind, std::int32_t id) {
+std::string NameOfRecord(RecordKind kind, std::int32_t id) {
     if (id == 0) return {};
     const KindInfo& info = InfoOfOffered(kind);
     const std::string sql = WithoutNulls(DescriptionSql(info, true));

@@ -15,7 +15,7 @@ namespace core {
 namespace {
 
 struct Openers {
-    std::map<std::int16_t, RecordOpener> byKind;
+    std::map<RecordKind, RecordOpener> byKind;
     std::map<TransactionEditor, TransactionOpener> ofTransactions;
     std::function<bool(std::int32_t)> bringToFront;
 };
@@ -51,7 +51,7 @@ void Open(const EditRequest& request) {
 
 } // namespace
 
-void RegisterOpener(std::int16_t kind, RecordOpener opener) {
+void RegisterOpener(RecordKind kind, RecordOpener opener) {
     Registered().byKind[kind] = std::move(opener);
 }
 
@@ -59,7 +59,7 @@ void RegisterTransactionOpener(TransactionEditor editor, TransactionOpener opene
     Registered().ofTransactions[editor] = std::move(opener);
 }
 
-bool HasEditor(std::int16_t kind) {
+bool HasEditor(RecordKind kind) {
     const auto isSet = [](const auto& openers, auto key) {
         const auto found = openers.find(key);
         return found != openers.end() && found->second;
@@ -89,7 +89,7 @@ TransactionPlace FindTransactionPlace(std::int32_t id) {
     }
 }
 
-void EditRecord(std::int16_t kind, std::int32_t id, std::int32_t parent1, std::int32_t parent2,
+void EditRecord(RecordKind kind, std::int32_t id, std::int32_t parent1, std::int32_t parent2,
                 std::int32_t parent3) {
     const auto& bringToFront = Registered().bringToFront;
     if (id != 0 && bringToFront && bringToFront(id)) return;

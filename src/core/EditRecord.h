@@ -3,12 +3,14 @@
 #include <cstdint>
 #include <functional>
 
+#include "core/RecordKinds.h"
+
 namespace core {
 
 /// A record to open: 0 for a new one. What the parents are depends on the kind; for a transaction
 /// and a unit, `parent2` is the record that a new one is copied from.
 struct EditRequest {
-    std::int16_t kind = 0;
+    RecordKind kind = kNone;
     std::int32_t id = 0;
     std::int32_t parent1 = 0;
     std::int32_t parent2 = 0;
@@ -20,7 +22,7 @@ struct EditRequest {
 using RecordOpener = std::function<void(const EditRequest& request)>;
 
 /// Registers the editor that opens the records of a kind; transactions have their own function.
-void RegisterOpener(std::int16_t kind, RecordOpener opener);
+void RegisterOpener(RecordKind kind, RecordOpener opener);
 
 /// The screen that a transaction is edited on: the payment's screen if a payment made it.
 enum class TransactionEditor { Transaction, RentPayment, MortgagePayment };
@@ -43,7 +45,7 @@ using TransactionOpener =
 void RegisterTransactionOpener(TransactionEditor editor, TransactionOpener opener);
 
 /// Returns whether records of the kind can be opened.
-bool HasEditor(std::int16_t kind);
+bool HasEditor(RecordKind kind);
 
 /// Registers the function that finds the open editor of an identifier and brings it to the front;
 /// it returns true if there is such an editor, in whatever state.
@@ -51,7 +53,7 @@ void RegisterOpenRecords(std::function<bool(std::int32_t id)> bringToFront);
 
 /// Brings the open editor of the record to the front, or opens one; a new record (id 0) always gets
 /// an editor of its own. Nothing opens for a kind without an editor.
-void EditRecord(std::int16_t kind, std::int32_t id, std::int32_t parent1 = 0,
+void EditRecord(RecordKind kind, std::int32_t id, std::int32_t parent1 = 0,
                 std::int32_t parent2 = 0, std::int32_t parent3 = 0);
 
 } // namespace core

@@ -10,7 +10,7 @@ namespace core {
 namespace {
 
 struct KindTable {
-    std::int16_t kind;
+    RecordKind kind;
     std::string_view table;
 };
 
@@ -45,7 +45,7 @@ constexpr std::array<KindTable, 26> kTables = {{
 
 } // namespace
 
-std::int16_t KindOfTable(std::string_view table) {
+RecordKind KindOfTable(std::string_view table) {
     for (const KindTable& known : kTables) {
         if (platform::EqualIgnoringCase(known.table, table)) return known.kind;
     }

@@ -17,7 +17,7 @@ constexpr std::string_view kAccountList =
 constexpr std::string_view kBuildingList =
     "SELECT Address AS Description, IdBuilding AS ID FROM Building ";
 
-constexpr KindInfo Accounts(std::int16_t kind, std::string_view type) {
+constexpr KindInfo Accounts(RecordKind kind, std::string_view type) {
     return {.kind = kind,
             .plural = "accounts",
             .icon = "accounts",
@@ -33,7 +33,7 @@ constexpr KindInfo WithAccountName(KindInfo info) {
     return info;
 }
 
-constexpr KindInfo Link(std::int16_t kind, std::string_view type, std::string_view plural,
+constexpr KindInfo Link(RecordKind kind, std::string_view type, std::string_view plural,
                         std::string_view table, std::string_view key, std::string_view label) {
     KindInfo info = WithAccountName(Accounts(kind, type));
     info.name = RecordKinds.at(static_cast<std::size_t>(kind));
@@ -44,7 +44,7 @@ constexpr KindInfo Link(std::int16_t kind, std::string_view type, std::string_vi
     return info;
 }
 
-constexpr KindInfo Buildings(std::int16_t kind, std::string_view condition) {
+constexpr KindInfo Buildings(RecordKind kind, std::string_view condition) {
     return {.kind = kind,
             .plural = "buildings",
             .icon = "property",
@@ -54,7 +54,7 @@ constexpr KindInfo Buildings(std::int16_t kind, std::string_view condition) {
             .condition = condition};
 }
 
-constexpr KindInfo Named(std::int16_t kind, KindInfo info = {}) {
+constexpr KindInfo Named(RecordKind kind, KindInfo info = {}) {
     info.kind = kind;
     info.name = RecordKinds.at(static_cast<std::size_t>(kind));
     return info;
@@ -177,7 +177,7 @@ constexpr std::array<KindInfo, 41> kKinds = {{
                      .table = "Content",
                      .key = "IdContent",
                      .label = "SELECT Description FROM Content WHERE IdContent = ?"}),
-    Named(21),
+    Named(RecordKind{21}),
     Named(kSvcContract,
           {.plural = "service contracts",
            .table = "SvcContract",
@@ -246,7 +246,7 @@ constexpr std::array<KindInfo, 41> kKinds = {{
 
 constexpr bool AreInOrder() {
     for (std::size_t kind = 0; kind < kKinds.size(); ++kind) {
-        if (kKinds.at(kind).kind != static_cast<std::int16_t>(kind)) return false;
+        if (kKinds.at(kind).kind != static_cast<RecordKind>(kind)) return false;
     }
     return true;
 }
@@ -254,10 +254,10 @@ static_assert(AreInOrder(), "a kind's row is found by its number");
 
 } // namespace
 
-const KindInfo& InfoOf(int kind) {
+const KindInfo& InfoOf(RecordKind kind) {
     static constexpr KindInfo kUnknown;
-    if (kind < 0 || kind >= static_cast<int>(kKinds.size())) return kUnknown;
-    return kKinds.at(static_cast<std::size_t>(kind));
+    const auto number = static_cast<std::uint16_t>(kind); // a negative one is beyond the end
+    return number < kKinds.size() ? kKinds.at(number) : kUnknown;
 }
 
 std::span<const KindInfo> AllKinds() {

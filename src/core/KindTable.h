@@ -1,15 +1,16 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
 #include <string_view>
+
+#include "core/RecordKinds.h"
 
 namespace core {
 
 /// All that is known of a record kind. A new kind needs one more of these; members that don't apply
 /// to a kind are empty.
 struct KindInfo {
-    std::int16_t kind = 0;
+    RecordKind kind = kNone;
     std::string_view name{};   ///< "Work Order", in messages and on the status line
     std::string_view plural{}; ///< "work orders", inside a sentence
     std::string_view table{};
@@ -32,7 +33,7 @@ struct KindInfo {
     std::string_view listOfParent{};
     /// The kind of the listed records, if it is another: some kinds are requests for a part of a
     /// list.
-    std::int16_t offers = 0;
+    RecordKind offers = kNone;
     /// The account type that the list is limited to, and that a new account starts with.
     std::string_view accountType{};
     /// Another condition that limits the list.
@@ -40,7 +41,7 @@ struct KindInfo {
 };
 
 /// Returns what is known of a kind; nothing but empty fields for an unknown one.
-const KindInfo& InfoOf(int kind);
+const KindInfo& InfoOf(RecordKind kind);
 
 /// Returns all kinds in the order of their numbers.
 std::span<const KindInfo> AllKinds();

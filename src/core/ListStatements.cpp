@@ -2,12 +2,13 @@
 
 #include "core/Configuration.h"
 #include "core/KindTable.h"
+#include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "platform/database/dialect/Compiler.h"
 
 namespace core {
 
-ListStatement ListStatementOf(int kind, std::int32_t parentId) {
+ListStatement ListStatementOf(RecordKind kind, std::int32_t parentId) {
     const KindInfo& info = InfoOf(kind);
     if (!info.listOfParent.empty() && (parentId != 0 || info.list.empty())) {
         return {info.noneRow, std::string(info.listOfParent) + std::to_string(parentId)};

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/RecordKinds.h"
+
 namespace core {
 
 /// The source of the rows of a kind's list. The select yields Description and ID and has no order
@@ -15,6 +17,6 @@ struct ListStatement {
 
 /// Returns the statement of a kind's list. The kinds of accounts aren't filtered by type while the
 /// settings show all accounts.
-ListStatement ListStatementOf(int kind, std::int32_t parentId);
+ListStatement ListStatementOf(RecordKind kind, std::int32_t parentId);
 
 } // namespace core

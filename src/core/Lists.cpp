@@ -5,6 +5,7 @@
 
 #include "core/Descriptions.h"
 #include "core/ListStatements.h"
+#include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "platform/database/Recordset.h"
 #include "platform/values/Text.h"
@@ -23,7 +24,7 @@ std::optional<std::size_t> FindRow(const ChoiceList& list, Condition condition) 
 
 } // namespace
 
-void FillList(int kind, ChoiceList& list, const FillOptions& options) {
+void FillList(RecordKind kind, ChoiceList& list, const FillOptions& options) {
     const std::string text = list.Text();
     const std::int32_t selectedId =
         options.selectedId == 0 ? GetSelectedId(list) : options.selectedId;

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/ChoiceList.h"
+#include "core/RecordKinds.h"
 
 namespace core {
 
@@ -24,7 +25,7 @@ struct FillOptions {
 /// Fills a list with the records of a kind in the order of their text, and selects the first row
 /// if nothing else is selected. A kind that has no list leaves it empty. Throws if the list can't
 /// be read; without `nameNulls`, a record whose text is null ends the filling with a FieldError.
-void FillList(int kind, ChoiceList& list, const FillOptions& options = {});
+void FillList(RecordKind kind, ChoiceList& list, const FillOptions& options = {});
 
 /// Adds the pieces between commas, unchanged, that aren't blank.
 void FillFromCommaList(ChoiceList& list, std::string_view text);

@@ -7,6 +7,7 @@
 
 #include "core/Configuration.h"
 #include "core/Globals.h"
+#include "core/KindTable.h"
 #include "core/RecordKinds.h"
 #include "core/ScratchSession.h"
 
@@ -35,7 +36,7 @@ bool IsListening(int id) {
 }
 
 struct Message {
-    std::int16_t kind;
+    RecordKind kind;
     std::int16_t action;
     std::int32_t id;
     friend bool operator==(const Message&, const Message&) = default;
@@ -85,7 +86,7 @@ NotifyToken::~NotifyToken() {
     std::erase_if(Listeners(), [this](const Entry& entry) { return entry.id == id_; });
 }
 
-void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id) {
+void NotifyAll(RecordKind kind, std::int16_t action, std::int32_t id) {
     if (InScratchSession()) return; // nobody has seen the copy
     const Message message{kind, action, id};
     if (App().Connection.InUnitOfWork()) {
@@ -96,8 +97,9 @@ void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id) {
 }
 
 void NotifyOfAllKinds() {
-    for (std::int16_t kind = kAccount; kind <= kRentLog; ++kind)
-        NotifyAll(kind, kRecordsChanged, 0);
+    for (const KindInfo& info : AllKinds()) {
+        if (info.kind != kNone && info.kind <= kRentLog) NotifyAll(info.kind, kRecordsChanged, 0);
+    }
 }
 
 } // namespace core

@@ -3,12 +3,14 @@
 #include <cstdint>
 #include <functional>
 
+#include "core/RecordKinds.h"
+
 namespace core {
 
 /// The action of a broadcast about records of a kind: 1 is "written or removed".
 inline constexpr std::int16_t kRecordsChanged = 1;
 
-using NotifyListener = std::function<void(std::int16_t kind, std::int16_t action, std::int32_t id)>;
+using NotifyListener = std::function<void(RecordKind kind, std::int16_t action, std::int32_t id)>;
 
 /// Adds a listener to the broadcast; destroying the token removes it.
 class NotifyToken {
@@ -27,7 +29,7 @@ class NotifyToken {
 ///
 /// Inside a unit of work the messages wait until the whole unit is committed. Each then goes out
 /// once, in the order of its last announcement; if the unit is rolled back, none does.
-void NotifyAll(std::int16_t kind, std::int16_t action, std::int32_t id);
+void NotifyAll(RecordKind kind, std::int16_t action, std::int32_t id);
 /// Does the same for every kind: any record may have changed, and the settings too.
 void NotifyOfAllKinds();
 

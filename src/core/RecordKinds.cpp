@@ -4,11 +4,11 @@
 
 namespace core {
 
-std::string_view RecordKindName(int kind) {
+std::string_view RecordKindName(RecordKind kind) {
     return InfoOf(kind).name;
 }
 
-std::string_view AccountTypeOfKind(int kind) {
+std::string_view AccountTypeOfKind(RecordKind kind) {
     return InfoOf(kind).accountType;
 }
 

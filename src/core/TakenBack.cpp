@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/KindOfTable.h"
+#include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "core/Session.h"
 #include "platform/database/FieldReadings.h"
@@ -53,7 +55,7 @@ std::vector<TakenRow> ReadTakenBack() {
     Recordset stored =
         Read("SELECT RecordKind, IdRecord, Posting, DatePosted, IdRow, DateTaken FROM TakenBack");
     for (; !stored.Eof(); stored.MoveNext()) {
-        rows.push_back({.recordKind = CountOf(stored["RecordKind"]),
+        rows.push_back({.recordKind = KindOf(stored["RecordKind"]),
                         .recordId = IdOf(stored["IdRecord"]),
                         .posting = Posting{CountOf(stored["Posting"])},
                         .date = Date::TryParse(TextOf(stored["DatePosted"])).value_or(Date()),
@@ -88,7 +90,7 @@ void ForgetTakenBack(const TakenRow& row) {
             {row.recordKind, row.recordId, Code(row.posting), row.date.ToText(), row.rowId});
 }
 
-void ForgetTakenBackOf(std::int16_t recordKind, std::int32_t recordId) {
+void ForgetTakenBackOf(RecordKind recordKind, std::int32_t recordId) {
     if (!HasTable()) return;
     Execute("DELETE * FROM TakenBack WHERE (RecordKind = ?) AND (IdRecord = ?)",
             {recordKind, recordId});

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "core/RunReason.h"
 #include "platform/values/Date.h"
 
@@ -19,7 +20,7 @@ namespace core {
 /// A row of the run that was taken back.
 struct TakenRow {
     /// The record, the kind of posting and the day, which together identify the row.
-    std::int16_t recordKind = 0;
+    RecordKind recordKind = kNone;
     std::int32_t recordId = 0;
     Posting posting = Posting::Unknown;
     platform::Date date{};
@@ -37,14 +38,14 @@ struct TakenRow {
 /// The rows of one record that were taken back.
 class TakenBack {
   public:
-    TakenBack(std::int16_t recordKind, std::int32_t recordId) : kind_(recordKind), id_(recordId) {}
+    TakenBack(RecordKind recordKind, std::int32_t recordId) : kind_(recordKind), id_(recordId) {}
 
     /// Returns whether the row of this kind and day was taken back. Reads the books only at its
     /// first call, so that it costs nothing for a record that has nothing to post.
     bool Has(Posting posting, platform::Date date);
 
   private:
-    std::int16_t kind_;
+    RecordKind kind_;
     std::int32_t id_;
     std::optional<std::vector<std::pair<Posting, std::string>>> rows_;
 };
@@ -58,6 +59,6 @@ std::optional<TakenRow> FindTakenBack(const TakenRow& row);
 void RememberTakenBack(const TakenRow& row);
 void ForgetTakenBack(const TakenRow& row);
 /// Forgets the rows of a record that is deleted.
-void ForgetTakenBackOf(std::int16_t recordKind, std::int32_t recordId);
+void ForgetTakenBackOf(RecordKind recordKind, std::int32_t recordId);
 
 } // namespace core

@@ -58,7 +58,7 @@ std::string_view Objection(const std::string& path, Quiet quiet) {
     return {};
 }
 
-void AddRow(std::int16_t kind, std::int32_t id, const std::string& path) {
+void AddRow(core::RecordKind kind, std::int32_t id, const std::string& path) {
     core::RowToWrite row("FileObject", "IdFileObject");
     row["dbType"].Set(kind);
     row["IdOwner"].Set(id);
@@ -70,7 +70,7 @@ void AddRow(std::int16_t kind, std::int32_t id, const std::string& path) {
 
 } // namespace
 
-bool AttachFile(std::int16_t kind, std::int32_t id, std::string& path, Quiet quiet) {
+bool AttachFile(core::RecordKind kind, std::int32_t id, std::string& path, Quiet quiet) {
     if (path.empty() && !ChoosePath(path)) return false;
     if (const std::string_view objection = Objection(path, quiet); !objection.empty()) {
         if (quiet == Quiet::No) {

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/RecordKinds.h"
+
 namespace documents {
 
 /// How many characters of a path fit its field.
@@ -16,7 +18,7 @@ enum class Quiet { No, Yes };
 /// Attaches a file to a record by its path; nothing is copied. An empty path is asked for first and
 /// set to the chosen one. Returns true if the file was attached; a path of 256 characters or more
 /// is refused unless `quiet`, a folder always. Throws on failure.
-bool AttachFile(std::int16_t kind, std::int32_t id, std::string& path, Quiet quiet = Quiet::No);
+bool AttachFile(core::RecordKind kind, std::int32_t id, std::string& path, Quiet quiet = Quiet::No);
 
 /// Returns whether the extension, in any case, is "jpeg", "jpg", "gif" or "bmp".
 bool IsPicture(std::string_view path);

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "documents/mDocManagement.h"
 
 namespace documents {
@@ -14,19 +15,20 @@ namespace documents {
 struct DocFlag {
     std::string_view field;
     std::string_view caption;
-    std::int16_t kind;
+    core::RecordKind kind;
 };
 
 /// The flags in the order of the list's columns.
-inline constexpr std::array<DocFlag, 9> kDocFlags = {{{"selAccount", "Account", 1},
-                                                      {"selLease", "Lease", 2},
-                                                      {"selMortgage", "Mortgage", 3},
-                                                      {"selTenant", "Tenant", 5},
-                                                      {"selWO", "Work Order", 6},
-                                                      {"selTransaction", "Transaction", 10},
-                                                      {"selMileage", "Mileage", 12},
-                                                      {"selBuilding", "Building", 28},
-                                                      {"selUnit", "Unit", 29}}};
+inline constexpr std::array<DocFlag, 9> kDocFlags = {
+    {{"selAccount", "Account", core::kAccount},
+     {"selLease", "Lease", core::kLease},
+     {"selMortgage", "Mortgage", core::kMortgage},
+     {"selTenant", "Tenant", core::kTenant},
+     {"selWO", "Work Order", core::kWorkOrder},
+     {"selTransaction", "Transaction", core::kTransaction},
+     {"selMileage", "Mileage", core::kMileage},
+     {"selBuilding", "Building", core::kBuilding},
+     {"selUnit", "Unit", core::kUnit}}};
 
 /// A row of the list of templates.
 struct DocRow {

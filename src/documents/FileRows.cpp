@@ -24,7 +24,7 @@ std::vector<FileRow> ReadRows(std::string_view sql,
     std::vector<FileRow> files;
     for (; !rows.Eof(); rows.MoveNext()) {
         files.push_back({.id = rows["IdFileObject"].AsLong(),
-                         .dbType = rows["dbType"].AsInteger(),
+                         .dbType = platform::As<core::RecordKind>(rows["dbType"]),
                          .idOwner = rows["IdOwner"].AsLong(),
                          .description = platform::TextOf(rows["Description"]),
                          .path = platform::TextOf(rows["FilePath"]),
@@ -53,7 +53,7 @@ std::string SizeOf(const std::string& path) {
 
 } // namespace
 
-std::vector<FileRow> FilesOf(std::int16_t dbType, std::int32_t idOwner) {
+std::vector<FileRow> FilesOf(core::RecordKind dbType, std::int32_t idOwner) {
     return ReadRows("SELECT * FROM FileObject WHERE (DBType = ?) AND (IdOwner = ?) ",
                     {dbType, idOwner});
 }

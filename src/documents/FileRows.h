@@ -5,12 +5,14 @@
 #include <string_view>
 #include <vector>
 
+#include "core/RecordKinds.h"
+
 namespace documents {
 
 /// A file that is attached to a record.
 struct FileRow {
     std::int32_t id = 0;
-    std::int16_t dbType = 0; ///< kind of the record
+    core::RecordKind dbType = core::kNone; ///< kind of the record
     std::int32_t idOwner = 0;
     std::string description;
     std::string path;
@@ -18,7 +20,7 @@ struct FileRow {
 };
 
 /// Returns the files of a record, in the order they were attached. Throws on failure.
-std::vector<FileRow> FilesOf(std::int16_t dbType, std::int32_t idOwner);
+std::vector<FileRow> FilesOf(core::RecordKind dbType, std::int32_t idOwner);
 /// Returns the files of all records.
 std::vector<FileRow> AllFiles();
 

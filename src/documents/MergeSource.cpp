@@ -11,7 +11,7 @@ namespace documents {
 namespace {
 
 struct Source {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::string_view sql;
 };
 
@@ -59,7 +59,7 @@ constexpr std::array kSources = {
     Source{core::kUnitWithBuilding, kUnitSource},
 };
 
-const Source* SourceOf(std::int16_t kind) {
+const Source* SourceOf(core::RecordKind kind) {
     for (const Source& source : kSources) {
         if (source.kind == kind) return &source;
     }
@@ -68,11 +68,11 @@ const Source* SourceOf(std::int16_t kind) {
 
 } // namespace
 
-bool HasMergeSource(std::int16_t kind) {
+bool HasMergeSource(core::RecordKind kind) {
     return SourceOf(kind) != nullptr;
 }
 
-void OpenMergeSource(platform::Recordset& fields, std::int16_t kind, std::int32_t id) {
+void OpenMergeSource(platform::Recordset& fields, core::RecordKind kind, std::int32_t id) {
     if (const Source* const source = SourceOf(kind)) {
         fields = core::Read(source->sql, {id});
     }

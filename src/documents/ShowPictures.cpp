@@ -20,14 +20,14 @@ namespace {
 
 constexpr std::string_view kShowProgram = "PhotoReel.exe";
 
-std::string TitleOf(std::int16_t kind, std::int32_t id) {
+std::string TitleOf(core::RecordKind kind, std::int32_t id) {
     const std::string title = "Vestrel Slide Show";
-    const std::int16_t described = kind == core::kUnitWithBuilding ? core::kUnit : kind;
+    const core::RecordKind described = kind == core::kUnitWithBuilding ? core::kUnit : kind;
     const std::string description = core::GetDescription(described, id, 0, false);
     return description.empty() ? title : title + " - " + description;
 }
 
-platform::Recordset OpenPictures(std::int16_t kind, std::int32_t id) {
+platform::Recordset OpenPictures(core::RecordKind kind, std::int32_t id) {
     if (kind == core::kUnitWithBuilding) {
         return core::Read(
             "SELECT * FROM FileObject "
@@ -40,7 +40,7 @@ platform::Recordset OpenPictures(std::int16_t kind, std::int32_t id) {
         {kind, id});
 }
 
-std::vector<ShowPicture> PicturesOf(std::int16_t kind, std::int32_t id) {
+std::vector<ShowPicture> PicturesOf(core::RecordKind kind, std::int32_t id) {
     platform::Recordset rows = OpenPictures(kind, id);
     std::vector<ShowPicture> pictures;
     for (; !rows.Eof(); rows.MoveNext()) {
@@ -56,7 +56,7 @@ void Sorry(std::string_view text) {
 
 } // namespace
 
-void ShowPictures(std::int16_t kind, std::int32_t id, std::string title,
+void ShowPictures(core::RecordKind kind, std::int32_t id, std::string title,
                   const ProgramStarter& start) {
     ShowList list{std::move(title), PicturesOf(kind, id)};
     if (list.title.empty()) list.title = TitleOf(kind, id);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "platform/system/Process.h"
 
 namespace documents {
@@ -16,7 +17,7 @@ using ProgramStarter = std::function<bool(const std::filesystem::path& program,
 
 /// Starts the slide show of all pictures of a record; for kind 39, the pictures of a unit and of
 /// its building. Tells the user if there are no pictures, or if the slide show isn't installed.
-void ShowPictures(std::int16_t kind, std::int32_t id, std::string title = {},
+void ShowPictures(core::RecordKind kind, std::int32_t id, std::string title = {},
                   const ProgramStarter& start = platform::StartDetached);
 
 } // namespace documents

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "core/RecordKinds.h"
 #include "core/SystemTags.h"
 #include "documents/MergeSource.h"
 #include "documents/MergeTags.h"
@@ -22,9 +23,9 @@ void AddOnce(std::vector<std::string>& names, std::string_view name) {
     if (!Contains(names, name)) names.emplace_back(name);
 }
 
-std::vector<std::string> FieldsOf(std::span<const std::int16_t> kinds) {
+std::vector<std::string> FieldsOf(std::span<const core::RecordKind> kinds) {
     std::vector<std::string> names;
-    for (const std::int16_t kind : kinds) {
+    for (const core::RecordKind kind : kinds) {
         platform::Recordset fields;
         OpenMergeSource(fields, kind, 0); // no record has this id: only the fields are read
         for (std::size_t i = 0; fields.IsOpen() && i < fields.FieldCount(); ++i)
@@ -74,7 +75,7 @@ std::string PlainTextOfRtf(std::string_view text) {
 }
 
 TemplateFaults CheckTemplate(std::string_view path, std::string_view text,
-                             std::span<const std::int16_t> kinds) {
+                             std::span<const core::RecordKind> kinds) {
     TemplateFaults faults;
     const std::vector<std::string> fields = FieldsOf(kinds);
     std::vector<std::string> whole;

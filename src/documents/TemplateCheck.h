@@ -1,10 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "core/RecordKinds.h"
 
 namespace documents {
 
@@ -19,7 +20,7 @@ struct TemplateFaults {
 /// Checks a template's text against the fields of the kinds it is offered for. Each name is listed
 /// once, in the order of the text. Throws if a kind's fields can't be read.
 TemplateFaults CheckTemplate(std::string_view path, std::string_view text,
-                             std::span<const std::int16_t> kinds);
+                             std::span<const core::RecordKind> kinds);
 
 /// Returns the text of a Rich Text document without its formatting, well enough to find tags in it.
 std::string PlainTextOfRtf(std::string_view text);

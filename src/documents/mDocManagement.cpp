@@ -24,7 +24,7 @@ namespace documents {
 namespace {
 
 struct KindTest {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::string_view test;
 };
 
@@ -43,7 +43,7 @@ constexpr std::array kTests = {
 
 /// Returns the kind that letters are merged for: a building through one of its units, whose id is
 /// given.
-std::int16_t KindOfOwner(std::int16_t kind) {
+core::RecordKind KindOfOwner(core::RecordKind kind) {
     return kind == core::kBuilding || kind == core::kUnitWithBuilding ? core::kUnit : kind;
 }
 
@@ -115,11 +115,11 @@ bool AgreedToMany(const DocTemplate& letter, std::size_t count) {
 
 } // namespace
 
-std::int16_t DocKindOf(std::int16_t kind) {
+core::RecordKind DocKindOf(core::RecordKind kind) {
     return kind == core::kUnit ? core::kUnitWithBuilding : kind;
 }
 
-std::vector<DocTemplate> DocTemplatesOf(std::int16_t kind) {
+std::vector<DocTemplate> DocTemplatesOf(core::RecordKind kind) {
     const auto* const found = std::ranges::find(kTests, kind, &KindTest::kind);
     if (found == kTests.end()) return {};
     platform::Recordset rows =
@@ -142,7 +142,7 @@ std::optional<DocTemplate> FindDocTemplate(std::int32_t idDoc) {
                        platform::TextOf(row["FilePath"])};
 }
 
-MergedDocument MergeDocument(const DocTemplate& letter, std::int16_t kind, std::int32_t id,
+MergedDocument MergeDocument(const DocTemplate& letter, core::RecordKind kind, std::int32_t id,
                              const std::optional<std::filesystem::path>& output) {
     std::string text = platform::ReadWholeFile(letter.filePath);
     MergedDocument document;
@@ -167,7 +167,7 @@ MergedDocument MergeDocument(const DocTemplate& letter, std::int16_t kind, std::
     return document;
 }
 
-bool OpenDoc(std::int16_t kind, std::int32_t id, std::int32_t idDoc) {
+bool OpenDoc(core::RecordKind kind, std::int32_t id, std::int32_t idDoc) {
     const std::optional<DocTemplate> letter = FindUsableTemplate(idDoc);
     if (!letter) return false;
     const MergedDocument document = MergeDocument(*letter, kind, id);
@@ -176,7 +176,7 @@ bool OpenDoc(std::int16_t kind, std::int32_t id, std::int32_t idDoc) {
     return true;
 }
 
-int OpenDocs(std::int16_t kind, std::span<const std::int32_t> ids, std::int32_t idDoc) {
+int OpenDocs(core::RecordKind kind, std::span<const std::int32_t> ids, std::int32_t idDoc) {
     const std::optional<DocTemplate> letter = FindUsableTemplate(idDoc);
     if (!letter || ids.empty()) return 0;
     if (ids.size() > 1 && !AgreedToMany(*letter, ids.size())) return 0;

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "core/RecordKinds.h"
+
 namespace documents {
 
 /// A template of the list, as offered by a record's menu.
@@ -18,11 +20,11 @@ struct DocTemplate {
 
 /// Returns the templates for a kind of record, by description; empty for a kind without letters. A
 /// building offers the templates of units too. Throws on failure.
-std::vector<DocTemplate> DocTemplatesOf(std::int16_t kind);
+std::vector<DocTemplate> DocTemplatesOf(core::RecordKind kind);
 
 /// Returns the kind whose letters are offered for a kind: units share the letters of their
 /// building; other kinds have their own.
-std::int16_t DocKindOf(std::int16_t kind);
+core::RecordKind DocKindOf(core::RecordKind kind);
 
 /// Returns the template of this id; nullopt if there is none.
 std::optional<DocTemplate> FindDocTemplate(std::int32_t idDoc);
@@ -39,16 +41,16 @@ struct MergedDocument {
 /// records, a name made of both descriptions in the document folder, and it is then attached to the
 /// record. A file named by `output` is replaced. Nothing is opened. Throws platform::Error if the
 /// template can't be read or the copy can't be written.
-MergedDocument MergeDocument(const DocTemplate& letter, std::int16_t kind, std::int32_t id,
+MergedDocument MergeDocument(const DocTemplate& letter, core::RecordKind kind, std::int32_t id,
                              const std::optional<std::filesystem::path>& output = {});
 
 /// Merges a record into the template `idDoc` and opens the letter in its type's program. Returns
 /// false if there is no such template, or its file is missing, which is reported in a message.
-bool OpenDoc(std::int16_t kind, std::int32_t id, std::int32_t idDoc);
+bool OpenDoc(core::RecordKind kind, std::int32_t id, std::int32_t idDoc);
 
 /// Does the same for several records, a letter each, after a question that states their number.
 /// Returns how many letters were written: 0 if the user declined. If a letter fails, throws
 /// platform::Error with that number; the letters before it are kept.
-int OpenDocs(std::int16_t kind, std::span<const std::int32_t> ids, std::int32_t idDoc);
+int OpenDocs(core::RecordKind kind, std::span<const std::int32_t> ids, std::int32_t idDoc);
 
 } // namespace documents

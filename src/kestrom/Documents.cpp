@@ -18,7 +18,7 @@ void FillLetters(QMenu& menu, const std::function<Selection()>& selection) {
         const Selection chosen = selection();
         documents::OpenDocs(documents::DocKindOf(chosen.kind), chosen.ids, idDoc);
     };
-    const std::int16_t kind = documents::DocKindOf(selection().kind);
+    const core::RecordKind kind = documents::DocKindOf(selection().kind);
     if (documents::screens::AddDocItems(menu, kind, choose)) return;
     QAction* const nothing = menu.addAction(QObject::tr("None for these records"));
     nothing->setEnabled(false);

@@ -69,7 +69,7 @@ void OpenOnce() {
 
 /// Registers the editor of a record that belongs to another one.
 template <class Screen>
-void RegisterChild(std::int16_t kind) {
+void RegisterChild(core::RecordKind kind) {
     core::RegisterOpener(kind, [](const core::EditRequest& request) {
         (new Screen)->Setup(request.id, request.parent1);
     });
@@ -92,7 +92,7 @@ void RegisterPlatform() {
 }
 
 void RegisterEditors() {
-    for (const std::int16_t kind :
+    for (const core::RecordKind kind :
          {core::kAccount, core::kBuildingOwnerAccount, core::kBuildingManagerAccount,
           core::kVendorAccount, core::kInsuranceAccount, core::kMortgageeAccount,
           core::kUtilityAccount}) {

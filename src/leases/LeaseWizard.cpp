@@ -111,7 +111,9 @@ std::int32_t AddLease(const LeaseWizardEntry& entry, std::int32_t idUnit, std::i
 }
 
 void TellScreens(const LeaseWizardEntry& entry) {
-    const auto tell = [](std::int16_t kind) { core::NotifyAll(kind, core::kRecordsChanged, 0); };
+    const auto tell = [](core::RecordKind kind) {
+        core::NotifyAll(kind, core::kRecordsChanged, 0);
+    };
     if (entry.newProperty) tell(core::kBuilding);
     tell(core::kUnit);
     tell(core::kTenant);

@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include "core/Descriptions.h"
+#include "core/KindOfTable.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
@@ -23,7 +24,7 @@ std::string_view DescriptionStart(TransactionClass rentClass) {
     return "Rent Payment for ";
 }
 
-books::Party PartyOf(std::int16_t kind, std::int32_t id) {
+books::Party PartyOf(core::RecordKind kind, std::int32_t id) {
     return {kind, id, core::GetDescription(kind, id, 0, false)};
 }
 
@@ -61,7 +62,7 @@ void AddOwnRows(RentPayment& payment) {
 
 /// A subsidy's payor is an account or a tenant; a lease that has neither is paid by its tenant.
 void SetPayer(RentPayment& payment, Recordset& lease) {
-    const auto kind = static_cast<std::int16_t>(IdOf(lease["SubsidyType"]));
+    const core::RecordKind kind = core::KindOf(lease["SubsidyType"]);
     const bool byPayor = payment.rentClass == TransactionClass::Subsidy &&
                          (kind == core::kAccount || kind == core::kTenant) &&
                          !lease["SubsidyId"].IsNull();
@@ -131,8 +132,7 @@ RentPayment ReadPayment(std::int32_t idTransaction) {
     payment.idLease = IdOf(row["IdLease"]);
     payment.rentClass = TransactionClass{static_cast<std::int16_t>(IdOf(row["Class"]))};
     if (!row["DateEffective"].IsBlank()) payment.dateEffective = row["DateEffective"].AsDate();
-    payment.from = {static_cast<std::int16_t>(IdOf(row["DebitType"])), IdOf(row["DebitId"]),
-                    TextOf(row["DebitDesc"])};
+    payment.from = {core::KindOf(row["DebitType"]), IdOf(row["DebitId"]), TextOf(row["DebitDesc"])};
     payment.to = {core::kAccount, IdOf(row["CreditId"]), TextOf(row["CreditDesc"])};
     payment.checkNumber = TextOf(row["CheckNum"]);
     payment.paymentType = TextOf(row["TaxCategory"]);

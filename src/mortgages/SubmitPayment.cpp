@@ -181,7 +181,7 @@ std::int32_t SubmitMortgagePayment(const MortgagePayment& payment) {
     BookExtra(payment, idTransaction);
     RefreshSplits(payment);
     RefreshMortgage(payment.idMortgage);
-    for (const std::int16_t kind : {core::kTransaction, core::kMortgageLog, core::kMortgage})
+    for (const core::RecordKind kind : {core::kTransaction, core::kMortgageLog, core::kMortgage})
         core::NotifyAll(kind, core::kRecordsChanged, 0);
     unit.Commit();
     return idTransaction;

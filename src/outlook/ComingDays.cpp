@@ -25,7 +25,7 @@ using platform::Recordset;
 
 namespace {
 
-ForecastRow DayOf(std::int16_t kind, std::int32_t id, Date date, std::string what) {
+ForecastRow DayOf(core::RecordKind kind, std::int32_t id, Date date, std::string what) {
     return {.date = date,
             .origin = Origin::Day,
             .recordKind = kind,
@@ -99,7 +99,7 @@ void AddDaysOfEvent(Forecast& forecast, Recordset& event) {
 
 /// A date that a table holds, and the text for what is due `yearsLater` years after it.
 struct StoredDay {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::string_view table;
     std::string_view key;
     std::string_view field;

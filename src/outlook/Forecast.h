@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Date.h"
 
@@ -29,7 +30,7 @@ struct ForecastRow {
     platform::Date date;
     Origin origin = Origin::Charge;
     /// The record that the row is about, which can be opened.
-    std::int16_t recordKind = 0;
+    core::RecordKind recordKind = core::kNone;
     std::int32_t recordId = 0;
     std::string name;
     /// The category of what is posted, or what happens on the day.

@@ -37,21 +37,21 @@ Flow FlowOfEvent(std::int32_t idAutoEvent) {
     return Flow::Neither;
 }
 
-Origin OriginOf(int recordKind, std::string_view category) {
+Origin OriginOf(core::RecordKind recordKind, std::string_view category) {
     if (recordKind == core::kAutoEvent) return Origin::Event;
     const bool isLate = category == (recordKind == core::kLease ? leases::kCategoryLateFee
                                                                 : mortgages::kCategoryLate);
     return isLate ? Origin::LateFee : Origin::Charge;
 }
 
-Flow FlowOf(int recordKind, std::int32_t id) {
+Flow FlowOf(core::RecordKind recordKind, std::int32_t id) {
     if (recordKind == core::kAutoEvent) return FlowOfEvent(id);
     return recordKind == core::kLease ? Flow::In : Flow::Out;
 }
 
 /// Returns the amount of a row. A payment from credit came in earlier, so it reduces what falls due
 /// on the day.
-platform::Currency AmountOf(int recordKind, const core::PostedRow& row) {
+platform::Currency AmountOf(core::RecordKind recordKind, const core::PostedRow& row) {
     const bool isFromCredit = recordKind == core::kLease && row.category == leases::kPaidFromCredit;
     return isFromCredit ? -row.amount : row.amount;
 }
@@ -61,7 +61,7 @@ class Recorder : public core::RunListener {
   public:
     explicit Recorder(Forecast& forecast) : forecast_(forecast) {}
 
-    void Posted(int recordKind, std::int32_t id, std::string_view description,
+    void Posted(core::RecordKind recordKind, std::int32_t id, std::string_view description,
                 const std::vector<core::PostedRow>& rows) override {
         const Flow flow = FlowOf(recordKind, id);
         for (const core::PostedRow& row : rows) {
@@ -69,7 +69,7 @@ class Recorder : public core::RunListener {
             forecast_.rows.push_back(
                 {.date = row.date,
                  .origin = OriginOf(recordKind, category),
-                 .recordKind = static_cast<std::int16_t>(recordKind),
+                 .recordKind = recordKind,
                  .recordId = id,
                  .name = std::string(description),
                  .what =
@@ -79,7 +79,7 @@ class Recorder : public core::RunListener {
         }
     }
 
-    void Failed(int recordKind, std::int32_t /*id*/, std::string_view description,
+    void Failed(core::RecordKind recordKind, std::int32_t /*id*/, std::string_view description,
                 std::string_view reason) override {
         std::string fault =
             fmt::format("{}: {}", core::NameOfFailed(recordKind, description), reason);

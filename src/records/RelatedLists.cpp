@@ -103,9 +103,9 @@ constexpr std::array kApplianceLists = {RelatedList{
     "FROM SvcContract LEFT JOIN Account ON SvcContract.IdVendor = Account.IdAccount "
     "WHERE SvcContract.IdAppliance = ? ORDER BY Account.ShowAs"}};
 
-std::span<const RelatedList> ListsOf(std::int16_t ownerKind) {
+std::span<const RelatedList> ListsOf(core::RecordKind ownerKind) {
     struct Owner {
-        std::int16_t kind;
+        core::RecordKind kind;
         std::span<const RelatedList> lists;
     };
     static constexpr Owner kOwners[] = {{core::kBuilding, kBuildingLists},
@@ -134,12 +134,12 @@ std::int32_t BuildingOfAppliance(std::int32_t idAppliance) {
 
 } // namespace
 
-std::span<const RelatedList> TabbedLists(std::int16_t ownerKind) {
+std::span<const RelatedList> TabbedLists(core::RecordKind ownerKind) {
     const auto lists = ListsOf(ownerKind);
     return lists.size() > 1 ? lists : std::span<const RelatedList>();
 }
 
-const RelatedList* SingleList(std::int16_t ownerKind) {
+const RelatedList* SingleList(core::RecordKind ownerKind) {
     const auto lists = ListsOf(ownerKind);
     return lists.size() == 1 ? &lists.front() : nullptr;
 }

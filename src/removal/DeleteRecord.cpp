@@ -34,7 +34,7 @@ std::vector<std::int32_t> IdsOf(std::string_view sql, std::int32_t id) {
 
 /// Removes the records that can't exist without this one, after the ones that can't exist without
 /// them.
-void RemoveChildren(Removal& removal, std::int16_t kind, std::int32_t id) {
+void RemoveChildren(Removal& removal, core::RecordKind kind, std::int32_t id) {
     const KindRemoval* const entry = RemovalOf(kind);
     if (entry == nullptr) return;
     for (const Children& children : entry->children) {
@@ -67,13 +67,13 @@ BeforeBuilding& StepBeforeBuilding() {
     return step;
 }
 
-bool MayGo(std::int16_t kind, std::int32_t id) {
+bool MayGo(core::RecordKind kind, std::int32_t id) {
     const bool isBuilding =
         kind == core::kBuilding || (kind == core::kUnit && BuildingOfLastUnit(id) != 0);
     return !isBuilding || !StepBeforeBuilding() || StepBeforeBuilding()();
 }
 
-bool Agreed(std::int16_t kind, std::int32_t id) {
+bool Agreed(core::RecordKind kind, std::int32_t id) {
     const auto question = QuestionBefore(kind, id);
     if (!question) return true;
     return AgreedToDelete(question->title, question->text, platform::Value(RecordTitle(kind, id)));
@@ -92,11 +92,11 @@ bool AgreedToDelete(std::string_view title, std::string_view question,
     return platform::TheDialogs().AskYesNo(title, text, platform::Icon::Question);
 }
 
-bool AgreedToDelete(std::int16_t kind, std::int32_t id) {
+bool AgreedToDelete(core::RecordKind kind, std::int32_t id) {
     return !core::Preferences().ConfirmDelete || Agreed(kind, id);
 }
 
-bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm, Tell tell) {
+bool DeleteRecord(core::RecordKind kind, std::int32_t id, Confirm confirm, Tell tell) {
     if (id == 0) return false;
     if (confirm == Confirm::Ask && !AgreedToDelete(kind, id)) return false;
     // Asked before the work begins, so that no unit of work is open while the user decides.
@@ -110,7 +110,7 @@ bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm, Tell tell
     return true;
 }
 
-void RemoveRecord(std::int16_t kind, std::int32_t id, Tell tell) {
+void RemoveRecord(core::RecordKind kind, std::int32_t id, Tell tell) {
     if (id == 0) return;
     const Charges charges = AskAboutCharges(kind, id);
     RunRemoval(tell, [&](Removal& removal) { removal.Remove(kind, id, charges); });

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string_view>
 
+#include "core/RecordKinds.h"
 #include "platform/values/Value.h"
 
 namespace removal {
@@ -21,7 +22,7 @@ enum class Tell { Screens, Nobody };
 ///
 /// Throws on failure. What was removed before the failure stays removed; only if the machine stops
 /// midway are the books as before.
-bool DeleteRecord(std::int16_t kind, std::int32_t id, Confirm confirm = Confirm::Ask,
+bool DeleteRecord(core::RecordKind kind, std::int32_t id, Confirm confirm = Confirm::Ask,
                   Tell tell = Tell::Screens);
 
 /// Called before a building is removed, after the user has agreed; false keeps the building.
@@ -31,7 +32,7 @@ void SetBeforeBuilding(BeforeBuilding step);
 
 /// Asks as DeleteRecord does, for a routine that removes the record as a part of its own work;
 /// returns true if the user agrees, or needn't be asked.
-bool AgreedToDelete(std::int16_t kind, std::int32_t id);
+bool AgreedToDelete(core::RecordKind kind, std::int32_t id);
 /// Asks the caller's question, with the record's name below it if there is one.
 bool AgreedToDelete(std::string_view title, std::string_view question, const platform::Value& name);
 
@@ -40,6 +41,6 @@ bool AgreedToDelete(std::string_view title, std::string_view question, const pla
 /// Failures are the same as for DeleteRecord.
 ///
 /// Nothing is asked, except for a payment: whether its charges are deleted too or are open again.
-void RemoveRecord(std::int16_t kind, std::int32_t id, Tell tell = Tell::Screens);
+void RemoveRecord(core::RecordKind kind, std::int32_t id, Tell tell = Tell::Screens);
 
 } // namespace removal

@@ -2,11 +2,12 @@
 
 #include "core/Descriptions.h"
 #include "core/KindTable.h"
+#include "core/RecordKinds.h"
 #include "core/Session.h"
 
 namespace removal {
 
-std::string RecordTitle(std::int16_t kind, std::int32_t id) {
+std::string RecordTitle(core::RecordKind kind, std::int32_t id) {
     const std::string_view sql = core::InfoOf(kind).label;
     if (sql.empty()) return core::GetDescription(kind, id);
     const auto title = core::LookUp(sql, {id});

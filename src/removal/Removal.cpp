@@ -33,7 +33,7 @@ std::string_view WrittenTable(std::string_view statement) {
 
 Removal::Removal() : unit_(core::App().Connection) {}
 
-void Removal::Remove(std::int16_t kind, std::int32_t id, Charges charges) {
+void Removal::Remove(core::RecordKind kind, std::int32_t id, Charges charges) {
     if (id == 0) return;
     if (kind == core::kLease || kind == core::kMortgage || kind == core::kAutoEvent)
         core::ForgetTakenBackOf(kind, id);
@@ -62,7 +62,7 @@ void Removal::Remove(std::int16_t kind, std::int32_t id, Charges charges) {
     Note(kind, core::kRecordsChanged);
 }
 
-void Removal::RemoveStatements(std::int16_t kind, std::int32_t id) {
+void Removal::RemoveStatements(core::RecordKind kind, std::int32_t id) {
     const KindRemoval* const entry = RemovalOf(kind);
     if (entry == nullptr) return;
     for (const std::string_view statement : entry->statements)
@@ -75,12 +75,12 @@ void Removal::RemoveStatements(std::int16_t kind, std::int32_t id) {
 std::int64_t Removal::Execute(std::string_view statement,
                               std::initializer_list<platform::Value> parameters) {
     const std::int64_t rows = core::Execute(statement, parameters);
-    const std::int16_t kind = core::KindOfTable(WrittenTable(statement));
+    const core::RecordKind kind = core::KindOfTable(WrittenTable(statement));
     if (rows > 0 && kind != core::kNone) Note(kind, core::kRecordsChanged);
     return rows;
 }
 
-void Removal::Note(std::int16_t kind, std::int16_t action) {
+void Removal::Note(core::RecordKind kind, std::int16_t action) {
     const Message message{kind, action};
     if (std::ranges::find(messages_, message) == messages_.end()) messages_.push_back(message);
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/ChargeLedger.h"
+#include "core/RecordKinds.h"
 #include "platform/database/Connection.h"
 #include "removal/DeleteRecord.h"
 
@@ -21,17 +22,17 @@ class Removal {
     Removal();
 
     /// Runs the statements that remove one record. `charges` matters only for payments.
-    void Remove(std::int16_t kind, std::int32_t id, Charges charges = Charges::OpenAgain);
+    void Remove(core::RecordKind kind, std::int32_t id, Charges charges = Charges::OpenAgain);
 
     /// Notes that the screens are to be notified of a kind; a second note of the same kind has no
     /// effect.
-    void Note(std::int16_t kind, std::int16_t action);
+    void Note(core::RecordKind kind, std::int16_t action);
 
     void Keep(Tell tell);
 
   private:
     struct Message {
-        std::int16_t kind;
+        core::RecordKind kind;
         std::int16_t action;
         friend bool operator==(const Message&, const Message&) = default;
     };
@@ -43,7 +44,7 @@ class Removal {
     void RemoveOwner(std::int32_t id);
     void RemoveTransaction(std::int32_t id, Charges charges);
     void FreeCharges(const core::ChargeLedger& ledger, std::int32_t idTransaction);
-    void RemoveStatements(std::int16_t kind, std::int32_t id);
+    void RemoveStatements(core::RecordKind kind, std::int32_t id);
 
     platform::UnitOfWork unit_;
     std::vector<Message> messages_;
@@ -54,6 +55,6 @@ class Removal {
 void RunRemoval(Tell tell, const std::function<void(Removal& removal)>& work);
 
 /// If the record is a payment, asks what becomes of its charges.
-Charges AskAboutCharges(std::int16_t kind, std::int32_t id);
+Charges AskAboutCharges(core::RecordKind kind, std::int32_t id);
 
 } // namespace removal

@@ -2,6 +2,7 @@
 
 #include <fmt/core.h>
 
+#include "core/RecordKinds.h"
 #include "core/Session.h"
 #include "removal/RemovalTable.h"
 
@@ -32,7 +33,7 @@ std::string CountedText(const KindRemoval& removal, std::int32_t id) {
 
 } // namespace
 
-std::optional<RemovalQuestion> QuestionBefore(std::int16_t kind, std::int32_t id) {
+std::optional<RemovalQuestion> QuestionBefore(core::RecordKind kind, std::int32_t id) {
     const KindRemoval* const removal = RemovalOf(kind);
     if (removal == nullptr) return std::nullopt;
     return RemovalQuestion{std::string(removal->title), removal->question.empty()

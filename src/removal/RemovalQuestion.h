@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "core/RecordKinds.h"
+
 namespace removal {
 
 struct RemovalQuestion {
@@ -13,6 +15,6 @@ struct RemovalQuestion {
 
 /// Returns the question before a record is removed, with the number of records that are removed
 /// with it; nothing for a kind that is removed without a question.
-std::optional<RemovalQuestion> QuestionBefore(std::int16_t kind, std::int32_t id);
+std::optional<RemovalQuestion> QuestionBefore(core::RecordKind kind, std::int32_t id);
 
 } // namespace removal

@@ -145,7 +145,7 @@ constexpr KindRemoval kRemovals[] = {
 
 } // namespace
 
-const KindRemoval* RemovalOf(std::int16_t kind) {
+const KindRemoval* RemovalOf(core::RecordKind kind) {
     const auto* const found = std::ranges::find(kRemovals, kind, &KindRemoval::kind);
     return found == std::end(kRemovals) ? nullptr : found;
 }

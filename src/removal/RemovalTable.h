@@ -4,11 +4,13 @@
 #include <span>
 #include <string_view>
 
+#include "core/RecordKinds.h"
+
 namespace removal {
 
 // Records of the analysis program that shares the books.
-inline constexpr std::int16_t kAnalysis = 71;
-inline constexpr std::int16_t kNoteAnalysis = 73;
+inline constexpr core::RecordKind kAnalysis{71};
+inline constexpr core::RecordKind kNoteAnalysis{73};
 
 /// Records that are removed together with another, counted by the field that refers to it.
 struct Counted {
@@ -19,13 +21,13 @@ struct Counted {
 
 /// Records that are removed first, each as if it were removed by itself.
 struct Children {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::string_view select; ///< selects their ids by the id of the removed record
 };
 
 /// The questions and statements of the removal of a record kind; a kind without them isn't removed.
 struct KindRemoval {
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
     std::string_view title = "Confirm Delete";
     /// The question before a removal, unless it is a question that counts.
     std::string_view question{};
@@ -38,10 +40,10 @@ struct KindRemoval {
     /// Run before the record's own row is deleted, each with its id as the only parameter.
     std::span<const std::string_view> statements{};
     /// The kind whose records show this one, so that their screens are notified too.
-    std::int16_t shownBy = 0;
+    core::RecordKind shownBy = core::kNone;
 };
 
 /// Returns the entry of a kind; null for a kind that isn't removed.
-const KindRemoval* RemovalOf(std::int16_t kind);
+const KindRemoval* RemovalOf(core::RecordKind kind);
 
 } // namespace removal

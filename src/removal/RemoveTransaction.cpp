@@ -14,7 +14,7 @@ namespace removal {
 
 using core::ChargeLedger;
 
-Charges AskAboutCharges(std::int16_t kind, std::int32_t id) {
+Charges AskAboutCharges(core::RecordKind kind, std::int32_t id) {
     const ChargeLedger* const ledger =
         kind == core::kTransaction ? core::LedgerOfTransaction(id) : nullptr;
     if (ledger == nullptr) return Charges::OpenAgain;

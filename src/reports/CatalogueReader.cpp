@@ -92,12 +92,16 @@ void ReadTab(ReportDef& report, std::string_view value) {
     report.Tab = Find(kTabs, value).value_or(report.Tab);
 }
 
-void ReadSelectItem(ReportDef& report, std::string_view value) {
+std::optional<core::RecordKind> FindKind(std::string_view value) {
     const auto found = std::ranges::find_if(core::RecordKinds, [value](std::string_view name) {
         return platform::EqualIgnoringCase(name, value);
     });
-    if (found == core::RecordKinds.end()) return;
-    report.SelectItem = static_cast<std::int16_t>(found - core::RecordKinds.begin());
+    if (found == core::RecordKinds.end()) return std::nullopt;
+    return static_cast<core::RecordKind>(found - core::RecordKinds.begin());
+}
+
+void ReadSelectItem(ReportDef& report, std::string_view value) {
+    report.SelectItem = FindKind(value).value_or(report.SelectItem);
 }
 
 struct CatalogueKey {
@@ -164,11 +168,7 @@ bool IsCatalogueValue(std::string_view key, std::string_view value) {
     if (key == "ICON") return Find(kIcons, value).has_value();
     if (key == "DATERANGE") return Find(kDateRanges, value).has_value();
     if (key == "PRINT" || key == "SELECTDETAIL" || key == "SELECTYEAR") return IsFlag(value);
-    if (key != "SELECTITEM") return true;
-    ReportDef asked;
-    asked.SelectItem = -1;
-    ReadSelectItem(asked, value);
-    return asked.SelectItem >= 0;
+    return key != "SELECTITEM" || FindKind(value).has_value();
 }
 
 } // namespace reports

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "core/RecordKinds.h"
 #include "platform/printing/PageSetup.h"
 #include "platform/values/Date.h"
 
@@ -49,8 +50,8 @@ struct ReportDef {
     CatalogueTab Tab = CatalogueTab::All;
     std::string Description;
     std::string Notes;
-    std::int16_t Icon = 0;       ///< 1 to 8, 0 for none
-    std::int16_t SelectItem = 0; ///< the record kind that the report asks for, 0 for none
+    std::int16_t Icon = 0;                     ///< 1 to 8, 0 for none
+    core::RecordKind SelectItem = core::kNone; ///< the kind that the report asks for
     bool SelectDetail = false;
     bool SelectYear = false;
     reports::DateRange DateRange = reports::DateRange::None;

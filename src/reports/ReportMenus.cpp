@@ -7,7 +7,7 @@
 
 namespace reports {
 
-RecordForm FormOfKind(std::int16_t recordKind) {
+RecordForm FormOfKind(core::RecordKind recordKind) {
     switch (recordKind) {
         case core::kAccount:
             return RecordForm::Account;

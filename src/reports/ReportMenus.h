@@ -1,16 +1,16 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "reports/ReportDef.h"
 
 namespace reports {
 
 /// Returns the form on which records of a kind are edited; None for a kind without reports.
-RecordForm FormOfKind(std::int16_t recordKind);
+RecordForm FormOfKind(core::RecordKind recordKind);
 
 /// An item of a report menu: its caption, with "&" before its key, and the report's number.
 struct ReportMenuItem {

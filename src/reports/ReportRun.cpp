@@ -39,7 +39,7 @@ ReportRun::ReportRun(ReportDef& report, std::filesystem::path file)
     : report_(&report), path_(std::move(file)), file_(LoadReportFile(path_)) {
     if (file_.FileOrientation) report_->Orientation = *file_.FileOrientation;
     ResolveDates();
-    if (report_->SelectItem != 0)
+    if (report_->SelectItem != core::kNone)
         selectedDescription_ = core::GetDescription(report_->SelectItem, report_->SelectedId);
 }
 

@@ -1,5 +1,6 @@
 #include "search/SourceRow.h"
 
+#include "core/KindOfTable.h"
 #include "platform/database/FieldReadings.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Format.h"
@@ -119,7 +120,7 @@ platform::IndexedText SourceRows::Text() {
         const platform::Field field = rows_[i + 1];
         switch (roles_[i]) {
             case Role::Kind:
-                target.kind = platform::CountOf(field);
+                target.kind = core::KindOf(field);
                 continue;
             case Role::Parent1:
                 target.parent1 = platform::IdOf(field);
@@ -139,7 +140,7 @@ platform::IndexedText SourceRows::Text() {
         Append(words, " ", ShownText(field));
     }
     // A contact or a file opens the record that it belongs to.
-    if (source_.kind == 0)
+    if (source_.kind == core::kNone)
         target = {.kind = target.kind, .id = target.parent1, .parent1 = 0, .parent3 = 0};
     text.target = TargetText(target);
     text.words = IndexWords(words);

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
 #include <string_view>
+
+#include "core/RecordKinds.h"
 
 namespace search {
 
@@ -13,7 +14,7 @@ namespace search {
 struct Source {
     std::string_view name; ///< the heading of its results
     std::string_view icon;
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
     std::string_view glue; ///< between the first part of the title and the second
     std::string_view sql;
 };

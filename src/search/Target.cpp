@@ -20,14 +20,17 @@ bool Take(std::string_view& text, Number& number) {
 } // namespace
 
 std::string TargetText(const Target& target) {
-    return fmt::format("{} {} {} {}", target.kind, target.id, target.parent1, target.parent3);
+    return fmt::format("{} {} {} {}", core::KindNumber(target.kind), target.id, target.parent1,
+                       target.parent3);
 }
 
 std::optional<Target> ReadTarget(std::string_view text) {
     Target target;
-    const bool isRead = Take(text, target.kind) && Take(text, target.id) &&
-                        Take(text, target.parent1) && Take(text, target.parent3);
+    std::int16_t kind = 0;
+    const bool isRead = Take(text, kind) && Take(text, target.id) && Take(text, target.parent1) &&
+                        Take(text, target.parent3);
     if (!isRead || !text.empty()) return std::nullopt;
+    target.kind = static_cast<core::RecordKind>(kind);
     return target;
 }
 

@@ -5,11 +5,13 @@
 #include <string>
 #include <string_view>
 
+#include "core/RecordKinds.h"
+
 namespace search {
 
 /// The arguments of core::EditRecord that open a record that was found.
 struct Target {
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
     std::int32_t id = 0;
     std::int32_t parent1 = 0;
     std::int32_t parent3 = 0;

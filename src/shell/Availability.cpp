@@ -35,7 +35,7 @@ Availability EnableEditButtons(const WindowState& state) {
             .rows = FirstOf(list, rows)};
 }
 
-ExtraItems ExtraItemsOf(std::int16_t kind) {
+ExtraItems ExtraItemsOf(core::RecordKind kind) {
     return {.refreshSummary = kind == core::kAlert,
             .payRent = kind == core::kLease,
             .payMortgage = kind == core::kMortgage,

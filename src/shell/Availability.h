@@ -3,11 +3,13 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/RecordKinds.h"
+
 namespace shell {
 
 /// The state of the main window that its commands depend on.
 struct WindowState {
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
     /// The id in the selected row; 0 unless exactly one row is selected.
     std::int32_t selectedId = 0;
     int selectedRows = 0;
@@ -47,6 +49,6 @@ struct ExtraItems {
     bool Separator() const { return payRent || payMortgage; }
 };
 
-ExtraItems ExtraItemsOf(std::int16_t kind);
+ExtraItems ExtraItemsOf(core::RecordKind kind);
 
 } // namespace shell

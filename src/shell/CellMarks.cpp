@@ -13,7 +13,7 @@ constexpr int kRentStatusColumn = 7;
 constexpr int kPaymentStatusColumn = 6;
 
 struct MarkedWord {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::string_view word;
     Mark mark;
 };
@@ -29,13 +29,13 @@ constexpr std::array<MarkedWord, 6> kMarkedWords = {{
 
 } // namespace
 
-int MarkedColumn(std::int16_t kind) {
+int MarkedColumn(core::RecordKind kind) {
     if (kind == core::kLease) return kRentStatusColumn;
     if (kind == core::kMortgage) return kPaymentStatusColumn;
     return -1;
 }
 
-Mark MarkOf(std::int16_t kind, std::string_view word) {
+Mark MarkOf(core::RecordKind kind, std::string_view word) {
     for (const MarkedWord& marked : kMarkedWords) {
         if (marked.kind == kind && marked.word == word) return marked.mark;
     }

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <string_view>
+
+#include "core/RecordKinds.h"
 
 namespace shell {
 
@@ -10,10 +11,10 @@ enum class Mark { None, Yellow, Red };
 
 /// Returns the column of a view whose cells are marked, counted from the id column; -1 if there is
 /// none.
-int MarkedColumn(std::int16_t kind);
+int MarkedColumn(core::RecordKind kind);
 
 /// Returns the mark of a status in that column. A mortgage turns red when it is late, a lease only
 /// with a warning or an eviction.
-Mark MarkOf(std::int16_t kind, std::string_view word);
+Mark MarkOf(core::RecordKind kind, std::string_view word);
 
 } // namespace shell

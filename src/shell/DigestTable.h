@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "core/Table.h"
 #include "shell/RunDigest.h"
 #include "shell/TakenRows.h"
@@ -12,7 +13,7 @@ namespace shell {
 
 /// A record to be opened.
 struct RecordPlace {
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
     std::int32_t id = 0;
 
     friend bool operator==(const RecordPlace&, const RecordPlace&) = default;

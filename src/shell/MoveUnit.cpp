@@ -66,7 +66,7 @@ bool MoveUnit(std::int32_t idUnit, std::int32_t idBuilding) {
                                            platform::Icon::Information);
         return false;
     }
-    for (const std::int16_t kind : {core::kUnit, core::kAutoEvent, core::kTransaction})
+    for (const core::RecordKind kind : {core::kUnit, core::kAutoEvent, core::kTransaction})
         core::NotifyAll(kind, core::kRecordsChanged, 0);
     return true;
 }

@@ -5,6 +5,7 @@
 
 #include <fmt/core.h>
 
+#include "core/RecordKinds.h"
 #include "platform/values/Text.h"
 
 namespace shell {
@@ -38,11 +39,11 @@ std::string Counted(std::string_view category, std::size_t count) {
 
 } // namespace
 
-void RunDigest::Posted(int recordKind, std::int32_t id, std::string_view description,
+void RunDigest::Posted(core::RecordKind recordKind, std::int32_t id, std::string_view description,
                        const std::vector<core::PostedRow>& rows) {
     descriptions_.emplace_back(description);
     for (const core::PostedRow& row : rows) {
-        rows_.push_back({.recordKind = static_cast<std::int16_t>(recordKind),
+        rows_.push_back({.recordKind = recordKind,
                          .recordId = id,
                          .date = row.date,
                          .category = std::string(row.category),
@@ -53,10 +54,9 @@ void RunDigest::Posted(int recordKind, std::int32_t id, std::string_view descrip
     }
 }
 
-void RunDigest::Failed(int recordKind, std::int32_t id, std::string_view description,
+void RunDigest::Failed(core::RecordKind recordKind, std::int32_t id, std::string_view description,
                        std::string_view reason) {
-    faults_.push_back(
-        {static_cast<std::int16_t>(recordKind), id, std::string(description), std::string(reason)});
+    faults_.push_back({recordKind, id, std::string(description), std::string(reason)});
 }
 
 platform::Date RunDigest::FirstDay() const {

@@ -5,12 +5,13 @@
 #include <vector>
 
 #include "core/DailyRun.h"
+#include "core/RecordKinds.h"
 
 namespace shell {
 
 /// A row that a run has posted, and the record that it was posted for.
 struct DigestRow {
-    std::int16_t recordKind = 0;
+    core::RecordKind recordKind = core::kNone;
     std::int32_t recordId = 0;
     platform::Date date;
     std::string category;
@@ -24,7 +25,7 @@ struct DigestRow {
 
 /// A record that a run skipped, and why.
 struct DigestFault {
-    std::int16_t recordKind = 0;
+    core::RecordKind recordKind = core::kNone;
     std::int32_t recordId = 0;
     std::string description;
     std::string reason;
@@ -33,9 +34,9 @@ struct DigestFault {
 /// The rows that a daily run has posted and the records that it skipped, to be shown to the user.
 class RunDigest : public core::RunListener {
   public:
-    void Posted(int recordKind, std::int32_t id, std::string_view description,
+    void Posted(core::RecordKind recordKind, std::int32_t id, std::string_view description,
                 const std::vector<core::PostedRow>& rows) override;
-    void Failed(int recordKind, std::int32_t id, std::string_view description,
+    void Failed(core::RecordKind recordKind, std::int32_t id, std::string_view description,
                 std::string_view reason) override;
 
     const std::vector<DigestRow>& Rows() const { return rows_; }

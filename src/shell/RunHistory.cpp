@@ -71,7 +71,7 @@ core::PostedRow RowFrom(const Json& row) {
 }
 
 void AddRecord(RunDigest& digest, const Json& line) {
-    const int kind = line.at("kind").get<int>();
+    const auto kind = line.at("kind").get<core::RecordKind>();
     const auto id = line.at("id").get<std::int32_t>();
     const auto name = line.at("name").get<std::string>();
     if (line.contains("fault")) {
@@ -198,7 +198,7 @@ RunRecorder::RunRecorder(std::filesystem::path file, core::RunListener& next)
     run_ = fmt::format("{} {}.{}", at_, ::getpid(), ++runs);
 }
 
-void RunRecorder::Posted(int recordKind, std::int32_t id, std::string_view description,
+void RunRecorder::Posted(core::RecordKind recordKind, std::int32_t id, std::string_view description,
                          const std::vector<core::PostedRow>& rows) {
     Json posted = Json::array();
     for (const core::PostedRow& row : rows)
@@ -214,7 +214,7 @@ void RunRecorder::Posted(int recordKind, std::int32_t id, std::string_view descr
     next_.Posted(recordKind, id, description, rows);
 }
 
-void RunRecorder::Failed(int recordKind, std::int32_t id, std::string_view description,
+void RunRecorder::Failed(core::RecordKind recordKind, std::int32_t id, std::string_view description,
                          std::string_view reason) {
     const Json line = {{"run", run_},        {"at", at_}, {"to", platform::Today().ToText()},
                        {"kind", recordKind}, {"id", id},  {"name", description},

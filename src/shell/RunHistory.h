@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "platform/database/Connection.h"
 #include "shell/RunDigest.h"
 
@@ -55,9 +56,9 @@ class RunRecorder : public core::RunListener {
     /// Begins the run now, on the session's books. `next` must outlive the recorder.
     RunRecorder(std::filesystem::path file, core::RunListener& next);
 
-    void Posted(int recordKind, std::int32_t id, std::string_view description,
+    void Posted(core::RecordKind recordKind, std::int32_t id, std::string_view description,
                 const std::vector<core::PostedRow>& rows) override;
-    void Failed(int recordKind, std::int32_t id, std::string_view description,
+    void Failed(core::RecordKind recordKind, std::int32_t id, std::string_view description,
                 std::string_view reason) override;
 
     /// Returns why the history couldn't be written; empty if it could. The run goes on without it.

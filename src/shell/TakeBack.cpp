@@ -33,8 +33,8 @@ namespace {
 
 /// The tables in which the run posts the rows of a kind of records.
 struct PostedLedger {
-    std::int16_t recordKind;
-    std::int16_t rowKind;
+    core::RecordKind recordKind;
+    core::RecordKind rowKind;
     std::string_view table;
     std::string_view key;
     std::string_view owner; ///< the field with the record's id; empty if the rows don't have it

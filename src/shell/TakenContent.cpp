@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "core/Descriptions.h"
+#include "core/KindOfTable.h"
 #include "core/RecordKinds.h"
 #include "core/Rows.h"
 #include "platform/database/FieldReadings.h"
@@ -29,7 +30,7 @@ Json FieldsOf(Recordset& row) {
 /// The tables whose rows stay when a party is deleted set the link to it to 0.
 void UnlinkIfDeleted(Recordset& row, std::string_view type, std::string_view id) {
     if (!row.HasField(type)) return;
-    const std::int16_t kind = CountOf(row[type]);
+    const core::RecordKind kind = core::KindOf(row[type]);
     const std::int32_t idParty = IdOf(row[id]);
     if (kind != core::kAccount && kind != core::kTenant) return;
     if (idParty != 0 && !core::RecordExists(kind, idParty)) row[id].Set(std::int32_t{0});
@@ -49,7 +50,7 @@ void WriteRow(std::string_view table, const Json& fields) {
 
 } // namespace
 
-std::string ContentOf(std::int16_t kind, std::int32_t id, Recordset& stored) {
+std::string ContentOf(core::RecordKind kind, std::int32_t id, Recordset& stored) {
     Json content = FieldsOf(stored);
     Recordset files =
         core::Read("SELECT * FROM FileObject WHERE (dbType = ?) AND (IdOwner = ?)", {kind, id});

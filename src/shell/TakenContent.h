@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/RecordKinds.h"
 #include "platform/database/Recordset.h"
 
 namespace shell {
@@ -12,7 +13,7 @@ namespace shell {
 // fields, and the links of the files that are attached to it. Failures are thrown.
 
 /// Returns the content of a stored row of this kind.
-std::string ContentOf(std::int16_t kind, std::int32_t id, platform::Recordset& stored);
+std::string ContentOf(core::RecordKind kind, std::int32_t id, platform::Recordset& stored);
 
 /// Writes the row into its table again, and the links of its files. A payer or payee that was
 /// deleted since is no longer linked, as in all other transactions; its name stays. Returns false,

@@ -18,7 +18,7 @@ constexpr std::array<std::string_view, 10> kFilterFields = {
     "Unit", "Tenant", "Lease", "Mortgage", "Work Order"};
 
 struct Statuses {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::span<const std::string_view> statuses;
 };
 
@@ -72,7 +72,7 @@ std::vector<std::string> ColumnOf(std::string_view sql) {
 
 } // namespace
 
-std::vector<std::string> ViewWords(std::int16_t kind) {
+std::vector<std::string> ViewWords(core::RecordKind kind) {
     std::vector<std::string> words = {std::string(kAll)};
     std::vector<std::string> own;
     if (kind == core::kAccount) own = ColumnOf("SELECT DISTINCT AccountType FROM Account");

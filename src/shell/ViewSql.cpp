@@ -17,7 +17,7 @@ using platform::dialect::QuoteText;
 namespace {
 
 struct View {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::string_view idColumn;
     std::string_view columns;
     std::string_view tables;
@@ -130,7 +130,7 @@ std::string ViewSql(const View& view, const ViewFilter& filter, IdColumn idColum
 
 } // namespace
 
-std::string BuildViewSql(std::int16_t kind, const ViewFilter& filter, IdColumn idColumn) {
+std::string BuildViewSql(core::RecordKind kind, const ViewFilter& filter, IdColumn idColumn) {
     if (kind == core::kTransaction) return TransactionsSql(filter, idColumn);
     for (const View& view : kViews) {
         if (view.kind == kind) return ViewSql(view, filter, idColumn);

@@ -10,7 +10,7 @@ namespace shell {
 namespace {
 
 struct Tag {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::string_view tag;
 };
 
@@ -53,7 +53,7 @@ void AppendSort(std::string& text, const std::string& field, const std::string& 
 
 } // namespace
 
-std::string_view ViewTag(std::int16_t kind) {
+std::string_view ViewTag(core::RecordKind kind) {
     for (const Tag& tag : kTags) {
         if (tag.kind == kind) return tag.tag;
     }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "platform/registry/Registry.h"
 
 namespace shell {
@@ -24,7 +24,7 @@ struct ViewState {
 
 /// Returns the name that a view's state and column widths are stored under; empty for a kind
 /// without a view.
-std::string_view ViewTag(std::int16_t kind);
+std::string_view ViewTag(core::RecordKind kind);
 
 /// Loads the state of a view. An order that is neither "ASC" nor "DESC" counts as "ASC".
 ViewState LoadViewState(std::string_view tag);

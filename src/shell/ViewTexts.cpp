@@ -12,7 +12,7 @@ namespace shell {
 namespace {
 
 struct Need {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::string_view text;
 };
 
@@ -25,7 +25,7 @@ constexpr std::array<Need, 5> kNeeds = {{
     {core::kUnit, " A building comes with its first unit."},
 }};
 
-std::string_view NeedsOf(std::int16_t kind) {
+std::string_view NeedsOf(core::RecordKind kind) {
     for (const Need& need : kNeeds) {
         if (need.kind == kind) return need.text;
     }
@@ -40,7 +40,7 @@ bool IsFiltered(const EmptyView& view) {
 
 } // namespace
 
-std::string StatusText(std::int16_t kind, std::int64_t count, const ViewState& state) {
+std::string StatusText(core::RecordKind kind, std::int64_t count, const ViewState& state) {
     std::string text = fmt::format("Selected {} {} records", count, core::RecordKindName(kind));
     if (!state.sortField.empty()) {
         text += fmt::format(" sorted by {} [{}]", state.sortField, state.sortOrder);

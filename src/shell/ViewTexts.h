@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/RecordKinds.h"
 #include "shell/ViewState.h"
 #include "shell/Views.h"
 
@@ -11,14 +12,14 @@ namespace shell {
 
 /// Returns "Selected 12 Lease records sorted by Rent [ASC]"; the count is -1 if the statement
 /// failed.
-std::string StatusText(std::int16_t kind, std::int64_t count, const ViewState& state);
+std::string StatusText(core::RecordKind kind, std::int64_t count, const ViewState& state);
 
 /// Returns "3 of 12 shown" for a list that is narrowed by a search; empty if all of it is shown.
 std::string NarrowedText(std::int64_t shown, std::int64_t count);
 
 /// An empty list, for EmptyText.
 struct EmptyView {
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
     /// The number of rows before the search narrowed them, as for StatusText.
     std::int64_t count = 0;
     std::string_view search;

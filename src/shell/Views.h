@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/ChoiceList.h"
+#include "core/RecordKinds.h"
 
 namespace shell {
 
@@ -27,11 +28,11 @@ enum class IdColumn { First, Omitted };
 
 /// Returns the statement of the main view of a record kind; empty if the kind has none. Hidden
 /// records are left out unless asked for; transactions can't be hidden.
-std::string BuildViewSql(std::int16_t kind, const ViewFilter& filter, IdColumn idColumn);
+std::string BuildViewSql(core::RecordKind kind, const ViewFilter& filter, IdColumn idColumn);
 
 /// Returns the entries of the view list of a record kind, "All" first. Those that come from the
 /// records are read from the database.
-std::vector<std::string> ViewWords(std::int16_t kind);
+std::vector<std::string> ViewWords(core::RecordKind kind);
 
 /// Returns the filter fields for transactions.
 std::span<const std::string_view> FilterFields();

@@ -20,8 +20,8 @@ namespace {
 void PrintAlerts() {
     std::cout << "\"RecordKind\",\"RecordId\",\"Text\"\n";
     for (const alerts::AlertItem& item : alerts::GetAlerts()) {
-        std::cout << item.recordKind << ',' << item.recordId << ',' << platform::CsvText(item.text)
-                  << '\n';
+        std::cout << core::KindNumber(item.recordKind) << ',' << item.recordId << ','
+                  << platform::CsvText(item.text) << '\n';
     }
 }
 

@@ -16,7 +16,7 @@ namespace vestrelctl {
 
 namespace {
 
-std::string NameOf(std::string_view option, std::int16_t kind, std::int32_t id) {
+std::string NameOf(std::string_view option, core::RecordKind kind, std::int32_t id) {
     const std::string name = core::GetDescription(kind, id);
     if (name.empty()) {
         throw platform::Error(fmt::format("{}: there is no {} {}", option,
@@ -29,7 +29,7 @@ bool IsNumber(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-std::int16_t KindOfParty(std::string_view word) {
+core::RecordKind KindOfParty(std::string_view word) {
     if (word == "account") return core::kAccount;
     if (word == "tenant") return core::kTenant;
     return core::kNone;
@@ -66,7 +66,7 @@ books::Party ReadParty(std::string_view option, const std::string& text) {
     const std::string form = text.substr(0, colon);
     const std::string who = colon == std::string::npos ? std::string() : text.substr(colon + 1);
     if (form == "name" && !platform::Trim(who).empty()) return {core::kAccount, 0, who};
-    const std::int16_t kind = KindOfParty(form);
+    const core::RecordKind kind = KindOfParty(form);
     if (kind == core::kNone || !IsNumber(who)) {
         throw platform::Error(
             fmt::format("{}: '{}' is not account:ID, tenant:ID or name:TEXT", option, text));

@@ -25,8 +25,8 @@ void PrintFound(const std::string& words) {
     std::cout << "\"Group\",\"RecordKind\",\"RecordId\",\"Title\",\"Detail\"\n";
     for (const search::HitGroup& group : groups) {
         for (const search::Hit& hit : group.hits) {
-            std::cout << platform::CsvText(group.name) << ',' << hit.record->kind << ','
-                      << hit.record->id << ',' << platform::CsvText(hit.title) << ','
+            std::cout << platform::CsvText(group.name) << ',' << core::KindNumber(hit.record->kind)
+                      << ',' << hit.record->id << ',' << platform::CsvText(hit.title) << ','
                       << platform::CsvText(hit.detail) << '\n';
         }
         if (group.hasMore) {

@@ -23,7 +23,7 @@ namespace {
 
 struct MergeArguments {
     std::string letter;
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
     std::int32_t id = 0;
     bool allLate = false;
     std::string output;
@@ -50,7 +50,7 @@ std::vector<std::int32_t> LateLeases() {
     return ids;
 }
 
-documents::MergedDocument MergeOne(const documents::DocTemplate& letter, std::int16_t kind,
+documents::MergedDocument MergeOne(const documents::DocTemplate& letter, core::RecordKind kind,
                                    std::int32_t id,
                                    const std::optional<std::filesystem::path>& output) {
     documents::MergedDocument document = documents::MergeDocument(letter, kind, id, output);

@@ -46,7 +46,7 @@ constexpr auto kChargedOff = static_cast<std::int16_t>(core::RentFlags::DepositC
 struct Reference {
     const char* option;
     const char* name;
-    std::int16_t kind;
+    core::RecordKind kind;
     std::int32_t Transaction::*id;
 };
 

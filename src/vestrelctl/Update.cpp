@@ -20,7 +20,7 @@ namespace {
 /// Prints one line for each posted row, and at the end their number.
 class Printer : public core::RunListener {
   public:
-    void Posted(int kind, std::int32_t, std::string_view description,
+    void Posted(core::RecordKind kind, std::int32_t, std::string_view description,
                 const std::vector<core::PostedRow>& rows) override {
         for (const core::PostedRow& row : rows) {
             const std::string_view category = platform::Trim(row.category);
@@ -32,7 +32,7 @@ class Printer : public core::RunListener {
         posted_ += rows.size();
     }
 
-    void Failed(int recordKind, std::int32_t, std::string_view description,
+    void Failed(core::RecordKind recordKind, std::int32_t, std::string_view description,
                 std::string_view reason) override {
         std::cout << fmt::format("Not updated: {}: {}\n",
                                  core::NameOfFailed(recordKind, description), reason);

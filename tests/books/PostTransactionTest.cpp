@@ -12,7 +12,7 @@ class PostTransaction : public tests::BooksTest {};
 
 TEST_F(PostTransaction, IsAnnouncedByTheLargerWorkOfWhichItIsAPart) {
     int told = 0;
-    const core::NotifyToken token([&](std::int16_t, std::int16_t, std::int32_t) { ++told; });
+    const core::NotifyToken token([&](core::RecordKind, std::int16_t, std::int32_t) { ++told; });
     {
         const platform::UnitOfWork rolledBack(core::App().Connection);
         books::PostTransaction(Payment());

@@ -85,8 +85,9 @@ class BooksStory : public tests::BooksTest,
         const Lines words = support::Split(event.rest, ' ');
         const int id = std::stoi(words.at(0));
         if (words.at(1) == "for") {
-            AddTriggered(id, words.at(2) == "account" ? core::kAccount : core::kTenant,
-                         std::stoi(words.at(3)), event.Added("category").value_or("NULL"));
+            AddTriggered(
+                id, core::KindNumber(words.at(2) == "account" ? core::kAccount : core::kTenant),
+                std::stoi(words.at(3)), event.Added("category").value_or("NULL"));
             return;
         }
         static constexpr std::array kUnits = {"days", "weeks", "months", "day", "years"};

@@ -23,7 +23,7 @@ using testing::ElementsAre;
 using Words = std::vector<std::string>;
 
 core::NotifyListener Says(Words& words, const std::string& word) {
-    return [&words, word](std::int16_t, std::int16_t, std::int32_t) { words.push_back(word); };
+    return [&words, word](core::RecordKind, std::int16_t, std::int32_t) { words.push_back(word); };
 }
 
 TEST_F(Broadcast, ListenersComeAndGoWhileItRuns) {
@@ -32,11 +32,11 @@ TEST_F(Broadcast, ListenersComeAndGoWhileItRuns) {
     std::unique_ptr<core::NotifyToken> removed;
     std::unique_ptr<core::NotifyToken> late;
     const core::NotifyToken first(Says(heard, "first"));
-    const core::NotifyToken failing([&](std::int16_t, std::int16_t, std::int32_t) {
+    const core::NotifyToken failing([&](core::RecordKind, std::int16_t, std::int32_t) {
         heard.emplace_back("failing");
         throw std::runtime_error("can't refresh");
     });
-    leaver = std::make_unique<core::NotifyToken>([&](std::int16_t, std::int16_t, std::int32_t) {
+    leaver = std::make_unique<core::NotifyToken>([&](core::RecordKind, std::int16_t, std::int32_t) {
         heard.emplace_back("leaver");
         removed.reset();
         late = std::make_unique<core::NotifyToken>(Says(heard, "late"));
@@ -53,16 +53,16 @@ TEST_F(Broadcast, ListenersComeAndGoWhileItRuns) {
 }
 
 TEST_F(Broadcast, OfAUnitOfWorkComesOnceAndWhenItIsKept) {
-    std::vector<std::int16_t> heard;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t) {
+    std::vector<core::RecordKind> heard;
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t, std::int32_t) {
         EXPECT_FALSE(core::App().Connection.InUnitOfWork());
         heard.push_back(kind);
         // A listener may write too.
         platform::UnitOfWork own(core::App().Connection);
         own.Commit();
     });
-    const auto announce = [](std::initializer_list<std::int16_t> kinds) {
-        for (const std::int16_t kind : kinds)
+    const auto announce = [](std::initializer_list<core::RecordKind> kinds) {
+        for (const core::RecordKind kind : kinds)
             core::NotifyAll(kind, core::kRecordsChanged, 0);
     };
     {
@@ -89,7 +89,7 @@ TEST_F(Broadcast, OfAUnitOfWorkComesOnceAndWhenItIsKept) {
 TEST_F(Broadcast, SettingsAreReadAgainBeforeAnyoneHearsOfThem) {
     Run("INSERT INTO Configuration (CompanyName) VALUES ('New name')");
     Words heard;
-    const core::NotifyToken token([&](std::int16_t, std::int16_t, std::int32_t) {
+    const core::NotifyToken token([&](core::RecordKind, std::int16_t, std::int32_t) {
         heard.push_back(core::Config().CompanyName);
     });
     core::NotifyAll(core::kBuilding, core::kRecordsChanged, 0);

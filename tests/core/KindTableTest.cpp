@@ -37,9 +37,9 @@ TEST_F(KindTable, NamesTablesFieldsAndStatementsThatThereAre) {
 TEST_F(KindTable, IsReadByNumber) {
     EXPECT_EQ(core::InfoOf(core::kWorkOrder).plural, "work orders");
     EXPECT_EQ(core::InfoOf(core::kVendorAccount).offers, core::kAccount);
-    EXPECT_EQ(core::InfoOf(21).name, "");
-    for (const int unknown : {-1, 41, 71, 30'000})
-        EXPECT_EQ(core::InfoOf(unknown).list, "") << unknown;
+    EXPECT_EQ(core::InfoOf(core::RecordKind{21}).name, "");
+    for (const std::int16_t unknown : {-1, 41, 71, 30'000})
+        EXPECT_EQ(core::InfoOf(core::RecordKind{unknown}).list, "") << unknown;
 }
 
 } // namespace

@@ -21,7 +21,8 @@ constexpr const char* kCases = VESTREL_TEST_DATA "/lists.cases";
 
 TEST_F(Descriptions, TellARecordInOneLine) {
     ForEachCase(kCases, "descriptions", [](const Case& each) {
-        EXPECT_EQ(core::GetDescription(each.Number<int>("kind"), each.Number<std::int32_t>("id"),
+        EXPECT_EQ(core::GetDescription(each.Number<core::RecordKind>("kind"),
+                                       each.Number<std::int32_t>("id"),
                                        each.Number<std::size_t>("length"), each.IsYes("short")),
                   each["line"]);
     });
@@ -46,7 +47,7 @@ TEST_F(Descriptions, NameEveryRecordThatAListMustShow) {
     Run("UPDATE Unit SET Unit = NULL WHERE IdUnit = 21");
     Run("INSERT INTO Transactions (IdTransaction) VALUES (70)");
     ForEachCase(kCases, "names", [](const Case& each) {
-        const int kind = each.Number<int>("kind");
+        const core::RecordKind kind = each.Number<core::RecordKind>("kind");
         const auto id = each.Number<std::int32_t>("id");
         EXPECT_EQ(core::NameOfRecord(kind, id), each["name"]);
         EXPECT_EQ(core::RecordExists(kind, id), each.IsYes("exists"));
@@ -65,7 +66,7 @@ TEST_F(Lists, ARecordWithoutATextEndsTheFillingUnlessItIsNamed) {
 TEST_F(Lists, OfferTheRecordsOfAKindInTheOrderOfTheirText) {
     ForEachCase(kCases, "lists", [](const Case& each) {
         ChoiceList list;
-        core::FillList(each.Number<int>("kind"), list,
+        core::FillList(each.Number<core::RecordKind>("kind"), list,
                        {.selectedId = each.Number<std::int32_t>("selected"),
                         .addNone = each.IsYes("none"),
                         .parentId = each.Number<std::int32_t>("parent")});

@@ -34,8 +34,8 @@ TEST_F(Lookups, LinksAreFollowedAndMissingOnesAreZero) {
 
 TEST_F(Lookups, AStatusIsWrittenAndBroadcast) {
     std::vector<int> heard;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t action, std::int32_t id) {
-        heard.insert(heard.end(), {kind, action, id});
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t action, std::int32_t id) {
+        heard.insert(heard.end(), {core::KindNumber(kind), action, id});
     });
     core::SetUnitStatus(20, "Leased");
     core::SetTenantStatus(30, "Ann's");

@@ -12,13 +12,13 @@ namespace tests {
 
 /// Hears a run of the books: a line for each row it posted and each record it skipped.
 struct RunHeard : core::RunListener {
-    void Posted(int kind, std::int32_t id, std::string_view description,
+    void Posted(core::RecordKind kind, std::int32_t id, std::string_view description,
                 const std::vector<core::PostedRow>& rows) override {
         for (const core::PostedRow& row : rows)
             posted.push_back(fmt::format("{} {} {}: {} {} {}", kind, id, description, row.category,
                                          row.date.ToText(), platform::MoneyToText(row.amount)));
     }
-    void Failed(int kind, std::int32_t id, std::string_view description,
+    void Failed(core::RecordKind kind, std::int32_t id, std::string_view description,
                 std::string_view reason) override {
         failed.push_back(fmt::format("{} {} {}: {}", kind, id, description, reason));
     }

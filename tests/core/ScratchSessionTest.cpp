@@ -78,7 +78,7 @@ TEST_F(Scratch, EndsWithWhateverEndsTheRoutine) {
 TEST_F(Scratch, IsNoticedByNobodyElse) {
     int heard = 0;
     int pumped = 0;
-    const core::NotifyToken token([&](std::int16_t, std::int16_t, std::int32_t) { ++heard; });
+    const core::NotifyToken token([&](core::RecordKind, std::int16_t, std::int32_t) { ++heard; });
     core::SetMessagePump([&] { ++pumped; });
     {
         const ScratchSession scratch(File(), later_);

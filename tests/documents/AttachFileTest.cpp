@@ -61,13 +61,13 @@ TEST_F(AttachedFiles, AreDescribedByTheirNames) {
 }
 
 TEST_F(AttachedFiles, TakeAnIdentifierAndTellTheScreens) {
-    std::vector<std::pair<int, int>> heard;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t action, std::int32_t) {
+    std::vector<std::pair<core::RecordKind, int>> heard;
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t action, std::int32_t) {
         heard.emplace_back(kind, action);
     });
     EXPECT_TRUE(Attach("/a.txt"));
     EXPECT_EQ(1000, documents::FilesOf(core::kUnit, 20).at(0).id);
-    EXPECT_EQ((std::vector<std::pair<int, int>>{{core::kFileObject, 1}}), heard);
+    EXPECT_EQ((std::vector<std::pair<core::RecordKind, int>>{{core::kFileObject, 1}}), heard);
 }
 
 TEST_F(AttachedFiles, OfALongPathAreRefusedFrom256Characters) {

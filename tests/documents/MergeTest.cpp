@@ -30,7 +30,7 @@ class Letters : public tests::CoreRecords {
         core::Config().DocDirectory = PathTo("letters");
     }
 
-    static std::string Merged(std::string text, std::int16_t kind, std::int32_t id,
+    static std::string Merged(std::string text, core::RecordKind kind, std::int32_t id,
                               TextKind textKind = TextKind::Plain) {
         platform::Recordset fields;
         documents::OpenMergeSource(fields, kind, id);
@@ -76,7 +76,7 @@ TEST_F(Letters, ReadEachKindsRecordWithWhatItNames) {
     Run("INSERT INTO Mileage (IdMileage, Vehicle, EntryDate, IdBuilding) "
         "VALUES (92, 'Van', '05/01/2024', 10)");
     struct Case {
-        std::int16_t kind;
+        core::RecordKind kind;
         std::int32_t id;
         std::string text;
         std::string merged;
@@ -203,7 +203,7 @@ TEST_F(Letters, AreListedWithTheKindsTheyAreFor) {
     documents::SetDocFlag(late, 1, true);
     documents::SetDocFlag(all, 8, true);
     documents::SetDocFlag(all, 1, true);
-    const auto names = [](std::int16_t kind) {
+    const auto names = [](core::RecordKind kind) {
         std::string joined;
         for (const auto& letter : documents::DocTemplatesOf(kind))
             joined += letter.description + ";";
@@ -222,7 +222,7 @@ TEST_F(Letters, AreListedWithTheKindsTheyAreFor) {
 }
 
 TEST_F(Letters, NameTheTagsThatCannotBeFilled) {
-    const std::vector<std::int16_t> kinds = {core::kTenant};
+    const std::vector<core::RecordKind> kinds = {core::kTenant};
     const auto faults = documents::CheckTemplate(
         "x.rtf",
         "{\\rtf1 <<LastName>> <<Rent>> <<rent>> <<!date>> <<!foo>> <<First\\b Name>> "

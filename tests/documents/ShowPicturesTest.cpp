@@ -17,10 +17,10 @@ using Started = std::vector<std::string>;
 
 class PictureShow : public tests::CoreRecords {
   protected:
-    static void Attach(std::int16_t kind, std::int32_t id, std::string path) {
+    static void Attach(core::RecordKind kind, std::int32_t id, std::string path) {
         ASSERT_TRUE(documents::AttachFile(kind, id, path));
     }
-    void Show(std::int16_t kind, std::int32_t id, std::string title = {}) {
+    void Show(core::RecordKind kind, std::int32_t id, std::string title = {}) {
         documents::ShowPictures(kind, id, std::move(title),
                                 [this](const auto& program, const auto& arguments) {
                                     started_ = arguments;

@@ -35,9 +35,10 @@ const Date kLastDay(2025, 3, 3);
 
 class NobodyListens : public core::RunListener {
   public:
-    void Posted(int, std::int32_t, std::string_view, const std::vector<core::PostedRow>&) override {
-    }
-    void Failed(int, std::int32_t, std::string_view description, std::string_view reason) override {
+    void Posted(core::RecordKind, std::int32_t, std::string_view,
+                const std::vector<core::PostedRow>&) override {}
+    void Failed(core::RecordKind, std::int32_t, std::string_view description,
+                std::string_view reason) override {
         ADD_FAILURE() << description << ": " << reason;
     }
 };

@@ -85,8 +85,9 @@ TEST_F(LeaseWizard, MakesItsPropertyAndItsTenantWhereTheyAreNew) {
     entry.zip = "97301";
     entry.lastName = "D'Arcy";
     std::vector<int> told;
-    const core::NotifyToken token(
-        [&](std::int16_t kind, std::int16_t, std::int32_t) { told.push_back(kind); });
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t, std::int32_t) {
+        told.push_back(core::KindNumber(kind));
+    });
     const std::int32_t id = leases::FinishLeaseWizard(entry);
     const std::string unit = Field(id, "IdUnit");
     const std::string tenant = Field(id, "IdTenant");
@@ -102,7 +103,7 @@ TEST_F(LeaseWizard, MakesItsPropertyAndItsTenantWhereTheyAreNew) {
     core::ChoiceList leases;
     EXPECT_NO_THROW(core::FillList(core::kLease, leases)) << "the new records have no gaps";
     EXPECT_EQ(leases.Rows().size(), 2U);
-    for (const int kind : {core::kBuilding, core::kUnit, core::kTenant, core::kLease})
+    for (const core::RecordKind kind : {core::kBuilding, core::kUnit, core::kTenant, core::kLease})
         EXPECT_NE(std::find(told.begin(), told.end(), kind), told.end()) << kind;
 }
 

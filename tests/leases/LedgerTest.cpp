@@ -64,7 +64,7 @@ TEST_F(LedgerTest, ADepositIsOfferedForRefundOnce) {
     leases::SubmitPayment(leases::ProposePayment(kLeaseId, TransactionClass::Deposit));
     books::RegisterTransactionListener(leases::WriteDepositRow);
     Lines told;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t id) {
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t, std::int32_t id) {
         told.push_back(fmt::format("{} {}", kind, id));
     });
     const auto refund = leases::ProposeDepositRefund(kLeaseId);

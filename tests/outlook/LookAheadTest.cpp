@@ -41,7 +41,7 @@ const Date kMade(2026, 11, 21);
 /// Hears what a run posts and skips.
 class RunHeard : public core::RunListener {
   public:
-    void Posted(int kind, std::int32_t, std::string_view name,
+    void Posted(core::RecordKind kind, std::int32_t, std::string_view name,
                 const std::vector<core::PostedRow>& rows) override {
         for (const core::PostedRow& row : rows) {
             posted.push_back(fmt::format("{} {} {} {} {}", row.date.ToText(), kind, name,
@@ -49,7 +49,9 @@ class RunHeard : public core::RunListener {
                                          platform::MoneyToFixedText(row.amount)));
         }
     }
-    void Failed(int, std::int32_t, std::string_view, std::string_view) override { ++count; }
+    void Failed(core::RecordKind, std::int32_t, std::string_view, std::string_view) override {
+        ++count;
+    }
     int count = 0;
     Lines posted;
 };
@@ -98,7 +100,7 @@ std::string LineOf(const ForecastRow& row) {
 /// as LineOf has it.
 Lines PostedAfter(const std::string& lastId) {
     Lines lines;
-    const auto add = [&](const std::string& sql, int kind, auto flow) {
+    const auto add = [&](const std::string& sql, core::RecordKind kind, auto flow) {
         for (auto row = core::Read(sql); !row.Eof(); row.MoveNext()) {
             lines.push_back(fmt::format("{} {} {} {} {} {}", row[0].AsText(), kind, row[1].AsText(),
                                         platform::Trim(row[2].AsText()),

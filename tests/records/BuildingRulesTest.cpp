@@ -21,9 +21,9 @@ TEST_F(BuildingRulesTest, AnAddressIsMoreThanBlanks) {
 
 TEST_F(BuildingRulesTest, ANewUnitStandsOnHoldWithNothingUnset) {
     std::string told;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t action, std::int32_t id) {
-        told +=
-            std::to_string(kind) + " " + std::to_string(action) + " " + std::to_string(id) + ";";
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t action, std::int32_t id) {
+        told += std::to_string(core::KindNumber(kind)) + " " + std::to_string(action) + " " +
+                std::to_string(id) + ";";
     });
     EXPECT_EQ(records::MakeNewUnit(10), 1000);
     EXPECT_EQ(told, "29 1 0;");

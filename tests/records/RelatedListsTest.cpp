@@ -45,7 +45,7 @@ class RelatedListsTest : public tests::CoreRecords {
             Run(sql);
         }
     }
-    static const RelatedList& Tab(std::int16_t ownerKind, std::string_view caption) {
+    static const RelatedList& Tab(core::RecordKind ownerKind, std::string_view caption) {
         for (const RelatedList& list : records::TabbedLists(ownerKind)) {
             if (list.caption == caption) return list;
         }
@@ -94,7 +94,7 @@ TEST_F(RelatedListsTest, EachTabShowsWhatHangsFromItsOwnerAlone) {
 
 TEST_F(RelatedListsTest, TheTabsStandInTheirOrder) {
     std::string captions;
-    for (const std::int16_t kind : {core::kBuilding, core::kUnit, core::kTenant}) {
+    for (const core::RecordKind kind : {core::kBuilding, core::kUnit, core::kTenant}) {
         for (const RelatedList& list : records::TabbedLists(kind))
             captions += std::string(list.caption) + "=" + std::string(list.gridKey) + " ";
         captions += "; ";

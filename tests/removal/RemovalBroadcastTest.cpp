@@ -19,7 +19,7 @@ using testing::Pair;
 class RemovalBroadcast : public tests::Portfolio {
   protected:
     std::vector<std::pair<std::int16_t, std::int16_t>> heard_;
-    core::NotifyToken token_{[this](std::int16_t kind, std::int16_t action, std::int32_t) {
+    core::NotifyToken token_{[this](core::RecordKind kind, std::int16_t action, std::int32_t) {
         heard_.emplace_back(kind, action);
     }};
 };
@@ -34,7 +34,7 @@ TEST_F(RemovalBroadcast, TellsTheKindsOfWhatWentOnceKept) {
 
 TEST_F(RemovalBroadcast, ComesWhenTheRemovalIsOnDisk) {
     std::vector<std::string> unitsOnDisk;
-    const core::NotifyToken token([&](std::int16_t, std::int16_t, std::int32_t) {
+    const core::NotifyToken token([&](core::RecordKind, std::int16_t, std::int32_t) {
         platform::Connection another;
         another.Open(core::App().DbFile, platform::OpenMode::ReadOnly);
         unitsOnDisk.push_back(another.Scalar("SELECT Count(*) FROM Unit")->AsText());

@@ -4,6 +4,7 @@
 #include "core/RecordKinds.h"
 #include "removal/DeleteRecord.h"
 #include "removal/PortfolioFixture.h"
+#include "removal/RemovalTable.h"
 #include "support/ScriptedDialogs.h"
 
 namespace {
@@ -13,7 +14,7 @@ using removal::DeleteRecord;
 using testing::IsEmpty;
 
 struct QuestionCase {
-    std::int16_t kind;
+    core::RecordKind kind;
     std::int32_t id;
     std::string text;
     std::string title = "Confirm Delete";
@@ -42,8 +43,8 @@ TEST_F(RemovalQuestions, SayWhatGoesAndANoLeavesEverything) {
         {core::kFileObject, 670, "Delete selected file link?"},
         {core::kDocument, 660, "Delete selected Document?"},
         {core::kRentLog, 710, "Delete selected item?"},
-        {71, 681, "Delete selected Analysis?"},
-        {73, 682, "Delete selected Note Analysis?"},
+        {removal::kAnalysis, 681, "Delete selected Analysis?"},
+        {removal::kNoteAnalysis, 682, "Delete selected Note Analysis?"},
         {core::kAccount, 401,
          "This account is linked to the following critical items:\n\n"
          "2 Owner Link(s) to Properties\n"

@@ -21,7 +21,7 @@ TEST_F(Removal, TakesAndChangesTheToldRowsAlone) {
     const auto file = std::filesystem::path(VESTREL_TEST_DATA) / "Removal.cases";
     support::ForEachCase(file, "removals", [this](const support::Case& one) {
         const platform::UnitOfWork rolledBack(core::App().Connection);
-        EXPECT_TRUE(DeleteRecord(one.Number<std::int16_t>("kind"),
+        EXPECT_TRUE(DeleteRecord(one.Number<core::RecordKind>("kind"),
                                  one.Number<std::int32_t>("record"), Confirm::DontAsk,
                                  Tell::Nobody));
         EXPECT_EQ(Changes(), support::Split(one["changes"]));
@@ -29,7 +29,8 @@ TEST_F(Removal, TakesAndChangesTheToldRowsAlone) {
 }
 
 TEST_F(Removal, OfNoRecordTouchesNothing) {
-    for (const std::int16_t kind : {core::kAccount, core::kBuilding, core::kUnit, core::kTenant}) {
+    for (const core::RecordKind kind :
+         {core::kAccount, core::kBuilding, core::kUnit, core::kTenant}) {
         EXPECT_FALSE(DeleteRecord(kind, 0, Confirm::DontAsk));
         removal::RemoveRecord(kind, 0);
     }

@@ -58,9 +58,11 @@ class FinderTest : public tests::CoreRecords {
         std::vector<std::string> found;
         for (const search::HitGroup& group : finder.Find(text, most)) {
             for (const search::Hit& hit : group.hits) {
-                found.push_back(hit.record ? group.name + ' ' + std::to_string(hit.record->kind) +
-                                                 ' ' + std::to_string(hit.record->id)
-                                           : group.name + ": " + hit.title);
+                found.push_back(hit.record
+                                    ? group.name + ' ' +
+                                          std::to_string(core::KindNumber(hit.record->kind)) + ' ' +
+                                          std::to_string(hit.record->id)
+                                    : group.name + ": " + hit.title);
             }
         }
         return found;

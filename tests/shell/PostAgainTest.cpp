@@ -26,7 +26,7 @@ class PostingAgain : public TakingBack {};
 
 TEST_F(PostingAgain, IsAsIfTheRowHadStayedWhileItsPartiesWereDeleted) {
     struct Party {
-        std::int16_t kind;
+        core::RecordKind kind;
         const char* side;
     };
     for (const Party& party : {Party{core::kAccount, "Debit"}, Party{core::kAccount, "Credit"},

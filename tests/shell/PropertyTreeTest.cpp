@@ -69,8 +69,8 @@ TEST_F(PropertyTreeTest, MovesAUnitWithItsRowsAfterAsking) {
     Run("INSERT INTO Transactions (IdTransaction, IdUnit, IdBuilding) VALUES (2, 20, 10)");
     Run("INSERT INTO Transactions (IdTransaction, IdUnit, IdBuilding) VALUES (3, 21, 10)");
     std::string notified;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t) {
-        notified += std::to_string(kind) + ";";
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t, std::int32_t) {
+        notified += std::to_string(core::KindNumber(kind)) + ";";
     });
     support::ScriptedDialogs dialogs({false, true});
     EXPECT_FALSE(shell::MoveUnit(20, 11));

@@ -84,7 +84,7 @@ TEST_F(SampleUnits, AreInOrderAfterRecordsOfEachKindAreRemoved) {
     core::App().DbFile = Folder() / "sample" / "Vestrel.mdb";
     core::App().Connection.Open(core::App().DbFile);
     const struct {
-        std::int16_t kind;
+        core::RecordKind kind;
         const char* oneOf;
     } removals[] = {
         {core::kTransaction, "SELECT IdTransaction FROM Transactions WHERE Class = 1"},

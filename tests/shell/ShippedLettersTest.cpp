@@ -24,7 +24,7 @@ constexpr int kUnits = 12;
 constexpr std::size_t kLetters = 10;
 
 /// The records of each kind that its letters are written for.
-const std::map<std::int16_t, std::string> kRecords = {
+const std::map<core::RecordKind, std::string> kRecords = {
     {core::kAccount, "SELECT IdAccount FROM Account WHERE AccountType = 'Building Owner'"},
     {core::kLease, "SELECT IdLease FROM Lease ORDER BY RentDue DESC, IdLease"},
     {core::kMortgage, "SELECT IdMortgage FROM Mortgage"},
@@ -55,7 +55,7 @@ class ShippedLetters : public tests::CoreProcess {
             ids.push_back(rows[std::size_t{0}].AsLong());
         return ids;
     }
-    static std::string Merged(const documents::DocTemplate& letter, std::int16_t kind,
+    static std::string Merged(const documents::DocTemplate& letter, core::RecordKind kind,
                               std::int32_t id) {
         std::string text = platform::ReadWholeFile(letter.filePath);
         platform::Recordset fields;
@@ -79,7 +79,7 @@ TEST_F(ShippedLetters, AreListedInTheSampleAndFilledByItsRecords) {
         ++listed;
         const auto flag = std::ranges::find(doc.flags, true);
         ASSERT_NE(flag, doc.flags.end()) << "no record offers it";
-        const std::int16_t kind =
+        const core::RecordKind kind =
             documents::kDocFlags.at(static_cast<std::size_t>(flag - doc.flags.begin())).kind;
         const std::vector<std::int32_t> ids = Ids(kRecords.at(kind));
         ASSERT_FALSE(ids.empty());

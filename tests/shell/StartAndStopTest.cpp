@@ -128,20 +128,20 @@ TEST(RunDigest, CountsWhatWasPostedSinceTheFirstDay) {
     EXPECT_EQ(digest.Line(), "");
     EXPECT_EQ(digest.FaultLine(), "");
     const auto amount = platform::Currency::FromUnits(900);
-    digest.Posted(2, 40, "Smith", {{platform::Date(2026, 11, 1), "Rent", amount}});
+    digest.Posted(core::kLease, 40, "Smith", {{platform::Date(2026, 11, 1), "Rent", amount}});
     EXPECT_EQ(digest.Line(), "Since 11/01/2026: 1 rent charge");
-    digest.Posted(2, 41, "O'Brien",
+    digest.Posted(core::kLease, 41, "O'Brien",
                   {{platform::Date(2026, 10, 3), "Rent", amount},
                    {platform::Date(2026, 10, 9), "Late Fee", amount},
                    {platform::Date(2026, 10, 9), "Cleaning", amount}});
     EXPECT_EQ(digest.Line(), "Since 10/03/2026: 2 rent charges, 1 late fee, 1 Cleaning");
     EXPECT_EQ(digest.DescriptionOf(digest.Rows().back()), "O'Brien");
-    digest.Posted(3, 50, "Loan",
+    digest.Posted(core::kMortgage, 50, "Loan",
                   {{platform::Date(2026, 11, 1), "Mortgage Payment", amount},
                    {platform::Date(2026, 11, 1), "Mortgage Escrow", amount}});
     EXPECT_THAT(digest.Line(), testing::EndsWith("1 mortgage charge, 1 escrow charge"))
         << "the run charges; it pays nothing";
-    digest.Failed(2, 42, "Zu", "no date");
+    digest.Failed(core::kLease, 42, "Zu", "no date");
     EXPECT_EQ(digest.FaultLine(), "1 record could not be brought up to date");
 }
 
@@ -153,12 +153,12 @@ TEST(DigestTable, ListsWhatWasSkippedAndThenWhatWasPosted) {
               "\"No.\",\"Day\",\"What\",\"Reason\",\"Amount\",\"Record\",\"Taken Back\"\n");
     const platform::Date day(2026, 10, 3);
     const auto amount = platform::Currency::FromUnits(70);
-    digest.Posted(2, 41, "O'Brien",
+    digest.Posted(core::kLease, 41, "O'Brien",
                   {{day, "Rent Subsidy ", amount, {core::Posting::Subsidy, day}, 8},
                    {day, "Rent Subsidy ", amount, {core::Posting::Subsidy, day}, 9}});
-    digest.Failed(2, 42, "Zu", "no date");
-    digest.Failed(0, 0, "Leases", "no table");
-    const core::TakenRow taken{.recordKind = 2,
+    digest.Failed(core::kLease, 42, "Zu", "no date");
+    digest.Failed(core::kNone, 0, "Leases", "no table");
+    const core::TakenRow taken{.recordKind = core::kLease,
                                .recordId = 41,
                                .posting = core::Posting::Subsidy,
                                .date = day,
@@ -177,9 +177,9 @@ TEST(DigestTable, ListsWhatWasSkippedAndThenWhatWasPosted) {
                               "subsidy\",70.0000,\"O'Brien\",10/05/2026\n");
     ASSERT_NE(table.PostedRow(3), nullptr);
     EXPECT_EQ(table.PostedRow(3)->recordId, 41);
-    EXPECT_EQ(table.RecordOf(1), (shell::RecordPlace{2, 42}));
+    EXPECT_EQ(table.RecordOf(1), (shell::RecordPlace{core::kLease, 42}));
     EXPECT_EQ(table.RecordOf(2), std::nullopt) << "a whole step of the run";
-    EXPECT_EQ(table.RecordOf(4), (shell::RecordPlace{2, 41}));
+    EXPECT_EQ(table.RecordOf(4), (shell::RecordPlace{core::kLease, 41}));
     for (const int outside : {0, -1, 1, 2, 5})
         EXPECT_EQ(table.PostedRow(outside), nullptr) << outside;
 }

@@ -126,9 +126,9 @@ TEST_F(TakingBack, PostsTheSameRowAgain) {
     ASSERT_EQ(history.size(), 1U);
     std::int32_t file = 5'000'000;
     for (const DigestRow& row : history.front().digest.Rows()) {
-        const std::int16_t kind = row.recordKind == core::kLease      ? core::kRentLog
-                                  : row.recordKind == core::kMortgage ? core::kMortgageLog
-                                                                      : core::kTransaction;
+        const core::RecordKind kind = row.recordKind == core::kLease      ? core::kRentLog
+                                      : row.recordKind == core::kMortgage ? core::kMortgageLog
+                                                                          : core::kTransaction;
         for (const char* const path : {"scan.pdf", "photo.png"})
             core::Execute(
                 "INSERT INTO FileObject (IdFileObject, dbType, IdOwner, FilePath, IsPic) "

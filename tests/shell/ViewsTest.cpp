@@ -42,7 +42,7 @@ class Views : public tests::CoreRecords {
             std::to_string(idBuilding) + ")");
     }
 
-    static std::vector<std::int32_t> Ids(std::int16_t kind, const ViewFilter& filter) {
+    static std::vector<std::int32_t> Ids(core::RecordKind kind, const ViewFilter& filter) {
         platform::Recordset rows;
         rows.Open(core::App().Connection, BuildViewSql(kind, filter, IdColumn::First));
         std::vector<std::int32_t> ids;
@@ -58,7 +58,7 @@ TEST_F(Views, HaveTheirColumnsWithAndWithoutTheId) {
             for (const IdColumn idColumn : {IdColumn::First, IdColumn::Omitted}) {
                 platform::Recordset rows;
                 rows.Open(core::App().Connection,
-                          BuildViewSql(each.Number<std::int16_t>("kind"), {}, idColumn));
+                          BuildViewSql(each.Number<core::RecordKind>("kind"), {}, idColumn));
                 std::string names;
                 for (std::size_t i = 0; i < rows.FieldCount(); ++i)
                     names += (i == 0 ? "" : ", ") + rows[i].Name();

@@ -40,7 +40,8 @@ TEST(Availability, NeedsAListARecordAndAnEditor) {
              {{core::kLease, 7, 1, true, true}, readOnly, "", "", "", readOnly, ""},
          }) {
         const shell::Availability why = shell::EnableEditButtons(c.state);
-        const auto told = std::to_string(c.state.kind) + " " + std::to_string(c.state.selectedId);
+        const auto told = std::to_string(core::KindNumber(c.state.kind)) + " " +
+                          std::to_string(c.state.selectedId);
         EXPECT_EQ(why.add, c.add) << told;
         EXPECT_EQ(why.list, c.list) << told;
         EXPECT_EQ(why.edit, c.edit) << told;
@@ -52,7 +53,7 @@ TEST(Availability, NeedsAListARecordAndAnEditor) {
 
 TEST(ExtraItems, BelongToTheirViews) {
     struct Case {
-        std::int16_t kind;
+        core::RecordKind kind;
         std::string shown;
     };
     for (const Case& c : std::vector<Case>{
@@ -70,7 +71,7 @@ TEST(ExtraItems, BelongToTheirViews) {
         if (extra.payMortgage) shown += "mortgage ";
         if (extra.copy) shown += "copy ";
         if (extra.Separator()) shown += "separator ";
-        EXPECT_EQ(shown, c.shown) << c.kind;
+        EXPECT_EQ(shown, c.shown) << core::KindNumber(c.kind);
     }
 }
 
@@ -78,7 +79,7 @@ TEST(CellMarks, TurnRedLaterForALeaseThanForAMortgage) {
     const std::map<std::string, Mark> marks = {
         {"None", Mark::None}, {"Yellow", Mark::Yellow}, {"Red", Mark::Red}};
     support::ForEachCase(VESTREL_TEST_DATA "/marks.cases", "marks", [&](const support::Case& each) {
-        const auto kind = each.Number<std::int16_t>("kind");
+        const auto kind = each.Number<core::RecordKind>("kind");
         EXPECT_EQ(shell::MarkOf(kind, each["word"]), marks.at(each["mark"]));
     });
 }

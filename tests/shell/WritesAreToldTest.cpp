@@ -88,11 +88,11 @@ class WritesAreTold : public tests::Portfolio {
 
     /// The tables that `work` wrote and told nobody of; "Table: nothing written" if it did nothing.
     std::vector<std::string> Untold(const std::function<void()>& work) {
-        std::set<std::int16_t> told;
+        std::set<core::RecordKind> told;
         Look();
         {
             const core::NotifyToken token(
-                [&](std::int16_t kind, std::int16_t, std::int32_t) { told.insert(kind); });
+                [&](core::RecordKind kind, std::int16_t, std::int32_t) { told.insert(kind); });
             work();
         }
         std::set<std::string> tables;
@@ -106,7 +106,7 @@ class WritesAreTold : public tests::Portfolio {
         std::vector<std::string> untold;
         for (const std::string& table : tables) {
             // Rows of no kind, such as those of StatusLog, are shown nowhere by themselves.
-            const std::int16_t kind = core::KindOfTable(table);
+            const core::RecordKind kind = core::KindOfTable(table);
             if (kind != core::kNone && !told.contains(kind)) untold.push_back(table);
         }
         return untold;
@@ -248,16 +248,16 @@ TEST_F(WritesAreTold, ByEveryRemoval) {
             << id;
     }
     for (const auto& [kind, id] :
-         std::vector<std::pair<std::int16_t, std::int32_t>>{{core::kOwner, 420},
-                                                            {core::kAppliance, 510},
-                                                            {core::kWorkOrder, 600},
-                                                            {core::kLease, 701},
-                                                            {core::kUnit, 200},
-                                                            {core::kTenant, 301},
-                                                            {core::kAccount, 401},
-                                                            {core::kMortgage, idMortgage_},
-                                                            {core::kBuilding, 100},
-                                                            {core::kBuilding, 101}}) {
+         std::vector<std::pair<core::RecordKind, std::int32_t>>{{core::kOwner, 420},
+                                                                {core::kAppliance, 510},
+                                                                {core::kWorkOrder, 600},
+                                                                {core::kLease, 701},
+                                                                {core::kUnit, 200},
+                                                                {core::kTenant, 301},
+                                                                {core::kAccount, 401},
+                                                                {core::kMortgage, idMortgage_},
+                                                                {core::kBuilding, 100},
+                                                                {core::kBuilding, 101}}) {
         EXPECT_EQ(Untold([&] { removal::DeleteRecord(kind, id, Confirm::DontAsk); }),
                   std::vector<std::string>())
             << core::RecordKindName(kind) << ' ' << id;

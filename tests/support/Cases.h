@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace support {
@@ -54,6 +55,11 @@ class Case {
         if (read.ec == std::errc() && read.ptr == end) return number;
         throw std::runtime_error("'" + text + "' is not a number");
     }
+
+    /// A cell as a code, written as its number. Throws as above.
+    template <typename Code>
+    requires std::is_enum_v<Code> Code Number(std::string_view column)
+    const { return static_cast<Code>(Number<std::underlying_type_t<Code>>(column)); }
 
     /// Whether a cell is "yes". Throws std::runtime_error if it is not "no" either.
     bool IsYes(std::string_view column) const {

@@ -58,7 +58,7 @@ std::optional<std::string> Event::Added(std::string_view words) const {
 }
 
 StoryPlayer::StoryPlayer()
-    : token_([this](std::int16_t kind, std::int16_t, std::int32_t) {
+    : token_([this](core::RecordKind kind, std::int16_t, std::int32_t) {
           told_ += fmt::format("{}{}{}", told_.empty() ? "" : " ", kind,
                                Books().InUnitOfWork() ? "?" : "");
       }) {

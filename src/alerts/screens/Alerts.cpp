@@ -19,6 +19,7 @@
 #include "alerts/PortfolioSummary.h"
 #include "alerts/screens/SideMenu.h"
 #include "core/EditRecord.h"
+#include "core/RecordKinds.h"
 #include "core/forms/ErrorRoll.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Text.h"
@@ -255,8 +256,8 @@ std::string Alerts::NotesText() const {
 void Alerts::OpenAlert() const {
     const auto row = static_cast<std::size_t>(list_->currentRow());
     if (list_->currentRow() < 0 || row >= records_.size()) return;
-    const std::pair<std::int16_t, std::int32_t> record = records_[row];
-    if (record.first == 0 || record.second == 0) return;
+    const std::pair<core::RecordKind, std::int32_t> record = records_[row];
+    if (record.first == core::kNone || record.second == 0) return;
     core::forms::Guarded([record] { core::EditRecord(record.first, record.second); });
 }
 

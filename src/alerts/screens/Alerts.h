@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/RecordKinds.h"
+
 class QAction;
 class QLabel;
 class QTimer;
@@ -65,7 +67,8 @@ class Alerts : public QWidget {
     QPlainTextEdit* notes_;
     QTimer* saving_; ///< runs from the last change of the notes until they are saved, or tried
     std::string toldFault_;
-    std::vector<std::pair<std::int16_t, std::int32_t>> records_; ///< kind and id, a pair each row
+    std::vector<std::pair<core::RecordKind, std::int32_t>>
+        records_; ///< kind and id, a pair each row
 };
 
 } // namespace alerts::screens

@@ -23,7 +23,7 @@ using core::forms::PerformOn;
 
 General_Ledger::General_Ledger(QWidget* parent)
     : RecordList(parent),
-      token_([this](std::int16_t kind, std::int16_t, std::int32_t) { NotifyUpdate(kind); }) {
+      token_([this](core::RecordKind kind, std::int16_t, std::int32_t) { NotifyUpdate(kind); }) {
     MakeHead();
     connect(cboDays_, &QComboBox::currentIndexChanged, this, &General_Ledger::PeriodChosen);
     connect(optUnit_, &QRadioButton::toggled, this, &General_Ledger::ScopeChosen);
@@ -64,7 +64,7 @@ void General_Ledger::MakeHead() {
     SetHead(head);
 }
 
-void General_Ledger::SetParty(std::int16_t dbType, std::int32_t id, std::int32_t idBuilding) {
+void General_Ledger::SetParty(core::RecordKind dbType, std::int32_t id, std::int32_t idBuilding) {
     view_.dbType = dbType;
     view_.id = id;
     view_.idBuilding = idBuilding;
@@ -108,7 +108,7 @@ void General_Ledger::Add() {
     (new frmTransaction)->Setup(setup);
 }
 
-void General_Ledger::NotifyUpdate(std::int16_t kind) {
+void General_Ledger::NotifyUpdate(core::RecordKind kind) {
     if (kind == core::kTransaction) Refresh();
 }
 

@@ -4,6 +4,7 @@
 
 #include "books/LedgerView.h"
 #include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "core/grid/RecordList.h"
 
 class QComboBox;
@@ -21,7 +22,7 @@ class General_Ledger : public core::grid::RecordList {
 
     /// Sets whose transactions to show: an account, a tenant or a unit with its building. The panel
     /// is disabled while the id is 0.
-    void SetParty(std::int16_t dbType, std::int32_t id, std::int32_t idBuilding = 0);
+    void SetParty(core::RecordKind dbType, std::int32_t id, std::int32_t idBuilding = 0);
     void Refresh();
 
   private:
@@ -29,7 +30,7 @@ class General_Ledger : public core::grid::RecordList {
     void PeriodChosen();
     void ScopeChosen();
     void Add();
-    void NotifyUpdate(std::int16_t kind);
+    void NotifyUpdate(core::RecordKind kind);
 
     LedgerView view_;
     QComboBox* cboDays_;

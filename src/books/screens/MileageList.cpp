@@ -124,7 +124,7 @@ void frmMileage::FillLists() {
     FillFilterItems();
 }
 
-void frmMileage::Refresh(std::int16_t kind) {
+void frmMileage::Refresh(core::RecordKind kind) {
     if (kind != core::kMileage && kind != core::kBuilding) return;
     const QScopedValueRollback filling(filling_, true);
     if (kind == core::kBuilding)

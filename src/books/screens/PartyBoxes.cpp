@@ -18,8 +18,8 @@ using core::binding::ReadCombo;
 PartyBoxes::PartyBoxes(QComboBox& type, QComboBox& party, Nobody nobody, QObject* parent)
     : QObject(parent), type_(type), party_(party), nobody_(nobody) {
     const QSignalBlocker quiet(type_);
-    type_.addItem(tr("Account"), core::kAccount);
-    type_.addItem(tr("Tenant"), core::kTenant);
+    core::binding::AddKind(type_, tr("Account"), core::kAccount);
+    core::binding::AddKind(type_, tr("Tenant"), core::kTenant);
     LetNamesStand();
     connect(&type_, &QComboBox::currentIndexChanged, this, [this] { Fill(0); });
 }
@@ -33,8 +33,8 @@ void PartyBoxes::LetNamesStand() {
     disconnect(party_.lineEdit(), &QLineEdit::editingFinished, &party_, nullptr);
 }
 
-void PartyBoxes::Show(std::int16_t type, std::int32_t id) {
-    core::binding::SelectById(type_, type, {.selectFirst = true});
+void PartyBoxes::Show(core::RecordKind type, std::int32_t id) {
+    core::binding::SelectById(type_, core::KindNumber(type), {.selectFirst = true});
     ShowStored(id);
 }
 
@@ -52,7 +52,7 @@ void PartyBoxes::ShowStored(std::int32_t id, std::string_view name) {
     core::binding::ShowInCombo(list, party_);
 }
 
-void PartyBoxes::Refresh(std::int16_t kind) {
+void PartyBoxes::Refresh(core::RecordKind kind) {
     if (kind != Type()) return;
     const core::ChoiceList before = ReadCombo(party_);
     FillList(kind, party_, {.addNone = nobody_ == Nobody::Offered});
@@ -71,8 +71,8 @@ void PartyBoxes::Fill(std::int32_t id) {
     });
 }
 
-std::int16_t PartyBoxes::Type() const {
-    return static_cast<std::int16_t>(core::binding::GetSelectedId(type_));
+core::RecordKind PartyBoxes::Type() const {
+    return core::binding::SelectedKind(type_);
 }
 
 std::int32_t PartyBoxes::Id() const {

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/RecordKinds.h"
+
 class QComboBox;
 
 namespace books::screens {
@@ -21,15 +23,15 @@ class PartyBoxes : public QObject {
     PartyBoxes(QComboBox& type, QComboBox& party, Nobody nobody, QObject* parent);
 
     /// Fills both boxes for a kind and a record of it; selects the first row for id 0.
-    void Show(std::int16_t type, std::int32_t id);
+    void Show(core::RecordKind type, std::int32_t id);
     /// Fills the second box for the kind shown in the first, and selects a stored row's record.
     void ShowStored(std::int32_t id);
     /// Does the same for a party that may be a mere name.
     void ShowStored(std::int32_t id, std::string_view name);
     /// Refills the boxes after records of a kind changed; the party stays selected.
-    void Refresh(std::int16_t kind);
+    void Refresh(core::RecordKind kind);
 
-    std::int16_t Type() const;
+    core::RecordKind Type() const;
     std::int32_t Id() const;
     std::string Name() const;
 

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "core/RecordKinds.h"
 #include "core/binding/ComboList.h"
 #include "core/binding/DateEdit.h"
 #include "core/binding/Tags.h"
@@ -99,7 +100,7 @@ void PaymentForm::ReadReceiver(Payment& payment) const {
     payment.to.description = FromScreen(boxes_.to->currentText());
 }
 
-void PaymentForm::FillParty(int kind, QComboBox& combo) {
+void PaymentForm::FillParty(core::RecordKind kind, QComboBox& combo) {
     core::binding::FillList(kind, combo, {.keepText = GetSelectedId(combo) == 0});
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "books/Payment.h"
+#include "core/RecordKinds.h"
 #include "core/forms/EntryForm.h"
 
 class QAbstractItemView;
@@ -59,7 +60,7 @@ class PaymentForm : public core::forms::EntryForm {
     /// Reads the receiver.
     void ReadReceiver(Payment& payment) const;
     /// Lists the records of a kind; a typed name stays a mere name.
-    static void FillParty(int kind, QComboBox& combo);
+    static void FillParty(core::RecordKind kind, QComboBox& combo);
 
   private:
     struct Boxes {

@@ -38,7 +38,7 @@ void ReferenceBoxes::Fill(const References& chosen) {
     ShowAvailable();
 }
 
-void ReferenceBoxes::Refresh(std::int16_t kind) {
+void ReferenceBoxes::Refresh(core::RecordKind kind) {
     for (const Box& box : all_) {
         if (box.kind == kind) FillList(kind, *box.combo, {.addNone = true});
     }

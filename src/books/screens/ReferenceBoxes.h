@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "books/PostTransaction.h"
+#include "core/RecordKinds.h"
 
 class QComboBox;
 
@@ -29,7 +30,7 @@ class ReferenceBoxes : public QObject {
 
     void Fill(const References& chosen);
     /// Refills the boxes after records of a kind changed; the choices stay.
-    void Refresh(std::int16_t kind);
+    void Refresh(core::RecordKind kind);
     /// Enables the building only while no unit is chosen. Called after code has changed a box.
     void ShowAvailable();
 
@@ -38,7 +39,7 @@ class ReferenceBoxes : public QObject {
   private:
     struct Box {
         QComboBox* combo;
-        std::int16_t kind;
+        core::RecordKind kind;
         std::int32_t References::*id;
     };
 

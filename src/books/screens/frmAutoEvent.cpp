@@ -168,7 +168,7 @@ void frmAutoEvent::ShowAvailable() {
     ui_->tabs->setTabEnabled(ui_->tabs->indexOf(ui_->pagReferences), posts);
 }
 
-void frmAutoEvent::Refresh(std::int16_t kind) {
+void frmAutoEvent::Refresh(core::RecordKind kind) {
     if (kind == core::kTransCategory) {
         RefreshCategories(*ui_->cboCategory);
         RefreshTriggerCategories(*ui_->cboTriggerCategory);

@@ -8,6 +8,7 @@
 #include "books/EventSchedule.h"
 #include "books/screens/PartyBoxes.h"
 #include "books/screens/ReferenceBoxes.h"
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 
 namespace Ui {
@@ -32,7 +33,7 @@ class frmAutoEvent : public core::forms::RecordForm {
     void WriteRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     void FillLists();

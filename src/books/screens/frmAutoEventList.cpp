@@ -46,7 +46,7 @@ void frmAutoEventList::Setup() {
     Open();
 }
 
-void frmAutoEventList::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/,
+void frmAutoEventList::NotifyUpdate(core::RecordKind kind, std::int16_t /*action*/,
                                     std::int32_t /*id*/) {
     if (kind == core::kAutoEvent) UpdateGrid();
 }

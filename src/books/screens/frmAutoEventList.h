@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/Form.h"
 
 namespace Ui {
@@ -22,7 +23,7 @@ class frmAutoEventList : public core::forms::Form {
     void Setup();
 
   protected:
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) override;
 
   private:
     void UpdateGrid();

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "books/TripLog.h"
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 
 class QAction;
@@ -36,7 +37,7 @@ class frmMileage : public core::forms::RecordForm {
     void FollowOthers(const core::binding::Controls& touched) override;
     void Store() override;
     bool SavesUntouched() const override { return false; }
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     void MakeMenu();

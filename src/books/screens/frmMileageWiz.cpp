@@ -232,7 +232,8 @@ bool frmMileageWiz::MayClose() {
                                            platform::Icon::Question);
 }
 
-void frmMileageWiz::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
+void frmMileageWiz::NotifyUpdate(core::RecordKind kind, std::int16_t /*action*/,
+                                 std::int32_t /*id*/) {
     if (kind == core::kBuilding) buildings_->FillChoices();
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "books/TripPlan.h"
+#include "core/RecordKinds.h"
 #include "core/forms/frmWizard.h"
 
 namespace Ui {
@@ -35,7 +36,7 @@ class frmMileageWiz : public core::forms::frmWizard {
     bool Agreed() override;
     void Finish() override;
     bool MayClose() override;
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) override;
 
   private:
     void MakeSteps();

@@ -52,7 +52,7 @@ void frmTransCategory::Setup() {
     Open();
 }
 
-void frmTransCategory::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/,
+void frmTransCategory::NotifyUpdate(core::RecordKind kind, std::int16_t /*action*/,
                                     std::int32_t /*id*/) {
     if (kind == core::kTransCategory) Fill();
 }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "books/PostTransaction.h"
+#include "core/RecordKinds.h"
 #include "core/forms/Form.h"
 
 class QListWidget;
@@ -27,7 +28,7 @@ class frmTransCategory : public core::forms::Form {
     void Setup();
 
   protected:
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) override;
 
   private:
     struct Column {

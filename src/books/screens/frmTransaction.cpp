@@ -133,7 +133,7 @@ void frmTransaction::Store() {
     amount_ = entered.amount;
 }
 
-void frmTransaction::Refresh(std::int16_t kind) {
+void frmTransaction::Refresh(core::RecordKind kind) {
     if (kind == core::kTransCategory) RefreshCategories(*ui_->cboCategory);
     from_->Refresh(kind);
     to_->Refresh(kind);

@@ -20,9 +20,9 @@ namespace books::screens {
 /// matter only for a new row.
 struct TransactionSetup {
     std::int32_t idTransaction = 0;
-    std::int16_t fromType = core::kAccount;
+    core::RecordKind fromType = core::kAccount;
     std::int32_t fromId = 0;
-    std::int16_t toType = core::kAccount;
+    core::RecordKind toType = core::kAccount;
     std::int32_t toId = 0;
     /// The To box starts empty, so that nobody is paid whom the user didn't choose.
     bool toIsToBeChosen = false;
@@ -60,7 +60,7 @@ class frmTransaction : public core::forms::RecordForm {
     void ShowCaption() override;
     bool Agreed() override;
     void Store() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     void FillNew(const TransactionSetup& setup);

@@ -36,7 +36,7 @@ void ShowSelection(const ChoiceList& list, QComboBox& combo) {
 
 /// The rows to fill a list with.
 struct Filling {
-    int kind = 0;
+    RecordKind kind = kNone;
     std::int32_t parentId = 0;
     std::int32_t selectedId = 0; ///< 0 for the present one
     bool keepText = false;       ///< nothing is selected
@@ -44,9 +44,9 @@ struct Filling {
 
 void Fill(const Filling& filling, QComboBox& combo,
           const std::function<void(ChoiceList& list)>& fill) {
-    const bool isSameList = combo.property(kListKind).toInt() == filling.kind &&
+    const bool isSameList = combo.property(kListKind).toInt() == KindNumber(filling.kind) &&
                             combo.property(kListParent).toInt() == filling.parentId;
-    combo.setProperty(kListKind, filling.kind);
+    combo.setProperty(kListKind, KindNumber(filling.kind));
     combo.setProperty(kListParent, filling.parentId);
     ChoiceList list = ReadCombo(combo);
     std::int32_t wanted = filling.selectedId;
@@ -85,7 +85,7 @@ void ShowInCombo(const ChoiceList& list, QComboBox& combo) {
     ShowSelection(list, combo);
 }
 
-void FillList(int kind, QComboBox& combo, const FillOptions& options) {
+void FillList(RecordKind kind, QComboBox& combo, const FillOptions& options) {
     Fill({kind, options.parentId, options.selectedId, options.keepText}, combo,
          [&](ChoiceList& list) {
              FillOptions named = options;
@@ -94,7 +94,7 @@ void FillList(int kind, QComboBox& combo, const FillOptions& options) {
          });
 }
 
-void FillListWith(int kind, std::int32_t parentId, QComboBox& combo,
+void FillListWith(RecordKind kind, std::int32_t parentId, QComboBox& combo,
                   const std::function<void(ChoiceList& list)>& fill) {
     Fill({kind, parentId}, combo, fill);
 }
@@ -102,7 +102,7 @@ void FillListWith(int kind, std::int32_t parentId, QComboBox& combo,
 void OfferId(QComboBox& combo, std::int32_t id) {
     if (id == 0 || combo.findData(id) >= 0) return;
     const QSignalBlocker quiet(combo);
-    const int kind = combo.property(kListKind).toInt();
+    const auto kind = static_cast<RecordKind>(combo.property(kListKind).toInt());
     const QString name =
         kind == kNone ? QComboBox::tr("Unknown (%1)").arg(id) : ToScreen(NameOfRecord(kind, id));
     combo.addItem(name, id);
@@ -130,6 +130,14 @@ void FillFromWords(QComboBox& combo, std::span<const std::string_view> words) {
 
 std::int32_t GetSelectedId(const QComboBox& combo) {
     return core::GetSelectedId(ReadCombo(combo));
+}
+
+void AddKind(QComboBox& combo, const QString& text, RecordKind kind) {
+    combo.addItem(text, KindNumber(kind));
+}
+
+RecordKind SelectedKind(const QComboBox& combo) {
+    return static_cast<RecordKind>(GetSelectedId(combo));
 }
 
 void SelectById(QComboBox& combo, std::int32_t id, NoMatch otherwise) {

@@ -7,8 +7,10 @@
 
 #include "core/ChoiceList.h"
 #include "core/Lists.h"
+#include "core/RecordKinds.h"
 
 class QComboBox;
+class QString;
 
 namespace core::binding {
 
@@ -25,9 +27,9 @@ void ShowInCombo(const ChoiceList& list, QComboBox& combo);
 /// number, and a selected record that the list doesn't offer (an account of another type) stays
 /// selected under its name while it exists. If the list's kind or parent changes, no choice is
 /// kept. If it throws, the rows read so far are in the list.
-void FillList(int kind, QComboBox& combo, const FillOptions& options = {});
+void FillList(RecordKind kind, QComboBox& combo, const FillOptions& options = {});
 /// Does the same with rows added by `fill`: records of the kind that belong to a parent.
-void FillListWith(int kind, std::int32_t parentId, QComboBox& combo,
+void FillListWith(RecordKind kind, std::int32_t parentId, QComboBox& combo,
                   const std::function<void(ChoiceList& list)>& fill);
 /// Adds a record or code that isn't in the list: a record of the list's kind by its name, anything
 /// else by its number. Does nothing for 0.
@@ -38,6 +40,10 @@ void FillFromCommaList(QComboBox& combo, std::string_view text);
 /// Adds words that are stored as they are shown, without ids.
 void FillFromWords(QComboBox& combo, std::span<const std::string_view> words);
 std::int32_t GetSelectedId(const QComboBox& combo);
+/// Adds a row that chooses a record kind.
+void AddKind(QComboBox& combo, const QString& text, RecordKind kind);
+/// Returns the kind of the selected row; kNone if no row is selected.
+RecordKind SelectedKind(const QComboBox& combo);
 void SelectById(QComboBox& combo, std::int32_t id, NoMatch otherwise = {});
 void SelectByText(QComboBox& combo, std::string_view text, NoMatch otherwise = {});
 /// Selects the row with the id; shows `name` if the id is 0 or isn't in the list.

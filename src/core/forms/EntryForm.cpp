@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "core/Preferences.h"
+#include "core/RecordKinds.h"
 #include "core/binding/DayErrors.h"
 #include "core/binding/Tags.h"
 #include "core/binding/Wiring.h"
@@ -48,7 +49,7 @@ std::vector<std::string> EntryForm::Errors() {
     return binding::DayErrors(*this);
 }
 
-void EntryForm::Refresh(std::int16_t /*kind*/) {}
+void EntryForm::Refresh(RecordKind /*kind*/) {}
 
 void EntryForm::Quietly(const std::function<void()>& work) {
     const bool before = loading_;
@@ -72,7 +73,7 @@ bool EntryForm::MayClose() {
                                            platform::Icon::Question);
 }
 
-void EntryForm::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
+void EntryForm::NotifyUpdate(RecordKind kind, std::int16_t /*action*/, std::int32_t /*id*/) {
     Quietly([&] { Refresh(kind); });
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "core/forms/Form.h"
 
 namespace core::forms {
@@ -41,7 +42,7 @@ class EntryForm : public Form {
     /// Asks any questions once the entries are valid; returns false to keep the screen open.
     virtual bool Agreed() { return true; }
     /// Refreshes the parts that depend on records of `kind`, without making the form dirty.
-    virtual void Refresh(std::int16_t kind);
+    virtual void Refresh(RecordKind kind);
 
     /// Runs `work`, whose changes to the controls don't make the form dirty.
     void Quietly(const std::function<void()>& work);
@@ -49,7 +50,7 @@ class EntryForm : public Form {
     void MarkDirty();
 
     bool MayClose() override;
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) final;
+    void NotifyUpdate(RecordKind kind, std::int16_t action, std::int32_t id) final;
 
   private:
     bool dirty_ = false;

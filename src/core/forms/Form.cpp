@@ -6,6 +6,7 @@
 #include <QShortcut>
 #include <QTabWidget>
 
+#include "core/RecordKinds.h"
 #include "core/binding/Tags.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/FitScreen.h"
@@ -20,7 +21,7 @@ namespace core::forms {
 Form::Form(QWidget* parent, FormSizing sizing)
     : QDialog(parent, Qt::Window),
       sizing_(sizing),
-      token_([this](std::int16_t kind, std::int16_t action, std::int32_t id) {
+      token_([this](RecordKind kind, std::int16_t action, std::int32_t id) {
           NotifyUpdate(kind, action, id);
       }) {
     platform::qt::GuardPresses();
@@ -67,7 +68,7 @@ void Form::Open() {
     FocusFirstEntry(*this);
 }
 
-void Form::NotifyUpdate(std::int16_t /*kind*/, std::int16_t /*action*/, std::int32_t /*id*/) {}
+void Form::NotifyUpdate(RecordKind /*kind*/, std::int16_t /*action*/, std::int32_t /*id*/) {}
 
 void Form::closeEvent(QCloseEvent* event) {
     if (busy_ || !AskToClose()) {

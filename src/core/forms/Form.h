@@ -6,6 +6,7 @@
 
 #include "core/FormPosition.h"
 #include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 
 namespace core::forms {
 
@@ -39,7 +40,7 @@ class Form : public QDialog {
     /// Returns whether the form may close; a form with unsaved changes asks.
     virtual bool MayClose() { return true; }
     /// Called when records of `kind` have changed.
-    virtual void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id);
+    virtual void NotifyUpdate(RecordKind kind, std::int16_t action, std::int32_t id);
 
     /// Runs a command of the user's (a button, a menu item) and shows any error; returns true if
     /// there was none. While it runs, the form takes no second command and doesn't close, and after

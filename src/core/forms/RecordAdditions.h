@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "core/RecordKinds.h"
+
 namespace core::forms {
 
 // Additions to every record form by other rooms: reports, receipts, documents, files. A room
@@ -15,7 +17,7 @@ namespace core::forms {
 /// A record shown on a form; id 0 until it is saved. A building's form shows two: the building,
 /// then the unit.
 struct Subject {
-    std::int16_t kind = 0;
+    RecordKind kind = kNone;
     std::int32_t id = 0;
 
     friend bool operator==(const Subject&, const Subject&) = default;
@@ -46,7 +48,7 @@ void RegisterRecordMenu(RecordMenu menu, const std::string& name, MenuFiller fil
 /// bar's property "addedPagesAt" says (the first page is 0).
 struct RecordPage {
     std::string caption;
-    std::vector<std::int16_t> kinds;
+    std::vector<RecordKind> kinds;
     /// Creates the page; the form owns it.
     std::function<QWidget*(QWidget& form)> make;
     /// Shows the records of the form; called when a record is loaded, and once for a new one.

@@ -99,7 +99,7 @@ QString WithFreeMnemonic(const QWidget& form, const QString& title) {
     return title;
 }
 
-RecordBar::RecordBar(QDialog& form, std::int16_t kind, Commands commands)
+RecordBar::RecordBar(QDialog& form, RecordKind kind, Commands commands)
     : QObject(&form), commands_(std::move(commands)) {
     auto* bar = qobject_cast<QMenuBar*>(form.layout()->menuBar());
     if (!bar) {
@@ -113,7 +113,7 @@ RecordBar::RecordBar(QDialog& form, std::int16_t kind, Commands commands)
     MakePages(form, kind);
 }
 
-void RecordBar::MakeRecordMenu(QDialog& form, QMenuBar& bar, std::int16_t kind) {
+void RecordBar::MakeRecordMenu(QDialog& form, QMenuBar& bar, RecordKind kind) {
     Menu& record = menus_[0];
     const QList<QAction*> own = bar.actions();
     if (own.isEmpty()) {
@@ -143,7 +143,7 @@ void RecordBar::MakeMenu(QDialog& form, QMenuBar& bar, RecordMenu which, const Q
     connect(made.menu, &QMenu::aboutToShow, this, [this, &made] { Fill(made); });
 }
 
-void RecordBar::MakePages(QDialog& form, std::int16_t kind) {
+void RecordBar::MakePages(QDialog& form, RecordKind kind) {
     auto* const tabs = form.findChild<QTabWidget*>(QStringLiteral("tabs"));
     if (!tabs) return;
     const QVariant place = tabs->property("addedPagesAt");

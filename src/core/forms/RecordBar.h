@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "core/forms/RecordAdditions.h"
 
 class QMenuBar;
@@ -27,7 +28,7 @@ class RecordBar : public QObject {
 
     /// Adds the standard menus to the form's menu bar, which is created if necessary, and the
     /// pages.
-    RecordBar(QDialog& form, std::int16_t kind, Commands commands);
+    RecordBar(QDialog& form, RecordKind kind, Commands commands);
 
     /// Sets the records that the form shows.
     void Show(std::vector<Subject> subjects);
@@ -41,9 +42,9 @@ class RecordBar : public QObject {
         std::vector<QAction*> added;
     };
 
-    void MakeRecordMenu(QDialog& form, QMenuBar& bar, std::int16_t kind);
+    void MakeRecordMenu(QDialog& form, QMenuBar& bar, RecordKind kind);
     void MakeMenu(QDialog& form, QMenuBar& bar, RecordMenu which, const QString& title);
-    void MakePages(QDialog& form, std::int16_t kind);
+    void MakePages(QDialog& form, RecordKind kind);
     void Fill(Menu& menu);
 
     Commands commands_;

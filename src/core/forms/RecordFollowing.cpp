@@ -23,7 +23,7 @@ RecordForm::Fields RecordForm::FieldsOf(platform::Recordset& row) {
     return fields;
 }
 
-void RecordForm::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
+void RecordForm::NotifyUpdate(RecordKind kind, std::int16_t /*action*/, std::int32_t /*id*/) {
     const LoadingGuard loading(*this);
     const binding::Controls touched = Touched();
     Refresh(kind);

@@ -207,7 +207,7 @@ bool RecordForm::MayClose() {
                                            platform::Icon::Question);
 }
 
-void RecordForm::Refresh(std::int16_t /*kind*/) {}
+void RecordForm::Refresh(RecordKind /*kind*/) {}
 
 void RecordForm::FollowOthers(const binding::Controls& /*touched*/) {}
 

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "core/binding/ShownFields.h"
 #include "core/forms/Form.h"
 #include "core/forms/RecordAdditions.h"
@@ -19,7 +20,7 @@ class RecordBar;
 
 /// The row that a screen edits.
 struct RecordPlace {
-    std::int16_t kind = 0;
+    RecordKind kind = kNone;
     std::string table;
     std::string idField;
     /// The table whose tags are bound, for a screen that edits rows of two tables; otherwise empty.
@@ -88,7 +89,7 @@ class RecordForm : public Form {
     /// Called after a save, to do what depends on it.
     virtual void AfterSave() {}
     /// Refreshes the parts that depend on records of `kind`; it never makes the form dirty.
-    virtual void Refresh(std::int16_t kind);
+    virtual void Refresh(RecordKind kind);
     /// Refreshes other rows that the screen shows; `touched` controls must stay. Called whenever
     /// the record itself is read again.
     virtual void FollowOthers(const binding::Controls& touched);
@@ -116,7 +117,7 @@ class RecordForm : public Form {
     binding::Controls Touched() const { return fields_.Touched(*this); }
 
     bool MayClose() override;
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) final;
+    void NotifyUpdate(RecordKind kind, std::int16_t action, std::int32_t id) final;
     void changeEvent(QEvent* event) override;
 
     /// Sets Loading during its lifetime.

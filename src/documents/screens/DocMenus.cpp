@@ -2,6 +2,7 @@
 
 #include <QMenu>
 
+#include "core/RecordKinds.h"
 #include "core/forms/ErrorRoll.h"
 #include "core/forms/RecordAdditions.h"
 #include "documents/MergeSource.h"
@@ -20,7 +21,7 @@ void AddLetters(const MenuFilling& filling, const std::function<void()>& manage)
     if (filling.subjects.empty()) return;
     // A building's letters are merged with the unit that its form shows.
     const std::size_t subject = filling.subjects.size() - 1;
-    const std::int16_t kind = DocKindOf(filling.subjects[subject].kind);
+    const core::RecordKind kind = DocKindOf(filling.subjects[subject].kind);
     if (!HasMergeSource(kind)) return;
     // A new record gets its id only when it is saved.
     const auto choose = [subjects = &filling.subjects, save = filling.save, subject,
@@ -38,7 +39,7 @@ void AddLetters(const MenuFilling& filling, const std::function<void()>& manage)
 
 } // namespace
 
-bool AddDocItems(QMenu& menu, std::int16_t kind,
+bool AddDocItems(QMenu& menu, core::RecordKind kind,
                  const std::function<void(std::int32_t idDoc)>& choose) {
     int number = 0;
     for (const DocTemplate& letter : DocTemplatesOf(kind)) {

@@ -3,13 +3,15 @@
 #include <cstdint>
 #include <functional>
 
+#include "core/RecordKinds.h"
+
 class QMenu;
 
 namespace documents::screens {
 
 /// Adds an item for each template of a kind of record: "&1. Late Notice". `choose` is called with
 /// the template's `IdDoc`. Returns whether there are any.
-bool AddDocItems(QMenu& menu, std::int16_t kind,
+bool AddDocItems(QMenu& menu, core::RecordKind kind,
                  const std::function<void(std::int32_t idDoc)>& choose);
 
 /// Adds to every record form the menu of letters for its record, filled from the list of templates

@@ -42,7 +42,7 @@ FileObjects::FileObjects(QWidget* parent)
       ui_(std::make_unique<Ui::FileObjects>()),
       files_(new FileListModel(this)),
       options_(new QMenu(this)),
-      token_([this](std::int16_t kind, std::int16_t, std::int32_t) {
+      token_([this](core::RecordKind kind, std::int16_t, std::int32_t) {
           if (kind == core::kFileObject) Refresh();
       }) {
     ui_->setupUi(this);
@@ -109,7 +109,7 @@ void FileObjects::MakeOptions() {
     add(tr("Remember these settings"), "mnuSaveSettings", &FilePanelSettings::SaveSettings);
 }
 
-void FileObjects::SetRecord(std::int16_t dbType, std::int32_t id) {
+void FileObjects::SetRecord(core::RecordKind dbType, std::int32_t id) {
     const bool isAnother = dbType != dbType_ || id != id_;
     dbType_ = dbType;
     id_ = id;

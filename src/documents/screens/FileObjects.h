@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "documents/FilePanelSettings.h"
 
 class QAction;
@@ -31,7 +32,7 @@ class FileObjects : public QWidget {
     ~FileObjects() override;
 
     /// Shows the files of a record; the panel is disabled if the record has no id yet.
-    void SetRecord(std::int16_t dbType, std::int32_t id);
+    void SetRecord(core::RecordKind dbType, std::int32_t id);
     /// Shows the files of all records instead; files are still added to the record.
     void SetShowAll(bool all);
 
@@ -66,7 +67,7 @@ class FileObjects : public QWidget {
     FileListModel* files_;
     QMenu* options_;
     std::vector<std::pair<QAction*, bool FilePanelSettings::*>> flags_;
-    std::int16_t dbType_ = 0;
+    core::RecordKind dbType_ = core::kNone;
     std::int32_t id_ = 0;
     bool all_ = false;
     bool isSetUp_ = false;

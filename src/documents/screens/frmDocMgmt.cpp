@@ -61,7 +61,7 @@ QString Joined(const std::vector<std::string>& names) {
 QString FaultText(const DocRow& doc) {
     if (!platform::FileExists(doc.letter.filePath))
         return QStringLiteral("The file of this template is missing.");
-    std::vector<std::int16_t> kinds;
+    std::vector<core::RecordKind> kinds;
     for (std::size_t i = 0; i < kDocFlags.size(); ++i) {
         if (doc.flags[i]) kinds.push_back(kDocFlags[i].kind);
     }
@@ -161,7 +161,7 @@ void frmDocMgmt::ShowPaths(bool isOn) {
         kName, isOn ? QHeaderView::ResizeToContents : QHeaderView::Stretch);
 }
 
-void frmDocMgmt::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
+void frmDocMgmt::NotifyUpdate(core::RecordKind kind, std::int16_t /*action*/, std::int32_t /*id*/) {
     if (kind == core::kDocument) Fill();
     if (kind == core::kConfiguration) LoadOptions();
 }

@@ -139,7 +139,8 @@ void frmFinExport::ReadSettings() {
         ui_->lstAccounts->header()->sortIndicatorOrder() == Qt::DescendingOrder;
 }
 
-void frmFinExport::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
+void frmFinExport::NotifyUpdate(core::RecordKind kind, std::int16_t /*action*/,
+                                std::int32_t /*id*/) {
     if (kind == core::kAccount || kind == core::kTransaction) FillList();
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/Form.h"
 #include "exchange/FinExport.h"
 
@@ -29,7 +30,7 @@ class frmFinExport : public core::forms::Form {
     void Setup();
 
   protected:
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:

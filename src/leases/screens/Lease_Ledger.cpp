@@ -35,7 +35,7 @@ Lease_Ledger::Lease_Ledger(QWidget* parent)
       tabs_(new QTabBar(this)),
       list_(new ChargeList(this)),
       total_(new QLabel(this)),
-      token_([this](std::int16_t kind, std::int16_t, std::int32_t) { Hear(kind); }) {
+      token_([this](core::RecordKind kind, std::int16_t, std::int32_t) { Hear(kind); }) {
     setProperty("panel", true);
     tabs_->setObjectName(QStringLiteral("tab"));
     tabs_->setAccessibleName(tr("Part of the ledger"));
@@ -231,7 +231,7 @@ void Lease_Ledger::OpenDeposit(const books::Transaction& proposed, std::string_v
 }
 
 /// Deleting a transaction and refunding a deposit change the ledger too.
-void Lease_Ledger::Hear(std::int16_t kind) {
+void Lease_Ledger::Hear(core::RecordKind kind) {
     if (idLease_ == 0 || (kind != core::kRentLog && kind != core::kTransaction)) return;
     ShowRows();
     Q_EMIT Changed();

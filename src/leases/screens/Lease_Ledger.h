@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "leases/Ledger.h"
 
 class QLabel;
@@ -48,7 +49,7 @@ class Lease_Ledger : public QWidget {
     void Pay();
     void Return();
     void OpenDeposit(const books::Transaction& proposed, std::string_view category);
-    void Hear(std::int16_t kind);
+    void Hear(core::RecordKind kind);
 
     std::int32_t idLease_ = 0;
     QTabBar* tabs_;

@@ -5,6 +5,7 @@
 #include "core/Codes.h"
 #include "core/Descriptions.h"
 #include "core/EditRecord.h"
+#include "core/KindOfTable.h"
 #include "core/RecordHelpers.h"
 #include "core/RecordKinds.h"
 #include "core/RecordNotices.h"
@@ -35,6 +36,7 @@ namespace leases::screens {
 
 using core::binding::FillList;
 using core::binding::GetSelectedId;
+using core::binding::SelectedKind;
 using core::forms::Guarded;
 using platform::qt::FromScreen;
 
@@ -131,8 +133,8 @@ void frmLease::FillLists() {
     if (terms_->cboTermType->count() == 0) {
         FillFromWords(*terms_->cboTermType, core::kLeaseTermTypes);
         FillFromWords(*terms_->cboExpireOption, core::kExpireOptions);
-        more_->cboSubsidyType->addItem(tr("Account"), core::kAccount);
-        more_->cboSubsidyType->addItem(tr("Tenant"), core::kTenant);
+        core::binding::AddKind(*more_->cboSubsidyType, tr("Account"), core::kAccount);
+        core::binding::AddKind(*more_->cboSubsidyType, tr("Tenant"), core::kTenant);
     }
     // If a list can't be read, the others are filled all the same.
     Guarded([this] { FillPayors(); });
@@ -141,10 +143,10 @@ void frmLease::FillLists() {
 }
 
 void frmLease::FillPayors() {
-    FillPayorsOf(GetSelectedId(*more_->cboSubsidyType));
+    FillPayorsOf(SelectedKind(*more_->cboSubsidyType));
 }
 
-void frmLease::FillPayorsOf(std::int32_t kind) {
+void frmLease::FillPayorsOf(core::RecordKind kind) {
     FillList(kind, *more_->cboSubsidy, {.addNone = true});
 }
 
@@ -158,8 +160,8 @@ void frmLease::ShowProposal() {
 }
 
 void frmLease::FillListsFor(platform::Recordset& row) {
-    const std::int32_t kind = platform::IdOf(row["SubsidyType"]);
-    FillPayorsOf(kind == 0 ? core::kAccount : kind);
+    const core::RecordKind kind = core::KindOf(row["SubsidyType"]);
+    FillPayorsOf(kind == core::kNone ? core::kAccount : kind);
 }
 
 void frmLease::ShowRow(platform::Recordset& row) {
@@ -223,14 +225,14 @@ bool frmLease::Agreed() {
     return nextDue.has_value();
 }
 
-void frmLease::Refresh(std::int16_t kind) {
+void frmLease::Refresh(core::RecordKind kind) {
     const bool isNew = age_ == LeaseAge::New;
     if (kind == core::kUnit && isNew) FillList(core::kUnit, *terms_->cboIdUnit, {.addNone = true});
     if (kind == core::kTenant && isNew) {
         FillList(core::kTenant, *terms_->cboIdTenant, {.addNone = true});
     }
     if (kind == core::kAccount || kind == core::kTenant) {
-        if (kind == GetSelectedId(*more_->cboSubsidyType)) FillPayors();
+        if (kind == SelectedKind(*more_->cboSubsidyType)) FillPayors();
     }
 }
 
@@ -269,7 +271,7 @@ void frmLease::ShowAvailable() {
     const LoadingGuard loading(*this);
     if (can.blankVacating) terms_->dpDateVacating->clear();
     // Another can be chosen if the tenant or unit was deleted, or while nothing is saved.
-    const auto isThere = [](std::int16_t kind, const QComboBox& party) {
+    const auto isThere = [](core::RecordKind kind, const QComboBox& party) {
         return core::RecordExists(kind, GetSelectedId(party));
     };
     terms_->cboIdTenant->setEnabled(can.parties || !isThere(core::kTenant, *terms_->cboIdTenant));
@@ -330,7 +332,7 @@ void frmLease::Run(LeaseCommand command) {
     });
 }
 
-void frmLease::Zoom(std::int16_t kind) {
+void frmLease::Zoom(core::RecordKind kind) {
     const QComboBox& combo = kind == core::kUnit ? *terms_->cboIdUnit : *terms_->cboIdTenant;
     const std::int32_t id = GetSelectedId(combo);
     if (id != 0) Guarded([&] { core::EditRecord(kind, id); });

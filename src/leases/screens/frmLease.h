@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 #include "leases/LeaseCommands.h"
 #include "leases/LeaseEditor.h"
@@ -42,7 +43,7 @@ class frmLease : public core::forms::RecordForm {
     std::vector<std::string> Errors() override;
     bool Agreed() override;
     void AfterSave() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
     void FollowOthers(const core::binding::Controls& touched) override;
 
   private:
@@ -51,7 +52,7 @@ class frmLease : public core::forms::RecordForm {
     void Connect();
     void FillLists();
     void FillPayors();
-    void FillPayorsOf(std::int32_t kind);
+    void FillPayorsOf(core::RecordKind kind);
     void ShowProposal();
     void ShowSettles(bool settles);
 
@@ -62,7 +63,7 @@ class frmLease : public core::forms::RecordForm {
     void ShowParts();
     void ShowBalances();
     void Run(LeaseCommand command);
-    void Zoom(std::int16_t kind);
+    void Zoom(core::RecordKind kind);
 
     std::unique_ptr<Ui::frmLease> ui_;
     std::unique_ptr<Ui::frmLeaseTerms> terms_;

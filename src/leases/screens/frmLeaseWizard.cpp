@@ -177,7 +177,8 @@ void frmLeaseWizard::Finish() {
     if (summary_->chkOpenLease->isChecked()) core::EditRecord(core::kLease, idLease);
 }
 
-void frmLeaseWizard::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
+void frmLeaseWizard::NotifyUpdate(core::RecordKind kind, std::int16_t /*action*/,
+                                  std::int32_t /*id*/) {
     if (kind == core::kUnit) FillList(core::kUnit, *property_->cboProperty, {.addNone = true});
     if (kind == core::kTenant) FillList(core::kTenant, *tenant_->cboTenant, {.addNone = true});
 }

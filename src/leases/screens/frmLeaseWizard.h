@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/frmWizard.h"
 #include "leases/LeaseWizard.h"
 
@@ -29,7 +30,7 @@ class frmLeaseWizard : public core::forms::frmWizard {
     void ShowStep(int step) override;
     bool Agreed() override;
     void Finish() override;
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) override;
 
   private:
     void MakeSteps();

@@ -25,8 +25,8 @@
 
 namespace leases::screens {
 
-using core::binding::GetSelectedId;
 using core::binding::SelectById;
+using core::binding::SelectedKind;
 using core::forms::Guarded;
 using platform::qt::ToScreen;
 
@@ -35,8 +35,8 @@ frmRentPayment::frmRentPayment(QWidget* parent)
     ui_->setupUi(this);
     ui_->dpEffectiveDate->SetRequired(true);
     ui_->lvwCharges->SetTicks(true);
-    ui_->cboFromType->addItem(tr("Account"), core::kAccount);
-    ui_->cboFromType->addItem(tr("Tenant"), core::kTenant);
+    core::binding::AddKind(*ui_->cboFromType, tr("Account"), core::kAccount);
+    core::binding::AddKind(*ui_->cboFromType, tr("Tenant"), core::kTenant);
     AddChargeItems();
     WirePayment(*ui_->lvwCharges, MakePaymentMenu());
     Connect();
@@ -154,12 +154,12 @@ void frmRentPayment::ShowPayment() {
 
 void frmRentPayment::FillParties() {
     FillAccounts();
-    SelectById(*ui_->cboFromType, payment_.from.type, {.selectFirst = true});
+    SelectById(*ui_->cboFromType, core::KindNumber(payment_.from.type), {.selectFirst = true});
     FillPayers();
 }
 
 void frmRentPayment::FillPayers() {
-    FillParty(GetSelectedId(*ui_->cboFromType), *ui_->cboFrom);
+    FillParty(SelectedKind(*ui_->cboFromType), *ui_->cboFrom);
 }
 
 void frmRentPayment::FillAccounts() {
@@ -224,7 +224,7 @@ AmountPayment frmRentPayment::ReadAmount() {
     AmountPayment amount{payment_, ui_->amountPanel->Received().value_or(platform::Currency()),
                          ui_->amountPanel->Part()};
     ReadEntries(amount.payment);
-    amount.payment.from.type = static_cast<std::int16_t>(GetSelectedId(*ui_->cboFromType));
+    amount.payment.from.type = SelectedKind(*ui_->cboFromType);
     SortCharges(amount.payment, ui_->lvwCharges->ShownIds());
     return amount;
 }
@@ -323,7 +323,7 @@ std::vector<std::string> frmRentPayment::Errors() {
 void frmRentPayment::PostPayment() {
     ReadTicks();
     ReadEntries(payment_);
-    payment_.from.type = static_cast<std::int16_t>(GetSelectedId(*ui_->cboFromType));
+    payment_.from.type = SelectedKind(*ui_->cboFromType);
     if (payment_.IsNew() && ui_->amountPanel->IsUsed()) {
         SubmitAmount(ReadAmount(), update_);
     } else {
@@ -331,8 +331,8 @@ void frmRentPayment::PostPayment() {
     }
 }
 
-void frmRentPayment::Refresh(std::int16_t kind) {
-    const std::int32_t fromType = GetSelectedId(*ui_->cboFromType);
+void frmRentPayment::Refresh(core::RecordKind kind) {
+    const core::RecordKind fromType = SelectedKind(*ui_->cboFromType);
     if (kind == core::kAccount) FillAccounts();
     if (kind == fromType && (kind == core::kAccount || kind == core::kTenant)) FillPayers();
     if (kind == core::kRentLog) RereadCharges();

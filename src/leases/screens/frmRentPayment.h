@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "books/screens/PaymentForm.h"
+#include "core/RecordKinds.h"
 #include "leases/AmountPayment.h"
 #include "leases/PaymentTicks.h"
 #include "leases/RentPayment.h"
@@ -37,7 +38,7 @@ class frmRentPayment : public books::screens::PaymentForm {
     void PostPayment() override;
     void RereadCharges() override;
     std::vector<std::string> Errors() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
     void ShowPayment() override;
     void FillParties() override;
 

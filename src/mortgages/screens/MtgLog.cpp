@@ -29,7 +29,7 @@ MtgLog::MtgLog(QWidget* parent)
       tabs_(new QTabBar(this)),
       list_(new LogList(this)),
       menu_(new QMenu(this)),
-      token_([this](std::int16_t kind, std::int16_t, std::int32_t) {
+      token_([this](core::RecordKind kind, std::int16_t, std::int32_t) {
           if (kind == core::kMortgageLog || kind == core::kTransaction) ShowRows();
       }) {
     setProperty("panel", true);

@@ -76,7 +76,7 @@ void frmMortgage::Setup(std::int32_t idMortgage, std::int32_t parentBuilding) {
         [&] {
             FillList(core::kBuilding, *general_->cboIdBuilding,
                      {.selectedId = parentBuilding, .addNone = true});
-            for (const std::int16_t kind : {core::kMortgageeAccount, core::kAccount})
+            for (const core::RecordKind kind : {core::kMortgageeAccount, core::kAccount})
                 FillAccounts(kind);
         },
         [this] {
@@ -86,7 +86,7 @@ void frmMortgage::Setup(std::int32_t idMortgage, std::int32_t parentBuilding) {
         });
 }
 
-void frmMortgage::FillAccounts(std::int16_t kind) {
+void frmMortgage::FillAccounts(core::RecordKind kind) {
     if (kind == core::kMortgageeAccount) {
         FillList(kind, *general_->cboIdMortgagee, {.addNone = true});
         return;
@@ -143,7 +143,7 @@ void frmMortgage::AfterSave() {
     saved_ = true;
 }
 
-void frmMortgage::Refresh(std::int16_t kind) {
+void frmMortgage::Refresh(core::RecordKind kind) {
     if (kind == core::kBuilding)
         FillList(core::kBuilding, *general_->cboIdBuilding, {.addNone = true});
     if (kind == core::kAccount) {

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 #include "mortgages/MortgageAdjust.h"
 #include "mortgages/MortgageEditor.h"
@@ -46,7 +47,7 @@ class frmMortgage : public core::forms::RecordForm {
     bool Agreed() override;
     void Store() override;
     void AfterSave() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
     void FollowOthers(const core::binding::Controls& touched) override;
 
   private:
@@ -54,7 +55,7 @@ class frmMortgage : public core::forms::RecordForm {
     void MakeMenu();
     QAction* AddAction(const char* name, const QString& text, const std::function<void()>& work);
     void Connect();
-    void FillAccounts(std::int16_t kind);
+    void FillAccounts(core::RecordKind kind);
 
     void ShowTerms();
     void ShowPenaltyAndRates();

@@ -134,7 +134,7 @@ void frmMortgagePayment::PostPayment() {
     SubmitMortgagePayment(payment_);
 }
 
-void frmMortgagePayment::Refresh(std::int16_t kind) {
+void frmMortgagePayment::Refresh(core::RecordKind kind) {
     if (kind == core::kAccount) FillParties();
     if (kind == core::kMortgageLog) RereadCharges();
 }

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "books/screens/PaymentForm.h"
+#include "core/RecordKinds.h"
 #include "mortgages/MortgagePayment.h"
 
 namespace Ui {
@@ -27,7 +28,7 @@ class frmMortgagePayment : public books::screens::PaymentForm {
     void PostPayment() override;
     void RereadCharges() override;
     std::vector<std::string> Errors() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
     void ShowPayment() override;
     void FillParties() override;

@@ -149,7 +149,7 @@ void frmLookAhead::TellFailure(const std::exception_ptr& failure) {
     }
 }
 
-void frmLookAhead::NotifyUpdate(std::int16_t /*kind*/, std::int16_t /*action*/,
+void frmLookAhead::NotifyUpdate(core::RecordKind /*kind*/, std::int16_t /*action*/,
                                 std::int32_t /*id*/) {
     ui_->lblChanged->setVisible(forecast_ != nullptr || run_->IsRunning());
 }

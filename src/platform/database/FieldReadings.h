@@ -3,6 +3,7 @@
 #include <concepts>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 
 #include "platform/database/Recordset.h"
 #include "platform/values/Currency.h"
@@ -14,7 +15,9 @@ namespace platform {
 /// unset or can't be read as one.
 template <class T, class Source>
 T As(const Source& source) {
-    if constexpr (std::same_as<T, bool>) {
+    if constexpr (std::is_enum_v<T>) {
+        return static_cast<T>(As<std::underlying_type_t<T>>(source));
+    } else if constexpr (std::same_as<T, bool>) {
         return source.AsBoolean();
     } else if constexpr (std::same_as<T, std::int16_t>) {
         return source.AsInteger();

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <variant>
 
@@ -40,6 +41,10 @@ class Value {
     Value(std::string value) : data_(std::move(value)) {}
     Value(std::string_view value) : data_(std::string(value)) {}
     Value(const char* value) : data_(std::string(value)) {}
+    /// A code is stored as its number.
+    template <class Code>
+    requires(std::is_enum_v<Code> && !std::is_convertible_v<Code, int>) Value(Code code)
+        : Value(static_cast<std::underlying_type_t<Code>>(code)) {}
 
     bool IsNull() const { return std::holds_alternative<std::monostate>(data_); }
     /// Returns true for null and for an empty text: both mean that nothing is set.

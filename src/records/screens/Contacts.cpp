@@ -5,6 +5,7 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 
+#include "core/RecordKinds.h"
 #include "core/binding/AddressBox.h"
 #include "core/binding/Wiring.h"
 #include "core/forms/ErrorRoll.h"
@@ -66,7 +67,7 @@ void Contacts::Wire() {
     connect(ui_->lvwContacts, &QListWidget::currentItemChanged, this, &Contacts::MoveTo);
 }
 
-void Contacts::Load(std::int16_t dbType, std::int32_t idRelated) {
+void Contacts::Load(core::RecordKind dbType, std::int32_t idRelated) {
     const RelatedOwner owner{dbType, idRelated};
     const std::int32_t selected = owner == owner_ ? id_ : 0;
     owner_ = owner;

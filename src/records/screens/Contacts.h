@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/binding/ShownFields.h"
 #include "records/ContactRows.h"
 
@@ -24,7 +25,7 @@ class Contacts : public QWidget {
     ~Contacts() override;
 
     /// Shows the contacts of a record of kind `dbType`; the panel is disabled if it has no id yet.
-    void Load(std::int16_t dbType, std::int32_t idRelated);
+    void Load(core::RecordKind dbType, std::int32_t idRelated);
     /// Writes the changed fields within the unit of work that saves the record. Throws on failure.
     /// The changes count as saved once NoteWritten is called after the unit of work.
     void Write() const;

@@ -20,7 +20,7 @@ constexpr std::string_view kGridKey = "frmBuilding.Deposit";
 Deposits::Deposits(QWidget* parent)
     : RecordList(parent),
       tabs_(new QTabBar(this)),
-      token_([this](std::int16_t kind, std::int16_t, std::int32_t) {
+      token_([this](core::RecordKind kind, std::int16_t, std::int32_t) {
           if (kind == core::kDeposit) Reload();
       }) {
     tabs_->setObjectName(QStringLiteral("tabs"));

@@ -12,14 +12,14 @@ namespace records::screens {
 
 namespace {
 
-core::forms::RecordPlace PlaceOf(std::int16_t kind) {
+core::forms::RecordPlace PlaceOf(core::RecordKind kind) {
     const core::KindInfo& info = core::InfoOf(kind);
     return {kind, std::string(info.table), std::string(info.key)};
 }
 
 } // namespace
 
-FurnishingForm::FurnishingForm(std::int16_t kind, NoUnit noUnit, QWidget* parent)
+FurnishingForm::FurnishingForm(core::RecordKind kind, NoUnit noUnit, QWidget* parent)
     : RecordForm(PlaceOf(kind), parent), kind_(kind), noUnit_(noUnit) {}
 
 void FurnishingForm::WireFurnishing(QComboBox& unit, core::forms::ActionBar& buttons) {
@@ -50,7 +50,7 @@ void FurnishingForm::AfterSave() {
     SavePickFields(*this);
 }
 
-void FurnishingForm::Refresh(std::int16_t kind) {
+void FurnishingForm::Refresh(core::RecordKind kind) {
     if (kind == core::kUnit || kind == core::kBuilding) FillUnits(0);
 }
 

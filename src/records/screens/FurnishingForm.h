@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 
 class QComboBox;
@@ -25,7 +26,7 @@ class FurnishingForm : public core::forms::RecordForm {
     void Setup(std::int32_t id, std::int32_t parentUnit);
 
   protected:
-    FurnishingForm(std::int16_t kind, NoUnit noUnit, QWidget* parent);
+    FurnishingForm(core::RecordKind kind, NoUnit noUnit, QWidget* parent);
 
     /// Connects the controls created by setupUi.
     void WireFurnishing(QComboBox& unit, core::forms::ActionBar& buttons);
@@ -36,12 +37,12 @@ class FurnishingForm : public core::forms::RecordForm {
 
     void ShowCaption() override;
     void AfterSave() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     void FillUnits(std::int32_t selectedId);
 
-    std::int16_t kind_;
+    core::RecordKind kind_;
     NoUnit noUnit_;
     QComboBox* unit_ = nullptr;
 };

@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 #include <QTabBar>
 
+#include "core/RecordKinds.h"
 #include "platform/qt/Text.h"
 
 namespace records::screens {
@@ -15,10 +16,10 @@ RelatedDBm::RelatedDBm(QWidget* parent) : RelatedPanel(parent), tabs_(new QTabBa
     tabs_->setExpanding(false);
     SetHead(tabs_);
     connect(tabs_, &QTabBar::currentChanged, this, &RelatedDBm::ShowTab);
-    Load(0, 0);
+    Load(core::kNone, 0);
 }
 
-void RelatedDBm::Load(std::int16_t dbType, std::int32_t id) {
+void RelatedDBm::Load(core::RecordKind dbType, std::int32_t id) {
     const bool isNewKind = tabs_->count() == 0 || dbType != owner_.kind;
     owner_ = {dbType, id};
     if (isNewKind) {

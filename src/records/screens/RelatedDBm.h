@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/RecordKinds.h"
 #include "records/screens/RelatedPanel.h"
 
 class QTabBar;
@@ -14,7 +15,7 @@ class RelatedDBm : public RelatedPanel {
     explicit RelatedDBm(QWidget* parent = nullptr);
 
     /// Shows the lists of a record; the tab stays selected if the kind doesn't change.
-    void Load(std::int16_t dbType, std::int32_t id);
+    void Load(core::RecordKind dbType, std::int32_t id);
 
   private:
     void ShowTab();

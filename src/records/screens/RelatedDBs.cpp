@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "core/RecordKinds.h"
 #include "platform/qt/Text.h"
 
 namespace records::screens {
@@ -12,10 +13,10 @@ RelatedDBs::RelatedDBs(QWidget* parent) : RelatedPanel(parent), caption_(new QLa
     bold.setBold(true);
     caption_->setFont(bold);
     SetHead(caption_);
-    Load(0, 0);
+    Load(core::kNone, 0);
 }
 
-void RelatedDBs::Load(std::int16_t dbType, std::int32_t id) {
+void RelatedDBs::Load(core::RecordKind dbType, std::int32_t id) {
     const RelatedList* const list = SingleList(dbType);
     caption_->setText(platform::qt::ToScreen(list ? list->caption : kNoDbType));
     List().setAccessibleName(caption_->text());

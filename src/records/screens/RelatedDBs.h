@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/RecordKinds.h"
 #include "records/screens/RelatedPanel.h"
 
 class QLabel;
@@ -14,7 +15,7 @@ class RelatedDBs : public RelatedPanel {
     explicit RelatedDBs(QWidget* parent = nullptr);
 
     /// Shows the list of a record.
-    void Load(std::int16_t dbType, std::int32_t id);
+    void Load(core::RecordKind dbType, std::int32_t id);
 
   private:
     QLabel* caption_;

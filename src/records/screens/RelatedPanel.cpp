@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/RecordKinds.h"
 #include "core/forms/PanelCommand.h"
 #include "platform/qt/Text.h"
 #include "removal/DeleteRecord.h"
@@ -12,7 +13,7 @@ using core::forms::PerformOn;
 
 RelatedPanel::RelatedPanel(QWidget* parent)
     : RecordList(parent),
-      token_([this](std::int16_t kind, std::int16_t, std::int32_t) { Heard(kind); }) {
+      token_([this](core::RecordKind kind, std::int16_t, std::int32_t) { Heard(kind); }) {
     connect(this, &RecordList::AddAsked, this, [this] { Open(0); });
     connect(this, &RecordList::EditAsked, this, &RelatedPanel::Open);
     connect(this, &RecordList::DeleteAsked, this, &RelatedPanel::Remove);
@@ -53,7 +54,7 @@ void RelatedPanel::Remove(std::int32_t id) {
     PerformOn(*this, [&] { removal::DeleteRecord(list_->kind, id); });
 }
 
-void RelatedPanel::Heard(std::int16_t kind) {
+void RelatedPanel::Heard(core::RecordKind kind) {
     if (list_ && std::ranges::find(list_->shows, kind) != list_->shows.end()) Reload();
 }
 

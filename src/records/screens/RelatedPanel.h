@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "core/grid/RecordList.h"
 #include "records/RelatedLists.h"
 
@@ -21,7 +22,7 @@ class RelatedPanel : public core::grid::RecordList {
     void Reload();
     void Open(std::int32_t id);
     void Remove(std::int32_t id);
-    void Heard(std::int16_t kind);
+    void Heard(core::RecordKind kind);
 
     const RelatedList* list_ = nullptr;
     RelatedOwner owner_;

@@ -94,7 +94,7 @@ void frmAccount::AfterSave() {
     contacts_->NoteWritten();
 }
 
-void frmAccount::Refresh(std::int16_t kind) {
+void frmAccount::Refresh(core::RecordKind kind) {
     if (kind == core::kAccount) FillTypes();
 }
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string_view>
 
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 #include "records/AccountRules.h"
 
@@ -38,7 +39,7 @@ class frmAccount : public core::forms::RecordForm {
     std::vector<std::string> Errors() override;
     void StoreRest() override;
     void AfterSave() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     void MakePanels();

@@ -48,7 +48,7 @@ std::vector<std::string> frmAppliance::Errors() {
                            platform::qt::FromScreen(details_->cboApplianceType->currentText()));
 }
 
-void frmAppliance::Refresh(std::int16_t kind) {
+void frmAppliance::Refresh(core::RecordKind kind) {
     FurnishingForm::Refresh(kind);
     if (kind == core::kAccount) FillVendors();
 }

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "records/screens/FurnishingForm.h"
 
 namespace Ui {
@@ -26,7 +27,7 @@ class frmAppliance : public FurnishingForm {
     QString Name() const override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     void FillVendors();

@@ -91,7 +91,7 @@ void frmBuilding::FillLists() {
 }
 
 void frmBuilding::FillAccounts() {
-    const auto fill = [](std::int16_t kind, std::initializer_list<QComboBox*> lists) {
+    const auto fill = [](core::RecordKind kind, std::initializer_list<QComboBox*> lists) {
         for (QComboBox* const list : lists)
             FillList(kind, *list, {.addNone = true});
     };
@@ -225,7 +225,7 @@ void frmBuilding::AfterSave() {
     core::NotifyAll(core::kUnit, core::kRecordsChanged, 0);
 }
 
-void frmBuilding::Refresh(std::int16_t kind) {
+void frmBuilding::Refresh(core::RecordKind kind) {
     if (kind == core::kAccount) {
         FillAccounts();
         FillFreeAccounts();

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/EditRecord.h"
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 
 class QLabel;
@@ -51,7 +52,7 @@ class frmBuilding : public core::forms::RecordForm {
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
     void AfterSave() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
     std::vector<core::forms::Subject> Subjects() const override;
     void FollowOthers(const core::binding::Controls& touched) override;
     void changeEvent(QEvent* event) override;

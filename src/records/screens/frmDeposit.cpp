@@ -55,7 +55,7 @@ std::vector<std::string> frmDeposit::Errors() {
                           platform::qt::FromScreen(ui_->txtDescription->text())});
 }
 
-void frmDeposit::Refresh(std::int16_t kind) {
+void frmDeposit::Refresh(core::RecordKind kind) {
     if (kind == core::kBuilding) FillList(core::kBuilding, *ui_->cboBuilding, {.addNone = true});
     if (kind == core::kBuilding || kind == core::kUnit) {
         FillList(core::kUnit, *ui_->cboUnit, {.addNone = true});

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 #include "records/DepositTemplates.h"
 
@@ -27,7 +28,7 @@ class frmDeposit : public core::forms::RecordForm {
     void ShowRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     void ShowScope(DepositScope scope);

@@ -43,7 +43,7 @@ std::vector<std::string> frmIncident::Errors() {
     return IncidentErrors(platform::qt::FromScreen(ui_->txtDescription->text()));
 }
 
-void frmIncident::Refresh(std::int16_t kind) {
+void frmIncident::Refresh(core::RecordKind kind) {
     if (kind == core::kTenant) FillList(core::kTenant, *ui_->cboTenant, {.addNone = true});
 }
 

@@ -44,7 +44,7 @@ std::vector<std::string> frmManagerLink::Errors() {
     return ManagerErrors({Id(), GetSelectedId(*ui_->cboBuilding), GetSelectedId(*ui_->cboManager)});
 }
 
-void frmManagerLink::Refresh(std::int16_t kind) {
+void frmManagerLink::Refresh(core::RecordKind kind) {
     if (kind == core::kBuilding) FillList(core::kBuilding, *ui_->cboBuilding);
     if (kind == core::kAccount) FillList(core::kBuildingManagerAccount, *ui_->cboManager);
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 
 namespace Ui {
@@ -25,7 +26,7 @@ class frmManagerLink : public core::forms::RecordForm {
   protected:
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     std::unique_ptr<Ui::frmManagerLink> ui_;

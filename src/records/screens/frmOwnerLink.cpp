@@ -53,7 +53,7 @@ void frmOwnerLink::AfterSave() {
     mark_ = PrimaryMark::No;
 }
 
-void frmOwnerLink::Refresh(std::int16_t kind) {
+void frmOwnerLink::Refresh(core::RecordKind kind) {
     if (kind == core::kBuilding) FillList(core::kBuilding, *ui_->cboBuilding);
     if (kind == core::kAccount) FillList(core::kBuildingOwnerAccount, *ui_->cboOwner);
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 #include "records/OwnerLinkRules.h"
 
@@ -29,7 +30,7 @@ class frmOwnerLink : public core::forms::RecordForm {
     void WriteRow(platform::Recordset& row) override;
     void StoreRest() override;
     void AfterSave() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     std::unique_ptr<Ui::frmOwnerLink> ui_;

@@ -72,7 +72,7 @@ std::vector<std::string> frmSvcContract::Errors() {
     return SvcContractErrors(GetSelectedId(*ui_->cboBuilding), GetSelectedId(*ui_->cboVendor));
 }
 
-void frmSvcContract::Refresh(std::int16_t kind) {
+void frmSvcContract::Refresh(core::RecordKind kind) {
     switch (kind) {
         case core::kAccount:
             FillVendors();

@@ -108,7 +108,7 @@ std::vector<std::string> frmWorkOrder::Errors() {
     return WorkOrderErrors(platform::qt::FromScreen(job_->txtDescription->text()));
 }
 
-void frmWorkOrder::Refresh(std::int16_t kind) {
+void frmWorkOrder::Refresh(core::RecordKind kind) {
     switch (kind) {
         case core::kUnit:
             FillList(core::kUnit, *job_->cboIdUnit, {.addNone = true});

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 
 namespace Ui {
@@ -31,7 +32,7 @@ class frmWorkOrder : public core::forms::RecordForm {
     void WriteRow(platform::Recordset& row) override;
     void ShowCaption() override;
     std::vector<std::string> Errors() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     void MakePanels();

@@ -93,7 +93,7 @@ void frmReportViewer::ShowChoices(const ReportRun& run) {
     SetNavbar(core::Preferences().ViewNavbar);
     SetToolbar(core::Preferences().ViewToolbar);
 
-    const bool asksRecord = report.SelectItem != 0;
+    const bool asksRecord = report.SelectItem != core::kNone;
     ui_->lblSelectedID->setVisible(asksRecord);
     ui_->cboSelectedID->setVisible(asksRecord);
     if (asksRecord) {

@@ -139,8 +139,8 @@ void frmReports::Choose() {
 
 void frmReports::ShowQuestions(ReportDef& report) {
     ui_->lblNotes->setText(ToScreen(report.Notes));
-    ui_->fraDb->setVisible(report.SelectItem != 0);
-    if (report.SelectItem != 0) {
+    ui_->fraDb->setVisible(report.SelectItem != core::kNone);
+    if (report.SelectItem != core::kNone) {
         ui_->fraDb->setTitle(ToScreen(core::RecordKindName(report.SelectItem)));
         const QSignalBlocker quiet(ui_->cboDbItem);
         ui_->cboDbItem->clear();
@@ -196,7 +196,8 @@ bool frmReports::StoreAnswers() {
 }
 
 std::vector<std::string> frmReports::StoreIn(ReportDef& report) const {
-    if (report.SelectItem != 0) report.SelectedId = core::binding::GetSelectedId(*ui_->cboDbItem);
+    if (report.SelectItem != core::kNone)
+        report.SelectedId = core::binding::GetSelectedId(*ui_->cboDbItem);
     if (report.SelectDetail)
         report.DetailLevel = ui_->optDetailSummary->isChecked() ? Detail::Summary : Detail::Full;
     if (report.SelectYear) report.SelectedYear = FromScreen(ui_->cboYear->currentText());
@@ -233,10 +234,10 @@ void frmReports::closeEvent(QCloseEvent* event) {
 }
 
 /// Records are added and deleted while the catalogue is open.
-void frmReports::NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) {
+void frmReports::NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) {
     Form::NotifyUpdate(kind, action, id);
     const ReportDef* const report = FindReport(shown_);
-    if (report == nullptr || report->SelectItem == 0) return;
+    if (report == nullptr || report->SelectItem == core::kNone) return;
     Guarded([&] {
         core::binding::FillList(report->SelectItem, *ui_->cboDbItem,
                                 {.selectedId = core::binding::GetSelectedId(*ui_->cboDbItem)});

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "core/forms/Form.h"
 
 namespace Ui {
@@ -32,7 +33,7 @@ class frmReports : public core::forms::Form {
   protected:
     /// Keeps the answers for the rest of the session.
     void closeEvent(QCloseEvent* event) override;
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) override;
 
   private:
     void MakeTabs();

@@ -86,7 +86,8 @@ void frmSearch::Setup() {
     txtSearch_->setFocus();
 }
 
-void frmSearch::NotifyUpdate(std::int16_t /*kind*/, std::int16_t /*action*/, std::int32_t /*id*/) {
+void frmSearch::NotifyUpdate(core::RecordKind /*kind*/, std::int16_t /*action*/,
+                             std::int32_t /*id*/) {
     reading_->start();
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "core/RecordKinds.h"
 #include "core/forms/Form.h"
 #include "search/Finder.h"
 
@@ -29,7 +30,7 @@ class frmSearch : public core::forms::Form {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) override;
 
   private:
     void Lay();

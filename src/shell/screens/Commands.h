@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/RecordKinds.h"
+
 class QMenu;
 
 namespace shell::screens {
@@ -14,7 +16,7 @@ namespace shell::screens {
 /// The selection that a command works on: the kind of the view, and the id in the row that was
 /// selected last, 0 if there is none.
 struct Selection {
-    std::int16_t kind = 0;
+    core::RecordKind kind = core::kNone;
     std::int32_t id = 0;
     /// The ids in all selected rows, from top to bottom.
     std::vector<std::int32_t> ids = {};

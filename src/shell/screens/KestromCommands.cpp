@@ -36,7 +36,7 @@ namespace {
 
 struct Category {
     const char* tag;
-    std::int16_t kind;
+    core::RecordKind kind;
 };
 
 // MILEAGE has no button: trips have a screen of their own.
@@ -94,7 +94,7 @@ void frmKestrom::ConnectCategories() {
         const QString tag = action->property("tag").toString();
         for (const Category& category : kCategories) {
             if (tag != QLatin1String(category.tag)) continue;
-            action->setData(category.kind);
+            action->setData(core::KindNumber(category.kind));
             categories_->addAction(action);
             connect(action, &QAction::triggered, this, [this, kind = category.kind] {
                 core::forms::Guarded([&] { SetSelectedDb(kind); });

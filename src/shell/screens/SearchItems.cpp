@@ -75,7 +75,7 @@ void ShowCategory(const QString& category) {
 }
 
 bool AsksNothing(const reports::ReportDef& report) {
-    return report.SelectItem == 0 && !report.SelectDetail && !report.SelectYear &&
+    return report.SelectItem == core::kNone && !report.SelectDetail && !report.SelectYear &&
            report.DateRange != reports::DateRange::Select;
 }
 

@@ -86,7 +86,7 @@ void ViewPanel::Connect() {
     ui_->txtSearch->installEventFilter(this);
 }
 
-void ViewPanel::ShowKind(std::int16_t kind) {
+void ViewPanel::ShowKind(core::RecordKind kind) {
     kind_ = kind;
     selectedId_ = 0;
     const std::string_view tag = ViewTag(kind);

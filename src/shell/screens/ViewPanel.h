@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "core/RecordKinds.h"
 #include "platform/database/Recordset.h"
 #include "shell/ViewState.h"
 #include "shell/Views.h"
@@ -30,7 +31,7 @@ class ViewPanel : public QWidget {
     ~ViewPanel() override;
 
     /// Shows the records of a kind, with the state of that kind's list.
-    void ShowKind(std::int16_t kind);
+    void ShowKind(core::RecordKind kind);
     /// Stores the state of the present kind's list; does nothing before ShowKind and for a kind
     /// without a view.
     void Remember() const;
@@ -82,7 +83,7 @@ class ViewPanel : public QWidget {
 
     std::unique_ptr<Ui::ViewPanel> ui_;
     QTimer* search_;
-    std::int16_t kind_ = 0;
+    core::RecordKind kind_ = core::kNone;
     std::int32_t selectedId_ = 0;
     int selectedRow_ = 0;    ///< of the row that was selected last
     std::int64_t count_ = 0; ///< -1 if the statement failed

@@ -38,7 +38,7 @@ std::optional<QColor> ColorOf(Mark mark) {
 } // namespace
 
 void ViewPanel::Reload(Cause cause) {
-    if (kind_ == 0) return;
+    if (kind_ == core::kNone) return;
     const std::int32_t id = selectedId_;
     const int scrolled = ui_->grd->verticalScrollBar()->value();
     const int row = selectedRow_;

@@ -92,7 +92,7 @@ void frmConfig::AfterSave() {
     core::binding::SavePickList(*other_->cboDefaultCar);
 }
 
-void frmConfig::Refresh(std::int16_t kind) {
+void frmConfig::Refresh(core::RecordKind kind) {
     if (kind == core::kAccount) FillAccounts();
 }
 

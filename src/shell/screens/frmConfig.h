@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/RecordForm.h"
 #include "platform/values/Date.h"
 
@@ -33,7 +34,7 @@ class frmConfig : public core::forms::RecordForm {
     void FollowOthers(const core::binding::Controls& touched) override;
     void ShowCaption() override;
     void AfterSave() override;
-    void Refresh(std::int16_t kind) override;
+    void Refresh(core::RecordKind kind) override;
 
   private:
     void FillLists();

@@ -24,7 +24,7 @@ using core::forms::Guarded;
 
 namespace {
 
-std::int16_t RecordKindOf(const PropertyNode& node) {
+core::RecordKind RecordKindOf(const PropertyNode& node) {
     switch (node.kind) {
         case PropertyKind::Building:
             return core::kBuilding;
@@ -78,7 +78,8 @@ void frmDBExplorer::Setup() {
     ui_->trv->setFocus();
 }
 
-void frmDBExplorer::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
+void frmDBExplorer::NotifyUpdate(core::RecordKind kind, std::int16_t /*action*/,
+                                 std::int32_t /*id*/) {
     if (kind == core::kFileObject) ui_->ucFOB->Refresh();
 }
 
@@ -88,7 +89,7 @@ void frmDBExplorer::RefreshTree() {
 }
 
 void frmDBExplorer::NodeChosen(const PropertyNode& node) {
-    const std::int16_t kind = RecordKindOf(node);
+    const core::RecordKind kind = RecordKindOf(node);
     ui_->cmdMove->setEnabled(kind == core::kUnit);
     ui_->cmdMove->setToolTip(kind == core::kUnit
                                  ? QStringLiteral("Moves the selected unit to another building")
@@ -130,7 +131,7 @@ void frmDBExplorer::MakeMenu() {
 }
 
 void frmDBExplorer::DeleteNode(const PropertyNode& node) {
-    const std::int16_t kind = RecordKindOf(node);
+    const core::RecordKind kind = RecordKindOf(node);
     if (kind == core::kNone) return;
     if (!removal::DeleteRecord(kind, node.id, removal::Confirm::Ask, removal::Tell::Screens))
         return;
@@ -141,7 +142,7 @@ void frmDBExplorer::DeleteNode(const PropertyNode& node) {
 }
 
 void frmDBExplorer::EditNode(const PropertyNode& node) {
-    const std::int16_t kind = RecordKindOf(node);
+    const core::RecordKind kind = RecordKindOf(node);
     if (kind != core::kNone) core::EditRecord(kind, node.id);
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "core/RecordKinds.h"
 #include "core/forms/Form.h"
 #include "shell/PropertyTree.h"
 
@@ -28,7 +29,7 @@ class frmDBExplorer : public core::forms::Form {
     void RefreshTree();
 
   protected:
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) override;
 
   private:
     void MakeMenu();

@@ -46,7 +46,7 @@ frmKestrom::frmKestrom(WindowServices services)
       homeRefresh_(new QTimer(this)),
       search_(new SearchEverything(*this)),
       selectedDb_(core::kAlert),
-      token_([this](std::int16_t kind, std::int16_t action, std::int32_t id) {
+      token_([this](core::RecordKind kind, std::int16_t action, std::int32_t id) {
           NotifyUpdate(kind, action, id);
       }) {
     platform::qt::GuardPresses();
@@ -106,11 +106,11 @@ void frmKestrom::Initialise() {
     ShowBackupNotice();
 }
 
-void frmKestrom::SetSelectedDb(std::int16_t kind) {
+void frmKestrom::SetSelectedDb(core::RecordKind kind) {
     if (selectedDb_ != core::kAlert) view_->Remember();
     selectedDb_ = kind;
     for (QAction* const category : categories_->actions()) {
-        category->setChecked(category->data().toInt() == kind);
+        category->setChecked(category->data().toInt() == core::KindNumber(kind));
     }
     ShowExtraItems();
     const bool isHome = kind == core::kAlert;
@@ -129,7 +129,7 @@ void frmKestrom::SetSelectedDb(std::int16_t kind) {
     EnableEditButtons();
 }
 
-void frmKestrom::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
+void frmKestrom::NotifyUpdate(core::RecordKind kind, std::int16_t /*action*/, std::int32_t /*id*/) {
     if (hasEnded_) return;
     if (kind == core::kConfiguration) ShowTitle();
     if (selectedDb_ == core::kAlert) {

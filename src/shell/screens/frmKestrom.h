@@ -8,6 +8,7 @@
 
 #include "core/DayChange.h"
 #include "core/NotifyAll.h"
+#include "core/RecordKinds.h"
 #include "shell/Availability.h"
 #include "shell/RunDigest.h"
 #include "shell/ShutDown.h"
@@ -32,7 +33,7 @@ class ViewPanel;
 struct WindowServices {
     Commands commands;
     /// Returns whether the records of a kind have an editor.
-    std::function<bool(std::int16_t kind)> hasEditor;
+    std::function<bool(core::RecordKind kind)> hasEditor;
     /// Opens a report definition in the viewer; without it nothing can be printed.
     std::function<void(const std::filesystem::path& definition)> viewReport;
     /// Returns the status bar's text about an overdue backup; empty if none is due. May be unset.
@@ -54,13 +55,13 @@ class frmKestrom : public QMainWindow {
     /// Opens on the home page. `digest` holds what the daily run has posted.
     void Setup(RunDigest digest);
     /// Changes the view: to a kind of records, or to the home page (the kind of alerts).
-    void SetSelectedDb(std::int16_t kind);
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id);
+    void SetSelectedDb(core::RecordKind kind);
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id);
     void EnableEditButtons();
     /// Called by the day-change timer.
     void Tick();
 
-    std::int16_t SelectedDb() const { return selectedDb_; }
+    core::RecordKind SelectedDb() const { return selectedDb_; }
     std::int32_t SelectedId() const;
     bool IsBackupOnExit() const;
     bool HasEnded() const { return hasEnded_; }
@@ -112,7 +113,7 @@ class frmKestrom : public QMainWindow {
     SearchEverything* search_;
     RunDigest digest_;
     core::DayChange dayChange_;
-    std::int16_t selectedDb_;
+    core::RecordKind selectedDb_;
     bool loading_ = false;
     bool updating_ = false;
     bool hasEnded_ = false;

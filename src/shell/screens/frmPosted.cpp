@@ -218,7 +218,7 @@ void frmPosted::ShowRows(const std::vector<std::int32_t>& selected) {
     ShowSelected();
 }
 
-void frmPosted::NotifyUpdate(std::int16_t kind, std::int16_t /*action*/, std::int32_t /*id*/) {
+void frmPosted::NotifyUpdate(core::RecordKind kind, std::int16_t /*action*/, std::int32_t /*id*/) {
     const bool isLedger =
         kind == core::kRentLog || kind == core::kMortgageLog || kind == core::kTransaction;
     if (isLedger) Refresh();

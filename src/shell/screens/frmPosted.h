@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/RecordKinds.h"
 #include "core/forms/Form.h"
 #include "shell/DigestTable.h"
 #include "shell/RunHistory.h"
@@ -34,7 +35,7 @@ class frmPosted : public core::forms::Form {
     void Setup(const RunDigest& digest = {});
 
   protected:
-    void NotifyUpdate(std::int16_t kind, std::int16_t action, std::int32_t id) override;
+    void NotifyUpdate(core::RecordKind kind, std::int16_t action, std::int32_t id) override;
     void changeEvent(QEvent* event) override;
 
   private:

@@ -20,7 +20,7 @@ using testing::IsEmpty;
 class AlertsPage : public support::ScreenTest {
   public:
     ~AlertsPage() override {
-        for (const std::int16_t kind : {core::kLease, core::kMortgage, core::kBuilding})
+        for (const core::RecordKind kind : {core::kLease, core::kMortgage, core::kBuilding})
             core::RegisterOpener(kind, nullptr);
     }
 
@@ -28,9 +28,10 @@ class AlertsPage : public support::ScreenTest {
     AlertsPage() {
         platform::SetToday(platform::Date(2024, 5, 17));
         core::App().DbPath = PathTo("");
-        for (const std::int16_t kind : {core::kLease, core::kMortgage, core::kBuilding}) {
+        for (const core::RecordKind kind : {core::kLease, core::kMortgage, core::kBuilding}) {
             core::RegisterOpener(kind, [this](const core::EditRequest& request) {
-                opened_.push_back(std::to_string(request.kind) + " " + std::to_string(request.id));
+                opened_.push_back(std::to_string(core::KindNumber(request.kind)) + " " +
+                                  std::to_string(request.id));
             });
         }
     }

@@ -97,7 +97,7 @@ TEST_F(GeneralLedgerTest, OfAUnitShowsItOrItsBuilding) {
 
 TEST_F(GeneralLedgerTest, AddsWithWhatItIsAbout) {
     struct Case {
-        std::int16_t kind;
+        core::RecordKind kind;
         std::int32_t id;
         bool building;
         const char* references;

@@ -37,7 +37,7 @@ TEST_F(TransCategoryTest, ShowsEachClassInItsList) {
 
 TEST_F(TransCategoryTest, AddsWhatIsTypedToTheListOfTheButton) {
     int told = 0;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t) {
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t, std::int32_t) {
         told += kind == core::kTransCategory ? 1 : 0;
     });
     const auto form = Open();

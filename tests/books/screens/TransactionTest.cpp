@@ -72,8 +72,9 @@ TEST_F(TransactionTest, AsksAboutDoubtfulPartiesThenWritesThemAsTheyStand) {
 
 TEST_F(TransactionTest, WritesWhatWasEnteredAndStaysOnTheRow) {
     int told = 0;
-    const core::NotifyToken token(
-        [&](std::int16_t kind, std::int16_t, std::int32_t) { told += kind == 10 ? 1 : 0; });
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t, std::int32_t) {
+        told += kind == core::kTransaction ? 1 : 0;
+    });
     const auto form = Open();
     EXPECT_TRUE(form->Cancelled());
     Type(Find<QLineEdit>(*form, "dpEffectiveDate"), "2/29/2024");
@@ -277,7 +278,7 @@ TEST_F(TransactionTest, HearsOfOtherRecordsAndStaysClean) {
     Run("INSERT INTO Account (IdAccount, ShowAs) VALUES (63, 'Aaron')");
     Run("DELETE * FROM TransCategory WHERE Category = 'Supplies'");
     Run("INSERT INTO Tenant (IdTenant, LastName, FirstName) VALUES (33, 'Abel', 'Jo')");
-    for (const std::int16_t kind : {core::kAccount, core::kTransCategory, core::kTenant})
+    for (const core::RecordKind kind : {core::kAccount, core::kTransCategory, core::kTenant})
         core::NotifyAll(kind, core::kRecordsChanged, 0);
     EXPECT_EQ(Text(*form, "cboFrom"), "Somebody");
     EXPECT_EQ(Find<QComboBox>(*form, "cboFrom").count(), 4);

@@ -60,7 +60,7 @@ class SampleForm : public core::forms::RecordForm {
         if (refuses) return {"No."};
         return {};
     }
-    void Refresh(std::int16_t kind) override {
+    void Refresh(core::RecordKind kind) override {
         if (kind == core::kAccount) FillVendors();
     }
 
@@ -104,7 +104,9 @@ class RecordFormTest : public ScreenTest {
         const auto* const line = form.findChild<QLabel*>(QStringLiteral("lblDeleted"));
         return line && line->isVisible();
     }
-    static void Broadcast(std::int16_t kind) { core::NotifyAll(kind, core::kRecordsChanged, 0); }
+    static void Broadcast(core::RecordKind kind) {
+        core::NotifyAll(kind, core::kRecordsChanged, 0);
+    }
     /// A write of another program to the same file.
     static void Elsewhere(std::string_view sql) {
         platform::Connection other;

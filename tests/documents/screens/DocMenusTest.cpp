@@ -37,7 +37,7 @@ class DocMenus : public ScreenTest {
         documents::SetDocFlag(id, flag, true);
         return id;
     }
-    void ShowForm(std::int16_t kind, std::vector<Subject> subjects) {
+    void ShowForm(core::RecordKind kind, std::vector<Subject> subjects) {
         form_ = std::make_unique<QDialog>();
         new QVBoxLayout(form_.get());
         bar_ = new core::forms::RecordBar(

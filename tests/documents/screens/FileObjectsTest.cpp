@@ -48,14 +48,14 @@ class PanelForm : public core::forms::Form {
 
 class FileObjectsTest : public support::ScreenTest {
   protected:
-    FileObjects& OpenOn(std::int16_t kind, std::int32_t id, const char* name = "frmTest") {
+    FileObjects& OpenOn(core::RecordKind kind, std::int32_t id, const char* name = "frmTest") {
         form_ = std::make_unique<PanelForm>(name);
         form_->setAttribute(Qt::WA_DeleteOnClose, false);
         form_->Show();
         form_->panel->SetRecord(kind, id);
         return *form_->panel;
     }
-    void Attach(std::int16_t kind, std::int32_t id, std::string path) {
+    void Attach(core::RecordKind kind, std::int32_t id, std::string path) {
         ASSERT_TRUE(documents::AttachFile(kind, id, path));
     }
     std::string MakePicture(const char* name, QSize size, const char* format = nullptr) {

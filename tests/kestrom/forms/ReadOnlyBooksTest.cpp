@@ -253,7 +253,7 @@ TEST_F(ReadOnlyBooks, LetNoCommandOfTheMainWindowWrite) {
     window.Setup({});
     const std::set<std::string> ofRecords = {"mnuEdit", "mnuFind", "mnuCopyRows", "mnuPrint"};
     std::set<std::string> run;
-    for (const std::int16_t kind :
+    for (const core::RecordKind kind :
          {core::kAlert, core::kAccount, core::kLease, core::kMortgage, core::kTenant,
           core::kWorkOrder, core::kTransaction, core::kUnit}) {
         for (QAction* const action : window.findChildren<QAction*>()) {

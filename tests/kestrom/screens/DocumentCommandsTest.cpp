@@ -30,7 +30,7 @@ class DocumentCommands : public ScreenTest {
         MakeFile(name, text);
         documents::SetDocFlag(documents::AddDoc(PathTo(name)), flag, true);
     }
-    core::grid::Grid& Show(std::int16_t kind) {
+    core::grid::Grid& Show(core::RecordKind kind) {
         window_->SetSelectedDb(kind);
         SettleEvents();
         return support::Find<core::grid::Grid>(*window_, "grd");

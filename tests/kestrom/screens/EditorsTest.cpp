@@ -55,7 +55,7 @@ class Editors : public tests::SampleEditors {
         return changes;
     }
     /// Changes the first record of a kind as no screen would.
-    static void Spoil(std::int16_t kind, const std::string& assignment) {
+    static void Spoil(core::RecordKind kind, const std::string& assignment) {
         const auto* const found = std::ranges::find(kKinds, kind, &Kind::kind);
         Run(std::string("UPDATE ") + found->table + " SET " + assignment + " WHERE " +
             found->idField + " = " + std::to_string(SomeIds(*found).at(0)));

@@ -166,8 +166,9 @@ TEST_F(ReportCommands, TheMainWindowPrintsTheSelectedRecordAndItsLists) {
     EXPECT_EQ(Heard(), std::vector<std::string>{
                            "No Report Found: No default report was found for this record type."});
 
-    for (const std::int16_t kind : {core::kAccount, core::kLease, core::kMortgage, core::kTenant,
-                                    core::kWorkOrder, core::kTransaction, core::kUnit}) {
+    for (const core::RecordKind kind :
+         {core::kAccount, core::kLease, core::kMortgage, core::kTenant, core::kWorkOrder,
+          core::kTransaction, core::kUnit}) {
         shell::WriteGridReport(shell::BuildViewSql(kind, {.days = 0}, shell::IdColumn::Omitted));
         reports::RunReport(reports::kScratchReport);
         ASSERT_NE(Viewer(), nullptr);

@@ -17,7 +17,7 @@
 namespace tests {
 
 struct Kind {
-    std::int16_t kind;
+    core::RecordKind kind;
     const char* table;
     const char* idField;
 };
@@ -61,7 +61,7 @@ class SampleEditors : public support::ScreenTest {
         kestrom::RegisterEditors();
     }
     ~SampleEditors() override {
-        for (std::int16_t kind = 0; kind <= core::kUtilityAccount; ++kind)
+        for (core::RecordKind kind = 0; kind <= core::kUtilityAccount; ++kind)
             core::RegisterOpener(kind, {});
         for (const auto editor :
              {core::TransactionEditor::Transaction, core::TransactionEditor::RentPayment,

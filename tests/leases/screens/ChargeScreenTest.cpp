@@ -66,8 +66,8 @@ TEST_F(ChargeScreen, AStoredOneKeepsItsFlagsAndItsPayment) {
 
 TEST_F(ChargeScreen, OneOfZeroIsWrittenAndTheScreensAreTold) {
     Said told;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t, std::int32_t) {
-        told.push_back(std::to_string(kind));
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t, std::int32_t) {
+        told.push_back(std::to_string(core::KindNumber(kind)));
     });
     ClickAction(*Open(0), "SAVE");
     EXPECT_EQ(Row("Amount"), "0");

@@ -22,9 +22,10 @@ LeaseScreenTest::LeaseScreenTest() {
         "'12/15/2023', '01/01/2024', '01/01/2024', '', '05/01/2024', '05/17/2024', 12, 'Month(s)', "
         "'MTM', 30, 950, 60, 60, 0, 5, 40, 5, 0, 10, 60, 200, False, 0, 1, 0, False, 0, '')");
     core::LoadConfiguration();
-    for (const std::int16_t kind : {core::kUnit, core::kTenant}) {
+    for (const core::RecordKind kind : {core::kUnit, core::kTenant}) {
         core::RegisterOpener(kind, [this](const core::EditRequest& request) {
-            opened_.push_back(std::to_string(request.kind) + " " + std::to_string(request.id));
+            opened_.push_back(std::to_string(core::KindNumber(request.kind)) + " " +
+                              std::to_string(request.id));
         });
     }
     core::RegisterOpener(core::kLease, [](const core::EditRequest& request) {
@@ -38,7 +39,7 @@ LeaseScreenTest::LeaseScreenTest() {
 }
 
 LeaseScreenTest::~LeaseScreenTest() {
-    for (const std::int16_t kind : {core::kUnit, core::kTenant, core::kLease, core::kRentLog})
+    for (const core::RecordKind kind : {core::kUnit, core::kTenant, core::kLease, core::kRentLog})
         core::RegisterOpener(kind, nullptr);
 }
 

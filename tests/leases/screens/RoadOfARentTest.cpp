@@ -64,9 +64,10 @@ class RoadOfARent : public LeaseScreenTest {
 
   private:
     struct Nobody : core::RunListener {
-        void Posted(int, std::int32_t, std::string_view,
+        void Posted(core::RecordKind, std::int32_t, std::string_view,
                     const std::vector<core::PostedRow>&) override {}
-        void Failed(int, std::int32_t, std::string_view, std::string_view reason) override {
+        void Failed(core::RecordKind, std::int32_t, std::string_view,
+                    std::string_view reason) override {
             ADD_FAILURE() << reason;
         }
     };

@@ -11,7 +11,7 @@ namespace tests {
 namespace {
 
 template <class Screen>
-void RegisterChild(std::int16_t kind) {
+void RegisterChild(core::RecordKind kind) {
     core::RegisterOpener(kind, [](const core::EditRequest& request) {
         (new Screen)->Setup(request.id, request.parent1);
     });

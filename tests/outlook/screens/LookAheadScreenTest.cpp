@@ -36,14 +36,14 @@ class LookAheadScreen : public support::ScreenTest {
         shell::MakeSamplePortfolio(Folder() / "sample", kUnits, platform::Today());
         core::App().Connection.Open(Folder() / "sample" / "Vestrel.mdb");
         core::LoadBooks();
-        for (std::int16_t kind = 1; kind <= core::kRentLog; ++kind) {
+        for (core::RecordKind kind = 1; kind <= core::kRentLog; ++kind) {
             core::RegisterOpener(kind, [this](const core::EditRequest& request) {
                 opened_.emplace_back(request.kind, request.id);
             });
         }
     }
     ~LookAheadScreen() override {
-        for (std::int16_t kind = 1; kind <= core::kRentLog; ++kind)
+        for (core::RecordKind kind = 1; kind <= core::kRentLog; ++kind)
             core::RegisterOpener(kind, {});
     }
 

@@ -12,7 +12,7 @@ using records::screens::frmBuilding;
 /// Opens records of a kind on their screen, while it lives.
 template <class Screen>
 struct Opening {
-    explicit Opening(std::int16_t of) : kind(of) {
+    explicit Opening(core::RecordKind of) : kind(of) {
         core::RegisterOpener(kind, [this](const core::EditRequest& request) {
             form = new Screen;
             form->Setup(request.id, request.parent1);
@@ -22,7 +22,7 @@ struct Opening {
     Opening(const Opening&) = delete;
     Opening& operator=(const Opening&) = delete;
 
-    std::int16_t kind;
+    core::RecordKind kind;
     QPointer<Screen> form;
 };
 

@@ -268,7 +268,7 @@ TEST_F(BuildingTest, ThePeriodIsShownWithOneDecimal) {
 }
 
 TEST_F(BuildingTest, ABuildingIsNeverOpenTwice) {
-    for (const std::int16_t kind : {core::kBuilding, core::kUnit})
+    for (const core::RecordKind kind : {core::kBuilding, core::kUnit})
         core::RegisterOpener(kind, records::screens::OpenBuilding);
     core::forms::RegisterOpenForms();
     core::EditRecord(core::kUnit, 20);
@@ -281,7 +281,7 @@ TEST_F(BuildingTest, ABuildingIsNeverOpenTwice) {
     core::EditRecord(core::kUnit, 0);
     core::EditRecord(core::kUnit, 0, 0, 22);
     EXPECT_EQ(OpenBuildings(), 4);
-    for (const std::int16_t kind : {core::kBuilding, core::kUnit})
+    for (const core::RecordKind kind : {core::kBuilding, core::kUnit})
         core::RegisterOpener(kind, nullptr);
 }
 

@@ -212,9 +212,9 @@ TEST_F(OwnerLinkTest, EnterSavesAndCloses) {
 
 TEST_F(OwnerLinkTest, TellsOthersOnceTheOwnershipIsSettled) {
     Said order;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t action, std::int32_t id) {
-        order.push_back(std::to_string(kind) + " " + std::to_string(action) + " " +
-                        std::to_string(id) + ", primaries " + Primaries());
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t action, std::int32_t id) {
+        order.push_back(std::to_string(core::KindNumber(kind)) + " " + std::to_string(action) +
+                        " " + std::to_string(id) + ", primaries " + Primaries());
     });
     const auto form = Open();
     Enter(*form, "Jo Owner", "100");

@@ -18,7 +18,7 @@ using records::screens::RelatedDBs;
 /// Takes the place of the editors of a kind and notes what it is asked to open.
 class OpenedNote {
   public:
-    explicit OpenedNote(std::int16_t kind) : kind_(kind) {
+    explicit OpenedNote(core::RecordKind kind) : kind_(kind) {
         core::RegisterOpener(kind, [this](const core::EditRequest& request) { last_ = request; });
     }
     ~OpenedNote() { core::RegisterOpener(kind_, nullptr); }
@@ -27,7 +27,7 @@ class OpenedNote {
     core::EditRequest Last() { return std::exchange(last_, {}); }
 
   private:
-    std::int16_t kind_;
+    core::RecordKind kind_;
     core::EditRequest last_;
 };
 

@@ -97,7 +97,7 @@ TEST_F(SvcContractTest, FollowsOtherScreens) {
     Run("UPDATE Account SET ShowAs = 'Fix-It Ltd' WHERE IdAccount = 63");
     Run("UPDATE Building SET Address = '12 Elm Street' WHERE IdBuilding = 10");
     Run("UPDATE Appliance SET SN = '008'");
-    for (const std::int16_t kind : {core::kAccount, core::kBuilding, core::kAppliance}) {
+    for (const core::RecordKind kind : {core::kAccount, core::kBuilding, core::kAppliance}) {
         core::NotifyAll(kind, core::kRecordsChanged, 0);
     }
     EXPECT_EQ(Chosen(*form, "cboVendor"), QStringLiteral("Fix-It Ltd"));

@@ -140,7 +140,7 @@ TEST_F(WorkOrderTest, FollowsOtherScreens) {
     Run("INSERT INTO Tenant (IdTenant, LastName, FirstName) VALUES (33, 'Ames', 'Al')");
     Run("UPDATE Account SET ShowAs = 'Fix-It Ltd' WHERE IdAccount = 63");
     Run("UPDATE Room SET RoomType = 'Cuisine' WHERE IdRoom = 80");
-    for (const std::int16_t kind : {core::kUnit, core::kTenant, core::kAccount, core::kRoom}) {
+    for (const core::RecordKind kind : {core::kUnit, core::kTenant, core::kAccount, core::kRoom}) {
         core::NotifyAll(kind, core::kRecordsChanged, 0);
     }
     EXPECT_EQ(Chosen(*form, "cboIdUnit"), QStringLiteral("12 Elm St B2"));

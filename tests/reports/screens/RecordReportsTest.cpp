@@ -40,7 +40,7 @@ class RecordReports : public ScreenTest {
     }
 
     /// The bar of a form that shows these records.
-    void ShowForm(std::int16_t kind, std::vector<Subject> subjects) {
+    void ShowForm(core::RecordKind kind, std::vector<Subject> subjects) {
         form_ = std::make_unique<QDialog>();
         new QVBoxLayout(form_.get());
         bar_ = new core::forms::RecordBar(

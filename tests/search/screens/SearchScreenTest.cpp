@@ -23,9 +23,10 @@ class SearchScreen : public support::ScreenTest {
             Run("INSERT INTO Tenant (IdTenant, LastName, FirstName, Status) VALUES (" +
                 std::to_string(id) + ", 'Goldmann', 'No. " + std::to_string(id) + "', 'Current')");
         }
-        for (const std::int16_t kind : {core::kTenant, core::kLease}) {
+        for (const core::RecordKind kind : {core::kTenant, core::kLease}) {
             core::RegisterOpener(kind, [this](const core::EditRequest& request) {
-                opened_.push_back(std::to_string(request.kind) + ' ' + std::to_string(request.id));
+                opened_.push_back(std::to_string(core::KindNumber(request.kind)) + ' ' +
+                                  std::to_string(request.id));
             });
         }
         finder_.SetItems({{"Commands", "show", "Pay Rent", "Database", ""}});
@@ -38,7 +39,7 @@ class SearchScreen : public support::ScreenTest {
             support::SettleEvents();
     }
     ~SearchScreen() override {
-        for (const std::int16_t kind : {core::kTenant, core::kLease})
+        for (const core::RecordKind kind : {core::kTenant, core::kLease})
             core::RegisterOpener(kind, {});
         delete box_;
     }

@@ -58,9 +58,9 @@ TEST_F(ConfigTest, ShowsTheSettingsOfTheBooks) {
 
 TEST_F(ConfigTest, SavingReachesEveryScreenWithTheNewValuesLoaded) {
     Said heard;
-    const core::NotifyToken token([&](std::int16_t kind, std::int16_t action, std::int32_t id) {
-        heard.push_back(std::to_string(kind) + " " + std::to_string(action) + " " +
-                        std::to_string(id) + " " + core::Config().CompanyName);
+    const core::NotifyToken token([&](core::RecordKind kind, std::int16_t action, std::int32_t id) {
+        heard.push_back(std::to_string(core::KindNumber(kind)) + " " + std::to_string(action) +
+                        " " + std::to_string(id) + " " + core::Config().CompanyName);
     });
     const auto form = Open();
     Type(Box(*form, "txtCompanyName"), "Elm & Sons");

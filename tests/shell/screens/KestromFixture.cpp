@@ -40,9 +40,10 @@ KestromTest::KestromTest() {
     for (const core::RunStep step : {core::RunStep::Mortgages, core::RunStep::Leases})
         core::RegisterRunStep(step, nullptr);
     const auto opened = [this](const core::EditRequest& request) {
-        log_.push_back(std::to_string(request.kind) + " " + std::to_string(request.id));
+        log_.push_back(std::to_string(core::KindNumber(request.kind)) + " " +
+                       std::to_string(request.id));
     };
-    for (const std::int16_t kind : kKinds)
+    for (const core::RecordKind kind : kKinds)
         core::RegisterOpener(kind, opened);
     services_.hasEditor = core::HasEditor;
     services_.end.endProcess = [this] { log_.emplace_back("end"); };
@@ -50,7 +51,7 @@ KestromTest::KestromTest() {
 
 KestromTest::~KestromTest() {
     window_.reset();
-    for (const std::int16_t kind : kKinds)
+    for (const core::RecordKind kind : kKinds)
         core::RegisterOpener(kind, nullptr);
 }
 

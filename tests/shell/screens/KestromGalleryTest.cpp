@@ -51,7 +51,7 @@ TEST_F(KestromGallery, FitsASmallScreen) {
     support::Find<QTabWidget>(window, "tabHome").setCurrentIndex(1);
     EXPECT_THAT(Portrait(window, "picture"), IsEmpty());
     struct View {
-        std::int16_t kind;
+        core::RecordKind kind;
         const char* name;
     };
     for (const View& view :

@@ -52,7 +52,8 @@ TEST_F(Kestrom, OpensOnTheHomePageWithoutRecordCommands) {
 TEST_F(Kestrom, OffersWhatThereIsWorkFor) {
     const auto note = [this](const char* item) {
         return [this, item](const shell::screens::Selection& selection) {
-            log_.push_back(std::string(item) + " " + std::to_string(selection.kind) + " " +
+            log_.push_back(std::string(item) + " " +
+                           std::to_string(core::KindNumber(selection.kind)) + " " +
                            std::to_string(selection.id));
         };
     };
@@ -286,7 +287,7 @@ TEST_F(Kestrom, RunsTheBooksWhenTheDayChanges) {
     core::RegisterRunStep(core::RunStep::ScheduledEvents, [&](core::RunListener& listener) {
         ++runs;
         Window().Tick(); // a tick in the middle of a run starts no other
-        listener.Posted(2, 40, "Smith",
+        listener.Posted(core::kLease, 40, "Smith",
                         {{platform::Today(), "Rent", platform::Currency::FromUnits(9)}});
     });
     Window().Tick();
