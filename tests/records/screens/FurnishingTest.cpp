@@ -155,18 +155,6 @@ TEST_F(FurnishingTest, WhatWasTypedIsOfferedTheNextTime) {
     EXPECT_EQ(types.currentText(), QString()) << "but a new room has no type yet";
 }
 
-TEST_F(FurnishingTest, LongAndStrangeTextsComeBackWhole) {
-    const QString strange = QStringLiteral("Bob's \"attic\" 🏠 50% ; -- ") + QString(400, 'x');
-    auto form = Open<frmRoom>(0);
-    Find<QComboBox>(*form, "cboRoomType").setEditText(strange);
-    Find<QLineEdit>(*form, "txtCeiling").setText(strange);
-    ClickAction(*form, "CLOSE");
-    EXPECT_EQ(Heard(), Said{});
-    form = Open<frmRoom>(1000);
-    EXPECT_EQ(Find<QComboBox>(*form, "cboRoomType").currentText(), strange);
-    EXPECT_EQ(Find<QLineEdit>(*form, "txtCeiling").text(), strange);
-}
-
 TEST_F(FurnishingTest, UnitsAndVendorsThatChangeAreOfferedAtOnce) {
     const auto form = Open<frmAppliance>(70);
     Run("UPDATE Unit SET Unit = 'Z' WHERE IdUnit = 20");
