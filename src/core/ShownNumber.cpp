@@ -6,10 +6,10 @@
 namespace core {
 
 double ShownNumber(double number) {
-    constexpr int kDigits = 15;
+    constexpr int kShownDigits = 15;
     std::array<char, 32> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number,
-                                   std::chars_format::general, kDigits)
+                                   std::chars_format::general, kShownDigits)
                          .ptr;
     double shown = number;
     std::from_chars(digits.data(), end, shown);

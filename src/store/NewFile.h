@@ -17,7 +17,7 @@ class MakersLock {
 
   private:
     std::filesystem::path path_;
-    int handle_;
+    int handle_ = -1;
 };
 
 /// A database file in the making: it is built under another name beside its own, and gets

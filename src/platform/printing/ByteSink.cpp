@@ -92,8 +92,9 @@ void Spool::Write(std::string_view bytes) {
 }
 
 void Spool::CopyTo(ByteSink& sink) {
-    if (std::fflush(file_) != 0) FailToWrite("a temporary file", errno);
-    std::rewind(file_);
+    if (std::fflush(file_) != 0 || std::fseek(file_, 0, SEEK_SET) != 0) {
+        FailToWrite("a temporary file", errno);
+    }
     std::array<char, 65'536> part{};
     while (const std::size_t count = std::fread(part.data(), 1, part.size(), file_)) {
         sink.Write({part.data(), count});

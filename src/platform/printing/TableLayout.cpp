@@ -1,6 +1,7 @@
 #include "platform/printing/TableLayout.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -16,11 +17,11 @@ constexpr std::size_t kRowsKept = 5;
 } // namespace
 
 TableLayout::TableLayout(PageMaker& maker, FontMetrics& metrics, const PrintStyle& style,
-                         const PrintTable& table, const FittedColumns& columns)
+                         const PrintTable& table, FittedColumns columns)
     : maker_(maker),
       style_(style),
       table_(table),
-      columns_(columns),
+      columns_(std::move(columns)),
       header_(metrics, style, table, columns_, RowKind::Header),
       row_(metrics, style, table, columns_, RowKind::Body) {
     std::vector<std::string_view> cells(table.header.cells.begin(), table.header.cells.end());

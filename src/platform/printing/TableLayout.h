@@ -14,7 +14,7 @@ namespace platform {
 class TableLayout {
   public:
     TableLayout(PageMaker& maker, FontMetrics& metrics, const PrintStyle& style,
-                const PrintTable& table, const FittedColumns& columns);
+                const PrintTable& table, FittedColumns columns);
 
     /// Begins at this height of the page. The header row waits for the first row, so that it is
     /// never the last row of a page.

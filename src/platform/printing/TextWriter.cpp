@@ -37,6 +37,7 @@ std::vector<std::string_view> LinesOf(std::string_view text, std::size_t width) 
     const auto room = static_cast<Twips>(std::max<std::size_t>(width, 1)) * 10;
     BreakLines(Characters(), text, room, lines);
     std::vector<std::string_view> texts;
+    texts.reserve(lines.size());
     for (const MeasuredLine& line : lines)
         texts.push_back(line.text);
     return texts;

@@ -46,7 +46,7 @@ void ProbeFile() {
     if (Probe()) Probe()();
 }
 
-DiskFile::DiskFile(fs::path file, Start start)
+DiskFile::DiskFile(const fs::path& file, Start start)
     : DiskFile(file, (ProbeFile(), OpenFor(file, start))) {
     if (start == Start::Append && lseek(descriptor_, 0, SEEK_END) < 0) FailToWrite(file_);
 }

@@ -29,7 +29,7 @@ class DiskFile {
         Append, ///< goes on after the end of an existing file
     };
 
-    DiskFile(std::filesystem::path file, Start start);
+    DiskFile(const std::filesystem::path& file, Start start);
     /// Takes over an open descriptor of `file`.
     DiskFile(std::filesystem::path file, int descriptor);
     ~DiskFile();

@@ -58,13 +58,14 @@ BoundPtr Binder::Bind(const Expression& expression) {
 
 BoundPtr Binder::BindNumber(const Expression& expression) const {
     std::int32_t whole = 0;
-    const char* const end = expression.text.data() + expression.text.size();
-    const auto read = std::from_chars(expression.text.data(), end, whole);
+    const char* const begin = expression.text.data();
+    const char* const end = begin + expression.text.size();
+    const auto read = std::from_chars(begin, end, whole);
     if (read.ec == std::errc() && read.ptr == end) {
         return MakeNumber(std::to_string(whole), FieldType::Long, expression.position);
     }
     double number = 0;
-    if (std::from_chars(expression.text.data(), end, number).ec == std::errc::result_out_of_range) {
+    if (std::from_chars(begin, end, number).ec == std::errc::result_out_of_range) {
         Fault(expression.position, fmt::format("{} is too large", expression.text));
     }
     std::string text(expression.text);

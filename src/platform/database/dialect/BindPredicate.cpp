@@ -44,7 +44,7 @@ BoundPtr Binder::BindInQuery(const Expression& expression) {
     BoundPtr predicate = MakePredicate(BoundKind::InQuery, expression);
     predicate->operands.push_back(Bind(*expression.operands[0]));
     predicate->query = BindColumnQuery(expression);
-    std::vector<BoundPtr*> values = {&predicate->operands[0]};
+    std::vector<BoundPtr*> values = {predicate->operands.data()};
     for (BoundSelect& select : predicate->query->selects)
         values.push_back(&select.items[0].value);
     predicate->ignoresCase = BringTogether(values) == Domain::Text;

@@ -93,8 +93,9 @@ void Binder::BindOrder(const Query& query, BoundQuery& bound) {
 std::size_t Binder::OrderColumn(const Expression& expression, const BoundQuery& query) const {
     if (expression.kind == ExpressionKind::Number) {
         std::size_t position = 0;
-        const char* const end = expression.text.data() + expression.text.size();
-        const auto read = std::from_chars(expression.text.data(), end, position);
+        const char* const begin = expression.text.data();
+        const char* const end = begin + expression.text.size();
+        const auto read = std::from_chars(begin, end, position);
         if (read.ptr != end || position < 1 || position > query.columns.size()) {
             Fault(expression.position, fmt::format("There is no column {}", expression.text));
         }

@@ -63,6 +63,7 @@ void ChooseScripts(std::vector<Character>& characters) {
 
 void ChooseLevels(std::vector<Character>& characters) {
     std::vector<FriBidiChar> codes;
+    codes.reserve(characters.size());
     for (const Character& character : characters)
         codes.push_back(character.code);
     const auto count = static_cast<FriBidiStrIndex>(codes.size());

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-struct z_stream_s;
+struct z_stream_s; // NOLINT(readability-identifier-naming)
 
 namespace platform {
 

@@ -227,7 +227,8 @@ int SeriesChart::LabelAt(QPoint position) const {
     const bool isRows = shape_ == ChartShape::Rows;
     const double share = isRows ? (inChart.y() - plot.top()) / plot.height()
                                 : (inChart.x() - plot.left()) / plot.width();
-    if (!(share >= 0 && share < 1)) return -1;
+    const bool isInside = share >= 0 && share < 1; // false in a plot without a size, too
+    if (!isInside) return -1;
     return static_cast<int>(share * static_cast<double>(labels_.size()));
 }
 
