@@ -190,10 +190,10 @@ TEST_F(Editors, ShowTheFilesOfTheRecordsThatCanHaveFiles) {
     for (const Kind& kind : kKinds) {
         const std::int32_t id = SomeId(kind);
         if (!core::HasEditor(kind.kind) || kind.kind == core::kUnit) continue;
-        const std::int32_t file = 9000 + kind.kind;
+        const std::int32_t file = 9000 + core::KindNumber(kind.kind);
         Run("INSERT INTO FileObject (IdFileObject, dbType, IdOwner, FilePath) VALUES (" +
-            std::to_string(file) + ", " + std::to_string(kind.kind) + ", " + std::to_string(id) +
-            ", '/nowhere/picture.png')");
+            std::to_string(file) + ", " + std::to_string(core::KindNumber(kind.kind)) + ", " +
+            std::to_string(id) + ", '/nowhere/picture.png')");
         for (const std::int32_t opened : {id, 0}) {
             core::EditRecord(kind.kind, opened);
             ASSERT_EQ(Open().size(), 1U) << kind.table;
@@ -233,7 +233,7 @@ TEST_F(Editors, ShowTheFilesOfTheRecordsThatCanHaveFiles) {
     EXPECT_EQ("Of the Building", platform::qt::FromScreen(filesOf.tabText(0)));
     EXPECT_EQ("Of the Unit", platform::qt::FromScreen(filesOf.tabText(1)));
     filesOf.setCurrentIndex(1);
-    EXPECT_EQ(files.SelectedId(), 9000 + core::kBuilding);
+    EXPECT_EQ(files.SelectedId(), 9000 + core::KindNumber(core::kBuilding));
 }
 
 } // namespace
