@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/EditRecord.h"
+#include "core/KindTable.h"
 #include "core/Startup.h"
 #include "core/forms/Form.h"
 #include "core/forms/OpenForms.h"
@@ -61,8 +62,8 @@ class SampleEditors : public support::ScreenTest {
         kestrom::RegisterEditors();
     }
     ~SampleEditors() override {
-        for (core::RecordKind kind = 0; kind <= core::kUtilityAccount; ++kind)
-            core::RegisterOpener(kind, {});
+        for (const core::KindInfo& info : core::AllKinds())
+            core::RegisterOpener(info.kind, {});
         for (const auto editor :
              {core::TransactionEditor::Transaction, core::TransactionEditor::RentPayment,
               core::TransactionEditor::MortgagePayment}) {

@@ -3,6 +3,7 @@
 #include <QProgressBar>
 
 #include "core/EditRecord.h"
+#include "core/KindTable.h"
 #include "core/Startup.h"
 #include "outlook/screens/MonthView.h"
 #include "outlook/screens/frmLookAhead.h"
@@ -36,15 +37,15 @@ class LookAheadScreen : public support::ScreenTest {
         shell::MakeSamplePortfolio(Folder() / "sample", kUnits, platform::Today());
         core::App().Connection.Open(Folder() / "sample" / "Vestrel.mdb");
         core::LoadBooks();
-        for (core::RecordKind kind = 1; kind <= core::kRentLog; ++kind) {
-            core::RegisterOpener(kind, [this](const core::EditRequest& request) {
+        for (const core::KindInfo& info : core::AllKinds()) {
+            core::RegisterOpener(info.kind, [this](const core::EditRequest& request) {
                 opened_.emplace_back(request.kind, request.id);
             });
         }
     }
     ~LookAheadScreen() override {
-        for (core::RecordKind kind = 1; kind <= core::kRentLog; ++kind)
-            core::RegisterOpener(kind, {});
+        for (const core::KindInfo& info : core::AllKinds())
+            core::RegisterOpener(info.kind, {});
     }
 
     static QPointer<frmLookAhead> Open() {
