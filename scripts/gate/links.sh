@@ -28,7 +28,7 @@ patternOf() {
         platform_qt) echo '"platform/qt/' ;;
         platform_preview) echo '"platform/qt/preview/' ;;
         platform_dialect) echo '"platform/database/dialect/' ;;
-        platform_charts | platform_preview) echo "\"platform/qt/${1#platform_}/" ;;
+        platform_charts) echo "\"platform/qt/${1#platform_}/" ;;
         platform_pdf | platform_fonts) echo "\"platform/printing/${1#platform_}/" ;;
         platform_*) echo "\"platform/${1#platform_}/" ;;
         *_ui) echo "\"${1%_ui}/screens/" ;;

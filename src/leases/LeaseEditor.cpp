@@ -103,24 +103,24 @@ void SaveLease(Recordset& row, LeaseAge age) {
     unit.Commit();
 }
 
-LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view word) {
+LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view status) {
     LeaseAvailability can;
     if (age == LeaseAge::New) {
         can.runs = false;
         can.dateRenewed = false;
         can.dateVacating = false;
         can.parties = true;
-    } else if (word == core::kLeasePending) {
+    } else if (status == core::kLeasePending) {
         can.breakLease = true;
         can.dateVacating = false;
         can.blankVacating = true;
-    } else if (word == core::kLeaseNotice) {
+    } else if (status == core::kLeaseNotice) {
         can.cancelNotice = true;
         can.dateActive = false;
-    } else if (IsOver(word)) {
+    } else if (IsOver(status)) {
         can.renewLease = true;
         can.dateActive = false;
-    } else if (IsCharged(word)) {
+    } else if (IsCharged(status)) {
         can.breakLease = true;
         can.giveNotice = true;
         can.dateActive = false;

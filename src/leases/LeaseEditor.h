@@ -63,7 +63,7 @@ struct LeaseAvailability {
     friend bool operator==(const LeaseAvailability&, const LeaseAvailability&) = default;
 };
 
-LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view word);
+LeaseAvailability AvailabilityOf(LeaseAge age, std::string_view status);
 
 /// Opens `row` with the lease's balances as its ledger has them now; the row isn't stored, only
 /// shown on a screen. There is no current row if the lease was deleted.

@@ -15,9 +15,9 @@ std::string_view RunningStatus(std::string_view termType) {
     return core::kLeaseContracted;
 }
 
-bool IsRunning(std::string_view word) {
-    return word == core::kLeaseContracted || word == core::kLeaseMonthToMonth ||
-           word == core::kLeaseWeekToWeek;
+bool IsRunning(std::string_view status) {
+    return status == core::kLeaseContracted || status == core::kLeaseMonthToMonth ||
+           status == core::kLeaseWeekToWeek;
 }
 
 } // namespace
@@ -54,12 +54,12 @@ StatusStep StepLeaseStatus(LeaseTerms& terms, Date onDate, bool force) {
     return step;
 }
 
-bool IsCharged(std::string_view word) {
-    return IsRunning(word) || word == core::kLeaseNotice;
+bool IsCharged(std::string_view status) {
+    return IsRunning(status) || status == core::kLeaseNotice;
 }
 
-bool IsOver(std::string_view word) {
-    return word == core::kLeaseExpired || word == core::kLeaseBroken;
+bool IsOver(std::string_view status) {
+    return status == core::kLeaseExpired || status == core::kLeaseBroken;
 }
 
 } // namespace leases

@@ -24,9 +24,9 @@ struct StatusStep {
 StatusStep StepLeaseStatus(LeaseTerms& terms, platform::Date onDate, bool force);
 
 /// Returns whether leases of this status are charged.
-bool IsCharged(std::string_view word);
+bool IsCharged(std::string_view status);
 
 /// Returns whether a lease of this status is over: its unit free, its tenant archived.
-bool IsOver(std::string_view word);
+bool IsOver(std::string_view status);
 
 } // namespace leases

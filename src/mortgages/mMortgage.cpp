@@ -23,9 +23,9 @@ namespace {
 
 /// Sets a text only if it differs: on most days nothing in a row changes, and an unchanged field
 /// isn't written.
-void SetWord(Recordset& row, std::string_view field, std::string_view word) {
+void SetIfChanged(Recordset& row, std::string_view field, std::string_view text) {
     auto stored = row[field];
-    if (stored.IsNull() || stored.AsText() != word) stored.Set(word);
+    if (stored.IsNull() || stored.AsText() != text) stored.Set(text);
 }
 
 bool HasBalance(Recordset& row) {
@@ -74,7 +74,7 @@ std::vector<core::PostedRow> UpdateMortgage(Recordset& row, RunMode mode) {
     std::optional<UnitOfWork> unit;
     if (!charges.empty()) unit.emplace(core::App().Connection);
     const std::int32_t first = WriteCharges(idMortgage, charges);
-    SetWord(row, "DateUpdated", std::max(from, to).ToText());
+    SetIfChanged(row, "DateUpdated", std::max(from, to).ToText());
     SetMortgageStatus(row);
     row.Update();
     if (unit) unit->Commit();
@@ -91,16 +91,16 @@ void UpdateMortgageById(std::int32_t idMortgage, RunMode mode) {
 
 void SetMortgageStatus(Recordset& row) {
     const bool paid = !HasBalance(row);
-    SetWord(row, "Status", paid ? core::kMortgageClosed : core::kMortgageCurrent);
+    SetIfChanged(row, "Status", paid ? core::kMortgageClosed : core::kMortgageCurrent);
     if (paid) {
-        SetWord(row, "PmtStatus", core::kPaymentNone);
+        SetIfChanged(row, "PmtStatus", core::kPaymentNone);
         return;
     }
     if (row["NextDue"].IsBlank()) return;
     const int daysPast = platform::Today().Serial() - row["NextDue"].AsDate().Serial();
     const int grace = CountOf(row["GracePeriod"]);
     const std::string_view late = daysPast > grace ? core::kPaymentLate : core::kPaymentDue;
-    SetWord(row, "PmtStatus", daysPast > 0 ? late : core::kPaymentOk);
+    SetIfChanged(row, "PmtStatus", daysPast > 0 ? late : core::kPaymentOk);
 }
 
 } // namespace mortgages

@@ -7,6 +7,7 @@
 #include "core/NotifyAll.h"
 #include "core/Preferences.h"
 #include "core/RecordKinds.h"
+#include "core/Rows.h"
 #include "platform/database/Recordset.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/values/Errors.h"
@@ -33,7 +34,7 @@ void MarkAsMulti(platform::Connection& books, std::int32_t idBuilding) {
     const auto units =
         books.Scalar("SELECT Count(*) AS Result FROM Unit WHERE IdBuilding = ?", {idBuilding});
     if (!units || units->AsLong() <= 1) return;
-    books.Execute("UPDATE Building SET Multi = True WHERE IdBuilding = ?", {idBuilding});
+    core::Execute("UPDATE Building SET Multi = True WHERE IdBuilding = ?", {idBuilding}, books);
 }
 
 /// Writes the unit and everything that moves with it, all or nothing.
@@ -41,10 +42,13 @@ bool Write(std::int32_t idUnit, std::int32_t idBuilding) {
     platform::Connection& books = core::App().Connection;
     platform::UnitOfWork unit(books);
     if (!core::RecordExists(core::kBuilding, idBuilding)) return false;
-    if (books.Execute("UPDATE Unit SET IdBuilding = ? WHERE IdUnit = ?", {idBuilding, idUnit}) == 0)
+    if (core::Execute("UPDATE Unit SET IdBuilding = ? WHERE IdUnit = ?", {idBuilding, idUnit},
+                      books) == 0)
         return false;
-    books.Execute("UPDATE AutoEvent SET IdBuilding = ? WHERE IdUnit = ?", {idBuilding, idUnit});
-    books.Execute("UPDATE Transactions SET IdBuilding = ? WHERE IdUnit = ?", {idBuilding, idUnit});
+    core::Execute("UPDATE AutoEvent SET IdBuilding = ? WHERE IdUnit = ?", {idBuilding, idUnit},
+                  books);
+    core::Execute("UPDATE Transactions SET IdBuilding = ? WHERE IdUnit = ?", {idBuilding, idUnit},
+                  books);
     try {
         platform::UnitOfWork mark(books);
         MarkAsMulti(books, idBuilding);
