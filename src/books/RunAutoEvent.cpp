@@ -37,7 +37,7 @@ Transaction PostingOf(Recordset& event, Date date) {
     posting.credit = PartyOf(event, "CreditType", "CreditId");
     posting.amount = MoneyOf(event["Amount"]);
     posting.taxCategory = TextOf(event["TaxCategory"]);
-    posting.ien = Ien{CountOf(event["IEN"])};
+    posting.ien = Ien{ShortOf(event["IEN"])};
     posting.checkNumber = kCheckNumber;
     posting.description = TextOf(event["Description"]);
     static_cast<References&>(posting) = ReadReferences(event);
@@ -61,7 +61,7 @@ std::int32_t RunAutoEvent(std::int32_t idAutoEvent, Date date, EventPosts posts)
     if (event.Eof()) return 0;
 
     const bool hasTransaction =
-        EventAction{CountOf(event["EventAction"])} == EventAction::ProcessTransaction;
+        EventAction{ShortOf(event["EventAction"])} == EventAction::ProcessTransaction;
     const std::int32_t idTransaction = hasTransaction && posts == EventPosts::Yes
                                            ? PostTransaction(PostingOf(event, date), Triggers::Skip)
                                            : 0;

@@ -36,7 +36,7 @@ struct EventOutcome {
 };
 
 EventSchedule ScheduleOf(Recordset& event) {
-    return {IntervalType{CountOf(event["IntervalType"])}, CountOf(event["IntervalPeriod"]),
+    return {IntervalType{ShortOf(event["IntervalType"])}, ShortOf(event["IntervalPeriod"]),
             DateOf(event["LastRun"])};
 }
 

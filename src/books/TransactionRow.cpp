@@ -26,7 +26,7 @@ void Put(Field field, const T& value) {
 }
 
 void Get(const Field& field, Ien& value) {
-    value = Ien{CountOf(field)};
+    value = Ien{ShortOf(field)};
 }
 template <class T>
 void Get(const Field& field, T& value) {

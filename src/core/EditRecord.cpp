@@ -81,8 +81,8 @@ TransactionPlace FindTransactionPlace(std::int32_t id) {
         return {};
     }
     try {
-        return {EditorOf(TransactionClass{platform::CountOf(rows["Class"])},
-                         RentFlags{platform::CountOf(rows["Flags"])}),
+        return {EditorOf(TransactionClass{platform::ShortOf(rows["Class"])},
+                         RentFlags{platform::ShortOf(rows["Flags"])}),
                 platform::IdOf(rows["IdLease"]), platform::IdOf(rows["IdMortgage"])};
     } catch (const std::exception&) {
         return {};

@@ -42,7 +42,7 @@ bool TakenBack::Has(Posting posting, Date date) {
             "SELECT Posting, DatePosted FROM TakenBack WHERE (IdRecord = ?) AND (RecordKind = ?)",
             {id_, kind_});
         for (; !stored.Eof(); stored.MoveNext())
-            rows_->emplace_back(Posting{CountOf(stored[0])}, TextOf(stored[1]));
+            rows_->emplace_back(Posting{ShortOf(stored[0])}, TextOf(stored[1]));
     }
     // The day is only formatted for the few records of which a row was taken back.
     return !rows_->empty() &&
@@ -57,7 +57,7 @@ std::vector<TakenRow> ReadTakenBack() {
     for (; !stored.Eof(); stored.MoveNext()) {
         rows.push_back({.recordKind = KindOf(stored["RecordKind"]),
                         .recordId = IdOf(stored["IdRecord"]),
-                        .posting = Posting{CountOf(stored["Posting"])},
+                        .posting = Posting{ShortOf(stored["Posting"])},
                         .date = Date::TryParse(TextOf(stored["DatePosted"])).value_or(Date()),
                         .rowId = IdOf(stored["IdRow"]),
                         .takenOn = Date::TryParse(TextOf(stored["DateTaken"])).value_or(Date())});

@@ -85,7 +85,7 @@ std::vector<OpenCredit> ReadCredits(std::int32_t idLease) {
     std::vector<OpenCredit> credits;
     for (; !rows.Eof(); rows.MoveNext()) {
         credits.push_back({IdOf(rows["IdRentLog"]), DateOf(rows["DatePosted"]),
-                           TransactionClass{CountOf(rows["Class"])}, -MoneyOf(rows["Amount"])});
+                           TransactionClass{ShortOf(rows["Class"])}, -MoneyOf(rows["Amount"])});
     }
     return credits;
 }

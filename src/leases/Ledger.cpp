@@ -35,7 +35,7 @@ std::string_view Filter(LedgerRows rows) {
 
 LedgerRow ReadRow(Recordset& rows) {
     return {.idRentLog = rows["IdRentLog"].AsLong(),
-            .flags = RentFlags{CountOf(rows["Flags"])},
+            .flags = RentFlags{ShortOf(rows["Flags"])},
             .datePosted = DateOf(rows["DatePosted"]),
             .category = TextOf(rows["Category"]),
             .description = TextOf(rows["Description"]),

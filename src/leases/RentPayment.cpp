@@ -30,7 +30,7 @@ books::Party PartyOf(core::RecordKind kind, std::int32_t id) {
 
 void AddRows(RentPayment& payment, Recordset& rows, bool selected) {
     for (; !rows.Eof(); rows.MoveNext()) {
-        const auto flags = RentFlags{CountOf(rows["Flags"])};
+        const auto flags = RentFlags{ShortOf(rows["Flags"])};
         if (flags == RentFlags::Payment) {
             if (payment.idTransaction != 0 && selected)
                 payment.idPaymentRow = rows["IdRentLog"].AsLong();
@@ -130,7 +130,7 @@ RentPayment ReadPayment(std::int32_t idTransaction) {
     RentPayment payment;
     payment.idTransaction = idTransaction;
     payment.idLease = IdOf(row["IdLease"]);
-    payment.rentClass = TransactionClass{static_cast<std::int16_t>(IdOf(row["Class"]))};
+    payment.rentClass = TransactionClass{ShortOf(row["Class"])};
     if (!row["DateEffective"].IsBlank()) payment.dateEffective = row["DateEffective"].AsDate();
     payment.from = {core::KindOf(row["DebitType"]), IdOf(row["DebitId"]), TextOf(row["DebitDesc"])};
     payment.to = {core::kAccount, IdOf(row["CreditId"]), TextOf(row["CreditDesc"])};

@@ -26,7 +26,7 @@ RentLogEntry ReadEntry(Recordset& row) {
             .category = TextOf(row["Category"]),
             .amount = MoneyOf(row["Amount"]),
             .description = TextOf(row["Description"]),
-            .flags = RentFlags{CountOf(row["Flags"])}};
+            .flags = RentFlags{ShortOf(row["Flags"])}};
 }
 
 void OpenCharge(Recordset& row, std::int32_t idRentLog) {

@@ -32,8 +32,8 @@ Recordset ReadReturnable(std::int32_t idTransaction) {
     Recordset row =
         core::Read("SELECT * FROM Transactions WHERE IdTransaction = ?", {idTransaction});
     if (row.Eof()) throw platform::Error(fmt::format("There is no transaction {}", idTransaction));
-    const auto code = core::TransactionClass{CountOf(row["Class"])};
-    if (core::LedgerOf(code) != core::Ledger::Rent || CountOf(row["Flags"]) != 0) {
+    const auto code = core::TransactionClass{ShortOf(row["Class"])};
+    if (core::LedgerOf(code) != core::Ledger::Rent || ShortOf(row["Flags"]) != 0) {
         throw platform::Error(
             fmt::format("Transaction {} is not a payment of a lease", idTransaction));
     }

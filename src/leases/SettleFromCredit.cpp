@@ -107,7 +107,7 @@ class Writer {
                 WriteRentLog({.idLease = IdOf(row["IdLease"]),
                               .idTransaction = idTransaction,
                               .datePosted = DateOf(row["DatePosted"]),
-                              .rentClass = TransactionClass{CountOf(row["Class"])},
+                              .rentClass = TransactionClass{ShortOf(row["Class"])},
                               .category = TextOf(row["Category"]),
                               .amount = -used,
                               .description = TextOf(row["Description"])});

@@ -18,7 +18,7 @@ MortgageLogEntry EntryOf(platform::Recordset& row) {
     MortgageLogEntry entry;
     entry.idMortgage = IdOf(row["IdMortgage"]);
     entry.idTransaction = IdOf(row["IdTransaction"]);
-    entry.period = CountOf(row["Period"]);
+    entry.period = ShortOf(row["Period"]);
     entry.datePosted = DateOf(row["DatePosted"]);
     entry.category = TextOf(row["Category"]);
     entry.principal = MoneyOf(row["Principal"]);
@@ -26,7 +26,7 @@ MortgageLogEntry EntryOf(platform::Recordset& row) {
     entry.interest = MoneyOf(row["Interest"]);
     entry.other = MoneyOf(row["Other"]);
     entry.description = TextOf(row["Description"]);
-    entry.flags = LogFlags{CountOf(row["Flags"])};
+    entry.flags = LogFlags{ShortOf(row["Flags"])};
     return entry;
 }
 

@@ -30,7 +30,7 @@ LogRow RowOf(Recordset& rows) {
     row.entry.interest = MoneyOf(rows["Interest"]);
     row.entry.other = MoneyOf(rows["Other"]);
     row.total = MoneyOf(rows["Total"]);
-    row.entry.flags = LogFlags{CountOf(rows["Flags"])};
+    row.entry.flags = LogFlags{ShortOf(rows["Flags"])};
     row.entry.idTransaction = IdOf(rows["IdTransaction"]);
     return row;
 }

@@ -33,13 +33,13 @@ PaymentCharge ChargeOf(Recordset& rows) {
     charge.idMortgageLog = rows["IdMortgageLog"].AsLong();
     charge.idTransaction = IdOf(rows["IdTransaction"]);
     charge.datePosted = DateOf(rows["DatePosted"]);
-    charge.period = CountOf(rows["Period"]);
+    charge.period = ShortOf(rows["Period"]);
     charge.category = TextOf(rows["Category"]);
     charge.payDown = MoneyOf(rows["PayDown"]);
     charge.total = MoneyOf(rows["Total"]);
     charge.description = TextOf(rows["Description"]);
     charge.selected = rows["Selected"].AsText() == "True";
-    charge.flags = LogFlags{CountOf(rows["Flags"])};
+    charge.flags = LogFlags{ShortOf(rows["Flags"])};
     return charge;
 }
 

@@ -133,7 +133,7 @@ RunTerms RunTerms::Read(platform::Recordset& row) {
     terms.firstDue = DateOf(row["FirstDue"]);
     terms.nextDue = DateOf(row["NextDue"]);
     terms.dateUpdated = DateOf(row["DateUpdated"]);
-    terms.graceDays = CountOf(row["GracePeriod"]);
+    terms.graceDays = ShortOf(row["GracePeriod"]);
     terms.escrow = MoneyOf(row["EscrowAmount"]);
     terms.pmi = MoneyOf(row["PMI"]);
     terms.lateFee = MoneyOf(row["LateFee"]);

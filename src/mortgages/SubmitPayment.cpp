@@ -46,8 +46,8 @@ void CheckCharge(const MortgagePayment& payment, const PaymentCharge& charge) {
         ThrowConflict(charge, "has been changed");
     }
     if (MoneyOf(row["Total"]) != charge.total || MoneyOf(row["PayDown"]) != charge.payDown ||
-        CountOf(row["Period"]) != charge.period ||
-        LogFlags{CountOf(row["Flags"])} != charge.flags) {
+        ShortOf(row["Period"]) != charge.period ||
+        LogFlags{ShortOf(row["Flags"])} != charge.flags) {
         ThrowConflict(charge, "has been changed");
     }
 }

@@ -98,7 +98,7 @@ void SetMortgageStatus(Recordset& row) {
     }
     if (row["NextDue"].IsBlank()) return;
     const int daysPast = platform::Today().Serial() - row["NextDue"].AsDate().Serial();
-    const int grace = CountOf(row["GracePeriod"]);
+    const int grace = ShortOf(row["GracePeriod"]);
     const std::string_view late = daysPast > grace ? core::kPaymentLate : core::kPaymentDue;
     SetIfChanged(row, "PmtStatus", daysPast > 0 ? late : core::kPaymentOk);
 }

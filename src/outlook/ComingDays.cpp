@@ -79,8 +79,8 @@ std::vector<ForecastRow> DaysOfLease(std::int32_t id, leases::LeaseTerms terms, 
 // Events
 
 void AddDaysOfEvent(Forecast& forecast, Recordset& event) {
-    books::EventSchedule schedule{books::IntervalType{CountOf(event["IntervalType"])},
-                                  CountOf(event["IntervalPeriod"]), DateOf(event["LastRun"])};
+    books::EventSchedule schedule{books::IntervalType{ShortOf(event["IntervalType"])},
+                                  ShortOf(event["IntervalPeriod"]), DateOf(event["LastRun"])};
     const std::int32_t id = event["IdAutoEvent"].AsLong();
     const std::string description(platform::Trim(TextOf(event["Description"])));
     // As the run would do on each of these days.
@@ -145,7 +145,7 @@ void AddReminders(Forecast& forecast) {
         "SELECT * FROM AutoEvent WHERE EventType = 1 AND Enabled = True AND Alert = True");
     for (; !events.Eof(); events.MoveNext()) {
         try {
-            const books::EventAction action{CountOf(events["EventAction"])};
+            const books::EventAction action{ShortOf(events["EventAction"])};
             if (action == books::EventAction::ProcessTransaction) continue;
             AddDaysOfEvent(forecast, events);
         } catch (const platform::Error&) {

@@ -26,7 +26,7 @@ Flow FlowOfEvent(std::int32_t idAutoEvent) {
     platform::Recordset event =
         core::Read("SELECT IEN FROM AutoEvent WHERE IdAutoEvent = ?", {idAutoEvent});
     if (event.Eof()) return Flow::Neither;
-    switch (books::Ien{platform::CountOf(event["IEN"])}) {
+    switch (books::Ien{platform::ShortOf(event["IEN"])}) {
         case books::Ien::Income:
             return Flow::In;
         case books::Ien::Expense:

@@ -87,7 +87,7 @@ void frmAutoEvent::FillLists() {
 
 void frmAutoEvent::ShowRow(Recordset& row) {
     // The categories are shown first, so that one that isn't offered is added with its class.
-    const Ien ien{CountOf(row["IEN"])};
+    const Ien ien{ShortOf(row["IEN"])};
     if (!row["TaxCategory"].IsNull()) {
         ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), ien});
     }
@@ -99,7 +99,7 @@ void frmAutoEvent::ShowRow(Recordset& row) {
     from_->ShowStored(IdOf(row["DebitId"]));
     to_->ShowStored(IdOf(row["CreditId"]));
     stored_.reset();
-    if (EventType{CountOf(row["EventType"])} == EventType::Scheduled) {
+    if (EventType{ShortOf(row["EventType"])} == EventType::Scheduled) {
         stored_ = Schedule();
         lastRun_ = row["LastRun"].IsBlank()
                        ? QString()

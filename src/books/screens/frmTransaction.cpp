@@ -73,8 +73,8 @@ void frmTransaction::ShowTemplate(std::int32_t idTemplate) {
 
 void frmTransaction::ShowRow(Recordset& row) {
     ShowFields(row);
-    transactionClass_ = CountOf(row["Class"]);
-    flags_ = CountOf(row["Flags"]);
+    transactionClass_ = ShortOf(row["Class"]);
+    flags_ = ShortOf(row["Flags"]);
     ui_->chkMileage->setChecked(IdOf(row["IdMileage"]) != 0);
     shown_ = Entered();
 }
@@ -82,7 +82,7 @@ void frmTransaction::ShowRow(Recordset& row) {
 void frmTransaction::ShowFields(Recordset& row) {
     // Shown first, so that a category that isn't offered is added to the list with its class.
     if (!row["TaxCategory"].IsNull()) {
-        ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), Ien{CountOf(row["IEN"])}});
+        ShowCategory(*ui_->cboCategory, {row["TaxCategory"].AsText(), Ien{ShortOf(row["IEN"])}});
     }
     RecordForm::ShowRow(row);
     from_->ShowStored(IdOf(row["DebitId"]), TextOf(row["DebitDesc"]));

@@ -67,7 +67,7 @@ void frmRentLog::ShowRow(platform::Recordset& row) {
     entry_.idLease = row["IdLease"].AsLong();
     entry_.idTransaction = row["IdTransaction"].AsLong();
     entry_.rentClass = TransactionClass{row["Class"].AsInteger()};
-    entry_.flags = RentFlags{platform::CountOf(row["Flags"])};
+    entry_.flags = RentFlags{platform::ShortOf(row["Flags"])};
 }
 
 void frmRentLog::WriteRow(platform::Recordset& row) {

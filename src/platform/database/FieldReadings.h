@@ -47,7 +47,7 @@ inline std::string TextOf(const Field& field) {
 inline std::int32_t IdOf(const Field& field) {
     return AsOr0<std::int32_t>(field);
 }
-inline std::int16_t CountOf(const Field& field) {
+inline std::int16_t ShortOf(const Field& field) {
     return AsOr0<std::int16_t>(field);
 }
 inline double NumberOf(const Field& field) {

@@ -174,7 +174,7 @@ void AddCategories(QMainWindow& window, std::vector<SearchItem>& items) {
         platform::Recordset rows = core::Read("SELECT Category, IEN FROM TransCategory ORDER BY 1");
         for (; !rows.Eof(); rows.MoveNext()) {
             const std::string category = platform::TextOf(rows["Category"]);
-            const auto ien = static_cast<std::size_t>(platform::CountOf(rows["IEN"]));
+            const auto ien = static_cast<std::size_t>(platform::ShortOf(rows["IEN"]));
             const bool hasClass = ien < core::TaxClasses.size();
             items.push_back({{.group = "Categories",
                               .icon = "financial",
