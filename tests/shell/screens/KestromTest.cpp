@@ -51,10 +51,9 @@ TEST_F(Kestrom, OpensOnTheHomePageWithoutRecordCommands) {
 
 TEST_F(Kestrom, OffersWhatThereIsWorkFor) {
     const auto note = [this](const char* item) {
-        return [this, item](const shell::screens::Selection& selection) {
-            log_.push_back(std::string(item) + " " +
-                           std::to_string(core::KindNumber(selection.kind)) + " " +
-                           std::to_string(selection.id));
+        return [this, item](const shell::screens::Selection& on) {
+            log_.push_back(std::string(item) + " " + std::to_string(core::KindNumber(on.kind)) +
+                           " " + std::to_string(on.id));
         };
     };
     services_.commands.Add(QStringLiteral("mnuPayRent"), note("mnuPayRent"));
