@@ -21,11 +21,12 @@ constexpr int kFirstBuilding = 300'000;
 
 class Counter : public core::RunListener {
   public:
-    void Posted(int, std::int32_t, std::string_view,
+    void Posted(core::RecordKind, std::int32_t, std::string_view,
                 const std::vector<core::PostedRow>& rows) override {
         count_ += static_cast<double>(rows.size());
     }
-    void Failed(int, std::int32_t, std::string_view description, std::string_view reason) override {
+    void Failed(core::RecordKind, std::int32_t, std::string_view description,
+                std::string_view reason) override {
         throw platform::Error(fmt::format("{}: {}", description, reason));
     }
     double Count() const { return count_; }

@@ -67,11 +67,12 @@ void BenchSchedule(int periods) {
 
 class Counter : public core::RunListener {
   public:
-    void Posted(int, std::int32_t, std::string_view,
+    void Posted(core::RecordKind, std::int32_t, std::string_view,
                 const std::vector<core::PostedRow>& rows) override {
         count += static_cast<double>(rows.size());
     }
-    void Failed(int, std::int32_t, std::string_view description, std::string_view reason) override {
+    void Failed(core::RecordKind, std::int32_t, std::string_view description,
+                std::string_view reason) override {
         throw platform::Error(fmt::format("{}: {}", description, reason));
     }
     double count = 0;

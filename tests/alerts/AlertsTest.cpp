@@ -58,7 +58,7 @@ TEST_F(HomePage, NamesALeaseWhoseRentIsDue) {
     AddLease("RentStatus", "'Warning'");
     const auto items = alerts::GetAlerts();
     ASSERT_EQ(items.size(), 1U);
-    EXPECT_EQ(items[0].recordKind, 2);
+    EXPECT_EQ(items[0].recordKind, core::kLease);
     EXPECT_EQ(items[0].recordId, 4);
     EXPECT_EQ(items[0].text, "Rent Notice: Warning for Lease O'Brien at 12 Elm Street unit B");
     EXPECT_EQ(items[0].picture, "LEASE");

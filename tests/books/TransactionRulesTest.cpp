@@ -5,6 +5,8 @@
 namespace {
 
 TEST(DoubtAboutATransaction, IsASideWithoutANameOrTwiceTheSameParty) {
+    using core::kAccount;
+    using core::kTenant;
     const auto doubt = [](books::Party from, books::Party to) {
         books::Transaction transaction;
         transaction.debit = std::move(from);
@@ -12,18 +14,18 @@ TEST(DoubtAboutATransaction, IsASideWithoutANameOrTwiceTheSameParty) {
         const std::string text = books::DoubtAbout(transaction);
         return text.substr(0, text.find('.'));
     };
-    EXPECT_EQ(doubt({1, 60, "Bank"}, {1, 61, "Bank"}), "");
-    EXPECT_EQ(doubt({1, 60, "Bank"}, {5, 60, "Bank"}), "");
-    EXPECT_EQ(doubt({1, 0, "Plumber"}, {1, 0, "Painter"}), "");
-    EXPECT_EQ(doubt({1, 60, "Bank"}, {1, 60, "River Bank"}),
+    EXPECT_EQ(doubt({kAccount, 60, "Bank"}, {kAccount, 61, "Bank"}), "");
+    EXPECT_EQ(doubt({kAccount, 60, "Bank"}, {kTenant, 60, "Bank"}), "");
+    EXPECT_EQ(doubt({kAccount, 0, "Plumber"}, {kAccount, 0, "Painter"}), "");
+    EXPECT_EQ(doubt({kAccount, 60, "Bank"}, {kAccount, 60, "River Bank"}),
               "From and To are the same: Bank would pay the money to itself");
-    EXPECT_EQ(doubt({1, 0, "plumber "}, {1, 0, "Plumber"}),
+    EXPECT_EQ(doubt({kAccount, 0, "plumber "}, {kAccount, 0, "Plumber"}),
               "From and To are the same: plumber  would pay the money to itself");
-    EXPECT_EQ(doubt({1, 0, " "}, {1, 60, "Bank"}),
+    EXPECT_EQ(doubt({kAccount, 0, " "}, {kAccount, 60, "Bank"}),
               "From is empty: the transaction doesn't say who pays");
-    EXPECT_EQ(doubt({5, 30, ""}, {1, 0, ""}),
+    EXPECT_EQ(doubt({kTenant, 30, ""}, {kAccount, 0, ""}),
               "To is empty: the transaction doesn't say who is paid");
-    EXPECT_EQ(doubt({1, 0, ""}, {1, 0, ""}), "From and To are both empty");
+    EXPECT_EQ(doubt({kAccount, 0, ""}, {kAccount, 0, ""}), "From and To are both empty");
 }
 
 } // namespace

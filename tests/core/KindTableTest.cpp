@@ -38,8 +38,8 @@ TEST_F(KindTable, IsReadByNumber) {
     EXPECT_EQ(core::InfoOf(core::kWorkOrder).plural, "work orders");
     EXPECT_EQ(core::InfoOf(core::kVendorAccount).offers, core::kAccount);
     EXPECT_EQ(core::InfoOf(core::RecordKind{21}).name, "");
-    for (const std::int16_t unknown : {-1, 41, 71, 30'000})
-        EXPECT_EQ(core::InfoOf(core::RecordKind{unknown}).list, "") << unknown;
+    for (const int unknown : {-1, 41, 71, 30'000})
+        EXPECT_EQ(core::InfoOf(static_cast<core::RecordKind>(unknown)).list, "") << unknown;
 }
 
 } // namespace

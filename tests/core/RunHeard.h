@@ -15,12 +15,14 @@ struct RunHeard : core::RunListener {
     void Posted(core::RecordKind kind, std::int32_t id, std::string_view description,
                 const std::vector<core::PostedRow>& rows) override {
         for (const core::PostedRow& row : rows)
-            posted.push_back(fmt::format("{} {} {}: {} {} {}", kind, id, description, row.category,
-                                         row.date.ToText(), platform::MoneyToText(row.amount)));
+            posted.push_back(fmt::format("{} {} {}: {} {} {}", core::KindNumber(kind), id,
+                                         description, row.category, row.date.ToText(),
+                                         platform::MoneyToText(row.amount)));
     }
     void Failed(core::RecordKind kind, std::int32_t id, std::string_view description,
                 std::string_view reason) override {
-        failed.push_back(fmt::format("{} {} {}: {}", kind, id, description, reason));
+        failed.push_back(
+            fmt::format("{} {} {}: {}", core::KindNumber(kind), id, description, reason));
     }
 
     std::vector<std::string> posted;

@@ -99,7 +99,7 @@ TEST_F(Letters, ReadEachKindsRecordWithWhatItNames) {
         documents::OpenMergeSource(fields, one.kind, one.id);
         std::string text = one.text;
         if (!fields.Eof()) documents::MergeTags(text, fields);
-        EXPECT_EQ(one.merged, text) << one.kind;
+        EXPECT_EQ(one.merged, text) << core::RecordKindName(one.kind);
     }
     EXPECT_FALSE(documents::HasMergeSource(core::kRoom));
 }

@@ -104,7 +104,8 @@ TEST_F(LeaseWizard, MakesItsPropertyAndItsTenantWhereTheyAreNew) {
     EXPECT_NO_THROW(core::FillList(core::kLease, leases)) << "the new records have no gaps";
     EXPECT_EQ(leases.Rows().size(), 2U);
     for (const core::RecordKind kind : {core::kBuilding, core::kUnit, core::kTenant, core::kLease})
-        EXPECT_NE(std::find(told.begin(), told.end(), kind), told.end()) << kind;
+        EXPECT_NE(std::find(told.begin(), told.end(), core::KindNumber(kind)), told.end())
+            << core::RecordKindName(kind);
 }
 
 TEST_F(LeaseWizard, TestsEachStepByItself) {

@@ -65,7 +65,7 @@ TEST_F(LedgerTest, ADepositIsOfferedForRefundOnce) {
     books::RegisterTransactionListener(leases::WriteDepositRow);
     Lines told;
     const core::NotifyToken token([&](core::RecordKind kind, std::int16_t, std::int32_t id) {
-        told.push_back(fmt::format("{} {}", kind, id));
+        told.push_back(fmt::format("{} {}", core::KindNumber(kind), id));
     });
     const auto refund = leases::ProposeDepositRefund(kLeaseId);
     EXPECT_EQ(refund.amount, Currency::FromUnits(300));

@@ -17,7 +17,7 @@ Forecast Sample() {
     const auto row = [](Date date, Origin origin, std::string what, int amount, Flow flow) {
         return outlook::ForecastRow{.date = date,
                                     .origin = origin,
-                                    .recordKind = 2,
+                                    .recordKind = core::kLease,
                                     .recordId = 7,
                                     .name = "Ann",
                                     .what = std::move(what),

@@ -44,8 +44,8 @@ class RunHeard : public core::RunListener {
     void Posted(core::RecordKind kind, std::int32_t, std::string_view name,
                 const std::vector<core::PostedRow>& rows) override {
         for (const core::PostedRow& row : rows) {
-            posted.push_back(fmt::format("{} {} {} {} {}", row.date.ToText(), kind, name,
-                                         platform::Trim(row.category),
+            posted.push_back(fmt::format("{} {} {} {} {}", row.date.ToText(),
+                                         core::KindNumber(kind), name, platform::Trim(row.category),
                                          platform::MoneyToFixedText(row.amount)));
         }
     }
@@ -91,7 +91,7 @@ support::TemporaryFolder* LookAhead::sample_ = nullptr;
 /// A row that posts something, as one line; an event is known by its description.
 std::string LineOf(const ForecastRow& row) {
     const bool isEvent = row.recordKind == core::kAutoEvent;
-    return fmt::format("{} {} {} {} {} {}", row.date.ToText(), row.recordKind,
+    return fmt::format("{} {} {} {} {} {}", row.date.ToText(), core::KindNumber(row.recordKind),
                        isEvent ? row.name : std::to_string(row.recordId), row.what,
                        platform::MoneyToFixedText(row.amount), outlook::FlowName(row.flow));
 }
@@ -102,10 +102,10 @@ Lines PostedAfter(const std::string& lastId) {
     Lines lines;
     const auto add = [&](const std::string& sql, core::RecordKind kind, auto flow) {
         for (auto row = core::Read(sql); !row.Eof(); row.MoveNext()) {
-            lines.push_back(fmt::format("{} {} {} {} {} {}", row[0].AsText(), kind, row[1].AsText(),
-                                        platform::Trim(row[2].AsText()),
-                                        platform::MoneyToFixedText(row[3].AsCurrency()),
-                                        flow(row)));
+            lines.push_back(
+                fmt::format("{} {} {} {} {} {}", row[0].AsText(), core::KindNumber(kind),
+                            row[1].AsText(), platform::Trim(row[2].AsText()),
+                            platform::MoneyToFixedText(row[3].AsCurrency()), flow(row)));
         }
     };
     add("SELECT DatePosted, IdLease, Category, Amount FROM RentLog WHERE IdRentLog > " + lastId,
@@ -260,9 +260,9 @@ TEST_F(LookAhead, CountsWhatIsPaidFromCreditOnlyOnce) {
         const bool isPaid = row.what == "Paid from credit";
         if (isPaid) ++fromCredit;
         EXPECT_EQ(isPaid, row.amount < platform::Currency());
-        foretold.push_back(
-            fmt::format("{} {} {} {} {}", row.date.ToText(), row.recordKind, row.name, row.what,
-                        platform::MoneyToFixedText(isPaid ? -row.amount : row.amount)));
+        foretold.push_back(fmt::format(
+            "{} {} {} {} {}", row.date.ToText(), core::KindNumber(row.recordKind), row.name,
+            row.what, platform::MoneyToFixedText(isPaid ? -row.amount : row.amount)));
     }
     EXPECT_GT(fromCredit, 0);
     platform::SetToday(until);

@@ -18,7 +18,7 @@ using testing::Pair;
 
 class RemovalBroadcast : public tests::Portfolio {
   protected:
-    std::vector<std::pair<std::int16_t, std::int16_t>> heard_;
+    std::vector<std::pair<core::RecordKind, std::int16_t>> heard_;
     core::NotifyToken token_{[this](core::RecordKind kind, std::int16_t action, std::int32_t) {
         heard_.emplace_back(kind, action);
     }};
@@ -28,8 +28,10 @@ TEST_F(RemovalBroadcast, TellsTheKindsOfWhatWentOnceKept) {
     EXPECT_TRUE(DeleteRecord(core::kUnit, 202, Confirm::DontAsk));
     // The lease with the words it set and its ledger, the leases as a whole, the building with its
     // owners, the unit.
-    EXPECT_THAT(heard_, ElementsAre(Pair(29, 1), Pair(5, 1), Pair(30, 1), Pair(2, 1), Pair(2, 2),
-                                    Pair(15, 1), Pair(28, 1)));
+    EXPECT_THAT(heard_,
+                ElementsAre(Pair(core::kUnit, 1), Pair(core::kTenant, 1), Pair(core::kRentLog, 1),
+                            Pair(core::kLease, 1), Pair(core::kLease, 2), Pair(core::kOwner, 1),
+                            Pair(core::kBuilding, 1)));
 }
 
 TEST_F(RemovalBroadcast, ComesWhenTheRemovalIsOnDisk) {
@@ -79,7 +81,7 @@ TEST_F(BrokenRemoval, KeepsAndTellsWhatWasDoneBeforeTheFailure) {
     EXPECT_EQ("2", Ask("SELECT Count(*) FROM Appliance WHERE IdUnit = 200"));
     EXPECT_EQ("1", Ask("SELECT Count(*) FROM Unit WHERE IdUnit = 200"));
     EXPECT_FALSE(core::App().Connection.InUnitOfWork());
-    EXPECT_THAT(heard_, testing::Contains(Pair(2, 1)));
+    EXPECT_THAT(heard_, testing::Contains(Pair(core::kLease, 1)));
 }
 
 // As on a full disk: the engine takes the whole unit of work back.

@@ -49,9 +49,10 @@ TEST_F(CatalogueKeys, TakeTheWordsTheyKnowAndLeaveTheFieldOtherwise) {
     EXPECT_EQ(general("TYPE=DETAIL\nTAB=ALL").Tab, reports::CatalogueTab::All);
     EXPECT_EQ(general("DATERANGE=trailyear").DateRange, reports::DateRange::TrailingYear);
     EXPECT_EQ(general("DATERANGE=SELECT\nDATERANGE=LATER").DateRange, reports::DateRange::Select);
-    EXPECT_EQ(general("SELECTITEM=work order").SelectItem, 6);
-    EXPECT_EQ(general("SELECTITEM=Building\nSELECTITEM=Castle").SelectItem, 28);
-    EXPECT_EQ(general("SELECTITEM=").SelectItem, 21) << "the empty name among the kinds";
+    EXPECT_EQ(general("SELECTITEM=work order").SelectItem, core::kWorkOrder);
+    EXPECT_EQ(general("SELECTITEM=Building\nSELECTITEM=Castle").SelectItem, core::kBuilding);
+    EXPECT_EQ(general("SELECTITEM=").SelectItem, core::RecordKind{21})
+        << "the empty name among the kinds";
     EXPECT_EQ(general("PRINT=true").Kind, ReportKind::Print);
     EXPECT_EQ(general("PRINT=YES").Kind, ReportKind::Report);
     EXPECT_EQ(general("PRINT= TRUE").Kind, ReportKind::Report);
@@ -67,7 +68,7 @@ TEST_F(CatalogueKeys, TakeTheWordsTheyKnowAndLeaveTheFieldOtherwise) {
     EXPECT_EQ(receipt.Form, RecordForm::Lease);
     EXPECT_EQ(receipt.Icon, 2);
     EXPECT_EQ(receipt.Notes, "N");
-    EXPECT_EQ(receipt.SelectItem, 0);
+    EXPECT_EQ(receipt.SelectItem, core::kNone);
     EXPECT_EQ(receipt.DateRange, reports::DateRange::None);
     EXPECT_FALSE(receipt.SelectYear || receipt.SelectDetail);
 }

@@ -37,7 +37,7 @@ class Golden : public Reports {
             CoreBooks::Run(sql);
         }
         report.Description = "Everything";
-        report.SelectItem = 28;
+        report.SelectItem = core::kBuilding;
         report.SelectedId = 5;
         report.SelectedYear = "2021";
         // The same paper on every machine.

@@ -45,7 +45,7 @@ TEST_F(ReportRuns, TakesTheFilesDateRuleBeforeTheChoice) {
 TEST_F(ReportRuns, HeadsThePagesByTheFileAndTheCompany) {
     core::Config().CompanyName = "Ann | Bob";
     CoreBooks::Run("INSERT INTO Account (IdAccount, ShowAs) VALUES (4, 'First Bank')");
-    report.SelectItem = 1;
+    report.SelectItem = core::kAccount;
     report.SelectedId = 4;
     FlowLines flow =
         Run("SHOWTITLE=TRUE\nTITLE=Rent %DATE%\nSUBTITLE=Of %selecteddescription% %DATE%\n"

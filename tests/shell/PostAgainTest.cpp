@@ -31,7 +31,7 @@ TEST_F(PostingAgain, IsAsIfTheRowHadStayedWhileItsPartiesWereDeleted) {
     };
     for (const Party& party : {Party{core::kAccount, "Debit"}, Party{core::kAccount, "Credit"},
                                Party{core::kTenant, "Debit"}}) {
-        SCOPED_TRACE(fmt::format("{} {}", party.kind, party.side));
+        SCOPED_TRACE(fmt::format("{} {}", core::KindNumber(party.kind), party.side));
         const auto live = [&](bool takesBack) {
             OpenFresh();
             const DigestRow row = RunAndFind(Posting::EventTransaction);
@@ -41,7 +41,7 @@ TEST_F(PostingAgain, IsAsIfTheRowHadStayedWhileItsPartiesWereDeleted) {
             core::Execute(
                 fmt::format("UPDATE Transactions SET {0}Type = {1}, {0}Id = {2} WHERE "
                             "IdTransaction = {3}",
-                            party.side, party.kind, id, row.rowId));
+                            party.side, core::KindNumber(party.kind), id, row.rowId));
             if (takesBack) Take(row);
             removal::RemoveRecord(party.kind, id, removal::Tell::Nobody);
             if (takesBack) Post(row);

@@ -112,7 +112,7 @@ class TakingBack : public CoreProcess {
 
 /// A row without its id; an event's is known by its category and amount.
 inline std::string LineOf(const shell::DigestRow& row) {
-    return fmt::format("{}|{}|{}|{}|{}", row.recordKind,
+    return fmt::format("{}|{}|{}|{}|{}", core::KindNumber(row.recordKind),
                        row.recordKind == core::kAutoEvent ? 0 : row.recordId, row.date.ToText(),
                        row.category, platform::MoneyToText(row.amount));
 }

@@ -59,7 +59,7 @@ std::optional<std::string> Event::Added(std::string_view words) const {
 
 StoryPlayer::StoryPlayer()
     : token_([this](core::RecordKind kind, std::int16_t, std::int32_t) {
-          told_ += fmt::format("{}{}{}", told_.empty() ? "" : " ", kind,
+          told_ += fmt::format("{}{}{}", told_.empty() ? "" : " ", core::KindNumber(kind),
                                Books().InUnitOfWork() ? "?" : "");
       }) {
     AddCommonEvents();

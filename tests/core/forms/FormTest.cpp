@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "core/EditRecord.h"
+#include "core/RecordKinds.h"
 #include "core/Settings.h"
 #include "core/binding/EnableContainer.h"
 #include "core/binding/Tags.h"
@@ -143,21 +144,21 @@ TEST_F(FormTest, EscapeClosesAndF1OpensThePageOfTheForm) {
 TEST_F(FormTest, ARecordOpensOnceAndComesToTheFront) {
     core::forms::RegisterOpenForms();
     int opened = 0;
-    core::RegisterOpener(15, [&](const core::EditRequest&) { ++opened; });
+    core::RegisterOpener(core::kOwner, [&](const core::EditRequest&) { ++opened; });
     auto* const form = new SampleForm;
     core::binding::SetTag(*form, "42");
     form->Open();
-    core::EditRecord(15, 42);
+    core::EditRecord(core::kOwner, 42);
     EXPECT_EQ(opened, 0);
-    core::EditRecord(15, 43);
+    core::EditRecord(core::kOwner, 43);
     EXPECT_EQ(opened, 1);
-    core::EditRecord(15, 0);
+    core::EditRecord(core::kOwner, 0);
     EXPECT_EQ(opened, 2) << "a new record always opens";
     form->close();
     SettleEvents();
-    core::EditRecord(15, 42);
+    core::EditRecord(core::kOwner, 42);
     EXPECT_EQ(opened, 3);
-    core::RegisterOpener(15, [](const core::EditRequest&) {});
+    core::RegisterOpener(core::kOwner, [](const core::EditRequest&) {});
 }
 
 TEST_F(FormTest, AllFormsCloseTheLastOpenedFirst) {

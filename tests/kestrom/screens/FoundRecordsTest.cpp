@@ -45,7 +45,7 @@ TEST_F(FoundRecords, AllOpen) {
     for (const search::Source& source : search::Sources()) {
         const bool isThere = groups.contains(std::string(source.name));
         EXPECT_TRUE(isThere) << source.name << " has no place in the sample portfolio";
-        EXPECT_TRUE(source.kind == 0 || core::HasEditor(source.kind)) << source.name;
+        EXPECT_TRUE(source.kind == core::kNone || core::HasEditor(source.kind)) << source.name;
     }
 }
 

@@ -45,8 +45,8 @@ class ReportCommands : public tests::SampleEditors {
     }
 
     /// A record of each kind that has a form with reports.
-    static std::vector<std::pair<std::int16_t, std::int32_t>> Records() {
-        std::vector<std::pair<std::int16_t, std::int32_t>> records;
+    static std::vector<std::pair<core::RecordKind, std::int32_t>> Records() {
+        std::vector<std::pair<core::RecordKind, std::int32_t>> records;
         for (const tests::Kind& kind : tests::kKinds) {
             if (reports::FormOfKind(kind.kind) == RecordForm::None) continue;
             if (!core::HasEditor(kind.kind)) continue;
@@ -100,9 +100,9 @@ TEST_F(ReportCommands, EveryRecordFormPrintsItsRecordAndRunsItsReports) {
     EXPECT_GE(Records().size(), 8U);
     for (const auto& [kind, id] : Records()) {
         core::EditRecord(kind, id);
-        ASSERT_EQ(Open().size(), 1U) << kind;
+        ASSERT_EQ(Open().size(), 1U) << core::RecordKindName(kind);
         Form& form = *Open().front();
-        ASSERT_NE(form.layout()->menuBar(), nullptr) << kind;
+        ASSERT_NE(form.layout()->menuBar(), nullptr) << core::RecordKindName(kind);
         const auto items = reports::ReportsOf(reports::FormOfKind(kind)).items.size();
         const bool isPlace = kind == core::kBuilding || kind == core::kUnit;
         if (isPlace) {
@@ -119,8 +119,9 @@ TEST_F(ReportCommands, EveryRecordFormPrintsItsRecordAndRunsItsReports) {
                 EXPECT_EQ(RunAll(form, "mnuReportItemU", id), static_cast<int>(items));
             }
         } else {
-            EXPECT_EQ(RunAll(form, "mnuPrint", id), 1) << kind;
-            EXPECT_EQ(RunAll(form, "mnuReportItem", id), static_cast<int>(items)) << kind;
+            EXPECT_EQ(RunAll(form, "mnuPrint", id), 1) << core::RecordKindName(kind);
+            EXPECT_EQ(RunAll(form, "mnuReportItem", id), static_cast<int>(items))
+                << core::RecordKindName(kind);
         }
         if (kind == core::kTransaction) {
             EXPECT_EQ(RunAll(form, "mnuReceiptItem", id), 1);
@@ -156,7 +157,7 @@ TEST_F(ReportCommands, TheMainWindowPrintsTheSelectedRecordAndItsLists) {
     const auto commands = kestrom::MenuCommands();
     for (const auto& [kind, id] : Records()) {
         commands.Run(QStringLiteral("mnuPrint"), {.kind = kind, .id = id});
-        EXPECT_FALSE(Shown().empty()) << kind;
+        EXPECT_FALSE(Shown().empty()) << core::RecordKindName(kind);
     }
     commands.Run(QStringLiteral("mnuPrint"), {.kind = core::kLease, .id = 0});
     EXPECT_EQ(Viewer(), nullptr) << "nothing is selected";
@@ -176,7 +177,7 @@ TEST_F(ReportCommands, TheMainWindowPrintsTheSelectedRecordAndItsLists) {
         const platform::PrintedPage page = Viewer()->Document().Page(0);
         for (const auto& item : page.Items())
             texts += item.kind == platform::PageItem::Kind::Text ? 1 : 0;
-        EXPECT_GT(texts, 20U) << "rows of kind " << kind;
+        EXPECT_GT(texts, 20U) << "rows of kind " << core::RecordKindName(kind);
         Shown();
     }
     commands.Run(QStringLiteral("mnuPrintSetup"), {});
@@ -201,7 +202,7 @@ TEST_F(ReportCommands, SayWhyTheyAreDisabledWithoutReportFiles) {
     EXPECT_EQ(reports::ReportCount(), 1);
     for (const auto& [kind, id] : Records()) {
         core::EditRecord(kind, id);
-        ASSERT_EQ(Open().size(), 1U) << kind;
+        ASSERT_EQ(Open().size(), 1U) << core::RecordKindName(kind);
         const Form& form = *Open().front();
         int prints = 0;
         for (const char* name : {"mnuPrint", "mnuPrintBuilding", "mnuPrintUnit"}) {
@@ -212,7 +213,7 @@ TEST_F(ReportCommands, SayWhyTheyAreDisabledWithoutReportFiles) {
                           "No report of this form is marked as its print report");
             }
         }
-        EXPECT_GT(prints, 0) << kind;
+        EXPECT_GT(prints, 0) << core::RecordKindName(kind);
         EXPECT_TRUE(form.findChildren<QAction*>(QStringLiteral("mnuReportItem")).empty());
         Open().front()->close();
         SettleEvents();

@@ -72,7 +72,7 @@ class LookAheadScreen : public support::ScreenTest {
         support::SettleEvents();
     }
 
-    std::vector<std::pair<std::int16_t, std::int32_t>> opened_;
+    std::vector<std::pair<core::RecordKind, std::int32_t>> opened_;
 };
 
 TEST_F(LookAheadScreen, ShowsWhatIsComingAndChangesNothing) {

@@ -108,7 +108,7 @@ void Feed(const std::string& text, Totals& totals) {
         reports::ReportDef report;
         report.Kind = kind;
         reports::ReadCatalogueKeys(read, report);
-        if (report.SelectItem < 0 || report.Icon < 0 || report.Icon > 8) std::abort();
+        if (report.SelectItem < core::kNone || report.Icon < 0 || report.Icon > 8) std::abort();
     }
     ++totals.inputs;
     try {
