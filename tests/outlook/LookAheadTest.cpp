@@ -238,20 +238,24 @@ TEST_F(LookAhead, ForetellsRowForRowWhatALaterRunPosts) {
         EXPECT_TRUE(std::ranges::all_of(
             To(until).rows, [](const ForecastRow& row) { return row.origin == Origin::Day; }));
     }
+    EXPECT_GT(rows, 0U) << "nothing was posted that could have been foretold";
 }
 
 TEST_F(LookAhead, CountsWhatIsPaidFromCreditOnlyOnce) {
     const Date until = DateAdd(Interval::Month, 3, kMade);
     for (const std::string& id : support::Rows(
              App().Connection, "SELECT IdLease FROM Lease WHERE Status IN ('Contracted', 'MTM')")) {
-        core::Execute("INSERT INTO LeaseCredit (IdLease, SettleCharges) VALUES (" + id + ", True)");
-        const std::string row = std::to_string(core::NextId());
+        core::Execute("INSERT INTO LeaseCredit (IdLease, SettleCharges) VALUES (?, True)",
+                      {std::stoi(id)});
+        const std::int32_t row = core::NextId();
         core::Execute(
             "INSERT INTO RentLog (IdRentLog, IdLease, IdTransaction, DatePosted, Class, "
-            "Category, Amount, Description, Flags) VALUES (" +
-            row + ", " + id + ", 0, '11/20/2026', 1, 'Rent', -1700, 'Credit', 0)");
-        core::Execute("INSERT INTO RentCredit (IdRentLog, IdOrigin, IdLease, IdReturn) VALUES (" +
-                      row + ", " + std::to_string(core::NextId()) + ", " + id + ", 0)");
+            "Category, Amount, Description, Flags) VALUES (?, ?, 0, '11/20/2026', 1, 'Rent', "
+            "-1700, 'Credit', 0)",
+            {row, std::stoi(id)});
+        core::Execute(
+            "INSERT INTO RentCredit (IdRentLog, IdOrigin, IdLease, IdReturn) VALUES (?, ?, ?, 0)",
+            {row, core::NextId(), std::stoi(id)});
     }
     Lines foretold;
     int fromCredit = 0;

@@ -60,15 +60,15 @@ class FilesPage : public QWidget {
 
 void RegisterFilesPage() {
     core::forms::RegisterRecordPage(
-        "documents.files",
-        {.caption = "Files and Pictures",
-         .kinds = {core::kAccount, core::kAppliance, core::kBuilding, core::kContent, core::kLease,
-                   core::kMortgage, core::kRoom, core::kTenant, core::kWorkOrder},
-         .make = [](QWidget& form) -> QWidget* { return new FilesPage(form); },
-         .show =
-             [](QWidget& page, const std::vector<Subject>& subjects) {
-                 static_cast<FilesPage&>(page).Show(subjects);
-             }});
+        "documents.files", {.caption = "Files and Pictures",
+                            .kinds = std::vector{core::kAccount, core::kAppliance, core::kBuilding,
+                                                 core::kContent, core::kLease, core::kMortgage,
+                                                 core::kRoom, core::kTenant, core::kWorkOrder},
+                            .make = [](QWidget& form) -> QWidget* { return new FilesPage(form); },
+                            .show =
+                                [](QWidget& page, const std::vector<Subject>& subjects) {
+                                    static_cast<FilesPage&>(page).Show(subjects);
+                                }});
 }
 
 } // namespace documents::screens

@@ -9,7 +9,6 @@
 
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 class FoundRecords : public tests::SampleEditors {

@@ -179,8 +179,10 @@ TEST_F(LookAheadScreen, LooksRight) {
     const std::array pages = {"list", "calendar", "chart"};
     for (int page = 0; page < static_cast<int>(pages.size()); ++page) {
         ShowPage(*form, page);
-        const std::string name = pages.at(static_cast<std::size_t>(page));
-        EXPECT_THAT(support::LookFaults(*form, "frmLookAhead-" + name + end), IsEmpty());
+        const char* const name = pages.at(static_cast<std::size_t>(page));
+        EXPECT_THAT(
+            support::LookFaults(*form, std::string("frmLookAhead-").append(name).append(end)),
+            IsEmpty());
     }
     Run("DELETE * FROM Lease");
     Run("DELETE * FROM Mortgage");
